@@ -1,0 +1,11 @@
+// A list of command lines, for comparing with what a phone heard: EXPECT_EQ(phone.Heard(), Lines("AT", "AT+CMGF=?")).
+#pragma once
+
+#include <string>
+#include <vector>
+
+template <typename... Texts>
+std::vector<std::string> Lines(const Texts&... texts)
+{
+    return {std::string(texts)...};
+}

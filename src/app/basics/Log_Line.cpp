@@ -1,0 +1,8 @@
+#include "app/basics/Log_Line.h"
+
+#include "platform/System_Log.h"
+
+void Show_NSLog_Message(const QString& text)
+{
+    Write_System_Log(text);
+}

@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QString>
+
+/// Writes one line to the system log.
+void Show_NSLog_Message(const QString& text);

@@ -1,0 +1,14 @@
+#include "app/shared/PleaseWait_Modeless.h"
+
+#include "app/shared/Window_Look.h"
+#include "ui_PleaseWait_Modeless.h"
+
+PleaseWait_Modeless::PleaseWait_Modeless(QWidget* parent)
+    : Modal_Sheet(parent),
+      m_ui(std::make_unique<Ui::PleaseWait_Modeless>())
+{
+    m_ui->setupUi(this);
+    Apply_Window_Look(*this);
+}
+
+PleaseWait_Modeless::~PleaseWait_Modeless() = default;

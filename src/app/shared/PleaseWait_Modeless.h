@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/Modal_Sheet.h"
+
+#include <memory>
+
+namespace Ui {
+class PleaseWait_Modeless;
+}
+
+// The please-wait sheet that stands over a window during a long operation. Each window owns its own; interface thread.
+class PleaseWait_Modeless : public Modal_Sheet
+{
+    Q_OBJECT
+
+public:
+    explicit PleaseWait_Modeless(QWidget* parent = nullptr);
+    ~PleaseWait_Modeless() override;
+
+private:
+    std::unique_ptr<Ui::PleaseWait_Modeless> m_ui;
+};

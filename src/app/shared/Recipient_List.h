@@ -1,0 +1,54 @@
+#pragma once
+
+#include "app/shared/Number_Index.h"
+
+#include <QSharedData>
+#include <QSharedDataPointer>
+#include <QString>
+#include <deque>
+#include <vector>
+
+// One recipient: the normalised number, never empty, and the message kept exactly as given.
+struct Recipient
+{
+    QString Number;
+    QString Message;
+
+    /// The value under a table column's identifier, "Number" or "Message"; an empty text for any other.
+    QString Value(QStringView identifier) const;
+};
+
+// The ordered list of recipients: the order of insertion is the order of sending. Made for a million rows; equal messages
+// share their text. A copy costs nothing until one of the two changes, which is how a worker takes its snapshot. The list
+// itself is owned by the main window and belongs to the interface thread.
+class Recipient_List
+{
+public:
+    Recipient_List();
+
+    int Count() const;
+    /// The recipient at an index from 0 to Count() - 1.
+    const Recipient& At(int index) const;
+    void Append(const QString& number, const QString& message);
+    /// Removes the rows of a sorted list of distinct indexes in one pass.
+    void Remove_Rows(const std::vector<int>& rows);
+    void Clear();
+
+    /// The first index with exactly this number, -1 when there is none. Constant time.
+    int First_Index_Of(const QString& number) const;
+    /// How many recipients have exactly this number. Constant time.
+    int Count_Of(const QString& number) const;
+
+private:
+    struct Body : QSharedData
+    {
+        std::deque<Recipient> recipients;
+        Number_Index index;
+
+        void Rebuild_Index();
+    };
+
+    Number_Index::Entry Look_Up(const QString& number) const;
+
+    QSharedDataPointer<Body> m_body;
+};

@@ -1,0 +1,54 @@
+#include "app/shared/Window_Look.h"
+
+#include <QApplication>
+#include <QColor>
+#include <QPalette>
+#include <QStyleFactory>
+#include <QWidget>
+
+namespace {
+
+// Complete, so that nothing of a dark desktop theme is left to put light text on the light background.
+QPalette Program_Palette()
+{
+    const QColor text(0x1d, 0x23, 0x2f);
+    const QColor faint_text(0x8a, 0x91, 0x9e);
+    const QColor highlight(0x2f, 0x65, 0xb3);
+    QPalette palette(QColor(0xe4, 0xe9, 0xf3), Window_Background());
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText})
+        palette.setColor(role, text);
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::AlternateBase, QColor(0xf3, 0xf6, 0xfb));
+    palette.setColor(QPalette::ToolTipBase, Qt::white);
+    palette.setColor(QPalette::BrightText, Qt::white);
+    palette.setColor(QPalette::PlaceholderText, faint_text);
+    palette.setColor(QPalette::Highlight, highlight);
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Link, QColor(0, 0, 0xee));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, faint_text);
+    palette.setColor(QPalette::Disabled, QPalette::Base, Window_Background());
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor(0xc5, 0xcc, 0xd8));
+    return palette;
+}
+
+} // namespace
+
+QColor Window_Background()
+{
+    return {241, 244, 250};
+}
+
+void Apply_Application_Look(QApplication& application)
+{
+    application.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setPalette(Program_Palette());
+}
+
+void Apply_Window_Look(QWidget& window)
+{
+    QPalette palette = window.palette();
+    palette.setColor(QPalette::Window, Window_Background());
+    window.setPalette(palette);
+    window.setAutoFillBackground(true);
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+class QApplication;
+class QColor;
+class QWidget;
+
+// How every window of the program looks: one background, and text that can be read on it whatever the desktop's theme is.
+
+/// Red 241/255, green 244/255, blue 250/255.
+QColor Window_Background();
+
+/// Gives the application one style and one palette. Called once at start-up, before the first window.
+void Apply_Application_Look(QApplication& application);
+
+/// Gives a window the program's background.
+void Apply_Window_Look(QWidget& window);

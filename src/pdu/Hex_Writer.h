@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QString>
+
+#include "pdu/Septets.h"
+
+// Writes octets as upper-case hexadecimal digits into a text whose room was set aside beforehand, so that a whole PDU
+// costs one allocation. A local of whoever builds a text; not shared between threads. Writing past the room is a
+// mistake of the caller and throws std::length_error.
+class Hex_Writer
+{
+public:
+    // Room in characters, two for an octet. Throws std::bad_alloc where there is no memory for it.
+    explicit Hex_Writer(qsizetype room);
+
+    // Two digits, of the value's low eight bits: longer values wrap.
+    void Put_Octet(qint64 value);
+
+    // Characters as they stand.
+    void Put_Text(QStringView text);
+
+    // Septets packed from bit 0 of the first octet on, fill bits zero (3GPP TS 23.038, 6.1.2.1.1).
+    void Put_Septets(const Septet_Buffer& septets);
+
+    // Four digits for each UTF-16 unit, high octet first (3GPP TS 23.038, 6.2.3).
+    void Put_Ucs2(QStringView text);
+
+    // What was written; the writer is empty afterwards.
+    QString Take();
+
+private:
+    QChar* Claim(qsizetype count);
+
+    QString m_text;
+    qsizetype m_written = 0;
+};

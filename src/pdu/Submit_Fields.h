@@ -1,0 +1,65 @@
+#pragma once
+
+#include "pdu/Hex_Writer.h"
+
+// The fields of an SMS-SUBMIT, one function each: every one knows its octets and nothing of the others. The order in
+// which they follow each other is PDU's affair. Plain functions on a writer; whoever owns the writer calls them.
+
+// Which of the two lengths an address field begins with.
+enum class Address_Length
+{
+    Digits,         // of a destination: its digits
+    Octets_And_Type // of a service centre: its octets, with the type octet
+};
+
+// Everything of a submission but its user data.
+struct Submit_Head
+{
+    QStringView service_centre;
+    QStringView destination;
+    bool concatenated;
+    bool flash;
+    bool unicode;
+};
+
+// The user-data header of one part. Parts count from 1.
+struct Concatenation
+{
+    int total;
+    int part;
+};
+
+inline constexpr qsizetype Concatenation_Octets = 7;
+
+// Characters that an address field takes at most.
+qsizetype Address_Room(QStringView address);
+
+// Characters that the head takes at most, service centre included.
+qsizetype Head_Room(const Submit_Head& head);
+
+// 3GPP TS 23.040, 9.1.2.5; the service centre's 3GPP TS 24.011, 8.2.5.2. An empty address is the one octet 00.
+void Put_Address(Hex_Writer& writer, QStringView address, Address_Length counted);
+
+// 3GPP TS 23.040, 9.2.3.1 TP-MTI, 9.2.3.3 TP-VPF, 9.2.3.23 TP-UDHI.
+void Put_First_Octet(Hex_Writer& writer, bool concatenated);
+
+// 9.2.3.6 TP-MR.
+void Put_Message_Reference(Hex_Writer& writer);
+
+// 9.2.3.9 TP-PID.
+void Put_Pid(Hex_Writer& writer);
+
+// 9.2.3.10 TP-DCS, as 3GPP TS 23.038, 4 codes it.
+void Put_Dcs(Hex_Writer& writer, bool flash, bool unicode);
+
+// 9.2.3.12.1 TP-VP, relative.
+void Put_Validity(Hex_Writer& writer);
+
+// 9.2.3.16 TP-UDL: septets or octets, as the coding scheme has it.
+void Put_Udl(Hex_Writer& writer, qint64 length);
+
+// 9.2.3.24.8 concatenated short messages, 16-bit reference number.
+void Put_Concatenation(Hex_Writer& writer, const Concatenation& concatenation);
+
+// All fields up to and with TP-UDL, in their order (9.2.2.2).
+void Put_Head(Hex_Writer& writer, const Submit_Head& head, qint64 user_data_length);

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+// What the data folder is made of. Permissions are set as asked for, whatever the process's umask takes away.
+
+/// Makes a folder, with the folders above it, when nothing stands at the path. Returns whether a folder stands there then.
+bool Make_Folder_If_Missing(const QString& path, unsigned permissions);
+
+/// Makes an empty file when nothing stands at the path. Returns whether a file stands there then.
+bool Make_Empty_File_If_Missing(const QString& path, unsigned permissions);
+
+/// Gives a file or folder the permissions of a mode word such as 0700. Returns whether that worked.
+bool Set_Permissions(const QString& path, unsigned permissions);

@@ -1,0 +1,150 @@
+#include "platform/Interface_Thread.h"
+
+#include "platform/System_Log.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QThread>
+#include <atomic>
+#include <exception>
+#include <list>
+#include <memory>
+#include <mutex>
+#include <pthread.h>
+#include <thread>
+
+namespace {
+
+struct Worker
+{
+    std::thread thread;
+    std::atomic<bool> has_ended{false};
+};
+
+struct Worker_Register
+{
+    std::mutex lock;
+    std::list<std::shared_ptr<Worker>> workers;
+};
+
+Worker_Register& The_Register()
+{
+    static Worker_Register workers;
+    return workers;
+}
+
+void Wake_Interface_Thread()
+{
+    // An empty call: its arrival ends a wait for events.
+    if (auto* application = QCoreApplication::instance())
+        QMetaObject::invokeMethod(application, [] {}, Qt::QueuedConnection);
+}
+
+void Do_The_Work(const std::function<void()>& work)
+{
+    try {
+        work();
+    } catch (const std::exception& failure) {
+        Write_System_Log(QStringLiteral("A worker ended early: ") + QString::fromLocal8Bit(failure.what()));
+    }
+}
+
+void Serve_Until(const std::atomic<bool>& is_done, QEventLoop::ProcessEventsFlags flags)
+{
+    while (!is_done)
+        QCoreApplication::processEvents(flags | QEventLoop::WaitForMoreEvents);
+}
+
+void Join_Ended_Workers()
+{
+    std::list<std::shared_ptr<Worker>> ended;
+    auto& workers = The_Register();
+    {
+        const std::lock_guard guard(workers.lock);
+        for (auto worker = workers.workers.begin(); worker != workers.workers.end();) {
+            const auto here = worker++;
+            if ((*here)->has_ended)
+                ended.splice(ended.end(), workers.workers, here);
+        }
+    }
+    for (const auto& worker : ended)
+        worker->thread.join();
+}
+
+} // namespace
+
+bool Is_Interface_Thread()
+{
+    const auto* application = QCoreApplication::instance();
+    return application && QThread::currentThread() == application->thread();
+}
+
+void Run_On_Interface_Thread(const std::function<void()>& step)
+{
+    auto* application = QCoreApplication::instance();
+    if (!application || QThread::currentThread() == application->thread())
+        step();
+    else
+        QMetaObject::invokeMethod(application, step, Qt::BlockingQueuedConnection);
+}
+
+void Post_To_Interface_Thread(QObject* context, std::function<void()> step)
+{
+    QMetaObject::invokeMethod(context, std::move(step), Qt::QueuedConnection);
+}
+
+void Run_On_Worker(const std::function<void()>& work, User_Input input)
+{
+    if (!Is_Interface_Thread()) {
+        work();
+        return;
+    }
+    std::atomic<bool> is_done{false};
+    std::exception_ptr failure;
+    std::thread worker([&] {
+        try {
+            work();
+        } catch (...) {
+            failure = std::current_exception();
+        }
+        is_done = true;
+        Wake_Interface_Thread();
+    });
+    Serve_Until(is_done, input == User_Input::Served ? QEventLoop::AllEvents : QEventLoop::ExcludeUserInputEvents);
+    worker.join();
+    if (failure)
+        std::rethrow_exception(failure);
+}
+
+void Start_Worker(const char* name, std::function<void()> work)
+{
+    Join_Ended_Workers();
+    auto worker = std::make_shared<Worker>();
+    auto& workers = The_Register();
+    const std::lock_guard guard(workers.lock);
+    worker->thread = std::thread([worker = worker.get(), work = std::move(work)]() mutable {
+        Do_The_Work(work);
+        work = nullptr; // what the work holds is let go before it counts as ended
+        worker->has_ended = true;
+        Wake_Interface_Thread();
+    });
+    pthread_setname_np(worker->thread.native_handle(), name);
+    workers.workers.push_back(std::move(worker));
+}
+
+int Workers_Running()
+{
+    auto& workers = The_Register();
+    const std::lock_guard guard(workers.lock);
+    int running = 0;
+    for (const auto& worker : workers.workers)
+        running += worker->has_ended ? 0 : 1;
+    return running;
+}
+
+void Finish_Workers()
+{
+    while (Workers_Running() > 0)
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
+    Join_Ended_Workers();
+}

@@ -1,0 +1,42 @@
+#include "platform/Modal_Sheet.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+
+Modal_Sheet::Modal_Sheet(QWidget* parent)
+    : QDialog(parent)
+{
+    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
+    setWindowModality(Qt::WindowModal);
+}
+
+void Modal_Sheet::Begin_Sheet(QWidget* over)
+{
+    if (parentWidget() != over)
+        setParent(over, windowFlags());
+    show();
+    if (over) {
+        const QPoint middle = over->mapToGlobal(over->rect().center());
+        move(middle - rect().center());
+    }
+    raise();
+    repaint();
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+void Modal_Sheet::End_Sheet()
+{
+    m_is_ending = true;
+    hide();
+    m_is_ending = false;
+}
+
+void Modal_Sheet::reject() {}
+
+void Modal_Sheet::closeEvent(QCloseEvent* event)
+{
+    if (m_is_ending)
+        QDialog::closeEvent(event);
+    else
+        event->ignore();
+}

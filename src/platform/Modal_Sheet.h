@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QDialog>
+
+// A window that stands over another one and keeps input away from it until the program takes it down: neither Escape nor
+// the close button ends it. Created on the interface thread and owned by whoever shows it.
+class Modal_Sheet : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit Modal_Sheet(QWidget* parent = nullptr);
+
+    /// Shows the sheet over a window, drawn before this returns. Shown already, it only moves over that window.
+    void Begin_Sheet(QWidget* over);
+    void End_Sheet();
+
+    void reject() override; ///< Escape: nothing happens
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    bool m_is_ending = false;
+};

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QAbstractTableModel>
+#include <functional>
+#include <vector>
+
+// Shows rows of text dictionaries in a table: each column carries the key whose value its cells show. The rows stay where
+// they are and are asked for one cell at a time, so a million of them cost nothing here. The table shows the rows it was
+// last told of by Reload; a row that has gone since shows an empty cell. Interface thread only.
+class Row_Table_Model : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    struct Column
+    {
+        QString identifier; ///< the dictionary key
+        QString title;
+    };
+    using Row_Counter = std::function<int()>;
+    using Cell_Reader = std::function<QString(const QString& identifier, int row)>;
+
+    Row_Table_Model(std::vector<Column> columns, Row_Counter count_rows, Cell_Reader read_cell, QObject* parent = nullptr);
+
+    /// Takes in rows added, removed and changed. Selected rows that still exist stay selected.
+    void Reload();
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+private:
+    std::vector<Column> m_columns;
+    Row_Counter m_count_rows;
+    Cell_Reader m_read_cell;
+    int m_shown_rows = 0;
+};

@@ -1,0 +1,161 @@
+#include "platform/Waiting.h"
+
+#include "platform/Interface_Thread.h"
+#include "platform/Pace.h"
+
+#include <QCoreApplication>
+#include <QTimer>
+#include <algorithm>
+#include <atomic>
+#include <cerrno>
+#include <chrono>
+#include <cmath>
+#include <condition_variable>
+#include <mutex>
+#include <poll.h>
+#include <sys/eventfd.h>
+#include <unistd.h>
+
+namespace {
+
+// Set once on the way out: the flag for whoever asks, the condition for sleepers, the descriptor for whoever polls.
+struct Exit_Signal
+{
+    std::mutex lock;
+    std::condition_variable changed;
+    std::atomic<bool> is_set{false};
+    int descriptor = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
+};
+
+Exit_Signal& The_Exit_Signal()
+{
+    static Exit_Signal signal;
+    return signal;
+}
+
+constexpr double Slice_Seconds = 0.05;
+
+void Sleep_On_Worker(double seconds)
+{
+    auto& exit_signal = The_Exit_Signal();
+    std::unique_lock guard(exit_signal.lock);
+    exit_signal.changed.wait_for(guard, std::chrono::duration<double>(seconds), [&] { return exit_signal.is_set.load(); });
+}
+
+// Paints, timers and workers' calls are served meanwhile; what the user types or clicks waits.
+void Serve_On_Interface_Thread(double seconds)
+{
+    const double end = Now_Seconds() + seconds;
+    QTimer alarm;
+    alarm.setTimerType(Qt::PreciseTimer);
+    alarm.setSingleShot(true);
+    alarm.start(static_cast<int>(std::ceil(seconds * 1000)));
+    while (Now_Seconds() < end && !Program_Is_Exiting())
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
+}
+
+void Wait_Real_Seconds(double seconds)
+{
+    if (seconds <= 0 || Program_Is_Exiting())
+        return;
+    if (Is_Interface_Thread())
+        Serve_On_Interface_Thread(seconds);
+    else
+        Sleep_On_Worker(seconds);
+}
+
+int Poll_Milliseconds(double seconds)
+{
+    return static_cast<int>(std::min(std::ceil(seconds * 1000), 3600.0 * 1000));
+}
+
+} // namespace
+
+double Now_Seconds()
+{
+    return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
+}
+
+QDate Today()
+{
+    return QDate::currentDate();
+}
+
+double Paced(double seconds)
+{
+    return std::max(0.0, seconds) / Pace();
+}
+
+double Paced_Read_Timeout(double seconds)
+{
+    constexpr double Shortest_Read = 0.020;
+    return seconds <= 0 ? 0 : std::max(Paced(seconds), std::min(seconds, Shortest_Read));
+}
+
+void Wait_Seconds(double seconds)
+{
+    Wait_Real_Seconds(Paced(seconds));
+}
+
+void Wait_Seconds_Unless(double seconds, const std::function<bool()>& is_over)
+{
+    const double end = Now_Seconds() + Paced(seconds);
+    while (!is_over() && !Program_Is_Exiting()) {
+        const double left = end - Now_Seconds();
+        if (left <= 0)
+            return;
+        Wait_Real_Seconds(std::min(left, Slice_Seconds));
+    }
+}
+
+Line_Event Wait_For_Descriptor(int descriptor, short events, double seconds, int wake_descriptor)
+{
+    const double end = Now_Seconds() + seconds;
+    for (;;) {
+        if (Program_Is_Exiting())
+            return Line_Event::Timed_Out;
+        const double left = end - Now_Seconds();
+        pollfd waited[3] = {{descriptor, events, 0},
+                            {The_Exit_Signal().descriptor, POLLIN, 0},
+                            {wake_descriptor, POLLIN, 0}}; // poll passes over a descriptor of -1
+        const int ready = poll(waited, 3, seconds < 0 ? -1 : Poll_Milliseconds(std::max(0.0, left)));
+        if (ready < 0 && errno != EINTR)
+            return Line_Event::Failed;
+        if (ready > 0) {
+            if (waited[0].revents & POLLNVAL) {
+                errno = EBADF;
+                return Line_Event::Failed;
+            }
+            if (waited[0].revents != 0)
+                return Line_Event::Ready;
+            if (waited[2].revents != 0)
+                return Line_Event::Woken;
+        }
+        if (seconds >= 0 && Now_Seconds() >= end)
+            return Line_Event::Timed_Out;
+    }
+}
+
+bool Program_Is_Exiting()
+{
+    return The_Exit_Signal().is_set;
+}
+
+void Begin_Program_Exit()
+{
+    auto& exit_signal = The_Exit_Signal();
+    {
+        const std::lock_guard guard(exit_signal.lock);
+        exit_signal.is_set = true;
+    }
+    eventfd_write(exit_signal.descriptor, 1);
+    exit_signal.changed.notify_all();
+}
+
+void Forget_Program_Exit()
+{
+    auto& exit_signal = The_Exit_Signal();
+    eventfd_t counted = 0;
+    eventfd_read(exit_signal.descriptor, &counted);
+    exit_signal.is_set = false;
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QDate>
+#include <QEventLoop>
+#include <functional>
+
+// The one door to time. Nothing else in the program sleeps, waits for a descriptor or reads a clock.
+
+/// Seconds of a clock that never goes back; only differences mean something.
+double Now_Seconds();
+
+/// Today's date where the user is.
+QDate Today();
+
+/// A described length of time in seconds, as it lasts at the present pace. Never below 0.
+double Paced(double seconds);
+
+/// The same for a device's read time-out, which is never cut below 20 ms, so that a fast pace loses no answer; 0 stays 0.
+double Paced_Read_Timeout(double seconds);
+
+/// Waits for a described length of time, in seconds at pace 1, or until the program begins to exit. A worker sleeps; the
+/// interface thread goes on painting and serving workers, while user input is held back.
+void Wait_Seconds(double seconds);
+
+/// The same, but ends at once when is_over, asked every time slice of at most 50 ms, answers yes.
+void Wait_Seconds_Unless(double seconds, const std::function<bool()>& is_over);
+
+enum class Line_Event
+{
+    Ready,     ///< what was waited for has come, or the line has hung up: the next read or write tells
+    Timed_Out, ///< the time has gone by, or the program is exiting
+    Woken,     ///< the second descriptor was signalled
+    Failed     ///< poll failed or the descriptor is not open; errno says why
+};
+
+/// Waits until a descriptor has input (POLLIN) or room (POLLOUT). The seconds are real ones, already paced; below 0 means
+/// without an end. An interrupted wait goes on with what remains of its time. wake_descriptor, when not -1, ends the wait
+/// as soon as it can be read. Descriptors of any number are fine.
+Line_Event Wait_For_Descriptor(int descriptor, short events, double seconds, int wake_descriptor = -1);
+
+/// Whether the program is on its way out. Every wait ends at once from then on.
+bool Program_Is_Exiting();
+void Begin_Program_Exit();
+/// Takes Begin_Program_Exit back; for tests, which start the program's parts many times in one process.
+void Forget_Program_Exit();
