@@ -46,6 +46,7 @@ corvane_precompiled(corvane_pch_widgets Qt6::Widgets
 function(corvane_room name)
   cmake_parse_arguments(ROOM "WIDGETS" "" "LINKS" ${ARGN})
   file(GLOB room_sources CONFIGURE_DEPENDS *.cpp *.h *.ui)
+  list(FILTER room_sources EXCLUDE REGEX "/main\\.cpp$") # belongs to the program, not to the room
   if(NOT room_sources)
     add_library(corvane_${name} INTERFACE)
     target_link_libraries(corvane_${name} INTERFACE ${ROOM_LINKS})

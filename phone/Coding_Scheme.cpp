@@ -7,7 +7,8 @@ namespace Handset {
 
 namespace {
 
-// General data coding groups 00xx and 01xx: bit 5 compression, bit 4 "the class bits mean something", bits 3 and 2 alphabet.
+// General data coding groups 00xx and 01xx: bit 5 compression, bit 4 "the class bits mean something", bits 3 and 2
+// alphabet.
 Coding_Scheme General_Group(std::uint8_t dcs)
 {
     Coding_Scheme scheme;

@@ -7,7 +7,12 @@
 
 namespace Handset {
 
-enum class Alphabet { Gsm_7_Bit, Eight_Bit, Ucs2 };
+enum class Alphabet
+{
+    Gsm_7_Bit,
+    Eight_Bit,
+    Ucs2
+};
 
 struct Coding_Scheme
 {

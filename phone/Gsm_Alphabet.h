@@ -1,4 +1,5 @@
-// The GSM 7 bit default alphabet and its extension table (3GPP TS 23.038 6.2.1 and 6.2.1.1), as a handset reads them. Pure.
+// The GSM 7 bit default alphabet and its extension table (3GPP TS 23.038 6.2.1 and 6.2.1.1), as a handset reads them.
+// Pure.
 #pragma once
 
 #include <array>
@@ -24,11 +25,12 @@ extern const std::array<Extension_Row, 10> Gsm_Extension_Table;
 
 constexpr std::uint8_t Gsm_Escape = 0x1B;
 
-// Septets (values 0 to 127) to UTF-8. An escape before a code that the extension table lacks shows the default table's character;
-// an escape before an escape, or at the very end, shows a blank.
+// Septets (values 0 to 127) to UTF-8. An escape before a code that the extension table lacks shows the default table's
+// character; an escape before an escape, or at the very end, shows a blank.
 std::string Text_Of_Septets(const std::vector<std::uint8_t>& septets);
 
-// Takes septets out of octets (23.038 6.1.2.1.1): the first begins after fill_bits bits. Nothing when the octets do not suffice.
+// Takes septets out of octets (23.038 6.1.2.1.1): the first begins after fill_bits bits. Nothing when the octets do not
+// suffice.
 std::optional<std::vector<std::uint8_t>> Unpack_Septets(std::span<const std::uint8_t> octets, std::size_t fill_bits,
                                                         std::size_t count);
 

@@ -1,5 +1,5 @@
-// Reads octets in order and never past their end. The first failure stays with its reason; after it every octet reads as 0, so
-// that a decoder can ask once at its end. A value on the stack of one decoding.
+// Reads octets in order and never past their end. The first failure stays with its reason; after it every octet reads
+// as 0, so that a decoder can ask once at its end. A value on the stack of one decoding.
 #pragma once
 
 #include <cstddef>

@@ -1,6 +1,7 @@
 // How a virtual phone behaves. Plain values: set them before the phone starts (constructor) or while it runs
-// (Virtual_Phone::Set_Moods); the phone copies them under its lock. A fresh Phone_Moods is a well-mannered modem that echoes.
-// "The k-th message" counts the AT+CMGS submissions that the phone accepted, from 1, since the start or the last Forget.
+// (Virtual_Phone::Set_Moods); the phone copies them under its lock. A fresh Phone_Moods is a well-mannered modem that
+// echoes. "The k-th message" counts the AT+CMGS submissions that the phone accepted, from 1, since the start or the
+// last Forget.
 #pragma once
 
 #include <map>
@@ -14,22 +15,23 @@ struct Phone_Moods
     bool m_silent = false;    // hears, and neither echoes nor answers
 
     // What it can do.
-    bool m_pdu_only = false;       // offers and takes +CMGF 0 alone
-    bool m_text_only = false;      // offers, starts in and takes +CMGF 1 alone
-    bool m_no_sms_sending = false; // AT+CMGS=? is answered with ERROR
+    bool m_pdu_only = false;                                                // offers and takes +CMGF 0 alone
+    bool m_text_only = false;                                               // offers, starts in and takes +CMGF 1 alone
+    bool m_no_sms_sending = false;                                          // AT+CMGS=? is answered with ERROR
     std::string m_charsets = "\"GSM\",\"IRA\",\"UCS2\",\"HEX\",\"8859-1\""; // the list between the brackets of +CSCS=?
 
     // Its service centre.
     std::string m_smsc = "+15550009999";
-    bool m_no_smsc = false;             // none stored: +CSCA? answers "", a message without a centre gets +CMS ERROR: 330
-    bool m_smsc_in_ucs2 = false;        // +CSCA? answers the number as hexadecimal UCS2
-    bool m_smsc_not_supported = false;  // +CSCA? answers COMMAND NOT SUPPORT
+    bool m_no_smsc = false;      // none stored: +CSCA? answers "", a message without a centre gets +CMS ERROR: 330
+    bool m_smsc_in_ucs2 = false; // +CSCA? answers the number as hexadecimal UCS2
+    bool m_smsc_not_supported = false; // +CSCA? answers COMMAND NOT SUPPORT
 
     // Its identity and state.
-    bool m_undefined_identity = false; // +GMI, +GMM, +CGSN and +GMR answer "Undefined"; the other spellings answer properly
-    int m_battery_status = 0;          // +CBC <bcs>: 0 on battery, 1 charging, 2 no battery, 3 power fault
-    int m_battery_charge = 85;         // +CBC <bcl>, percent
-    int m_signal = 20;                 // +CSQ <rssi>, 0 to 31 or 99
+    bool m_undefined_identity =
+        false;                 // +GMI, +GMM, +CGSN and +GMR answer "Undefined"; the other spellings answer properly
+    int m_battery_status = 0;  // +CBC <bcs>: 0 on battery, 1 charging, 2 no battery, 3 power fault
+    int m_battery_charge = 85; // +CBC <bcl>, percent
+    int m_signal = 20;         // +CSQ <rssi>, 0 to 31 or 99
 
     // How it says things.
     bool m_no_prompt = false;            // AT+CMGS gets no prompt; the body is taken all the same

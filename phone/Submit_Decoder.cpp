@@ -22,7 +22,8 @@ std::string Digits_Of(Octet_Cursor& cursor, std::span<const std::uint8_t> octets
         for (const std::uint8_t nibble : {std::uint8_t(octet & 0x0F), std::uint8_t(octet >> 4)}) {
             const bool is_fill = nibble == Fill;
             if (is_fill != (digits.size() == count)) {
-                cursor.Fail(std::string(field) + (is_fill ? ": a fill among its digits" : ": no fill behind its digits"));
+                cursor.Fail(std::string(field) +
+                            (is_fill ? ": a fill among its digits" : ": no fill behind its digits"));
                 return {};
             }
             if (!is_fill)
@@ -141,8 +142,8 @@ void Header(Octet_Cursor& cursor, std::span<const std::uint8_t> header, Submit_F
         cursor.Fail(elements.Reason());
 }
 
-// TP-UDL and TP-UD (23.040 9.2.3.16 and .24). The length counts septets for the 7-bit alphabet, else octets; a header is counted
-// with them, and 7-bit text begins at the next septet boundary behind it.
+// TP-UDL and TP-UD (23.040 9.2.3.16 and .24). The length counts septets for the 7-bit alphabet, else octets; a header
+// is counted with them, and 7-bit text begins at the next septet boundary behind it.
 void User_Data(Octet_Cursor& cursor, Submit_Frame& frame)
 {
     const bool is_packed = frame.m_coding.m_alphabet == Alphabet::Gsm_7_Bit && !frame.m_coding.m_compressed;
@@ -171,7 +172,8 @@ void User_Data(Octet_Cursor& cursor, Submit_Frame& frame)
     }
     const std::size_t header_septets = (header_octets * 8 + 6) / 7;
     const std::size_t fill_bits = header_septets * 7 - header_octets * 8;
-    const auto septets = length < header_septets ? std::nullopt : Unpack_Septets(text, fill_bits, length - header_septets);
+    const auto septets =
+        length < header_septets ? std::nullopt : Unpack_Septets(text, fill_bits, length - header_septets);
     if (septets)
         frame.m_units = *septets;
     else

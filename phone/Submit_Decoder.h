@@ -1,5 +1,5 @@
-// Takes an SMS-SUBMIT frame apart (3GPP TS 23.040 9.2.2.2), the service-centre address of 27.005 3.1 in front of it. Pure: one
-// function a field, a bounded cursor, an error value with its reason for every frame that is not well formed.
+// Takes an SMS-SUBMIT frame apart (3GPP TS 23.040 9.2.2.2), the service-centre address of 27.005 3.1 in front of it.
+// Pure: one function a field, a bounded cursor, an error value with its reason for every frame that is not well formed.
 #pragma once
 
 #include "phone/Coding_Scheme.h"
@@ -14,7 +14,13 @@
 
 namespace Handset {
 
-enum class Validity_Format { None = 0, Enhanced = 1, Relative = 2, Absolute = 3 };
+enum class Validity_Format
+{
+    None = 0,
+    Enhanced = 1,
+    Relative = 2,
+    Absolute = 3
+};
 
 // Concatenation information element (23.040 9.2.3.24.1 and 9.2.3.24.8).
 struct Concatenation

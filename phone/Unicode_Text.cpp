@@ -8,8 +8,14 @@ namespace {
 
 constexpr char32_t Replacement = 0xFFFD;
 
-bool Is_High_Surrogate(char32_t unit) { return unit >= 0xD800 && unit <= 0xDBFF; }
-bool Is_Low_Surrogate(char32_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; }
+bool Is_High_Surrogate(char32_t unit)
+{
+    return unit >= 0xD800 && unit <= 0xDBFF;
+}
+bool Is_Low_Surrogate(char32_t unit)
+{
+    return unit >= 0xDC00 && unit <= 0xDFFF;
+}
 
 int Value_Of_Hex_Digit(char digit)
 {

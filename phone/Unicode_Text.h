@@ -12,8 +12,8 @@ namespace Handset {
 // Appends one code point; a surrogate or a value past U+10FFFF becomes U+FFFD.
 void Append_Code_Point(std::string& utf8, char32_t code_point);
 
-// UTF-16 code units, most significant octet first (3GPP TS 23.038 6.2.3). Pairs become one character, a lone surrogate and a
-// last octet without its partner become U+FFFD.
+// UTF-16 code units, most significant octet first (3GPP TS 23.038 6.2.3). Pairs become one character, a lone surrogate
+// and a last octet without its partner become U+FFFD.
 std::string Text_Of_Utf16_Octets(const std::vector<std::uint8_t>& octets);
 
 // One character for each octet (ISO 8859-1).

@@ -1,6 +1,6 @@
 // A GSM phone on a pseudo-terminal, after 3GPP TS 27.005 and 27.007: the peer of the tests and the demo's handset.
-// Owned by whoever makes it; it starts at once. One worker thread of its own serves the line and is joined by the destructor.
-// Every function may be called from any thread.
+// Owned by whoever makes it; it starts at once. One worker thread of its own serves the line and is joined by the
+// destructor. Every function may be called from any thread.
 #pragma once
 
 #include "phone/Handset_Message.h"
@@ -14,6 +14,10 @@
 #include <string>
 #include <vector>
 
+namespace Handset {
+class Phone_Works;
+}
+
 class Virtual_Phone
 {
 public:
@@ -23,13 +27,13 @@ public:
     Virtual_Phone(const Virtual_Phone&) = delete;
     Virtual_Phone& operator=(const Virtual_Phone&) = delete;
 
-    // The path to open, for example /dev/pts/7; empty while the phone is hung up. The line comes up as any terminal does,
-    // with echo and line editing; making it raw is for whoever opens it.
+    // The path to open, for example /dev/pts/7; empty while the phone is hung up. The line comes up as any terminal
+    // does, with echo and line editing; making it raw is for whoever opens it.
     std::string Path() const;
 
-    // From now on this command line gets exactly these bytes (the echo apart, when echo is on), and nothing else happens: an
-    // overridden AT+CMGS=... leads to no prompt. Blanks and case outside quotes do not matter. A command that ends in "*"
-    // stands for every command that begins so; an exact row wins over it.
+    // From now on this command line gets exactly these bytes (the echo apart, when echo is on), and nothing else
+    // happens: an overridden AT+CMGS=... leads to no prompt. Blanks and case outside quotes do not matter. A command
+    // that ends in "*" stands for every command that begins so; an exact row wins over it.
     void Will_Answer(std::string command, std::string answer);
 
     // Unsolicited bytes, as given, now. Lost when nobody has the line open, as on a cable.
@@ -57,7 +61,8 @@ public:
     void Hang_Up();
     bool Is_Hung_Up() const;
 
-    // A new pseudo-terminal, as a phone plugged in again; returns its path. Settings made by commands are back at their start.
+    // A new pseudo-terminal, as a phone plugged in again; returns its path. Settings made by commands are back at their
+    // start.
     std::string Plug_In_Again();
 
     void Set_Moods(Phone_Moods moods);
@@ -73,6 +78,5 @@ public:
     void Set_Listeners(Listeners listeners);
 
 private:
-    class Works;
-    std::unique_ptr<Works> m_works;
+    std::unique_ptr<Handset::Phone_Works> m_works;
 };

@@ -22,34 +22,77 @@ struct Gsm_Code
     bool escape;
 };
 
-// Searched from the top, the first match wins. The rows stand as they are on purpose, deviations from the standard
-// included: recipients have always been sent these codes.
+// Searched from the top, the first match wins. Deviations from the standard are meant: do not correct them. Characters
+// without a row (letters, digits, blank, line ends, ' " ( ) / < >) keep the low byte of their own code.
+// clang-format off
 inline constexpr std::array<Gsm_Row, 65> Gsm_Alphabet{{
-    {u'@', 0, false},   {u'£', 1, false},       {u'$', 2, false},
-    {u'¥', 3, false},   {u'è', 4, false},       {u'é', 5, false},
+    {u'@', 0, false},
+    {u'£', 1, false},
+    {u'$', 2, false},
+    {u'¥', 3, false},
+    {u'è', 4, false},
+    {u'é', 5, false},
     {u'ú', 6, false}, // the standard has ù here
-    {u'ì', 7, false},   {u'ò', 8, false},       {u'Ç', 9, false},
-    {u'Ø', 11, false},  {u'ø', 12, false},      {u'Å', 14, false},
-    {u'å', 15, false},  {u'Δ', 16, false},      {u'_', 17, false},
-    {u'Φ', 18, false},  {u'Γ', 19, false},      {u'^', 20, true},
-    {u'Ω', 21, false},  {u'Π', 22, false},      {u'Ψ', 23, false},
-    {u'Σ', 24, false},  {u'Θ', 25, false},      {u'Ξ', 26, false},
-    {u'Æ', 28, false},  {u'æ', 29, false},      {u'ß', 30, false},
-    {u'É', 31, false},  {u'!', 33, false},      {u'\u201C', 34, false}, // left double quotation mark
-    {u'#', 35, false},  {u'¤', 36, false},      {u'%', 37, false},
-    {u'&', 38, false},  {u'\u2018', 39, false}, // left single quotation mark
-    {u'{', 40, true},   {u'}', 41, true},       {u'*', 42, false},
-    {u'+', 43, false},  {u',', 44, false},      {u'-', 45, false},
-    {u'.', 46, false},  {u'\\', 47, true},      {u':', 58, false},
-    {u';', 59, false},  {u'[', 60, true},       {u'=', 61, false},
-    {u']', 62, true},   {u'~', 61, true},       {u'?', 63, false},
-    {u'|', 64, true},   {u'¡', 64, false},      {u'Ä', 91, false},
-    {u'Ö', 92, false},  {u'Ñ', 93, false},      {u'Ü', 94, false},
-    {u'§', 95, false},  {u'ø', 96, false}, // never reached: the row with 12 comes first
-    {u'¿', 101, true},                     // the euro sign's place in the extension table
-    {u'ä', 123, false}, {u'ö', 124, false},     {u'ñ', 125, false},
-    {u'ü', 126, false}, {u'à', 127, false},
+    {u'ì', 7, false},
+    {u'ò', 8, false},
+    {u'Ç', 9, false},
+    {u'Ø', 11, false},
+    {u'ø', 12, false},
+    {u'Å', 14, false},
+    {u'å', 15, false},
+    {u'Δ', 16, false},
+    {u'_', 17, false},
+    {u'Φ', 18, false},
+    {u'Γ', 19, false},
+    {u'^', 20, true},
+    {u'Ω', 21, false},
+    {u'Π', 22, false},
+    {u'Ψ', 23, false},
+    {u'Σ', 24, false},
+    {u'Θ', 25, false},
+    {u'Ξ', 26, false},
+    {u'Æ', 28, false},
+    {u'æ', 29, false},
+    {u'ß', 30, false},
+    {u'É', 31, false},
+    {u'!', 33, false},
+    {u'\u201C', 34, false}, // left double quotation mark
+    {u'#', 35, false},
+    {u'¤', 36, false},
+    {u'%', 37, false},
+    {u'&', 38, false},
+    {u'\u2018', 39, false}, // left single quotation mark
+    {u'{', 40, true},
+    {u'}', 41, true},
+    {u'*', 42, false},
+    {u'+', 43, false},
+    {u',', 44, false},
+    {u'-', 45, false},
+    {u'.', 46, false},
+    {u'\\', 47, true},
+    {u':', 58, false},
+    {u';', 59, false},
+    {u'[', 60, true},
+    {u'=', 61, false},
+    {u']', 62, true},
+    {u'~', 61, true},
+    {u'?', 63, false},
+    {u'|', 64, true},
+    {u'¡', 64, false},
+    {u'Ä', 91, false},
+    {u'Ö', 92, false},
+    {u'Ñ', 93, false},
+    {u'Ü', 94, false},
+    {u'§', 95, false},
+    {u'ø', 96, false}, // never reached: the row with 12 comes first
+    {u'¿', 101, true}, // the euro sign's place in the extension table
+    {u'ä', 123, false},
+    {u'ö', 124, false},
+    {u'ñ', 125, false},
+    {u'ü', 126, false},
+    {u'à', 127, false},
 }};
+// clang-format on
 
 inline constexpr quint8 Gsm_Escape = 27;
 

@@ -70,6 +70,13 @@ void Hex_Writer::Put_Octet(qint64 value)
     Write_Octet(Claim(2), static_cast<unsigned>(value & 0xFF));
 }
 
+void Hex_Writer::Put_Pair(QChar first, QChar second)
+{
+    QChar* const place = Claim(2);
+    place[0] = first;
+    place[1] = second;
+}
+
 void Hex_Writer::Put_Text(QStringView text)
 {
     QChar* const place = Claim(text.size());

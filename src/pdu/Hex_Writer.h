@@ -16,6 +16,9 @@ public:
     // Two digits, of the value's low eight bits: longer values wrap.
     void Put_Octet(qint64 value);
 
+    // Two characters as they stand.
+    void Put_Pair(QChar first, QChar second);
+
     // Characters as they stand.
     void Put_Text(QStringView text);
 

@@ -57,7 +57,7 @@ public:
     // The UTF-16 units in reverse order.
     static QString reverseString(const QString& text);
 
-    // The text with "0" put before it until it is that long. Answers for PadZero:bytLength: and PadZero:Length: both.
+    // The text with "0" put before it until it is that long. A longer one stays.
     static QString PadZero(const QString& text, int Length);
 
     // At least two hexadecimal digits: "05", "91", "100".
@@ -78,7 +78,7 @@ public:
     QString EncodePDU(const QString& message, const QString& strDestinationAddress, const QString& strSMSCAddress,
                       quint16 intActualPDULength, bool blnIncludeSMSC, bool flash_msg, bool unicode) const;
 
-    // Part curr_msg (from 1) of tot_msg of a long message. Part 1 packs the whole message into tp_ud, the others cut
+    // Part curr_msg (from 1) of tot_msg of a long message. The first packs the whole message into tp_ud, the others cut
     // theirs out of it, so ask for them in order and on one thread. The text goes out as it stands, not mapped.
     // Otherwise as above.
     QString Encode_UDH_PDU(const QString& message, const QString& strDestinationAddress, const QString& strSMSCAddress,
@@ -92,5 +92,5 @@ private:
 // 1 when the character that MapChar mapped last on this thread takes an escape code before it, else 0.
 inline thread_local quint8 escap_char = 0;
 
-// The whole user data, as hexadecimal, of the long message that this thread encoded part 1 of last.
+// The whole user data, as hexadecimal, of the long message whose first part this thread encoded last.
 inline thread_local QString tp_ud;

@@ -4,16 +4,43 @@
 
 #include "pdu/Gsm_Alphabet.h"
 
-Septet_Buffer Septets_Of_Message(QStringView message)
+namespace {
+
+constexpr qsizetype Block = 8;
+
+// Most text has no escaped character in it, so blocks are mapped straight on; true where that was right for this one.
+bool Map_Plain_Block(const QChar* characters, quint8* septets)
 {
-    Septet_Buffer septets(message.size() * 2);
-    quint8* at = septets.data();
-    for (const QChar character : message) {
+    quint8 all = 0;
+    for (qsizetype i = 0; i < Block; ++i) {
+        septets[i] = Gsm_Septet_Of(characters[i].unicode());
+        all |= septets[i];
+    }
+    return (all & 0x80) == 0;
+}
+
+quint8* Map_With_Escapes(QStringView characters, quint8* at)
+{
+    for (const QChar character : characters) {
         const quint8 septet = Gsm_Septet_Of(character.unicode());
         *at = Gsm_Escape; // overwritten at once unless the character is an escaped one: no branch in this loop
         at += septet >> 7;
         *at++ = septet & 0x7F;
     }
+    return at;
+}
+
+} // namespace
+
+Septet_Buffer Septets_Of_Message(QStringView message)
+{
+    Septet_Buffer septets(message.size() * 2);
+    quint8* at = septets.data();
+    while (message.size() >= Block) {
+        at = Map_Plain_Block(message.data(), at) ? at + Block : Map_With_Escapes(message.first(Block), at);
+        message = message.sliced(Block);
+    }
+    at = Map_With_Escapes(message, at);
     septets.resize(at - septets.data());
     return septets;
 }

@@ -28,8 +28,7 @@ void Put_Swapped(Hex_Writer& writer, QStringView digits)
 {
     for (qsizetype first = 0; first < digits.size(); first += 2) {
         const QChar second = first + 1 < digits.size() ? digits[first + 1] : QChar(u'F');
-        const QChar pair[] = {second, digits[first]};
-        writer.Put_Text(QStringView(pair, 2));
+        writer.Put_Pair(second, digits[first]);
     }
 }
 

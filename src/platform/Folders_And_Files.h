@@ -4,7 +4,8 @@
 
 // What the data folder is made of. Permissions are set as asked for, whatever the process's umask takes away.
 
-/// Makes a folder, with the folders above it, when nothing stands at the path. Returns whether a folder stands there then.
+/// Makes a folder, with the folders above it, when nothing stands at the path. Returns whether a folder stands there
+/// then.
 bool Make_Folder_If_Missing(const QString& path, unsigned permissions);
 
 /// Makes an empty file when nothing stands at the path. Returns whether a file stands there then.

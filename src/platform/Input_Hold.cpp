@@ -29,10 +29,29 @@ bool Comes_From_The_User(QEvent::Type type)
     }
 }
 
+// The widget that an event is for; a shortcut's event goes to an object of its own that hangs on one.
+const QWidget* Widget_Of(const QObject* object)
+{
+    while (object && !object->isWidgetType())
+        object = object->parent();
+    return static_cast<const QWidget*>(object);
+}
+
+// A drop-down list or a menu is a window of its own, but belongs to the window that opened it.
+bool Belongs_To(const QWidget* widget, const QWidget* window)
+{
+    while (widget) {
+        const QWidget* top = widget->window();
+        if (top == window)
+            return true;
+        widget = top->windowType() == Qt::Popup ? top->parentWidget() : nullptr;
+    }
+    return false;
+}
+
 } // namespace
 
-Input_Hold::Input_Hold(QWidget* window)
-    : m_window(window)
+Input_Hold::Input_Hold(QWidget* window) : m_window(window)
 {
     qApp->installEventFilter(this);
 }
@@ -43,6 +62,5 @@ bool Input_Hold::eventFilter(QObject* watched, QEvent* event)
 {
     if (!Comes_From_The_User(event->type()))
         return false;
-    const auto* widget = qobject_cast<QWidget*>(watched);
-    return widget && m_window && widget->window() == m_window;
+    return m_window && Belongs_To(Widget_Of(watched), m_window);
 }

@@ -37,7 +37,8 @@ void Wake_Interface_Thread()
 {
     // An empty call: its arrival ends a wait for events.
     if (auto* application = QCoreApplication::instance())
-        QMetaObject::invokeMethod(application, [] {}, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            application, [] {}, Qt::QueuedConnection);
 }
 
 void Do_The_Work(const std::function<void()>& work)
@@ -46,6 +47,8 @@ void Do_The_Work(const std::function<void()>& work)
         work();
     } catch (const std::exception& failure) {
         Write_System_Log(QStringLiteral("A worker ended early: ") + QString::fromLocal8Bit(failure.what()));
+    } catch (...) {
+        Write_System_Log(QStringLiteral("A worker ended early."));
     }
 }
 
@@ -82,10 +85,21 @@ bool Is_Interface_Thread()
 void Run_On_Interface_Thread(const std::function<void()>& step)
 {
     auto* application = QCoreApplication::instance();
-    if (!application || QThread::currentThread() == application->thread())
+    if (!application || QThread::currentThread() == application->thread()) {
         step();
-    else
-        QMetaObject::invokeMethod(application, step, Qt::BlockingQueuedConnection);
+        return;
+    }
+    std::exception_ptr failure; // nothing may be thrown through the event loop
+    const auto guarded_step = [&] {
+        try {
+            step();
+        } catch (...) {
+            failure = std::current_exception();
+        }
+    };
+    QMetaObject::invokeMethod(application, guarded_step, Qt::BlockingQueuedConnection);
+    if (failure)
+        std::rethrow_exception(failure);
 }
 
 void Post_To_Interface_Thread(QObject* context, std::function<void()> step)

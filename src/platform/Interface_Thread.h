@@ -4,13 +4,15 @@
 
 class QObject;
 
-// The one door between workers and the windows, which all belong to the interface thread, and the register of the workers
-// themselves: a thread that was started here is joined in an orderly way, and whoever waits for it goes on serving it.
+// The one door between workers and the windows, which all belong to the interface thread, and the register of the
+// workers themselves: a thread that was started here is joined in an orderly way, and whoever waits for it goes on
+// serving it.
 
 /// Whether the calling thread is the one that owns the windows (or there is no application object to own any).
 bool Is_Interface_Thread();
 
-/// Runs a step on the interface thread and returns when it is done; runs it directly when called there.
+/// Runs a step on the interface thread and returns when it is done; runs it directly when called there. What the step
+/// throws reaches the caller.
 void Run_On_Interface_Thread(const std::function<void()>& step);
 
 /// Leaves a step for the interface thread and returns at once. The step is dropped when context is gone by then.
@@ -22,11 +24,12 @@ enum class User_Input
     Served     ///< they go where they belong; a modal sheet is what keeps them away from the window below it
 };
 
-/// Runs blocking work on a worker and returns when it is done. The interface thread goes on painting and serving workers
-/// meanwhile; a worker that calls this simply does the work. What the work throws reaches the caller.
+/// Runs blocking work on a worker and returns when it is done. The interface thread goes on painting and serving
+/// workers meanwhile; a worker that calls this simply does the work. What the work throws reaches the caller.
 void Run_On_Worker(const std::function<void()>& work, User_Input input = User_Input::Held_Back);
 
-/// Starts a worker of its own. An exception that leaves the work ends that worker only and is written to the system log.
+/// Starts a worker of its own. An exception that leaves the work ends that worker only and is written to the system
+/// log.
 void Start_Worker(const char* name, std::function<void()> work);
 
 /// How many workers have not ended yet.

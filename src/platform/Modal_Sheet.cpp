@@ -3,8 +3,7 @@
 #include <QCloseEvent>
 #include <QCoreApplication>
 
-Modal_Sheet::Modal_Sheet(QWidget* parent)
-    : QDialog(parent)
+Modal_Sheet::Modal_Sheet(QWidget* parent) : QDialog(parent)
 {
     setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
     setWindowModality(Qt::WindowModal);

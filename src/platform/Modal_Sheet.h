@@ -2,8 +2,8 @@
 
 #include <QDialog>
 
-// A window that stands over another one and keeps input away from it until the program takes it down: neither Escape nor
-// the close button ends it. Created on the interface thread and owned by whoever shows it.
+// A window that stands over another one and keeps input away from it until the program takes it down: neither Escape
+// nor the close button ends it. Created on the interface thread and owned by whoever shows it.
 class Modal_Sheet : public QDialog
 {
     Q_OBJECT

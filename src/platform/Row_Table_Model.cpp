@@ -1,9 +1,8 @@
 #include "platform/Row_Table_Model.h"
 
-Row_Table_Model::Row_Table_Model(std::vector<Column> columns, Row_Counter count_rows, Cell_Reader read_cell, QObject* parent)
-    : QAbstractTableModel(parent),
-      m_columns(std::move(columns)),
-      m_count_rows(std::move(count_rows)),
+Row_Table_Model::Row_Table_Model(std::vector<Column> columns, Row_Counter count_rows, Cell_Reader read_cell,
+                                 QObject* parent)
+    : QAbstractTableModel(parent), m_columns(std::move(columns)), m_count_rows(std::move(count_rows)),
       m_read_cell(std::move(read_cell))
 {
 }
@@ -36,7 +35,7 @@ int Row_Table_Model::columnCount(const QModelIndex& parent) const
 
 QVariant Row_Table_Model::data(const QModelIndex& index, int role) const
 {
-    if (!index.isValid())
+    if (!index.isValid() || index.row() >= m_count_rows())
         return {};
     const auto& column = m_columns[static_cast<std::size_t>(index.column())];
     switch (role) {
@@ -56,5 +55,5 @@ QVariant Row_Table_Model::headerData(int section, Qt::Orientation orientation, i
         return {};
     if (orientation == Qt::Vertical)
         return section + 1;
-    return m_columns[static_cast<std::size_t>(section)].title;
+    return section < columnCount() ? m_columns[static_cast<std::size_t>(section)].title : QString();
 }

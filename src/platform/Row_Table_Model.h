@@ -4,9 +4,9 @@
 #include <functional>
 #include <vector>
 
-// Shows rows of text dictionaries in a table: each column carries the key whose value its cells show. The rows stay where
-// they are and are asked for one cell at a time, so a million of them cost nothing here. The table shows the rows it was
-// last told of by Reload; a row that has gone since shows an empty cell. Interface thread only.
+// Shows rows of text dictionaries in a table: each column carries the key whose value its cells show. The rows stay
+// where they are and are asked for one cell at a time, so a million of them cost nothing here. The table shows the rows
+// it was last told of by Reload; a row that has gone since shows an empty cell. Interface thread only.
 class Row_Table_Model : public QAbstractTableModel
 {
     Q_OBJECT
@@ -20,7 +20,8 @@ public:
     using Row_Counter = std::function<int()>;
     using Cell_Reader = std::function<QString(const QString& identifier, int row)>;
 
-    Row_Table_Model(std::vector<Column> columns, Row_Counter count_rows, Cell_Reader read_cell, QObject* parent = nullptr);
+    Row_Table_Model(std::vector<Column> columns, Row_Counter count_rows, Cell_Reader read_cell,
+                    QObject* parent = nullptr);
 
     /// Takes in rows added, removed and changed. Selected rows that still exist stay selected.
     void Reload();

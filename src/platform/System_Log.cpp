@@ -44,13 +44,13 @@ public:
         m_written.wait_for(guard, std::chrono::seconds(1), [this] { return m_lines.empty() && !m_is_writing; });
     }
 
-    // A sink that never takes the last lines must not keep the program from ending: the thread is then left behind, and the
-    // writer with it (which is why nobody deletes it).
+    // A sink that never takes the last lines must not keep the program from ending: the thread is then left behind, and
+    // the writer with it (which is why nobody deletes it).
     void End()
     {
         Flush();
         std::unique_lock guard(m_lock);
-        const bool is_stuck = m_is_writing;
+        const bool is_stuck = m_is_writing || !m_lines.empty();
         m_is_ending = true;
         guard.unlock();
         m_changed.notify_one();
@@ -117,20 +117,18 @@ std::function<void(const QString&)> Listener;
 
 QByteArray Printable_Log_Line(const QString& line)
 {
-    QByteArray printable;
+    QString printable;
     qsizetype length = line.size();
     while (length > 0 && (line[length - 1] == u'\n' || line[length - 1] == u'\r'))
         --length;
-    const QByteArray bytes = QStringView(line).left(length).toUtf8();
-    printable.reserve(bytes.size());
-    for (const char byte : bytes) {
-        const auto code = static_cast<unsigned char>(byte);
-        if (code < 0x20 || code == 0x7F)
-            printable += "\\x" + QByteArray::number(code, 16).rightJustified(2, '0');
+    printable.reserve(length);
+    for (const QChar character : QStringView(line).left(length)) {
+        if (character.category() == QChar::Other_Control)
+            printable += QStringLiteral("\\x") + QString::number(character.unicode(), 16).rightJustified(2, u'0');
         else
-            printable += byte;
+            printable += character;
     }
-    return printable;
+    return printable.toUtf8();
 }
 
 void Write_System_Log(const QString& line)

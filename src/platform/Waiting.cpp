@@ -34,12 +34,20 @@ Exit_Signal& The_Exit_Signal()
 }
 
 constexpr double Slice_Seconds = 0.05;
+constexpr double Longest_Wait = 365 * 24 * 3600.0; // a pace near 0 asks for more than any clock can count
+
+// For timers and poll; whoever waits longer than an hour comes back for more.
+int Whole_Milliseconds(double seconds)
+{
+    return static_cast<int>(std::ceil(std::min(seconds, 3600.0) * 1000));
+}
 
 void Sleep_On_Worker(double seconds)
 {
     auto& exit_signal = The_Exit_Signal();
     std::unique_lock guard(exit_signal.lock);
-    exit_signal.changed.wait_for(guard, std::chrono::duration<double>(seconds), [&] { return exit_signal.is_set.load(); });
+    exit_signal.changed.wait_for(guard, std::chrono::duration<double>(seconds),
+                                 [&] { return exit_signal.is_set.load(); });
 }
 
 // Paints, timers and workers' calls are served meanwhile; what the user types or clicks waits.
@@ -48,8 +56,7 @@ void Serve_On_Interface_Thread(double seconds)
     const double end = Now_Seconds() + seconds;
     QTimer alarm;
     alarm.setTimerType(Qt::PreciseTimer);
-    alarm.setSingleShot(true);
-    alarm.start(static_cast<int>(std::ceil(seconds * 1000)));
+    alarm.start(Whole_Milliseconds(seconds));
     while (Now_Seconds() < end && !Program_Is_Exiting())
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
 }
@@ -62,11 +69,6 @@ void Wait_Real_Seconds(double seconds)
         Serve_On_Interface_Thread(seconds);
     else
         Sleep_On_Worker(seconds);
-}
-
-int Poll_Milliseconds(double seconds)
-{
-    return static_cast<int>(std::min(std::ceil(seconds * 1000), 3600.0 * 1000));
 }
 
 } // namespace
@@ -83,7 +85,7 @@ QDate Today()
 
 double Paced(double seconds)
 {
-    return std::max(0.0, seconds) / Pace();
+    return std::min(std::max(0.0, seconds) / Pace(), Longest_Wait);
 }
 
 double Paced_Read_Timeout(double seconds)
@@ -118,7 +120,7 @@ Line_Event Wait_For_Descriptor(int descriptor, short events, double seconds, int
         pollfd waited[3] = {{descriptor, events, 0},
                             {The_Exit_Signal().descriptor, POLLIN, 0},
                             {wake_descriptor, POLLIN, 0}}; // poll passes over a descriptor of -1
-        const int ready = poll(waited, 3, seconds < 0 ? -1 : Poll_Milliseconds(std::max(0.0, left)));
+        const int ready = poll(waited, 3, seconds < 0 ? -1 : Whole_Milliseconds(std::max(0.0, left)));
         if (ready < 0 && errno != EINTR)
             return Line_Event::Failed;
         if (ready > 0) {
@@ -150,6 +152,8 @@ void Begin_Program_Exit()
     }
     eventfd_write(exit_signal.descriptor, 1);
     exit_signal.changed.notify_all();
+    if (auto* application = QCoreApplication::instance())
+        Post_To_Interface_Thread(application, [] {}); // an empty step ends a wait there
 }
 
 void Forget_Program_Exit()

@@ -15,11 +15,12 @@ QDate Today();
 /// A described length of time in seconds, as it lasts at the present pace. Never below 0.
 double Paced(double seconds);
 
-/// The same for a device's read time-out, which is never cut below 20 ms, so that a fast pace loses no answer; 0 stays 0.
+/// The same for a device's read time-out, which is never cut below 20 ms, so that a fast pace loses no answer; 0 stays
+/// 0.
 double Paced_Read_Timeout(double seconds);
 
-/// Waits for a described length of time, in seconds at pace 1, or until the program begins to exit. A worker sleeps; the
-/// interface thread goes on painting and serving workers, while user input is held back.
+/// Waits for a described length of time, in seconds at pace 1, or until the program begins to exit. A worker sleeps;
+/// the interface thread goes on painting and serving workers, while user input is held back.
 void Wait_Seconds(double seconds);
 
 /// The same, but ends at once when is_over, asked every time slice of at most 50 ms, answers yes.
@@ -33,9 +34,9 @@ enum class Line_Event
     Failed     ///< poll failed or the descriptor is not open; errno says why
 };
 
-/// Waits until a descriptor has input (POLLIN) or room (POLLOUT). The seconds are real ones, already paced; below 0 means
-/// without an end. An interrupted wait goes on with what remains of its time. wake_descriptor, when not -1, ends the wait
-/// as soon as it can be read. Descriptors of any number are fine.
+/// Waits until a descriptor has input (POLLIN) or room (POLLOUT). The seconds are real ones, already paced; below 0
+/// means without an end. An interrupted wait goes on with what remains of its time. wake_descriptor, when not -1, ends
+/// the wait as soon as it can be read. Descriptors of any number are fine.
 Line_Event Wait_For_Descriptor(int descriptor, short events, double seconds, int wake_descriptor = -1);
 
 /// Whether the program is on its way out. Every wait ends at once from then on.

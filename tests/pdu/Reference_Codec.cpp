@@ -30,14 +30,16 @@ QString Last_Two(unsigned value)
 QString Reversed(const QString& text)
 {
     QString reversed;
-    for (const QChar character : text)
-        reversed.prepend(character);
+    reversed.reserve(text.size());
+    for (qsizetype place = text.size() - 1; place >= 0; --place)
+        reversed += text[place];
     return reversed;
 }
 
 QString Binary(unsigned value)
 {
     QString digits;
+    digits.reserve(8);
     for (unsigned mask = 0x80; mask != 0; mask >>= 1)
         digits += (value & mask) != 0 ? u'1' : u'0';
     return digits;

@@ -13,8 +13,9 @@ public:
     // Characters people type, those of the alphabet with escapes, and some from everywhere in the basic plane.
     QString Text(qsizetype length)
     {
-        static const QString typed = QStringLiteral("abcxyzABCXYZ 0189@|£$¥èéúùìòÇØøÅåΔ_ΦΓ^ΩΛΠΨΣΘΞÆæßÉ!\"#¤%&'()*+,-./\\:;<=>?[]{}"
-                                                    "~¡ÄÖÑÜ§¿äöñüà€`“”‘’ŀż\n\r");
+        static const QString typed =
+            QStringLiteral("abcxyzABCXYZ 0189@|£$¥èéúùìòÇØøÅåΔ_ΦΓ^ΩΛΠΨΣΘΞÆæßÉ!\"#¤%&'()*+,-./\\:;<=>?[]{}"
+                           "~¡ÄÖÑÜ§¿äöñüà€`“”‘’ŀż\n\r");
         QString text;
         for (qsizetype i = 0; i < length; ++i)
             text += Below(8) == 0 ? QChar(static_cast<char16_t>(Below(0x10000))) : typed[Below(typed.size())];

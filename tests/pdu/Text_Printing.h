@@ -3,6 +3,7 @@
 #include <ostream>
 
 #include <QString>
+#include <QStringList>
 
 // So that a failed comparison of texts shows the texts. Found by argument-dependent look-up.
 inline void PrintTo(const QString& text, std::ostream* out)

@@ -45,8 +45,9 @@ TEST(Gsm_Alphabet, Every_Unit_Is_Mapped_As_The_First_Match_From_The_Top)
 TEST(Gsm_Alphabet, Characters_Without_A_Row_Give_Their_Low_Byte)
 {
     for (const QChar character : u"ABCXYZabcxyz0189 \n\r\"'()/<>`\f€Λù中ŀżÀê\x1B\x7F"_s) {
-        EXPECT_EQ(PDU::MapChar(QString(character), false), character.unicode() & 0xFF) << character.unicode();
-        EXPECT_EQ(escap_char, 0) << character.unicode();
+        EXPECT_EQ(PDU::MapChar(QString(character), false), character.unicode() & 0xFF)
+            << static_cast<int>(character.unicode());
+        EXPECT_EQ(escap_char, 0) << static_cast<int>(character.unicode());
     }
     EXPECT_EQ(PDU::MapChar(u"中"_s, false), 0x2D);
     EXPECT_EQ(PDU::MapChar(u"€"_s, false), 0xAC);

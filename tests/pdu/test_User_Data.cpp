@@ -60,7 +60,7 @@ TEST(User_Data, Seven_And_Eight_Septets_Both_Fill_Seven_Octets_And_The_Fill_Bits
     EXPECT_EQ(Packed(u"ooooooooo"_s).size(), 16);
 }
 
-TEST(User_Data, At_And_The_Bar_And_The_Inverted_Exclamation_Mark_Go_Out_As_They_Always_Did)
+TEST(User_Data, Codes_0_64_And_124_Meet_Where_They_Are_Carried_As_At_And_The_Bar)
 {
     EXPECT_EQ(Packed(u"@"_s), u"00"_s);
     EXPECT_EQ(Packed(u"¡"_s), u"00"_s);

@@ -2,12 +2,12 @@
 
 QString Left_Str_substringToIndex(const QString& s, int n)
 {
-    return s.left(qBound<qsizetype>(0, n, s.size()));
+    return s.left(qBound(qsizetype(0), qsizetype(n), s.size()));
 }
 
 QString Right_Str_substringFromIndex(const QString& s, int n)
 {
-    return s.right(qBound<qsizetype>(0, n, s.size()));
+    return s.right(qBound(qsizetype(0), qsizetype(n), s.size()));
 }
 
 QString Read_Str_FromIndex(const QString& s, int i)

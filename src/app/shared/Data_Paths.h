@@ -2,8 +2,8 @@
 
 #include <QString>
 
-// Where the program keeps its data: <XDG_DATA_HOME>/corvane, private to the user, holds the resource folder, and that the
-// data folder. Everything inside carries the permissions 0777; the private folder is what keeps other accounts out.
+// Where the program keeps its data: <XDG_DATA_HOME>/corvane, private to the user, holds the resource folder, and that
+// the data folder. Everything inside carries the permissions 0777; the private folder is what keeps other accounts out.
 
 /// The resource folder for this user, from XDG_DATA_HOME or its default ~/.local/share. Nothing is created.
 QString Default_Resource_Path();
@@ -15,6 +15,6 @@ void Set_Data_Paths(const QString& resource_path);
 /// can be written to.
 bool Create_Resource_Folder();
 
-/// Creates whatever is missing of the data folder: the folder, the three empty files, the exclusion folder and its empty
-/// index. Called at start-up and before every write to the data files. Failures are for whoever uses the file.
+/// Creates whatever is missing of the data folder: the folder, the three empty files, the exclusion folder and its
+/// empty index. Called at start-up and before every write to the data files. Failures are for whoever uses the file.
 void Check_Path_And_Create_Files();

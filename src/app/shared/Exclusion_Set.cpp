@@ -9,10 +9,7 @@ auto Number_Of(const std::deque<QString>& numbers)
 
 } // namespace
 
-Exclusion_Set::Exclusion_Set()
-    : m_body(new Body)
-{
-}
+Exclusion_Set::Exclusion_Set() : m_body(new Body) {}
 
 int Exclusion_Set::Count() const
 {

@@ -7,8 +7,8 @@
 #include <QString>
 #include <deque>
 
-// The excluded numbers of all applied exclusion lists, in the order they were read, repeats included. Never written back.
-// A copy costs nothing until one of the two changes. Owned by the main window; belongs to the interface thread.
+// The excluded numbers of all applied exclusion lists, in the order they were read, repeats included. Never written
+// back. A copy costs nothing until one of the two changes. Owned by the main window; belongs to the interface thread.
 class Exclusion_Set
 {
 public:

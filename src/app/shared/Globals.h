@@ -7,8 +7,8 @@
 
 class Main_Window;
 
-// The values that the rooms share, one of each for the life of the process. Texts belong to the interface thread: a worker
-// takes copies of them when it starts. The flags are atomic and may be read anywhere.
+// The values that the rooms share, one of each for the life of the process. Texts belong to the interface thread: a
+// worker takes copies of them when it starts. The flags are atomic and may be read anywhere.
 
 extern Main_Window* Main_App_wnd; ///< the main window, through which dialogs call back; set at start-up
 

@@ -7,7 +7,8 @@
 
 class QWidget;
 
-// What the main window's controls say at the moment a send job begins, copied once so that the job never reads a widget.
+// What the main window's controls say at the moment a send job begins, copied once so that the job never reads a
+// widget.
 struct Send_Choices
 {
     QString number_text;   ///< what still stands in the number field, as typed
@@ -23,8 +24,8 @@ struct Send_Choices
     bool flash = false;
 };
 
-// The main window as the rooms below it see it: dialogs and the send job call back through this class and never know the
-// real one. Owned by the program's start; every operation belongs to the interface thread.
+// The main window as the rooms below it see it: dialogs and the send job call back through this class and never know
+// the real one. Owned by the program's start; every operation belongs to the interface thread.
 class Main_Window
 {
 public:

@@ -4,9 +4,9 @@
 #include <QStringView>
 #include <vector>
 
-// Finds the rows of a list of numbers by the number's exact text, in constant time. It stores no text of its own: the list
-// is asked for a row's number (a callable from row to something that reads as QStringView). One slot of eight bytes a
-// distinct number. Owned by the list; follows that list's thread.
+// Finds the rows of a list of numbers by the number's exact text, in constant time. It stores no text of its own: the
+// list is asked for a row's number (a callable from row to something that reads as QStringView). One slot of eight
+// bytes a distinct number. Owned by the list; follows that list's thread.
 class Number_Index
 {
 public:

@@ -4,8 +4,7 @@
 #include "ui_PleaseWait_Modeless.h"
 
 PleaseWait_Modeless::PleaseWait_Modeless(QWidget* parent)
-    : Modal_Sheet(parent),
-      m_ui(std::make_unique<Ui::PleaseWait_Modeless>())
+    : Modal_Sheet(parent), m_ui(std::make_unique<Ui::PleaseWait_Modeless>())
 {
     m_ui->setupUi(this);
     Apply_Window_Look(*this);

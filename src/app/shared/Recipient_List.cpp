@@ -1,5 +1,7 @@
 #include "app/shared/Recipient_List.h"
 
+#include <algorithm>
+
 namespace {
 
 auto Number_Of(const std::deque<Recipient>& recipients)
@@ -16,10 +18,7 @@ QString Recipient::Value(QStringView identifier) const
     return identifier == u"Message" ? Message : QString();
 }
 
-Recipient_List::Recipient_List()
-    : m_body(new Body)
-{
-}
+Recipient_List::Recipient_List() : m_body(new Body) {}
 
 int Recipient_List::Count() const
 {
@@ -45,7 +44,7 @@ void Recipient_List::Remove_Rows(const std::vector<int>& rows)
         return;
     auto& body = *m_body;
     auto next_removed = rows.begin();
-    auto kept = static_cast<std::size_t>(rows.front());
+    auto kept = std::min(static_cast<std::size_t>(rows.front()), body.recipients.size());
     for (std::size_t row = kept; row < body.recipients.size(); ++row) {
         if (next_removed != rows.end() && static_cast<std::size_t>(*next_removed) == row)
             ++next_removed;

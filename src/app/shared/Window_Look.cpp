@@ -27,6 +27,7 @@ QPalette Program_Palette()
     palette.setColor(QPalette::Link, QColor(0, 0, 0xee));
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, faint_text);
+    palette.setColor(QPalette::Disabled, QPalette::HighlightedText, text);
     palette.setColor(QPalette::Disabled, QPalette::Base, Window_Background());
     palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor(0xc5, 0xcc, 0xd8));
     return palette;

@@ -4,7 +4,8 @@ class QApplication;
 class QColor;
 class QWidget;
 
-// How every window of the program looks: one background, and text that can be read on it whatever the desktop's theme is.
+// How every window of the program looks: one background, and text that can be read on it whatever the desktop's theme
+// is.
 
 /// Red 241/255, green 244/255, blue 250/255.
 QColor Window_Background();

@@ -1,0 +1,62 @@
+// Puts concatenated messages together (3GPP TS 23.040 9.2.3.24.1). Owned by the phone, used under its lock.
+// Parts may come doubled and out of order. Senders exist that use one reference for every message, so a part 1 that
+// differs from the one held begins a new message, and what was held of the old one is dropped.
+#pragma once
+
+#include "phone/Coding_Scheme.h"
+#include "phone/Handset_Message.h"
+#include "phone/Submit_Decoder.h"
+
+#include <compare>
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace Handset {
+
+// A part as it was shown, with the units it was decoded from and what its header says.
+struct Received_Part
+{
+    Handset_Part m_shown;
+    Alphabet m_alphabet = Alphabet::Gsm_7_Bit;
+    std::vector<std::uint8_t> m_units;
+    bool m_wide_reference = false;
+};
+
+class Message_Joiner
+{
+public:
+    // The complete message when this part makes one; at once for a message that is not concatenated.
+    std::optional<Handset_Message> Take(const Received_Part& part);
+
+    void Forget();
+
+    // How many messages wait for parts; never more than 256, the oldest is given up then.
+    std::size_t Waiting() const { return m_sets.size(); }
+
+private:
+    struct Key
+    {
+        std::string m_number;
+        int m_reference;
+        int m_parts;
+        bool m_wide;
+        auto operator<=>(const Key&) const = default;
+    };
+    struct Set
+    {
+        std::map<int, Received_Part> m_parts;
+        unsigned long m_begun = 0;
+    };
+
+    void Put_In(Set& set, const Received_Part& part);
+    void Give_Up_The_Oldest();
+
+    std::map<Key, Set> m_sets;
+    std::map<Key, Set> m_finished; // the last complete one of each key, so that a late double begins nothing
+    unsigned long m_count = 0;
+};
+
+} // namespace Handset

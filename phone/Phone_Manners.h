@@ -1,0 +1,61 @@
+// The table of a phone's manners: which command gets which answer and what it does. Rows come from three places, the
+// first that knows a command wins: rows set one at a time (Will_Answer), rows that the moods bring, and the default
+// rows. Owned by the phone, used under its lock.
+#pragma once
+
+#include "phone/Phone_Moods.h"
+
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Handset {
+
+// What a command does besides being answered.
+enum class Deed
+{
+    Nothing,
+    Echo_Off,
+    Echo_On,
+    Start_Afresh,
+    Set_Format,
+    Set_Service,
+    Set_More,
+    Set_Centre,
+    Set_Parameters,
+    Set_Charset,
+    Take_Message
+};
+
+struct Manner
+{
+    std::string m_command; // as Normal_Command writes it; a "*" at its end stands for any rest
+    Deed m_deed = Deed::Nothing;
+    std::string m_answer;    // in a default or mood row, "{name}" stands for a value that the phone fills in
+    bool m_as_given = false; // goes out byte for byte, whatever the moods
+};
+
+// Upper case and without blanks outside double quotes, as V.250 5.2.1 and 5.4.1 read a command line.
+std::string Normal_Command(std::string_view command);
+
+class Phone_Manners
+{
+public:
+    explicit Phone_Manners(const Phone_Moods& moods);
+
+    void Set_Moods(const Phone_Moods& moods);
+    void Will_Answer(std::string_view command, std::string answer);
+
+    // The row for a command in its normal form; ERROR where no row knows it.
+    Manner Find(const std::string& command) const;
+
+private:
+    using Rows = std::map<std::string, Manner, std::less<>>;
+    static const Manner* Find_In(const Rows& rows, const std::string& command);
+
+    Rows m_given;
+    Rows m_of_moods;
+};
+
+} // namespace Handset

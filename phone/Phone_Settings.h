@@ -1,0 +1,70 @@
+// What commands set in a phone and what its answers are filled with. Owned by the phone's mind, used under the phone's
+// lock. A setting that no command has touched follows the moods.
+#pragma once
+
+#include "phone/Phone_Manners.h"
+#include "phone/Phone_Moods.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace Handset {
+
+class Phone_Settings
+{
+public:
+    explicit Phone_Settings(const Phone_Moods& moods) : m_moods(moods) {}
+
+    void Set_Moods(const Phone_Moods& moods) { m_moods = moods; }
+    void Plug_In(); // everything back at its start
+    void Reset();   // ATZ and AT&F: everything but the service centre, which a phone keeps
+
+    // Does what a setting command asks; argument is what stands behind "=". False when the argument is not one it
+    // takes.
+    bool Do(Deed deed, std::string_view argument);
+
+    // Replaces every "{name}" that is one of the phone's values.
+    std::string Filled(std::string_view answer) const;
+
+    bool Echo() const { return m_echo.value_or(!m_moods.m_no_echo); }
+    bool Is_Text_Format() const { return m_format.value_or(m_moods.m_text_only ? 1 : 0) == 1; }
+    std::string Centre() const;
+    std::string Charset() const;
+    int First_Octet() const { return m_first_octet; } // +CSMP <fo>
+    int Protocol() const { return m_protocol; }       // +CSMP <pid>
+    int Coding() const { return m_coding; }           // +CSMP <dcs>
+
+    // A number in the current character set: digits as they are, or hexadecimal UCS2 where "UCS2" or "HEX" is set and
+    // the text is that. type 145 adds the "+" that is not written. Empty when it is no number that can be dialled.
+    std::string Number(std::string_view text, std::string_view type) const;
+
+private:
+    bool Set_Centre(std::string_view argument);
+    bool Set_Parameters(std::string_view argument);
+    bool Set_Charset(std::string_view argument);
+    std::optional<std::string> Value(std::string_view name) const;
+
+    Phone_Moods m_moods;
+    std::optional<bool> m_echo;
+    std::optional<int> m_format;
+    std::optional<std::string> m_centre;
+    std::optional<std::string> m_charset;
+    int m_service = 0;
+    int m_more = 0;
+    int m_first_octet = 17; // SMS-SUBMIT with a relative validity period, 27.005 3.2.3
+    std::string m_validity = "167";
+    int m_protocol = 0;
+    int m_coding = 0;
+};
+
+// The text between double quotes; nothing where there are none around it.
+std::optional<std::string_view> Unquoted(std::string_view text);
+
+// Cuts at commas outside quotes.
+std::vector<std::string_view> Arguments_Of(std::string_view text);
+
+// A whole decimal number of at most nine digits.
+std::optional<int> Number_Of(std::string_view digits);
+
+} // namespace Handset

@@ -1,0 +1,75 @@
+// The inside of a Virtual_Phone and owned by it: the worker thread, the line and what is remembered. One mutex guards
+// all of it; whoever calls takes it first, as the worker does, so that any thread may serve the line: who asks what
+// came reads it first.
+#pragma once
+
+#include "phone/Answer_Queue.h"
+#include "phone/Descriptor.h"
+#include "phone/Handset_Message.h"
+#include "phone/Phone_Mind.h"
+#include "phone/Pty_Line.h"
+#include "phone/Virtual_Phone.h"
+
+#include <chrono>
+#include <condition_variable>
+#include <deque>
+#include <mutex>
+#include <optional>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace Handset {
+
+class Phone_Works
+{
+public:
+    explicit Phone_Works(const Phone_Moods& moods);
+    ~Phone_Works();
+    Phone_Works(const Phone_Works&) = delete;
+    Phone_Works& operator=(const Phone_Works&) = delete;
+
+    // The following want m_lock held.
+    void Plug_In();
+    void Close_Line();
+    void Serve(); // takes what has come and says what is due, at once
+    void Say(const Utterance& said);
+    void Forget();
+
+    std::mutex m_lock;
+    std::condition_variable m_changed;
+    Pty_Line m_line;
+    Phone_Mind m_mind;
+    Virtual_Phone::Listeners m_listeners;
+    std::deque<std::string> m_lines;
+    std::string m_bytes;
+    std::deque<Handset_Part> m_parts;
+    std::deque<Handset_Message> m_inbox;
+    bool m_heard_something = false; // since somebody last asked what it heard
+
+private:
+    // What the listeners have not been told yet; an arrival, or nothing for a hang-up.
+    using News = std::vector<std::optional<Arrival>>;
+
+    void Run();
+    void Wait_For_Events() const;
+    void Wake() const;
+    void Listen();
+    void Note(const Happenings& happenings);
+    void Speak();
+    void Set_Timer() const;
+    static void Tell(const Virtual_Phone::Listeners& listeners, const News& news);
+
+    Answer_Queue m_queue;
+    News m_news;
+    bool m_has_no_room = false;
+    bool m_is_ending = false;
+    Answer_Queue::Clock::time_point m_next_talk{};
+
+    Descriptor m_waker;
+    Descriptor m_timer;
+    Descriptor m_events;
+    std::thread m_thread;
+};
+
+} // namespace Handset

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QObject>
+#include <QProcess>
+#include <QString>
+
+// The virtual phone of --demo: corvane-phone, started as a child of the program. It ends when the program does, however
+// that comes about. Owned by the program's start; interface thread.
+class Demo_Phone : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Demo_Phone(QObject* parent = nullptr);
+    ~Demo_Phone() override;
+
+    /// Starts the phone program and waits, five seconds at the most, for the path of its line. Returns the path, or an empty
+    /// text when there is none; Error() then says why.
+    QString Start(const QString& program);
+    QString Error() const { return m_error; }
+
+Q_SIGNALS:
+    /// One line that the phone printed: a message or part of one, as JSON.
+    void Printed(const QByteArray& line);
+
+private:
+    void Read_Lines();
+
+    QProcess m_process;
+    QString m_path;
+    QString m_error;
+};

@@ -1,0 +1,76 @@
+#include "app/Program.h"
+
+#include "app/CorvaneAppDelegate.h"
+#include "app/Demo_Phone.h"
+#include "app/shared/Globals.h"
+#include "app/shared/Message_Boxes.h"
+#include "app/shared/Shared_Instance.h"
+#include "app/shared/Window_Look.h"
+#include "device/Device_Paths.h"
+#include "platform/Interface_Thread.h"
+#include "platform/System_Log.h"
+#include "platform/Waiting.h"
+
+#include <QApplication>
+#include <cstdio>
+
+Program::Program(Command_Line command_line)
+    : m_command_line(std::move(command_line))
+{
+    Apply_Application_Look(*qApp);
+    QApplication::setQuitOnLastWindowClosed(false); // the main window decides, not the last dialog that closes
+}
+
+Program::~Program()
+{
+    Leave();
+    Finish_Workers();
+    End_Shared_Instances();
+    m_delegate.reset();
+    m_demo_phone.reset();
+    Flush_System_Log();
+}
+
+bool Program::Start()
+{
+    m_delegate = std::make_unique<CorvaneAppDelegate>();
+    connect(m_delegate.get(), &CorvaneAppDelegate::Exit_Wanted, this, &Program::Leave);
+    if (!m_delegate->awakeFromNib())
+        return false;
+    if (m_command_line.demo)
+        Start_Demo_Phone();
+    Set_Extra_Device_Paths(m_command_line.device_paths);
+    m_delegate->applicationDidFinishLaunching();
+    return true;
+}
+
+int Program::Run()
+{
+    // Left already, from a box that was open during the start: an event loop begun now would never end.
+    return m_is_leaving ? 0 : QApplication::exec();
+}
+
+void Program::Leave()
+{
+    if (m_is_leaving)
+        return;
+    m_is_leaving = true;
+    Stop_SMS_Sending_Now = 1;
+    Begin_Program_Exit();
+    Close_Message_Boxes();
+    QCoreApplication::exit(0); // ends every dialog's own event loop as well
+}
+
+void Program::Start_Demo_Phone()
+{
+    m_demo_phone = std::make_unique<Demo_Phone>();
+    connect(m_demo_phone.get(), &Demo_Phone::Printed, this, [](const QByteArray& line) {
+        printf("%s\n", line.constData());
+        fflush(stdout);
+    });
+    const QString path = m_demo_phone->Start(QCoreApplication::applicationDirPath() + QStringLiteral("/corvane-phone"));
+    if (path.isEmpty())
+        Show_MessageBox(m_demo_phone->Error());
+    else
+        m_command_line.device_paths.append(path);
+}

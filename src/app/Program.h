@@ -1,0 +1,39 @@
+#pragma once
+
+#include "app/Command_Line.h"
+
+#include <QObject>
+#include <memory>
+
+class CorvaneAppDelegate;
+class Demo_Phone;
+
+// The program from its start to its orderly end: the look, the main window, the virtual phone of --demo, and on the way out
+// every worker joined and every window gone. One instance, made by main() after the application object; interface thread.
+class Program : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Program(Command_Line command_line);
+    ~Program() override;
+
+    /// Builds everything and shows the main window. Returns false when the program can not go on; the user has been told.
+    bool Start();
+    /// Serves events until the user leaves. Returns the exit status.
+    int Run();
+
+    CorvaneAppDelegate& Delegate() { return *m_delegate; }
+    Demo_Phone* Phone_Of_The_Demo() { return m_demo_phone.get(); }
+
+    /// Begins the way out, as the user's Yes does: a running job stops, open boxes and dialogs close, Run() returns.
+    void Leave();
+
+private:
+    void Start_Demo_Phone();
+
+    Command_Line m_command_line;
+    std::unique_ptr<Demo_Phone> m_demo_phone;
+    std::unique_ptr<CorvaneAppDelegate> m_delegate;
+    bool m_is_leaving = false;
+};

@@ -1,0 +1,86 @@
+#include "device/Bounded_Write.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
+#include <poll.h>
+
+namespace {
+
+constexpr double Write_Seconds = 10;
+constexpr double Write_Seconds_A_Byte = 0.01;
+constexpr double Shortest_Write = 1; // real seconds
+
+class Non_Blocking_Mode
+{
+public:
+    Non_Blocking_Mode(Serial_Calls& calls, int descriptor)
+        : m_calls(calls), m_descriptor(descriptor), m_flags(calls.Get_Status_Flags(descriptor))
+    {
+        m_is_on = m_flags != -1 && (m_flags & O_NONBLOCK) != 0;
+        m_was_on = m_is_on;
+        if (m_flags != -1 && !m_is_on)
+            m_is_on = calls.Set_Status_Flags(descriptor, m_flags | O_NONBLOCK) != -1;
+    }
+    ~Non_Blocking_Mode()
+    {
+        const int error = errno;
+        if (m_is_on && !m_was_on)
+            m_calls.Set_Status_Flags(m_descriptor, m_flags);
+        errno = error;
+    }
+    Non_Blocking_Mode(const Non_Blocking_Mode&) = delete;
+    Non_Blocking_Mode& operator=(const Non_Blocking_Mode&) = delete;
+
+    bool Is_On() const { return m_is_on; }
+
+private:
+    Serial_Calls& m_calls;
+    int m_descriptor;
+    int m_flags;
+    bool m_is_on;
+    bool m_was_on;
+};
+
+} // namespace
+
+ssize_t Write_Without_Blocking(Serial_Calls& calls, int descriptor, const char* bytes, size_t size)
+{
+    const Non_Blocking_Mode mode(calls, descriptor);
+    return mode.Is_On() ? calls.Write(descriptor, bytes, size) : -1;
+}
+
+Write_Outcome Write_With_An_End(Serial_Calls& calls, int descriptor, const char* bytes, qsizetype length,
+                                int wake_descriptor, const std::function<ssize_t(const char*, size_t)>& put)
+{
+    const double seconds = Write_Seconds + Write_Seconds_A_Byte * static_cast<double>(length);
+    const double end = Now_Seconds() + std::max(Paced(seconds), Shortest_Write);
+    Write_Outcome outcome;
+    while (outcome.m_bytes_written < length) {
+        switch (calls.Wait(descriptor, POLLOUT, std::max(0.0, end - Now_Seconds()), wake_descriptor)) {
+        case Line_Event::Timed_Out:
+            return outcome;
+        case Line_Event::Failed:
+            outcome.m_error = errno;
+            return outcome;
+        case Line_Event::Woken:
+            outcome.m_error = EBADF;
+            return outcome;
+        case Line_Event::Ready:
+            break;
+        }
+        const auto left = static_cast<size_t>(length - outcome.m_bytes_written);
+        const ssize_t written = put(bytes + outcome.m_bytes_written, left);
+        if (written > 0) {
+            outcome.m_bytes_written += written;
+        } else if (written == 0) {
+            return outcome;
+        } else if (errno != EAGAIN && errno != EINTR) {
+            outcome.m_error = errno;
+            return outcome;
+        } else if (Now_Seconds() >= end) {
+            return outcome;
+        }
+    }
+    return outcome;
+}

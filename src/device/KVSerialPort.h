@@ -1,0 +1,244 @@
+#pragma once
+
+#include "device/Decoded_Text.h"
+#include "device/KVSerialError.h"
+#include "device/KVSerialPortDelegate.h"
+#include "device/Serial_Calls.h"
+
+#include <QByteArray>
+#include <QHash>
+#include <QString>
+#include <array>
+#include <atomic>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <termios.h>
+
+class QObject;
+
+enum class KVSerialParity
+{
+    None,
+    Odd,
+    Even
+};
+
+using KVSerialOptions = QHash<QString, QString>;
+
+// The keys of a port's options.
+inline constexpr char KVSerialOptionServiceName[] = "KVSerialOptionServiceName";
+inline constexpr char KVSerialOptionSpeed[] = "KVSerialOptionSpeed";
+inline constexpr char KVSerialOptionDataBits[] = "KVSerialOptionDataBits";
+inline constexpr char KVSerialOptionParity[] = "KVSerialOptionParity"; // "Odd", "Even"
+inline constexpr char KVSerialOptionStopBits[] = "KVSerialOptionStopBits";
+inline constexpr char KVSerialOptionInputFlowControl[] = "KVSerialOptionInputFlowControl";   // "RTS", "DTR"
+inline constexpr char KVSerialOptionOutputFlowControl[] = "KVSerialOptionOutputFlowControl"; // "CTS", "DSR", "CAR"
+inline constexpr char KVSerialOptionEcho[] = "KVSerialOptionEcho";                           // "YES"
+inline constexpr char KVSerialOptionCanonicalMode[] = "KVSerialOptionCanonicalMode";         // "YES"
+
+/// The one owner of an open descriptor; made by a port's open, emptied by its close, whoever else still holds it.
+class KVFileHandle
+{
+public:
+    KVFileHandle(int descriptor, Serial_Calls& calls) : m_descriptor(descriptor), m_calls(calls) {}
+    ~KVFileHandle() { closeFile(); }
+    KVFileHandle(const KVFileHandle&) = delete;
+    KVFileHandle& operator=(const KVFileHandle&) = delete;
+
+    int fileDescriptor() const { return m_descriptor; }
+    void closeFile();
+
+private:
+    std::atomic<int> m_descriptor;
+    Serial_Calls& m_calls;
+};
+
+/// A serial device by path: open, close, write, a read that collects what arrives within the read time-out, and
+/// background threads that hand data to a delegate. Held by shared_ptr: a background thread keeps its port alive until
+/// it ends, which it does when the port is closed, the line hangs up or the program exits. Any thread may use it, but
+/// only one at a time may exchange (write, then read). From the write of a command to the end of the read that follows,
+/// the background reader leaves the line's bytes alone. No call blocks for ever.
+class KVSerialPort : public std::enable_shared_from_this<KVSerialPort>
+{
+public:
+    static constexpr int Buffer_Size = 4096;
+
+    KVSerialPort(const QString& bsdPath, const QString& withName, const QString& type,
+                 Serial_Calls& calls = Real_Serial_Calls());
+    ~KVSerialPort();
+    KVSerialPort(const KVSerialPort&) = delete;
+    KVSerialPort& operator=(const KVSerialPort&) = delete;
+
+    QString bsdPath() const { return m_bsd_path; }
+    QString name() const { return m_service_name; }
+    QString type() const { return m_service_type; }
+    QString description() const;
+    size_t hash() const;
+    /// Whether both stand for the same device path.
+    bool isEqual(const KVSerialPort& other) const { return m_bsd_path == other.m_bsd_path; }
+    /// Path, name and type under the keys "bsdPath", "serviceName" and "serviceType".
+    KVSerialOptions properties() const;
+
+    /// Reserves the port for an owner. Returns no port when somebody else has it already.
+    std::shared_ptr<KVSerialPort> obtainBy(QObject* owner);
+    void free() { m_owner = nullptr; }
+    bool available() const { return m_owner == nullptr; }
+    QObject* owner() const { return m_owner; }
+
+    /// Opens the device for everybody, saves its settings and makes the line raw. Returns the handle, or none on
+    /// failure, also where the path is no terminal or another program holds it exclusively; lastError then says why.
+    std::shared_ptr<KVFileHandle> open();
+    /// The same, but nobody else may open the device meanwhile, and the descriptor stays non-blocking.
+    std::shared_ptr<KVFileHandle> openExclusively();
+    bool isOpen() const { return m_file_descriptor != -1; }
+    /// Restores the settings found at open and closes. Wakes whoever waits on the port. Does nothing on a closed port.
+    void close();
+    int fileDescriptor() const { return m_file_descriptor; }
+    std::shared_ptr<KVFileHandle> fileHandle() const;
+
+    // Line control. Each answers whether it was done; on failure gotError is set.
+    bool drainInput(); ///< waits, with an end, until what was written has gone out
+    bool flushInput(bool input, bool output);
+    bool sendBreak();
+    bool setDTR();
+    bool clearDTR();
+
+    // Settings. They change only the port's own copy until commitChanges applies them at once.
+    long speed() const; ///< bits a second
+    bool setSpeed(long speed);
+    int dataBits() const;
+    bool setDataBits(int bits); ///< 5 to 8
+    KVSerialParity parity() const;
+    void setParity(KVSerialParity parity);
+    int stopBits() const;
+    bool setStopBits(int bits); ///< 1 or 2
+    bool echoEnabled() const;
+    void setEchoEnabled(bool on);
+    // Linux knows RTS and CTS only together; DTR, DSR and CAR not at all: switching one of those on is a failure.
+    bool RTSInputFlowControl() const;
+    void setRTSInputFlowControl(bool on);
+    bool DTRInputFlowControl() const { return false; }
+    bool setDTRInputFlowControl(bool on) { return Refuse_If(on); }
+    bool CTSOutputFlowControl() const { return RTSInputFlowControl(); }
+    void setCTSOutputFlowControl(bool on) { setRTSInputFlowControl(on); }
+    bool DSROutputFlowControl() const { return false; }
+    bool setDSROutputFlowControl(bool on) { return Refuse_If(on); }
+    bool CAROutputFlowControl() const { return false; }
+    bool setCAROutputFlowControl(bool on) { return Refuse_If(on); }
+    bool hangupOnClose() const;
+    void setHangupOnClose(bool on);
+    bool localMode() const;
+    void setLocalMode(bool on);
+    bool canonicalMode() const;
+    void setCanonicalMode(bool on);
+    char endOfLineCharacter() const;
+    void setEndOfLineCharacter(char character);
+    bool commitChanges();
+
+    /// The settings as texts under the keys above; what is off is absent.
+    KVSerialOptions options();
+    /// Takes and applies the settings given; keys that are absent switch flow control, parity, echo and canonical mode
+    /// off.
+    bool setOptions(const KVSerialOptions& options);
+
+    bool gotError() const { return m_got_error; }
+    int lastError() const { return m_last_error; }
+    void clearError();
+
+    /// Seconds at pace 1 that a synchronous read takes in all; 0, as after creation, reads nothing.
+    void setReadTimeout(double seconds) { m_read_timeout = seconds; }
+    double readTimeout() const { return m_read_timeout; }
+
+    // Synchronous reads: they end at 4096 bytes, at the byte count or the stop character where one is given, or when
+    // the read time-out has gone by. They return the bytes read, or a null value when there are none or the line
+    // failed.
+    QByteArray readAndReturnError(KVSerialError* error = nullptr);
+    QByteArray readBytes(quint64 bytes, KVSerialError* error = nullptr);
+    QByteArray readUpToChar(char stop, KVSerialError* error = nullptr);
+    QByteArray readBytes(quint64 bytes, char upToChar, KVSerialError* error = nullptr);
+    QString readStringUsingEncoding(KVText_Encoding encoding, KVSerialError* error = nullptr);
+    QString readBytes(quint64 bytes, KVText_Encoding usingEncoding, KVSerialError* error = nullptr);
+    QString readUpToChar(char stop, KVText_Encoding usingEncoding, KVSerialError* error = nullptr);
+    QString readBytes(quint64 bytes, char upToChar, KVText_Encoding usingEncoding, KVSerialError* error = nullptr);
+
+    // Synchronous writes: whether every byte went out.
+    bool writeData(const QByteArray& data, KVSerialError* error = nullptr);
+    bool writeString(const QString& string, KVText_Encoding usingEncoding, KVSerialError* error = nullptr);
+    bool writeBytes(const char* bytes, qsizetype length, KVSerialError* error = nullptr);
+    /// Bytes that wait to be read, -1 when the port is closed or the system does not say.
+    int bytesAvailable();
+
+    /// Tells the target, on the interface thread, once input waits; takes none of it.
+    void waitForInput(QObject* target, std::function<void()> selector);
+
+    void setDelegate(KVSerialPortDelegate* delegate);
+    /// Starts one background read when the delegate wants its data; the delegate starts the next.
+    void readDataInBackground();
+    void stopReadInBackground();
+    void writeDataInBackground(const QByteArray& data);
+    void stopWriteInBackground();
+    int numberOfWriteInBackgroundThreads() const { return m_background_writers; }
+    int numberOfReadInBackgroundThreads() const { return m_background_readers; }
+
+private:
+    struct Read_Ends;
+    class Line;
+    class Awaited_Answer;
+
+    std::shared_ptr<KVFileHandle> Open_With(int flags, bool exclusively);
+    bool Take_Over(int descriptor, bool exclusively);
+    void Take_Raw_Settings();
+    bool Note_Result(int result);
+    bool Refuse_If(bool on);
+    void Set_Flag(tcflag_t termios::*field, tcflag_t flag, bool on);
+
+    std::shared_ptr<const Line> Present_Line();
+    QByteArray Read_Until(const Read_Ends& ends, KVSerialError* error);
+    qsizetype Read_Into_Buffer(const Read_Ends& ends, KVSerialError& outcome);
+    ssize_t Take_Bytes(const Line& line, char* bytes, size_t size, bool in_background);
+    ssize_t Put_Bytes(const Line& line, const char* bytes, size_t size);
+    void Await_Answer(bool awaited);
+
+    void Read_In_Background();
+    bool Wait_For_Background_Data(const Line& line, QByteArray& data);
+    void Deliver_Read(const QByteArray& data);
+    void Write_In_Background(const QByteArray& data);
+    quint64 Write_In_Pieces(const QByteArray& data, double report_after, bool& has_reported);
+    void Deliver_Progress(quint64 value, quint64 total);
+    std::shared_ptr<KVSerialPortDelegate::Delegate_Guard> Delegate() const;
+
+    const QString m_bsd_path;
+    const QString m_service_name;
+    const QString m_service_type;
+    Serial_Calls& m_calls;
+    std::atomic<int> m_file_descriptor{-1};
+    std::shared_ptr<KVFileHandle> m_file_handle;
+    termios m_options{};
+    termios m_original_options{};
+    KVSerialOptions m_options_dictionary;
+    std::atomic<bool> m_got_error{false};
+    std::atomic<int> m_last_error{0};
+    QObject* m_owner = nullptr;
+    std::array<char, Buffer_Size> m_buffer{};
+    std::atomic<double> m_read_timeout{0};
+    bool m_is_exclusive = false;
+
+    std::shared_ptr<KVSerialPortDelegate::Delegate_Guard> m_delegate;
+    bool m_delegate_handles_read_in_background = false;
+    bool m_delegate_handles_write_in_background = false;
+    mutable std::mutex m_delegate_lock;
+
+    std::mutex m_write_lock; // held by a background writer for its whole transfer
+    std::mutex m_read_lock;  // held by a background reader for its whole read
+    mutable std::mutex m_close_lock;
+    std::mutex m_line_lock;             // held for each single read and write, and where the line is opened or let go
+    std::shared_ptr<const Line> m_line; // the present opening, none while closed
+    bool m_answer_awaited = false;
+    int m_background_event; // wakes the background reader: closed, stopped, or no answer awaited any longer
+
+    std::atomic<bool> m_stop_write_in_background{false};
+    std::atomic<int> m_background_writers{0};
+    std::atomic<bool> m_stop_read_in_background{false};
+    std::atomic<int> m_background_readers{0};
+};

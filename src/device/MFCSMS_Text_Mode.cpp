@@ -1,0 +1,131 @@
+#include "app/basics/Log_Line.h"
+#include "app/basics/String_Helpers.h"
+#include "device/MFCSMS.h"
+#include "device/Stop_Flag.h"
+#include "device/Submission_Rules.h"
+#include "device/Submission_Steps.h"
+#include "pdu/PDU.h"
+
+namespace {
+
+// One message's way out in text mode: what does not change from part to part.
+class Text_Submission
+{
+public:
+    Text_Submission(MFCSMS& session, int descriptor, const QString& number, const QString& message, const QString& smsc,
+                    bool is_flash, bool is_unicode)
+        : m_session(session), m_descriptor(descriptor), m_number(number), m_message(message), m_smsc(smsc),
+          m_is_flash(is_flash), m_is_unicode(is_unicode), m_encoder(Show_NSLog_Message)
+    {
+    }
+
+    bool Send()
+    {
+        if (!m_smsc.isEmpty() && !Set_Service_Centre())
+            return false;
+        if (!m_is_unicode && !Ask(m_is_flash ? "AT+CSMP=17,255,0,16\r\n" : "AT+CSMP=17,255,0,0\r\n"))
+            return false;
+        if (!May_Be_Single(m_message.size(), m_is_unicode))
+            return Send_Parts();
+        const QString pdu = m_encoder.EncodePDU(m_message, m_number, m_smsc, 0, true, m_is_flash, m_is_unicode);
+        if (pdu.isEmpty())
+            return false;
+        if (Submit_Length(pdu, !m_smsc.isEmpty(), m_encoder.EncodeSMSCAddress(m_smsc)) >= Too_Long_For_One)
+            return Send_Parts();
+        return Submit(m_message, m_is_unicode ? "UNICODE Short SMS Text :: " : "Short SMS Text :: ");
+    }
+
+private:
+    bool Send_Parts()
+    {
+        const int parts = Text_Part_Count(m_message.size(), m_is_unicode);
+        for (int part = 1; part <= parts; ++part) {
+            if (Stop_SMS_Sending_Now == 1)
+                return true;
+            Log_Part(part, parts);
+            if (!Submit(Text_Part(m_message, part, m_is_unicode),
+                        m_is_unicode ? "UNICODE Long SMS Text Response:: " : "Long SMS Text :: "))
+                return false;
+            Wait_Seconds(Seconds_Between_Parts);
+        }
+        return true;
+    }
+
+    bool Submit(const QString& body, const char* label)
+    {
+        if (!(m_is_unicode ? Submit_Ucs2(body) : Submit_7_Bit(body)))
+            return false;
+        Show_NSLog_Message(QString::fromLatin1(label));
+        return true;
+    }
+
+    bool Submit_7_Bit(const QString& body)
+    {
+        if (!Ask_For_Prompt() || !Write_Body(Harmless_Body(body)) || !Write(Terminator))
+            return false;
+        m_session.Read_Command(m_descriptor, Expect_Ok);
+        return true;
+    }
+
+    // No read follows the terminator: the next one finds the answer.
+    bool Submit_Ucs2(const QString& body)
+    {
+        m_session.setM_sLastResponse(QString());
+        if (!Ask("AT+CSCS=?\r\n"))
+            return false;
+        const QString character_sets = m_session.m_sLastResponse();
+        const bool takes_hex = Find_Str(character_sets, QStringLiteral("HEX"));
+        const bool takes_ucs2 = Find_Str(character_sets, QStringLiteral("UCS2"));
+        if (takes_hex ? !Ask("AT+CSCS=\"HEX\"\r\n") : takes_ucs2 && !Ask("AT+CSCS=\"UCS2\"\r\n"))
+            return false;
+        if (!Ask(m_is_flash ? "AT+CSMP=17,255,0,24\r\n" : "AT+CSMP=17,255,0,8\r\n") || !Ask_For_Prompt())
+            return false;
+        const QString line_body = takes_hex || takes_ucs2 ? m_encoder.EncodeUserData_16_bit(body) : Harmless_Body(body);
+        return Write_Body(line_body) && Write(Terminator);
+    }
+
+    bool Set_Service_Centre()
+    {
+        const char* type = m_smsc.startsWith(u'+') ? "145" : "129"; // 3GPP TS 24.011, 8.2.5.2: international or unknown
+        return Ask("AT+CSCA=\"" + MFCSMS::NString_To_Command_Char(m_smsc) + "\"," + type + "\r\n");
+    }
+
+    bool Ask_For_Prompt()
+    {
+        if (!Write("AT+CMGS=\"" + MFCSMS::NString_To_Command_Char(m_number) + "\"\r\n"))
+            return false;
+        m_session.Read_Command(m_descriptor, Expect_Prompt);
+        return true;
+    }
+
+    // An empty body is no write at all, so that the terminator still follows and the phone leaves its prompt.
+    bool Write_Body(const QString& body) { return body.isEmpty() || Write(MFCSMS::NString_To_Command_Char(body)); }
+
+    // Whether the command was written; what is answered does not count.
+    bool Ask(const QByteArray& command)
+    {
+        if (!Write(command))
+            return false;
+        m_session.Read_Command(m_descriptor, Expect_Ok);
+        return true;
+    }
+
+    bool Write(const QByteArray& command) { return m_session.Write_Command(m_descriptor, command); }
+
+    MFCSMS& m_session;
+    const int m_descriptor;
+    const QString& m_number;
+    const QString& m_message;
+    const QString& m_smsc;
+    const bool m_is_flash;
+    const bool m_is_unicode;
+    const PDU m_encoder;
+};
+
+} // namespace
+
+bool MFCSMS::Send_Text_SMS(int descriptor, const QString& number, const QString& message, const QString& smsc_num,
+                           bool flash_sms, bool unicode_sms)
+{
+    return Text_Submission(*this, descriptor, number, message, smsc_num, flash_sms, unicode_sms).Send();
+}

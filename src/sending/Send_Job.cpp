@@ -1,0 +1,241 @@
+#include "sending/Send_Job.h"
+
+#include "app/basics/String_Helpers.h"
+#include "app/shared/Globals.h"
+#include "app/shared/Message_Boxes.h"
+#include "device/MFCSMS.h"
+#include "platform/Interface_Thread.h"
+#include "platform/Waiting.h"
+#include "sending/Composer_Rules.h"
+#include "sending/Send_Checks.h"
+#include "sending/Send_Progress.h"
+
+#include <exception>
+#include <utility>
+
+namespace {
+
+constexpr double Preparing_Read_Seconds = 1;
+constexpr double Sending_Read_Seconds = 5;
+constexpr double Seconds_After_Message = 2;
+constexpr double Seconds_After_Skipped = 1;
+constexpr int Pdu_Mode = 1;
+constexpr int Text_Mode = 2;
+
+const QString& Does_Not_Open_Text()
+{
+    static const auto text = QStringLiteral(
+        "\nSelected device is not working properly. Please use Mobile Phone Connection Wizard for finding "
+        "device or establishing connection.");
+    return text;
+}
+
+const QString& No_Modem_Text()
+{
+    static const auto text = QStringLiteral("Selected device is not working properly.Could not initialize modem.\n");
+    return text;
+}
+
+bool Is_Asked_To_Stop()
+{
+    return Stop_SMS_Sending_Now == 1 || Program_Is_Exiting();
+}
+
+} // namespace
+
+Send_Job::Send_Job(Main_Window& window, MFCSMS& session, Send_Progress& progress)
+    : m_window(window), m_session(session), m_progress(progress)
+{
+}
+
+void Send_Job::Send_SMS_Func()
+{
+    auto order = Take_Send_Order(m_window);
+    if (!order)
+        return;
+    m_order = std::move(*order);
+    try {
+        Run();
+    } catch (...) {
+        Clean_Up();
+        throw;
+    }
+    Clean_Up();
+}
+
+void Send_Job::Run()
+{
+    if (!The_Device_Opens()) {
+        Show_MessageBox(Does_Not_Open_Text());
+        return;
+    }
+    Show_Progress();
+    if (!Connect()) {
+        Show_MessageBox(No_Modem_Text());
+        return;
+    }
+    Prepare_Device();
+    Begin_Sending();
+    Send_Items();
+    Finish();
+}
+
+bool Send_Job::The_Device_Opens()
+{
+    m_handle = m_session.OpenSerialPort(MFCSMS::NString_To_Command_Char(m_order.device_path));
+    return m_handle != -1;
+}
+
+void Send_Job::Show_Progress()
+{
+    m_progress.Begin_Preparing(m_window, m_order.recipients.Count());
+    Run_On_Interface_Thread([this] { m_window.Release_Input(); }); // from here on the progress window keeps input away
+    m_progress.startTimerThread();
+}
+
+bool Send_Job::Connect()
+{
+    Close_Handle();
+    // A port that is closed, or that stands for another device, is of no use, and initPort would keep the closed one.
+    const auto port = m_session.port();
+    if (port && (!port->isOpen() || port->bsdPath() != m_order.device_path))
+        Close_Port();
+    if (!m_session.port())
+        m_session.initPort(m_order.device_path);
+    Set_Read_Timeout(Preparing_Read_Seconds);
+    return m_session.port() && m_session.Check_Connection(m_handle);
+}
+
+void Send_Job::Prepare_Device()
+{
+    m_mode = m_session.PDU_or_Text_SMS(m_handle);
+    // What the device answers to this is not judged: the first submission tells.
+    if (m_mode == Pdu_Mode)
+        m_session.Prepare_Modem_For_PDU_SMS(m_handle);
+    else if (m_mode == Text_Mode)
+        m_session.Prepare_Modem_For_Text_SMS(m_handle);
+}
+
+void Send_Job::Begin_Sending()
+{
+    Pause_Timer_Running = false;
+    Stop_SMS_Sending_Now = 0;
+    m_progress.Begin_Sending();
+    Set_Read_Timeout(Sending_Read_Seconds);
+    m_has_error = false;
+}
+
+void Send_Job::Send_Items()
+{
+    const int count = m_order.recipients.Count();
+    for (int index = 0; index < count; ++index) {
+        if (Is_Asked_To_Stop() || m_mode == 0 || !Send_Item(index))
+            return;
+    }
+}
+
+// Answers whether the next item is to follow.
+bool Send_Job::Send_Item(int index)
+{
+    const Recipient& recipient = m_order.recipients.At(index);
+    const QString message = Composer_Rules::Cut_To_Limit(recipient.Message);
+    m_progress.Show_Item(index + 1, m_order.recipients.Count(), recipient.Number);
+    Pause_Timer_Running = false;
+    if (Skip_Item(index, recipient.Number))
+        return true;
+    switch (Submit(recipient.Number, message)) {
+    case Outcome::Handled:
+        return true;
+    case Outcome::Failed:
+        m_has_error = true;
+        Show_MessageBox(QStringLiteral("Device Connection Error!"));
+        return false;
+    case Outcome::Broken_Off:
+        break;
+    }
+    return false;
+}
+
+bool Send_Job::Skip_Item(int index, const QString& number)
+{
+    const Skip_Reason reason = Reason_To_Skip(m_order, index);
+    if (reason == Skip_Reason::None)
+        return false;
+    const auto note =
+        reason == Skip_Reason::Excluded ? QStringLiteral(" is Excluded.") : QStringLiteral(" is Skipped.");
+    m_progress.Show_Current(number + note);
+    Wait_Seconds(Seconds_After_Skipped);
+    return true;
+}
+
+Send_Job::Outcome Send_Job::Submit(const QString& number, const QString& message)
+{
+    return m_mode == Pdu_Mode ? Submit_In_PDU_Mode(number, message) : Submit_In_Text_Mode(number, message);
+}
+
+// The two modes differ in what an exception means: in PDU mode the line cannot be relied on any longer, in text mode
+// the item counts as handled.
+Send_Job::Outcome Send_Job::Submit_In_PDU_Mode(const QString& number, const QString& message)
+{
+    try {
+        const bool is_sent = m_session.Send_PDU_SMS(m_handle, number, message, m_order.service_centre,
+                                                    m_order.choices.flash, m_order.choices.unicode);
+        Wait_Seconds(Seconds_After_Message);
+        return is_sent ? Outcome::Handled : Outcome::Failed;
+    } catch (const std::exception&) {
+        return Outcome::Broken_Off;
+    }
+}
+
+Send_Job::Outcome Send_Job::Submit_In_Text_Mode(const QString& number, const QString& message)
+{
+    try {
+        const bool is_sent = m_session.Send_Text_SMS(m_handle, number, message, m_order.service_centre,
+                                                     m_order.choices.flash, m_order.choices.unicode);
+        Wait_Seconds(Seconds_After_Message);
+        return is_sent ? Outcome::Handled : Outcome::Failed;
+    } catch (const std::exception&) {
+        return Outcome::Handled;
+    }
+}
+
+void Send_Job::Finish()
+{
+    if (m_mode == 0) {
+        m_has_error = true;
+        Show_MessageBox(No_Modem_Text());
+    }
+    m_progress.Stop_Timers();
+    m_progress.End();
+    if (m_order.recipients.Count() == 0)
+        m_has_error = true;
+    if (Stop_SMS_Sending_Now == 0 && !m_has_error)
+        Show_MessageBox(QStringLiteral("Message Sending Process Completed."));
+}
+
+void Send_Job::Set_Read_Timeout(double seconds)
+{
+    if (const auto port = m_session.port())
+        port->setReadTimeout(seconds);
+}
+
+void Send_Job::Close_Handle()
+{
+    m_session.CloseSerialPort(std::exchange(m_handle, -1));
+}
+
+void Send_Job::Close_Port()
+{
+    if (const auto port = m_session.port()) {
+        port->close();
+        m_session.setPort(nullptr);
+    }
+}
+
+void Send_Job::Clean_Up()
+{
+    Close_Port();
+    Close_Handle();
+    m_progress.Stop_Timers();
+    m_progress.End();
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "sending/Send_Order.h"
+
+class MFCSMS;
+class Main_Window;
+class Send_Progress;
+
+// One walk through the recipient list, one SMS submitted for each item. Made by Send_Runner for one run on a worker
+// thread, which is the only user of the device meanwhile; it reads no window, but a copy of what was there when it
+// began. Whichever way it ends, the port is closed, the progress window hidden and its timers stopped.
+class Send_Job
+{
+public:
+    Send_Job(Main_Window& window, MFCSMS& session, Send_Progress& progress);
+
+    /// The whole job. What the device raises outside a submission reaches the caller after the clean-up.
+    void Send_SMS_Func();
+
+private:
+    enum class Outcome
+    {
+        Handled,
+        Failed,    ///< a write failed: the job ends with an error
+        Broken_Off ///< the device raised an exception: the job ends, but not with an error
+    };
+
+    void Run();
+    bool The_Device_Opens();
+    void Show_Progress();
+    bool Connect();
+    void Prepare_Device();
+    void Begin_Sending();
+    void Send_Items();
+    bool Send_Item(int index);
+    bool Skip_Item(int index, const QString& number);
+    Outcome Submit(const QString& number, const QString& message);
+    Outcome Submit_In_PDU_Mode(const QString& number, const QString& message);
+    Outcome Submit_In_Text_Mode(const QString& number, const QString& message);
+    void Finish();
+
+    void Set_Read_Timeout(double seconds);
+    void Close_Handle();
+    void Close_Port();
+    void Clean_Up();
+
+    Main_Window& m_window;
+    MFCSMS& m_session;
+    Send_Progress& m_progress;
+    Send_Order m_order;
+    int m_handle = -1; // the direct descriptor, forgotten as soon as it is closed
+    int m_mode = 0;    // 0 = none, 1 = PDU, 2 = text
+    bool m_has_error = false;
+};

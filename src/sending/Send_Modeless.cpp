@@ -1,0 +1,167 @@
+#include "sending/Send_Modeless.h"
+
+#include "app/basics/Log_Line.h"
+#include "app/shared/Main_Window.h"
+#include "app/shared/Message_Boxes.h"
+#include "app/shared/Shared_Instance.h"
+#include "app/shared/Window_Look.h"
+#include "device/Stop_Flag.h"
+#include "platform/Interface_Thread.h"
+#include "platform/Waiting.h"
+#include "ui_Send_Modeless.h"
+
+#include <algorithm>
+#include <cmath>
+#include <exception>
+
+namespace {
+
+constexpr double Activity_Seconds = 0.5;
+constexpr int Activity_End = 100;
+constexpr int Activity_Step = 20;
+
+const QString& Stop_Question()
+{
+    static const auto text =
+        QStringLiteral("\nTerminating the current process will stop sending text messages to the remaining contact. "
+                       "Are you sure you want to continue?");
+    return text;
+}
+
+const QString& Preparing_Text()
+{
+    static const auto text = QStringLiteral("Initializing mobile phone device to send sms ...");
+    return text;
+}
+
+void Keep_Room_When_Hidden(QWidget& widget)
+{
+    QSizePolicy policy = widget.sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    widget.setSizePolicy(policy);
+}
+
+void Keep_Room_For(QWidget& label, const QString& longest_text)
+{
+    const QFontMetrics metrics = label.fontMetrics();
+    label.setMinimumSize(metrics.horizontalAdvance(longest_text), metrics.lineSpacing());
+}
+
+} // namespace
+
+Send_Modeless::Send_Modeless(QWidget* parent) : Modal_Sheet(parent), m_ui(std::make_unique<Ui::Send_Modeless>())
+{
+    m_ui->setupUi(this);
+    Apply_Window_Look(*this);
+    Make_Room_For_Texts();
+    connect(m_ui->_stop_btn, &QPushButton::clicked, this, &Send_Modeless::Stop_Sending_Pressed);
+    connect(&msend_modTimer, &QTimer::timeout, this, &Send_Modeless::Timer_Curr_Prg_Send_Modeless);
+}
+
+Send_Modeless::~Send_Modeless() = default;
+
+Send_Modeless* Send_Modeless::defaultInstance()
+{
+    return Shared_Instance<Send_Modeless>::Get();
+}
+
+// The window keeps one size, whatever is shown or hidden in it.
+void Send_Modeless::Make_Room_For_Texts()
+{
+    QFont heading = m_ui->_curr_msg_cnt->font();
+    heading.setBold(true);
+    m_ui->_curr_msg_cnt->setFont(heading);
+    Keep_Room_For(*m_ui->_curr_msg_cnt, Preparing_Text());
+    Keep_Room_For(*m_ui->_current_send_msg, QString(20, u'0') + QStringLiteral(" is Excluded."));
+    Keep_Room_For(*m_ui->_pause_timer, QStringLiteral("Pausing the process for 1 Hour 59 Minute 59 Seconds."));
+    for (QWidget* widget : {static_cast<QWidget*>(m_ui->_current_send_label),
+                            static_cast<QWidget*>(m_ui->_current_send_msg), static_cast<QWidget*>(m_ui->_Tot_Progress)})
+        Keep_Room_When_Hidden(*widget);
+}
+
+void Send_Modeless::Begin_Preparing(Main_Window& window, int total)
+{
+    Run_On_Interface_Thread([&] {
+        m_ui->_stop_btn->setEnabled(false);
+        m_ui->_Tot_Progress->setRange(0, std::max(total, 1)); // a range of nothing would show as endless activity
+        m_ui->_Tot_Progress->setValue(0);
+        m_ui->_Curr_Progress->setRange(0, Activity_End);
+        m_ui->_Curr_Progress->setValue(0);
+        m_ui->_pause_timer->clear();
+        m_ui->_current_send_msg->clear();
+        m_ui->_tot_msg_cnt->setText(QString::number(total));
+        m_ui->_curr_msg_cnt->setText(Preparing_Text());
+        Show_Sending_Controls(false);
+        if (!Program_Is_Exiting())
+            Begin_Sheet(window.Window());
+    });
+}
+
+void Send_Modeless::Begin_Sending()
+{
+    Run_On_Interface_Thread([this] {
+        Show_Sending_Controls(true);
+        m_ui->_stop_btn->setEnabled(true);
+    });
+}
+
+void Send_Modeless::Show_Item(int position, int total, const QString& number)
+{
+    Run_On_Interface_Thread([&] {
+        m_ui->_Tot_Progress->setValue(position);
+        m_ui->_curr_msg_cnt->setText(QString::number(position) + QStringLiteral(" / ") + QString::number(total) +
+                                     QStringLiteral(" Message"));
+        m_ui->_current_send_msg->setText(number);
+        m_ui->_Curr_Progress->setValue(Activity_End);
+    });
+}
+
+void Send_Modeless::Show_Current(const QString& text)
+{
+    Run_On_Interface_Thread([&] { m_ui->_current_send_msg->setText(text); });
+}
+
+void Send_Modeless::End()
+{
+    Run_On_Interface_Thread([this] {
+        Close_Message_Boxes(this);
+        End_Sheet();
+    });
+}
+
+void Send_Modeless::startTimerThread()
+{
+    Run_On_Interface_Thread([this] {
+        const double milliseconds = std::ceil(Paced(Activity_Seconds) * 1000);
+        msend_modTimer.start(std::max(1, static_cast<int>(milliseconds)));
+    });
+}
+
+void Send_Modeless::Stop_Timers()
+{
+    Run_On_Interface_Thread([this] { msend_modTimer.stop(); });
+}
+
+void Send_Modeless::Stop_Sending_Pressed()
+{
+    if (Show_YES_NO_MessageBox(Stop_Question()))
+        Stop_SMS_Sending_Now = 1;
+}
+
+void Send_Modeless::Timer_Curr_Prg_Send_Modeless()
+{
+    try {
+        const int value = m_ui->_Curr_Progress->value();
+        m_ui->_Curr_Progress->setValue((value == Activity_End ? 0 : value) + Activity_Step);
+    } catch (const std::exception& failure) {
+        Show_NSLog_Message(QString::fromLocal8Bit(failure.what()));
+        Show_NSLog_Message(QStringLiteral("Timer curr prgs send modeless catch"));
+    }
+}
+
+void Send_Modeless::Show_Sending_Controls(bool visible)
+{
+    m_ui->_current_send_label->setVisible(visible);
+    m_ui->_current_send_msg->setVisible(visible);
+    m_ui->_Tot_Progress->setVisible(visible);
+}

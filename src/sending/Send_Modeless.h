@@ -1,0 +1,46 @@
+#pragma once
+
+#include "platform/Modal_Sheet.h"
+#include "sending/Send_Progress.h"
+
+#include <QTimer>
+#include <functional>
+#include <memory>
+
+namespace Ui {
+class Send_Modeless;
+}
+
+// The progress window of a send job, a sheet over the main window. The one shared instance belongs to the interface
+// thread like every window; what it does as a Send_Progress may be called from the job's thread and hops over here.
+class Send_Modeless : public Modal_Sheet, public Send_Progress
+{
+    Q_OBJECT
+
+public:
+    explicit Send_Modeless(QWidget* parent = nullptr);
+    ~Send_Modeless() override;
+
+    static Send_Modeless* defaultInstance();
+
+    void Begin_Preparing(Main_Window& window, int total) override;
+    void Begin_Sending() override;
+    void Show_Item(int position, int total, const QString& number) override;
+    void Show_Current(const QString& text) override;
+    /// Hides the window. A stop question that is still open counts as answered No.
+    void End() override;
+    void startTimerThread() override;
+    void Stop_Timers() override;
+
+    /// The stop button: asks, and on Yes sets Stop_SMS_Sending_Now.
+    void Stop_Sending_Pressed();
+    /// One step of the activity bar, every half second: onwards by 20, and from 100 to the start.
+    void Timer_Curr_Prg_Send_Modeless();
+
+private:
+    void Make_Room_For_Texts();
+    void Show_Sending_Controls(bool visible);
+
+    std::unique_ptr<Ui::Send_Modeless> m_ui;
+    QTimer msend_modTimer;
+};

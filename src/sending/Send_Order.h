@@ -1,0 +1,28 @@
+#pragma once
+
+#include "app/shared/Exclusion_Set.h"
+#include "app/shared/Main_Window.h"
+#include "app/shared/Recipient_List.h"
+
+#include <QString>
+
+// Everything a send job works from, copied from the interface thread before the device is opened. A value; what the
+// user does later changes nothing in it.
+struct Send_Order
+{
+    QString device_path;
+    QString service_centre; ///< empty for the device's own
+    Send_Choices choices;
+    Recipient_List recipients;
+    Exclusion_Set exclusions;
+};
+
+enum class Skip_Reason
+{
+    None,
+    Excluded, ///< the exclusion option is on and the number is in the exclusion set
+    Repeated  ///< duplicates are skipped and an earlier item has the same number
+};
+
+/// Why the item at an index is not sent. Constant time.
+Skip_Reason Reason_To_Skip(const Send_Order& order, int index);

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "device/Phone_Values.h"
+
+#include <QString>
+
+class MFCSMS;
+
+// What a probe shows while it runs. Implemented by the wizard's window; called on the probing thread, and each call
+// returns when what it asks for has been done.
+class Probe_Display : public Phone_Values_Display
+{
+public:
+    virtual void Show_Create_Modeless() = 0;  ///< the please-wait sheet comes up
+    virtual void Hide_Destroy_Modeless() = 0; ///< and goes
+    virtual void Tell_About_Device(const QString& text) = 0;
+};
+
+// The service centre that the wizard's fields stand for.
+struct Chosen_Centre
+{
+    bool is_custom = false;
+    QString default_smsc; ///< as the device reported it
+    QString custom_smsc;  ///< as typed
+};
+
+// Talks to one device through the wizard's session: reads its details, or checks that messages can be sent through it.
+// Made for one run on a worker; blocks for the session's waits. Two probes must not run on one session at once.
+class Phone_Probe
+{
+public:
+    Phone_Probe(MFCSMS& session, Probe_Display& display) : m_session(session), m_display(display) {}
+
+    /// Puts the nine details into the display, or tells there why the device is of no use. The port is closed
+    /// afterwards.
+    void Read_Details(const QString& path);
+
+    /// Whether the device answers, has a service centre to send through and supports sending; tells what is wrong when
+    /// not. The port is left open where only the centre or the support is missing.
+    bool Check_For_Sending(const QString& path, const Chosen_Centre& centre);
+
+    /// Closes the session's port, if there is one, and drops it.
+    static void Let_Go_Of_Port(MFCSMS& session);
+
+private:
+    QString Find_Fault(const QString& path, const Chosen_Centre& centre);
+    QString Find_Fault_When_Open(int handle, const QString& path, const Chosen_Centre& centre);
+    bool Connect(int handle, const QString& path);
+
+    MFCSMS& m_session;
+    Probe_Display& m_display;
+};

@@ -1,0 +1,95 @@
+#pragma once
+
+#include "app/CorvaneAppDelegate.h"
+#include "app/shared/Globals.h"
+#include "app/shared/Shared_Instance.h"
+#include "app/shared/Window_Look.h"
+#include "platform/Interface_Thread.h"
+#include "platform/Pace.h"
+#include "support/Serve_Until.h"
+#include "support/User.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTableView>
+#include <QTest>
+#include <gmock/gmock.h>
+
+// The main window as it stands after the program's start, for one test: real widgets, found by their names.
+class Open_Program : public testing::Test
+{
+protected:
+    Open_Program()
+    {
+        Set_Pace(100);
+        Apply_Application_Look(*qApp);
+        m_delegate = std::make_unique<CorvaneAppDelegate>();
+        EXPECT_TRUE(m_delegate->awakeFromNib());
+        m_delegate->applicationDidFinishLaunching();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(m_delegate.get()));
+    }
+
+    ~Open_Program() override
+    {
+        Stop_SMS_Sending_Now = 1;
+        Finish_Workers();
+        End_Shared_Instances();
+        m_delegate.reset();
+    }
+
+    template <typename Widget>
+    Widget& The(const char* name)
+    {
+        auto* widget = m_delegate->findChild<Widget*>(QString::fromLatin1(name));
+        if (!widget)
+            qFatal("there is no %s in the main window", name);
+        return *widget;
+    }
+
+    void Click(const char* name) { QTest::mouseClick(&The<QPushButton>(name), Qt::LeftButton); }
+    void Tick(const char* name) { The<QCheckBox>(name).setChecked(true); }
+    void Type_Number(const QString& number)
+    {
+        The<QLineEdit>("_numberEdit").clear();
+        QTest::keyClicks(&The<QLineEdit>("_numberEdit"), number);
+    }
+    void Add(const QString& number)
+    {
+        Type_Number(number);
+        Click("Add_Number");
+    }
+    QString Shown(int row, int column) const
+    {
+        const auto* table = m_delegate->findChild<QTableView*>(QStringLiteral("idTableView"));
+        return table->model()->index(row, column).data().toString();
+    }
+    QString Count_Label() { return The<QLabel>("_gsm_list_count").text(); }
+    QStringList Numbers() const
+    {
+        QStringList numbers;
+        for (int row = 0; row < m_delegate->Recipients().Count(); ++row)
+            numbers.append(m_delegate->Recipients().At(row).Number);
+        return numbers;
+    }
+    /// Activation comes back a moment after a box has closed.
+    bool Has_Focus(const char* name)
+    {
+        return Serve_Until([&] { return The<QWidget>(name).hasFocus(); }, 2);
+    }
+    void Select_Rows(const std::vector<int>& rows)
+    {
+        auto& table = The<QTableView>("idTableView");
+        table.clearSelection();
+        for (const int row : rows)
+            table.selectionModel()->select(table.model()->index(row, 0),
+                                           QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    }
+
+    User user;
+    std::unique_ptr<CorvaneAppDelegate> m_delegate;
+};

@@ -1,0 +1,317 @@
+#include "layers/Layer_Rules.h"
+
+#include <algorithm>
+#include <cctype>
+#include <functional>
+#include <regex>
+#include <set>
+
+namespace {
+
+constexpr std::size_t Most_Lines = 700;
+
+std::string At(const std::string& path, int line, const std::string& what)
+{
+    return path + ":" + std::to_string(line) + ": " + what;
+}
+
+bool Holds(const std::vector<std::string>& texts, const std::string& text)
+{
+    return std::find(texts.begin(), texts.end(), text) != texts.end();
+}
+
+const Room* Find_Room(const std::string& folder)
+{
+    const auto& rooms = Rooms();
+    const auto room = std::find_if(rooms.begin(), rooms.end(), [&](const Room& each) { return each.folder == folder; });
+    return room == rooms.end() ? nullptr : &*room;
+}
+
+std::string Library_Of(const std::string& folder)
+{
+    return "corvane_" + folder.substr(folder.rfind('/') + 1);
+}
+
+// What a build makes of a file beside the one that includes it: ui_Name.h of Name.ui, Name.moc of Name.cpp.
+bool Is_Made_From_A_Neighbour(const Source_Tree& tree, const std::string& path, const std::string& include)
+{
+    const std::string folder = path.substr(0, path.rfind('/') + 1);
+    if (include.starts_with("ui_") && include.ends_with(".h"))
+        return tree.contains(folder + include.substr(3, include.size() - 5) + ".ui");
+    return include.ends_with(".moc") && path == folder + include.substr(0, include.size() - 4) + ".cpp";
+}
+
+std::string Complaint_About(const Source_Tree& tree, const std::string& path, const Include& include)
+{
+    const std::string target = "src/" + include.path;
+    if (!tree.contains(target)) {
+        if (!include.is_quoted || Is_Made_From_A_Neighbour(tree, path, include.path))
+            return {};
+        return "\"" + include.path + "\" is no file of src/";
+    }
+    const Room* room = Find_Room(Room_Of(path));
+    const std::string other = Room_Of(target);
+    if (!room || other == room->folder || Holds(room->may_include, other))
+        return {};
+    return room->folder + " must not include " + include.path;
+}
+
+std::vector<std::string> Linked_Libraries(const std::vector<std::string>& build_file)
+{
+    std::string text;
+    for (const auto& line : build_file)
+        text += line.substr(0, line.find('#')) + " ";
+    std::smatch call;
+    if (!std::regex_search(text, call, std::regex("corvane_room\\(([^)]*)\\)")))
+        return {};
+    const std::string arguments = call[1];
+    std::vector<std::string> libraries;
+    const std::regex name("corvane_[a-z]+");
+    for (std::sregex_iterator match(arguments.begin(), arguments.end(), name), end; match != end; ++match)
+        libraries.push_back(match->str());
+    return libraries;
+}
+
+// Finds circles by walking along the includes; a file on the way that is met again closes one.
+class Circle_Finder
+{
+public:
+    explicit Circle_Finder(const Source_Tree& tree) : m_tree(tree) {}
+
+    Complaints Find()
+    {
+        for (const auto& [path, lines] : m_tree)
+            Visit(path);
+        return m_complaints;
+    }
+
+private:
+    void Visit(const std::string& path)
+    {
+        if (!Is_Cpp(path) || m_done.contains(path))
+            return;
+        m_way.push_back(path);
+        for (const Include& include : Includes_Of(m_tree.at(path))) {
+            for (const auto& target : {"src/" + include.path, include.path}) {
+                if (!m_tree.contains(target))
+                    continue;
+                if (Holds(m_way, target))
+                    m_complaints.push_back(At(path, include.line, "closes a circle back to " + target));
+                else
+                    Visit(target);
+            }
+        }
+        m_way.pop_back();
+        m_done.insert(path);
+    }
+
+    const Source_Tree& m_tree;
+    std::vector<std::string> m_way;
+    std::set<std::string> m_done;
+    Complaints m_complaints;
+};
+
+bool Is_Word(char character)
+{
+    return std::isalnum(static_cast<unsigned char>(character)) != 0 || character == '_';
+}
+
+// Where the word stands as a whole from a position on; npos when nowhere.
+std::size_t Find_Word(const std::string& code, const std::string& word, std::size_t from)
+{
+    for (auto at = code.find(word, from); at != std::string::npos; at = code.find(word, at + 1)) {
+        const auto end = at + word.size();
+        if ((at == 0 || !Is_Word(code[at - 1])) && (end == code.size() || !Is_Word(code[end])))
+            return at;
+    }
+    return std::string::npos;
+}
+
+bool Names(const std::string& code, const std::string& word)
+{
+    return Find_Word(code, word, 0) != std::string::npos;
+}
+
+// Whether a function of this name is called that belongs to no object and to no class: sleep(1) and ::sleep(1) are such
+// calls, row.select(1), model->select(1) and Rows::select(1) are not.
+bool Calls_Free_Function(const std::string& code, const std::string& name)
+{
+    for (auto at = Find_Word(code, name, 0); at != std::string::npos; at = Find_Word(code, name, at + 1)) {
+        const auto open = code.find_first_not_of(' ', at + name.size());
+        if (open == std::string::npos || code[open] != '(')
+            continue;
+        const std::string before = code.substr(0, at);
+        const bool is_member = before.ends_with(".") || before.ends_with("->");
+        const bool is_scoped = before.ends_with("::") && before.size() > 2 && Is_Word(before[before.size() - 3]);
+        if (!is_member && !is_scoped)
+            return true;
+    }
+    return false;
+}
+
+struct Door
+{
+    std::function<bool(const std::string& code, const std::string& name)> is_used;
+    std::vector<std::string> names;
+    std::string behind; ///< the one place, as the beginning of a path
+};
+
+const std::vector<Door>& Doors()
+{
+    static const std::vector<Door> Table{
+        {Calls_Free_Function,
+         {"sleep", "usleep", "nanosleep", "clock_nanosleep", "poll", "ppoll", "select", "pselect", "epoll_wait"},
+         "src/platform/"},
+        {Names, {"sleep_for", "sleep_until", "msleep", "QTest", "QWaitCondition"}, "src/platform/"},
+        {[](const std::string& code, const std::string& name) { return code.find(name) != std::string::npos; },
+         {"QThread::sleep", "QThread::usleep"},
+         "src/platform/"},
+        {Names,
+         {"currentDateTime", "currentDateTimeUtc", "currentDate", "currentTime", "currentMSecsSinceEpoch",
+          "currentSecsSinceEpoch", "QElapsedTimer", "system_clock", "steady_clock", "high_resolution_clock",
+          "gettimeofday", "clock_gettime"},
+         "src/platform/Waiting."},
+        {Calls_Free_Function, {"time"}, "src/platform/Waiting."},
+        {Names, {"QMessageBox"}, "src/app/shared/Message_Boxes.cpp"},
+        {Names, {"QFileDialog"}, "src/app/shared/File_Panels.cpp"},
+    };
+    return Table;
+}
+
+} // namespace
+
+const std::vector<Room>& Rooms()
+{
+    static const std::vector<Room> Table{
+        {"platform", {}},
+        {"app/basics", {"platform"}},
+        {"pdu", {}},
+        {"device", {"platform", "app/basics", "pdu"}},
+        {"app/shared", {"platform", "app/basics", "pdu", "device"}},
+        {"exclusion", {"platform", "app/basics", "pdu", "device", "app/shared"}},
+        {"stores", {"platform", "app/basics", "pdu", "device", "app/shared", "exclusion"}},
+        {"dialogs", {"platform", "app/basics", "pdu", "device", "app/shared", "exclusion", "stores"}},
+        {"wizard", {"platform", "app/basics", "pdu", "device", "app/shared", "exclusion", "stores", "dialogs"}},
+        {"sending",
+         {"platform", "app/basics", "pdu", "device", "app/shared", "exclusion", "stores", "dialogs", "wizard"}},
+        {"app",
+         {"platform", "app/basics", "pdu", "device", "app/shared", "exclusion", "stores", "dialogs", "wizard",
+          "sending"}},
+    };
+    return Table;
+}
+
+std::string Room_Of(const std::string& path)
+{
+    std::string deepest;
+    for (const Room& room : Rooms()) {
+        if (path.starts_with("src/" + room.folder + "/") && room.folder.size() > deepest.size())
+            deepest = room.folder;
+    }
+    return deepest;
+}
+
+Complaints Check_Rooms(const Source_Tree& tree)
+{
+    Complaints complaints;
+    for (const auto& [path, lines] : tree) {
+        if (!path.starts_with("src/") || !Is_Cpp(path))
+            continue;
+        if (Room_Of(path).empty())
+            complaints.push_back(At(path, 1, "stands in no room"));
+        for (const Include& include : Includes_Of(lines)) {
+            const std::string complaint = Complaint_About(tree, path, include);
+            if (!complaint.empty())
+                complaints.push_back(At(path, include.line, complaint));
+        }
+    }
+    return complaints;
+}
+
+Complaints Check_Links(const Source_Tree& tree)
+{
+    Complaints complaints;
+    std::map<std::string, std::vector<std::string>> links;
+    for (const Room& room : Rooms()) {
+        const std::string build_file = "src/" + room.folder + "/CMakeLists.txt";
+        if (!tree.contains(build_file))
+            continue;
+        const auto libraries = links[room.folder] = Linked_Libraries(tree.at(build_file));
+        std::vector<std::string> allowed;
+        for (const auto& other : room.may_include)
+            allowed.push_back(Library_Of(other));
+        for (const auto& library : libraries) {
+            if (!Holds(allowed, library))
+                complaints.push_back(At(build_file, 1, room.folder + " must not link " + library));
+        }
+    }
+    for (const auto& [path, lines] : tree) {
+        const std::string room = Room_Of(path);
+        if (room.empty() || !Is_Cpp(path))
+            continue;
+        for (const Include& include : Includes_Of(lines)) {
+            const std::string target = "src/" + include.path;
+            const std::string other = Room_Of(target);
+            if (tree.contains(target) && other != room && !Holds(links[room], Library_Of(other)))
+                complaints.push_back(At(path, include.line, room + " includes " + other + " but does not link it"));
+        }
+    }
+    return complaints;
+}
+
+Complaints Check_Circles(const Source_Tree& tree)
+{
+    return Circle_Finder(tree).Find();
+}
+
+Complaints Check_Phone(const Source_Tree& tree)
+{
+    static const std::regex Qt_Header("Q[A-Za-z0-9]+|Qt[A-Za-z0-9]*/.*|q[a-z0-9_]+\\.h");
+    Complaints complaints;
+    for (const auto& [path, lines] : tree) {
+        if (!path.starts_with("phone/") || !Is_Cpp(path))
+            continue;
+        for (const Include& include : Includes_Of(lines)) {
+            if (std::regex_match(include.path, Qt_Header))
+                complaints.push_back(At(path, include.line, "phone must not include Qt's " + include.path));
+            else if (tree.contains("src/" + include.path) || tree.contains("tests/" + include.path) ||
+                     (include.is_quoted && !include.path.starts_with("phone/")))
+                complaints.push_back(At(path, include.line, "phone must not include " + include.path));
+            else if (include.is_quoted && !tree.contains(include.path))
+                complaints.push_back(At(path, include.line, "\"" + include.path + "\" is no file"));
+        }
+    }
+    return complaints;
+}
+
+Complaints Check_Sizes(const Source_Tree& tree)
+{
+    Complaints complaints;
+    for (const auto& [path, lines] : tree) {
+        if (Is_Cpp(path) && lines.size() > Most_Lines)
+            complaints.push_back(At(path, static_cast<int>(Most_Lines) + 1, "goes on beyond 700 lines"));
+    }
+    return complaints;
+}
+
+Complaints Check_Doors(const Source_Tree& tree)
+{
+    Complaints complaints;
+    for (const auto& [path, lines] : tree) {
+        if (!path.starts_with("src/") || !Is_Cpp(path))
+            continue;
+        const auto code = Code_Of(lines);
+        for (const Door& door : Doors()) {
+            if (path.starts_with(door.behind))
+                continue;
+            for (std::size_t row = 0; row < code.size(); ++row) {
+                for (const auto& name : door.names) {
+                    if (door.is_used(code[row], name))
+                        complaints.push_back(
+                            At(path, static_cast<int>(row) + 1, name + " belongs into " + door.behind));
+                }
+            }
+        }
+    }
+    return complaints;
+}

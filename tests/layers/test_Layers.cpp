@@ -1,0 +1,228 @@
+#include "layers/Layer_Rules.h"
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+const Source_Tree& The_Checkout()
+{
+    static const Source_Tree Tree = Read_Source_Tree(CORVANE_SOURCE_DIR, {"src", "phone", "tests"});
+    return Tree;
+}
+
+std::string In_Lines(const Complaints& complaints)
+{
+    std::string text;
+    for (const auto& complaint : complaints)
+        text += complaint + "\n";
+    return text;
+}
+
+} // namespace
+
+// ---- The house as it stands
+
+TEST(Layers, The_Checkout_Was_Read)
+{
+    EXPECT_TRUE(The_Checkout().contains("src/platform/Waiting.cpp"));
+    EXPECT_TRUE(The_Checkout().contains("src/app/shared/PleaseWait_Modeless.ui"));
+    EXPECT_TRUE(The_Checkout().contains("tests/layers/test_Layers.cpp"));
+}
+
+TEST(Layers, Every_Room_Includes_Only_What_It_May)
+{
+    EXPECT_EQ(In_Lines(Check_Rooms(The_Checkout())), "");
+}
+
+TEST(Layers, Every_Room_Links_Only_What_It_May_And_All_It_Includes)
+{
+    EXPECT_EQ(In_Lines(Check_Links(The_Checkout())), "");
+}
+
+TEST(Layers, No_File_Includes_Itself_Round_A_Corner)
+{
+    EXPECT_EQ(In_Lines(Check_Circles(The_Checkout())), "");
+}
+
+TEST(Layers, The_Phone_Shares_Nothing_With_The_Program)
+{
+    EXPECT_EQ(In_Lines(Check_Phone(The_Checkout())), "");
+}
+
+TEST(Layers, No_Source_Is_Over_700_Lines)
+{
+    EXPECT_EQ(In_Lines(Check_Sizes(The_Checkout())), "");
+}
+
+TEST(Layers, Time_And_Boxes_And_Panels_Have_One_Door)
+{
+    EXPECT_EQ(In_Lines(Check_Doors(The_Checkout())), "");
+}
+
+// ---- The checks, on made-up houses
+
+TEST(Layer_Rules, The_Table_Goes_Upwards_Only)
+{
+    std::vector<std::string> below;
+    for (const Room& room : Rooms()) {
+        for (const auto& other : room.may_include)
+            EXPECT_THAT(below, testing::Contains(other)) << room.folder;
+        below.push_back(room.folder);
+    }
+    EXPECT_THAT(Rooms().front().may_include, IsEmpty());
+    EXPECT_EQ(below, (std::vector<std::string>{"platform", "app/basics", "pdu", "device", "app/shared", "exclusion",
+                                               "stores", "dialogs", "wizard", "sending", "app"}));
+}
+
+TEST(Layer_Rules, The_Deepest_Room_Counts)
+{
+    EXPECT_EQ(Room_Of("src/app/shared/Globals.h"), "app/shared");
+    EXPECT_EQ(Room_Of("src/app/Start.cpp"), "app");
+    EXPECT_EQ(Room_Of("src/apple/Pie.cpp"), "");
+    EXPECT_EQ(Room_Of("phone/Line.cpp"), "");
+}
+
+TEST(Layer_Rules, An_Include_That_Runs_Uphill_Is_Named_With_File_And_Line)
+{
+    const Source_Tree tree{{"src/pdu/A.h", {"#pragma once", "#include \"device/B.h\""}},
+                           {"src/device/B.h", {"#include \"pdu/A.h\"", "#include <platform/C.h>"}},
+                           {"src/platform/C.h", {"#include <app/Top.h>"}},
+                           {"src/app/Top.h", {"#include \"pdu/A.h\"", "#include <vector>"}}};
+    EXPECT_THAT(Check_Rooms(tree), ElementsAre("src/pdu/A.h:2: pdu must not include device/B.h",
+                                               "src/platform/C.h:1: platform must not include app/Top.h"));
+}
+
+TEST(Layer_Rules, An_Include_Must_Name_A_File_From_The_Top_Of_The_Sources)
+{
+    const Source_Tree tree{{"src/pdu/A.h", {}},
+                           {"src/pdu/B.cpp",
+                            {"#include \"A.h\"", "#include \"phone/A.h\"", "#include \"tests/support/User.h\"",
+                             "#include \"pdu/A.h\"", "#include <algorithm>"}},
+                           {"src/odd/C.cpp", {}}};
+    EXPECT_THAT(Check_Rooms(tree),
+                ElementsAre("src/odd/C.cpp:1: stands in no room", "src/pdu/B.cpp:1: \"A.h\" is no file of src/",
+                            "src/pdu/B.cpp:2: \"phone/A.h\" is no file of src/",
+                            "src/pdu/B.cpp:3: \"tests/support/User.h\" is no file of src/"));
+}
+
+TEST(Layer_Rules, What_The_Build_Makes_Is_Made_From_A_Neighbour)
+{
+    const Source_Tree tree{{"src/wizard/W.ui", {"<ui/>"}},
+                           {"src/wizard/W.cpp", {"#include \"ui_W.h\"", "#include \"W.moc\"", "#include \"ui_X.h\""}},
+                           {"src/sending/S.cpp", {"#include \"ui_W.h\"", "#include \"W.moc\""}}};
+    EXPECT_THAT(Check_Rooms(tree), ElementsAre("src/sending/S.cpp:1: \"ui_W.h\" is no file of src/",
+                                               "src/sending/S.cpp:2: \"W.moc\" is no file of src/",
+                                               "src/wizard/W.cpp:3: \"ui_X.h\" is no file of src/"));
+}
+
+TEST(Layer_Rules, A_Room_Links_What_It_Includes_And_Nothing_Above_It)
+{
+    const Source_Tree tree{
+        {"src/platform/CMakeLists.txt", {"corvane_room(platform WIDGETS)"}},
+        {"src/app/basics/CMakeLists.txt", {"corvane_room(basics # LINKS corvane_platform", " LINKS corvane_shared)"}},
+        {"src/platform/P.h", {}},
+        {"src/app/basics/B.cpp", {"#include \"platform/P.h\""}}};
+    EXPECT_THAT(Check_Links(tree),
+                ElementsAre("src/app/basics/CMakeLists.txt:1: app/basics must not link corvane_shared",
+                            "src/app/basics/B.cpp:1: app/basics includes platform but does not link it"));
+}
+
+TEST(Layer_Rules, A_Circle_Is_Found_However_Long)
+{
+    const Source_Tree tree{{"src/pdu/A.h", {"#include \"pdu/B.h\""}},
+                           {"src/pdu/B.h", {"", "#include \"pdu/C.h\""}},
+                           {"src/pdu/C.h", {"#include \"pdu/D.h\"", "#include \"pdu/A.h\""}},
+                           {"src/pdu/D.h", {}},
+                           {"phone/E.h", {"#include \"phone/E.h\""}}};
+    EXPECT_THAT(Check_Circles(tree), ElementsAre("phone/E.h:1: closes a circle back to phone/E.h",
+                                                 "src/pdu/C.h:2: closes a circle back to src/pdu/A.h"));
+}
+
+TEST(Layer_Rules, Two_Ways_To_One_File_Are_No_Circle)
+{
+    const Source_Tree tree{{"src/pdu/A.h", {"#include \"pdu/B.h\"", "#include \"pdu/C.h\""}},
+                           {"src/pdu/B.h", {"#include \"pdu/C.h\""}},
+                           {"src/pdu/C.h", {}}};
+    EXPECT_THAT(Check_Circles(tree), IsEmpty());
+}
+
+TEST(Layer_Rules, The_Phone_Knows_Neither_Sources_Nor_Tests_Nor_Qt)
+{
+    const Source_Tree tree{{"src/pdu/PDU.h", {}},
+                           {"tests/support/User.h", {}},
+                           {"phone/Line.h", {}},
+                           {"phone/Line.cpp",
+                            {"#include \"phone/Line.h\"", "#include <string>", "#include \"pdu/PDU.h\"",
+                             "#include <QString>", "#include <QtCore/qglobal.h>", "#include \"support/User.h\"",
+                             "#include \"../src/pdu/PDU.h\"", "#include \"phone/Gone.h\"", "#include <qstring.h>"}}};
+    EXPECT_THAT(Check_Phone(tree), ElementsAre("phone/Line.cpp:3: phone must not include pdu/PDU.h",
+                                               "phone/Line.cpp:4: phone must not include Qt's QString",
+                                               "phone/Line.cpp:5: phone must not include Qt's QtCore/qglobal.h",
+                                               "phone/Line.cpp:6: phone must not include support/User.h",
+                                               "phone/Line.cpp:7: phone must not include ../src/pdu/PDU.h",
+                                               "phone/Line.cpp:8: \"phone/Gone.h\" is no file",
+                                               "phone/Line.cpp:9: phone must not include Qt's qstring.h"));
+}
+
+TEST(Layer_Rules, Seven_Hundred_Lines_Are_Enough)
+{
+    const Source_Tree tree{{"src/pdu/Long.cpp", std::vector<std::string>(700, "x")},
+                           {"src/pdu/Longer.cpp", std::vector<std::string>(701, "x")},
+                           {"src/pdu/Form.ui", std::vector<std::string>(2000, "x")}};
+    EXPECT_THAT(Check_Sizes(tree), ElementsAre("src/pdu/Longer.cpp:701: goes on beyond 700 lines"));
+}
+
+TEST(Layer_Rules, A_Forbidden_Call_Is_Found_In_Each_Of_Its_Forms)
+{
+    const std::vector<std::string> forbidden{
+        "sleep(1);",
+        "::usleep (1);",
+        "if (nanosleep(&a, &b) == 0)",
+        "std::this_thread::sleep_for(1s);",
+        "this_thread::sleep_until(then);",
+        "return poll(&p, 1, 0);",
+        "ready = ::select(1, &s, nullptr, nullptr, nullptr);",
+        "QThread::sleep(1);",
+        "QThread::msleep(1);",
+        "QMessageBox box;",
+        "QFileDialog::getOpenFileName();",
+        "QDateTime::currentDateTime();",
+        "QDate::currentDate()",
+        "std::chrono::steady_clock::now();",
+        "auto now = time(nullptr);",
+    };
+    for (const auto& line : forbidden) {
+        const Source_Tree tree{{"src/sending/S.cpp", {"", line}}};
+        const auto complaints = Check_Doors(tree);
+        ASSERT_EQ(complaints.size(), 1U) << line << "\n" << In_Lines(complaints);
+        EXPECT_THAT(complaints[0], testing::StartsWith("src/sending/S.cpp:2: ")) << line;
+    }
+}
+
+TEST(Layer_Rules, What_Only_Looks_Like_A_Forbidden_Call_Is_None)
+{
+    const Source_Tree tree{
+        {"src/sending/S.cpp",
+         {"// sleep(1) would hold everything up", "/* QMessageBox", "QFileDialog */ int a;",
+          "const char* text = \"select(1) \\\" sleep(1)\";", "model->select(index);", "selection.select(index);",
+          "Rows::select(index);", "int big = 1'000'000; // poll(", "auto raw = R\"x(sleep(1)", "usleep(1) )\" )x\";",
+          "a_sleep(1);", "sleep_time = 1;", "char quote = '\"'; int b; // QMessageBox", "std::chrono::seconds(1);"}}};
+    EXPECT_EQ(In_Lines(Check_Doors(tree)), "");
+}
+
+TEST(Layer_Rules, Each_Door_Is_Open_To_Its_Own_Place_Only)
+{
+    const Source_Tree tree{{"src/platform/Waiting.cpp", {"sleep(1);", "QDate::currentDate();"}},
+                           {"src/platform/Other.cpp", {"sleep(1);", "QDate::currentDate();"}},
+                           {"src/app/shared/Message_Boxes.cpp", {"QMessageBox box;", "QFileDialog panel;"}},
+                           {"src/app/shared/File_Panels.cpp", {"QMessageBox box;", "QFileDialog panel;"}},
+                           {"tests/support/User.cpp", {"QMessageBox box;", "sleep(1);"}}};
+    EXPECT_THAT(
+        Check_Doors(tree),
+        ElementsAre("src/app/shared/File_Panels.cpp:1: QMessageBox belongs into src/app/shared/Message_Boxes.cpp",
+                    "src/app/shared/Message_Boxes.cpp:2: QFileDialog belongs into src/app/shared/File_Panels.cpp",
+                    "src/platform/Other.cpp:2: currentDate belongs into src/platform/Waiting."));
+}

@@ -1,0 +1,187 @@
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "Measured.h"
+#include "Text_Printing.h"
+#include "pdu/PDU.h"
+#include "phone/Submit_Decoder.h"
+
+// What people type, encoded here, and what a handset shows of it, decoded by the phone from the standards alone.
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString To = u"0123456789"_s;
+
+// The frame as the phone understands it; a malformed one fails the test.
+Handset::Submit_Frame Received(const QString& pdu)
+{
+    const Handset::Submit_Result result = Handset::Decode_Submit(pdu.toStdString());
+    EXPECT_TRUE(result.m_frame.has_value()) << result.m_reason << ": " << pdu.toStdString();
+    return result.m_frame.value_or(Handset::Submit_Frame());
+}
+
+QString Shown_Single(const QString& typed, bool unicode = false)
+{
+    const Handset::Submit_Frame frame = Received(PDU().EncodePDU(typed, To, QString(), 0, true, false, unicode));
+    return QString::fromStdString(frame.Text());
+}
+
+// Parts joined as a handset joins them: by their units, so that what a cut took apart is whole again.
+QString Shown_Long(const QString& typed, bool unicode = false)
+{
+    const qsizetype in_a_part = unicode ? 66 : 152;
+    const int total = static_cast<int>((typed.size() + in_a_part - 1) / in_a_part);
+    const PDU pdu;
+    Handset::Coding_Scheme coding;
+    std::vector<std::uint8_t> units;
+    for (int part = 1; part <= total; ++part) {
+        const Handset::Submit_Frame frame =
+            Received(pdu.Encode_UDH_PDU(typed, To, QString(), 0, true, false, total, part, unicode));
+        const Handset::Concatenation concatenation = frame.m_concatenation.value_or(Handset::Concatenation());
+        EXPECT_TRUE(frame.m_concatenation.has_value() && concatenation.m_wide);
+        EXPECT_EQ(concatenation.m_reference, 0);
+        EXPECT_EQ(concatenation.m_parts, total);
+        EXPECT_EQ(concatenation.m_part, part);
+        coding = frame.m_coding;
+        units.insert(units.end(), frame.m_units.begin(), frame.m_units.end());
+    }
+    return QString::fromStdString(Handset::Shown_Text(coding.m_alphabet, units));
+}
+
+// Letters and digits, which every alphabet here leaves as they are.
+QString Plain_Text(qsizetype length)
+{
+    const QString letters = u"The quick brown fox jumps over the lazy dog 0123456789.\n"_s;
+    return letters.repeated(length / letters.size() + 1).first(length);
+}
+
+struct Typed_And_Shown
+{
+    QString typed;
+    QString shown;
+};
+
+} // namespace
+
+TEST(Round_Trip, Every_Character_Of_The_Alphabet_Is_Shown_As_This_Table_Says)
+{
+    const QString as_typed = u"@£$¥èéìòÇØøÅåΔ_ΦΓ^ΩΠΨΣΘΞÆæßÉ!#¤%&{}*+,-.\\:;[=]~?|ÄÖÑÜ§äñüà"
+                             "ABCXYZabcxyz0123456789 \n\r\"'()/<>"_s;
+    for (const QChar character : as_typed)
+        EXPECT_EQ(Shown_Single(QString(character)), QString(character));
+    EXPECT_EQ(Shown_Single(as_typed), as_typed);
+
+    const std::vector<Typed_And_Shown> otherwise = {
+        {u"ú"_s, u"ù"_s}, {u"“"_s, u"\""_s}, {u"‘"_s, u"'"_s}, {u"¡"_s, u"@"_s}, {u"¿"_s, u"€"_s}, {u"ö"_s, u"¡"_s},
+    };
+    for (const Typed_And_Shown& row : otherwise)
+        EXPECT_EQ(Shown_Single(row.typed), row.shown) << row.typed.toStdString();
+}
+
+TEST(Round_Trip, Every_Character_Without_A_Row_Is_Shown_As_This_Table_Says)
+{
+    const std::vector<Typed_And_Shown> rows = {
+        {u"`"_s, u"¿"_s},
+        {u"€"_s, u","_s},
+        {u"ù"_s, u"y"_s},
+        {u"\f"_s, u"ø"_s},
+        {u"\t"_s, u"Ç"_s},
+        {QString(QChar(u'\0')), u"@"_s},
+        {u"\x7F"_s, u"à"_s},
+        {u"Λ"_s, u" "_s}, // its low seven bits are the escape code, here with nothing after it
+        {u"Λe"_s, u"€"_s},
+        {u"”"_s, u"æ"_s},
+        {u"’"_s, u"Θ"_s},
+        {u"á"_s, u"a"_s},
+        {u"â"_s, u"b"_s},
+        {u"ç"_s, u"g"_s},
+        {u"ê"_s, u"j"_s},
+        {u"í"_s, u"m"_s},
+        {u"ó"_s, u"s"_s},
+        {u"À"_s, u"¡"_s},
+        {u"ŀ"_s, u"@"_s},
+        {u"ż"_s, u"¡"_s},
+        {u"中"_s, u"-"_s},
+        {u"Ж"_s, u"Π"_s},
+        {u"\U0001F600"_s, u"=@"_s},
+        {QString(QChar(0xD83D)), u"="_s},
+    };
+    for (const Typed_And_Shown& row : rows)
+        EXPECT_EQ(Shown_Single(row.typed), row.shown) << row.typed.toStdString();
+}
+
+TEST(Round_Trip, A_Long_Messages_Characters_Are_Shown_As_This_Table_Says)
+{
+    const QString as_typed = u"@!\"#%&'()*+,-./0123456789:;<=>?ABCXYZabcxyz \n\r"_s;
+    for (const QChar character : as_typed)
+        EXPECT_EQ(Shown_Long(QString(character)), QString(character));
+
+    const std::vector<Typed_And_Shown> otherwise = {
+        {u"$"_s, u"¤"_s}, {u"["_s, u"Ä"_s}, {u"\\"_s, u"Ö"_s}, {u"]"_s, u"Ñ"_s}, {u"^"_s, u"Ü"_s}, {u"_"_s, u"§"_s},
+        {u"`"_s, u"¿"_s}, {u"{"_s, u"ä"_s}, {u"|"_s, u"¡"_s},  {u"}"_s, u"ñ"_s}, {u"~"_s, u"ü"_s}, {u"£"_s, u"#"_s},
+        {u"¡"_s, u"!"_s}, {u"¿"_s, u"?"_s}, {u"Ä"_s, u"D"_s},  {u"ß"_s, u"§"_s}, {u"à"_s, u"¿"_s}, {u"ä"_s, u"d"_s},
+        {u"è"_s, u"h"_s}, {u"é"_s, u"i"_s}, {u"ö"_s, u"v"_s},  {u"ü"_s, u"ö"_s}, {u"Ω"_s, u")"_s}, {u"€"_s, u","_s},
+        {u"ŀ"_s, u"¡"_s}, {u"ż"_s, u"ö"_s}, {u"中"_s, u"-"_s},
+    };
+    for (const Typed_And_Shown& row : otherwise)
+        EXPECT_EQ(Shown_Long(row.typed), row.shown) << row.typed.toStdString();
+}
+
+TEST(Round_Trip, Ucs2_Shows_Everything_As_Typed_But_Half_A_Pair)
+{
+    const QString typed = u"@|¡¿öù€Λ`中Жש\U0001F600\n[]{}"_s;
+    EXPECT_EQ(Shown_Single(typed, true), typed);
+    EXPECT_EQ(Shown_Long(typed, true), typed);
+    EXPECT_EQ(Shown_Single(u"a"_s + QChar(0xD83D) + u"b"_s, true), u"a\uFFFDb"_s);
+    EXPECT_EQ(Shown_Single(u"a"_s + QChar(0xDE00), true), u"a\uFFFD"_s);
+}
+
+TEST(Round_Trip, A_Pair_Cut_In_Two_By_The_End_Of_A_Part_Is_Whole_Again_When_Joined)
+{
+    const QString typed = Plain_Text(65) + u"\U0001F600 and on"_s;
+    EXPECT_EQ(Shown_Long(typed, true), typed);
+}
+
+TEST(Round_Trip, Single_Messages_Of_Every_Length_Are_Shown_As_Typed)
+{
+    for (qsizetype length = 0; length <= 160; ++length)
+        EXPECT_EQ(Shown_Single(Plain_Text(length)), Plain_Text(length)) << length;
+    for (qsizetype length = 0; length <= 70; ++length)
+        EXPECT_EQ(Shown_Single(Plain_Text(length), true), Plain_Text(length)) << length;
+}
+
+TEST(Round_Trip, Long_Messages_Of_Every_Length_Are_Shown_As_Typed_But_For_The_Trailing_At)
+{
+    for (qsizetype length = 1; length <= 1600; ++length) {
+        const bool one_too_many = length % 152 % 8 == 7;
+        ASSERT_EQ(Shown_Long(Plain_Text(length)), Plain_Text(length) + (one_too_many ? u"@"_s : QString())) << length;
+        ASSERT_EQ(Shown_Long(Plain_Text(length), true), Plain_Text(length)) << length;
+    }
+}
+
+TEST(Round_Trip, Every_Field_Arrives_As_It_Was_Given)
+{
+    const PDU pdu;
+    for (const QString& smsc : {QString(), u"05550009999"_s, u"+15550009999"_s}) {
+        for (const QString& to : {u"1"_s, u"0123456789"_s, u"0015550001234"_s, u"+15550001234"_s}) {
+            for (int flags = 0; flags < 4; ++flags) {
+                const bool flash = (flags & 1) != 0;
+                const bool unicode = (flags & 2) != 0;
+                const QString text = pdu.EncodePDU(u"Hello"_s, to, smsc, 0, true, flash, unicode);
+                const Handset::Submit_Frame frame = Received(text);
+                EXPECT_EQ(QString::fromStdString(frame.m_smsc), smsc);
+                EXPECT_EQ(QString::fromStdString(frame.m_number), to);
+                EXPECT_EQ(QString::fromStdString(frame.Text()), u"Hello"_s);
+                EXPECT_EQ(frame.m_coding.m_class, flash ? 0 : -1);
+                EXPECT_EQ(frame.m_coding.m_alphabet, unicode ? Handset::Alphabet::Ucs2 : Handset::Alphabet::Gsm_7_Bit);
+                EXPECT_EQ(frame.m_validity, std::vector<std::uint8_t>{0xFF});
+                EXPECT_EQ(frame.m_protocol, 0);
+                EXPECT_EQ(frame.m_message_reference, 0);
+                EXPECT_EQ(static_cast<qsizetype>(frame.m_tpdu_octets), Measured(text, smsc));
+            }
+        }
+    }
+}

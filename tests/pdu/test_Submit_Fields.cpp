@@ -1,0 +1,68 @@
+#include <functional>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "Text_Printing.h"
+#include "pdu/Submit_Fields.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Field
+{
+    QString octets;
+    std::function<void(Hex_Writer&)> put;
+};
+
+} // namespace
+
+TEST(Submit_Fields, Each_Writes_Its_Own_Octets_And_No_More)
+{
+    const std::vector<Field> fields = {
+        {u"11"_s, [](Hex_Writer& writer) { Put_First_Octet(writer, false); }},
+        {u"51"_s, [](Hex_Writer& writer) { Put_First_Octet(writer, true); }},
+        {u"00"_s, Put_Message_Reference},
+        {u"00"_s, Put_Pid},
+        {u"00"_s, [](Hex_Writer& writer) { Put_Dcs(writer, false, false); }},
+        {u"10"_s, [](Hex_Writer& writer) { Put_Dcs(writer, true, false); }},
+        {u"08"_s, [](Hex_Writer& writer) { Put_Dcs(writer, false, true); }},
+        {u"18"_s, [](Hex_Writer& writer) { Put_Dcs(writer, true, true); }},
+        {u"FF"_s, Put_Validity},
+        {u"A0"_s, [](Hex_Writer& writer) { Put_Udl(writer, 160); }},
+        {u"40"_s, [](Hex_Writer& writer) { Put_Udl(writer, 1600); }},
+        {u"06080400000B0A"_s,
+         [](Hex_Writer& writer) {
+             Put_Concatenation(writer, {11, 10});
+         }},
+        {u"00"_s, [](Hex_Writer& writer) { Put_Address(writer, {}, Address_Length::Digits); }},
+        {u"039121F3"_s, [](Hex_Writer& writer) { Put_Address(writer, u"+123", Address_Length::Digits); }},
+        {u"04812143F5"_s, [](Hex_Writer& writer) { Put_Address(writer, u"12345", Address_Length::Octets_And_Type); }},
+        {u"0011000181F10000FF07"_s,
+         [](Hex_Writer& writer) {
+             Put_Head(writer, {u"", u"1", false, false, false}, 7);
+         }},
+        {u"0281F15100000018FF07"_s,
+         [](Hex_Writer& writer) {
+             Put_Head(writer, {u"1", u"", true, true, true}, 7);
+         }},
+    };
+    for (size_t row = 0; row < fields.size(); ++row) {
+        Hex_Writer writer(fields[row].octets.size());
+        fields[row].put(writer);
+        EXPECT_EQ(writer.Take(), fields[row].octets) << "row " << row;
+    }
+}
+
+TEST(Submit_Fields, The_Room_Asked_For_Is_Enough_For_Any_Addresses)
+{
+    for (qsizetype length = 0; length <= 600; ++length) {
+        const QString number = QString(length, u'1');
+        for (const QString& address : {number, u'+' + number}) {
+            const Submit_Head head{address, address, true, true, true};
+            Hex_Writer writer(Head_Room(head));
+            EXPECT_NO_THROW(Put_Head(writer, head, 0)) << length;
+        }
+    }
+}

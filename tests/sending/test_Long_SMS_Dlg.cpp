@@ -1,0 +1,119 @@
+#include "app/shared/Shared_Instance.h"
+#include "app/shared/Window_Look.h"
+#include "platform/Pace.h"
+#include "platform/Waiting.h"
+#include "sending/Composer_Rules.h"
+#include "sending/Notice_Reader.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace {
+
+class Long_SMS_Dlg_Test : public testing::Test
+{
+protected:
+    Long_SMS_Dlg_Test()
+    {
+        Set_Pace(1000);
+        m_over.resize(800, 600);
+        m_over.show();
+    }
+    ~Long_SMS_Dlg_Test() override
+    {
+        End_Shared_Instances();
+        Set_Pace(1);
+    }
+
+    QWidget m_over;
+    Notice_Reader m_reader;
+};
+
+TEST_F(Long_SMS_Dlg_Test, It_Shows_The_Text_And_The_Unicode_Box_As_They_Are)
+{
+    for (const bool unicode : {true, false, true}) {
+        m_reader.m_meanwhile = [unicode](Long_SMS_Dlg& dialog) {
+            const auto* box = dialog.findChild<QCheckBox*>(QStringLiteral("_Unicode_SMS_Chk"));
+            EXPECT_EQ(box->isChecked(), unicode);
+            EXPECT_FALSE(box->isEnabled());
+            EXPECT_TRUE(dialog.isModal());
+        };
+        Long_SMS_Dlg::defaultInstance()->Open_Dialog(&m_over, unicode);
+        EXPECT_EQ(m_reader.m_texts.back(), Composer_Rules::Long_SMS_Text(unicode));
+    }
+}
+
+TEST_F(Long_SMS_Dlg_Test, Whichever_Way_It_Is_Closed_It_Ends_With_One)
+{
+    const std::function<void(Long_SMS_Dlg&)> ways[] = {
+        [](Long_SMS_Dlg& dialog) { QTest::mouseClick(dialog.findChild<QPushButton*>("OKPressed"), Qt::LeftButton); },
+        [](Long_SMS_Dlg& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); },
+        [](Long_SMS_Dlg& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); },
+        [](Long_SMS_Dlg& dialog) { dialog.close(); },
+    };
+    for (const auto& way : ways) {
+        m_reader.m_meanwhile = [&](Long_SMS_Dlg& dialog) {
+            way(dialog);
+            EXPECT_FALSE(dialog.isVisible());
+        };
+        Long_SMS_Dlg::defaultInstance()->Open_Dialog(&m_over, false);
+        EXPECT_EQ(Long_SMS_Dlg::defaultInstance()->result(), 1);
+    }
+    EXPECT_EQ(m_reader.m_texts.size(), 4);
+}
+
+TEST_F(Long_SMS_Dlg_Test, It_Opens_A_Second_After_It_Was_Asked_For)
+{
+    Set_Pace(10);
+    double opened = 0;
+    m_reader.m_meanwhile = [&](Long_SMS_Dlg&) { opened = Now_Seconds(); };
+    const double begin = Now_Seconds();
+    Long_SMS_Dlg::defaultInstance()->Open_Dialog(&m_over, false);
+    EXPECT_GE(opened - begin, 0.099);
+}
+
+TEST_F(Long_SMS_Dlg_Test, Asked_For_Again_While_It_Waits_Or_Is_Open_It_Opens_Once)
+{
+    Set_Pace(10);
+    QTimer::singleShot(20, &m_over, [this] { Long_SMS_Dlg::defaultInstance()->Open_Dialog(&m_over, true); });
+    m_reader.m_meanwhile = [this](Long_SMS_Dlg& dialog) { dialog.Open_Dialog(&m_over, true); };
+    Long_SMS_Dlg::defaultInstance()->Open_Dialog(&m_over, false);
+    EXPECT_EQ(m_reader.m_texts, QStringList{Composer_Rules::Long_SMS_Text(false)});
+}
+
+TEST_F(Long_SMS_Dlg_Test, Once_The_Program_Is_Exiting_It_Does_Not_Open)
+{
+    Begin_Program_Exit();
+    Long_SMS_Dlg::defaultInstance()->Open_Dialog(&m_over, false);
+    Forget_Program_Exit();
+    EXPECT_TRUE(m_reader.m_texts.isEmpty());
+}
+
+TEST_F(Long_SMS_Dlg_Test, Its_Text_Fits_And_It_Has_The_Programs_Background)
+{
+    m_reader.m_meanwhile = [](Long_SMS_Dlg& dialog) {
+        const auto* text = dialog.findChild<QLabel*>(QStringLiteral("_Msg_Val"));
+        EXPECT_GE(text->height(), text->heightForWidth(text->width()));
+        EXPECT_TRUE(dialog.rect().contains(text->geometry()));
+        EXPECT_EQ(dialog.palette().color(QPalette::Window), Window_Background());
+    };
+    for (const bool unicode : {false, true})
+        Long_SMS_Dlg::defaultInstance()->Open_Dialog(&m_over, unicode);
+    EXPECT_EQ(m_reader.m_texts.size(), 2);
+}
+
+TEST_F(Long_SMS_Dlg_Test, There_Is_One_Instance_And_It_Is_Made_Anew_After_Its_Window_Has_Gone)
+{
+    auto over = std::make_unique<QWidget>();
+    Long_SMS_Dlg* first = Long_SMS_Dlg::defaultInstance();
+    EXPECT_EQ(first, Long_SMS_Dlg::defaultInstance());
+    first->setParent(over.get(), first->windowFlags());
+    over.reset();
+    Long_SMS_Dlg::defaultInstance()->Open_Dialog(&m_over, false);
+    EXPECT_EQ(m_reader.m_texts.size(), 1);
+}
+
+} // namespace
