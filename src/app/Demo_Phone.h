@@ -17,6 +17,7 @@ public:
     /// Starts the phone program and waits, five seconds at the most, for the path of its line. Returns the path, or an empty
     /// text when there is none; Error() then says why.
     QString Start(const QString& program);
+    QString Path() const { return m_path; }
     QString Error() const { return m_error; }
 
 Q_SIGNALS:

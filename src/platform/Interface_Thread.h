@@ -8,7 +8,7 @@ class QObject;
 // workers themselves: a thread that was started here is joined in an orderly way, and whoever waits for it goes on
 // serving it.
 
-/// Whether the calling thread is the one that owns the windows (or there is no application object to own any).
+/// Whether the calling thread is the one that owns the windows; none is while there is no application object.
 bool Is_Interface_Thread();
 
 /// Runs a step on the interface thread and returns when it is done; runs it directly when called there. What the step

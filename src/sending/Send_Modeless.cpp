@@ -54,6 +54,7 @@ Send_Modeless::Send_Modeless(QWidget* parent) : Modal_Sheet(parent), m_ui(std::m
     m_ui->setupUi(this);
     Apply_Window_Look(*this);
     Make_Room_For_Texts();
+    msend_modTimer.setObjectName(QStringLiteral("msend_modTimer"));
     connect(m_ui->_stop_btn, &QPushButton::clicked, this, &Send_Modeless::Stop_Sending_Pressed);
     connect(&msend_modTimer, &QTimer::timeout, this, &Send_Modeless::Timer_Curr_Prg_Send_Modeless);
 }

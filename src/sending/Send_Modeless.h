@@ -42,5 +42,5 @@ private:
     void Show_Sending_Controls(bool visible);
 
     std::unique_ptr<Ui::Send_Modeless> m_ui;
-    QTimer msend_modTimer;
+    QTimer msend_modTimer{this};
 };

@@ -76,11 +76,8 @@ protected:
             numbers.append(m_delegate->Recipients().At(row).Number);
         return numbers;
     }
-    /// Activation comes back a moment after a box has closed.
-    bool Has_Focus(const char* name)
-    {
-        return Serve_Until([&] { return The<QWidget>(name).hasFocus(); }, 2);
-    }
+    /// Whether keys go to the control once the window is in front, which only a desktop sees to.
+    bool Has_Focus(const char* name) { return m_delegate->focusWidget() == &The<QWidget>(name); }
     void Select_Rows(const std::vector<int>& rows)
     {
         auto& table = The<QTableView>("idTableView");

@@ -1,9 +1,11 @@
 #include "app/shared/Globals.h"
 #include "app/shared/Shared_Instance.h"
+#include "pdu/Text_Printing.h"
 #include "platform/Pace.h"
 #include "platform/Waiting.h"
 #include "sending/Composer.h"
 #include "sending/Composer_Rules.h"
+#include "sending/Message_Edit.h"
 #include "sending/Notice_Reader.h"
 
 #include <QCheckBox>
@@ -58,7 +60,7 @@ protected:
     }
 
     QWidget m_window;
-    QPlainTextEdit m_edit;
+    Message_Edit m_edit;
     QLabel m_counter;
     QCheckBox m_unicode;
     Composer m_composer;
@@ -157,18 +159,38 @@ TEST_F(Composer_Test, Undoing_A_Paste_That_Was_Cut_Brings_Back_What_Stood_There_
     EXPECT_EQ(m_composer.Text(), QString(100, u'a') + QString(1500, u'b'));
 }
 
-TEST_F(Composer_Test, A_Paste_Of_100000_Characters_Is_Cut_Without_A_Pause_Anyone_Notices)
+TEST_F(Composer_Test, A_Huge_Paste_Leaves_Its_First_1600_Characters_And_Holds_Up_Nothing)
 {
-    const double begin = Now_Seconds();
-    Paste(QString(100000, u'a'));
-    EXPECT_LT(Now_Seconds() - begin, 2.0);
-    EXPECT_EQ(m_composer.Text(), QString(1600, u'a'));
     QString lines;
     for (int line = 0; line < 50000; ++line)
-        lines += QStringLiteral("x\n");
-    m_edit.selectAll();
-    Paste(lines);
-    EXPECT_EQ(m_composer.Text(), lines.left(1600));
+        lines += QStringLiteral("x\r\n");
+    QString expected_lines;
+    for (int line = 0; line < 800; ++line)
+        expected_lines += QStringLiteral("x\n");
+    for (const auto& [pasted, kept] :
+         {std::pair(QString(100000, u'a'), QString(1600, u'a')), std::pair(QString(1000000, u'b'), QString(1600, u'b')),
+          std::pair(lines, expected_lines)}) {
+        m_edit.selectAll();
+        const double begin = Now_Seconds();
+        Paste(pasted);
+        EXPECT_LT(Now_Seconds() - begin, 0.5);
+        EXPECT_EQ(m_composer.Text(), kept);
+        EXPECT_EQ(m_counter.text(), QStringLiteral("1600 Characters (Each Message will now consume 10 SMS)"));
+    }
+}
+
+TEST_F(Composer_Test, A_Huge_Paste_In_The_Middle_Keeps_What_Stood_Before_It)
+{
+    m_composer.Set_Text(QStringLiteral("before|after"));
+    Put_Cursor(7);
+    Paste(QString(100000, u'x'));
+    EXPECT_EQ(m_composer.Text(), QStringLiteral("before|") + QString(1593, u'x'));
+}
+
+TEST_F(Composer_Test, A_Huge_Text_That_Comes_Past_The_Area_Is_Cut_As_Well)
+{
+    m_edit.insertPlainText(QString(100000, u'a'));
+    EXPECT_EQ(m_composer.Text(), QString(1600, u'a'));
 }
 
 TEST_F(Composer_Test, Typing_At_The_End_Of_1600_Characters_Changes_Nothing_And_Is_Instant)

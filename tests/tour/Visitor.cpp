@@ -67,14 +67,16 @@ void Visitor::Click(const QString& window, const QString& control)
     });
 }
 
-void Visitor::Click_Row(const QString& window, const QString& table, int row)
+void Visitor::Click_Row_With(const QString& window, const QString& table, const QString& text)
 {
-    Await_Until(QStringLiteral("row %1 in ").arg(row) + table, [&] {
-        return Table(window, table).model()->rowCount() > row;
-    });
+    const auto find = [=] {
+        const auto* rows = Table(window, table).model();
+        return rows->match(rows->index(0, 1), Qt::DisplayRole, text, 1, Qt::MatchExactly);
+    };
+    Await_Until(text + QStringLiteral(" in ") + table, [&] { return !find().isEmpty(); });
     Post_To_Interface_Thread(qApp, [=] {
         auto& view = Table(window, table);
-        QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.visualRect(view.model()->index(row, 0)).center());
+        QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.visualRect(find().constFirst()).center());
     });
 }
 

@@ -21,7 +21,8 @@ public:
     void Await_Until(const QString& what, const std::function<bool()>& is_so);
 
     void Click(const QString& window, const QString& control);
-    void Click_Row(const QString& window, const QString& table, int row);
+    /// Clicks the row that has the text in its second column.
+    void Click_Row_With(const QString& window, const QString& table, const QString& text);
     void Type(const QString& window, const QString& control, const QString& text);
     /// Presses a button of the message box on top.
     void Press_In_Box(const QString& button);

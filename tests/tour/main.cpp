@@ -8,7 +8,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLabel>
-#include <QLineEdit>
 #include <QTemporaryDir>
 #include <cstdio>
 #include <thread>
@@ -35,14 +34,14 @@ const QString Short_Text = QStringLiteral("Choir practice moves to Thursday at 7
 const QString Long_Text_End = QStringLiteral(" The concert is on Saturday the 12th: doors open at 6, we sing at 7:30, and there "
                                              "is soup afterwards for everyone who helps with the chairs.");
 
-void Choose_The_Phone(Visitor& visitor)
+void Choose_The_Phone(Visitor& visitor, const QString& phone_path)
 {
     visitor.Take_Picture(Main, QStringLiteral("01-main-window"));
     visitor.Click(Main, QStringLiteral("_NO_Device_Ticker"));
     visitor.Take_Picture(QStringLiteral("Connection_Info"), QStringLiteral("02-connection-info"));
     visitor.Click(QStringLiteral("Connection_Info"), QStringLiteral("Continue_Btn"));
     visitor.Await(Wizard);
-    visitor.Click_Row(Wizard, QStringLiteral("idPortList"), 0);
+    visitor.Click_Row_With(Wizard, QStringLiteral("idPortList"), phone_path);
     visitor.Take_Picture(QStringLiteral("PleaseWait_Modeless"), QStringLiteral("03-please-wait"));
     visitor.Await_Gone(QStringLiteral("PleaseWait_Modeless"));
     visitor.Take_Picture(Wizard, QStringLiteral("04-device-details"));
@@ -54,10 +53,8 @@ void Add_Number(Visitor& visitor, const QString& number)
 {
     visitor.Type(Main, QStringLiteral("_numberEdit"), number);
     visitor.Click(Main, QStringLiteral("Add_Number"));
-    visitor.Await_Until(QStringLiteral("the number field to be empty"), [] {
-        const auto* field = QApplication::activeWindow()->findChild<QLineEdit*>(QStringLiteral("_numberEdit"));
-        return field && field->text().isEmpty();
-    });
+    visitor.Await_Until(QStringLiteral("the number field to be empty"),
+                        [&] { return visitor.Text_Of(Main, QStringLiteral("_numberEdit")).isEmpty(); });
 }
 
 std::vector<Message> Fill_The_List(Visitor& visitor)
@@ -118,10 +115,10 @@ void Collect(std::vector<Message>& inbox, const QByteArray& line)
         inbox.push_back({object.value(QStringLiteral("number")).toString(), object.value(QStringLiteral("text")).toString()});
 }
 
-int Walk(Visitor& visitor, const std::vector<Message>& inbox)
+int Walk(Visitor& visitor, const QString& phone_path, const std::vector<Message>& inbox)
 {
     try {
-        Choose_The_Phone(visitor);
+        Choose_The_Phone(visitor, phone_path);
         const auto written = Fill_The_List(visitor);
         Send_The_List(visitor);
         visitor.Await_Until(QStringLiteral("the phone to have everything"), [&] { return inbox.size() >= written.size(); });
@@ -165,7 +162,7 @@ int main(int argc, char** argv)
     int status = 1;
     std::thread walk([&, folder = QString::fromLocal8Bit(argv[1])] {
         Visitor visitor(folder);
-        status = Walk(visitor, inbox);
+        status = Walk(visitor, program.Phone_Of_The_Demo()->Path(), inbox);
         Run_On_Interface_Thread([&] { program.Leave(); });
     });
     program.Run();

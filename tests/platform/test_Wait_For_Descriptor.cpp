@@ -1,0 +1,185 @@
+#include "platform/Waiting.h"
+
+#include <atomic>
+#include <cerrno>
+#include <csignal>
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <poll.h>
+#include <sys/eventfd.h>
+#include <sys/resource.h>
+#include <sys/time.h>
+#include <thread>
+#include <unistd.h>
+
+namespace {
+
+class Wait_For_A_Line : public testing::Test
+{
+protected:
+    Wait_For_A_Line()
+    {
+        EXPECT_EQ(pipe2(m_ends, O_NONBLOCK | O_CLOEXEC), 0);
+        m_wake = eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC);
+    }
+
+    ~Wait_For_A_Line() override
+    {
+        Forget_Program_Exit();
+        Close_End(0);
+        Close_End(1);
+        close(m_wake);
+    }
+
+    int Reading_End() const { return m_ends[0]; }
+    int Writing_End() const { return m_ends[1]; }
+
+    void Close_End(int end)
+    {
+        if (m_ends[end] >= 0)
+            close(m_ends[end]);
+        m_ends[end] = -1;
+    }
+
+    void Say(const char* text) { EXPECT_GT(write(Writing_End(), text, strlen(text)), 0); }
+
+    int m_ends[2]{-1, -1};
+    int m_wake = -1;
+};
+
+std::atomic<int> Alarms{0};
+
+// Interrupts the thread that asked for it every two milliseconds, for as long as it lives.
+class Interruptions
+{
+public:
+    Interruptions()
+    {
+        Alarms = 0;
+        struct sigaction action = {};
+        action.sa_handler = [](int) { ++Alarms; };
+        sigaction(SIGALRM, &action, &m_old_action); // without SA_RESTART
+        const itimerval beat{{0, 2000}, {0, 2000}};
+        setitimer(ITIMER_REAL, &beat, nullptr);
+    }
+
+    ~Interruptions()
+    {
+        const itimerval none{};
+        setitimer(ITIMER_REAL, &none, nullptr);
+        sigaction(SIGALRM, &m_old_action, nullptr);
+    }
+
+private:
+    struct sigaction m_old_action = {};
+};
+
+} // namespace
+
+TEST_F(Wait_For_A_Line, Input_Is_Ready_At_Once)
+{
+    Say("OK");
+    EXPECT_EQ(Wait_For_Descriptor(Reading_End(), POLLIN, 3600), Line_Event::Ready);
+    EXPECT_EQ(Wait_For_Descriptor(Reading_End(), POLLIN, 0), Line_Event::Ready);
+    EXPECT_EQ(Wait_For_Descriptor(Reading_End(), POLLIN, -1), Line_Event::Ready);
+}
+
+TEST_F(Wait_For_A_Line, Silence_Lasts_The_Whole_Time)
+{
+    const double start = Now_Seconds();
+    EXPECT_EQ(Wait_For_Descriptor(Reading_End(), POLLIN, 0.05), Line_Event::Timed_Out);
+    EXPECT_GE(Now_Seconds() - start, 0.05);
+    EXPECT_EQ(Wait_For_Descriptor(Reading_End(), POLLIN, 0), Line_Event::Timed_Out);
+}
+
+TEST_F(Wait_For_A_Line, A_Wait_Without_End_Ends_With_Input)
+{
+    std::thread speaker([this] { Say("RING"); });
+    EXPECT_EQ(Wait_For_Descriptor(Reading_End(), POLLIN, -1), Line_Event::Ready);
+    speaker.join();
+}
+
+TEST_F(Wait_For_A_Line, A_Second_Descriptor_Wakes_It)
+{
+    std::thread waker([this] { eventfd_write(m_wake, 1); });
+    EXPECT_EQ(Wait_For_Descriptor(Reading_End(), POLLIN, -1, m_wake), Line_Event::Woken);
+    waker.join();
+    Say("OK");
+    EXPECT_EQ(Wait_For_Descriptor(Reading_End(), POLLIN, -1, m_wake), Line_Event::Ready) << "the line goes first";
+}
+
+TEST_F(Wait_For_A_Line, A_Hang_Up_Is_For_The_Next_Read_To_Tell)
+{
+    Close_End(1);
+    EXPECT_EQ(Wait_For_Descriptor(Reading_End(), POLLIN, -1), Line_Event::Ready);
+}
+
+TEST_F(Wait_For_A_Line, Room_To_Write_Is_Waited_For_With_An_End)
+{
+    EXPECT_EQ(Wait_For_Descriptor(Writing_End(), POLLOUT, 3600), Line_Event::Ready);
+    char block[4096] = {};
+    while (write(Writing_End(), block, sizeof block) > 0) {
+    }
+    EXPECT_EQ(Wait_For_Descriptor(Writing_End(), POLLOUT, 0.02), Line_Event::Timed_Out);
+    EXPECT_GT(read(Reading_End(), block, sizeof block), 0);
+    EXPECT_EQ(Wait_For_Descriptor(Writing_End(), POLLOUT, 3600), Line_Event::Ready);
+}
+
+TEST_F(Wait_For_A_Line, A_Closed_Descriptor_Fails)
+{
+    const int gone = Reading_End();
+    Close_End(0);
+    EXPECT_EQ(Wait_For_Descriptor(gone, POLLIN, -1), Line_Event::Failed);
+    EXPECT_EQ(errno, EBADF);
+}
+
+TEST_F(Wait_For_A_Line, A_Descriptor_Beyond_The_Size_Of_A_Set_Is_Fine)
+{
+    rlimit limit{};
+    ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &limit), 0);
+    limit.rlim_cur = limit.rlim_max;
+    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &limit), 0);
+    const int high = fcntl(Reading_End(), F_DUPFD_CLOEXEC, FD_SETSIZE + 100);
+    ASSERT_GT(high, FD_SETSIZE) << strerror(errno);
+    EXPECT_EQ(Wait_For_Descriptor(high, POLLIN, 0.01), Line_Event::Timed_Out);
+    Say("OK");
+    EXPECT_EQ(Wait_For_Descriptor(high, POLLIN, -1), Line_Event::Ready);
+    close(high);
+}
+
+TEST_F(Wait_For_A_Line, An_Interrupted_Wait_Goes_On_With_What_Remains)
+{
+    const Interruptions interruptions;
+    const double start = Now_Seconds();
+    EXPECT_EQ(Wait_For_Descriptor(Reading_End(), POLLIN, 0.1), Line_Event::Timed_Out);
+    EXPECT_GE(Now_Seconds() - start, 0.1);
+    EXPECT_LT(Now_Seconds() - start, 20);
+    EXPECT_GT(Alarms, 1);
+}
+
+TEST_F(Wait_For_A_Line, An_Interrupted_Wait_Still_Finds_Its_Input)
+{
+    const Interruptions interruptions;
+    std::thread speaker([this] {
+        sigset_t all;
+        sigfillset(&all);
+        pthread_sigmask(SIG_BLOCK, &all, nullptr);
+        while (Alarms < 3)
+            std::this_thread::yield();
+        Say("OK");
+    });
+    EXPECT_EQ(Wait_For_Descriptor(Reading_End(), POLLIN, -1), Line_Event::Ready);
+    speaker.join();
+}
+
+TEST_F(Wait_For_A_Line, The_Exit_Ends_A_Wait_Without_End)
+{
+    std::thread waiter([this] { EXPECT_EQ(Wait_For_Descriptor(Reading_End(), POLLIN, -1), Line_Event::Timed_Out); });
+    Begin_Program_Exit();
+    waiter.join();
+    EXPECT_EQ(Wait_For_Descriptor(Reading_End(), POLLIN, 3600), Line_Event::Timed_Out);
+    Forget_Program_Exit();
+    EXPECT_FALSE(Program_Is_Exiting());
+    Say("OK");
+    EXPECT_EQ(Wait_For_Descriptor(Reading_End(), POLLIN, 3600), Line_Event::Ready);
+}
