@@ -165,10 +165,11 @@ std::string Take_Option(Phone_Options& options, Values& left)
 
 constexpr std::string_view Help_Begin = R"(Usage: corvane-phone [option]...
 
-A GSM phone on a pseudo-terminal. It takes SMS in PDU and text mode after 3GPP TS 27.005 and shows them as a handset would.
+A GSM phone on a pseudo-terminal. It takes SMS in PDU and text mode after 3GPP TS 27.005 and shows them as a handset
+would.
 
-The first line of its output is the path of its line, to be opened as a serial device. Then comes one line of JSON for each
-SMS, {"event":"part",...}, and one for each complete message, {"event":"message",...}, with these fields:
+The first line of its output is the path of its line, to be opened as a serial device. Then comes one line of JSON for
+each SMS, {"event":"part",...}, and one for each complete message, {"event":"message",...}, with these fields:
 
   number     destination, "+" in front for an international one
   text       the text as a handset shows it

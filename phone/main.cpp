@@ -16,25 +16,48 @@
 #include <cstdint>
 #include <cstdio>
 #include <exception>
+#include <mutex>
+#include <utility>
 
 namespace {
 
 using Handset::Descriptor;
 
-// Ends the program when its output has nowhere to go.
+// Standard output, written by several threads. What comes before the first line waits for it. Ends the program when its
+// output has nowhere to go.
 class Output
 {
 public:
+    void Print_First(const std::string& line)
+    {
+        const std::lock_guard guard(m_lock);
+        Write(line + "\n" + std::exchange(m_waiting, {}));
+        m_has_begun = true;
+    }
+
     void Print(const std::string& line)
     {
-        if (std::fputs((line + "\n").c_str(), stdout) < 0 || std::fflush(stdout) != 0) {
+        const std::lock_guard guard(m_lock);
+        if (m_has_begun)
+            Write(line + "\n");
+        else
+            m_waiting += line + "\n";
+    }
+
+    int Closed() const { return m_closed.Number(); }
+
+private:
+    void Write(const std::string& text)
+    {
+        if (std::fputs(text.c_str(), stdout) < 0 || std::fflush(stdout) != 0) {
             const std::uint64_t one = 1;
             [[maybe_unused]] const auto written = ::write(m_closed.Number(), &one, sizeof one);
         }
     }
-    int Closed() const { return m_closed.Number(); }
 
-private:
+    std::mutex m_lock;
+    std::string m_waiting;
+    bool m_has_begun = false;
     Descriptor m_closed{::eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC)};
 };
 
@@ -82,7 +105,6 @@ int Run(const Handset::Phone_Options& options)
     phone.Set_Listeners({[&](const Handset_Part& part) { output.Print(Handset::Json_Line(part)); },
                          [&](const Handset_Message& message) { output.Print(Handset::Json_Line(message)); },
                          [&] { output.Print("{\"event\":\"hang-up\"}"); }});
-    output.Print(phone.Path()); // nobody knows the path before, so nothing is printed before it
     Handset::Path_Link link;
     if (!options.m_link.empty()) {
         if (const std::string error = link.Make(options.m_link, phone.Path()); !error.empty()) {
@@ -90,6 +112,7 @@ int Run(const Handset::Phone_Options& options)
             return 1;
         }
     }
+    output.Print_First(phone.Path());
     Wait_For_The_End(signals, output, options.m_until_stdin_closes);
     return 0;
 }

@@ -21,7 +21,8 @@ Demo_Phone::~Demo_Phone()
 
 QString Demo_Phone::Start(const QString& program)
 {
-    m_process.start(program, {QStringLiteral("--until-stdin-closes")});
+    const QString link = m_folder.filePath(QStringLiteral("demo-phone"));
+    m_process.start(program, {QStringLiteral("--until-stdin-closes"), QStringLiteral("--link"), link});
     const double five_real_seconds = 5.0 * Pace();
     Wait_Seconds_Unless(five_real_seconds, [this] { return !m_path.isEmpty() || m_process.state() == QProcess::NotRunning; });
     if (m_path.isEmpty())
@@ -33,8 +34,8 @@ void Demo_Phone::Read_Lines()
 {
     while (m_process.canReadLine()) {
         const QByteArray line = m_process.readLine().trimmed();
-        if (m_path.isEmpty())
-            m_path = QString::fromLocal8Bit(line);
+        if (m_path.isEmpty()) // the first line is the line's own path; the link to it has a name that tells what it is
+            m_path = m_folder.filePath(QStringLiteral("demo-phone"));
         else
             Q_EMIT Printed(line);
     }

@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QProcess>
 #include <QString>
+#include <QTemporaryDir>
 
 // The virtual phone of --demo: corvane-phone, started as a child of the program. It ends when the program does, however
 // that comes about. Owned by the program's start; interface thread.
@@ -27,6 +28,7 @@ Q_SIGNALS:
 private:
     void Read_Lines();
 
+    QTemporaryDir m_folder; // holds the link to the phone's line
     QProcess m_process;
     QString m_path;
     QString m_error;

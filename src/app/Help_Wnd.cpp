@@ -9,6 +9,7 @@ Help_Wnd::Help_Wnd(QWidget* parent)
 {
     m_ui->setupUi(this);
     Apply_Window_Look(*this);
+    m_ui->help_text->document()->setDocumentMargin(14);
     connect(m_ui->OKPressed, &QPushButton::clicked, this, &QDialog::accept);
 }
 

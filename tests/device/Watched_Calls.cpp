@@ -10,9 +10,9 @@ namespace {
 std::string Name_Of(unsigned long request)
 {
     static const std::map<unsigned long, std::string> names = {
-        {TIOCEXCL, "TIOCEXCL"},       {TIOCNXCL, "TIOCNXCL"},       {TIOCGEXCL, "TIOCGEXCL"}, {TIOCMBIS, "TIOCMBIS"},
-        {TIOCMBIC, "TIOCMBIC"},       {TIOCMSET, "TIOCMSET"},       {TIOCMGET, "TIOCMGET"},   {TIOCGSERIAL, "TIOCGSERIAL"},
-        {TIOCSSERIAL, "TIOCSSERIAL"}, {TIOCOUTQ, "TIOCOUTQ"},       {FIONREAD, "FIONREAD"},   {0x802C542AUL, "TCGETS2"},
+        {TIOCEXCL, "TIOCEXCL"},       {TIOCNXCL, "TIOCNXCL"}, {TIOCGEXCL, "TIOCGEXCL"}, {TIOCMBIS, "TIOCMBIS"},
+        {TIOCMBIC, "TIOCMBIC"},       {TIOCMSET, "TIOCMSET"}, {TIOCMGET, "TIOCMGET"},   {TIOCGSERIAL, "TIOCGSERIAL"},
+        {TIOCSSERIAL, "TIOCSSERIAL"}, {TIOCOUTQ, "TIOCOUTQ"}, {FIONREAD, "FIONREAD"},   {0x802C542AUL, "TCGETS2"},
         {0x402C542BUL, "TCSETS2"}};
     const auto row = names.find(request);
     return row == names.end() ? "request " + std::to_string(request) : row->second;

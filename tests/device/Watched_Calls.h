@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-/// The real system calls, with every step on the line noted by its name, and any of them made to fail or to answer something
-/// else. Waiting is not noted. Any thread.
+/// The real system calls, with every step on the line noted by its name, and any of them made to fail or to answer
+/// something else. Waiting is not noted. Any thread.
 class Watched_Calls : public Serial_Calls
 {
 public:

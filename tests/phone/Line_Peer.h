@@ -19,7 +19,7 @@ public:
     // True when the line took all of it at once.
     bool Says(std::string_view bytes);
 
-    // Everything heard up to and with this text; what came until now when it does not come within the time.
+    // Everything heard until this text was among it; what came until now when it does not come within the time.
     std::string Hears(std::string_view until, std::chrono::milliseconds time = std::chrono::seconds(10));
 
     // Says a line with CR and hears up to its "OK" or error.

@@ -91,22 +91,14 @@ int Wizard_Test::Run(const std::function<void()>& steps)
     return m_window->Open_Ph_List_Wnd();
 }
 
-QWidget& Wizard_Test::Control(const char* name) const
-{
-    auto* control = m_window->findChild<QWidget*>(name);
-    if (!control)
-        throw std::runtime_error(std::string("no control ") + name);
-    return *control;
-}
-
 QString Wizard_Test::Text(const char* name) const
 {
-    return qobject_cast<QLineEdit&>(Control(name)).text();
+    return Control<QLineEdit>(name).text();
 }
 
 QTableView& Wizard_Test::Table() const
 {
-    return qobject_cast<QTableView&>(Control("idPortList"));
+    return Control<QTableView>("idPortList");
 }
 
 int Wizard_Test::Rows() const
@@ -157,10 +149,10 @@ void Wizard_Test::Press(Qt::Key key)
 
 void Wizard_Test::Type_Custom_Smsc(const QString& number)
 {
-    auto& box = qobject_cast<QCheckBox&>(Control("_cus_smsc_chk"));
+    auto& box = Control<QCheckBox>("_cus_smsc_chk");
     if (!box.isChecked())
         Click("_cus_smsc_chk");
-    auto& field = qobject_cast<QLineEdit&>(Control("_cus_smsc_edit"));
+    auto& field = Control<QLineEdit>("_cus_smsc_edit");
     field.clear();
     QTest::keyClicks(&field, number);
 }

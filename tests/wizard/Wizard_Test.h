@@ -63,8 +63,8 @@ private:
     double m_longest = 0;
 };
 
-// A wizard on the offscreen screen, a person who clicks in it, and the phones that a test plugs in. The waits of the line run
-// at pace 20: each read lasts 50 ms.
+// A wizard on the offscreen screen, a person who clicks in it, and the phones that a test plugs in. The waits of the
+// line run at pace 20: each read lasts 50 ms.
 class Wizard_Test : public testing::Test, public QObject
 {
 protected:
@@ -81,7 +81,14 @@ protected:
     /// Opens the wizard, does the steps once it is shown, and leaves it without a device when it is still open then.
     int Run(const std::function<void()>& steps);
 
-    QWidget& Control(const char* name) const;
+    template <typename Type = QWidget>
+    Type& Control(const char* name) const
+    {
+        auto* control = m_window->findChild<Type*>(name);
+        if (!control)
+            throw std::runtime_error(std::string("no control ") + name);
+        return *control;
+    }
     QString Text(const char* name) const;
     QTableView& Table() const;
     int Rows() const;

@@ -33,7 +33,8 @@ private:
     QList<Modem_Entry> m_entries;
 };
 
-// A port as an ordinary account meets it. Root may open everything, so root asks through a child that has become nobody.
+// A port as an ordinary account meets it. Root may open everything, so root asks through a child that has become
+// nobody.
 class A_Port : public testing::Test
 {
 protected:
@@ -46,8 +47,9 @@ protected:
 
     void Belongs_To(gid_t group, mode_t mode)
     {
-        if (getuid() == 0)
+        if (getuid() == 0) {
             ASSERT_EQ(chown(qPrintable(m_path), 0, group), 0);
+        }
         ASSERT_EQ(chmod(qPrintable(m_path), mode), 0);
     }
 

@@ -11,10 +11,20 @@ TEST(Phone_List, A_Device_Is_Called_By_Its_Path_From_The_Ninth_Character_Or_By_I
         const char* path;
         const char* name;
     } cases[] = {
-        {"/dev/cu.Phone-1", "Phone-1"},     {"/dev/ttyUSB0", "USB0"}, {"/dev/ttyACM12", "ACM12"}, {"/dev/rfcomm0", "mm0"},
-        {"/dev/pts/7", "/7"},               {"/dev/tty", "tty"},      {"/dev/x", "x"},            {"/dev/abc  \t", "abc  \t"},
-        {"/tmp/a/phone/link", "link"},      {"/device/tty1", "tty1"}, {"relative/port", "port"},  {"/dev/cu. name ", "name"},
-        {"/dev/serial/by-id/x", "al/by-id/x"}, {"", ""},
+        {"/dev/cu.Phone-1", "Phone-1"},
+        {"/dev/ttyUSB0", "USB0"},
+        {"/dev/ttyACM12", "ACM12"},
+        {"/dev/rfcomm0", "mm0"},
+        {"/dev/pts/7", "/7"},
+        {"/dev/tty", "tty"},
+        {"/dev/x", "x"},
+        {"/dev/abc  \t", "abc  \t"},
+        {"/tmp/a/phone/link", "link"},
+        {"/device/tty1", "tty1"},
+        {"relative/port", "port"},
+        {"/dev/cu. name ", "name"},
+        {"/dev/serial/by-id/x", "al/by-id/x"},
+        {"", ""},
     };
     for (const auto& one : cases)
         EXPECT_EQ(Phone_List::Display_Name(one.path), one.name) << one.path;

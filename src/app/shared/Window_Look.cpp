@@ -3,10 +3,35 @@
 #include <QApplication>
 #include <QColor>
 #include <QPalette>
-#include <QStyleFactory>
+#include <QProxyStyle>
 #include <QWidget>
 
 namespace {
+
+// Fusion, with room around the text of buttons, fields and boxes.
+class Program_Style : public QProxyStyle
+{
+public:
+    Program_Style()
+        : QProxyStyle(QStringLiteral("Fusion"))
+    {
+    }
+
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                           const QWidget* widget) const override
+    {
+        const QSize fitting = QProxyStyle::sizeFromContents(type, option, size, widget);
+        switch (type) {
+        case CT_PushButton:
+            return fitting + QSize(14, 6);
+        case CT_LineEdit:
+        case CT_ComboBox:
+            return fitting + QSize(0, 6);
+        default:
+            return fitting;
+        }
+    }
+};
 
 // Complete, so that nothing of a dark desktop theme is left to put light text on the light background.
 QPalette Program_Palette()
@@ -42,7 +67,7 @@ QColor Window_Background()
 
 void Apply_Application_Look(QApplication& application)
 {
-    application.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    application.setStyle(new Program_Style); // the application owns it
     QApplication::setPalette(Program_Palette());
 }
 
