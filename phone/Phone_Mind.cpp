@@ -16,8 +16,8 @@ constexpr char Escape = 0x1B;
 constexpr std::array Status_Lines = {"\r\nRING\r\n", "\r\n+CMTI: \"SM\",1\r\n", "\r\n+CREG: 1\r\n"};
 
 // Neither an answer nor text: control characters, a NUL, octets that are no UTF-8.
-constexpr std::string_view Noise("\x80\xFE\xC3(\x00\x07~\xED\xA0\x80\x9F\x01}\xFF\r\n\xF8\x88{\x00\xC0\xAF^\x1F\xFF",
-                                 24);
+constexpr char Noise_Bytes[] = "\x80\xFE\xC3(\x00\x07~\xED\xA0\x80\x9F\x01}\xFF\r\n\xF8\x88{\x00\xC0\xAF^\x1F\xFF";
+constexpr std::string_view Noise(Noise_Bytes, sizeof Noise_Bytes - 1);
 
 bool Begins_A_Command(std::string_view line)
 {

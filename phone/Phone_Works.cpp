@@ -83,6 +83,8 @@ void Phone_Works::Close_Line()
     m_line.Close(); // which takes it out of the epoll set, too
     m_queue.Clear();
     m_has_no_room = false;
+    m_somebody_is_there = false;
+    m_words_are_out = false;
 }
 
 void Phone_Works::Forget()
@@ -141,8 +143,10 @@ void Phone_Works::Serve()
     Note(happenings);
     if (happenings.m_hangs_up)
         Close_Line();
-    if (m_line.Is_Open())
+    if (m_line.Is_Open()) {
+        Look_Who_Is_There();
         Speak();
+    }
     Set_Timer();
     if (!m_news.empty())
         Wake();
@@ -195,16 +199,24 @@ void Phone_Works::Say(const Utterance& said)
         m_queue.Put(said, Clock::now());
 }
 
+// What nobody is there to hear is lost, and so is what somebody left unread when the line was closed.
+void Phone_Works::Look_Who_Is_There()
+{
+    const bool somebody_is_there = m_line.Somebody_Has_It_Open();
+    if (!somebody_is_there)
+        m_queue.Clear();
+    if (!somebody_is_there && m_words_are_out)
+        m_line.Drop_What_Was_Not_Read();
+    m_words_are_out = m_words_are_out && somebody_is_there;
+    m_somebody_is_there = somebody_is_there;
+}
+
 void Phone_Works::Speak()
 {
     m_has_no_room = false;
     const bool talks_on = m_mind.Moods().m_never_stops_talking;
-    if (m_queue.Is_Empty() && !talks_on)
+    if (!m_somebody_is_there || (m_queue.Is_Empty() && !talks_on))
         return;
-    if (!m_line.Somebody_Has_It_Open()) {
-        m_queue.Clear();
-        return;
-    }
     const auto now = Clock::now();
     if (talks_on && m_queue.Is_Empty() && now >= m_next_talk) {
         m_queue.Put({m_mind.Status_Line(), 0}, now);
@@ -214,6 +226,7 @@ void Phone_Works::Speak()
         const std::size_t count = m_line.Write(due);
         m_queue.Went_Out(count);
         m_has_no_room = count == 0;
+        m_words_are_out = m_words_are_out || count > 0;
     }
 }
 
@@ -226,7 +239,7 @@ void Phone_Works::Set_Timer() const
     if (moment && m_has_no_room)
         moment = now + Room_Check;
     if (!moment && m_line.Is_Open() && m_mind.Moods().m_never_stops_talking)
-        moment = m_line.Somebody_Has_It_Open() ? m_next_talk : now + Room_Check;
+        moment = m_somebody_is_there ? m_next_talk : now + Room_Check;
     itimerspec setting{};
     if (moment) {
         const auto left = std::max<Clock::duration>(*moment - now, std::chrono::microseconds(1));

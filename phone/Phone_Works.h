@@ -55,6 +55,7 @@ private:
     void Wait_For_Events() const;
     void Wake() const;
     void Listen();
+    void Look_Who_Is_There();
     void Note(const Happenings& happenings);
     void Speak();
     void Set_Timer() const;
@@ -62,6 +63,8 @@ private:
 
     Answer_Queue m_queue;
     News m_news;
+    bool m_somebody_is_there = false; // has the line open
+    bool m_words_are_out = false;     // said to whoever has the line open, perhaps not read yet
     bool m_has_no_room = false;
     bool m_is_ending = false;
     Answer_Queue::Clock::time_point m_next_talk{};

@@ -78,6 +78,13 @@ std::size_t Pty_Line::Write(std::string_view bytes)
     }
 }
 
+void Pty_Line::Drop_What_Was_Not_Read() const
+{
+    const Descriptor other = Opened_Other_End(m_path);
+    if (other.Is_Open())
+        ::tcflush(other.Number(), TCIFLUSH);
+}
+
 bool Pty_Line::Stop_The_Other_End(bool stopped)
 {
     if (stopped == m_is_stopped)

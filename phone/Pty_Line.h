@@ -31,6 +31,10 @@ public:
     // How many bytes went out; 0 when there is no room.
     std::size_t Write(std::string_view bytes);
 
+    // Drops what the other end has not read, as a serial driver does at the last close; a pseudo-terminal would keep it
+    // for whoever opens it next.
+    void Drop_What_Was_Not_Read() const;
+
     // While stopped the other end can write nothing, as under flow control. When another holds the device for itself
     // and the phone may not reach it, bytes wait in the system's buffer instead. Returns whether the line is as asked.
     bool Stop_The_Other_End(bool stopped);

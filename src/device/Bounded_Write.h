@@ -15,8 +15,8 @@ struct Write_Outcome
 /// One write that takes what there is room for and never blocks; the descriptor's own mode is as it was afterwards.
 ssize_t Write_Without_Blocking(Serial_Calls& calls, int descriptor, const char* bytes, size_t size);
 
-/// Writes all the bytes with put, waiting for room each time. A device that takes none, or takes them too slowly, is
-/// given up after 10 seconds and 10 ms a byte at pace 1, but never before a real second. wake_descriptor ends the wait
-/// at once.
+/// Writes all the bytes with put, waiting for room each time. At pace 1 a device that takes none is given up after 10
+/// seconds, and one that takes them too slowly after 10 seconds and 10 ms a byte; neither limit is ever below a real
+/// second. wake_descriptor ends the wait at once.
 Write_Outcome Write_With_An_End(Serial_Calls& calls, int descriptor, const char* bytes, qsizetype length,
                                 int wake_descriptor, const std::function<ssize_t(const char*, size_t)>& put);

@@ -1,15 +1,17 @@
 #include "platform/System_Log.h"
 
 #include <QByteArray>
+#include <algorithm>
+#include <cerrno>
 #include <chrono>
 #include <condition_variable>
-#include <cstdio>
 #include <deque>
 #include <mutex>
 #include <pthread.h>
 #include <syslog.h>
 #include <thread>
 #include <unistd.h>
+#include <utility>
 
 namespace {
 
@@ -87,7 +89,18 @@ private:
     {
         syslog(LOG_INFO, "%s", line.constData());
         if (has_terminal)
-            fprintf(stderr, "%s\n", line.constData());
+            Write_To_Terminal(line + '\n');
+    }
+
+    // Not through stdio: its lock, held while a stopped terminal takes nothing, would keep the process from ending.
+    static void Write_To_Terminal(const QByteArray& bytes)
+    {
+        for (qsizetype at = 0; at < bytes.size();) {
+            const auto written = write(STDERR_FILENO, bytes.constData() + at, static_cast<size_t>(bytes.size() - at));
+            if (written < 0 && errno != EINTR)
+                return;
+            at += std::max<qsizetype>(0, written);
+        }
     }
 
     std::mutex m_lock;

@@ -44,7 +44,7 @@ void Keep_Room_When_Hidden(QWidget& widget)
 void Keep_Room_For(QWidget& label, const QString& longest_text)
 {
     const QFontMetrics metrics = label.fontMetrics();
-    label.setMinimumSize(metrics.horizontalAdvance(longest_text), metrics.lineSpacing());
+    label.setMinimumSize(metrics.horizontalAdvance(longest_text) + metrics.averageCharWidth(), metrics.lineSpacing());
 }
 
 } // namespace

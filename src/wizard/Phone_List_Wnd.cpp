@@ -334,7 +334,8 @@ void Phone_List_Wnd::ContinueOfflinePressed()
 
 void Phone_List_Wnd::reject()
 {
-    if (!m_is_selecting)
+    // While a device is being talked to, the window has to wait for it.
+    if (!m_is_selecting && !plz_wait_Window->isVisible())
         ContinueOfflinePressed();
 }
 

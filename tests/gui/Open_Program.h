@@ -24,8 +24,12 @@
 class Open_Program : public testing::Test
 {
 protected:
-    Open_Program()
+    /// text_percent is the size of the desktop's text.
+    explicit Open_Program(int text_percent = 100)
     {
+        QFont font = m_font_before;
+        font.setPointSizeF(font.pointSizeF() * text_percent / 100);
+        QApplication::setFont(font);
         Set_Pace(100);
         Apply_Application_Look(*qApp);
         m_delegate = std::make_unique<CorvaneAppDelegate>();
@@ -40,6 +44,7 @@ protected:
         Finish_Workers();
         End_Shared_Instances();
         m_delegate.reset();
+        QApplication::setFont(m_font_before);
     }
 
     template <typename Widget>
@@ -87,6 +92,7 @@ protected:
                                            QItemSelectionModel::Select | QItemSelectionModel::Rows);
     }
 
+    QFont m_font_before = QApplication::font();
     User user;
     std::unique_ptr<CorvaneAppDelegate> m_delegate;
 };

@@ -615,7 +615,7 @@ TEST(Virtual_Phone_Moods, Garbage)
     Line_Peer peer(phone.Path());
     peer.Says("AT\r");
     const std::string heard = peer.Hears("\x1F\xFF");
-    EXPECT_EQ(heard.size(), 24u);
+    EXPECT_EQ(heard.size(), 25u);
     EXPECT_EQ(heard.find("OK"), std::string::npos);
     EXPECT_NE(heard.find('\0'), std::string::npos);
     EXPECT_NE(heard.find("\xED\xA0\x80"), std::string::npos);

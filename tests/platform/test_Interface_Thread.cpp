@@ -1,10 +1,9 @@
 #include "platform/Interface_Thread.h"
-#include "platform/Posted_Click.h"
 #include "platform/System_Log.h"
 #include "platform/Waiting.h"
+#include "platform/Watched_Mouse.h"
 #include "support/Serve_Until.h"
 
-#include <QPushButton>
 #include <QStringList>
 #include <QThread>
 #include <QTimer>
@@ -116,32 +115,27 @@ TEST(Interface_Thread, A_Worker_Does_A_Workers_Work_Itself)
     EXPECT_TRUE(is_same);
 }
 
-TEST(Interface_Thread, Clicks_Wait_For_The_Work_Unless_They_Are_Served)
+TEST(Interface_Thread, What_The_User_Does_Waits_For_The_Work_Unless_It_Is_Served)
 {
-    QPushButton button(QStringLiteral("Press"));
-    button.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&button));
-    std::atomic<int> clicks{0};
-    QObject::connect(&button, &QPushButton::clicked, [&] { ++clicks; });
-
-    Post_A_Click(button);
+    Watched_Mouse window;
+    ASSERT_TRUE(window.m_is_ready);
+    window.Move();
     Run_On_Worker([] {
         for (int i = 0; i < 10; ++i)
             Run_On_Interface_Thread([] {});
     });
-    EXPECT_EQ(clicks, 0);
+    EXPECT_EQ(window.m_moves, 0);
     QCoreApplication::processEvents();
-    EXPECT_EQ(clicks, 1);
+    EXPECT_EQ(window.m_moves, 1);
 
-    Post_A_Click(button);
+    window.Move();
     const double end = Now_Seconds() + 20;
-    Run_On_Worker(
-        [&] {
-            while (clicks < 2 && Now_Seconds() < end)
-                std::this_thread::yield();
-        },
-        User_Input::Served);
-    EXPECT_EQ(clicks, 2);
+    const auto watch = [&] {
+        while (window.m_moves < 2 && Now_Seconds() < end)
+            std::this_thread::yield();
+    };
+    Run_On_Worker(watch, User_Input::Served);
+    EXPECT_EQ(window.m_moves, 2);
 }
 
 TEST(Interface_Thread, A_Posted_Step_Comes_Later_And_Only_While_Its_Context_Lives)

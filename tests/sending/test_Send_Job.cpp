@@ -37,7 +37,7 @@ TEST_F(Send_Job_Test, Every_Recipient_Gets_His_Own_Message_In_The_Order_Of_The_L
     EXPECT_EQ(Received(), (QStringList{"111: first", "222: second", "333: third"}));
     EXPECT_EQ(m_user.Was_Shown(), QStringList{Completed});
     EXPECT_EQ(m_phone.Heard(),
-              Lines("AT", "AT", "AT+CMGF=?", "AT", "AT+CSMS=0", "AT+CMGF=0", "AT+CMGS=16", "AT+CMGS=17", "AT+CMGS=16"));
+              Lines("AT", "AT", "AT+CMGF=?", "AT", "AT+CSMS=0", "AT+CMGF=0", "AT+CMGS=15", "AT+CMGS=16", "AT+CMGS=15"));
 }
 
 TEST_F(Send_Job_Test, The_Progress_Window_Is_Taken_Through_Its_Steps)

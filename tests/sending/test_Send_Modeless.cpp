@@ -172,7 +172,10 @@ TEST_F(Send_Modeless_Test, It_Keeps_Its_Size_Whatever_It_Shows)
     m_progress.Show_Current(QString(20, u'0') + QStringLiteral(" is Excluded."));
     QTest::qWait(20);
     EXPECT_EQ(m_progress.size(), size);
-    EXPECT_EQ(m_progress.sizeHint(), size);
+    m_progress.findChild<QLabel*>(QStringLiteral("_pause_timer"))
+        ->setText(QStringLiteral("Pausing the process for 1 Hour 59 Minute 59 Seconds."));
+    QTest::qWait(20);
+    EXPECT_EQ(m_progress.size(), size);
     for (const char* name : {"_curr_msg_cnt", "_current_send_msg", "_tot_msg_cnt"}) {
         const auto* label = m_progress.findChild<QLabel*>(QLatin1String(name));
         EXPECT_GE(label->width(), label->fontMetrics().horizontalAdvance(label->text())) << name;

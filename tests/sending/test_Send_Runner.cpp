@@ -37,8 +37,9 @@ TEST_F(Send_Runner_Test, Pressing_Send_While_A_Job_Runs_Does_Nothing)
 {
     At_Step(QStringLiteral("2 / 3 222"), [this] {
         Run_On_Interface_Thread([this] {
+            const int running = Workers_Running();
             m_runner.Send_SMS_Btn();
-            EXPECT_EQ(Workers_Running(), 1);
+            EXPECT_EQ(Workers_Running(), running);
             EXPECT_FALSE(m_window.Is_Held());
         });
     });
@@ -141,8 +142,9 @@ TEST_F(Send_Runner_Test, A_Connection_Error_Above_An_Open_Stop_Question_Ends_The
 
 TEST_F(Send_Runner_Test, Exit_During_A_Job_Ends_It_In_An_Orderly_Way_And_Without_A_Box)
 {
-    for (const QString step : {QStringLiteral("preparing 3"), QStringLiteral("timer on"), QStringLiteral("sending"),
-                               QStringLiteral("1 / 3 111"), QStringLiteral("3 / 3 333"), QStringLiteral("timer off")}) {
+    for (const QString& step :
+         {QStringLiteral("preparing 3"), QStringLiteral("timer on"), QStringLiteral("sending"),
+          QStringLiteral("1 / 3 111"), QStringLiteral("3 / 3 333"), QStringLiteral("timer off")}) {
         At_Step(step, [] { Begin_Program_Exit(); });
         m_runner.Send_SMS_Btn();
         ASSERT_TRUE(Serve_Until([] { return Program_Is_Exiting(); }));

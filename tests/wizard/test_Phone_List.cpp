@@ -23,7 +23,7 @@ TEST(Phone_List, A_Device_Is_Called_By_Its_Path_From_The_Ninth_Character_Or_By_I
         {"/device/tty1", "tty1"},
         {"relative/port", "port"},
         {"/dev/cu. name ", "name"},
-        {"/dev/serial/by-id/x", "al/by-id/x"},
+        {"/dev/serial/by-id/x", "ial/by-id/x"},
         {"", ""},
     };
     for (const auto& one : cases)

@@ -103,11 +103,11 @@ TEST_F(Wizard_Test, The_Tab_Key_Goes_From_The_Table_Through_The_Fields_To_The_Bu
 TEST_F(Wizard_Test, Nothing_Is_Cut_At_The_Smallest_The_First_And_A_Large_Size)
 {
     const QString long_path = "/dev/serial/by-id/usb-" + QString(300, u'L') + "-if00-port0";
-    EXPECT_LE(m_window->minimumSizeHint().width(), 760);
-    EXPECT_LE(m_window->minimumSizeHint().height(), 560);
+    EXPECT_LE(m_window->minimumSizeHint().width(), m_window->minimumWidth());
+    EXPECT_LE(m_window->minimumSizeHint().height(), m_window->minimumHeight());
     Run([&] {
         m_window->Insert_port_in_List(long_path);
-        for (const QSize size : {QSize(760, 560), QSize(860, 600), QSize(1600, 1000)}) {
+        for (const QSize size : {m_window->minimumSize(), m_window->size(), QSize(1600, 1000)}) {
             m_window->resize(size);
             QApplication::processEvents();
             ASSERT_EQ(m_window->size(), size) << "a long name must not make the window grow";

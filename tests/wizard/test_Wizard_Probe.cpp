@@ -260,8 +260,9 @@ TEST_F(Wizard_Test, A_Probe_Leaves_No_Descriptor_Open)
 TEST_F(Wizard_Test, A_Probe_Closes_The_Wizards_Own_Port)
 {
     const Virtual_Phone phone;
+    const Virtual_Phone other;
     Plug_In(phone);
-    const QString path = QString::fromStdString(phone.Path());
+    const QString path = QString::fromStdString(other.Path());
     Run([&] {
         m_window->initPort(path);
         const auto own = m_window->Own_Port();

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QCursor>
+#include <QMouseEvent>
+#include <QTest>
+#include <QWidget>
+#include <atomic>
+
+// A window that counts the moves of the mouse over it. A move comes in through the queue of the window system, like all
+// that the user does: it takes effect when the user's events are next served, and not before. (Clicks made by a test
+// are delivered at once and prove nothing about waiting.)
+class Watched_Mouse : public QWidget
+{
+public:
+    Watched_Mouse()
+    {
+        setMouseTracking(true);
+        setGeometry(100, 100, 200, 200);
+        show();
+        m_is_ready = QTest::qWaitForWindowExposed(this);
+        QCoreApplication::processEvents();
+        m_moves = 0;
+    }
+
+    /// Moves the mouse to another place over the window.
+    void Move() { QCursor::setPos(geometry().topLeft() + QPoint(50 + ++m_steps, 50)); }
+
+    bool m_is_ready = false;
+    std::atomic<int> m_moves{0};
+
+protected:
+    void mouseMoveEvent(QMouseEvent*) override { ++m_moves; }
+
+private:
+    int m_steps = 0;
+};
