@@ -76,7 +76,7 @@ bool Set_Cms_Error(Phone_Options& options, Values values)
 constexpr std::array Options = {
     Option{"--link", "PATH", "make a symbolic link to the line; removed at the end",
            [](Phone_Options& o, Values v) { o.m_link = v[0]; return !v[0].empty(); }},
-    Option{"--until-stdin-closes", "", "end when standard input ends, as it does with the program that started the phone",
+    Option{"--until-stdin-closes", "", "end when standard input ends, as it does with the program behind it",
            [](Phone_Options& o, Values) { return o.m_until_stdin_closes = true; }},
     Option{"--help", "", "show this text", [](Phone_Options& o, Values) { return o.m_help = true; }},
     Option{"--version", "", "show the version", [](Phone_Options& o, Values) { return o.m_version = true; }},
@@ -115,7 +115,7 @@ constexpr std::array Options = {
     Option{"--garbage", "", "answer with noise", Turn_On<&Phone_Moods::m_garbage>},
     Option{"--never-stops-talking", "", "status lines without end", Turn_On<&Phone_Moods::m_never_stops_talking>},
 
-    Option{"--answer", "COMMAND ANSWER", "this command gets exactly these bytes; \\r \\n \\t \\e \\\\ \\xHH are understood",
+    Option{"--answer", "COMMAND ANSWER", "this command gets these bytes; \\r \\n \\t \\e \\\\ \\xHH are understood",
            [](Phone_Options& o, Values v) { o.m_answers.emplace_back(v[0], Unescaped(v[1])); return !v[0].empty(); }},
     Option{"--error-for", "COMMAND TEXT", "this command gets \"ERROR: TEXT\"",
            [](Phone_Options& o, Values v) { o.m_moods.m_error_for[v[0]] = v[1]; return !v[0].empty(); }},

@@ -38,15 +38,15 @@ const QString Text_List_Empty = QStringLiteral("Phone numbers-Messages list is e
 const QString Text_None_Selected =
     QStringLiteral("Please select at least one record from the phone numbers-messages list to continue.");
 const QString Text_Select_One = QStringLiteral("Please select only one record to update.");
-const QString Text_Clear_All = QStringLiteral("\nThis option will clear the entire list contents. Are you sure you want to "
-                                              "continue clearing the entire list?");
+const QString Text_Clear_All =
+    QStringLiteral("\nThis option will clear the entire list contents. Are you sure you want to "
+                   "continue clearing the entire list?");
 const QString Text_No_Device = QStringLiteral("No Mobile Phone Device is selected.");
 
 } // namespace
 
 CorvaneAppDelegate::CorvaneAppDelegate()
-    : m_ui(std::make_unique<Ui::CorvaneAppDelegate>()),
-      mfc_sms_obj(std::make_unique<MFCSMS>())
+    : m_ui(std::make_unique<Ui::CorvaneAppDelegate>()), mfc_sms_obj(std::make_unique<MFCSMS>())
 {
     The_Delegate = this;
     m_ui->setupUi(this);
@@ -129,8 +129,8 @@ void CorvaneAppDelegate::Give_Tables_Their_Models()
             std::move(columns), [this, table] { return numberOfRowsInTableView(table); },
             [this, table](const QString& identifier, int row) { return tableView(table, identifier, row); }, this);
     };
-    m_recipient_rows = rows_of(m_ui->idTableView, {{QStringLiteral("Number"), tr("Number")},
-                                                   {QStringLiteral("Message"), tr("Message")}});
+    m_recipient_rows = rows_of(m_ui->idTableView,
+                               {{QStringLiteral("Number"), tr("Number")}, {QStringLiteral("Message"), tr("Message")}});
     m_exclusion_rows = rows_of(m_ui->idExclusionTableView, {{QStringLiteral("Number"), tr("Excluded number")}});
     Prepare_List_Table(*m_ui->idTableView, *m_recipient_rows);
     Prepare_List_Table(*m_ui->idExclusionTableView, *m_exclusion_rows);
@@ -313,8 +313,8 @@ void CorvaneAppDelegate::Reset_Btn()
     Update_List_Count();
     m_ui->_Msg_char_count->setText(QStringLiteral("0 Characters"));
     m_ui->_Msg_TypeComboBox->setCurrentIndex(Normal_Message_Index);
-    for (auto* box : {m_ui->_Delayed_Delivry_Chk, m_ui->_Exclusion_Chk, m_ui->_Save_Sent_Item_Chk, m_ui->_Save_Templates_Chk,
-                      m_ui->_Skip_Duplicate_Chk, m_ui->_Unicode_SMS_Chk})
+    for (auto* box : {m_ui->_Delayed_Delivry_Chk, m_ui->_Exclusion_Chk, m_ui->_Save_Sent_Item_Chk,
+                      m_ui->_Save_Templates_Chk, m_ui->_Skip_Duplicate_Chk, m_ui->_Unicode_SMS_Chk})
         box->setChecked(false);
     for (auto* box : {m_ui->_delayed_time_combo, m_ui->_delayed_msg_count_combo}) {
         box->setEnabled(false);

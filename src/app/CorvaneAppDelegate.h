@@ -20,8 +20,8 @@ class CorvaneAppDelegate;
 }
 
 // The main window's controller: it owns the recipient list, the exclusion set and the modem session, and carries every
-// operation of the main window by its own name, each handing on to the class that does the work. One instance, owned by the
-// program's start; everything here belongs to the interface thread.
+// operation of the main window by its own name, each handing on to the class that does the work. One instance, owned by
+// the program's start; everything here belongs to the interface thread.
 class CorvaneAppDelegate : public QMainWindow, public Main_Window
 {
     Q_OBJECT

@@ -3,8 +3,7 @@
 #include "platform/Pace.h"
 #include "platform/Waiting.h"
 
-Demo_Phone::Demo_Phone(QObject* parent)
-    : QObject(parent)
+Demo_Phone::Demo_Phone(QObject* parent) : QObject(parent)
 {
     connect(&m_process, &QProcess::readyReadStandardOutput, this, &Demo_Phone::Read_Lines);
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
@@ -24,9 +23,11 @@ QString Demo_Phone::Start(const QString& program)
     const QString link = m_folder.filePath(QStringLiteral("demo-phone"));
     m_process.start(program, {QStringLiteral("--until-stdin-closes"), QStringLiteral("--link"), link});
     const double five_real_seconds = 5.0 * Pace();
-    Wait_Seconds_Unless(five_real_seconds, [this] { return !m_path.isEmpty() || m_process.state() == QProcess::NotRunning; });
+    Wait_Seconds_Unless(five_real_seconds,
+                        [this] { return !m_path.isEmpty() || m_process.state() == QProcess::NotRunning; });
     if (m_path.isEmpty())
-        m_error = QStringLiteral("The virtual phone could not be started: ") + program + QStringLiteral(": ") + m_process.errorString();
+        m_error = QStringLiteral("The virtual phone could not be started: ") + program + QStringLiteral(": ") +
+                  m_process.errorString();
     return m_path;
 }
 

@@ -15,8 +15,8 @@ public:
     explicit Demo_Phone(QObject* parent = nullptr);
     ~Demo_Phone() override;
 
-    /// Starts the phone program and waits, five seconds at the most, for the path of its line. Returns the path, or an empty
-    /// text when there is none; Error() then says why.
+    /// Starts the phone program and waits, five seconds at the most, for the path of its line. Returns the path, or an
+    /// empty text when there is none; Error() then says why.
     QString Start(const QString& program);
     QString Path() const { return m_path; }
     QString Error() const { return m_error; }

@@ -3,9 +3,7 @@
 #include "app/shared/Window_Look.h"
 #include "ui_Help_Wnd.h"
 
-Help_Wnd::Help_Wnd(QWidget* parent)
-    : QDialog(parent),
-      m_ui(std::make_unique<Ui::Help_Wnd>())
+Help_Wnd::Help_Wnd(QWidget* parent) : QDialog(parent), m_ui(std::make_unique<Ui::Help_Wnd>())
 {
     m_ui->setupUi(this);
     Apply_Window_Look(*this);

@@ -12,9 +12,10 @@ QString hyperlinkFromString(const QString& text, const QString& url)
 void setHyperlinkWithTextField(QLabel& text_field)
 {
     text_field.setTextFormat(Qt::RichText);
-    text_field.setText(hyperlinkFromString(QStringLiteral("No Mobile Phone Device is selected. Click here to start Mobile Phone "
-                                                          "Connection Wizard."),
-                                           QStringLiteral("corvane:connection-wizard")));
+    text_field.setText(
+        hyperlinkFromString(QStringLiteral("No Mobile Phone Device is selected. Click here to start Mobile Phone "
+                                           "Connection Wizard."),
+                            QStringLiteral("corvane:connection-wizard")));
     text_field.setTextInteractionFlags(Qt::TextBrowserInteraction);
     text_field.setCursor(Qt::OpenHandCursor);
 }

@@ -2,8 +2,8 @@
 
 #include "app/shared/Number_Rules.h"
 
-Number_Acceptance Judge_Number(const QString& raw_number, const Recipient_List& recipients, const Exclusion_Set& exclusions,
-                               bool skip_duplicates, bool heed_exclusions)
+Number_Acceptance Judge_Number(const QString& raw_number, const Recipient_List& recipients,
+                               const Exclusion_Set& exclusions, bool skip_duplicates, bool heed_exclusions)
 {
     using enum Number_Acceptance::Verdict;
     const QString number = Number_Rules::Normalised_Number(raw_number);

@@ -20,5 +20,5 @@ struct Number_Acceptance
     QString number; ///< normalised; empty when it is not valid
 };
 
-Number_Acceptance Judge_Number(const QString& raw_number, const Recipient_List& recipients, const Exclusion_Set& exclusions,
-                               bool skip_duplicates, bool heed_exclusions);
+Number_Acceptance Judge_Number(const QString& raw_number, const Recipient_List& recipients,
+                               const Exclusion_Set& exclusions, bool skip_duplicates, bool heed_exclusions);

@@ -14,8 +14,7 @@
 #include <QApplication>
 #include <cstdio>
 
-Program::Program(Command_Line command_line)
-    : m_command_line(std::move(command_line))
+Program::Program(Command_Line command_line) : m_command_line(std::move(command_line))
 {
     Apply_Application_Look(*qApp);
     QApplication::setQuitOnLastWindowClosed(false); // the main window decides, not the last dialog that closes

@@ -8,8 +8,9 @@
 class CorvaneAppDelegate;
 class Demo_Phone;
 
-// The program from its start to its orderly end: the look, the main window, the virtual phone of --demo, and on the way out
-// every worker joined and every window gone. One instance, made by main() after the application object; interface thread.
+// The program from its start to its orderly end: the look, the main window, the virtual phone of --demo, and on the way
+// out every worker joined and every window gone. One instance, made by main() after the application object; interface
+// thread.
 class Program : public QObject
 {
     Q_OBJECT
@@ -18,7 +19,8 @@ public:
     explicit Program(Command_Line command_line);
     ~Program() override;
 
-    /// Builds everything and shows the main window. Returns false when the program can not go on; the user has been told.
+    /// Builds everything and shows the main window. Returns false when the program can not go on; the user has been
+    /// told.
     bool Start();
     /// Serves events until the user leaves. Returns the exit status.
     int Run();

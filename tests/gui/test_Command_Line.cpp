@@ -27,7 +27,8 @@ Ended Run_Corvane(const QStringList& arguments, const QProcessEnvironment& envir
     corvane.setProcessEnvironment(environment);
     corvane.start(QStringLiteral(CORVANE_BUILD_DIR "/corvane"), arguments);
     EXPECT_TRUE(corvane.waitForFinished(30000));
-    return {corvane.exitCode(), corvane.readAllStandardOutput().toStdString(), corvane.readAllStandardError().toStdString()};
+    return {corvane.exitCode(), corvane.readAllStandardOutput().toStdString(),
+            corvane.readAllStandardError().toStdString()};
 }
 
 QProcessEnvironment Environment_With(const char* name, const QString& value)
@@ -83,7 +84,8 @@ TEST(The_Program, Refuses_A_Pace_That_Is_No_Positive_Number_With_One_Line)
     for (const char* pace : {"", "0", "-1", "x", "nan", "inf"}) {
         const auto ended = Run_Corvane({}, Environment_With("CORVANE_PACE", QString::fromLatin1(pace)));
         EXPECT_EQ(ended.status, 2) << pace;
-        EXPECT_EQ(ended.errors, std::string("corvane: CORVANE_PACE must be a positive number, not \"") + pace + "\".\n");
+        EXPECT_EQ(ended.errors,
+                  std::string("corvane: CORVANE_PACE must be a positive number, not \"") + pace + "\".\n");
     }
 }
 

@@ -23,16 +23,22 @@ TEST_F(Recipient_Window, A_Plus_Becomes_Two_Zeros_And_Dashes_Are_Left_Out)
 
 TEST_F(Recipient_Window, What_Is_No_Number_Is_Refused_And_Stays_In_The_Field)
 {
-    const QStringList refused = {QStringLiteral("+44 7700 900123"), QStringLiteral("44+1"),
-                                 QStringLiteral("++44"),            QStringLiteral("   "),
-                                 QString(),                         QStringLiteral("-"),
-                                 QStringLiteral("12,34"),           QStringLiteral("abc"),
-                                 QStringLiteral("\u0661\u0662\u0663"), QStringLiteral("+1234567890123456789")};
+    const QStringList refused = {QStringLiteral("+44 7700 900123"),
+                                 QStringLiteral("44+1"),
+                                 QStringLiteral("++44"),
+                                 QStringLiteral("   "),
+                                 QString(),
+                                 QStringLiteral("-"),
+                                 QStringLiteral("12,34"),
+                                 QStringLiteral("abc"),
+                                 QStringLiteral("\u0661\u0662\u0663"),
+                                 QStringLiteral("+1234567890123456789")};
     for (const QString& number : refused) {
         The<QLineEdit>("_numberEdit").setText(number);
         user.Will_Press(QStringLiteral("OK"));
         Click("Add_Number");
-        EXPECT_EQ(user.Was_Shown().constLast(), QStringLiteral("\nPlease enter a valid phone number.")) << qPrintable(number);
+        EXPECT_EQ(user.Was_Shown().constLast(), QStringLiteral("\nPlease enter a valid phone number."))
+            << qPrintable(number);
         EXPECT_EQ(The<QLineEdit>("_numberEdit").text(), number);
         EXPECT_TRUE(Has_Focus("_numberEdit"));
     }
@@ -199,8 +205,9 @@ TEST_F(Recipient_Window, Clearing_All_Asks_First)
     Add(QStringLiteral("2"));
     user.Will_Press(QStringLiteral("No"));
     Click("Clear_All_Btn");
-    EXPECT_EQ(user.Was_Shown().constLast(), QStringLiteral("\nThis option will clear the entire list contents. Are you sure "
-                                                           "you want to continue clearing the entire list?"));
+    EXPECT_EQ(user.Was_Shown().constLast(),
+              QStringLiteral("\nThis option will clear the entire list contents. Are you sure "
+                             "you want to continue clearing the entire list?"));
     EXPECT_EQ(m_delegate->Recipients().Count(), 2);
     Type_Number(QStringLiteral("7"));
     user.Will_Press(QStringLiteral("Yes"));
@@ -327,12 +334,39 @@ TEST_F(Recipient_Window, A_Link_Is_Blue_Underlined_And_Leads_Somewhere)
 {
     QLabel field;
     setHyperlinkWithTextField(field);
-    EXPECT_TRUE(field.text().contains(QStringLiteral(
-        "No Mobile Phone Device is selected. Click here to start Mobile Phone Connection Wizard.")));
+    EXPECT_TRUE(field.text().contains(
+        QStringLiteral("No Mobile Phone Device is selected. Click here to start Mobile Phone Connection Wizard.")));
     EXPECT_TRUE(field.textInteractionFlags() & Qt::TextSelectableByMouse);
     EXPECT_TRUE(field.textInteractionFlags() & Qt::LinksAccessibleByMouse);
     EXPECT_EQ(field.cursor().shape(), Qt::OpenHandCursor);
     const QString link = hyperlinkFromString(QStringLiteral("<b>"), QStringLiteral("x:\"y\""));
-    EXPECT_EQ(link, QStringLiteral("<a href=\"x:&quot;y&quot;\"><span style=\"color:#0000ff; text-decoration:underline;\">"
-                                   "&lt;b&gt;</span></a>"));
+    EXPECT_EQ(link,
+              QStringLiteral("<a href=\"x:&quot;y&quot;\"><span style=\"color:#0000ff; text-decoration:underline;\">"
+                             "&lt;b&gt;</span></a>"));
+}
+
+TEST_F(Recipient_Window, A_Million_Recipients_Are_Shown_On_Demand_And_Half_Of_Them_Cleared_At_Once)
+{
+    constexpr int Many = 1'000'000;
+    const QString message = QStringLiteral("the same for all");
+    for (int i = 0; i < Many; ++i)
+        m_delegate->Create_Num_Msg_List(QString::number(i), message);
+    m_delegate->Redisplay_Recipients();
+    EXPECT_EQ(Count_Label(), QStringLiteral("Total Numbers : 1000000"));
+    auto& table = The<QTableView>("idTableView");
+    table.scrollToBottom();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Shown(Many - 1, 0), QStringLiteral("999999"));
+    EXPECT_TRUE(m_delegate->Check_Duplicate_Number(QStringLiteral("123456")));
+    EXPECT_FALSE(m_delegate->Check_Duplicate_Number(QStringLiteral("1000000")));
+
+    table.selectionModel()->select(
+        QItemSelection(table.model()->index(0, 0), table.model()->index(Many / 2 - 1, 1)),
+        QItemSelectionModel::ClearAndSelect);
+    Click("Clear_Sel_Btn");
+    EXPECT_EQ(m_delegate->Recipients().Count(), Many / 2);
+    EXPECT_EQ(Shown(0, 0), QStringLiteral("500000"));
+    EXPECT_FALSE(m_delegate->Check_Duplicate_Number(QStringLiteral("123456")));
+    EXPECT_TRUE(m_delegate->Check_Duplicate_Number(QStringLiteral("999999")));
+    EXPECT_THAT(Rows_Selected_In(table), ElementsAre(0));
 }

@@ -8,15 +8,12 @@
 #include <QAbstractButton>
 #include <QGroupBox>
 
-// Every window, with the desktop's text at 100, 125 and 150 per cent: nothing that is shown is smaller than its text needs,
-// nothing lies outside its window, and no two controls of one window answer to the same key.
+// Every window, with the desktop's text at 100, 125 and 150 per cent: nothing that is shown is smaller than its text
+// needs, nothing lies outside its window, and no two controls of one window answer to the same key.
 class Window_Sizes : public Open_Program, public testing::WithParamInterface<int>
 {
 protected:
-    Window_Sizes()
-        : Open_Program(GetParam())
-    {
-    }
+    Window_Sizes() : Open_Program(GetParam()) {}
 
     static void Expect_Nothing_Cut_Off(QWidget& window)
     {
@@ -24,10 +21,12 @@ protected:
         QCoreApplication::processEvents();
         const auto controls = window.findChildren<QWidget*>();
         for (const QWidget* control : controls) {
-            if (!control->isVisible() || control->objectName().startsWith(QStringLiteral("qt_")) || control->window() != &window)
+            if (!control->isVisible() || control->objectName().startsWith(QStringLiteral("qt_")) ||
+                control->window() != &window)
                 continue;
-            const bool shows_text = qobject_cast<const QAbstractButton*>(control) || qobject_cast<const QLabel*>(control) ||
-                                    qobject_cast<const QLineEdit*>(control) || qobject_cast<const QComboBox*>(control);
+            const bool shows_text = qobject_cast<const QAbstractButton*>(control) ||
+                                    qobject_cast<const QLabel*>(control) || qobject_cast<const QLineEdit*>(control) ||
+                                    qobject_cast<const QComboBox*>(control);
             if (!shows_text || control->objectName().isEmpty())
                 continue;
             const auto name = (window.objectName() + u'/' + control->objectName()).toStdString();
@@ -49,7 +48,8 @@ protected:
             if (key.isEmpty() || !control->isVisible())
                 return;
             EXPECT_TRUE(taken.emplace(key, control->objectName()).second)
-                << qPrintable(key) << " of " << qPrintable(control->objectName()) << " is also " << qPrintable(taken[key]);
+                << qPrintable(key) << " of " << qPrintable(control->objectName()) << " is also "
+                << qPrintable(taken[key]);
         };
         const auto buttons = window.findChildren<QAbstractButton*>();
         for (const auto* button : buttons)
@@ -116,9 +116,10 @@ TEST_F(Main_Window_Size, Tab_Goes_From_The_Number_To_Send_Through_Every_Control)
         QTest::keyClick(control, Qt::Key_Tab);
         control = m_delegate->focusWidget();
     } while (control && control->objectName() != QStringLiteral("_numberEdit") && order.size() < 40);
-    EXPECT_EQ(order, (QStringList{"_numberEdit", "Add_Number", "idTableView", "Clear_Sel_Btn", "Clear_All_Btn", "_messageEdit",
-                                  "_Msg_TypeComboBox", "_Unicode_SMS_Chk", "_Skip_Duplicate_Chk", "_sent_btn", "Exit_Btn",
-                                  "Help_Btn", "Reset_Btn", "_NO_Device_Ticker", "Search_All_Modem"}));
+    EXPECT_EQ(order,
+              (QStringList{"_numberEdit", "Add_Number", "idTableView", "Clear_Sel_Btn", "Clear_All_Btn", "_messageEdit",
+                           "_Msg_TypeComboBox", "_Unicode_SMS_Chk", "_Skip_Duplicate_Chk", "_sent_btn", "Exit_Btn",
+                           "Help_Btn", "Reset_Btn", "_NO_Device_Ticker", "Search_All_Modem"}));
 }
 
 TEST_F(Main_Window_Size, Every_Control_That_Takes_The_Focus_Has_A_Name_For_Assistive_Tools)

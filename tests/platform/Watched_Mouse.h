@@ -23,14 +23,15 @@ public:
     }
 
     /// Moves the mouse to another place over the window.
-    void Move() { QCursor::setPos(geometry().topLeft() + QPoint(50 + ++m_steps, 50)); }
+    void Move()
+    {
+        const QPoint place = geometry().topLeft() + QPoint(50, 50);
+        QCursor::setPos(QCursor::pos() == place ? place + QPoint(10, 0) : place);
+    }
 
     bool m_is_ready = false;
     std::atomic<int> m_moves{0};
 
 protected:
     void mouseMoveEvent(QMouseEvent*) override { ++m_moves; }
-
-private:
-    int m_steps = 0;
 };

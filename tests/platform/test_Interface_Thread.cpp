@@ -125,8 +125,7 @@ TEST(Interface_Thread, What_The_User_Does_Waits_For_The_Work_Unless_It_Is_Served
             Run_On_Interface_Thread([] {});
     });
     EXPECT_EQ(window.m_moves, 0);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(window.m_moves, 1);
+    EXPECT_TRUE(Serve_Until([&] { return window.m_moves == 1; }));
 
     window.Move();
     const double end = Now_Seconds() + 20;

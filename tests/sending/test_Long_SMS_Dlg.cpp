@@ -92,18 +92,32 @@ TEST_F(Long_SMS_Dlg_Test, Once_The_Program_Is_Exiting_It_Does_Not_Open)
     EXPECT_TRUE(m_reader.m_texts.isEmpty());
 }
 
-TEST_F(Long_SMS_Dlg_Test, Its_Text_Fits_And_It_Has_The_Programs_Background)
+TEST_F(Long_SMS_Dlg_Test, Its_Text_Fits_Whatever_The_Size_Of_Its_Letters)
 {
-    m_reader.m_meanwhile = [](Long_SMS_Dlg& dialog) {
-        QTest::qWait(20);
+    int opened = 0;
+    m_reader.m_meanwhile = [&](Long_SMS_Dlg& dialog) {
+        QTest::qWait(5);
         const auto* text = dialog.findChild<QLabel*>(QStringLiteral("_Msg_Val"));
         EXPECT_GE(text->height(), text->heightForWidth(text->width()));
+        EXPECT_LE(text->height(), text->heightForWidth(text->width()) + text->fontMetrics().lineSpacing());
         EXPECT_TRUE(dialog.rect().contains(text->geometry()));
-        EXPECT_EQ(dialog.palette().color(QPalette::Window), Window_Background());
+        ++opened;
     };
-    for (const bool unicode : {false, true, false})
-        Long_SMS_Dlg::defaultInstance()->Open_Dialog(&m_over, unicode);
-    EXPECT_EQ(m_reader.m_texts.size(), 3);
+    for (int points = 7; points <= 18; ++points) {
+        QFont font = Long_SMS_Dlg::defaultInstance()->font();
+        font.setPointSize(points);
+        Long_SMS_Dlg::defaultInstance()->setFont(font);
+        for (const bool unicode : {false, true, false})
+            Long_SMS_Dlg::defaultInstance()->Open_Dialog(&m_over, unicode);
+    }
+    EXPECT_EQ(opened, 36);
+}
+
+TEST_F(Long_SMS_Dlg_Test, It_Has_The_Programs_Background_And_Names)
+{
+    const auto& dialog = *Long_SMS_Dlg::defaultInstance();
+    EXPECT_EQ(dialog.objectName(), QStringLiteral("Long_SMS_Dlg"));
+    EXPECT_EQ(dialog.palette().color(QPalette::Window), Window_Background());
 }
 
 TEST_F(Long_SMS_Dlg_Test, There_Is_One_Instance_And_It_Is_Made_Anew_After_Its_Window_Has_Gone)

@@ -198,6 +198,18 @@ TEST_F(Send_Job_Test, A_Blank_Message_Is_Sent_When_It_Is_Meant)
     EXPECT_EQ(Received(), QStringList{"111: "});
 }
 
+TEST_F(Send_Job_Test, A_List_That_Is_Empty_By_Then_Ends_Without_A_Completion_Message)
+{
+    Add(QStringLiteral("111"), QString());
+    m_user.Will_Handle([this](QMessageBox& box) {
+        m_window.m_recipients.Clear();
+        box.buttons().constFirst()->click();
+    });
+    Send();
+    EXPECT_EQ(m_user.Was_Shown().size(), 1);
+    EXPECT_TRUE(m_progress.Steps().contains(QStringLiteral("preparing 0")));
+}
+
 TEST_F(Send_Job_Test, What_The_Device_Answers_To_A_Message_Is_Not_Judged)
 {
     auto moods = m_phone.Moods();

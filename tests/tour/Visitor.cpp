@@ -27,8 +27,7 @@ QWidget* Box_On_Top()
 
 } // namespace
 
-Visitor::Visitor(QString picture_folder)
-    : m_folder(std::move(picture_folder))
+Visitor::Visitor(QString picture_folder) : m_folder(std::move(picture_folder))
 {
     QDir().mkpath(m_folder);
 }
@@ -60,7 +59,8 @@ void Visitor::Click(const QString& window, const QString& control)
     Await_Until(control + QStringLiteral(" in ") + window, [&] {
         return Find_Window(window) && Control(window, control).isVisible() && Control(window, control).isEnabled();
     });
-    // Left for the interface thread, not waited for: a click that opens a dialog returns only when the dialog has closed.
+    // Left for the interface thread, not waited for: a click that opens a dialog returns only when the dialog has
+    // closed.
     Post_To_Interface_Thread(qApp, [=] {
         auto& widget = Control(window, control);
         QTest::mouseClick(&widget, Qt::LeftButton, {}, QPoint(12, widget.height() / 2));
@@ -134,11 +134,13 @@ void Visitor::Take_Picture(const QString& window, const QString& name)
     });
 }
 
-void Visitor::Take_Picture_Of_Screen(const QString& name)
+void Visitor::Take_Picture_With_What_Is_Over(const QString& window, const QString& name)
 {
+    Await(window);
     Run_On_Interface_Thread([&] {
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-        Save(QApplication::primaryScreen()->grabWindow(0), name);
+        const QRect place = Find_Window(window)->geometry();
+        Save(QApplication::primaryScreen()->grabWindow(0, place.x(), place.y(), place.width(), place.height()), name);
     });
 }
 

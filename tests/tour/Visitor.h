@@ -7,9 +7,9 @@
 
 class QTableView;
 
-// Somebody who sits before the program's real windows: looks for a window by its name, clicks and types into its controls,
-// and takes pictures. Lives on a thread of its own, so that a dialog that opens and waits does not hold it up. Every step
-// that can not be done within ten seconds throws Tour_Failed with what was being waited for.
+// Somebody who sits before the program's real windows: looks for a window by its name, clicks and types into its
+// controls, and takes pictures. Lives on a thread of its own, so that a dialog that opens and waits does not hold it
+// up. Every step that can not be done within ten seconds throws Tour_Failed with what was being waited for.
 class Visitor
 {
 public:
@@ -32,8 +32,8 @@ public:
 
     /// Saves what a window shows as <folder>/<name>.png.
     void Take_Picture(const QString& window, const QString& name);
-    /// The same for the whole screen.
-    void Take_Picture_Of_Screen(const QString& name);
+    /// The same with whatever stands over the window.
+    void Take_Picture_With_What_Is_Over(const QString& window, const QString& name);
 
 private:
     static QWidget* Find_Window(const QString& name);
@@ -47,8 +47,5 @@ private:
 class Tour_Failed : public std::runtime_error
 {
 public:
-    explicit Tour_Failed(const QString& what)
-        : std::runtime_error(what.toStdString())
-    {
-    }
+    explicit Tour_Failed(const QString& what) : std::runtime_error(what.toStdString()) {}
 };

@@ -12,9 +12,9 @@
 #include <cstdio>
 #include <thread>
 
-// A walk through the real program with the virtual phone: its windows are clicked and typed into as a person would, each is
-// photographed, a list is sent, and what the phone received is held against what was written. Exit status 0 only when it
-// is the same. Usage: corvane-tour <picture folder>
+// A walk through the real program with the virtual phone: its windows are clicked and typed into as a person would,
+// each is photographed, a list is sent, and what the phone received is held against what was written. Exit status 0
+// only when it is the same. Usage: corvane-tour <picture folder>
 
 namespace {
 
@@ -30,9 +30,11 @@ const QString Main = QStringLiteral("CorvaneAppDelegate");
 const QString Wizard = QStringLiteral("Phone_List_Wnd");
 const QString Progress = QStringLiteral("Send_Modeless");
 
-const QString Short_Text = QStringLiteral("Choir practice moves to Thursday at 7 pm, same room. Please bring the blue folder!");
-const QString Long_Text_End = QStringLiteral(" The concert is on Saturday the 12th: doors open at 6, we sing at 7:30, and there "
-                                             "is soup afterwards for everyone who helps with the chairs.");
+const QString Short_Text =
+    QStringLiteral("Choir practice moves to Thursday at 7 pm, same room. Please bring the blue folder!");
+const QString Long_Text_End =
+    QStringLiteral(" The concert is on Saturday the 12th: doors open at 6, we sing at 7:30, and there "
+                   "is soup afterwards for everyone who helps with the chairs.");
 
 void Choose_The_Phone(Visitor& visitor, const QString& phone_path)
 {
@@ -88,7 +90,7 @@ void Send_The_List(Visitor& visitor)
         return false;
     });
     visitor.Take_Picture(Progress, QStringLiteral("08-sending"));
-    visitor.Take_Picture_Of_Screen(QStringLiteral("09-sending-over-main-window"));
+    visitor.Take_Picture_With_What_Is_Over(Main, QStringLiteral("09-sending-over-main-window"));
     const QString result = visitor.Text_Of_Box();
     visitor.Take_Picture(QStringLiteral("Message_Box"), QStringLiteral("10-completed"));
     printf("box      %s\n", qPrintable(result.trimmed()));
@@ -112,7 +114,8 @@ void Collect(std::vector<Message>& inbox, const QByteArray& line)
 {
     const auto object = QJsonDocument::fromJson(line).object();
     if (object.value(QStringLiteral("event")) == QStringLiteral("message"))
-        inbox.push_back({object.value(QStringLiteral("number")).toString(), object.value(QStringLiteral("text")).toString()});
+        inbox.push_back(
+            {object.value(QStringLiteral("number")).toString(), object.value(QStringLiteral("text")).toString()});
 }
 
 int Walk(Visitor& visitor, const QString& phone_path, const std::vector<Message>& inbox)
@@ -121,7 +124,8 @@ int Walk(Visitor& visitor, const QString& phone_path, const std::vector<Message>
         Choose_The_Phone(visitor, phone_path);
         const auto written = Fill_The_List(visitor);
         Send_The_List(visitor);
-        visitor.Await_Until(QStringLiteral("the phone to have everything"), [&] { return inbox.size() >= written.size(); });
+        visitor.Await_Until(QStringLiteral("the phone to have everything"),
+                            [&] { return inbox.size() >= written.size(); });
         if (inbox != written)
             throw Tour_Failed(QStringLiteral("the phone received something else than was written"));
         Look_At_The_Rest(visitor);

@@ -14,10 +14,7 @@ namespace {
 class Program_Style : public QProxyStyle
 {
 public:
-    Program_Style()
-        : QProxyStyle(QStringLiteral("Fusion"))
-    {
-    }
+    Program_Style() : QProxyStyle(QStringLiteral("Fusion")) {}
 
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                            const QWidget* widget) const override
@@ -40,10 +37,7 @@ public:
 class Size_Keeper : public QObject
 {
 public:
-    explicit Size_Keeper(QWidget& window)
-        : QObject(&window),
-          m_window(window),
-          m_designed_minimum(window.minimumSize())
+    explicit Size_Keeper(QWidget& window) : QObject(&window), m_window(window), m_designed_minimum(window.minimumSize())
     {
         window.installEventFilter(this);
     }

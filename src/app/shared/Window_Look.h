@@ -13,6 +13,6 @@ QColor Window_Background();
 /// Gives the application one style and one palette. Called once at start-up, before the first window.
 void Apply_Application_Look(QApplication& application);
 
-/// Gives a window the program's background, and keeps it large enough for what it shows. Called once for each window, after
-/// its layout is made.
+/// Gives a window the program's background, and keeps it large enough for what it shows. Called once for each window,
+/// after its layout is made.
 void Apply_Window_Look(QWidget& window);
