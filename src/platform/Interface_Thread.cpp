@@ -33,14 +33,6 @@ Worker_Register& The_Register()
     return workers;
 }
 
-void Wake_Interface_Thread()
-{
-    // An empty call: its arrival ends a wait for events.
-    if (auto* application = QCoreApplication::instance())
-        QMetaObject::invokeMethod(
-            application, [] {}, Qt::QueuedConnection);
-}
-
 void Do_The_Work(const std::function<void()>& work)
 {
     try {
@@ -56,6 +48,7 @@ void Serve_Until(const std::atomic<bool>& is_done, QEventLoop::ProcessEventsFlag
 {
     while (!is_done)
         QCoreApplication::processEvents(flags | QEventLoop::WaitForMoreEvents);
+    Wake_Interface_Thread();
 }
 
 void Join_Ended_Workers()
@@ -100,6 +93,12 @@ void Run_On_Interface_Thread(const std::function<void()>& step)
     QMetaObject::invokeMethod(application, guarded_step, Qt::BlockingQueuedConnection);
     if (failure)
         std::rethrow_exception(failure);
+}
+
+void Wake_Interface_Thread()
+{
+    if (auto* application = QCoreApplication::instance())
+        Post_To_Interface_Thread(application, [] {});
 }
 
 void Post_To_Interface_Thread(QObject* context, std::function<void()> step)

@@ -1,5 +1,7 @@
 #include "platform/Modal_Sheet.h"
 
+#include "platform/Interface_Thread.h"
+
 #include <QCloseEvent>
 #include <QCoreApplication>
 
@@ -21,6 +23,7 @@ void Modal_Sheet::Begin_Sheet(QWidget* over)
     raise();
     repaint();
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    Wake_Interface_Thread();
 }
 
 void Modal_Sheet::End_Sheet()

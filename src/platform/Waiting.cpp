@@ -59,6 +59,7 @@ void Serve_On_Interface_Thread(double seconds)
     alarm.start(Whole_Milliseconds(seconds));
     while (Now_Seconds() < end && !Program_Is_Exiting())
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
+    Wake_Interface_Thread();
 }
 
 void Wait_Real_Seconds(double seconds)
@@ -152,8 +153,7 @@ void Begin_Program_Exit()
     }
     eventfd_write(exit_signal.descriptor, 1);
     exit_signal.changed.notify_all();
-    if (auto* application = QCoreApplication::instance())
-        Post_To_Interface_Thread(application, [] {}); // an empty step ends a wait there
+    Wake_Interface_Thread();
 }
 
 void Forget_Program_Exit()

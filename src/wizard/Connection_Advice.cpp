@@ -9,6 +9,16 @@ QString tr(const char* text)
     return QCoreApplication::translate("Connection_Advice", text);
 }
 
+// A path is one word, which no window can break: a long one shows its beginning and its end.
+QString Short_Path(const QString& path)
+{
+    constexpr int Longest = 48;
+    constexpr int Kept_At_Each_End = 22;
+    if (path.size() <= Longest)
+        return path;
+    return path.left(Kept_At_Each_End) + QStringLiteral(" \u2026 ") + path.right(Kept_At_Each_End);
+}
+
 QString Joined(const QStringList& paths)
 {
     return paths.join(QStringLiteral(", "));
@@ -48,7 +58,7 @@ QList<Advice> Connection_Advice::On_Barred_Ports(const QList<Connection_Facts::B
         QStringList paths;
         for (const auto& port : ports)
             if (port.group == group)
-                paths.append(port.path);
+                paths.append(Short_Path(port.path));
         const QString begin = tr("Your account may not open ") + Joined(paths) + QStringLiteral(". ");
         if (group.isEmpty())
             advice.append({begin + tr("Only the system's administrator can allow it."), {}});

@@ -11,6 +11,7 @@
 
 #include <QFontDatabase>
 #include <QScreen>
+#include <QScrollBar>
 #include <algorithm>
 
 namespace {
@@ -44,6 +45,7 @@ int Connection_Info::Open_Connection_Info()
     Connection_Facts facts;
     Run_On_Worker([&] { facts = m_find_facts(); });
     Show_Advice(Connection_Advice::For(facts));
+    m_ui->Continue_Btn->setFocus();
     return Program_Is_Exiting() ? Done : exec();
 }
 
@@ -94,15 +96,17 @@ QWidget* Connection_Info::Made_Advice_Row(const Advice& advice)
     return row;
 }
 
-// As high as the text needs at this width, as far as the screen has room; the rest scrolls.
+// As high as the text needs at this width, as far as the screen has room; the rest scrolls. The scroll bar's width is
+// left aside: a bar that once stands there narrows the text and so keeps itself needed.
 void Connection_Info::Fit_Height()
 {
     ensurePolished();
     layout()->activate();
-    const int text_width = width() - layout()->contentsMargins().left() - layout()->contentsMargins().right();
+    const QMargins margins = layout()->contentsMargins();
+    const int text_width =
+        width() - margins.left() - margins.right() - m_ui->scroller->verticalScrollBar()->sizeHint().width();
     const int text_height = m_ui->page->layout()->totalHeightForWidth(text_width);
-    const int around = layout()->contentsMargins().top() + layout()->contentsMargins().bottom() + layout()->spacing() +
-                       m_ui->Continue_Btn->sizeHint().height();
+    const int around = margins.top() + margins.bottom() + layout()->spacing() + m_ui->Continue_Btn->sizeHint().height();
     const int room = screen()->availableGeometry().height() * 9 / 10;
     resize(width(), std::min(text_height + around, room));
 }

@@ -84,6 +84,7 @@ void Phone_List_Wnd::Set_Up_Table()
     m_ui->idPortList->verticalScrollBar()->setObjectName(QStringLiteral("idPortListsclview"));
     m_ui->idPortList->horizontalHeader()->setHighlightSections(false);
     m_ui->idPortList->horizontalHeader()->setStretchLastSection(true);
+    m_ui->idPortList->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_ui->idPortList->verticalHeader()->hide();
 }
 

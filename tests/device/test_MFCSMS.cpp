@@ -281,11 +281,15 @@ TEST_F(Session, What_Comes_Unasked_Is_Logged_And_The_Reader_Goes_On)
 TEST_F(Session, A_Closed_Port_Is_Logged_Once_And_Not_Read_Again)
 {
     Connect(m_session, m_phone);
+    m_phone.Says("RING");
+    ASSERT_TRUE(Serve_Until([&] { return m_log.Has("serialPortReadData ( RING )"); }));
+    std::this_thread::sleep_for(std::chrono::milliseconds(50)); // the next background read waits by now
     m_session.port()->close();
     m_session.setPort(nullptr);
-    EXPECT_TRUE(Serve_Until([&] { return m_log.Has("port closed\r") || Workers_Running() == 0; }));
     EXPECT_EQ(m_session.port(), nullptr);
+    EXPECT_TRUE(Serve_Until([&] { return m_log.Has("port closed\r"); }));
     EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
+    EXPECT_EQ(m_log.Count("port closed\r"), 1);
 }
 
 TEST_F(Session, Data_For_A_Session_That_Has_Gone_Is_Dropped)

@@ -13,14 +13,14 @@
 using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
 
-TEST(Phone_Moods, No_Echo)
+TEST(Phone_Moods, Without_Echo_The_Answer_Stands_Alone)
 {
     Virtual_Phone phone(Quiet());
     Line_Peer peer(phone.Path());
     EXPECT_EQ(peer.Asks("AT"), "\r\nOK\r\n");
 }
 
-TEST(Phone_Moods, Echo_Only)
+TEST(Phone_Moods, Echo_Only_Answers_Nothing)
 {
     Phone_Moods moods;
     moods.m_echo_only = true;
@@ -32,7 +32,7 @@ TEST(Phone_Moods, Echo_Only)
     EXPECT_EQ(phone.Heard(), Lines("AT"));
 }
 
-TEST(Phone_Moods, Silent)
+TEST(Phone_Moods, A_Silent_Phone_Hears_And_Says_Nothing)
 {
     Phone_Moods moods;
     moods.m_silent = true;
@@ -43,7 +43,7 @@ TEST(Phone_Moods, Silent)
     EXPECT_TRUE(peer.Hears_Nothing());
 }
 
-TEST(Phone_Moods, Pdu_Only)
+TEST(Phone_Moods, Pdu_Only_Offers_And_Takes_Format_0_Alone)
 {
     Phone_Moods moods = Quiet();
     moods.m_pdu_only = true;
@@ -54,7 +54,7 @@ TEST(Phone_Moods, Pdu_Only)
     EXPECT_EQ(peer.Asks("AT+CMGF=0"), "\r\nOK\r\n");
 }
 
-TEST(Phone_Moods, Text_Only)
+TEST(Phone_Moods, Text_Only_Starts_In_And_Takes_Format_1_Alone)
 {
     Phone_Moods moods = Quiet();
     moods.m_text_only = true;
@@ -69,7 +69,7 @@ TEST(Phone_Moods, Text_Only)
     EXPECT_EQ(phone.Inbox().front().m_text, "hello");
 }
 
-TEST(Phone_Moods, No_Sms_Sending)
+TEST(Phone_Moods, A_Phone_That_Sends_No_Sms_Refuses_The_Question)
 {
     Phone_Moods moods = Quiet();
     moods.m_no_sms_sending = true;
@@ -77,7 +77,7 @@ TEST(Phone_Moods, No_Sms_Sending)
     EXPECT_EQ(Line_Peer(phone.Path()).Asks("AT+CMGS=?"), "\r\nERROR\r\n");
 }
 
-TEST(Phone_Moods, Charset_Lists)
+TEST(Phone_Moods, The_Listed_Charsets_Are_Those_It_Takes)
 {
     Phone_Moods moods = Quiet();
     moods.m_charsets = "\"IRA\",\"UCS2\"";
@@ -88,7 +88,7 @@ TEST(Phone_Moods, Charset_Lists)
     EXPECT_EQ(peer.Asks("AT+CSCS=\"UCS2\""), "\r\nOK\r\n");
 }
 
-TEST(Phone_Moods, No_Service_Centre)
+TEST(Phone_Moods, Without_A_Service_Centre_Only_Frames_That_Bring_One_Are_Taken)
 {
     Phone_Moods moods = Quiet();
     moods.m_no_smsc = true;
@@ -105,7 +105,7 @@ TEST(Phone_Moods, No_Service_Centre)
     EXPECT_EQ(peer.Hears("OK\r\n"), "\r\n+CMGS: 0\r\n\r\nOK\r\n") << "the frame brings its own";
 }
 
-TEST(Phone_Moods, Service_Centre_In_Ucs2)
+TEST(Phone_Moods, The_Service_Centre_May_Be_Answered_In_Ucs2)
 {
     Phone_Moods moods = Quiet();
     moods.m_smsc = "+155";
@@ -114,7 +114,7 @@ TEST(Phone_Moods, Service_Centre_In_Ucs2)
     EXPECT_EQ(Line_Peer(phone.Path()).Asks("AT+CSCA?"), "\r\n+CSCA: \"002B003100350035\",145\r\n\r\nOK\r\n");
 }
 
-TEST(Phone_Moods, Service_Centre_Not_Supported)
+TEST(Phone_Moods, The_Question_For_The_Centre_May_Not_Be_Supported)
 {
     Phone_Moods moods = Quiet();
     moods.m_smsc_not_supported = true;
@@ -122,7 +122,7 @@ TEST(Phone_Moods, Service_Centre_Not_Supported)
     EXPECT_EQ(Line_Peer(phone.Path()).Asks("AT+CSCA?"), "\r\nCOMMAND NOT SUPPORT\r\n\r\nOK\r\n");
 }
 
-TEST(Phone_Moods, Undefined_Identity)
+TEST(Phone_Moods, An_Undefined_Identity_Is_Known_By_Its_Other_Spelling)
 {
     Phone_Moods moods = Quiet();
     moods.m_undefined_identity = true;
@@ -136,7 +136,7 @@ TEST(Phone_Moods, Undefined_Identity)
     EXPECT_EQ(peer.Asks("AT+CGMR"), "\r\n1.0\r\n\r\nOK\r\n");
 }
 
-TEST(Phone_Moods, Battery_And_Signal)
+TEST(Phone_Moods, Battery_And_Signal_Are_As_Set)
 {
     Phone_Moods moods = Quiet();
     moods.m_battery_status = 1;
@@ -148,7 +148,7 @@ TEST(Phone_Moods, Battery_And_Signal)
     EXPECT_EQ(peer.Asks("AT+CSQ"), "\r\n+CSQ: 99,99\r\n\r\nOK\r\n");
 }
 
-TEST(Phone_Moods, No_Prompt)
+TEST(Phone_Moods, Without_A_Prompt_The_Message_Is_Taken_All_The_Same)
 {
     Phone_Moods moods = Quiet();
     moods.m_no_prompt = true;
@@ -160,7 +160,7 @@ TEST(Phone_Moods, No_Prompt)
     EXPECT_EQ(peer.Hears("OK\r\n"), "\r\n+CMGS: 0\r\n\r\nOK\r\n");
 }
 
-TEST(Phone_Moods, Late_Prompt)
+TEST(Phone_Moods, A_Late_Prompt_Comes_Late)
 {
     Phone_Moods moods = Quiet();
     moods.m_late_prompt_ms = 80;
@@ -172,7 +172,7 @@ TEST(Phone_Moods, Late_Prompt)
     EXPECT_GE(Clock::now() - begin, 80ms);
 }
 
-TEST(Phone_Moods, Prompt_Without_Its_Blank)
+TEST(Phone_Moods, A_Prompt_May_Lack_Its_Blank)
 {
     Phone_Moods moods = Quiet();
     moods.m_prompt_without_blank = true;
@@ -183,7 +183,7 @@ TEST(Phone_Moods, Prompt_Without_Its_Blank)
     EXPECT_TRUE(peer.Hears_Nothing());
 }
 
-TEST(Phone_Moods, Split_Answers)
+TEST(Phone_Moods, Split_Answers_Are_Whole_In_The_End)
 {
     Phone_Moods moods;
     moods.m_split_answers = true;
@@ -194,7 +194,7 @@ TEST(Phone_Moods, Split_Answers)
     EXPECT_NE(Send_Hello(peer).find("+CMGS: 0"), std::string::npos);
 }
 
-TEST(Phone_Moods, Delayed_Answers)
+TEST(Phone_Moods, Delayed_Answers_Come_Late_And_Their_Echo_At_Once)
 {
     Phone_Moods moods;
     moods.m_answer_delay_ms = 80;
@@ -207,7 +207,7 @@ TEST(Phone_Moods, Delayed_Answers)
     EXPECT_GE(Clock::now() - begin, 80ms);
 }
 
-TEST(Phone_Moods, Unsolicited_Lines_Between_Answers)
+TEST(Phone_Moods, Unsolicited_Lines_Stand_Between_Answers)
 {
     Phone_Moods moods = Quiet();
     moods.m_unsolicited = true;
@@ -220,7 +220,7 @@ TEST(Phone_Moods, Unsolicited_Lines_Between_Answers)
     EXPECT_EQ(peer.Hears(all), all);
 }
 
-TEST(Phone_Moods, Line_Ends_Of_A_Carriage_Return_Alone)
+TEST(Phone_Moods, Line_Ends_May_Be_A_Carriage_Return_Alone)
 {
     Phone_Moods moods = Quiet();
     moods.m_cr_only = true;
@@ -232,7 +232,7 @@ TEST(Phone_Moods, Line_Ends_Of_A_Carriage_Return_Alone)
     EXPECT_EQ(peer.Hears("> "), "\r> ");
 }
 
-TEST(Phone_Moods, Error_With_A_Text)
+TEST(Phone_Moods, A_Named_Command_Gets_Its_Error_Text)
 {
     Phone_Moods moods = Quiet();
     moods.m_error_for["AT+CSMS=0"] = "not here";
@@ -240,7 +240,7 @@ TEST(Phone_Moods, Error_With_A_Text)
     EXPECT_EQ(Line_Peer(phone.Path()).Asks("AT+CSMS=0"), "\r\nERROR: not here\r\n");
 }
 
-TEST(Phone_Moods, Cms_Error_On_The_Second_Message)
+TEST(Phone_Moods, A_Cms_Error_Comes_On_Its_Message_Alone)
 {
     Phone_Moods moods = Quiet();
     moods.m_cms_error_at[2] = 500;
@@ -253,7 +253,7 @@ TEST(Phone_Moods, Cms_Error_On_The_Second_Message)
     EXPECT_EQ(phone.Inbox().size(), 2u);
 }
 
-TEST(Phone_Moods, Hang_Up_At_The_Second_Message)
+TEST(Phone_Moods, A_Hang_Up_Comes_At_Its_Message_And_Once)
 {
     Phone_Moods moods;
     moods.m_hang_up_at = 2;
@@ -268,7 +268,7 @@ TEST(Phone_Moods, Hang_Up_At_The_Second_Message)
     EXPECT_NE(Send_Hello(again).find("OK"), std::string::npos) << "it happens once";
 }
 
-TEST(Phone_Moods, Hang_Up_In_Mid_Pdu)
+TEST(Phone_Moods, A_Hang_Up_In_Mid_Pdu_Comes_Half_Way)
 {
     Phone_Moods moods;
     moods.m_hang_up_in_body_at = 1;
@@ -284,7 +284,7 @@ TEST(Phone_Moods, Hang_Up_In_Mid_Pdu)
     EXPECT_TRUE(phone.Inbox().empty());
 }
 
-TEST(Phone_Moods, Hang_Up_In_The_Midst_Of_A_Text)
+TEST(Phone_Moods, A_Hang_Up_In_The_Midst_Of_A_Text_Leaves_No_Message)
 {
     Phone_Moods moods;
     moods.m_text_only = true;
@@ -313,7 +313,7 @@ TEST(Phone_Moods, A_Hang_Up_By_Mood_Is_Told)
     EXPECT_TRUE(is_told);
 }
 
-TEST(Phone_Moods, Stops_Reading_After_So_Many_Bytes)
+TEST(Phone_Moods, It_Stops_Reading_After_So_Many_Bytes_And_Reads_On_When_Let)
 {
     Phone_Moods moods = Quiet();
     moods.m_stop_reading_after = 3;
@@ -328,7 +328,7 @@ TEST(Phone_Moods, Stops_Reading_After_So_Many_Bytes)
     EXPECT_EQ(peer.Asks("AT"), "\r\nOK\r\n") << "it reads on";
 }
 
-TEST(Phone_Moods, Stops_Reading_At_The_Second_Message)
+TEST(Phone_Moods, It_Stops_Reading_At_Its_Message)
 {
     Phone_Moods moods = Quiet();
     moods.m_stop_reading_at = 2;
@@ -342,7 +342,7 @@ TEST(Phone_Moods, Stops_Reading_At_The_Second_Message)
     EXPECT_EQ(phone.Inbox().size(), 1u);
 }
 
-TEST(Phone_Moods, Garbage)
+TEST(Phone_Moods, Garbage_Is_Neither_Answer_Nor_Text)
 {
     Phone_Moods moods = Quiet();
     moods.m_garbage = true;
@@ -356,7 +356,7 @@ TEST(Phone_Moods, Garbage)
     EXPECT_NE(heard.find("\xED\xA0\x80"), std::string::npos);
 }
 
-TEST(Phone_Moods, Never_Stops_Talking)
+TEST(Phone_Moods, A_Phone_That_Never_Stops_Talking_Still_Answers)
 {
     Phone_Moods moods = Quiet();
     moods.m_never_stops_talking = true;

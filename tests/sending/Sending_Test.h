@@ -32,7 +32,7 @@ inline const QString Stop_Sending = QStringLiteral(
 class Sending_Test : public testing::Test
 {
 protected:
-    static constexpr double Usual_Pace = 25;
+    static constexpr double Usual_Pace = 50;
 
     explicit Sending_Test(const Phone_Moods& moods = {})
         : m_phone(moods), m_session(m_calls), m_progress(*Send_Modeless::defaultInstance()),
@@ -93,9 +93,17 @@ protected:
         return *Progress_Window().findChild<Control*>(QLatin1String(name));
     }
 
-    void Press_Stop_Later()
+    /// Presses the stop button, from the job's thread, and returns when the question has been answered.
+    static void Press_Stop()
+    {
+        Run_On_Interface_Thread([] { In_Progress_Window<QPushButton>("_stop_btn").click(); });
+    }
+
+    /// The same, but returns when the question is open.
+    static void Open_Stop_Question()
     {
         Post_To_Interface_Thread(&Progress_Window(), [] { In_Progress_Window<QPushButton>("_stop_btn").click(); });
+        Run_On_Interface_Thread([] { EXPECT_NE(QApplication::activeModalWidget(), &Progress_Window()); });
     }
 
     /// Numbers and texts as the handset shows them, "number: text".

@@ -7,10 +7,12 @@
 #include <functional>
 #include <map>
 #include <mutex>
+#include <poll.h>
 #include <vector>
 
 // The real system calls, watched: what was written and when, and which descriptors were opened and closed. What a test
-// wants to happen at a write is called before it and may throw.
+// wants to happen at a write is called before it and may throw. The write of a command ends when the device has begun
+// to answer, or after a second, so that a busy machine and a fast pace together lose no answer.
 class Watched_Calls : public Serial_Calls
 {
 public:
@@ -45,8 +47,12 @@ public:
         if (m_before_write)
             m_before_write(text);
         const auto written = Serial_Calls::Write(descriptor, bytes, size);
-        const std::lock_guard guard(m_lock);
-        m_written.push_back({text, Now_Seconds()});
+        {
+            const std::lock_guard guard(m_lock);
+            m_written.push_back({text, Now_Seconds()});
+        }
+        if (text.startsWith("AT"))
+            Serial_Calls::Wait(descriptor, POLLIN, 1.0);
         return written;
     }
 

@@ -203,7 +203,11 @@ TEST_F(Send_Job_Test, A_List_That_Is_Empty_By_Then_Ends_Without_A_Completion_Mes
     Add(QStringLiteral("111"), QString());
     m_user.Will_Handle([this](QMessageBox& box) {
         m_window.m_recipients.Clear();
-        box.buttons().constFirst()->click();
+        const auto buttons = box.buttons();
+        for (QAbstractButton* button : buttons) {
+            if (box.buttonRole(button) == QMessageBox::YesRole)
+                button->click();
+        }
     });
     Send();
     EXPECT_EQ(m_user.Was_Shown().size(), 1);

@@ -77,7 +77,7 @@ TEST_F(Send_Runner_Test, A_Check_That_Fails_Gives_The_Window_Its_Input_Back)
 
 TEST_F(Send_Runner_Test, A_Stop_Is_Seen_Before_The_Next_Item_And_Ends_Without_A_Message)
 {
-    At_Step(QStringLiteral("2 / 3 222"), [this] { Press_Stop_Later(); });
+    At_Step(QStringLiteral("2 / 3 222"), [] { Press_Stop(); });
     m_user.Will_Press("Yes");
     Send();
     EXPECT_EQ(Received(), (QStringList{"111: Hello", "222: Hello"}));
@@ -87,7 +87,7 @@ TEST_F(Send_Runner_Test, A_Stop_Is_Seen_Before_The_Next_Item_And_Ends_Without_A_
 
 TEST_F(Send_Runner_Test, A_Stop_That_Is_Not_Meant_Changes_Nothing)
 {
-    At_Step(QStringLiteral("1 / 3 111"), [this] { Press_Stop_Later(); });
+    At_Step(QStringLiteral("1 / 3 111"), [] { Press_Stop(); });
     m_user.Will_Press("No");
     m_user.Will_Press("OK");
     Send();
@@ -100,7 +100,10 @@ TEST_F(Send_Runner_Test, A_Stop_Is_Seen_Between_The_Parts_Of_A_Long_Message)
     m_window.m_recipients.Clear();
     Add(QStringLiteral("111"), QString(400, u'a'));
     Add(QStringLiteral("222"));
-    At_Step(QStringLiteral("1 / 2 111"), [this] { Press_Stop_Later(); });
+    m_calls.m_before_write = [](const QByteArray& bytes) {
+        if (bytes.startsWith("AT+CMGS="))
+            Press_Stop();
+    };
     m_user.Will_Press("Yes");
     Send();
     EXPECT_EQ(m_phone.Parts().size(), 1U);
@@ -120,7 +123,7 @@ TEST_F(Send_Runner_Test, A_Stop_During_A_Skipped_Item_Ends_The_Job)
 
 TEST_F(Send_Runner_Test, A_Stop_Question_Still_Open_At_The_End_Counts_As_No)
 {
-    At_Step(QStringLiteral("3 / 3 333"), [this] { Press_Stop_Later(); });
+    At_Step(QStringLiteral("3 / 3 333"), [] { Open_Stop_Question(); });
     m_user.Will_Leave_It_Open();
     m_user.Will_Press("OK");
     Send();
@@ -133,7 +136,7 @@ TEST_F(Send_Runner_Test, A_Connection_Error_Above_An_Open_Stop_Question_Ends_The
     auto moods = m_phone.Moods();
     moods.m_hang_up_at = 2;
     m_phone.Set_Moods(moods);
-    At_Step(QStringLiteral("2 / 3 222"), [this] { Press_Stop_Later(); });
+    At_Step(QStringLiteral("2 / 3 222"), [] { Open_Stop_Question(); });
     m_user.Will_Leave_It_Open();
     m_user.Will_Press("OK");
     Send();
@@ -159,7 +162,7 @@ TEST_F(Send_Runner_Test, Exit_During_A_Job_Ends_It_In_An_Orderly_Way_And_Without
 
 TEST_F(Send_Runner_Test, Exit_With_An_Open_Stop_Question_Does_Not_Hang)
 {
-    At_Step(QStringLiteral("1 / 3 111"), [this] { Press_Stop_Later(); });
+    At_Step(QStringLiteral("1 / 3 111"), [] { Open_Stop_Question(); });
     m_user.Will_Handle([](QMessageBox& box) {
         Begin_Program_Exit();
         Finish_Workers();

@@ -14,7 +14,7 @@ TEST(Phone_List, A_Device_Is_Called_By_Its_Path_From_The_Ninth_Character_Or_By_I
         {"/dev/cu.Phone-1", "Phone-1"},
         {"/dev/ttyUSB0", "USB0"},
         {"/dev/ttyACM12", "ACM12"},
-        {"/dev/rfcomm0", "mm0"},
+        {"/dev/rfcomm0", "omm0"},
         {"/dev/pts/7", "/7"},
         {"/dev/tty", "tty"},
         {"/dev/x", "x"},

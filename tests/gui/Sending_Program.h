@@ -1,0 +1,130 @@
+#pragma once
+
+#include "gui/Open_Program.h"
+#include "phone/Virtual_Phone.h"
+
+#include <functional>
+#include <memory>
+#include <thread>
+
+class QMessageBox;
+
+// The boxes that a job or the wizard ends in, as they are shown.
+namespace Box {
+inline constexpr char Completed[] = "\nMessage Sending Process Completed.";
+inline constexpr char Connection_Error[] = "\nDevice Connection Error!";
+inline constexpr char No_Modem[] = "\nSelected device is not working properly.Could not initialize modem.\n";
+inline constexpr char Does_Not_Open[] =
+    "\n\nSelected device is not working properly. Please use Mobile Phone Connection Wizard for finding device or "
+    "establishing connection.";
+inline constexpr char Could_Not_Open[] = "\nSelected device is not working properly.\nCould not open modem.\n";
+inline constexpr char Not_Working[] = "\nSelected device is not working properly.";
+inline constexpr char Default_Smsc_Blank[] = "\nDefault SMSC No. details should not be blanked.";
+inline constexpr char No_Sending[] = "\nSelected device do not provide a modem in the computer or the modem does not "
+                                     "support SMS sending command.";
+inline constexpr char List_Empty[] = "\nDevice list is empty.";
+inline constexpr char None_Selected[] = "\nPlease select device from list.";
+} // namespace Box
+
+// How a list is sent; the phone's offer decides between PDU and text mode.
+struct Way
+{
+    bool m_text_mode = false;
+    bool m_unicode = false;
+    bool m_flash = false;
+};
+
+// The open program and a phone on its line, used by clicks: a list of three recipients, the last with a long message, is
+// filled in and sent, or the wizard is visited. Afterwards nothing of a job or a visit may be left. The waits are so
+// short that a read lasts 20 ms at most of the time; sanitized builds, which are slower, get more.
+class Sending_Program : public Open_Program
+{
+protected:
+    static constexpr int Items = 3;
+
+    Sending_Program();
+    ~Sending_Program() override;
+
+    /// A new phone on a line of its own.
+    void Get_A_Phone(const Phone_Moods& moods = {});
+    /// The phone is back on the cable, well-mannered, and has forgotten everything.
+    void Plug_In_Again();
+    /// The device is selected, as the wizard leaves it.
+    void Select(const QString& path);
+    void Select_The_Phone() { Select(QString::fromStdString(phone->Path())); }
+
+    /// Types and pastes the three items, and sets the options of the way.
+    void Fill_The_List(const Way& way = {});
+    /// Presses Send, presses OK in the one box that comes, and returns its text when the job has ended.
+    QString Send();
+    /// The same with the plain list of a first job and a phone that minds its manners: all must be as ever.
+    void Expect_That_Sending_Works(const Way& way = {});
+
+    /// What the handset shows of each message, in order.
+    QStringList Inbox() const;
+    /// What it shows when everything has come: three messages, or four where text mode cuts the long one in two.
+    static QStringList Everything(const Way& way);
+
+    /// No job, nothing open, nothing shown, and the main window takes input.
+    void Expect_That_All_Is_Quiet();
+
+    // The wizard, from the main window's button to its end.
+
+    /// Opens the wizard, does the steps in it, and leaves it without a device when it is still open then.
+    void Visit_Wizard(const std::function<void()>& steps);
+    /// Clicks the phone's row and waits for the end of the probe.
+    void Click_The_Phone();
+    /// Whether the device is in the wizard's list.
+    bool Wizard_Lists(const QString& path);
+    void Click_In_Wizard(const char* button);
+    void Type_Custom_Smsc(const QString& number);
+    bool Wizard_Is_Open();
+    /// The nine details in their order, without the port.
+    QStringList Details();
+    /// The details of a well-mannered phone.
+    static QStringList Usual_Details();
+    /// The wizard takes the phone, and the main window shows it.
+    void Expect_That_The_Wizard_Takes_The_Phone();
+
+    std::unique_ptr<Virtual_Phone> phone;
+    int m_lines_held = 0; // descriptors on the device that the test has open itself
+
+private:
+    void Paste(const QString& text);
+    void Expect_Progress_As_It_Should_Be(const QString& box);
+    QModelIndex Row_Of(const QString& path);
+
+    std::string m_path; // of the device selected last
+};
+
+// Pulls the cable once the phone has come so far; looks whenever the phone hears something. Gives up when it goes.
+class Cable_Puller
+{
+public:
+    Cable_Puller(Virtual_Phone& phone, std::function<bool()> is_time);
+    ~Cable_Puller();
+    Cable_Puller(const Cable_Puller&) = delete;
+    Cable_Puller& operator=(const Cable_Puller&) = delete;
+
+private:
+    std::jthread m_thread;
+};
+
+// An open descriptor of a phone's line in the test's own hand. While it is held, no other phone on this computer gets the
+// line's number, so that the path of a phone that has hung up leads nowhere.
+class Held_Line
+{
+public:
+    explicit Held_Line(const std::string& path);
+    ~Held_Line();
+    Held_Line(const Held_Line&) = delete;
+    Held_Line& operator=(const Held_Line&) = delete;
+
+    int Descriptor() const { return m_descriptor; }
+
+private:
+    int m_descriptor;
+};
+
+/// How many descriptors of this process stand for the device, also where its path has gone.
+int Descriptors_On(const std::string& path);
