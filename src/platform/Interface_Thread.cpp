@@ -3,9 +3,13 @@
 #include "platform/System_Log.h"
 
 #include <QCoreApplication>
+#include <QEvent>
 #include <QEventLoop>
+#include <QPointer>
 #include <QThread>
 #include <atomic>
+#include <condition_variable>
+#include <deque>
 #include <exception>
 #include <list>
 #include <memory>
@@ -32,6 +36,88 @@ Worker_Register& The_Register()
     static Worker_Register workers;
     return workers;
 }
+
+// Takes what is handed over to the interface thread, one step for each event. The steps travel in a list of the
+// program's own and not in the toolkit's events: a race detector sees nothing of what happens inside the toolkit, and
+// only with a lock of ours can it follow a step across and find the races that are real. The event comes out of the
+// toolkit for the same reason.
+class Door : public QObject
+{
+public:
+    void Hand_Over(std::function<void()> step)
+    {
+        {
+            const std::lock_guard guard(m_lock);
+            m_steps.push_back(std::move(step));
+        }
+        QCoreApplication::postEvent(this, QEvent(QEvent::User).clone());
+    }
+
+protected:
+    void customEvent(QEvent* /*event*/) override { Take_Next()(); }
+
+private:
+    std::function<void()> Take_Next()
+    {
+        const std::lock_guard guard(m_lock);
+        auto step = std::move(m_steps.front());
+        m_steps.pop_front();
+        return step;
+    }
+
+    std::mutex m_lock;
+    std::deque<std::function<void()>> m_steps;
+};
+
+struct Door_Keeper
+{
+    std::mutex lock;
+    std::unique_ptr<Door> door; // goes with the application, and with it the steps that nobody did
+};
+
+Door_Keeper& The_Keeper()
+{
+    static Door_Keeper keeper;
+    return keeper;
+}
+
+Door& The_Door()
+{
+    auto& keeper = The_Keeper();
+    const std::lock_guard guard(keeper.lock);
+    if (!keeper.door) {
+        keeper.door = std::make_unique<Door>();
+        keeper.door->moveToThread(QCoreApplication::instance()->thread());
+        qAddPostRoutine([] { The_Keeper().door.reset(); });
+    }
+    return *keeper.door;
+}
+
+// Lets the caller go on once the step that holds it is done, or was dropped because the application has gone.
+class Awaited_Step
+{
+public:
+    /// The caller goes on when the last copy of this has gone.
+    std::shared_ptr<void> Hold()
+    {
+        return {this, [this](void* /*unused*/) {
+                    const std::lock_guard guard(m_lock);
+                    m_is_over = true;
+                    m_changed.notify_all();
+                }};
+    }
+
+    void Wait()
+    {
+        std::unique_lock guard(m_lock);
+        m_changed.wait(guard, [this] { return m_is_over; });
+    }
+
+private:
+    std::mutex m_lock;
+    std::condition_variable m_changed;
+    bool m_is_over = false;
+};
 
 void Do_The_Work(const std::function<void()>& work)
 {
@@ -83,14 +169,15 @@ void Run_On_Interface_Thread(const std::function<void()>& step)
         return;
     }
     std::exception_ptr failure; // nothing may be thrown through the event loop
-    const auto guarded_step = [&] {
+    Awaited_Step awaited;
+    The_Door().Hand_Over([&step, &failure, held = awaited.Hold()] {
         try {
             step();
         } catch (...) {
             failure = std::current_exception();
         }
-    };
-    QMetaObject::invokeMethod(application, guarded_step, Qt::BlockingQueuedConnection);
+    });
+    awaited.Wait();
     if (failure)
         std::rethrow_exception(failure);
 }
@@ -103,7 +190,12 @@ void Wake_Interface_Thread()
 
 void Post_To_Interface_Thread(QObject* context, std::function<void()> step)
 {
-    QMetaObject::invokeMethod(context, std::move(step), Qt::QueuedConnection);
+    if (!QCoreApplication::instance())
+        return;
+    The_Door().Hand_Over([context = QPointer<QObject>(context), step = std::move(step)] {
+        if (context)
+            step();
+    });
 }
 
 void Run_On_Worker(const std::function<void()>& work, User_Input input)

@@ -38,7 +38,7 @@ Connection_Info* Connection_Info::defaultInstance()
     return Shared_Instance<Connection_Info>::Get();
 }
 
-int Connection_Info::Open_Connection_Info()
+int Connection_Info::exec()
 {
     if (Main_App_wnd && parentWidget() != Main_App_wnd->Window())
         setParent(Main_App_wnd->Window(), windowFlags());
@@ -46,7 +46,7 @@ int Connection_Info::Open_Connection_Info()
     Run_On_Worker([&] { facts = m_find_facts(); });
     Show_Advice(Connection_Advice::For(facts));
     m_ui->Continue_Btn->setFocus();
-    return Program_Is_Exiting() ? Done : exec();
+    return Program_Is_Exiting() ? Done : QDialog::exec();
 }
 
 void Connection_Info::Continue_Btn()

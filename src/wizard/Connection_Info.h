@@ -27,7 +27,7 @@ public:
     static Connection_Info* defaultInstance();
 
     /// Finds out what applies now, shows it and runs modally. The only end is 1.
-    int Open_Connection_Info();
+    int exec() override;
 
     void Continue_Btn();
 

@@ -210,10 +210,9 @@ void Phone_List_Wnd::Find_Ph_Value_Thread()
 {
     const std::lock_guard turn(m_device_turn);
     Run_On_Interface_Thread([] { Cus_SMS_Num_STR.clear(); });
-    Show_Create_Modeless();
+    const Shown_Sheet sheet(*this);
     OnGetSelected();
     Run_On_Interface_Thread([this] { port.Close(); });
-    Hide_Destroy_Modeless();
 }
 
 void Phone_List_Wnd::OnGetSelected()

@@ -1,6 +1,5 @@
 #include "wizard/Phone_Probe.h"
 
-#include "app/basics/Log_Line.h"
 #include "device/MFCSMS.h"
 
 #include <QFile>
@@ -15,19 +14,6 @@ constexpr char No_Sending[] =
     "Selected device do not provide a modem in the computer or the modem does not support SMS sending command.";
 
 constexpr double Read_Timeout_Seconds = 1.0;
-
-// Takes the sheet down on every way out.
-class Shown_Sheet
-{
-public:
-    explicit Shown_Sheet(Probe_Display& display) : m_display(display) { m_display.Show_Create_Modeless(); }
-    ~Shown_Sheet() { m_display.Hide_Destroy_Modeless(); }
-    Shown_Sheet(const Shown_Sheet&) = delete;
-    Shown_Sheet& operator=(const Shown_Sheet&) = delete;
-
-private:
-    Probe_Display& m_display;
-};
 
 class Port_Let_Go_At_End
 {

@@ -16,6 +16,19 @@ public:
     virtual void Tell_About_Device(const QString& text) = 0;
 };
 
+// Shows the please-wait sheet for as long as it lives, so that it goes on every way out.
+class Shown_Sheet
+{
+public:
+    explicit Shown_Sheet(Probe_Display& display) : m_display(display) { m_display.Show_Create_Modeless(); }
+    ~Shown_Sheet() { m_display.Hide_Destroy_Modeless(); }
+    Shown_Sheet(const Shown_Sheet&) = delete;
+    Shown_Sheet& operator=(const Shown_Sheet&) = delete;
+
+private:
+    Probe_Display& m_display;
+};
+
 // The service centre that the wizard's fields stand for.
 struct Chosen_Centre
 {

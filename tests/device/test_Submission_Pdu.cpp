@@ -264,6 +264,33 @@ TEST_F(Pdu_Submission, What_The_Device_Answers_Does_Not_Count)
     EXPECT_EQ(m_session.m_sLastResponse(), QString());
 }
 
+TEST_F(Pdu_Submission, A_Device_That_Takes_No_Byte_Of_A_Frame_Fails_The_Submission_After_The_Writes_Time)
+{
+    Prepare();
+    Phone_Moods moods;
+    moods.m_stop_reading_at = 1;
+    m_phone.Set_Moods(moods);
+    const double start = Now_Seconds();
+    EXPECT_FALSE(Send(QStringLiteral("hello")));
+    EXPECT_GE(Now_Seconds() - start, 1.0);
+    EXPECT_EQ(m_log.Count("Standard SMS PDU Response:: "), 0);
+    EXPECT_TRUE(m_phone.Inbox().empty());
+}
+
+TEST_F(Pdu_Submission, However_The_Prompt_Comes_The_Message_Arrives)
+{
+    for (const int mood : {0, 1, 2}) {
+        Prepare();
+        Phone_Moods moods;
+        moods.m_prompt_without_blank = mood == 0;
+        moods.m_late_prompt_ms = mood == 1 ? 80 : 0; // past the read that waits for it
+        moods.m_no_prompt = mood == 2;
+        m_phone.Set_Moods(moods);
+        EXPECT_TRUE(Send(QStringLiteral("hello")));
+        EXPECT_EQ(Inbox(1).size(), 1u) << mood;
+    }
+}
+
 TEST_F(Pdu_Submission, Every_Write_That_Fails_Fails_The_Submission)
 {
     Prepare();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "device/Device_Paths.h"
 #include "gui/Open_Program.h"
 #include "phone/Virtual_Phone.h"
 
@@ -34,16 +35,20 @@ struct Way
     bool m_flash = false;
 };
 
-// The open program and a phone on its line, used by clicks: a list of three recipients, the last with a long message, is
-// filled in and sent, or the wizard is visited. Afterwards nothing of a job or a visit may be left. The waits are so
-// short that a read lasts 20 ms at most of the time; sanitized builds, which are slower, get more.
-class Sending_Program : public Open_Program
+// The open program and a phone on its line, used by clicks: a list of three recipients, the last with a long message,
+// is filled in and sent, or the wizard is visited. Afterwards nothing of a job or a visit may be left. The reads whose
+// answers are judged last 20 ms, and longer where the computer is busy or the build a slow one; those of the messages
+// themselves, where nothing is judged, are about as short.
+class Sending_Program : public Open_Program, public QObject
 {
 protected:
     static constexpr int Items = 3;
 
     Sending_Program();
     ~Sending_Program() override;
+
+    /// The waits before the first message are this many times as long from now on.
+    void Slow_Down(double factor);
 
     /// A new phone on a line of its own.
     void Get_A_Phone(const Phone_Moods& moods = {});
@@ -53,20 +58,23 @@ protected:
     void Select(const QString& path);
     void Select_The_Phone() { Select(QString::fromStdString(phone->Path())); }
 
-    /// Types and pastes the three items, and sets the options of the way.
-    void Fill_The_List(const Way& way = {});
+    /// Types and pastes the first so many of the three items, and sets the options of the way.
+    void Fill_The_List(const Way& way = {}, int items = Items);
     /// Presses Send, presses OK in the one box that comes, and returns its text when the job has ended.
-    QString Send();
-    /// The same with the plain list of a first job and a phone that minds its manners: all must be as ever.
-    void Expect_That_Sending_Works(const Way& way = {});
+    std::string Send();
+    /// A job through a phone that minds its manners is as it ever was.
+    void Expect_That_Sending_Works();
 
     /// What the handset shows of each message, in order.
-    QStringList Inbox() const;
+    std::vector<std::string> Inbox() const;
     /// What it shows when everything has come: three messages, or four where text mode cuts the long one in two.
-    static QStringList Everything(const Way& way);
+    static std::vector<std::string> Everything(const Way& way);
 
     /// No job, nothing open, nothing shown, and the main window takes input.
     void Expect_That_All_Is_Quiet();
+
+    /// The texts of all boxes so far.
+    std::vector<std::string> Boxes_Shown() const;
 
     // The wizard, from the main window's button to its end.
 
@@ -80,20 +88,24 @@ protected:
     void Type_Custom_Smsc(const QString& number);
     bool Wizard_Is_Open();
     /// The nine details in their order, without the port.
-    QStringList Details();
+    std::vector<std::string> Details();
     /// The details of a well-mannered phone.
-    static QStringList Usual_Details();
+    static std::vector<std::string> Usual_Details();
     /// The wizard takes the phone, and the main window shows it.
     void Expect_That_The_Wizard_Takes_The_Phone();
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
     std::unique_ptr<Virtual_Phone> phone;
     int m_lines_held = 0; // descriptors on the device that the test has open itself
 
 private:
     void Paste(const QString& text);
-    void Expect_Progress_As_It_Should_Be(const QString& box);
+    void Expect_Progress_As_It_Should_Be(const std::string& box);
     QModelIndex Row_Of(const QString& path);
 
+    double m_preparing_pace;
+    double m_sending_pace;
     std::string m_path; // of the device selected last
 };
 
@@ -110,8 +122,8 @@ private:
     std::jthread m_thread;
 };
 
-// An open descriptor of a phone's line in the test's own hand. While it is held, no other phone on this computer gets the
-// line's number, so that the path of a phone that has hung up leads nowhere.
+// An open descriptor of a phone's line in the test's own hand. While it is held, no other phone on this computer gets
+// the line's number, so that the path of a phone that has hung up leads nowhere.
 class Held_Line
 {
 public:
@@ -125,6 +137,17 @@ public:
 private:
     int m_descriptor;
 };
+
+/// Makes a test of each row of a table, a sentence that begins the same and ends in the row's name. The test class is
+/// made from its row.
+template <typename Test, typename Row, std::size_t size>
+bool Register_Each(const char* suite, const std::string& beginning, const Row (&rows)[size])
+{
+    for (const Row& row : rows)
+        testing::RegisterTest(suite, (beginning + row.name).c_str(), nullptr, nullptr, __FILE__, __LINE__,
+                              [&row]() -> typename Test::Fixture* { return new Test(row); });
+    return true;
+}
 
 /// How many descriptors of this process stand for the device, also where its path has gone.
 int Descriptors_On(const std::string& path);

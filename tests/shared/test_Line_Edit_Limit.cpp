@@ -14,7 +14,7 @@ class Line_Edit_Limit : public testing::Test
 protected:
     Line_Edit_Limit()
     {
-        Keep_Within(m_field, 20);
+        QObject::connect(&m_field, &QLineEdit::textChanged, &m_field, [this] { Cut_Line(m_field, 20); });
         m_field.show();
         m_field.setFocus();
     }

@@ -30,7 +30,7 @@ protected:
             if (m_window.isVisible())
                 m_window.Continue_Btn();
         });
-        return m_window.Open_Connection_Info();
+        return m_window.exec();
     }
 
     QWidget& Box() { return *m_window.findChild<QGroupBox*>("advice_box"); }
@@ -149,7 +149,7 @@ TEST(Connection_Info, The_Shared_Instance_Finds_Out_About_This_Computer)
     user.When_Opens("Connection_Info", [](QWidget& window) { window.close(); });
     const QPointer<Connection_Info> info = Connection_Info::defaultInstance();
     EXPECT_EQ(Connection_Info::defaultInstance(), info);
-    EXPECT_EQ(info->Open_Connection_Info(), 1);
+    EXPECT_EQ(info->exec(), 1);
     End_Shared_Instances();
     EXPECT_TRUE(info.isNull());
 }

@@ -182,7 +182,7 @@ TEST_F(Wizard_Test, Going_On_During_A_Search_Waits_For_Its_Orderly_End)
     });
     EXPECT_EQ(result, 0);
     EXPECT_EQ(ph_find_thread, 0);
-    EXPECT_EQ(Workers_Running(), 0);
+    EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
 }
 
 TEST_F(Wizard_Test, A_Window_Deleted_During_A_Search_Waits_For_Its_Worker)

@@ -122,7 +122,7 @@ TEST_F(Wizard_Test, A_Device_Without_A_Centre_Is_Refused_And_Its_Port_Closed_Whe
     EXPECT_EQ(result, 0);
     EXPECT_EQ(m_user.Was_Shown(), QStringList(Boxed("Default SMSC No. details should not be blanked.")));
     EXPECT_EQ(Descriptors_Open_On(phone.Path()), before);
-    EXPECT_EQ(Workers_Running(), 0);
+    EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
 }
 
 TEST_F(Wizard_Test, After_A_Refusal_Another_Device_Can_Be_Selected)
@@ -213,7 +213,7 @@ TEST_F(Wizard_Test, The_Programs_Exit_During_A_Check_Is_Orderly)
         Click("_Select_Btn");
     });
     EXPECT_EQ(sel_port_bsd_str, "");
-    EXPECT_EQ(Workers_Running(), 0);
+    EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
 }
 
 TEST_F(Wizard_Test, Going_On_Without_A_Device_Leaves_Both_Texts_Empty)
