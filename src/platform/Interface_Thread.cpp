@@ -37,60 +37,59 @@ Worker_Register& The_Register()
     return workers;
 }
 
-// Takes what is handed over to the interface thread, one step for each event. The steps travel in a list of the
-// program's own and not in the toolkit's events: a race detector sees nothing of what happens inside the toolkit, and
-// only with a lock of ours can it follow a step across and find the races that are real. The event comes out of the
-// toolkit for the same reason.
-class Door : public QObject
-{
-public:
-    void Hand_Over(std::function<void()> step)
-    {
-        {
-            const std::lock_guard guard(m_lock);
-            m_steps.push_back(std::move(step));
-        }
-        QCoreApplication::postEvent(this, QEvent(QEvent::User).clone());
-    }
-
-protected:
-    void customEvent(QEvent* /*event*/) override { Take_Next()(); }
-
-private:
-    std::function<void()> Take_Next()
-    {
-        const std::lock_guard guard(m_lock);
-        auto step = std::move(m_steps.front());
-        m_steps.pop_front();
-        return step;
-    }
-
-    std::mutex m_lock;
-    std::deque<std::function<void()>> m_steps;
-};
-
-struct Door_Keeper
+// What is handed over to the interface thread. It travels in a list of the program's own and not in the toolkit's
+// events: a race detector sees nothing of what happens inside the toolkit, and only with a lock of ours can it follow a
+// step across and find the races that are real.
+struct Handed_Over
 {
     std::mutex lock;
-    std::unique_ptr<Door> door; // goes with the application, and with it the steps that nobody did
+    std::deque<std::function<void()>> steps;
+    std::unique_ptr<QObject> door; // goes with the application, and with it the steps that nobody did
 };
 
-Door_Keeper& The_Keeper()
+Handed_Over& The_Steps()
 {
-    static Door_Keeper keeper;
-    return keeper;
+    static Handed_Over steps;
+    return steps;
 }
 
-Door& The_Door()
+std::function<void()> Next_Step()
 {
-    auto& keeper = The_Keeper();
-    const std::lock_guard guard(keeper.lock);
-    if (!keeper.door) {
-        keeper.door = std::make_unique<Door>();
-        keeper.door->moveToThread(QCoreApplication::instance()->thread());
-        qAddPostRoutine([] { The_Keeper().door.reset(); });
+    auto& steps = The_Steps();
+    const std::lock_guard guard(steps.lock);
+    auto step = std::move(steps.steps.front());
+    steps.steps.pop_front();
+    return step;
+}
+
+void Forget_Steps()
+{
+    std::deque<std::function<void()>> dropped;
+    auto& steps = The_Steps();
+    const std::lock_guard guard(steps.lock);
+    steps.door.reset();
+    dropped.swap(steps.steps);
+}
+
+// Where the steps come in on the interface thread, one for each event.
+class Door : public QObject
+{
+protected:
+    void customEvent(QEvent* /*event*/) override { Next_Step()(); }
+};
+
+void Hand_Over(std::function<void()> step)
+{
+    auto& steps = The_Steps();
+    const std::lock_guard guard(steps.lock);
+    if (!steps.door) {
+        steps.door = std::make_unique<Door>();
+        steps.door->moveToThread(QCoreApplication::instance()->thread());
+        qAddPostRoutine(Forget_Steps);
     }
-    return *keeper.door;
+    steps.steps.push_back(std::move(step));
+    // The event comes out of the toolkit, too: whoever filters events looks at it before the step is taken.
+    QCoreApplication::postEvent(steps.door.get(), QEvent(QEvent::User).clone());
 }
 
 // Lets the caller go on once the step that holds it is done, or was dropped because the application has gone.
@@ -170,7 +169,7 @@ void Run_On_Interface_Thread(const std::function<void()>& step)
     }
     std::exception_ptr failure; // nothing may be thrown through the event loop
     Awaited_Step awaited;
-    The_Door().Hand_Over([&step, &failure, held = awaited.Hold()] {
+    Hand_Over([&step, &failure, held = awaited.Hold()] {
         try {
             step();
         } catch (...) {
@@ -192,7 +191,7 @@ void Post_To_Interface_Thread(QObject* context, std::function<void()> step)
 {
     if (!QCoreApplication::instance())
         return;
-    The_Door().Hand_Over([context = QPointer<QObject>(context), step = std::move(step)] {
+    Hand_Over([context = QPointer<QObject>(context), step = std::move(step)] {
         if (context)
             step();
     });
