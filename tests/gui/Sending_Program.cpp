@@ -121,7 +121,7 @@ void Sending_Program::Slow_Down(double factor)
 {
     const double slowness = Slowness();
     m_preparing_pace = Preparing_Pace / slowness / factor;
-    m_sending_pace = Sending_Pace / slowness;
+    m_sending_pace = Sending_Pace / slowness / factor;
     Set_Pace(m_preparing_pace);
 }
 

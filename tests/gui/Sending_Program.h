@@ -38,7 +38,7 @@ struct Way
 // The open program and a phone on its line, used by clicks: a list of three recipients, the last with a long message,
 // is filled in and sent, or the wizard is visited. Afterwards nothing of a job or a visit may be left. The reads whose
 // answers are judged last 20 ms, and longer where the computer is busy or the build a slow one; those of the messages
-// themselves, where nothing is judged, are about as short.
+// themselves, where nothing but a list of character sets is judged, are as short.
 class Sending_Program : public Open_Program, public QObject
 {
 protected:
@@ -47,7 +47,7 @@ protected:
     Sending_Program();
     ~Sending_Program() override;
 
-    /// The waits before the first message are this many times as long from now on.
+    /// The waits are this many times as long as usual from now on.
     void Slow_Down(double factor);
 
     /// A new phone on a line of its own.

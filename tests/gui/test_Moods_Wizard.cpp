@@ -164,6 +164,7 @@ void Wizard_In_A_Mood::TestBody()
 {
     Phone_Moods moods;
     m_row.mood(moods);
+    Slow_Down(moods.m_split_answers ? 3 : 1);
     phone->Set_Moods(moods);
     Visit_Wizard([this] {
         Probe();

@@ -105,6 +105,43 @@ TEST(Interface_Thread, A_Wait_That_Is_Over_First_Waits_For_The_One_That_Began_In
     EXPECT_TRUE(Serve_Until([&] { return inner_is_done; }));
 }
 
+TEST(Interface_Thread, A_Step_That_Lay_Behind_The_Waiting_One_Is_Served_Inside_It)
+{
+    std::atomic<bool> is_served{false};
+    bool was_served_inside = false;
+    const double end = Now_Seconds() + 20;
+    QObject context;
+    Post_To_Interface_Thread(&context, [&] {
+        Run_On_Worker([&] {
+            while (!is_served && Now_Seconds() < end)
+                std::this_thread::yield();
+        });
+        was_served_inside = is_served;
+    });
+    Post_To_Interface_Thread(&context, [&] { is_served = true; });
+    EXPECT_TRUE(Serve_Until([&] { return is_served.load(); }, 30));
+    EXPECT_TRUE(was_served_inside);
+}
+
+TEST(Interface_Thread, Finishing_Serves_A_Worker_Whose_Step_Lay_Behind_The_Finishing_One)
+{
+    std::atomic<bool> has_asked{false};
+    bool is_finished = false;
+    QObject context;
+    Post_To_Interface_Thread(&context, [&] {
+        Finish_Workers();
+        is_finished = true;
+    });
+    Start_Worker("asks", [&] {
+        Post_To_Interface_Thread(&context, [] {});
+        has_asked = true;
+        Run_On_Interface_Thread([] {});
+    });
+    while (!has_asked)
+        std::this_thread::yield();
+    EXPECT_TRUE(Serve_Until([&] { return is_finished; }));
+}
+
 TEST(Interface_Thread, A_Worker_Does_A_Workers_Work_Itself)
 {
     bool is_same = false;

@@ -4,6 +4,7 @@
 #include "platform/Watched_Mouse.h"
 #include "support/Serve_Until.h"
 
+#include <QStringList>
 #include <QTimer>
 #include <atomic>
 #include <cerrno>
@@ -108,6 +109,19 @@ TEST_F(Waiting, What_The_User_Does_During_A_Wait_Takes_Effect_After_It)
     Wait_Seconds(0.03);
     EXPECT_EQ(window.m_moves, 0);
     EXPECT_TRUE(Serve_Until([&] { return window.m_moves == 1; }));
+}
+
+TEST_F(Waiting, A_Step_That_Lay_Behind_The_Waiting_One_Is_Served_Inside_It)
+{
+    QStringList way;
+    QObject context;
+    Post_To_Interface_Thread(&context, [&] {
+        Wait_Seconds(0.05);
+        way += QStringLiteral("waited");
+    });
+    Post_To_Interface_Thread(&context, [&] { way += QStringLiteral("served"); });
+    EXPECT_TRUE(Serve_Until([&] { return way.size() == 2; }));
+    EXPECT_EQ(way.join(u','), QLatin1String("served,waited"));
 }
 
 TEST_F(Waiting, A_Wait_Of_No_Time_Serves_Nothing)

@@ -1,0 +1,271 @@
+#include "app/Program.h"
+#include "gui/Sending_Program.h"
+#include "platform/Waiting.h"
+#include "sending/Send_Modeless.h"
+#include "wizard/Phone_List_Wnd.h"
+
+#include <QMessageBox>
+#include <QTimer>
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+// The whole program, left at its awkward moments: with a job, a search or a probe under way, a box or a dialog open.
+// Each time it comes to its end at once, without another box, and nothing of it is left.
+class Leaving : public testing::Test
+{
+protected:
+    Leaving()
+    {
+        Set_Pace(50);
+        Command_Line command_line;
+        command_line.device_paths = {QString::fromStdString(m_phone.Path())};
+        m_program = std::make_unique<Program>(command_line);
+        EXPECT_TRUE(m_program->Start());
+    }
+
+    ~Leaving() override
+    {
+        m_program.reset();
+        Forget_Program_Exit();
+        Set_Extra_Device_Paths({});
+        sel_port_bsd_str.clear();
+        sel_port_name_str.clear();
+        Set_Pace(1);
+    }
+
+    /// Runs the program, does what leads to the moment, and leaves when it has come.
+    void Leave_When(const std::function<bool()>& is_time, const std::function<void()>& leads_there)
+    {
+        double left_at = 0;
+        QTimer clock;
+        QObject::connect(&clock, &QTimer::timeout, [&] {
+            if (left_at > 0 || !is_time())
+                return;
+            left_at = Now_Seconds();
+            m_leave();
+        });
+        clock.start(2);
+        QTimer::singleShot(0, &clock, leads_there);
+        QTimer::singleShot(20000, &clock, [this] {
+            ADD_FAILURE() << "the moment to leave never came";
+            m_program->Leave();
+        });
+        EXPECT_EQ(m_program->Run(), 0);
+        m_program.reset();
+        EXPECT_LT(Now_Seconds() - left_at, 5);
+        Expect_Nothing_Left();
+    }
+
+    void Expect_Nothing_Left()
+    {
+        EXPECT_EQ(Workers_Running(), 0);
+        EXPECT_EQ(sms_thread_var, 0);
+        EXPECT_EQ(ph_find_thread, 0);
+        EXPECT_EQ(Descriptors_On(m_phone.Path()), 0);
+        EXPECT_THAT(QApplication::topLevelWidgets(), IsEmpty());
+    }
+
+    template <typename Control>
+    Control& The(const char* name)
+    {
+        return *m_program->Delegate().findChild<Control*>(QLatin1String(name));
+    }
+    void Click(const char* name) { QTest::mouseClick(&The<QPushButton>(name), Qt::LeftButton); }
+
+    void Press_Send()
+    {
+        sel_port_bsd_str = QString::fromStdString(m_phone.Path());
+        for (const char* number : {"111", "222", "333"})
+            m_program->Delegate().Create_Num_Msg_List(QLatin1String(number), QStringLiteral("Hello"));
+        Click("_sent_btn");
+    }
+
+    void Open_Wizard()
+    {
+        user.When_Opens(QStringLiteral("Connection_Info"), [](QWidget& window) {
+            QTest::mouseClick(window.findChild<QPushButton*>(QStringLiteral("Continue_Btn")), Qt::LeftButton);
+        });
+        Click("Search_All_Modem");
+    }
+
+    /// Opens the wizard and clicks the phone's row; what it is asked from then on takes the described second each.
+    void Open_Wizard_And_Probe()
+    {
+        user.When_Opens(QStringLiteral("Phone_List_Wnd"), [](QWidget& wizard) {
+            Set_Pace(1);
+            wizard.findChild<QTableView*>(QStringLiteral("idPortList"))->selectRow(0);
+        });
+        Open_Wizard();
+    }
+
+    static bool Is_Shown(const char* window_name)
+    {
+        const auto windows = QApplication::topLevelWidgets();
+        return std::any_of(windows.begin(), windows.end(), [&](const QWidget* window) {
+            return window->isVisible() && window->objectName() == QLatin1String(window_name);
+        });
+    }
+
+    static bool A_Box_Is_Open() { return Is_Shown("Message_Box"); }
+
+    void Make_The_Phone_Silent()
+    {
+        Phone_Moods moods;
+        moods.m_silent = true;
+        m_phone.Set_Moods(moods);
+    }
+
+    User user;
+    Virtual_Phone m_phone;
+    std::unique_ptr<Program> m_program;
+    std::function<void()> m_leave = [this] { m_program->Leave(); };
+};
+
+TEST_F(Leaving, The_Users_Yes_Ends_The_Program)
+{
+    user.Will_Press(QStringLiteral("Yes"));
+    m_leave = [this] { m_program->Delegate().close(); };
+    Leave_When([] { return true; }, [] {});
+}
+
+TEST_F(Leaving, With_A_Notice_Open_Closes_It)
+{
+    user.Will_Leave_It_Open();
+    Leave_When(A_Box_Is_Open, [this] { Click("Add_Number"); });
+}
+
+TEST_F(Leaving, With_A_Question_Open_Answers_No)
+{
+    user.Will_Leave_It_Open();
+    Leave_When(A_Box_Is_Open, [this] {
+        m_program->Delegate().Create_Num_Msg_List(QStringLiteral("1"), QString());
+        Click("Clear_All_Btn");
+        EXPECT_EQ(m_program->Delegate().Recipients().Count(), 1);
+    });
+}
+
+TEST_F(Leaving, With_The_Help_Open)
+{
+    Leave_When([] { return Is_Shown("Help_Wnd"); }, [this] { Click("Help_Btn"); });
+}
+
+TEST_F(Leaving, In_The_Second_Before_The_Long_Message_Notice)
+{
+    Set_Pace(1);
+    Leave_When([this] { return The<QLabel>("_Msg_char_count").text() == QStringLiteral("161 Characters"); },
+               [this] { The<QPlainTextEdit>("_messageEdit").insertPlainText(QString(161, u'a')); });
+}
+
+TEST_F(Leaving, With_The_Long_Message_Notice_Open)
+{
+    Leave_When([] { return Is_Shown("Long_SMS_Dlg"); },
+               [this] { The<QPlainTextEdit>("_messageEdit").insertPlainText(QString(161, u'a')); });
+}
+
+TEST_F(Leaving, While_A_Job_Prepares_The_Phone)
+{
+    Set_Pace(1);
+    Leave_When([this] { return !m_phone.Heard().empty(); }, [this] { Press_Send(); });
+    EXPECT_THAT(user.Was_Shown(), IsEmpty());
+}
+
+TEST_F(Leaving, While_A_Job_Is_At_Its_First_Message)
+{
+    Set_Pace(10);
+    Leave_When([this] { return m_phone.Inbox().size() == 1; }, [this] { Press_Send(); });
+    EXPECT_THAT(user.Was_Shown(), IsEmpty());
+    EXPECT_EQ(m_phone.Inbox().size(), 1U);
+}
+
+TEST_F(Leaving, With_The_Jobs_Last_Word_Still_Open)
+{
+    user.Will_Leave_It_Open();
+    Leave_When(A_Box_Is_Open, [this] { Press_Send(); });
+    EXPECT_EQ(m_phone.Inbox().size(), 3U);
+}
+
+TEST_F(Leaving, With_The_Stop_Question_Open)
+{
+    Set_Pace(5);
+    user.Will_Leave_It_Open();
+    user.When_Opens(QStringLiteral("Send_Modeless"), [](QWidget& progress) {
+        auto* stop = progress.findChild<QPushButton*>(QStringLiteral("_stop_btn"));
+        EXPECT_TRUE(Serve_Until([&] { return stop->isEnabled(); }));
+        stop->click();
+    });
+    Leave_When(A_Box_Is_Open, [this] { Press_Send(); });
+}
+
+// The window can be closed until the progress window stands over it: the question then waits behind that.
+TEST_F(Leaving, By_The_Close_Button_Between_Send_And_The_Progress_Window)
+{
+    Set_Pace(5);
+    user.Will_Leave_It_Open();
+    m_leave = [] {
+        const auto windows = QApplication::topLevelWidgets();
+        for (auto* window : windows) {
+            if (auto* box = qobject_cast<QMessageBox*>(window))
+                box->defaultButton()->click();
+        }
+    };
+    Leave_When([] { return Is_Shown("Send_Modeless") && A_Box_Is_Open(); },
+               [this] {
+                   Press_Send();
+                   m_program->Delegate().close();
+               });
+    EXPECT_THAT(user.Was_Shown(), ElementsAre(QStringLiteral("\nDo you really want to exit from 'Corvane'?")));
+}
+
+TEST_F(Leaving, With_The_Connection_Screen_Open)
+{
+    Leave_When([] { return Is_Shown("Connection_Info"); }, [this] { Click("Search_All_Modem"); });
+}
+
+TEST_F(Leaving, In_The_Second_Before_The_Wizard_Opens)
+{
+    user.When_Opens(QStringLiteral("Connection_Info"), [](QWidget& window) {
+        Set_Pace(1);
+        QTest::mouseClick(window.findChild<QPushButton*>(QStringLiteral("Continue_Btn")), Qt::LeftButton);
+    });
+    Leave_When(
+        [] {
+            const auto* rows = Phone_List_Wnd::defaultInstance()->findChild<QTableView*>(QStringLiteral("idPortList"));
+            return rows->model()->rowCount() > 0;
+        },
+        [this] { Click("Search_All_Modem"); });
+}
+
+TEST_F(Leaving, With_The_Wizard_Open)
+{
+    Leave_When([] { return Is_Shown("Phone_List_Wnd"); }, [this] { Open_Wizard(); });
+}
+
+TEST_F(Leaving, While_A_Device_Is_Probed)
+{
+    Leave_When([this] { return Is_Shown("PleaseWait_Modeless") && m_phone.Heard().size() > 1; },
+               [this] { Open_Wizard_And_Probe(); });
+    EXPECT_THAT(user.Was_Shown(), IsEmpty());
+}
+
+TEST_F(Leaving, With_The_Box_Of_A_Probe_Open)
+{
+    Make_The_Phone_Silent();
+    user.Will_Leave_It_Open();
+    Leave_When(A_Box_Is_Open, [this] { Open_Wizard_And_Probe(); });
+    EXPECT_THAT(user.Was_Shown(), ElementsAre(QString::fromLatin1(Box::Not_Working)));
+}
+
+TEST_F(Leaving, While_A_Device_Is_Checked_For_Sending)
+{
+    user.When_Opens(QStringLiteral("Phone_List_Wnd"), [this](QWidget& wizard) {
+        wizard.findChild<QTableView*>(QStringLiteral("idPortList"))->selectRow(0);
+        EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
+        Set_Pace(1);
+        m_phone.Forget();
+        QTest::mouseClick(wizard.findChild<QPushButton*>(QStringLiteral("_Select_Btn")), Qt::LeftButton);
+    });
+    Leave_When([this] { return Pace() == 1 && !m_phone.Heard().empty(); }, [this] { Open_Wizard(); });
+    EXPECT_THAT(user.Was_Shown(), IsEmpty());
+    EXPECT_TRUE(sel_port_bsd_str.isEmpty());
+}
