@@ -11,6 +11,7 @@
 #include "app/shared/Number_Rules.h"
 #include "app/shared/PleaseWait_Modeless.h"
 #include "app/shared/Window_Look.h"
+#include "platform/Interface_Thread.h"
 #include "platform/Row_Table_Model.h"
 #include "sending/Composer.h"
 #include "sending/Delayed_Delivery.h"
@@ -21,6 +22,7 @@
 #include "wizard/Phone_List_Wnd.h"
 
 #include <QCloseEvent>
+#include <utility>
 
 namespace {
 
@@ -42,6 +44,12 @@ const QString Text_Clear_All =
     QStringLiteral("\nThis option will clear the entire list contents. Are you sure you want to "
                    "continue clearing the entire list?");
 const QString Text_No_Device = QStringLiteral("No Mobile Phone Device is selected.");
+
+// To let go of a million recipients takes its time, like everything that is done with each of them.
+void Let_Go_Of(Recipient_List& list)
+{
+    Run_On_Worker([&] { list.Clear(); });
+}
 
 } // namespace
 
@@ -77,6 +85,9 @@ bool CorvaneAppDelegate::awakeFromNib()
     m_ui->_NO_Device_Ticker->setCursor(Qt::OpenHandCursor);
     m_ui->_NO_Device_Ticker->setStyleSheet(QStringLiteral("QPushButton { color: #d00000; border: none; background: ") +
                                            Window_Background().name() + QStringLiteral("; padding: 4px; }"));
+    // A device's name may be long: it is cut off rather than make the window grow with it.
+    m_ui->_Device_Name_Ticker->ensurePolished();
+    m_ui->_Device_Name_Ticker->setMinimumWidth(m_ui->_Device_Name_Ticker->sizeHint().width());
     Give_Tables_Their_Models();
     Set_Data_Paths(Default_Resource_Path());
     if (!Create_Resource_Folder()) {
@@ -275,10 +286,13 @@ void CorvaneAppDelegate::Clear_Sel_Btn()
         return;
     }
     Show_Create_Modeless();
-    nsListDataObject.Remove_Rows(rows);
+    Recipient_List list = nsListDataObject; // the table shows the present one until this one is whole
+    Run_On_Worker([&] { list.Remove_Rows(rows); });
+    std::swap(nsListDataObject, list);
     Redisplay_Recipients();
     m_ui->idTableView->selectRow(0);
     Update_List_Count();
+    Let_Go_Of(list);
     Hide_Destroy_Modeless();
     if (nsListDataObject.Count() == 0) {
         m_ui->_numberEdit->clear();
@@ -295,11 +309,12 @@ void CorvaneAppDelegate::Clear_All_Btn()
     if (!Show_YES_NO_MessageBox(Text_Clear_All))
         return;
     Show_Create_Modeless();
-    nsListDataObject.Clear();
+    Recipient_List list = std::exchange(nsListDataObject, Recipient_List());
     Redisplay_Recipients();
     Update_List_Count();
     m_ui->_numberEdit->clear();
     Focus(Field::Number);
+    Let_Go_Of(list);
     Hide_Destroy_Modeless();
 }
 
@@ -308,7 +323,7 @@ void CorvaneAppDelegate::Reset_Btn()
     prev_composer_msg.clear();
     m_ui->_numberEdit->clear();
     m_composer->Clear();
-    nsListDataObject.Clear();
+    Recipient_List list = std::exchange(nsListDataObject, Recipient_List());
     Redisplay_Recipients();
     Update_List_Count();
     m_ui->_Msg_char_count->setText(QStringLiteral("0 Characters"));
@@ -323,6 +338,7 @@ void CorvaneAppDelegate::Reset_Btn()
     }
     Update_List_Count();
     Focus(Field::Number);
+    Let_Go_Of(list);
 }
 
 void CorvaneAppDelegate::doubleClickInTable()

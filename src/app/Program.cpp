@@ -54,8 +54,8 @@ void Program::Leave()
     if (m_is_leaving)
         return;
     m_is_leaving = true;
-    Stop_SMS_Sending_Now = 1;
     Begin_Program_Exit();
+    Stop_SMS_Sending_Now = 1; // after the exit has begun: a job that clears the flag looks for the exit then
     Close_Message_Boxes();
     QCoreApplication::exit(0); // ends every dialog's own event loop as well
 }

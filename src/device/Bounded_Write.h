@@ -12,9 +12,6 @@ struct Write_Outcome
     int m_error = 0;
 };
 
-/// One write that takes what there is room for and never blocks; the descriptor's own mode is as it was afterwards.
-ssize_t Write_Without_Blocking(Serial_Calls& calls, int descriptor, const char* bytes, size_t size);
-
 /// Writes all the bytes with put, waiting for room each time. At pace 1 a device that takes none is given up after 10
 /// seconds, and one that takes them too slowly after 10 seconds and 10 ms a byte; neither limit is ever below a real
 /// second. wake_descriptor ends the wait at once.

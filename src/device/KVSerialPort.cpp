@@ -74,8 +74,13 @@ std::shared_ptr<KVFileHandle> KVSerialPort::openExclusively()
 std::shared_ptr<KVFileHandle> KVSerialPort::Open_With(int flags, bool exclusively)
 {
     const std::lock_guard closing(m_close_lock);
-    if (m_file_handle)
+    if (isOpen())
         return m_file_handle;
+    if (m_file_handle) { // this thread is closing it further up
+        errno = EBUSY;
+        Note_Result(-1);
+        return nullptr;
+    }
     // Without O_NONBLOCK the system would wait here for a carrier, which most phones never show.
     const int descriptor = m_calls.Open(QFile::encodeName(m_bsd_path).constData(), flags | O_NONBLOCK | O_CLOEXEC);
     if (!Note_Result(descriptor))
@@ -136,9 +141,9 @@ void KVSerialPort::Take_Raw_Settings()
 void KVSerialPort::close()
 {
     const std::lock_guard closing(m_close_lock);
-    if (!m_file_handle)
+    if (!isOpen())
         return;
-    const int descriptor = m_file_handle->fileDescriptor();
+    const int descriptor = m_file_descriptor;
     {
         // From here on nobody else touches the descriptor: each read and write looks first, under this lock, whose it
         // is.
@@ -162,6 +167,7 @@ void KVSerialPort::close()
 
 bool KVSerialPort::drainInput()
 {
+    const std::lock_guard closing(m_close_lock);
     return Note_Result(Drain_With_An_End(m_calls, m_file_descriptor));
 }
 
@@ -175,17 +181,20 @@ bool KVSerialPort::flushInput(bool input, bool output)
 
 bool KVSerialPort::sendBreak()
 {
+    const std::lock_guard guard(m_line_lock);
     return Note_Result(m_calls.Send_Break(m_file_descriptor));
 }
 
 bool KVSerialPort::setDTR()
 {
+    const std::lock_guard guard(m_line_lock);
     int lines = TIOCM_DTR;
     return Note_Result(m_calls.Control(m_file_descriptor, TIOCMBIS, &lines));
 }
 
 bool KVSerialPort::clearDTR()
 {
+    const std::lock_guard guard(m_line_lock);
     int lines = TIOCM_DTR;
     return Note_Result(m_calls.Control(m_file_descriptor, TIOCMBIC, &lines));
 }

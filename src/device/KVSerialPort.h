@@ -231,7 +231,8 @@ private:
 
     std::mutex m_write_lock; // held by a background writer for its whole transfer
     std::mutex m_read_lock;  // held by a background reader for its whole read
-    mutable std::mutex m_close_lock;
+    // Recursive: while the interface thread waits in a close it serves events, and these may come back to this port.
+    mutable std::recursive_mutex m_close_lock;
     std::mutex m_line_lock;             // held for each single read and write, and where the line is opened or let go
     std::shared_ptr<const Line> m_line; // the present opening, none while closed
     bool m_answer_awaited = false;

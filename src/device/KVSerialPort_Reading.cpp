@@ -1,6 +1,7 @@
 #include "device/KVSerialPort.h"
 
 #include "device/KVSerialPort_Line.h"
+#include "device/Non_Blocking_Transfer.h"
 #include "platform/Waiting.h"
 
 #include <algorithm>
@@ -24,8 +25,8 @@ void KVSerialPort::Await_Answer(bool awaited)
         eventfd_write(m_background_event, 1);
 }
 
-// The only place that takes bytes off the line. It looks first whether there are any, since a read on a blocking
-// descriptor would wait for ever on bytes that somebody else has taken. EAGAIN: none for this caller now.
+// The only place that takes bytes off the line. EAGAIN: none for this caller now, since the line was found ready
+// somebody else has taken them, here or in another program.
 ssize_t KVSerialPort::Take_Bytes(const Line& line, char* bytes, size_t size, bool in_background)
 {
     const std::lock_guard guard(m_line_lock);
@@ -33,11 +34,11 @@ ssize_t KVSerialPort::Take_Bytes(const Line& line, char* bytes, size_t size, boo
         errno = EBADF;
         return -1;
     }
-    if ((in_background && m_answer_awaited) || m_calls.Wait(line.Descriptor(), POLLIN, 0) != Line_Event::Ready) {
+    if (in_background && m_answer_awaited) {
         errno = EAGAIN;
         return -1;
     }
-    return m_calls.Read(line.Descriptor(), bytes, size);
+    return Read_Without_Blocking(m_calls, line.Descriptor(), bytes, size);
 }
 
 QByteArray KVSerialPort::Read_Until(const Read_Ends& ends, KVSerialError* error)

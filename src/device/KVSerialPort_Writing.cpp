@@ -2,6 +2,7 @@
 
 #include "device/Bounded_Write.h"
 #include "device/KVSerialPort_Line.h"
+#include "device/Non_Blocking_Transfer.h"
 
 #include <cerrno>
 

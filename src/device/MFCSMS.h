@@ -98,11 +98,14 @@ public:
 
 private:
     bool Owns(int descriptor) const;
-    void Let_Go_Of(int descriptor);
+    /// Whether it was the session's own until now.
+    bool Let_Go_Of(int descriptor);
 
     Serial_Calls& m_calls;
     Port_Finder& m_finder;
-    std::mutex m_close_lock; // held by CloseSerialPort around the whole sequence
+    // Held by CloseSerialPort around the whole sequence. Recursive: while the interface thread waits in a close it
+    // serves events, and these may close something else.
+    std::recursive_mutex m_close_lock;
     std::shared_ptr<KVSerialPort> m_port;
     QString m_last_response;
     std::set<int> m_descriptors; // opened by OpenSerialPort and not yet closed

@@ -4,6 +4,7 @@
 #include "device/Driver_Requests.h"
 #include "device/Line_Speeds.h"
 #include "device/MFCSMS.h"
+#include "device/Non_Blocking_Transfer.h"
 
 #include <cerrno>
 #include <fcntl.h>
@@ -165,7 +166,7 @@ void MFCSMS::CloseSerialPort(int descriptor)
     if (descriptor < 0)
         return;
     const std::lock_guard closing(m_close_lock);
-    if (!Owns(descriptor))
+    if (!Let_Go_Of(descriptor))
         return;
     const int flags = m_calls.Get_Status_Flags(descriptor);
     if (flags != -1)
@@ -180,7 +181,6 @@ void MFCSMS::CloseSerialPort(int descriptor)
     if (m_calls.Set_Attributes(descriptor, original) == -1)
         Log_Failed_Step(QStringLiteral("Error resetting tty attributes"), errno);
     Release_Exclusive_Use(m_calls, descriptor);
-    Let_Go_Of(descriptor);
     m_calls.Close(descriptor);
 }
 
@@ -190,10 +190,10 @@ bool MFCSMS::Owns(int descriptor) const
     return m_descriptors.count(descriptor) > 0;
 }
 
-void MFCSMS::Let_Go_Of(int descriptor)
+bool MFCSMS::Let_Go_Of(int descriptor)
 {
     const std::lock_guard guard(m_fields_lock);
-    m_descriptors.erase(descriptor);
+    return m_descriptors.erase(descriptor) > 0;
 }
 
 bool MFCSMS::InitializeModem(int descriptor)
@@ -223,7 +223,7 @@ bool MFCSMS::InitializeModem(int descriptor)
         return false;
 
     QByteArray buffer(most_bytes, '\0');
-    const ssize_t length = m_calls.Read(descriptor, buffer.data(), static_cast<size_t>(most_bytes));
+    const ssize_t length = Read_Without_Blocking(m_calls, descriptor, buffer.data(), static_cast<size_t>(most_bytes));
     if (length == -1)
         Log_Failed_Step(QStringLiteral("Error reading from modem"), errno);
     else if (length == 0)

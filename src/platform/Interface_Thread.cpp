@@ -131,6 +131,7 @@ void Do_The_Work(const std::function<void()>& work)
 
 void Serve_Until(const std::atomic<bool>& is_done, QEventLoop::ProcessEventsFlags flags)
 {
+    Wake_Interface_Thread();
     while (!is_done)
         QCoreApplication::processEvents(flags | QEventLoop::WaitForMoreEvents);
     Wake_Interface_Thread();
@@ -248,6 +249,7 @@ int Workers_Running()
 
 void Finish_Workers()
 {
+    Wake_Interface_Thread();
     while (Workers_Running() > 0)
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
     Join_Ended_Workers();

@@ -18,8 +18,9 @@ void Run_On_Interface_Thread(const std::function<void()>& step);
 /// Leaves a step for the interface thread and returns at once. The step is dropped when context is gone by then.
 void Post_To_Interface_Thread(QObject* context, std::function<void()> step);
 
-/// Ends a wait for events on the interface thread. After a time in which user input was held back it must be called as
-/// well: what came meanwhile would otherwise lie in the queue until the window system sends something else.
+/// Ends a wait for events on the interface thread. A loop that waits for events there must begin and end with it as
+/// well: inside a step, the steps that lay behind it in the queue do not end a wait; and what the user did while input
+/// was held back would lie there until the window system sends something else.
 void Wake_Interface_Thread();
 
 enum class User_Input

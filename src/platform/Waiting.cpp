@@ -57,6 +57,7 @@ void Serve_On_Interface_Thread(double seconds)
     QTimer alarm;
     alarm.setTimerType(Qt::PreciseTimer);
     alarm.start(Whole_Milliseconds(seconds));
+    Wake_Interface_Thread();
     while (Now_Seconds() < end && !Program_Is_Exiting())
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
     Wake_Interface_Thread();

@@ -8,8 +8,7 @@ class Long_SMS_Dlg;
 }
 
 // Tells that a message has grown past one SMS and will go out in parts. A notice: whichever way it is closed, it ends
-// with
-// 1. One shared instance, put over the window that asks; interface thread.
+// with 1. One shared instance, put over the window that asks; interface thread.
 class Long_SMS_Dlg : public QDialog
 {
     Q_OBJECT

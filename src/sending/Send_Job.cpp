@@ -120,6 +120,8 @@ void Send_Job::Begin_Sending()
 {
     Pause_Timer_Running = false;
     Stop_SMS_Sending_Now = 0;
+    if (Program_Is_Exiting()) // no stop that came with the exit is lost
+        Stop_SMS_Sending_Now = 1;
     m_progress.Begin_Sending();
     Set_Read_Timeout(Sending_Read_Seconds);
     m_has_error = false;

@@ -139,6 +139,7 @@ ssize_t Watched_Calls::Write(int descriptor, const void* bytes, size_t size)
 
 Line_Event Watched_Calls::Wait(int descriptor, short events, double seconds, int wake_descriptor)
 {
+    ++m_waits;
     Action action;
     {
         const std::lock_guard guard(m_lock);

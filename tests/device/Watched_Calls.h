@@ -2,6 +2,7 @@
 
 #include "device/Serial_Calls.h"
 
+#include <atomic>
 #include <functional>
 #include <map>
 #include <mutex>
@@ -9,7 +10,7 @@
 #include <vector>
 
 /// The real system calls, with every step on the line noted by its name, and any of them made to fail or to answer
-/// something else. Waiting is not noted. Any thread.
+/// something else. Waiting is no step, and only counted. Any thread.
 class Watched_Calls : public Serial_Calls
 {
 public:
@@ -23,6 +24,7 @@ public:
     std::vector<std::string> Steps() const;
     int Count(const std::string& step) const;
     int Last_Open_Flags() const;
+    int Waits() const { return m_waits; }
 
     int Open(const char* path, int flags) override;
     int Close(int descriptor) override;
@@ -46,4 +48,5 @@ private:
     std::vector<std::string> m_steps;
     std::map<std::string, Action> m_actions;
     int m_open_flags = 0;
+    std::atomic<int> m_waits{0};
 };

@@ -284,6 +284,27 @@ TEST_F(Direct_Line, A_Drain_That_Never_Ends_Is_Given_Up_And_Logged)
     EXPECT_EQ(m_calls.Count("close"), 1);
 }
 
+TEST_F(Direct_Line, What_Is_Closed_While_A_Close_Waits_Does_Not_Get_In_Its_Way)
+{
+    Virtual_Phone other;
+    const int descriptor = Open();
+    const int other_descriptor = m_session.OpenSerialPort(QByteArray::fromStdString(other.Path()));
+    ASSERT_NE(other_descriptor, -1);
+    bool has_come_back = false;
+    m_calls.Will_Do("TIOCOUTQ", [&](void* waiting) {
+        *static_cast<int*>(waiting) = has_come_back ? 0 : 100; // something to wait for, with events served meanwhile
+        return 0;
+    });
+    Post_To_Interface_Thread(QCoreApplication::instance(), [&] {
+        has_come_back = true;
+        m_session.CloseSerialPort(descriptor);
+        m_session.CloseSerialPort(other_descriptor);
+    });
+    m_session.CloseSerialPort(descriptor);
+    EXPECT_TRUE(has_come_back);
+    EXPECT_EQ(m_calls.Count("close"), 2);
+}
+
 TEST_F(Direct_Line, A_Descriptor_That_Is_Not_The_Sessions_Own_Is_Not_Touched)
 {
     m_session.CloseSerialPort(-1);
@@ -374,6 +395,12 @@ TEST_F(Direct_Line, Each_Failure_Of_The_Modem_Check_Has_Its_Line)
     m_calls.Will_Do("read", [](void*) { return 0; });
     EXPECT_FALSE(m_session.InitializeModem(descriptor));
     EXPECT_EQ(m_log.All().back(), "Nothing read.\n");
+    m_calls.Will_Do("read", [](void*) { // another program was faster
+        errno = EAGAIN;
+        return -1;
+    });
+    EXPECT_FALSE(m_session.InitializeModem(descriptor));
+    EXPECT_EQ(m_log.All().back(), "Error reading from modem - Resource temporarily unavailable(11).\n");
     m_calls.Will_Fail("write", ENXIO);
     EXPECT_FALSE(m_session.InitializeModem(descriptor));
     EXPECT_EQ(m_log.All().back(), "Error writing to modem - No such device or address(6).\n");

@@ -204,6 +204,29 @@ TEST_F(Serial_Port, A_Close_Does_Not_Wait_For_Bytes_That_The_Device_Never_Takes)
     EXPECT_EQ(m_calls.Count("close"), 1);
 }
 
+TEST_F(Serial_Port, What_Comes_Back_To_A_Port_While_It_Closes_Finds_It_Closed)
+{
+    const auto port = Make_Port();
+    ASSERT_TRUE(port->open());
+    bool has_come_back = false;
+    m_calls.Will_Do("TIOCOUTQ", [&](void* waiting) {
+        *static_cast<int*>(waiting) = has_come_back ? 0 : 100; // something to wait for, with events served meanwhile
+        return 0;
+    });
+    Post_To_Interface_Thread(QCoreApplication::instance(), [&] {
+        port->close();
+        EXPECT_FALSE(port->isOpen());
+        EXPECT_EQ(port->open(), nullptr);
+        EXPECT_EQ(port->lastError(), EBUSY);
+        has_come_back = true;
+    });
+    port->close();
+    EXPECT_TRUE(has_come_back);
+    EXPECT_EQ(m_calls.Count("close"), 1);
+    EXPECT_EQ(m_calls.Count("tcflush"), 0);
+    EXPECT_TRUE(port->open());
+}
+
 TEST_F(Serial_Port, Line_Control_Reports_What_The_System_Says)
 {
     const auto port = Make_Port();

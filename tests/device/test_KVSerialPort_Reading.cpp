@@ -2,7 +2,7 @@
 
 #include "device/KVSerialPort_Deprecated.h"
 
-#include <poll.h>
+#include <fcntl.h>
 #include <thread>
 
 namespace {
@@ -223,6 +223,20 @@ TEST_F(Serial_Port_Reading, A_Read_That_A_Signal_Interrupts_Goes_On)
     });
     m_phone.Says("text");
     EXPECT_EQ(port->readAndReturnError(&m_error), QByteArray("text"));
+}
+
+TEST_F(Serial_Port_Reading, Bytes_That_Another_Program_Took_First_Hold_No_Read_Up)
+{
+    Watched_Calls calls;
+    const auto port = Open_Port(m_phone, calls);
+    int turn = 0;
+    calls.Will_Do("wait", [&](void*) { // the line is found ready, and yet there is nothing
+        return static_cast<int>(turn++ < 3 ? Line_Event::Ready : Line_Event::Timed_Out);
+    });
+    EXPECT_TRUE(port->readAndReturnError(&m_error).isNull());
+    EXPECT_EQ(m_error.code, 100);
+    EXPECT_EQ(calls.Count("read"), 3);
+    EXPECT_EQ(fcntl(port->fileDescriptor(), F_GETFL) & O_NONBLOCK, 0);
 }
 
 TEST_F(Serial_Port_Reading, A_Closed_Port_Reads_Nothing)

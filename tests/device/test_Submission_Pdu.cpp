@@ -159,7 +159,7 @@ TEST_F(Pdu_Submission, The_Number_Of_Parts_Follows_Length_And_Measure)
          {Row{0, false, "0123456789", 1}, Row{1, false, "0123456789", 1}, Row{158, false, "0123456789", 1},
           Row{160, false, "0123456789", 1}, Row{160, false, "01234567890123456789", 2},
           Row{161, false, "0123456789", 2}, Row{304, false, "0123456789", 2}, Row{305, false, "0123456789", 3},
-          Row{320, false, "0123456789", 3}, Row{70, true, "01234567", 1}, Row{70, true, "01234567890123456789", 2},
+          Row{320, false, "0123456789", 3}, Row{70, true, "0123456789", 1}, Row{70, true, "01234567890123456789", 2},
           Row{71, true, "0123456789", 2}, Row{132, true, "0123456789", 2}, Row{133, true, "0123456789", 3}}) {
         Prepare();
         m_number = QString::fromLatin1(row.m_number);
@@ -326,6 +326,18 @@ TEST_F(Pdu_Submission, Without_A_Port_Nothing_Is_Sent)
     m_session.setPort(nullptr);
     EXPECT_FALSE(Send(QStringLiteral("hello")));
     EXPECT_FALSE(Send(QString(161, u'A')));
+}
+
+TEST_F(Pdu_Submission, What_The_Encoder_Cannot_Make_Is_Not_Sent)
+{
+    Prepare();
+    const QChar only = u'1';
+    m_number = QString::fromRawData(&only, qsizetype{1} << 62); // no memory for it: refused before it is looked at
+    for (const int length : {5, 161}) {
+        EXPECT_FALSE(Send(QString(length, u'A'), false)) << length;
+        EXPECT_FALSE(Send(QString(length, u'A'), true)) << length;
+    }
+    EXPECT_TRUE(m_phone.Is_Silent());
 }
 
 TEST_F(Pdu_Submission, Percent_Signs_Of_A_Message_Stay_What_They_Are)

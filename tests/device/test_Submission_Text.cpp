@@ -99,6 +99,13 @@ TEST_F(Text_Submission, The_Last_Part_Is_What_Remains)
     EXPECT_EQ(inbox[1].m_text, "b");
 }
 
+TEST_F(Text_Submission, A_Message_Of_160_That_Measures_Short_Enough_Is_A_Single_One)
+{
+    EXPECT_TRUE(Send(QString(160, u'a')));
+    EXPECT_EQ(m_log.All().back(), "Short SMS Text :: ");
+    EXPECT_EQ(Inbox(1)[0].m_text, std::string(160, 'a'));
+}
+
 TEST_F(Text_Submission, A_Message_Of_160_That_Measures_Too_Long_Is_One_Long_Part)
 {
     m_number = QStringLiteral("01234567890123456789");
@@ -139,7 +146,6 @@ TEST_F(Text_Submission, Without_Both_The_Text_Goes_As_It_Is)
 
 TEST_F(Text_Submission, Seventy_Unicode_Characters_Are_One_Message_And_71_Are_Two)
 {
-    m_number = QStringLiteral("01234567");
     EXPECT_TRUE(Send(QString(70, u'ж'), true));
     EXPECT_EQ(Inbox(1).size(), 1u);
     EXPECT_FALSE(m_log.Has("\n------ 1 / 1 of message ------\n"));
@@ -152,6 +158,26 @@ TEST_F(Text_Submission, Seventy_Unicode_Characters_Are_One_Message_And_71_Are_Tw
     EXPECT_EQ(m_log.Count("UNICODE Long SMS Text Response:: "), 2);
     const auto heard = m_phone.Heard();
     EXPECT_EQ(std::count(heard.begin(), heard.end(), "AT+CSCS=?"), 2); // asked again for every part
+}
+
+TEST_F(Text_Submission, Seventy_Unicode_Characters_That_Measure_Too_Long_Are_One_Long_Part)
+{
+    m_number = QStringLiteral("01234567890123456789");
+    EXPECT_TRUE(Send(QString(70, u'ж'), true));
+    EXPECT_TRUE(m_log.Has("\n------ 1 / 1 of message ------\n"));
+    EXPECT_EQ(m_log.All().back(), "UNICODE Long SMS Text Response:: ");
+    EXPECT_EQ(Inbox(1).size(), 1u);
+}
+
+TEST_F(Text_Submission, What_The_Encoder_Cannot_Measure_Is_Not_Sent)
+{
+    const QChar only = u'1';
+    m_number = QString::fromRawData(&only, qsizetype{1} << 62); // no memory for it: refused before it is looked at
+    EXPECT_FALSE(Send(QStringLiteral("hello")));
+    EXPECT_EQ(m_phone.Heard(), Lines("AT+CSMP=17,255,0,0")); // what goes before the measuring
+    m_phone.Forget();
+    EXPECT_FALSE(Send(QStringLiteral("hello"), true));
+    EXPECT_TRUE(m_phone.Is_Silent());
 }
 
 TEST_F(Text_Submission, A_Stop_Between_Parts_Keeps_The_Rest_Back)

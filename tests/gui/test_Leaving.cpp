@@ -6,6 +6,7 @@
 
 #include <QMessageBox>
 #include <QTimer>
+#include <algorithm>
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -17,7 +18,7 @@ class Leaving : public testing::Test
 protected:
     Leaving()
     {
-        Set_Pace(50);
+        Set_Pace(10);
         Command_Line command_line;
         command_line.device_paths = {QString::fromStdString(m_phone.Path())};
         m_program = std::make_unique<Program>(command_line);
@@ -89,14 +90,23 @@ protected:
         Click("Search_All_Modem");
     }
 
-    /// Opens the wizard and clicks the phone's row; what it is asked from then on takes the described second each.
+    /// Opens the wizard and picks the phone's row; what it is asked from then on takes the described second each.
     void Open_Wizard_And_Probe()
     {
-        user.When_Opens(QStringLiteral("Phone_List_Wnd"), [](QWidget& wizard) {
+        user.When_Opens(QStringLiteral("Phone_List_Wnd"), [this](QWidget& wizard) {
             Set_Pace(1);
-            wizard.findChild<QTableView*>(QStringLiteral("idPortList"))->selectRow(0);
+            Pick_The_Phone(wizard);
         });
         Open_Wizard();
+    }
+
+    void Pick_The_Phone(const QWidget& wizard) const
+    {
+        auto* table = wizard.findChild<QTableView*>(QStringLiteral("idPortList"));
+        const auto* rows = table->model();
+        const auto found = rows->match(rows->index(0, 1), Qt::DisplayRole, QString::fromStdString(m_phone.Path()));
+        ASSERT_EQ(found.size(), 1);
+        table->selectRow(found.constFirst().row());
     }
 
     static bool Is_Shown(const char* window_name)
@@ -172,7 +182,6 @@ TEST_F(Leaving, While_A_Job_Prepares_The_Phone)
 
 TEST_F(Leaving, While_A_Job_Is_At_Its_First_Message)
 {
-    Set_Pace(10);
     Leave_When([this] { return m_phone.Inbox().size() == 1; }, [this] { Press_Send(); });
     EXPECT_THAT(user.Was_Shown(), IsEmpty());
     EXPECT_EQ(m_phone.Inbox().size(), 1U);
@@ -189,12 +198,17 @@ TEST_F(Leaving, With_The_Stop_Question_Open)
 {
     Set_Pace(5);
     user.Will_Leave_It_Open();
-    user.When_Opens(QStringLiteral("Send_Modeless"), [](QWidget& progress) {
-        auto* stop = progress.findChild<QPushButton*>(QStringLiteral("_stop_btn"));
-        EXPECT_TRUE(Serve_Until([&] { return stop->isEnabled(); }));
-        stop->click();
-    });
-    Leave_When(A_Box_Is_Open, [this] { Press_Send(); });
+    auto* stop = Send_Modeless::defaultInstance()->findChild<QPushButton*>(QStringLiteral("_stop_btn"));
+    bool is_pressed = false;
+    Leave_When(
+        [&] {
+            if (!is_pressed && Is_Shown("Send_Modeless") && stop->isEnabled()) {
+                is_pressed = true;
+                QTimer::singleShot(0, stop, &QPushButton::click);
+            }
+            return A_Box_Is_Open();
+        },
+        [this] { Press_Send(); });
 }
 
 // The window can be closed until the progress window stands over it: the question then waits behind that.
@@ -259,7 +273,7 @@ TEST_F(Leaving, With_The_Box_Of_A_Probe_Open)
 TEST_F(Leaving, While_A_Device_Is_Checked_For_Sending)
 {
     user.When_Opens(QStringLiteral("Phone_List_Wnd"), [this](QWidget& wizard) {
-        wizard.findChild<QTableView*>(QStringLiteral("idPortList"))->selectRow(0);
+        Pick_The_Phone(wizard);
         EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
         Set_Pace(1);
         m_phone.Forget();

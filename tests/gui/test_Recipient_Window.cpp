@@ -360,9 +360,8 @@ TEST_F(Recipient_Window, A_Million_Recipients_Are_Shown_On_Demand_And_Half_Of_Th
     EXPECT_TRUE(m_delegate->Check_Duplicate_Number(QStringLiteral("123456")));
     EXPECT_FALSE(m_delegate->Check_Duplicate_Number(QStringLiteral("1000000")));
 
-    table.selectionModel()->select(
-        QItemSelection(table.model()->index(0, 0), table.model()->index(Many / 2 - 1, 1)),
-        QItemSelectionModel::ClearAndSelect);
+    table.selectionModel()->select(QItemSelection(table.model()->index(0, 0), table.model()->index(Many / 2 - 1, 1)),
+                                   QItemSelectionModel::ClearAndSelect);
     Click("Clear_Sel_Btn");
     EXPECT_EQ(m_delegate->Recipients().Count(), Many / 2);
     EXPECT_EQ(Shown(0, 0), QStringLiteral("500000"));

@@ -106,6 +106,15 @@ TEST_F(Main_Window_Size, The_Smallest_Window_Is_No_Larger_Than_1024_By_700)
     EXPECT_LE(m_delegate->minimumSizeHint().height(), 700);
 }
 
+TEST_F(Main_Window_Size, A_Long_Device_Name_Does_Not_Make_The_Window_Grow)
+{
+    const QSize before = m_delegate->size();
+    The<QLabel>("_Device_Name_Ticker").setText(QStringLiteral("/dev/serial/by-id/usb-") + QString(300, u'L'));
+    QTest::qWait(20);
+    EXPECT_EQ(m_delegate->size(), before);
+    EXPECT_LE(m_delegate->minimumSizeHint().width(), 1024) << m_delegate->minimumWidth();
+}
+
 TEST_F(Main_Window_Size, Tab_Goes_From_The_Number_To_Send_Through_Every_Control)
 {
     QStringList order;

@@ -2,7 +2,6 @@
 
 #include <cctype>
 #include <fstream>
-#include <regex>
 
 namespace {
 
@@ -123,14 +122,22 @@ std::vector<std::string> Code_Of(const std::vector<std::string>& lines)
 
 std::vector<Include> Includes_Of(const std::vector<std::string>& lines)
 {
-    static const std::regex Pattern("^\\s*#\\s*include\\s*([\"<])([^\">]+)[\">]");
     const auto code = Code_Of(lines);
     std::vector<Include> includes;
     for (std::size_t row = 0; row < lines.size(); ++row) {
-        std::smatch match;
-        const auto first = code[row].find_first_not_of(" \t");
-        if (first != std::string::npos && code[row][first] == '#' && std::regex_search(lines[row], match, Pattern))
-            includes.push_back({static_cast<int>(row) + 1, match[2], match[1] == "\""});
+        const auto hash = code[row].find_first_not_of(" \t");
+        if (hash == std::string::npos || code[row][hash] != '#')
+            continue;
+        const auto word = code[row].find_first_not_of(" \t", hash + 1);
+        if (word == std::string::npos || code[row].compare(word, 7, "include") != 0)
+            continue;
+        const auto open = code[row].find_first_of("\"<", word);
+        if (open == std::string::npos)
+            continue;
+        const bool is_quoted = code[row][open] == '"';
+        const auto close = lines[row].find(is_quoted ? '"' : '>', open + 1);
+        if (close != std::string::npos)
+            includes.push_back({static_cast<int>(row) + 1, lines[row].substr(open + 1, close - open - 1), is_quoted});
     }
     return includes;
 }

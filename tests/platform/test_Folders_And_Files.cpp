@@ -93,6 +93,7 @@ TEST_F(Folders_And_Files, Starts_At_The_Same_Moment_All_Find_The_Folder_And_The_
         const QString folder = Path("folder") + QString::number(round);
         std::atomic<int> successes{0};
         std::vector<std::thread> starts;
+        starts.reserve(4);
         for (int i = 0; i < 4; ++i) {
             starts.emplace_back([&] {
                 successes += Make_Folder_If_Missing(folder, 0777) ? 1 : 0;

@@ -115,8 +115,8 @@ TEST(Interface_Thread, A_Step_That_Lay_Behind_The_Waiting_One_Is_Served_Inside_I
         Run_On_Worker([&] {
             while (!is_served && Now_Seconds() < end)
                 std::this_thread::yield();
+            was_served_inside = is_served;
         });
-        was_served_inside = is_served;
     });
     Post_To_Interface_Thread(&context, [&] { is_served = true; });
     EXPECT_TRUE(Serve_Until([&] { return is_served.load(); }, 30));

@@ -125,6 +125,7 @@ TEST(System_Log, Threads_Log_Side_By_Side)
     int heard = 0;
     Set_Log_Listener([&](const QString&) { ++heard; });
     std::vector<std::thread> threads;
+    threads.reserve(8);
     for (int i = 0; i < 8; ++i) {
         threads.emplace_back([] {
             for (int k = 0; k < 1000; ++k)

@@ -49,7 +49,7 @@ TEST(Number_Rules, A_Number_Is_Stored_Without_Hyphens_Trimmed_And_With_00_For_Pl
         {QStringLiteral("1\u200b2"), {}},     // zero-width space
         {QString(QChar(0xD83D)), {}},         // lone surrogate
         {QString(QChar(u'\0')) + twenty, {}}, // NUL
-        {QString(1024 * 1024, u'7'), {}},     // a megabyte of digits
+        {QString(1 << 20, u'7'), {}},         // a megabyte of digits
     };
     for (const auto& each : cases)
         EXPECT_EQ(Normalised_Number(each.typed), each.stored) << each.typed.left(40).toStdString();
@@ -80,7 +80,7 @@ TEST(Number_Rules, The_Character_And_Length_Test_Answers_Yes_For_An_Invalid_Numb
         {QString(20, u'9'), false, false},
         {QString(21, u'9'), true, true},
         {QString(20, u','), true, false},
-        {QString(1024 * 1024, u'7'), true, true},
+        {QString(1 << 20, u'7'), true, true},
     };
     for (const auto& each : cases) {
         EXPECT_EQ(Check_Ph_Number(each.number, false), each.is_invalid) << each.number.left(40).toStdString();

@@ -2,6 +2,7 @@
 #include "platform/Interface_Thread.h"
 #include "support/User.h"
 
+#include <QApplication>
 #include <QDialog>
 #include <QLineEdit>
 #include <QMessageBox>

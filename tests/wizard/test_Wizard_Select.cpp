@@ -203,14 +203,21 @@ TEST_F(Wizard_Test, The_Window_Lives_And_Takes_No_Input_While_A_Device_Is_Checke
 
 TEST_F(Wizard_Test, The_Programs_Exit_During_A_Check_Is_Orderly)
 {
-    Set_Pace(1);
     const Virtual_Phone phone;
     Plug_In(phone);
     Run([&] {
-        m_window->findChild<QCheckBox*>("_cus_smsc_chk")->setChecked(true);
-        QTimer::singleShot(200, m_window.get(), [] { Begin_Program_Exit(); });
         Probe_Row(0);
+        Set_Pace(1);
+        bool was_checking = false;
+        QTimer::singleShot(200, m_window.get(), [&] {
+            was_checking = Sheet_Is_Shown();
+            Begin_Program_Exit();
+        });
+        const double begin = Now_Seconds();
         Click("_Select_Btn");
+        EXPECT_LT(Now_Seconds() - begin, 5);
+        EXPECT_TRUE(was_checking);
+        EXPECT_FALSE(Sheet_Is_Shown());
     });
     EXPECT_EQ(sel_port_bsd_str, "");
     EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));

@@ -8,8 +8,7 @@ namespace Number_Rules {
 inline constexpr int Longest_Number = 20; ///< characters, the pair "00" that stands for a leading "+" included
 
 /// Answers yes for an INVALID number: longer than 20 characters, or with a character other than the digits 0 to 9, "+"
-/// and
-/// "-" ("," as well when test_flag is set). An empty text is valid here.
+/// and "-" ("," as well when test_flag is set). An empty text is valid here.
 bool Check_Ph_Number(const QString& number, bool test_flag);
 
 /// The number as it is stored: without "-", trimmed, a leading "+" as "00". An empty text when it is no number.

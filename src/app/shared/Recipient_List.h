@@ -18,9 +18,9 @@ struct Recipient
     QString Value(QStringView identifier) const;
 };
 
-// The ordered list of recipients: the order of insertion is the order of sending. Made for a million rows; equal
-// messages share their text. A copy costs nothing until one of the two changes, which is how a worker takes its
-// snapshot. The list itself is owned by the main window and belongs to the interface thread.
+// The ordered list of recipients: the order of insertion is the order of sending. Made for a million rows: a
+// message given to many of them is kept once. A copy costs nothing until one of the two changes, which is how a worker
+// takes its snapshot. The list itself is owned by the main window and belongs to the interface thread.
 class Recipient_List
 {
 public:

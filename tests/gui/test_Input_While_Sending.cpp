@@ -1,0 +1,60 @@
+#include "gui/Sending_Program.h"
+#include "sending/Send_Modeless.h"
+
+#include <QWindow>
+
+using testing::ElementsAre;
+
+// From the press of Send to the end of the job nothing that the user does in the main window reaches the list: at first
+// because the window takes no input, then because the progress window stands over it.
+class Input_While_Sending : public Sending_Program
+{
+protected:
+    /// As the window system tells it, which what stands over a window keeps away.
+    void Press_In_Window(const char* button)
+    {
+        auto& control = The<QWidget>(button);
+        QTest::mouseClick(m_delegate->windowHandle(), Qt::LeftButton, {},
+                          control.mapTo(m_delegate.get(), control.rect().center()));
+    }
+
+    void Try_Everything()
+    {
+        for (const char* button : {"Reset_Btn", "Clear_Sel_Btn", "Clear_All_Btn", "Add_Number", "_sent_btn",
+                                   "Search_All_Modem", "Help_Btn", "Exit_Btn", "_Skip_Duplicate_Chk"})
+            Press_In_Window(button);
+        Press_In_Window("_numberEdit");
+        QTest::keyClick(m_delegate->windowHandle(), Qt::Key_4);
+        QTest::keyClick(m_delegate->windowHandle(), Qt::Key_R, Qt::AltModifier);
+        EXPECT_EQ(The<QLineEdit>("_numberEdit").text(), QString());
+        EXPECT_FALSE(The<QCheckBox>("_Skip_Duplicate_Chk").isChecked());
+        EXPECT_EQ(m_delegate->Recipients().Count(), 1);
+    }
+};
+
+TEST_F(Input_While_Sending, Is_Dropped_While_The_Window_Is_Held_And_Not_Kept_For_Later)
+{
+    Fill_The_List({}, 1);
+    m_delegate->Hold_Input();
+    Try_Everything();
+    m_delegate->Release_Input();
+    QTest::qWait(20);
+    EXPECT_EQ(m_delegate->Recipients().Count(), 1);
+    Press_In_Window("Reset_Btn");
+    EXPECT_EQ(m_delegate->Recipients().Count(), 0);
+}
+
+TEST_F(Input_While_Sending, Reaches_Nothing_In_The_Main_Window)
+{
+    Fill_The_List({}, 1);
+    Select_The_Phone();
+    user.Will_Press(QStringLiteral("OK"));
+    Click("_sent_btn");
+    Try_Everything();
+    ASSERT_TRUE(Serve_Until([] { return Send_Modeless::defaultInstance()->isVisible(); }));
+    Try_Everything();
+    ASSERT_TRUE(Serve_Until([] { return sms_thread_var == 0 && Workers_Running() == 0; }));
+    EXPECT_THAT(Boxes_Shown(), ElementsAre(std::string(Box::Completed)));
+    EXPECT_THAT(Inbox(), ElementsAre(Everything({}).front()));
+    Expect_That_All_Is_Quiet();
+}
