@@ -30,12 +30,13 @@ is_installed() {
     [ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
 }
 
-# need_writable_build: the folder for what is built, with room in it.
+# need_writable_build <preset>: the folder for what is built, with room in it: a whole build takes 1.4 GB.
 need_writable_build() {
+    local needed=2048 free
+    [ ! -e "$root/build/$1/build.ninja" ] || needed=256
     mkdir -p "$logs" 2>/dev/null && [ -w "$logs" ] || fail "cannot write to $root/build"
-    local free_megabytes
-    free_megabytes=$(df -Pm "$root/build" | awk 'NR == 2 { print $4 }')
-    [ "$free_megabytes" -ge 1024 ] || fail "only $free_megabytes MB of disk left for $root/build; 1024 MB are needed"
+    free=$(df -Pm "$root/build" | awk 'NR == 2 { print $4 }')
+    [ "$free" -ge "$needed" ] || fail "only $free MB of disk left for $root/build; $needed MB are needed"
 }
 
 # need_packages <package>...: installs those that are missing; quick when none is.

@@ -12,6 +12,7 @@
 #include <array>
 #include <cstdlib>
 #include <fcntl.h>
+#include <iostream>
 #include <unistd.h>
 
 namespace {
@@ -115,6 +116,10 @@ Sending_Program::~Sending_Program()
     Set_Extra_Device_Paths({});
     Select(QString());
     Cus_SMS_Num_STR.clear();
+    if (HasFailure()) {
+        for (const auto& line : log.All())
+            std::cout << "log: " << line << std::endl;
+    }
 }
 
 void Sending_Program::Slow_Down(double factor)

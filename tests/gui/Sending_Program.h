@@ -3,6 +3,7 @@
 #include "device/Device_Paths.h"
 #include "gui/Open_Program.h"
 #include "phone/Virtual_Phone.h"
+#include "support/Log_Lines.h"
 
 #include <functional>
 #include <memory>
@@ -97,6 +98,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
     std::unique_ptr<Virtual_Phone> phone;
+    Log_Lines log; // printed when the test fails
     int m_lines_held = 0; // descriptors on the device that the test has open itself
 
 private:

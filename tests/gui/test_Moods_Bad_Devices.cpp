@@ -1,7 +1,5 @@
 #include "gui/Sending_Program.h"
 
-#include "support/Log_Lines.h"
-
 #include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTemporaryFile>
@@ -75,7 +73,7 @@ protected:
     {
         Select(QString::fromStdString(path));
         Fill_The_List({}, 1);
-        const Log_Lines log;
+        log.Forget();
         EXPECT_EQ(Send(), Box::Does_Not_Open);
         EXPECT_THAT(log.Joined(), HasSubstr(log_line));
     }
@@ -173,8 +171,7 @@ TEST_F(Bad_Device, A_Port_Without_Permission_Does_Not_Open_Until_It_Is_Given)
     Select_The_Phone();
     std::string box;
     {
-        const Log_Lines log;
-        user.Will_Handle([&](QMessageBox& shown) {
+            user.Will_Handle([&](QMessageBox& shown) {
             box = shown.text().toStdString();
             shown.accept();
         });
@@ -242,7 +239,6 @@ TEST_F(Bad_Device, Five_Thousand_Bytes_Unasked_Are_Logged_And_Forgotten)
 {
     Select_The_Phone();
     Fill_The_List();
-    const Log_Lines log;
     phone->Set_Listeners({.m_on_part = {},
                           .m_on_message = [this](const Handset_Message&) { phone->Says(Flood('#')); },
                           .m_on_hang_up = {}});

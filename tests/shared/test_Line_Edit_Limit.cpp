@@ -72,7 +72,7 @@ TEST_F(Line_Edit_Limit, A_Megabyte_Is_Taken_In_Without_Trouble)
     EXPECT_EQ(m_field.text(), QString(20, u'7'));
     Paste(QString(1024 * 1024, u'\n'));
     EXPECT_EQ(m_field.text(), QString(20, u'7'));
-    EXPECT_LT(Now_Seconds() - begin, 5.0);
+    EXPECT_LT(Now_Seconds() - begin, 60) << "seconds; a slow machine under a sanitizer takes ten";
 }
 
 TEST_F(Line_Edit_Limit, Units_Are_Counted_And_Not_Characters)
