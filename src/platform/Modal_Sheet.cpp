@@ -4,6 +4,7 @@
 
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QPainter>
 
 Modal_Sheet::Modal_Sheet(QWidget* parent) : QDialog(parent)
 {
@@ -41,4 +42,12 @@ void Modal_Sheet::closeEvent(QCloseEvent* event)
         QDialog::closeEvent(event);
     else
         event->ignore();
+}
+
+void Modal_Sheet::paintEvent(QPaintEvent* event)
+{
+    QDialog::paintEvent(event);
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::Mid));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }

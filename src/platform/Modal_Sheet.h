@@ -19,6 +19,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override; ///< with an edge, which some desktops give no window without buttons
 
 private:
     bool m_is_ending = false;

@@ -17,9 +17,9 @@
 
 namespace {
 
-// A pace of 50 makes a read of one second last 20 ms, one of 250 a read of five seconds.
-constexpr double Preparing_Pace = 50;
-constexpr double Sending_Pace = 250;
+// A pace of 25 makes a read of one second last 40 ms, one of 125 a read of five seconds.
+constexpr double Preparing_Pace = 25;
+constexpr double Sending_Pace = 125;
 
 #if defined(__SANITIZE_THREAD__) || defined(__SANITIZE_ADDRESS__)
 constexpr double Slowness_Of_Build = 3;

@@ -204,7 +204,8 @@ void Sending_In_A_Mood::Expect_What_Was_Heard()
     else if (m_row.heard == Heard::No_Mode)
         EXPECT_EQ(heard, asked);
     else
-        EXPECT_TRUE(heard.size() > asked.size() && std::equal(asked.begin(), asked.end(), heard.begin()));
+        EXPECT_TRUE(heard.size() > asked.size() && std::equal(asked.begin(), asked.end(), heard.begin()))
+            << testing::PrintToString(heard);
 }
 
 const bool Pdu_Rows_Registered = Register_Each<Sending_In_A_Mood>("Sending_In_PDU_Mode", "A_Phone_", In_PDU_Mode);
