@@ -98,7 +98,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
     std::unique_ptr<Virtual_Phone> phone;
-    Log_Lines log; // printed when the test fails
+    Log_Lines log;        // printed when the test fails
     int m_lines_held = 0; // descriptors on the device that the test has open itself
 
 private:

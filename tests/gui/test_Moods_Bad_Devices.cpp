@@ -171,7 +171,7 @@ TEST_F(Bad_Device, A_Port_Without_Permission_Does_Not_Open_Until_It_Is_Given)
     Select_The_Phone();
     std::string box;
     {
-            user.Will_Handle([&](QMessageBox& shown) {
+        user.Will_Handle([&](QMessageBox& shown) {
             box = shown.text().toStdString();
             shown.accept();
         });
