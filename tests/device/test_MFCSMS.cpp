@@ -248,6 +248,9 @@ TEST_F(Session, An_Exception_Of_The_Device_Kind_Counts_As_Done)
     Connect(m_session, m_phone);
     m_calls.Will_Do("write", [](void*) -> int { throw Device_Exception("the cable burns"); });
     EXPECT_TRUE(m_session.Write_Command(No_Descriptor, "AT\r\n"));
+    // With an answer awaited, what comes is for the read and not for the background reader.
+    m_calls.Will_Do("write", [](void*) { return 4; });
+    EXPECT_TRUE(m_session.Write_Command(No_Descriptor, "AT\r\n"));
     m_phone.Says("x");
     m_calls.Will_Do("read", [](void*) -> int { throw Device_Exception("the cable burns"); });
     EXPECT_TRUE(m_session.Read_Command(No_Descriptor, "\r\nOK\r\n"));
