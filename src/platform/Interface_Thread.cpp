@@ -78,15 +78,23 @@ protected:
     void customEvent(QEvent* /*event*/) override { Next_Step()(); }
 };
 
+// The door is made with the application, on the interface thread, where every filter of events looks at it.
+void Open_The_Door()
+{
+    auto& steps = The_Steps();
+    const std::lock_guard guard(steps.lock);
+    steps.door = std::make_unique<Door>();
+    qAddPostRoutine(Forget_Steps);
+}
+
+Q_COREAPP_STARTUP_FUNCTION(Open_The_Door)
+
 void Hand_Over(std::function<void()> step)
 {
     auto& steps = The_Steps();
     const std::lock_guard guard(steps.lock);
-    if (!steps.door) {
-        steps.door = std::make_unique<Door>();
-        steps.door->moveToThread(QCoreApplication::instance()->thread());
-        qAddPostRoutine(Forget_Steps);
-    }
+    if (!steps.door)
+        return; // the application is going: nobody is left to do it
     steps.steps.push_back(std::move(step));
     // The event comes out of the toolkit, too: whoever filters events looks at it before the step is taken.
     QCoreApplication::postEvent(steps.door.get(), QEvent(QEvent::User).clone());
