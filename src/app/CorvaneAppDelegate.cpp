@@ -1,12 +1,13 @@
 #include "app/CorvaneAppDelegate.h"
 
 #include "app/Help_Wnd.h"
-#include "app/List_Tables.h"
+#include "app/List_Cells.h"
 #include "app/Number_Acceptance.h"
 #include "app/basics/String_Helpers.h"
 #include "app/shared/Data_Paths.h"
 #include "app/shared/Globals.h"
 #include "app/shared/Line_Edit_Limit.h"
+#include "app/shared/List_Tables.h"
 #include "app/shared/Message_Boxes.h"
 #include "app/shared/Number_Rules.h"
 #include "app/shared/PleaseWait_Modeless.h"
@@ -219,6 +220,8 @@ void CorvaneAppDelegate::Create_Exclusion_List(const QString& number)
     m_exclusion_rows->Reload();
 }
 
+void CorvaneAppDelegate::Fill_Exclusion_Num_List() {}
+
 void CorvaneAppDelegate::Update_List_Count()
 {
     m_ui->_gsm_list_count->setText(QStringLiteral("Total Numbers : ") + QString::number(nsListDataObject.Count()));
@@ -280,7 +283,7 @@ void CorvaneAppDelegate::Clear_Sel_Btn()
         Tell_And_Focus(Text_List_Empty, Field::Recipient_Table);
         return;
     }
-    const auto rows = Selected_Rows();
+    const auto rows = Selected_Recipient_Rows();
     if (rows.empty()) {
         Tell_And_Focus(Text_None_Selected, Field::Recipient_Table);
         return;
@@ -343,11 +346,11 @@ void CorvaneAppDelegate::Reset_Btn()
 
 void CorvaneAppDelegate::doubleClickInTable()
 {
-    if (Selected_Rows().size() > 1)
+    if (Selected_Recipient_Rows().size() > 1)
         Show_MessageBox(Text_Select_One);
 }
 
-std::vector<int> CorvaneAppDelegate::Selected_Rows() const
+std::vector<int> CorvaneAppDelegate::Selected_Recipient_Rows() const
 {
     return Rows_Selected_In(*m_ui->idTableView);
 }
@@ -372,6 +375,26 @@ void CorvaneAppDelegate::Unicode_Chk()
 QString CorvaneAppDelegate::Long_SMS_Calculation(int length, const QString& msg_char_value, bool open_dlg)
 {
     return m_composer->Long_SMS_Calculation(length, msg_char_value, open_dlg);
+}
+
+int CorvaneAppDelegate::Composer_Length() const
+{
+    return m_composer->Length();
+}
+
+int CorvaneAppDelegate::Composer_Selection_Length() const
+{
+    return m_composer->Selection_Length();
+}
+
+void CorvaneAppDelegate::Use_In_Composer(const QString& text)
+{
+    m_composer->Use_Text(text);
+}
+
+void CorvaneAppDelegate::Set_Composer_Text(const QString& text)
+{
+    m_composer->Set_Text(text);
 }
 
 // ---- Sending
@@ -457,6 +480,9 @@ void CorvaneAppDelegate::Focus(Field field)
     case Field::Number:
         m_ui->_numberEdit->setFocus();
         break;
+    case Field::Composer:
+        m_ui->_messageEdit->setFocus();
+        break;
     case Field::Recipient_Table:
         m_ui->idTableView->setFocus();
         break;
@@ -467,6 +493,13 @@ void CorvaneAppDelegate::Focus(Field field)
         m_ui->_delayed_time_combo->setFocus();
         break;
     }
+}
+
+void CorvaneAppDelegate::Replace_Recipients(Recipient_List recipients)
+{
+    std::swap(nsListDataObject, recipients);
+    Redisplay_Recipients();
+    Let_Go_Of(recipients);
 }
 
 void CorvaneAppDelegate::Redisplay_Recipients()

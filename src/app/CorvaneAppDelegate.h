@@ -47,8 +47,9 @@ public:
     bool Check_Ph_Number(const QString& number, bool test_flag) const override;
     /// The normalised number, or an empty text when it may not be inserted.
     QString Num_Able_To_insert(const QString& number) const;
-    bool Check_Duplicate_Number(const QString& number) const;
-    bool Check_Exclusion_Number(const QString& number) const;
+    bool Check_Duplicate_Number(const QString& number) const override;
+    bool Check_Exclusion_Number(const QString& number) const override;
+    void Fill_Exclusion_Num_List() override;
     void Create_Exclusion_List(const QString& number);
     void Update_List_Count();
     bool Blank_Msg_Chk() const override;
@@ -57,7 +58,11 @@ public:
     QString tableView(const QTableView* table, const QString& objectValueForTableColumn, int row) const;
 
     // The composer
-    QString Long_SMS_Calculation(int length, const QString& msg_char_value, bool open_dlg);
+    QString Long_SMS_Calculation(int length, const QString& msg_char_value, bool open_dlg) override;
+    int Composer_Length() const override;
+    int Composer_Selection_Length() const override;
+    void Use_In_Composer(const QString& text) override;
+    void Set_Composer_Text(const QString& text) override;
 
     // The device and its ticker
     void Search_All_Modem();
@@ -69,7 +74,9 @@ public:
     void Focus(Field field) override;
     const Recipient_List& Recipients() const override { return nsListDataObject; }
     const Exclusion_Set& Exclusions() const override { return nsExclusionListDataObject; }
+    void Replace_Recipients(Recipient_List recipients) override;
     void Redisplay_Recipients() override;
+    std::vector<int> Selected_Recipient_Rows() const override;
     Send_Choices Read_Send_Choices() const override;
     QString Previous_Composer_Message() const override { return prev_composer_msg; }
     void Set_Previous_Composer_Message(const QString& message) override { prev_composer_msg = message; }
@@ -104,7 +111,6 @@ private:
     void Give_Tables_Their_Models();
     void Show_Device_In_Ticker();
     void Tell_And_Focus(const QString& text, Field field);
-    std::vector<int> Selected_Rows() const;
 
     std::unique_ptr<Ui::CorvaneAppDelegate> m_ui;
     std::unique_ptr<MFCSMS> mfc_sms_obj;

@@ -41,6 +41,22 @@ void Composer::Set_Text(const QString& text)
     _messageEdit->setPlainText(Composer_Rules::Cut_To_Limit(text));
 }
 
+int Composer::Selection_Length() const
+{
+    const QTextCursor cursor = _messageEdit->textCursor();
+    return cursor.selectionEnd() - cursor.selectionStart();
+}
+
+void Composer::Use_Text(const QString& text)
+{
+    {
+        const QScopedValueRollback is_changing(m_is_changing_text, true);
+        _messageEdit->insertPlainText(text);
+        Cut_To_Limit();
+    }
+    Refresh_Counter(true);
+}
+
 void Composer::Clear()
 {
     Set_Text(QString());

@@ -27,6 +27,11 @@ public:
     /// Puts a text there, cut to its first 1600 characters. Not typing: no dialog opens and the counter stays for the
     /// caller to refresh.
     void Set_Text(const QString& text);
+    /// How many characters are selected.
+    int Selection_Length() const;
+    /// Puts a text in the place of the selection, or at the cursor, cuts the whole to its first 1600 characters and
+    /// writes the counter, with the long-message dialog when it is due.
+    void Use_Text(const QString& text);
     /// Empties the text and the counter.
     void Clear();
     /// Writes the counter for the present text; open_dlg allows the long-message dialog.

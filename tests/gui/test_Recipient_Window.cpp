@@ -1,5 +1,6 @@
 #include "app/Hyperlink.h"
-#include "app/List_Tables.h"
+#include "app/List_Cells.h"
+#include "app/shared/List_Tables.h"
 #include "gui/Open_Program.h"
 
 #include <QHeaderView>

@@ -11,9 +11,9 @@
 #include "sending/Send_Runner.h"
 #include "sending/Watched_Calls.h"
 #include "sending/Watched_Progress.h"
-#include "sending/Window_For_Tests.h"
 #include "support/Serve_Until.h"
 #include "support/User.h"
+#include "support/Window_For_Tests.h"
 
 #include <QLabel>
 #include <QProgressBar>

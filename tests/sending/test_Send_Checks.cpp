@@ -2,8 +2,8 @@
 
 #include "pdu/Text_Printing.h"
 #include "platform/Waiting.h"
-#include "sending/Window_For_Tests.h"
 #include "support/User.h"
+#include "support/Window_For_Tests.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

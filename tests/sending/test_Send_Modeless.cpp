@@ -7,9 +7,9 @@
 #include "platform/Interface_Thread.h"
 #include "platform/Pace.h"
 #include "platform/Waiting.h"
-#include "sending/Window_For_Tests.h"
 #include "support/Serve_Until.h"
 #include "support/User.h"
+#include "support/Window_For_Tests.h"
 
 #include <QLabel>
 #include <QProgressBar>

@@ -38,6 +38,25 @@ void Recipient_List::Append(const QString& number, const QString& message)
     body.index.Add(static_cast<int>(body.recipients.size()) - 1, Number_Of(body.recipients));
 }
 
+void Recipient_List::Replace(int index, const QString& number, const QString& message)
+{
+    auto& body = *m_body;
+    Recipient& recipient = body.recipients.at(static_cast<std::size_t>(index));
+    const bool is_same_number = recipient.Number == number;
+    recipient = {number, message};
+    if (!is_same_number)
+        body.Rebuild_Index();
+}
+
+void Recipient_List::Set_Messages(const std::vector<int>& rows, const QString& message)
+{
+    if (rows.empty())
+        return;
+    auto& body = *m_body;
+    for (const int row : rows)
+        body.recipients.at(static_cast<std::size_t>(row)).Message = message;
+}
+
 void Recipient_List::Remove_Rows(const std::vector<int>& rows)
 {
     if (rows.empty())

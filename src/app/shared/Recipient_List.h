@@ -30,6 +30,10 @@ public:
     /// The recipient at an index from 0 to Count() - 1.
     const Recipient& At(int index) const;
     void Append(const QString& number, const QString& message);
+    /// Puts another recipient in the place of the one at an index from 0 to Count() - 1.
+    void Replace(int index, const QString& number, const QString& message);
+    /// Gives the recipients at the indexes, each from 0 to Count() - 1, one message; each keeps its number.
+    void Set_Messages(const std::vector<int>& rows, const QString& message);
     /// Removes the rows of a sorted list of distinct indexes in one pass.
     void Remove_Rows(const std::vector<int>& rows);
     void Clear();

@@ -1,0 +1,63 @@
+#include "app/shared/List_Tables.h"
+
+#include "platform/Row_Table_Model.h"
+
+#include <QHeaderView>
+#include <QItemSelectionModel>
+#include <QSignalBlocker>
+#include <QTableView>
+#include <algorithm>
+#include <string>
+
+Invalid_Parameter::Invalid_Parameter(const char* condition)
+    : std::logic_error(std::string("Invalid parameter not satisfying: ") + condition)
+{
+}
+
+void Prepare_List_Table(QTableView& table, Row_Table_Model& rows)
+{
+    table.setModel(&rows);
+    table.setAlternatingRowColors(true);
+    table.setSelectionBehavior(QAbstractItemView::SelectRows);
+    table.setSelectionMode(QAbstractItemView::ExtendedSelection);
+    table.setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table.setShowGrid(false);
+    table.setWordWrap(false);
+    table.setTabKeyNavigation(false); // Tab leaves the table
+    table.setCornerButtonEnabled(false);
+    table.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    table.verticalHeader()->setDefaultSectionSize(table.fontMetrics().height() + 10);
+    table.verticalHeader()->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    table.horizontalHeader()->setHighlightSections(false);
+    table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    table.horizontalHeader()->setStretchLastSection(true);
+    table.setColumnWidth(0, table.fontMetrics().averageCharWidth() * 24);
+}
+
+std::vector<int> Rows_Selected_In(const QTableView& table)
+{
+    std::vector<int> rows;
+    const auto ranges = table.selectionModel()->selection();
+    for (const auto& range : ranges) {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            rows.push_back(row);
+    }
+    std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    return rows;
+}
+
+void Reload_And_Select_First(QTableView& table, Row_Table_Model& rows)
+{
+    auto& selection = *table.selectionModel();
+    {
+        const QSignalBlocker muted(selection);
+        selection.clear();
+        rows.Reload();
+    }
+    table.viewport()->update();
+    if (rows.rowCount() > 0)
+        table.selectRow(0);
+    else
+        Q_EMIT selection.selectionChanged({}, {});
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <stdexcept>
+#include <vector>
+
+class QTableView;
+class Row_Table_Model;
+
+// How every table of the program is set up, and what is asked of its selection. Interface thread only.
+
+/// A row that the list does not have was asked for; the text is "Invalid parameter not satisfying: " and the condition.
+class Invalid_Parameter : public std::logic_error
+{
+public:
+    explicit Invalid_Parameter(const char* condition);
+};
+
+/// Striped, with headings, rows selected whole and many at a time, nothing edited in place, made for a million rows.
+void Prepare_List_Table(QTableView& table, Row_Table_Model& rows);
+
+/// The selected rows in ascending order.
+std::vector<int> Rows_Selected_In(const QTableView& table);
+
+/// Takes rows that were removed from the list out of the table and leaves row 0 alone selected, if there is one. What
+/// listens to the selection hears of it once, when all is done.
+void Reload_And_Select_First(QTableView& table, Row_Table_Model& rows);

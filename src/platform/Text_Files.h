@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <functional>
+#include <optional>
+
+// Reading, appending to and replacing files of text, in a way that a crash, a full disk or a kill leaves no half of
+// anything behind. May be called from any thread.
+
+/// Holds a file's lock for as long as it lives: whoever loads, appends to or rewrites a data file does it under the
+/// lock of that path. One lock a path for the whole process; a thread that holds it may take it again.
+class File_Lock
+{
+public:
+    explicit File_Lock(const QString& path);
+    ~File_Lock();
+    File_Lock(const File_Lock&) = delete;
+    File_Lock& operator=(const File_Lock&) = delete;
+
+private:
+    struct Entry;
+    Entry* m_entry;
+};
+
+/// The whole of a regular file, up to where it ends while it is read. Nothing when it is missing, is no regular file (a
+/// folder, a pipe, a device: those never end) or can not be read.
+std::optional<QByteArray> Read_File(const QString& path);
+
+/// The text of UTF-8 bytes, taken strictly: nothing when any byte is not part of a valid sequence. NULs and a
+/// byte-order mark stay in the text.
+std::optional<QString> Decode_Utf8(const QByteArray& bytes);
+
+/// Both in one: the text of a UTF-8 file.
+std::optional<QString> Read_Utf8_File(const QString& path);
+
+/// Appends bytes to an existing or new regular file, with one write where the system takes them in one. An append that
+/// fails part-way is cut back to where it began. Returns whether all of it is in the file.
+bool Append_To_File(const QString& path, const QByteArray& bytes);
+
+/// Replaces a file by one with this content and the permissions 0777, whatever the umask: written beside it under the
+/// one name Replacement_Path gives, flushed, synced and renamed over it. At every instant the path holds the old whole
+/// or the new whole. Returns false, with the old file as it was, when anything fails; nothing is left beside it then.
+bool Replace_File(const QString& path, const QByteArray& bytes);
+
+/// Where a replacement is written before it takes the file's place. Does not end in the data files' extension.
+QString Replacement_Path(const QString& path);
+
+/// Whether the path could be opened for writing in place: it is missing and its folder takes new files, or it is a
+/// regular file that the user may write to. For what promises to report a file that can not be opened.
+bool Can_Be_Written(const QString& path);
+
+/// Removes a regular file or link. Returns whether nothing stands at the path afterwards.
+bool Remove_File(const QString& path);
+
+/// Writes a new file straight into its place, in pieces, emptying what stood there: pieces are taken from next_piece
+/// until it returns nothing. What was written stays where it is when writing fails. Returns false when the file can not
+/// be opened, is no regular file, or a write fails.
+bool Write_File_In_Pieces(const QString& path, const std::function<std::optional<QByteArray>()>& next_piece);
