@@ -24,7 +24,8 @@ private:
 };
 
 /// The whole of a regular file, up to where it ends while it is read. Nothing when it is missing, is no regular file (a
-/// folder, a pipe, a device: those never end) or can not be read.
+/// folder, a pipe, a device: those never end), is larger than 2 GiB or can not be read. Opening disturbs no pipe or
+/// device.
 std::optional<QByteArray> Read_File(const QString& path);
 
 /// The text of UTF-8 bytes, taken strictly: nothing when any byte is not part of a valid sequence. NULs and a
@@ -34,13 +35,15 @@ std::optional<QString> Decode_Utf8(const QByteArray& bytes);
 /// Both in one: the text of a UTF-8 file.
 std::optional<QString> Read_Utf8_File(const QString& path);
 
-/// Appends bytes to an existing or new regular file, with one write where the system takes them in one. An append that
-/// fails part-way is cut back to where it began. Returns whether all of it is in the file.
+/// Appends bytes to an existing regular file, or to a new one with the permissions 0777, with one write where the
+/// system takes them in one. An append that fails part-way is cut back to where it began. Takes the file's lock itself.
+/// Returns whether all of it is in the file. No bytes: only makes sure that the file is there and can be written to.
 bool Append_To_File(const QString& path, const QByteArray& bytes);
 
 /// Replaces a file by one with this content and the permissions 0777, whatever the umask: written beside it under the
 /// one name Replacement_Path gives, flushed, synced and renamed over it. At every instant the path holds the old whole
 /// or the new whole. Returns false, with the old file as it was, when anything fails; nothing is left beside it then.
+/// Takes the file's lock itself. A link, pipe or device at the path is replaced like a file; a folder never is.
 bool Replace_File(const QString& path, const QByteArray& bytes);
 
 /// Where a replacement is written before it takes the file's place. Does not end in the data files' extension.

@@ -1,0 +1,304 @@
+#include "platform/Text_Files.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStringDecoder>
+#include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <new>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+namespace {
+
+// O_NONBLOCK: a pipe that comes to stand at a path after it was looked at never holds up an open.
+constexpr int Open_Flags = O_CLOEXEC | O_NOCTTY | O_NONBLOCK;
+constexpr mode_t Data_File_Permissions = 0777;
+constexpr qint64 Largest_Read = qint64{2} << 30;
+constexpr qsizetype Read_Step = qsizetype{64} << 10;
+
+/// A path as the system takes it. A text with a NUL in it names no file: it becomes the empty name, which never opens.
+QByteArray Native_Name(const QString& path)
+{
+    return path.contains(QChar::Null) ? QByteArray() : QFile::encodeName(path);
+}
+
+/// The system's answer to a call that a signal may have cut off.
+template <typename Call>
+auto Uninterrupted(Call call)
+{
+    auto result = call();
+    while (result == -1 && errno == EINTR)
+        result = call();
+    return result;
+}
+
+/// An open file, closed when it goes out of scope.
+class Descriptor
+{
+public:
+    Descriptor(const QByteArray& name, int flags, mode_t permissions = 0)
+        : m_descriptor(Uninterrupted([&] { return open(name.constData(), flags | Open_Flags, permissions); }))
+    {
+    }
+    ~Descriptor() { Close(); }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+
+    bool Is_Open() const { return m_descriptor >= 0; }
+    int Number() const { return m_descriptor; }
+
+    /// Never tried twice: whatever close() says, the number may already be another file's.
+    bool Close()
+    {
+        const int descriptor = std::exchange(m_descriptor, -1);
+        return descriptor < 0 || close(descriptor) == 0;
+    }
+
+private:
+    int m_descriptor;
+};
+
+/// The size of the regular file that is open; nothing for whatever else a path can lead to.
+std::optional<off_t> Regular_Size(const Descriptor& file)
+{
+    struct stat found = {};
+    if (!file.Is_Open() || fstat(file.Number(), &found) != 0 || !S_ISREG(found.st_mode))
+        return std::nullopt;
+    return found.st_size;
+}
+
+/// Whether opening the path can disturb nobody: opening a pipe wakes its writer, opening a serial line raises DTR.
+bool Is_Regular_Or_Missing(const QByteArray& name)
+{
+    struct stat found = {};
+    return stat(name.constData(), &found) == 0 ? S_ISREG(found.st_mode) : errno == ENOENT;
+}
+
+bool Write_All(const Descriptor& file, const QByteArray& bytes)
+{
+    for (qsizetype done = 0; done < bytes.size();) {
+        const auto left = static_cast<size_t>(bytes.size() - done);
+        const ssize_t count = Uninterrupted([&] { return write(file.Number(), bytes.constData() + done, left); });
+        if (count <= 0)
+            return false;
+        done += count;
+    }
+    return true;
+}
+
+bool Sync(const Descriptor& file)
+{
+    return Uninterrupted([&] { return fsync(file.Number()); }) == 0;
+}
+
+bool Cut(const Descriptor& file, off_t size)
+{
+    return Uninterrupted([&] { return ftruncate(file.Number(), size); }) == 0;
+}
+
+/// The permissions of a file just made. Made by this user, it refuses them only where its file system has none of its
+/// own, as on a memory stick: no reason to lose what is to be written.
+bool Give_Permissions(const Descriptor& file)
+{
+    return fchmod(file.Number(), Data_File_Permissions) == 0 || errno == EPERM || errno == EOPNOTSUPP;
+}
+
+bool Write_Replacement(const QByteArray& name, const QByteArray& bytes)
+{
+    unlink(name.constData()); // left by a replacement that was killed
+    Descriptor file(name, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, Data_File_Permissions);
+    return file.Is_Open() && Give_Permissions(file) && Write_All(file, bytes) && Sync(file) && file.Close();
+}
+
+/// One name for a file, whichever way its folder is written. The file itself may be missing.
+QString Lock_Key(const QString& path)
+{
+    if (path.contains(QChar::Null))
+        return path; // no file can have this name
+    const QFileInfo file(path);
+    const QString folder = QFileInfo(file.absolutePath()).canonicalFilePath();
+    return (folder.isEmpty() ? QDir::cleanPath(file.absolutePath()) : folder) + QLatin1Char('/') + file.fileName();
+}
+
+} // namespace
+
+/// One file's mutex, and the list of all that somebody holds or waits for.
+struct File_Lock::Entry
+{
+    std::recursive_mutex mutex;
+    int users = 0;
+
+    static Entry* Of(const QString& key)
+    {
+        const std::lock_guard guard(All_Mutex());
+        std::unique_ptr<Entry>& entry = All()[key];
+        if (!entry)
+            entry = std::make_unique<Entry>();
+        ++entry->users;
+        return entry.get();
+    }
+
+    static void Let_Go(const Entry* entry)
+    {
+        const std::lock_guard guard(All_Mutex());
+        std::erase_if(All(), [&](auto& each) { return each.second.get() == entry && --each.second->users == 0; });
+    }
+
+private:
+    static std::mutex& All_Mutex()
+    {
+        static std::mutex mutex;
+        return mutex;
+    }
+
+    static std::map<QString, std::unique_ptr<Entry>>& All()
+    {
+        static std::map<QString, std::unique_ptr<Entry>> entries;
+        return entries;
+    }
+};
+
+File_Lock::File_Lock(const QString& path) : m_entry(Entry::Of(Lock_Key(path)))
+{
+    m_entry->mutex.lock();
+}
+
+File_Lock::~File_Lock()
+{
+    m_entry->mutex.unlock();
+    Entry::Let_Go(m_entry);
+}
+
+std::optional<QByteArray> Read_File(const QString& path)
+{
+    const QByteArray name = Native_Name(path);
+    if (!Is_Regular_Or_Missing(name))
+        return std::nullopt;
+    const Descriptor file(name, O_RDONLY);
+    const std::optional<off_t> size = Regular_Size(file);
+    if (!size || *size > Largest_Read)
+        return std::nullopt;
+    try {
+        QByteArray bytes(static_cast<qsizetype>(*size) + Read_Step, Qt::Uninitialized);
+        qsizetype total = 0;
+        for (;;) {
+            const auto room = static_cast<size_t>(bytes.size() - total);
+            const ssize_t count = Uninterrupted([&] { return read(file.Number(), bytes.data() + total, room); });
+            if (count < 0 || total + count > Largest_Read)
+                return std::nullopt;
+            if (count == 0)
+                break;
+            total += count;
+            if (total == bytes.size())
+                bytes.resize(2 * total);
+        }
+        bytes.truncate(total);
+        return bytes;
+    } catch (const std::bad_alloc&) {
+        return std::nullopt;
+    }
+}
+
+std::optional<QString> Decode_Utf8(const QByteArray& bytes)
+{
+    // Without this flag the decoder would take the byte-order mark away.
+    QStringDecoder decoder(QStringConverter::Utf8,
+                           QStringConverter::Flag::Stateless | QStringConverter::Flag::ConvertInitialBom);
+    QString text = decoder.decode(bytes);
+    if (decoder.hasError())
+        return std::nullopt;
+    return text;
+}
+
+std::optional<QString> Read_Utf8_File(const QString& path)
+{
+    const std::optional<QByteArray> bytes = Read_File(path);
+    return bytes ? Decode_Utf8(*bytes) : std::nullopt;
+}
+
+bool Append_To_File(const QString& path, const QByteArray& bytes)
+{
+    const File_Lock lock(path);
+    const QByteArray name = Native_Name(path);
+    if (!Is_Regular_Or_Missing(name))
+        return false;
+    const bool is_new = access(name.constData(), F_OK) != 0 && errno == ENOENT;
+    Descriptor file(name, O_WRONLY | O_APPEND | O_CREAT, Data_File_Permissions);
+    const std::optional<off_t> size = Regular_Size(file);
+    if (!size || (is_new && !Give_Permissions(file)))
+        return false;
+    if (!Write_All(file, bytes)) {
+        Cut(file, *size);
+        return false;
+    }
+    if (file.Close())
+        return true;
+    Cut(Descriptor(name, O_WRONLY), *size); // a file on a server may refuse its bytes as late as this
+    return false;
+}
+
+bool Replace_File(const QString& path, const QByteArray& bytes)
+{
+    const File_Lock lock(path);
+    const QByteArray name = Native_Name(path);
+    const QByteArray beside = Native_Name(Replacement_Path(path));
+    if (name.isEmpty())
+        return false;
+    if (!Write_Replacement(beside, bytes) || rename(beside.constData(), name.constData()) != 0) {
+        unlink(beside.constData());
+        return false;
+    }
+    // The new file stands from here on, whether or not its folder can be synced.
+    const Descriptor folder(Native_Name(QFileInfo(path).path()), O_RDONLY | O_DIRECTORY);
+    if (folder.Is_Open())
+        Sync(folder);
+    return true;
+}
+
+QString Replacement_Path(const QString& path)
+{
+    return path + QLatin1String(".new");
+}
+
+bool Can_Be_Written(const QString& path)
+{
+    const QByteArray name = Native_Name(path);
+    const QByteArray folder = QFile::encodeName(QFileInfo(path).path());
+    struct stat found = {};
+    if (stat(name.constData(), &found) == 0)
+        return S_ISREG(found.st_mode) && faccessat(AT_FDCWD, name.constData(), W_OK, AT_EACCESS) == 0;
+    return errno == ENOENT && !name.isEmpty() && faccessat(AT_FDCWD, folder.constData(), W_OK | X_OK, AT_EACCESS) == 0;
+}
+
+bool Remove_File(const QString& path)
+{
+    const QByteArray name = Native_Name(path);
+    struct stat found = {};
+    if (lstat(name.constData(), &found) == 0)
+        return (S_ISREG(found.st_mode) || S_ISLNK(found.st_mode)) && unlink(name.constData()) == 0;
+    return errno == ENOENT || errno == ENOTDIR;
+}
+
+bool Write_File_In_Pieces(const QString& path, const std::function<std::optional<QByteArray>()>& next_piece)
+{
+    const QByteArray name = Native_Name(path);
+    if (!Is_Regular_Or_Missing(name))
+        return false;
+    // Emptied only when it is known to be a file.
+    Descriptor file(name, O_WRONLY | O_CREAT, 0666);
+    if (!Regular_Size(file) || !Cut(file, 0))
+        return false;
+    while (const std::optional<QByteArray> piece = next_piece()) {
+        if (!Write_All(file, *piece))
+            return false;
+    }
+    const bool is_synced = Sync(file);
+    return file.Close() && is_synced;
+}
