@@ -6,6 +6,7 @@
 #include "platform/Input_Hold.h"
 
 #include <QWidget>
+#include <functional>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -34,7 +35,12 @@ public:
     }
     void Redisplay_Recipients() override { ++m_redisplays; }
     std::vector<int> Selected_Recipient_Rows() const override { return m_selected_rows; }
-    void Fill_Exclusion_Num_List() override { ++m_exclusion_fills; }
+    void Fill_Exclusion_Num_List() override
+    {
+        ++m_exclusion_fills;
+        if (m_when_exclusions_fill)
+            m_when_exclusions_fill();
+    }
     bool Check_Ph_Number(const QString& number, bool test_flag) const override
     {
         return Number_Rules::Check_Ph_Number(number, test_flag);
@@ -78,6 +84,7 @@ public:
     std::vector<int> m_selected_rows;
     int m_redisplays = 0;
     int m_exclusion_fills = 0;
+    std::function<void()> m_when_exclusions_fill;
     int m_selection_start = 0; ///< of the composer's selection
     int m_selection_length = 0;
 

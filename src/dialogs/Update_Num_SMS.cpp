@@ -1,0 +1,111 @@
+#include "dialogs/Update_Num_SMS.h"
+
+#include "app/shared/Line_Edit_Limit.h"
+#include "app/shared/Main_Window.h"
+#include "app/shared/Message_Boxes.h"
+#include "app/shared/Number_Rules.h"
+#include "app/shared/Shared_Instance.h"
+#include "app/shared/Window_Look.h"
+#include "dialogs/Edited_Number.h"
+#include "dialogs/List_Change.h"
+#include "ui_Update_Num_SMS.h"
+
+namespace {
+
+constexpr char Not_A_Number[] = "Please enter a valid phone number.";
+constexpr char Exists[] = "Entered number already exists.";
+constexpr char Excluded[] = "Entered number is in exclusion list.";
+
+} // namespace
+
+Update_Num_SMS::Update_Num_SMS(QWidget* parent) : QDialog(parent), m_ui(std::make_unique<Ui::Update_Num_SMS>())
+{
+    m_ui->setupUi(this);
+    Apply_Window_Look(*this);
+    m_message = std::make_unique<Counted_Message>(*m_ui->m_msg_str, *m_ui->m_st_msg_cnt);
+    connect(m_ui->m_num_str, &QLineEdit::textChanged, this, &Update_Num_SMS::controlTextDidChange);
+    connect(m_ui->m_msg_str, &QPlainTextEdit::textChanged, this, &Update_Num_SMS::textDidChange);
+    connect(m_ui->OKPressed, &QPushButton::clicked, this, &Update_Num_SMS::OKPressed);
+    connect(m_ui->CancelPressed, &QPushButton::clicked, this, &Update_Num_SMS::CancelPressed);
+}
+
+Update_Num_SMS::~Update_Num_SMS() = default;
+
+Update_Num_SMS* Update_Num_SMS::defaultInstance()
+{
+    return Shared_Instance<Update_Num_SMS>::Get();
+}
+
+int Update_Num_SMS::Open_Dialog(Main_Window& window, int row)
+{
+    m_window = &window;
+    const Recipient recipient = window.Recipients().At(row);
+    m_ui->m_num_str->setText(recipient.Number);
+    m_ui->m_s_str->setText(recipient.Number);
+    m_ui->m_s_indx_str->setText(QString::number(row));
+    m_message->Show(recipient.Message, window);
+    const Send_Choices choices = window.Read_Send_Choices();
+    m_ui->_Exclusion_Chk->setChecked(choices.exclusion);
+    m_ui->_Skip_Duplicate_Chk->setChecked(choices.skip_duplicates);
+    m_ui->m_num_str->setFocus();
+    return Run_Over(window, *this);
+}
+
+void Update_Num_SMS::OKPressed()
+{
+    const auto judged = Judge_Edited_Number(m_ui->m_num_str->text(), m_ui->m_s_str->text(), m_window->Recipients(),
+                                            m_window->Exclusions(), m_ui->_Skip_Duplicate_Chk->isChecked(),
+                                            m_ui->_Exclusion_Chk->isChecked());
+    switch (judged.verdict) {
+    case Edited_Number::Verdict::Not_Valid:
+        Refuse(QLatin1String(Not_A_Number));
+        return;
+    case Edited_Number::Verdict::Duplicate:
+        Refuse(QLatin1String(Exists));
+        return;
+    case Edited_Number::Verdict::Excluded:
+        Refuse(QLatin1String(Excluded));
+        return;
+    case Edited_Number::Verdict::Accepted:
+        break;
+    }
+    const QString message = m_message->Text();
+    const int row = m_ui->m_s_indx_str->text().toInt();
+    Change_Recipients(*m_window, [&](Recipient_List& recipients) { recipients.Replace(row, judged.number, message); });
+    End_With(1);
+}
+
+void Update_Num_SMS::CancelPressed()
+{
+    End_With(0);
+}
+
+void Update_Num_SMS::reject()
+{
+    CancelPressed();
+}
+
+void Update_Num_SMS::controlTextDidChange()
+{
+    Cut_Line(*m_ui->m_num_str, Number_Rules::Longest_Number);
+}
+
+void Update_Num_SMS::textDidChange()
+{
+    m_message->textDidChange(*m_window);
+}
+
+void Update_Num_SMS::Refuse(const QString& text)
+{
+    Show_MessageBox(text);
+    m_ui->m_num_str->setFocus();
+}
+
+void Update_Num_SMS::End_With(int code)
+{
+    m_ui->m_num_str->clear();
+    m_ui->m_s_str->clear();
+    m_ui->m_s_indx_str->clear();
+    m_message->Clear();
+    done(code);
+}
