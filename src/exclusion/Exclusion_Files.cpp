@@ -1,0 +1,142 @@
+#include "exclusion/Exclusion_Files.h"
+
+#include "app/shared/Globals.h"
+#include "platform/Folders_And_Files.h"
+#include "platform/Text_Files.h"
+
+#include <QFileInfo>
+#include <QStringTokenizer>
+
+namespace {
+
+constexpr unsigned Everything_Allowed = 0777;
+
+QString Read_Text(const QString& path)
+{
+    const File_Lock lock(path);
+    return Read_Utf8_File(path).value_or(QString());
+}
+
+QString Text_Of_List(const QString& list_name)
+{
+    const auto path = Exclusion_Files::List_Path(list_name);
+    return path ? Read_Text(*path) : QString();
+}
+
+template <typename Take>
+void For_Each_Entry(const QString& text, const Take& take)
+{
+    for (const QStringView piece : qTokenize(text, u'\n')) {
+        const QStringView entry = piece.trimmed();
+        if (!entry.isEmpty())
+            take(entry.toString());
+    }
+}
+
+QStringList Names_In(const QString& path)
+{
+    QStringList names;
+    For_Each_Entry(Read_Text(path), [&](const QString& name) { names.append(name); });
+    return names;
+}
+
+bool Rewrite(const QString& path, const QByteArray& bytes)
+{
+    const File_Lock lock(path);
+    return Can_Be_Written(path) && Replace_File(path, bytes);
+}
+
+QByteArray Lines_Of(const QStringList& entries)
+{
+    QByteArray lines;
+    for (const QString& entry : entries)
+        lines += entry.toUtf8() + '\n';
+    return lines;
+}
+
+} // namespace
+
+std::optional<QString> Exclusion_Files::List_Path(const QString& list_name)
+{
+    if (list_name.contains(u'/') || list_name.contains(QChar(u'\0')))
+        return std::nullopt;
+    return Exclusion_Folder_Path + QStringLiteral("/") + list_name + QStringLiteral(".ZOVA");
+}
+
+QStringList Exclusion_Files::Read_Index()
+{
+    return Names_In(Exclusion_Index_Path);
+}
+
+QStringList Exclusion_Files::Read_Applied()
+{
+    return Names_In(Applied_Exclusion_Path);
+}
+
+Excluded_Numbers Exclusion_Files::Read_List(const QString& list_name)
+{
+    Excluded_Numbers numbers;
+    For_Each_Entry(Text_Of_List(list_name), [&](const QString& number) { numbers.Append(number); });
+    return numbers;
+}
+
+Exclusion_Set Exclusion_Files::Read_Applied_Numbers()
+{
+    Exclusion_Set numbers;
+    const QString applied = Read_Text(Applied_Exclusion_Path);
+    for (const QStringView name : qTokenize(applied, u'\n')) {
+        if (!name.isEmpty())
+            For_Each_Entry(Text_Of_List(name.toString()), [&](const QString& number) { numbers.Append(number); });
+    }
+    return numbers;
+}
+
+bool Exclusion_Files::Index_Exists()
+{
+    return QFileInfo::exists(Exclusion_Index_Path);
+}
+
+bool Exclusion_Files::Append_To_Index(const QString& list_name)
+{
+    const File_Lock lock(Exclusion_Index_Path);
+    return Append_To_File(Exclusion_Index_Path, Lines_Of({list_name}));
+}
+
+bool Exclusion_Files::Write_Index(const QStringList& list_names)
+{
+    return Rewrite(Exclusion_Index_Path, Lines_Of(list_names));
+}
+
+bool Exclusion_Files::Write_Applied(const QStringList& list_names)
+{
+    return Rewrite(Applied_Exclusion_Path, Lines_Of(list_names));
+}
+
+bool Exclusion_Files::Write_List(const QString& list_name, const Excluded_Numbers& numbers)
+{
+    const auto path = List_Path(list_name);
+    if (!path)
+        return false;
+    QByteArray lines;
+    for (int row = 0; row < numbers.Count(); ++row)
+        lines.append(numbers.At(row).toUtf8()).append('\n');
+    return Rewrite(*path, lines);
+}
+
+bool Exclusion_Files::Create_List_If_Missing(const QString& list_name)
+{
+    const auto path = List_Path(list_name);
+    if (!path)
+        return false;
+    const File_Lock lock(*path);
+    return Make_Empty_File_If_Missing(*path, Everything_Allowed) && Can_Be_Written(*path);
+}
+
+void Exclusion_Files::Delete_List(const QString& list_name)
+{
+    const auto path = List_Path(list_name);
+    if (!path)
+        return;
+    const File_Lock lock(*path);
+    Remove_File(*path);
+}
