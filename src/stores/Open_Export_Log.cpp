@@ -1,0 +1,54 @@
+#include "stores/Open_Export_Log.h"
+
+#include "app/shared/Shared_Instance.h"
+#include "app/shared/Window_Look.h"
+#include "stores/Dialog_Over.h"
+#include "stores/Store_Globals.h"
+#include "ui_Open_Export_Log.h"
+
+#include <QDesktopServices>
+#include <QUrl>
+
+Open_Export_Log::Open_Export_Log(QWidget* parent) : QDialog(parent), m_ui(std::make_unique<Ui::Open_Export_Log>())
+{
+    m_ui->setupUi(this);
+    Apply_Window_Look(*this);
+    connect(m_ui->OKPressed, &QPushButton::clicked, this, &Open_Export_Log::OKPressed);
+    connect(m_ui->CancelPressed, &QPushButton::clicked, this, &Open_Export_Log::CancelPressed);
+}
+
+Open_Export_Log::~Open_Export_Log() = default;
+
+Open_Export_Log* Open_Export_Log::defaultInstance()
+{
+    return Shared_Instance<Open_Export_Log>::Get();
+}
+
+int Open_Export_Log::Open_Dialog(QWidget* over)
+{
+    m_ui->OKPressed->setFocus();
+    return Run_Dialog_Over(*this, over);
+}
+
+void Open_Export_Log::OKPressed()
+{
+    if (m_ui->Open_File_Chk->isChecked())
+        QDesktopServices::openUrl(QUrl::fromLocalFile(Export_File_Path));
+    End(1);
+}
+
+void Open_Export_Log::CancelPressed()
+{
+    End(0);
+}
+
+void Open_Export_Log::reject()
+{
+    CancelPressed();
+}
+
+void Open_Export_Log::End(int code)
+{
+    m_ui->Open_File_Chk->setChecked(true);
+    done(code);
+}

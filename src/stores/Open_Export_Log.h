@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QDialog>
+#include <memory>
+
+namespace Ui {
+class Open_Export_Log;
+}
+
+// Tells that an export is written and offers to open the file at Export_File_Path with the desktop's own program for
+// it. One shared instance, put over the window that exported; interface thread.
+class Open_Export_Log : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit Open_Export_Log(QWidget* parent = nullptr);
+    ~Open_Export_Log() override;
+
+    static Open_Export_Log* defaultInstance();
+
+    /// Runs the dialog over a window. Returns 1 for OK and 0 for Cancel.
+    int Open_Dialog(QWidget* over);
+
+    void OKPressed(); ///< opens the file when the check box is on
+    void CancelPressed();
+    void reject() override;
+
+private:
+    void End(int code);
+
+    std::unique_ptr<Ui::Open_Export_Log> m_ui;
+};

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+
+// One message that was sent, as the sent items window shows it. The fields are what the columns are called.
+struct Sent_Item
+{
+    QString Number;
+    QString Message;
+    QString Date; ///< "dd/MM/yyyy"
+    QString Status;
+
+    /// The value under a column's identifier; empty for any other.
+    QString Value(const QString& identifier) const;
+
+    bool operator==(const Sent_Item&) const = default;
+};

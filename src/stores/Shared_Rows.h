@@ -1,0 +1,35 @@
+#pragma once
+
+#include "platform/Interface_Thread.h"
+
+#include <QList>
+#include <utility>
+#include <vector>
+
+// The rows of a list window: a list whose copies cost nothing, so that a worker reads the copy that the window shows
+// and builds the list that takes its place.
+
+/// The rows that remain without some of them, which are given in ascending order. For a worker, when there are many.
+template <typename Row>
+QList<Row> Rows_Without(const QList<Row>& rows, const std::vector<int>& removed)
+{
+    QList<Row> left;
+    left.reserve(rows.size() - static_cast<qsizetype>(removed.size()));
+    auto next = removed.begin();
+    for (qsizetype row = 0; row < rows.size(); ++row) {
+        if (next != removed.end() && *next == row)
+            ++next;
+        else
+            left.append(rows.at(row));
+    }
+    return left;
+}
+
+/// Puts new rows in the place of those shown. Letting go of a million rows takes its time: a worker does it.
+template <typename Row>
+void Put_In_Place(QList<Row>& shown, QList<Row> rows)
+{
+    shown.swap(rows);
+    if (rows.size() > 10'000)
+        Start_Worker("let go of rows", [old_rows = std::move(rows)] {});
+}

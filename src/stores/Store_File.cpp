@@ -1,0 +1,100 @@
+#include "stores/Store_File.h"
+
+#include "app/shared/Data_Paths.h"
+#include "platform/Text_Files.h"
+
+#include <QFileInfo>
+#include <QHash>
+#include <utility>
+
+namespace {
+
+template <typename Visit>
+void For_Each_Line(const QByteArray& bytes, const Visit& visit)
+{
+    for (qsizetype begin = 0; begin < bytes.size();) {
+        const qsizetype line_end = bytes.indexOf('\n', begin);
+        const qsizetype end = line_end < 0 ? bytes.size() : line_end + 1;
+        visit(QByteArrayView(bytes).sliced(begin, end - begin));
+        begin = end;
+    }
+}
+
+// What is in a file now that was not when it was loaded. A file only grows, unless it was deleted or rewritten by
+// someone else meanwhile: then it is told line by line.
+QByteArray What_Was_Added(const QByteArray& loaded, const QByteArray& now)
+{
+    if (now.startsWith(loaded))
+        return now.sliced(loaded.size());
+    QHash<QByteArrayView, int> loaded_lines;
+    For_Each_Line(loaded, [&](QByteArrayView line) { ++loaded_lines[line]; });
+    QByteArray added;
+    For_Each_Line(now, [&](QByteArrayView line) {
+        int& left = loaded_lines[line];
+        if (left > 0)
+            --left;
+        else
+            added.append(line);
+    });
+    return added;
+}
+
+bool Is_Missing(const QString& path)
+{
+    return !QFileInfo::exists(path) && !QFileInfo(path).isSymLink();
+}
+
+} // namespace
+
+Store_File::Store_File(QString path) : m_path(std::move(path)) {}
+
+QString Store_File::Load()
+{
+    const File_Lock lock(m_path);
+    m_loaded = Read_File(m_path).value_or(QByteArray());
+    return Decode_Utf8(m_loaded).value_or(QString());
+}
+
+bool Store_File::Append(const QByteArray& lines) const
+{
+    const File_Lock lock(m_path);
+    Check_Path_And_Create_Files();
+    return Append_To_File(m_path, lines);
+}
+
+bool Store_File::Rewrite(const QByteArray& lines)
+{
+    const File_Lock lock(m_path);
+    QByteArray added;
+    if (!Is_Missing(m_path)) {
+        const auto now = Read_File(m_path);
+        if (!now)
+            return false;
+        if (!Decode_Utf8(*now) && !Replace_File(Kept_Path(m_path), *now))
+            return false;
+        Check_Path_And_Create_Files();
+        added = What_Was_Added(m_loaded, *now);
+        if (!Decode_Utf8(added))
+            added.clear(); // it was kept beside the file, and would make all of it unreadable again
+    }
+    if (!Replace_File(m_path, lines + added))
+        return false;
+    m_loaded = lines;
+    return true;
+}
+
+bool Store_File::Clear()
+{
+    const File_Lock lock(m_path);
+    return !Is_Missing(m_path) && Rewrite(QByteArray());
+}
+
+void Store_File::Forget()
+{
+    m_loaded.clear();
+}
+
+QString Store_File::Kept_Path(const QString& path)
+{
+    return path + QStringLiteral(".unreadable");
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+// One data file of lines that a window shows and rewrites while the send job appends to it. Remembers what was loaded,
+// so that a rewrite keeps whatever came into the file after that. Each operation holds the file's lock; not for the
+// interface thread, since a file may be large. One object serves one thread at a time.
+class Store_File
+{
+public:
+    explicit Store_File(QString path);
+
+    /// The text of the whole file; empty when it is missing, can not be read or is no UTF-8.
+    QString Load();
+
+    /// Makes sure that the data files exist and appends the bytes of whole lines. Returns whether they are in the file
+    /// whole; otherwise nothing of them is.
+    bool Append(const QByteArray& lines) const;
+
+    /// Replaces what was loaded by these lines; what was added to the file since then stays, behind them. Bytes that
+    /// are no UTF-8 are kept beside the file first, see Kept_Path. A file that can not be read, kept or replaced stays
+    /// as it is, and the answer is false.
+    bool Rewrite(const QByteArray& lines);
+
+    /// The same without any lines, but only when there is a file.
+    bool Clear();
+
+    /// Lets go of what Load remembers. A rewrite without a load before it keeps everything there is.
+    void Forget();
+
+    /// Where the bytes of a file that is no UTF-8 are kept: beside it, under one name.
+    static QString Kept_Path(const QString& path);
+
+private:
+    QString m_path;
+    QByteArray m_loaded;
+};

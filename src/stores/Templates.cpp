@@ -1,0 +1,270 @@
+#include "stores/Templates.h"
+
+#include "app/shared/Globals.h"
+#include "app/shared/List_Tables.h"
+#include "app/shared/Main_Window.h"
+#include "app/shared/Message_Boxes.h"
+#include "app/shared/Shared_Instance.h"
+#include "app/shared/Window_Look.h"
+#include "platform/Interface_Thread.h"
+#include "platform/Row_Table_Model.h"
+#include "stores/Dialog_Over.h"
+#include "stores/Export_Format.h"
+#include "stores/Shared_Rows.h"
+#include "stores/Store_Globals.h"
+#include "stores/Template_Format.h"
+#include "stores/UpdateTemp.h"
+#include "ui_Templates.h"
+
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QScrollBar>
+#include <algorithm>
+
+namespace {
+
+constexpr char Empty_At_Update[] = "Templates number list is empty.";
+constexpr char Empty_At_Use[] = "Templates list is empty.";
+constexpr char Select_One[] = "Please select only one record to update.";
+// The quotation marks do not pair up; that is how the text reads.
+constexpr char Too_Long_Question[] =
+    "Maximum characters limit is 1600.\r\n\r\nPress 'Yes to continue to composer window and it will show first 1600 "
+    "characters of your message otherwise press 'No''";
+
+} // namespace
+
+Templates::Templates(QWidget* parent)
+    : List_Window(parent, {"Templates list is empty.", "Templates items list is empty.", "Templates list is empty.",
+                           "Please select at least one record from the templates list to continue."}),
+      m_ui(std::make_unique<Ui::Templates>()), Update_temp_Window(UpdateTemp::defaultInstance()),
+      Update_m_templ_msg_str(Update_temp_Window->findChild<QPlainTextEdit*>(QStringLiteral("m_templ_msg_str"))),
+      Update_m_templ_index(Update_temp_Window->findChild<QLabel*>(QStringLiteral("m_templ_index"))),
+      Update_m_s_temp_str(Update_temp_Window->findChild<QLabel*>(QStringLiteral("m_s_temp_str"))),
+      Update_m_st_msg_cnt(Update_temp_Window->findChild<QLabel*>(QStringLiteral("m_st_msg_cnt")))
+{
+    m_ui->setupUi(this);
+    Apply_Window_Look(*this);
+    Set_Up_Table();
+    Update_temp_Window->setParent(this, Update_temp_Window->windowFlags()); // it goes with this window
+    connect(m_ui->AddNew_Btn, &QPushButton::clicked, this, &Templates::AddNew_Btn);
+    connect(m_ui->Update_Btn, &QPushButton::clicked, this, &Templates::Update_Btn);
+    connect(m_ui->Clear_Sel_Btn, &QPushButton::clicked, this, &Templates::Clear_Sel_Btn);
+    connect(m_ui->Clear_All_Btn, &QPushButton::clicked, this, &Templates::Clear_All_Btn);
+    connect(m_ui->Use_template_Btn, &QPushButton::clicked, this, &Templates::Use_template_Btn);
+    connect(m_ui->Export_Btn, &QPushButton::clicked, this, &Templates::Export_Btn);
+    connect(m_ui->Cancel_Btn, &QPushButton::clicked, this, &Templates::Cancel_Btn);
+    connect(m_ui->idTemplateList, &QTableView::doubleClicked, this, &Templates::doubleClickInTable);
+    Template_Window = this;
+}
+
+Templates::~Templates()
+{
+    Await_Load();
+    if (Template_Window == this)
+        Template_Window = nullptr;
+}
+
+Templates* Templates::defaultInstance()
+{
+    return Shared_Instance<Templates>::Get();
+}
+
+void Templates::Set_Up_Table()
+{
+    const auto* table = m_ui->idTemplateList;
+    Set_Up_List(*m_ui->idTemplateList,
+                std::make_unique<Row_Table_Model>(
+                    std::vector<Row_Table_Model::Column>{{QStringLiteral("Message"), tr("Template")}},
+                    [this, table] { return numberOfRowsInTableView(table); },
+                    [this, table](const QString& identifier, int row) { return tableView(table, identifier, row); }));
+    m_ui->idTemplateList->verticalScrollBar()->setObjectName(QStringLiteral("idTemplateListsclview"));
+}
+
+int Templates::Open_Template_Wnd()
+{
+    return Open_Window();
+}
+
+// ---------------------------------------------------------------------------------------------------- the list
+
+void Templates::LoadItems()
+{
+    Run_On_Interface_Thread([this] { Begin_Anew(); });
+    QList<Template_Item> loaded;
+    m_store.Load([&](Template_Item item) {
+        loaded.append(std::move(item));
+        if (loaded.size() == Early_Reload_Count) // a long load shows its first rows early
+            Run_On_Interface_Thread([&] { Publish(loaded); });
+    });
+    Run_On_Interface_Thread([&] {
+        Publish(loaded);
+        m_ui->idTemplateList->scrollToTop();
+    });
+}
+
+void Templates::Begin_Anew()
+{
+    Prev_Index = No_Index;
+    Remove_All_Rows();
+    ListreloadData();
+}
+
+void Templates::Publish(const QList<Template_Item>& loaded)
+{
+    Put_In_Place(nsTemplateListData, loaded);
+    Update_Template_List_Count();
+}
+
+void Templates::Create_Template_List(const QString& text)
+{
+    auto item = Template_Format::Template_Of(text);
+    if (!item)
+        return;
+    nsTemplateListData.append(std::move(*item));
+    Update_Template_List_Count();
+}
+
+void Templates::Replace_Template(int row, const QString& text)
+{
+    if (row >= 0 && row < Count())
+        nsTemplateListData[row].Message = text;
+}
+
+bool Templates::Check_Duplicate_Template(const QString& text) const
+{
+    return std::any_of(nsTemplateListData.cbegin(), nsTemplateListData.cend(),
+                       [&](const Template_Item& item) { return item.Message == text; });
+}
+
+void Templates::Update_Template_List_Count()
+{
+    m_ui->_templ_list_count->setText(QStringLiteral("Total Items : ") + QString::number(Count()));
+    if (Count() == Early_Reload_Count)
+        ListreloadData();
+}
+
+int Templates::Count() const
+{
+    return static_cast<int>(nsTemplateListData.size());
+}
+
+void Templates::Remove_Rows(const std::vector<int>& rows)
+{
+    QList<Template_Item> left;
+    Run_On_Worker([&, all = nsTemplateListData] { left = Rows_Without(all, rows); }, User_Input::Served);
+    Put_In_Place(nsTemplateListData, std::move(left));
+}
+
+void Templates::Remove_All_Rows()
+{
+    Put_In_Place(nsTemplateListData, {});
+}
+
+QString Templates::tableView(const QTableView* table, const QString& objectValueForTableColumn, int pRowIndex) const
+{
+    if (pRowIndex < 0 || pRowIndex >= Count())
+        throw Invalid_Parameter("pRowIndex >= 0 && pRowIndex < [nsTemplateListData count]");
+    return table == m_ui->idTemplateList ? nsTemplateListData.at(pRowIndex).Value(objectValueForTableColumn)
+                                         : QString();
+}
+
+// ------------------------------------------------------------------------------------------- adding and editing
+
+void Templates::AddNew_Btn()
+{
+    Update_temp_Window->setWindowTitle(QStringLiteral("Add Templates"));
+    Update_m_templ_msg_str->setFocus();
+    Run_Dialog_Over(*Update_temp_Window, this);
+}
+
+void Templates::Update_Btn()
+{
+    const int row = First_Selected_Row();
+    if (Count() == 0)
+        Tell(Empty_At_Update);
+    else if (row < 0 || nsTemplateListData.at(row).Message.trimmed().isEmpty())
+        Tell(Said().none_selected);
+    else
+        OnGetSelected();
+}
+
+void Templates::doubleClickInTable()
+{
+    if (Rows_Selected_In(Table()).size() > 1)
+        Tell(Select_One);
+    else
+        OnGetSelected();
+}
+
+void Templates::OnGetSelected()
+{
+    const int row = First_Selected_Row();
+    if (row < 0 || row >= Count())
+        return;
+    const QString text = nsTemplateListData.at(row).Message;
+    Update_m_templ_msg_str->setPlainText(text);
+    Update_m_s_temp_str->setText(text);
+    Update_m_templ_index->setText(QString::number(row));
+    Update_m_st_msg_cnt->setText(QString::number(text.size()) + QStringLiteral(" Characters"));
+    Update_temp_Window->setWindowTitle(QStringLiteral("Update Templates"));
+    Update_m_templ_msg_str->setFocus();
+    Run_Dialog_Over(*Update_temp_Window, this);
+}
+
+// ---------------------------------------------------------------------------------------------- using a template
+
+void Templates::Use_template_Btn()
+{
+    if (Count() == 0) {
+        Tell(Empty_At_Use);
+        return;
+    }
+    const auto selected = Rows_Selected_In(Table());
+    if (selected.size() != 1) {
+        Tell(selected.empty() ? Said().none_selected : Select_One);
+        return;
+    }
+    const QString text = nsTemplateListData.at(selected.front()).Message;
+    if (!Main_App_wnd || !May_Be_Used(text))
+        return;
+    Main_App_wnd->Use_In_Composer(text);
+    Write_Template_file();
+    m_store.Forget();
+    done(1);
+}
+
+bool Templates::May_Be_Used(const QString& text)
+{
+    const auto length = Main_App_wnd->Composer_Length() + text.size() - Main_App_wnd->Composer_Selection_Length();
+    return length <= Template_Format::Most_Characters || Show_YES_NO_MessageBox(QLatin1String(Too_Long_Question));
+}
+
+// ---------------------------------------------------------------------------------------- the file and the export
+
+void Templates::Write_Template_file()
+{
+    Write_List();
+}
+
+std::function<void()> Templates::Rewriting()
+{
+    return [this, templates = nsTemplateListData] { m_store.Rewrite(templates); };
+}
+
+void Templates::Clear_File()
+{
+    m_store.Clear();
+}
+
+void Templates::Forget_File()
+{
+    m_store.Forget();
+}
+
+Export_Content Templates::Content_To_Export(int mode) const
+{
+    return {Export_Format::Templates_Header(mode), nsTemplateListData.size(),
+            [mode, templates = nsTemplateListData](qsizetype index) {
+                return Export_Format::Template_Piece(mode, templates.at(index));
+            }};
+}

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "stores/List_Window.h"
+#include "stores/Template_Item.h"
+#include "stores/Template_Store.h"
+
+#include <QList>
+
+class QLabel;
+class QPlainTextEdit;
+class UpdateTemp;
+
+namespace Ui {
+class Templates;
+}
+
+// The window of the templates: lists them, adds, edits, deletes and exports them, and puts one into the main window's
+// composer. The shared instance belongs to Shared_Instance, or to the main window once it was put over it; interface
+// thread.
+class Templates : public List_Window
+{
+    Q_OBJECT
+
+public:
+    explicit Templates(QWidget* parent = nullptr);
+    ~Templates() override;
+
+    static Templates* defaultInstance();
+
+    /// Loads the file and runs the window until it is closed. Returns 1 when a template was used, 0 otherwise.
+    int Open_Template_Wnd();
+
+    /// Adds a template at the list's end, trimmed and cut to 1600 characters; nothing when the text is blank.
+    void Create_Template_List(const QString& text);
+    /// Puts a text in the place of the template of a row, if there is one.
+    void Replace_Template(int row, const QString& text);
+    /// Whether a template of the list is exactly this text.
+    bool Check_Duplicate_Template(const QString& text) const;
+    void Update_Template_List_Count();
+    void Write_Template_file();
+
+    void AddNew_Btn();
+    void Update_Btn();
+    void Use_template_Btn();
+    void OnGetSelected(); ///< edits the first selected template
+    void doubleClickInTable();
+
+    /// The value of a template under a column's identifier. Throws Invalid_Parameter for a row outside the list.
+    QString tableView(const QTableView* table, const QString& objectValueForTableColumn, int pRowIndex) const;
+
+protected:
+    int Count() const override;
+    void LoadItems() override;
+    void Update_Count() override { Update_Template_List_Count(); }
+    void Remove_Rows(const std::vector<int>& rows) override;
+    void Remove_All_Rows() override;
+    std::function<void()> Rewriting() override;
+    void Clear_File() override;
+    void Forget_File() override;
+    Export_Content Content_To_Export(int mode) const override;
+
+private:
+    void Set_Up_Table();
+    void Begin_Anew();
+    void Publish(const QList<Template_Item>& loaded);
+    bool May_Be_Used(const QString& text);
+
+    const std::unique_ptr<Ui::Templates> m_ui;
+    Template_Store m_store;
+    QList<Template_Item> nsTemplateListData;
+    unsigned Prev_Index = No_Index;
+
+    // The editing dialog and its controls.
+    UpdateTemp* Update_temp_Window;
+    QPlainTextEdit* Update_m_templ_msg_str;
+    QLabel* Update_m_templ_index;
+    QLabel* Update_m_s_temp_str;
+    QLabel* Update_m_st_msg_cnt;
+};

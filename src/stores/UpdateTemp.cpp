@@ -1,0 +1,88 @@
+#include "stores/UpdateTemp.h"
+
+#include "app/basics/String_Helpers.h"
+#include "app/shared/Message_Boxes.h"
+#include "app/shared/Plain_Text_Edit.h"
+#include "app/shared/Shared_Instance.h"
+#include "app/shared/Window_Look.h"
+#include "stores/Store_Globals.h"
+#include "stores/Template_Format.h"
+#include "stores/Templates.h"
+#include "ui_UpdateTemp.h"
+
+namespace {
+constexpr char Nothing_Typed[] = "Please type template message.";
+constexpr char Exists_Already[] = "Entered template already exists.";
+} // namespace
+
+UpdateTemp::UpdateTemp(QWidget* parent) : QDialog(parent), m_ui(std::make_unique<Ui::UpdateTemp>())
+{
+    m_ui->setupUi(this);
+    Apply_Window_Look(*this);
+    m_ui->m_templ_index->hide();
+    m_ui->m_s_temp_str->hide();
+    connect(m_ui->m_templ_msg_str, &QPlainTextEdit::textChanged, this, &UpdateTemp::textDidChange);
+    connect(m_ui->OKPressed, &QPushButton::clicked, this, &UpdateTemp::OKPressed);
+    connect(m_ui->CancelPressed, &QPushButton::clicked, this, &UpdateTemp::CancelPressed);
+}
+
+UpdateTemp::~UpdateTemp() = default;
+
+UpdateTemp* UpdateTemp::defaultInstance()
+{
+    return Shared_Instance<UpdateTemp>::Get();
+}
+
+void UpdateTemp::textDidChange()
+{
+    Cut_Text(*m_ui->m_templ_msg_str, Template_Format::Most_Characters);
+    m_ui->m_st_msg_cnt->setText(QString::number(Text_Length(*m_ui->m_templ_msg_str)) + QStringLiteral(" Characters"));
+}
+
+void UpdateTemp::OKPressed()
+{
+    const QString typed = Exact_Text(*m_ui->m_templ_msg_str);
+    const QString text = Trim_Str(Left_Str_substringToIndex(typed, Template_Format::Most_Characters));
+    if (text.isEmpty()) {
+        Refuse(Nothing_Typed);
+        return;
+    }
+    if (!Template_Window)
+        return;
+    const bool is_update = !m_ui->m_templ_index->text().isEmpty();
+    const bool is_unchanged = is_update && m_ui->m_s_temp_str->text() == typed;
+    if (!is_unchanged && Template_Window->Check_Duplicate_Template(text)) {
+        Refuse(Exists_Already);
+        return;
+    }
+    if (is_update)
+        Template_Window->Replace_Template(m_ui->m_templ_index->text().toInt(), text);
+    else
+        Template_Window->Create_Template_List(text);
+    Template_Window->ListreloadData();
+    End_With(1);
+}
+
+void UpdateTemp::CancelPressed()
+{
+    End_With(0);
+}
+
+void UpdateTemp::reject()
+{
+    CancelPressed();
+}
+
+void UpdateTemp::Refuse(const char* text)
+{
+    Show_MessageBox(QLatin1String(text));
+    m_ui->m_templ_msg_str->setFocus();
+}
+
+void UpdateTemp::End_With(int code)
+{
+    m_ui->m_templ_index->clear();
+    m_ui->m_templ_msg_str->clear(); // the count label follows: "0 Characters"
+    m_ui->m_s_temp_str->clear();
+    done(code);
+}

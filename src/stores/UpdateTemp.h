@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QDialog>
+#include <memory>
+
+namespace Ui {
+class UpdateTemp;
+}
+
+// Adds a template or edits one: the templates window fills its fields and runs it, and what is entered goes into that
+// window's list. Two fields are hidden: the row that is edited, empty when one is added, and the text before it was
+// edited. One shared instance, owned by the templates window; interface thread.
+class UpdateTemp : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit UpdateTemp(QWidget* parent = nullptr);
+    ~UpdateTemp() override;
+
+    static UpdateTemp* defaultInstance();
+
+    void textDidChange();
+    void OKPressed();       ///< ends with 1 once the text is in the list
+    void CancelPressed();   ///< ends with 0
+    void reject() override; ///< Escape and the close button: as Cancel
+
+private:
+    void Refuse(const char* text);
+    void End_With(int code);
+
+    const std::unique_ptr<Ui::UpdateTemp> m_ui;
+};

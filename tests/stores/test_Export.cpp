@@ -1,0 +1,225 @@
+#include "stores/Export_Option.h"
+#include "stores/Open_Export_Log.h"
+#include "stores/Store_Globals.h"
+#include "stores/Stores_Test.h"
+
+#include <QCheckBox>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileInfo>
+#include <QRadioButton>
+#include <QUrl>
+
+namespace {
+
+// Stands for the desktop, which would start a program for the file.
+class Desktop : public QObject
+{
+    Q_OBJECT
+
+public:
+    Desktop() { QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "Open"); }
+    ~Desktop() override { QDesktopServices::unsetUrlHandler(QStringLiteral("file")); }
+
+    QList<QUrl> m_opened;
+
+public Q_SLOTS:
+    void Open(const QUrl& url) { m_opened.append(url); }
+};
+
+class Export_Test : public Stores_Test
+{
+protected:
+    Export_Test()
+    {
+        Put(Sent_Item_Path, Golden("SentItem.ZOVA"));
+        Put(Templates_Path, Golden("Templates.ZOVA"));
+        Export_File_Path.clear();
+    }
+
+    void Will_Choose(bool is_html, const char* button = "OKPressed")
+    {
+        m_user.When_Opens("Export_Option", [=](QWidget& dialog) {
+            EXPECT_EQ(SENT_EXPORT_MODE, 0);
+            EXPECT_TRUE(In<QRadioButton>(dialog, "Export_In_Text_RD").isChecked());
+            if (is_html)
+                QTest::mouseClick(&In<QRadioButton>(dialog, "Export_In_Html_RD"), Qt::LeftButton, {}, {8, 8});
+            EXPECT_EQ(SENT_EXPORT_MODE, is_html ? 1 : 0);
+            Click_In(dialog, button);
+            EXPECT_TRUE(In<QRadioButton>(dialog, "Export_In_Text_RD").isChecked());
+            EXPECT_FALSE(In<QRadioButton>(dialog, "Export_In_Html_RD").isChecked());
+        });
+    }
+    void Will_Be_Offered_The_File(const char* button = "CancelPressed", bool ticked = true)
+    {
+        m_user.When_Opens("Open_Export_Log", [=](QWidget& dialog) {
+            EXPECT_TRUE(In<QCheckBox>(dialog, "Open_File_Chk").isChecked());
+            In<QCheckBox>(dialog, "Open_File_Chk").setChecked(ticked);
+            Click_In(dialog, button);
+            EXPECT_TRUE(In<QCheckBox>(dialog, "Open_File_Chk").isChecked());
+        });
+    }
+    void Export_To(const char* typed)
+    {
+        Will_Save_As(m_folder.Path(typed));
+        Click("Export_Btn");
+    }
+    /// Saves the sent items under a name in the mode, and gives the name that was written.
+    QString Name_Written(const char* typed, bool is_html)
+    {
+        Will_Choose(is_html);
+        Will_Be_Offered_The_File();
+        Visit_Sent_Items([&] { Export_To(typed); });
+        EXPECT_TRUE(QFileInfo::exists(Export_File_Path)) << qPrintable(Export_File_Path);
+        return QFileInfo(Export_File_Path).fileName();
+    }
+
+    Desktop m_desktop;
+};
+
+} // namespace
+
+TEST_F(Export_Test, Sent_Items_As_Text)
+{
+    EXPECT_EQ(Name_Written("list", false), QStringLiteral("list.txt"));
+    EXPECT_EQ(Bytes_Of(m_folder.Path("list.txt")), Golden("SentItems.txt"));
+    EXPECT_EQ(Bytes_Of(Sent_Item_Path), Golden("SentItem.ZOVA"));
+    EXPECT_TRUE(m_desktop.m_opened.isEmpty());
+}
+
+TEST_F(Export_Test, Sent_Items_As_Html)
+{
+    EXPECT_EQ(Name_Written("list", true), QStringLiteral("list.html"));
+    EXPECT_EQ(Bytes_Of(m_folder.Path("list.html")), Golden("SentItems.html"));
+}
+
+TEST_F(Export_Test, Templates_In_Both_Modes)
+{
+    for (const bool is_html : {false, true}) {
+        Will_Choose(is_html);
+        Will_Be_Offered_The_File();
+        Visit_Templates([this] { Export_To("templates"); });
+    }
+    EXPECT_EQ(Bytes_Of(m_folder.Path("templates.txt")), Golden("Templates.txt"));
+    EXPECT_EQ(Bytes_Of(m_folder.Path("templates.html")), Golden("Templates.html"));
+    EXPECT_EQ(Bytes_Of(Templates_Path), Golden("Templates.ZOVA"));
+}
+
+TEST_F(Export_Test, An_Extension_In_Any_Case_Is_Kept_And_Any_Other_Gets_One_More)
+{
+    EXPECT_EQ(Name_Written("a.TXT", false), QStringLiteral("a.TXT"));
+    EXPECT_EQ(Name_Written("b.Html", true), QStringLiteral("b.Html"));
+    EXPECT_EQ(Name_Written("c.htm", true), QStringLiteral("c.htm.html"));
+    EXPECT_EQ(Name_Written("d.txt", true), QStringLiteral("d.txt.html"));
+    EXPECT_EQ(Name_Written("e.csv", false), QStringLiteral("e.csv.txt"));
+}
+
+TEST_F(Export_Test, A_File_That_Stands_There_Is_Replaced_Once_The_Panel_Has_Asked)
+{
+    Put(m_folder.Path("list.txt"), QByteArray(100'000, 'x'));
+    m_user.Will_Press("Yes");
+    EXPECT_EQ(Name_Written("list", false), QStringLiteral("list.txt"));
+    EXPECT_EQ(Bytes_Of(m_folder.Path("list.txt")), Golden("SentItems.txt"));
+    EXPECT_EQ(m_user.Was_Shown().size(), 1);
+}
+
+TEST_F(Export_Test, Cancelling_The_Choice_Ends_The_Export_And_Leaves_The_Mode_At_Text)
+{
+    Will_Choose(true, "CancelPressed");
+    Visit_Sent_Items([this] { Click("Export_Btn"); });
+    EXPECT_EQ(SENT_EXPORT_MODE, 0);
+    EXPECT_EQ(Export_File_Path, QString());
+    EXPECT_EQ(Name_Written("list", false), QStringLiteral("list.txt"));
+}
+
+TEST_F(Export_Test, Escape_In_The_Choice_Cancels_It)
+{
+    m_user.When_Opens("Export_Option", [](QWidget& dialog) {
+        In<QRadioButton>(dialog, "Export_In_Html_RD").click();
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    Visit_Templates([this] { Click("Export_Btn"); });
+    EXPECT_EQ(SENT_EXPORT_MODE, 0);
+    EXPECT_EQ(Export_Option::defaultInstance()->result(), 0);
+}
+
+TEST_F(Export_Test, The_Choice_Goes_With_The_Arrow_Keys_And_OK_Keeps_The_Mode)
+{
+    m_user.When_Opens("Export_Option", [](QWidget& dialog) {
+        auto& text = In<QRadioButton>(dialog, "Export_In_Text_RD");
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        EXPECT_EQ(dialog.focusWidget(), &text);
+        QTest::keyClick(&text, Qt::Key_Down);
+        EXPECT_EQ(SENT_EXPORT_MODE, 1);
+        QTest::keyClick(&In<QRadioButton>(dialog, "Export_In_Html_RD"), Qt::Key_Up);
+        EXPECT_EQ(SENT_EXPORT_MODE, 0);
+        QTest::keyClick(&text, Qt::Key_Down);
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    EXPECT_EQ(Export_Option::defaultInstance()->Open_Dialog(&m_window), 1);
+    EXPECT_EQ(SENT_EXPORT_MODE, 1);
+    EXPECT_TRUE(In<QRadioButton>(*Export_Option::defaultInstance(), "Export_In_Text_RD").isChecked());
+}
+
+TEST_F(Export_Test, Cancelling_The_File_Panel_Ends_The_Export)
+{
+    Will_Choose(true);
+    Visit_Sent_Items([this] {
+        m_user.Will_Do([](QDialog* panel) {
+            EXPECT_NE(qobject_cast<QFileDialog*>(panel), nullptr);
+            panel->reject();
+        });
+        Click("Export_Btn");
+        EXPECT_TRUE(m_visited->isVisible());
+    });
+    EXPECT_EQ(Export_File_Path, QString());
+    EXPECT_TRUE(m_user.Was_Shown().isEmpty());
+}
+
+TEST_F(Export_Test, A_File_That_Can_Not_Be_Written_Is_An_Error)
+{
+    ASSERT_TRUE(QDir().mkpath(m_folder.Path("gone")));
+    Will_Choose(false);
+    m_user.Will_Press("OK");
+    Visit_Sent_Items([this] {
+        m_user.Will_Do([this](QDialog* panel) {
+            qobject_cast<QFileDialog*>(panel)->selectFile(m_folder.Path("gone/list.txt"));
+            EXPECT_TRUE(QDir(m_folder.Path("gone")).removeRecursively());
+            panel->done(QDialog::Accepted);
+        });
+        Click("Export_Btn");
+        EXPECT_TRUE(m_visited->isVisible());
+    });
+    EXPECT_EQ(m_user.Was_Shown(), QStringList{QStringLiteral("\nError in file accessing.")});
+    EXPECT_EQ(Bytes_Of(Sent_Item_Path), Golden("SentItem.ZOVA"));
+}
+
+TEST_F(Export_Test, The_File_Is_Opened_By_The_Desktop_When_The_Box_Is_Ticked)
+{
+    Export_File_Path = m_folder.Path("a name with # and % and ä.txt");
+    Will_Be_Offered_The_File("OKPressed");
+    EXPECT_EQ(Open_Export_Log::defaultInstance()->Open_Dialog(&m_window), 1);
+    EXPECT_EQ(m_desktop.m_opened, QList{QUrl::fromLocalFile(Export_File_Path)});
+}
+
+TEST_F(Export_Test, The_File_Stays_Closed_When_The_Box_Is_Not_Ticked_Or_The_Offer_Is_Left)
+{
+    Export_File_Path = m_folder.Path("list.txt");
+    Will_Be_Offered_The_File("OKPressed", false);
+    EXPECT_EQ(Open_Export_Log::defaultInstance()->Open_Dialog(&m_window), 1);
+    Will_Be_Offered_The_File("CancelPressed");
+    EXPECT_EQ(Open_Export_Log::defaultInstance()->Open_Dialog(&m_window), 0);
+    m_user.When_Opens("Open_Export_Log", [](QWidget& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    EXPECT_EQ(Open_Export_Log::defaultInstance()->Open_Dialog(&m_window), 0);
+    EXPECT_TRUE(m_desktop.m_opened.isEmpty());
+}
+
+TEST_F(Export_Test, No_Dialog_Opens_Once_The_Program_Exits)
+{
+    Begin_Program_Exit();
+    EXPECT_EQ(Export_Option::defaultInstance()->Open_Dialog(&m_window), 0);
+    EXPECT_EQ(Open_Export_Log::defaultInstance()->Open_Dialog(&m_window), 0);
+}
+
+#include "test_Export.moc"

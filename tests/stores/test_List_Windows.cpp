@@ -1,0 +1,125 @@
+#include "stores/Export_Option.h"
+#include "stores/Open_Export_Log.h"
+#include "stores/Store_Globals.h"
+#include "stores/Stores_Test.h"
+#include "stores/UpdateTemp.h"
+
+#include <QTimer>
+#include <map>
+
+namespace {
+
+// How long the interface thread was away from its events, at its longest, while something went on.
+class Heartbeat
+{
+public:
+    Heartbeat()
+    {
+        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { Beat(); });
+        m_timer.start(1);
+    }
+
+    double Longest_Gap()
+    {
+        Beat();
+        return m_longest;
+    }
+    double Whole() const { return Now_Seconds() - m_begin; }
+
+private:
+    void Beat()
+    {
+        m_longest = std::max(m_longest, Now_Seconds() - m_last);
+        m_last = Now_Seconds();
+    }
+
+    QTimer m_timer;
+    double m_begin = Now_Seconds();
+    double m_last = m_begin;
+    double m_longest = 0;
+};
+
+constexpr int Many = 200'000;
+
+class Many_Records : public Stores_Test
+{
+protected:
+    static QByteArray Records()
+    {
+        QByteArray lines;
+        for (int i = 0; i < Many; ++i)
+            lines += "\a" + QByteArray::number(10'000'000 + i) + "\va message like any other\a05/03/2024\v\n";
+        return lines;
+    }
+};
+
+// With the desktop's text at 100 and 150 per cent.
+class Store_Window_Sizes : public Stores_Test, public testing::WithParamInterface<int>
+{
+protected:
+    Store_Window_Sizes()
+    {
+        QFont font = m_font_before;
+        font.setPointSizeF(font.pointSizeF() * GetParam() / 100);
+        QApplication::setFont(font);
+    }
+    ~Store_Window_Sizes() override { QApplication::setFont(m_font_before); }
+
+    static void Expect_Nothing_Cut_Off(QWidget& window)
+    {
+        window.show();
+        QCoreApplication::processEvents();
+        std::map<QString, QString> keys;
+        for (const QWidget* control : window.findChildren<QWidget*>()) {
+            const auto* button = qobject_cast<const QAbstractButton*>(control);
+            const auto* label = qobject_cast<const QLabel*>(control);
+            if (!control->isVisible() || control->window() != &window || control->objectName().isEmpty() ||
+                control->objectName().startsWith(QStringLiteral("qt_")) || !(button || label))
+                continue;
+            const auto name = (window.objectName() + u'/' + control->objectName()).toStdString();
+            EXPECT_GE(control->width(), control->minimumSizeHint().width()) << name;
+            EXPECT_GE(control->height(), control->minimumSizeHint().height()) << name;
+            EXPECT_TRUE(window.rect().contains(QRect(control->mapTo(&window, QPoint()), control->size()))) << name;
+            const QString key = QKeySequence::mnemonic(button ? button->text() : label->text()).toString();
+            const bool is_taken = !key.isEmpty() && !keys.emplace(key, control->objectName()).second;
+            EXPECT_FALSE(is_taken) << name << " " << qPrintable(key);
+        }
+        window.hide();
+    }
+
+private:
+    QFont m_font_before = QApplication::font();
+};
+
+} // namespace
+
+TEST_F(Many_Records, The_Interface_Thread_Goes_On_With_Its_Events_While_They_Load_Shrink_And_Are_Written)
+{
+    Put(Sent_Item_Path, Records());
+    Heartbeat heartbeat;
+    double load_gap = 0;
+    Visit_Sent_Items([&] {
+        load_gap = heartbeat.Longest_Gap();
+        EXPECT_EQ(The<QLabel>("_sent_list_count").text(), QStringLiteral("Total Items : 200000"));
+        EXPECT_EQ(Table().model()->rowCount(), Many);
+        Select(0, Many / 2 - 1);
+        Click("Clear_Sel_Btn");
+        EXPECT_EQ(Table().model()->rowCount(), Many / 2);
+        EXPECT_EQ(Table().model()->index(0, 0).data().toString(), QString::number(10'000'000 + Many / 2));
+    });
+    EXPECT_LT(load_gap, heartbeat.Whole() / 2);
+    EXPECT_LT(heartbeat.Longest_Gap(), heartbeat.Whole() / 2);
+    EXPECT_EQ(Bytes_Of(Sent_Item_Path).count('\n'), Many / 2);
+}
+
+TEST_P(Store_Window_Sizes, Nothing_Is_Cut_Off_And_No_Two_Controls_Share_A_Key)
+{
+    Expect_Nothing_Cut_Off(*Sent_Items::defaultInstance());
+    Expect_Nothing_Cut_Off(*Templates::defaultInstance());
+    Expect_Nothing_Cut_Off(*UpdateTemp::defaultInstance());
+    Expect_Nothing_Cut_Off(*Export_Option::defaultInstance());
+    Expect_Nothing_Cut_Off(*Open_Export_Log::defaultInstance());
+}
+
+INSTANTIATE_TEST_SUITE_P(Text_At_Percent, Store_Window_Sizes, testing::Values(100, 150),
+                         [](const auto& parameter) { return std::to_string(parameter.param); });
