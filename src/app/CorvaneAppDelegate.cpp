@@ -2,8 +2,7 @@
 
 #include "app/Help_Wnd.h"
 #include "app/List_Cells.h"
-#include "app/Number_Acceptance.h"
-#include "app/basics/String_Helpers.h"
+#include "app/Number_Import.h"
 #include "app/shared/Data_Paths.h"
 #include "app/shared/Globals.h"
 #include "app/shared/Line_Edit_Limit.h"
@@ -12,12 +11,16 @@
 #include "app/shared/Number_Rules.h"
 #include "app/shared/PleaseWait_Modeless.h"
 #include "app/shared/Window_Look.h"
+#include "exclusion/Exclusion_Wizard.h"
 #include "platform/Interface_Thread.h"
 #include "platform/Row_Table_Model.h"
 #include "sending/Composer.h"
 #include "sending/Delayed_Delivery.h"
 #include "sending/Send_Modeless.h"
 #include "sending/Send_Runner.h"
+#include "stores/Sent_Items.h"
+#include "stores/Template_Store.h"
+#include "stores/Templates.h"
 #include "ui_CorvaneAppDelegate.h"
 #include "wizard/Connection_Info.h"
 #include "wizard/Phone_List_Wnd.h"
@@ -30,27 +33,10 @@ namespace {
 CorvaneAppDelegate* The_Delegate = nullptr;
 
 constexpr int Normal_Message_Index = 1;
-constexpr int Redisplay_Count = 10; // reaching exactly this many recipients redraws the table from the count itself
 
 const QString Text_No_Data = QStringLiteral("Can not access Corvane Data file.");
 const QString Text_Exit = QStringLiteral("\nDo you really want to exit from 'Corvane'?");
-const QString Text_Not_A_Number = QStringLiteral("Please enter a valid phone number.");
-const QString Text_Exists = QStringLiteral("Entered number already exists.");
-const QString Text_Excluded = QStringLiteral("Entered number is in exclusion list.");
-const QString Text_List_Empty = QStringLiteral("Phone numbers-Messages list is empty.");
-const QString Text_None_Selected =
-    QStringLiteral("Please select at least one record from the phone numbers-messages list to continue.");
-const QString Text_Select_One = QStringLiteral("Please select only one record to update.");
-const QString Text_Clear_All =
-    QStringLiteral("\nThis option will clear the entire list contents. Are you sure you want to "
-                   "continue clearing the entire list?");
 const QString Text_No_Device = QStringLiteral("No Mobile Phone Device is selected.");
-
-// To let go of a million recipients takes its time, like everything that is done with each of them.
-void Let_Go_Of(Recipient_List& list)
-{
-    Run_On_Worker([&] { list.Clear(); });
-}
 
 } // namespace
 
@@ -97,12 +83,16 @@ bool CorvaneAppDelegate::awakeFromNib()
     }
     m_ui->_Msg_TypeComboBox->setCurrentIndex(Normal_Message_Index);
     Check_Path_And_Create_Files();
+    m_ui->Fill_Msg_Btn->setText(QStringLiteral("Apply this\r\nmessage to\r\nlist items"));
     m_ui->_delayed_msg_count_combo->addItems(Delayed_Delivery::Batch_Sizes());
     m_ui->_delayed_time_combo->addItems(Delayed_Delivery::Pause_Choices());
     for (auto* box : {m_ui->_delayed_msg_count_combo, m_ui->_delayed_time_combo}) {
         box->setCompleter(nullptr);
         box->setCurrentIndex(-1);
     }
+    m_import = std::make_unique<Number_Import>(
+        Number_Import::Target{[this](const QStringList& lines, int percent) { Take_Imported_Lines(lines, percent); },
+                              [this] { Leave_Import_Unread(); }, [this] { Finish_Import(); }});
     m_send_runner = std::make_unique<Send_Runner>(*this, *mfc_sms_obj, *Send_Modeless::defaultInstance());
     Main_App_wnd = this;
     Show_Device_In_Ticker();
@@ -131,6 +121,15 @@ void CorvaneAppDelegate::Connect_Controls()
     connect(m_ui->Search_All_Modem, &QPushButton::clicked, this, &CorvaneAppDelegate::Search_All_Modem);
     connect(m_ui->_messageEdit, &QPlainTextEdit::textChanged, this, &CorvaneAppDelegate::textDidChange);
     connect(m_ui->_Unicode_SMS_Chk, &QCheckBox::clicked, this, &CorvaneAppDelegate::Unicode_Chk);
+    connect(m_ui->Load_Number, &QPushButton::clicked, this, &CorvaneAppDelegate::Load_Number);
+    connect(m_ui->Export_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::Export_Btn);
+    connect(m_ui->Fill_Msg_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::Fill_Msg_Btn);
+    connect(m_ui->Update_Sel_Msgs_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::Update_Sel_Msgs_Btn);
+    connect(m_ui->Sent_Item_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::Sent_Item_Btn);
+    connect(m_ui->View_Templates_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::View_Templates_Btn);
+    connect(m_ui->View_ExclusionWizrd_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::View_ExclusionWizrd_Btn);
+    connect(m_ui->_Exclusion_Chk, &QCheckBox::clicked, this, &CorvaneAppDelegate::Exclusion_Chk);
+    connect(m_ui->_Delayed_Delivry_Chk, &QCheckBox::clicked, this, &CorvaneAppDelegate::Delayed_Delivery_Chk);
     connect(m_ui->idTableView, &QTableView::doubleClicked, this, &CorvaneAppDelegate::doubleClickInTable);
 }
 
@@ -175,191 +174,6 @@ void CorvaneAppDelegate::Check_Path_And_Create_Files()
     ::Check_Path_And_Create_Files();
 }
 
-// ---- The recipient list and the number rules
-
-void CorvaneAppDelegate::Create_Num_Msg_List(const QString& number, const QString& message_val)
-{
-    const QString trimmed_number = Trim_Str(number);
-    if (trimmed_number.isEmpty())
-        return;
-    nsListDataObject.Append(trimmed_number, message_val);
-    Update_List_Count();
-    // The first composer text that an item was made with is the remembered one; later ones do not replace it here.
-    if (prev_composer_msg.isEmpty())
-        prev_composer_msg = m_composer->Text();
-}
-
-bool CorvaneAppDelegate::Check_Ph_Number(const QString& number, bool test_flag) const
-{
-    return Number_Rules::Check_Ph_Number(number, test_flag);
-}
-
-QString CorvaneAppDelegate::Num_Able_To_insert(const QString& number) const
-{
-    const auto judged = Judge_Number(number, nsListDataObject, nsExclusionListDataObject,
-                                     m_ui->_Skip_Duplicate_Chk->isChecked(), m_ui->_Exclusion_Chk->isChecked());
-    return judged.verdict == Number_Acceptance::Verdict::Accepted ? judged.number : QString();
-}
-
-bool CorvaneAppDelegate::Check_Duplicate_Number(const QString& number) const
-{
-    return nsListDataObject.Count_Of(number) > 0;
-}
-
-bool CorvaneAppDelegate::Check_Exclusion_Number(const QString& number) const
-{
-    return nsExclusionListDataObject.Count_Of(number) > 0;
-}
-
-void CorvaneAppDelegate::Create_Exclusion_List(const QString& number)
-{
-    const QString trimmed_number = Trim_Str(number);
-    if (trimmed_number.isEmpty())
-        return;
-    nsExclusionListDataObject.Append(trimmed_number);
-    m_exclusion_rows->Reload();
-}
-
-void CorvaneAppDelegate::Fill_Exclusion_Num_List() {}
-
-void CorvaneAppDelegate::Update_List_Count()
-{
-    m_ui->_gsm_list_count->setText(QStringLiteral("Total Numbers : ") + QString::number(nsListDataObject.Count()));
-    if (nsListDataObject.Count() == Redisplay_Count)
-        Redisplay_Recipients();
-}
-
-bool CorvaneAppDelegate::Blank_Msg_Chk() const
-{
-    for (int index = 0; index < nsListDataObject.Count(); ++index) {
-        if (!nsListDataObject.At(index).Message.isEmpty())
-            return false;
-    }
-    return m_composer->Text().isEmpty();
-}
-
-int CorvaneAppDelegate::numberOfRowsInTableView(const QTableView* table) const
-{
-    return table == m_ui->idTableView ? nsListDataObject.Count() : nsExclusionListDataObject.Count();
-}
-
-QString CorvaneAppDelegate::tableView(const QTableView* table, const QString& objectValueForTableColumn, int row) const
-{
-    try {
-        if (table == m_ui->idTableView)
-            return Recipient_Cell(nsListDataObject, objectValueForTableColumn, row);
-        return Exclusion_Cell(nsExclusionListDataObject, objectValueForTableColumn, row);
-    } catch (const Invalid_Parameter&) {
-        return {};
-    }
-}
-
-void CorvaneAppDelegate::Add_Number()
-{
-    const auto judged = Judge_Number(m_ui->_numberEdit->text(), nsListDataObject, nsExclusionListDataObject,
-                                     m_ui->_Skip_Duplicate_Chk->isChecked(), m_ui->_Exclusion_Chk->isChecked());
-    switch (judged.verdict) {
-    case Number_Acceptance::Verdict::Not_Valid:
-        Show_MessageBox(Text_Not_A_Number);
-        break;
-    case Number_Acceptance::Verdict::Duplicate:
-        Show_MessageBox(Text_Exists);
-        break;
-    case Number_Acceptance::Verdict::Excluded:
-        Show_MessageBox(Text_Excluded);
-        break;
-    case Number_Acceptance::Verdict::Accepted:
-        Create_Num_Msg_List(judged.number, m_composer->Text());
-        Redisplay_Recipients();
-        m_ui->_numberEdit->clear();
-        break;
-    }
-    Focus(Field::Number);
-}
-
-void CorvaneAppDelegate::Clear_Sel_Btn()
-{
-    if (nsListDataObject.Count() == 0) {
-        Tell_And_Focus(Text_List_Empty, Field::Recipient_Table);
-        return;
-    }
-    const auto rows = Selected_Recipient_Rows();
-    if (rows.empty()) {
-        Tell_And_Focus(Text_None_Selected, Field::Recipient_Table);
-        return;
-    }
-    Show_Create_Modeless();
-    Recipient_List list = nsListDataObject; // the table shows the present one until this one is whole
-    Run_On_Worker([&] { list.Remove_Rows(rows); });
-    std::swap(nsListDataObject, list);
-    Redisplay_Recipients();
-    m_ui->idTableView->selectRow(0);
-    Update_List_Count();
-    Let_Go_Of(list);
-    Hide_Destroy_Modeless();
-    if (nsListDataObject.Count() == 0) {
-        m_ui->_numberEdit->clear();
-        Focus(Field::Number);
-    }
-}
-
-void CorvaneAppDelegate::Clear_All_Btn()
-{
-    if (nsListDataObject.Count() == 0) {
-        Show_MessageBox(Text_List_Empty);
-        return;
-    }
-    if (!Show_YES_NO_MessageBox(Text_Clear_All))
-        return;
-    Show_Create_Modeless();
-    Recipient_List list = std::exchange(nsListDataObject, Recipient_List());
-    Redisplay_Recipients();
-    Update_List_Count();
-    m_ui->_numberEdit->clear();
-    Focus(Field::Number);
-    Let_Go_Of(list);
-    Hide_Destroy_Modeless();
-}
-
-void CorvaneAppDelegate::Reset_Btn()
-{
-    prev_composer_msg.clear();
-    m_ui->_numberEdit->clear();
-    m_composer->Clear();
-    Recipient_List list = std::exchange(nsListDataObject, Recipient_List());
-    Redisplay_Recipients();
-    Update_List_Count();
-    m_ui->_Msg_char_count->setText(QStringLiteral("0 Characters"));
-    m_ui->_Msg_TypeComboBox->setCurrentIndex(Normal_Message_Index);
-    for (auto* box : {m_ui->_Delayed_Delivry_Chk, m_ui->_Exclusion_Chk, m_ui->_Save_Sent_Item_Chk,
-                      m_ui->_Save_Templates_Chk, m_ui->_Skip_Duplicate_Chk, m_ui->_Unicode_SMS_Chk})
-        box->setChecked(false);
-    for (auto* box : {m_ui->_delayed_time_combo, m_ui->_delayed_msg_count_combo}) {
-        box->setEnabled(false);
-        box->setCurrentIndex(-1);
-        box->clearEditText();
-    }
-    Update_List_Count();
-    Focus(Field::Number);
-    Let_Go_Of(list);
-}
-
-void CorvaneAppDelegate::doubleClickInTable()
-{
-    if (Selected_Recipient_Rows().size() > 1)
-        Show_MessageBox(Text_Select_One);
-}
-
-std::vector<int> CorvaneAppDelegate::Selected_Recipient_Rows() const
-{
-    return Rows_Selected_In(*m_ui->idTableView);
-}
-
-void CorvaneAppDelegate::controlTextDidChange()
-{
-    Cut_Line(*m_ui->_numberEdit, Number_Rules::Longest_Number);
-}
-
 // ---- The composer
 
 void CorvaneAppDelegate::textDidChange()
@@ -398,6 +212,20 @@ void CorvaneAppDelegate::Set_Composer_Text(const QString& text)
 }
 
 // ---- Sending
+
+void CorvaneAppDelegate::Delayed_Delivery_Chk()
+{
+    const bool is_on = m_ui->_Delayed_Delivry_Chk->isChecked();
+    for (auto* box : {m_ui->_delayed_msg_count_combo, m_ui->_delayed_time_combo}) {
+        box->setEnabled(is_on);
+        box->setCurrentIndex(-1);
+        box->clearEditText();
+    }
+    if (!is_on)
+        return;
+    m_ui->_delayed_time_combo->setCurrentIndex(Delayed_Delivery::Preselected_Pause_Choice);
+    m_ui->_delayed_msg_count_combo->setCurrentIndex(Delayed_Delivery::Preselected_Batch_Size);
+}
 
 void CorvaneAppDelegate::Send_SMS_Btn()
 {
@@ -456,6 +284,30 @@ void CorvaneAppDelegate::Show_Device_In_Ticker()
     m_ui->_NO_Device_Ticker->setVisible(!has_device);
 }
 
+// ---- The other windows
+
+void CorvaneAppDelegate::Sent_Item_Btn()
+{
+    Sent_Items::defaultInstance()->Open_Sent_Item_Wnd();
+}
+
+void CorvaneAppDelegate::View_Templates_Btn()
+{
+    Templates::defaultInstance()->Open_Template_Wnd();
+}
+
+void CorvaneAppDelegate::View_ExclusionWizrd_Btn()
+{
+    Exclusion_Wizard::defaultInstance()->Open_Exclusion_Wnd();
+}
+
+bool CorvaneAppDelegate::Check_Duplicate_Template(const QString& text) const
+{
+    bool is_there = false;
+    Run_On_Worker([&] { is_there = Template_Store::Contains(text); });
+    return is_there;
+}
+
 void CorvaneAppDelegate::Help_Btn()
 {
     Help_Wnd help(this);
@@ -466,6 +318,7 @@ void CorvaneAppDelegate::Help_Btn()
 
 void CorvaneAppDelegate::Show_Create_Modeless()
 {
+    m_please_wait->Show_Progress(-1);
     m_please_wait->Begin_Sheet(this);
 }
 
@@ -493,18 +346,6 @@ void CorvaneAppDelegate::Focus(Field field)
         m_ui->_delayed_time_combo->setFocus();
         break;
     }
-}
-
-void CorvaneAppDelegate::Replace_Recipients(Recipient_List recipients)
-{
-    std::swap(nsListDataObject, recipients);
-    Redisplay_Recipients();
-    Let_Go_Of(recipients);
-}
-
-void CorvaneAppDelegate::Redisplay_Recipients()
-{
-    m_recipient_rows->Reload();
 }
 
 void CorvaneAppDelegate::Tell_And_Focus(const QString& text, Field field)

@@ -9,6 +9,7 @@
 #include <vector>
 
 class Composer;
+class Number_Import;
 class PleaseWait_Modeless;
 class QTableView;
 class Row_Table_Model;
@@ -52,6 +53,16 @@ public:
     void Fill_Exclusion_Num_List() override;
     void Create_Exclusion_List(const QString& number);
     void Update_List_Count();
+    void OnGetSelected();
+
+    // Import
+    /// Starts the import of a file. The main window takes no input until it has ended.
+    void Load_NUM_Thread(const QString& path);
+
+    // The stores
+    /// Whether the templates' file holds a template with exactly this text.
+    bool Check_Duplicate_Template(const QString& text) const;
+
     bool Blank_Msg_Chk() const override;
     int numberOfRowsInTableView(const QTableView* table) const;
     /// The value of a row under a column's identifier; an empty text for a row outside the list.
@@ -91,11 +102,20 @@ public Q_SLOTS:
     void Clear_All_Btn();
     void Reset_Btn();
     void doubleClickInTable();
+    void Load_Number();
+    void Export_Btn();
+    void Fill_Msg_Btn();
+    void Update_Sel_Msgs_Btn();
+    void Exclusion_Chk();
     void controlTextDidChange();
     void textDidChange();
     void Unicode_Chk();
     void Send_SMS_Btn();
     void No_Device_Ticker_Click();
+    void Delayed_Delivery_Chk();
+    void Sent_Item_Btn();
+    void View_Templates_Btn();
+    void View_ExclusionWizrd_Btn();
     void Help_Btn();
     void Exit_Btn();
 
@@ -110,6 +130,11 @@ private:
     void Connect_Controls();
     void Give_Tables_Their_Models();
     void Show_Device_In_Ticker();
+    void Remember_Composer_Text();
+    void Remove_All_Recipients();
+    void Take_Imported_Lines(const QStringList& lines, int percent);
+    void Leave_Import_Unread();
+    void Finish_Import();
     void Tell_And_Focus(const QString& text, Field field);
 
     std::unique_ptr<Ui::CorvaneAppDelegate> m_ui;
@@ -117,10 +142,13 @@ private:
     Recipient_List nsListDataObject;
     Exclusion_Set nsExclusionListDataObject;
     QString prev_composer_msg;
+    int prev_list_item = 0;   // recipients before the import
+    QString m_import_message; // what every imported number gets
     Row_Table_Model* m_recipient_rows = nullptr;
     Row_Table_Model* m_exclusion_rows = nullptr;
     std::unique_ptr<Composer> m_composer;
     std::unique_ptr<Send_Runner> m_send_runner;
+    std::unique_ptr<Number_Import> m_import;
     PleaseWait_Modeless* m_please_wait = nullptr;
     std::unique_ptr<Input_Hold> m_input_hold;
 };

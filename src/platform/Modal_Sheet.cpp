@@ -6,14 +6,22 @@
 #include <QCoreApplication>
 #include <QPainter>
 
+namespace {
+const Qt::WindowFlags Sheet_Flags = Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint;
+}
+
 Modal_Sheet::Modal_Sheet(QWidget* parent) : QDialog(parent)
 {
-    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
-    setWindowModality(Qt::WindowModal);
+    Become(Qt::WindowModal, Sheet_Flags);
 }
 
 void Modal_Sheet::Begin_Sheet(QWidget* over)
 {
+    if (m_is_let_go) {
+        End_Sheet();
+        m_is_let_go = false;
+        Become(Qt::WindowModal, Sheet_Flags);
+    }
     if (parentWidget() != over)
         setParent(over, windowFlags());
     show();
@@ -34,11 +42,33 @@ void Modal_Sheet::End_Sheet()
     m_is_ending = false;
 }
 
-void Modal_Sheet::reject() {}
+void Modal_Sheet::Let_Go()
+{
+    if (m_is_let_go || !isVisible())
+        return;
+    m_is_let_go = true;
+    const QPoint place = pos();
+    End_Sheet(); // a window that is shown does not change what it holds back
+    Become(Qt::NonModal, Qt::Dialog);
+    move(place);
+    show();
+}
+
+void Modal_Sheet::Become(Qt::WindowModality modality, Qt::WindowFlags flags)
+{
+    setWindowFlags(flags);
+    setWindowModality(modality);
+}
+
+void Modal_Sheet::reject()
+{
+    if (m_is_let_go)
+        QDialog::reject();
+}
 
 void Modal_Sheet::closeEvent(QCloseEvent* event)
 {
-    if (m_is_ending)
+    if (m_is_ending || m_is_let_go)
         QDialog::closeEvent(event);
     else
         event->ignore();

@@ -15,6 +15,10 @@ public:
     void Begin_Sheet(QWidget* over);
     void End_Sheet();
 
+    /// Leaves the sheet where it is, as a plain window that holds nothing back and that the user can close. Begin_Sheet
+    /// makes it a sheet again.
+    void Let_Go();
+
     void reject() override; ///< Escape: nothing happens
 
 protected:
@@ -22,5 +26,8 @@ protected:
     void paintEvent(QPaintEvent* event) override; ///< with an edge, which some desktops give no window without buttons
 
 private:
+    void Become(Qt::WindowModality modality, Qt::WindowFlags flags);
+
     bool m_is_ending = false;
+    bool m_is_let_go = false;
 };

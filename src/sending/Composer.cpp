@@ -1,15 +1,16 @@
 #include "sending/Composer.h"
 
 #include "app/shared/Globals.h"
+#include "app/shared/Plain_Text_Edit.h"
 #include "sending/Composer_Rules.h"
 #include "sending/Long_SMS_Dlg.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QScopedValueRollback>
 #include <QTextCursor>
-#include <QTextDocument>
 
 Composer::Composer(QPlainTextEdit* message_edit, QLabel* character_count, QCheckBox* unicode_check, QObject* parent)
     : QObject(parent), _messageEdit(message_edit), _Msg_char_count(character_count), _Unicode_SMS_Chk(unicode_check)
@@ -18,16 +19,12 @@ Composer::Composer(QPlainTextEdit* message_edit, QLabel* character_count, QCheck
 
 QString Composer::Text() const
 {
-    // Not toPlainText, which would turn no-break spaces into blanks.
-    QString text = _messageEdit->document()->toRawText();
-    text.replace(QChar(QChar::ParagraphSeparator), QChar(u'\n'));
-    text.replace(QChar(QChar::LineSeparator), QChar(u'\n'));
-    return text;
+    return Exact_Text(*_messageEdit);
 }
 
 int Composer::Length() const
 {
-    return _messageEdit->document()->characterCount() - 1; // the document counts the end of its last paragraph, too
+    return Text_Length(*_messageEdit);
 }
 
 bool Composer::Is_Unicode() const
@@ -95,7 +92,9 @@ QString Composer::Long_SMS_Calculation(int length, const QString& msg_char_value
     const auto counter = Composer_Rules::Long_SMS_Calculation(length, msg_char_value, Is_Unicode(), may_open);
     if (counter.open_dialog_first) {
         const QScopedValueRollback is_showing(m_is_showing_dialog, true);
-        Long_SMS_Dlg::defaultInstance()->Open_Dialog(_messageEdit->window(), Is_Unicode());
+        // A dialog that edits messages asks, too: the notice belongs over whatever the user is working in.
+        QWidget* on_top = QApplication::activeModalWidget();
+        Long_SMS_Dlg::defaultInstance()->Open_Dialog(on_top ? on_top : _messageEdit->window(), Is_Unicode());
     }
     return counter.text;
 }
@@ -105,12 +104,6 @@ void Composer::Cut_To_Limit()
     if (Length() <= Composer_Rules::Most_Characters)
         return;
     const QScopedValueRollback is_changing(m_is_changing_text, true);
-    // The cut belongs to the change that made it necessary: undoing that one brings back what stood there before.
-    QTextCursor beyond(_messageEdit->document());
-    beyond.joinPreviousEditBlock();
-    beyond.setPosition(Composer_Rules::Most_Characters);
-    beyond.movePosition(QTextCursor::End, QTextCursor::KeepAnchor);
-    beyond.removeSelectedText();
-    beyond.endEditBlock();
+    Cut_Text(*_messageEdit, Composer_Rules::Most_Characters);
     Message_IS = Text();
 }

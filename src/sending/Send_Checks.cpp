@@ -1,11 +1,20 @@
 #include "sending/Send_Checks.h"
 
+#include "app/basics/Log_Line.h"
 #include "app/basics/String_Helpers.h"
 #include "app/shared/Globals.h"
 #include "app/shared/Message_Boxes.h"
+#include "dialogs/List_Dialogs.h"
 #include "platform/Interface_Thread.h"
+#include "platform/Waiting.h"
+
+#include <exception>
 
 namespace {
+
+// What the send-time dialog ends with; any other code means that nothing is to be sent.
+constexpr int List_Was_Filled = 1;
+constexpr int Send_List_As_It_Is = 0;
 
 const QString& No_Device_Text()
 {
@@ -88,13 +97,28 @@ bool Blank_Messages_Are_Meant(Main_Window& window)
     return !is_blank || Show_YES_NO_MessageBox(Blank_Messages_Question());
 }
 
-// A composer text that is offered for the list once is not offered again before it changes.
-void Offer_Composer_Text(Main_Window& window)
+bool Ask_About_Composer_Text(Main_Window& window)
 {
+    try {
+        const int answer = Ask_Send_Msg_Info(window);
+        return answer == List_Was_Filled || answer == Send_List_As_It_Is;
+    } catch (const std::exception& failure) {
+        Show_NSLog_Message(QString::fromLocal8Bit(failure.what()));
+        return true;
+    }
+}
+
+// A composer text that is offered for the list once is not offered again before it changes, whatever the answer was.
+bool Composer_Text_Is_Settled(Main_Window& window)
+{
+    bool is_settled = true;
     Run_On_Interface_Thread([&] {
-        if (window.Previous_Composer_Message() != Message_IS)
-            window.Set_Previous_Composer_Message(Message_IS);
+        if (window.Previous_Composer_Message() == Message_IS)
+            return;
+        window.Set_Previous_Composer_Message(Message_IS);
+        is_settled = Ask_About_Composer_Text(window);
     });
+    return is_settled && !Program_Is_Exiting(); // leaving ends the dialog as well
 }
 
 void Take_Lists(Main_Window& window, Send_Order& order)
@@ -115,7 +139,8 @@ std::optional<Send_Order> Take_Send_Order(Main_Window& window)
     Take_Composer_Text(order.choices);
     if (!Delayed_Delivery_Is_Complete(window, order.choices) || !Blank_Messages_Are_Meant(window))
         return std::nullopt;
-    Offer_Composer_Text(window);
+    if (!Composer_Text_Is_Settled(window))
+        return std::nullopt;
     Take_Lists(window, order);
     return order;
 }

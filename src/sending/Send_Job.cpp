@@ -7,8 +7,11 @@
 #include "platform/Interface_Thread.h"
 #include "platform/Waiting.h"
 #include "sending/Composer_Rules.h"
+#include "sending/Pause_Countdown.h"
 #include "sending/Send_Checks.h"
 #include "sending/Send_Progress.h"
+#include "stores/Sent_Item_Store.h"
+#include "stores/Template_Store.h"
 
 #include <exception>
 #include <utility>
@@ -69,6 +72,7 @@ void Send_Job::Run()
         Show_MessageBox(Does_Not_Open_Text());
         return;
     }
+    Reload_Exclusions();
     Show_Progress();
     if (!Connect()) {
         Show_MessageBox(No_Modem_Text());
@@ -84,6 +88,17 @@ bool Send_Job::The_Device_Opens()
 {
     m_handle = m_session.OpenSerialPort(MFCSMS::NString_To_Command_Char(m_order.device_path));
     return m_handle != -1;
+}
+
+// What the applied lists hold now counts, and not what they held when the exclusion option was switched on.
+void Send_Job::Reload_Exclusions()
+{
+    if (!m_order.choices.exclusion)
+        return;
+    Run_On_Interface_Thread([this] {
+        m_window.Fill_Exclusion_Num_List();
+        m_order.exclusions = m_window.Exclusions();
+    });
 }
 
 void Send_Job::Show_Progress()
@@ -108,6 +123,8 @@ bool Send_Job::Connect()
 
 void Send_Job::Prepare_Device()
 {
+    if (m_order.choices.delayed_delivery)
+        m_delivery = Delayed_Delivery::Read_Setting(m_order.choices.batch_size, m_order.choices.pause_choice);
     m_mode = m_session.PDU_or_Text_SMS(m_handle);
     // What the device answers to this is not judged: the first submission tells.
     if (m_mode == Pdu_Mode)
@@ -122,6 +139,7 @@ void Send_Job::Begin_Sending()
     Stop_SMS_Sending_Now = 0;
     if (Program_Is_Exiting()) // no stop that came with the exit is lost
         Stop_SMS_Sending_Now = 1;
+    m_date = Today().toString(QStringLiteral("dd/MM/yyyy"));
     m_progress.Begin_Sending();
     Set_Read_Timeout(Sending_Read_Seconds);
     m_has_error = false;
@@ -147,6 +165,9 @@ bool Send_Job::Send_Item(int index)
         return true;
     switch (Submit(recipient.Number, message)) {
     case Outcome::Handled:
+        ++m_batch_count;
+        Keep_Records(recipient.Number, message);
+        Pause_If_Due(index);
         return true;
     case Outcome::Failed:
         m_has_error = true;
@@ -156,6 +177,23 @@ bool Send_Job::Send_Item(int index)
         break;
     }
     return false;
+}
+
+void Send_Job::Keep_Records(const QString& number, const QString& message)
+{
+    if (m_order.choices.save_sent_items)
+        Sent_Item_Store::Append({number, message, m_date, {}});
+    if (m_order.choices.save_templates)
+        Template_Store::Append(message);
+}
+
+void Send_Job::Pause_If_Due(int index)
+{
+    if (!m_order.choices.delayed_delivery || m_batch_count != m_delivery.batch_size)
+        return;
+    m_batch_count = 0;
+    if (index + 1 < m_order.recipients.Count())
+        Pause_Countdown(m_progress, Is_Asked_To_Stop).Pause(m_delivery.pause_in_seconds);
 }
 
 bool Send_Job::Skip_Item(int index, const QString& number)

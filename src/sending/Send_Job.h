@@ -1,5 +1,6 @@
 #pragma once
 
+#include "sending/Delayed_Delivery.h"
 #include "sending/Send_Order.h"
 
 class MFCSMS;
@@ -33,10 +34,13 @@ private:
     void Begin_Sending();
     void Send_Items();
     bool Send_Item(int index);
+    void Keep_Records(const QString& number, const QString& message);
     bool Skip_Item(int index, const QString& number);
     Outcome Submit(const QString& number, const QString& message);
     Outcome Submit_In_PDU_Mode(const QString& number, const QString& message);
     Outcome Submit_In_Text_Mode(const QString& number, const QString& message);
+    void Reload_Exclusions();
+    void Pause_If_Due(int index);
     void Finish();
 
     void Set_Read_Timeout(double seconds);
@@ -51,4 +55,7 @@ private:
     int m_handle = -1; // the direct descriptor, forgotten as soon as it is closed
     int m_mode = 0;    // 0 = none, 1 = PDU, 2 = text
     bool m_has_error = false;
+    QString m_date;                       // of all records of this job, "dd/MM/yyyy"
+    Delayed_Delivery::Setting m_delivery; // no batches unless they are asked for
+    int m_batch_count = 0;                // items handled since the last pause
 };

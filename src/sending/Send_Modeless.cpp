@@ -130,6 +130,29 @@ void Send_Modeless::End()
     });
 }
 
+void Send_Modeless::Begin_Pause()
+{
+    Run_On_Interface_Thread([this] {
+        msend_modTimer.stop();
+        m_ui->_Curr_Progress->setValue(0);
+        Show_Current_Item(false);
+    });
+}
+
+void Send_Modeless::Show_Pause(const QString& text)
+{
+    Run_On_Interface_Thread([&] { m_ui->_pause_timer->setText(text); });
+}
+
+void Send_Modeless::End_Pause()
+{
+    Run_On_Interface_Thread([this] {
+        Show_Current_Item(true);
+        m_ui->_pause_timer->clear();
+    });
+    startTimerThread();
+}
+
 void Send_Modeless::startTimerThread()
 {
     Run_On_Interface_Thread([this] {
@@ -162,7 +185,12 @@ void Send_Modeless::Timer_Curr_Prg_Send_Modeless()
 
 void Send_Modeless::Show_Sending_Controls(bool visible)
 {
+    Show_Current_Item(visible);
+    m_ui->_Tot_Progress->setVisible(visible);
+}
+
+void Send_Modeless::Show_Current_Item(bool visible)
+{
     m_ui->_current_send_label->setVisible(visible);
     m_ui->_current_send_msg->setVisible(visible);
-    m_ui->_Tot_Progress->setVisible(visible);
 }

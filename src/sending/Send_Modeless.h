@@ -29,6 +29,9 @@ public:
     void Show_Current(const QString& text) override;
     /// Hides the window. A stop question that is still open counts as answered No.
     void End() override;
+    void Begin_Pause() override;
+    void Show_Pause(const QString& text) override;
+    void End_Pause() override;
     void startTimerThread() override;
     void Stop_Timers() override;
 
@@ -40,6 +43,7 @@ public:
 private:
     void Make_Room_For_Texts();
     void Show_Sending_Controls(bool visible);
+    void Show_Current_Item(bool visible);
 
     std::unique_ptr<Ui::Send_Modeless> m_ui;
     QTimer msend_modTimer{this};

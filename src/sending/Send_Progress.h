@@ -21,6 +21,12 @@ public:
     virtual void Show_Current(const QString& text) = 0;
     virtual void End() = 0;
 
+    /// A pause between two batches: nothing is being sent, and the activity stands still.
+    virtual void Begin_Pause() = 0;
+    /// Says how long the pause still lasts.
+    virtual void Show_Pause(const QString& text) = 0;
+    virtual void End_Pause() = 0;
+
     /// Starts and stops the activity that shows the job is alive.
     virtual void startTimerThread() = 0;
     virtual void Stop_Timers() = 0;

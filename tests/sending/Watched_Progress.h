@@ -38,6 +38,21 @@ public:
         m_progress.End();
         Note(QStringLiteral("end"));
     }
+    void Begin_Pause() override
+    {
+        m_progress.Begin_Pause();
+        Note(QStringLiteral("pause"));
+    }
+    void Show_Pause(const QString& text) override
+    {
+        m_progress.Show_Pause(text);
+        Note(text);
+    }
+    void End_Pause() override
+    {
+        m_progress.End_Pause();
+        Note(QStringLiteral("pause over"));
+    }
     void startTimerThread() override
     {
         m_progress.startTimerThread();

@@ -1,11 +1,11 @@
 #include "app/shared/Globals.h"
+#include "app/shared/Plain_Text_Edit.h"
 #include "app/shared/Shared_Instance.h"
 #include "pdu/Text_Printing.h"
 #include "platform/Pace.h"
 #include "platform/Waiting.h"
 #include "sending/Composer.h"
 #include "sending/Composer_Rules.h"
-#include "sending/Message_Edit.h"
 #include "sending/Notice_Reader.h"
 
 #include <QCheckBox>
@@ -60,7 +60,7 @@ protected:
     }
 
     QWidget m_window;
-    Message_Edit m_edit;
+    Plain_Text_Edit m_edit;
     QLabel m_counter;
     QCheckBox m_unicode;
     Composer m_composer;

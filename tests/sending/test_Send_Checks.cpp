@@ -1,10 +1,13 @@
 #include "sending/Send_Checks.h"
 
+#include "app/shared/Shared_Instance.h"
 #include "pdu/Text_Printing.h"
 #include "platform/Waiting.h"
 #include "support/User.h"
 #include "support/Window_For_Tests.h"
 
+#include <QPushButton>
+#include <QTest>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -32,12 +35,21 @@ protected:
         Message_IS = QStringLiteral("from before");
         m_window.m_recipients.Append(QStringLiteral("123"), QStringLiteral("Hello"));
         m_window.m_choices.composer_text = QStringLiteral("composed");
+        m_window.m_previous_message = m_window.m_choices.composer_text; // nothing new to offer
     }
     ~Send_Checks_Test() override
     {
         sel_port_bsd_str.clear();
         Cus_SMS_Num_STR.clear();
         Message_IS.clear();
+        End_Shared_Instances();
+    }
+
+    void Will_Answer_The_Offer(const char* button)
+    {
+        m_user.When_Opens("Send_Msg_Info", [button](QWidget& dialog) {
+            QTest::mouseClick(dialog.findChild<QPushButton*>(QLatin1String(button)), Qt::LeftButton);
+        });
     }
 
     User m_user;
@@ -143,18 +155,48 @@ TEST_F(Send_Checks_Test, Blank_Messages_Are_Sent_Only_When_They_Are_Meant)
     EXPECT_EQ(m_window.m_previous_message, QStringLiteral("remembered"));
     EXPECT_EQ(Message_IS, QString());
     m_user.Will_Press("Yes");
+    Will_Answer_The_Offer("ContinuePressed"); // the composer's text has changed, to none
     EXPECT_TRUE(Take_Send_Order(m_window));
     EXPECT_EQ(m_user.Was_Shown(), (QStringList{Blank_Question, Blank_Question}));
     EXPECT_EQ(m_window.m_previous_message, QString());
 }
 
+TEST_F(Send_Checks_Test, A_Composer_Text_That_Changed_Is_Offered_Once)
+{
+    m_window.m_choices.composer_text = QStringLiteral("changed");
+    Will_Answer_The_Offer("CancelPressed");
+    EXPECT_FALSE(Take_Send_Order(m_window));
+    EXPECT_EQ(m_window.m_previous_message, QStringLiteral("changed"));
+    EXPECT_TRUE(Take_Send_Order(m_window));
+}
+
+TEST_F(Send_Checks_Test, An_Order_Holds_The_List_As_The_Offer_Left_It)
+{
+    m_window.m_choices.composer_text = QStringLiteral("changed");
+    Will_Answer_The_Offer("OKPressed");
+    const auto order = Take_Send_Order(m_window);
+    ASSERT_TRUE(order);
+    EXPECT_EQ(order->recipients.At(0).Message, QStringLiteral("changed"));
+}
+
+TEST_F(Send_Checks_Test, An_Order_Holds_The_List_As_It_Is_When_The_Offer_Is_Declined)
+{
+    m_window.m_choices.composer_text = QStringLiteral("changed");
+    Will_Answer_The_Offer("ContinuePressed");
+    const auto order = Take_Send_Order(m_window);
+    ASSERT_TRUE(order);
+    EXPECT_EQ(order->recipients.At(0).Message, QStringLiteral("Hello"));
+}
+
 TEST_F(Send_Checks_Test, One_Message_In_The_List_Or_The_Composer_Is_Enough)
 {
     m_window.m_choices.composer_text.clear();
+    m_window.m_previous_message.clear();
     EXPECT_TRUE(Take_Send_Order(m_window));
     m_window.m_recipients.Clear();
     m_window.m_recipients.Append(QStringLiteral("123"), QString());
     m_window.m_choices.composer_text = QStringLiteral("composed");
+    m_window.m_previous_message = m_window.m_choices.composer_text;
     EXPECT_TRUE(Take_Send_Order(m_window));
 }
 

@@ -11,3 +11,9 @@ PleaseWait_Modeless::PleaseWait_Modeless(QWidget* parent)
 }
 
 PleaseWait_Modeless::~PleaseWait_Modeless() = default;
+
+void PleaseWait_Modeless::Show_Progress(int percent)
+{
+    m_ui->activity->setRange(0, percent < 0 ? 0 : 100);
+    m_ui->activity->setValue(percent);
+}

@@ -17,6 +17,9 @@ public:
     explicit PleaseWait_Modeless(QWidget* parent = nullptr);
     ~PleaseWait_Modeless() override;
 
+    /// How much of the work is done, from 0 to 100; without it, and below 0, the bar shows that something goes on.
+    void Show_Progress(int percent);
+
 private:
     std::unique_ptr<Ui::PleaseWait_Modeless> m_ui;
 };

@@ -1,0 +1,54 @@
+#include "sending/Pause_Countdown.h"
+
+#include "app/shared/Globals.h"
+#include "platform/Pace.h"
+#include "platform/Waiting.h"
+#include "sending/Delayed_Delivery.h"
+#include "sending/Send_Progress.h"
+
+#include <utility>
+
+namespace {
+constexpr qint64 Milliseconds = 1000; // in a second
+}
+
+Pause_Countdown::Pause_Countdown(Send_Progress& progress, std::function<bool()> is_asked_to_stop)
+    : m_progress(progress), m_is_asked_to_stop(std::move(is_asked_to_stop))
+{
+}
+
+void Pause_Countdown::Pause(qint64 seconds)
+{
+    if (seconds <= 0)
+        return;
+    const double begin = Now_Seconds();
+    GSM_Pause_Delay_Time = seconds * Milliseconds;
+    m_progress.Begin_Pause();
+    Pause_Timer_Running = true;
+    Calculate_Pause_Time(GSM_Pause_Delay_Time);
+    // Each step waits for its own moment on the clock, so that what a step takes does not add up over an hour.
+    for (qint64 gone = 1; gone <= seconds && !m_is_asked_to_stop(); ++gone) {
+        Wait_Until(begin + Paced(static_cast<double>(gone)));
+        GSM_Pause_Delay_Time = (seconds - gone) * Milliseconds;
+        if (GSM_Pause_Delay_Time > 0)
+            Pause_Timer_Func();
+    }
+    GSM_Pause_Delay_Time = 0;
+    Pause_Timer_Running = false;
+    m_progress.End_Pause();
+}
+
+void Pause_Countdown::Calculate_Pause_Time(qint64 milliseconds)
+{
+    m_progress.Show_Pause(Delayed_Delivery::Whole_Pause_Text(milliseconds / Milliseconds));
+}
+
+void Pause_Countdown::Pause_Timer_Func()
+{
+    m_progress.Show_Pause(Delayed_Delivery::Countdown_Text(GSM_Pause_Delay_Time / Milliseconds));
+}
+
+void Pause_Countdown::Wait_Until(double due)
+{
+    Wait_Seconds_Unless((due - Now_Seconds()) * Pace(), m_is_asked_to_stop);
+}
