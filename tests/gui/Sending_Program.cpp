@@ -1,5 +1,6 @@
 #include "gui/Sending_Program.h"
 
+#include "app/shared/Plain_Text_Edit.h"
 #include "sending/Send_Modeless.h"
 #include "wizard/Phone_List_Wnd.h"
 
@@ -186,6 +187,16 @@ void Sending_Program::Paste(const QString& text)
     QTest::keyClick(&area, Qt::Key_V, Qt::ControlModifier);
 }
 
+// The last text written is not the first one, which the list was begun with: it is offered for the whole list.
+void Sending_Program::Press_Send()
+{
+    if (Exact_Text(The<QPlainTextEdit>("_messageEdit")) != m_delegate->Previous_Composer_Message())
+        user.When_Opens(QStringLiteral("Send_Msg_Info"), [](QWidget& dialog) {
+            QTest::mouseClick(dialog.findChild<QPushButton*>(QStringLiteral("ContinuePressed")), Qt::LeftButton);
+        });
+    Click("_sent_btn");
+}
+
 std::string Sending_Program::Send()
 {
     std::string text;
@@ -194,7 +205,7 @@ std::string Sending_Program::Send()
         Expect_Progress_As_It_Should_Be(text);
         QTest::mouseClick(box.findChild<QAbstractButton*>(), Qt::LeftButton);
     });
-    Click("_sent_btn");
+    Press_Send();
     EXPECT_EQ(sms_thread_var, 1);
     EXPECT_TRUE(Serve_Until([] { return sms_thread_var == 0 && Workers_Running() == 0; }, 60)) << "the job hangs";
     Set_Pace(m_preparing_pace);

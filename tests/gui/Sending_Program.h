@@ -61,6 +61,8 @@ protected:
 
     /// Types and pastes the first so many of the three items, and sets the options of the way.
     void Fill_The_List(const Way& way = {}, int items = Items);
+    /// Presses Send; what was written last is offered for the whole list first and turned down.
+    void Press_Send();
     /// Presses Send, presses OK in the one box that comes, and returns its text when the job has ended.
     std::string Send();
     /// A job through a phone that minds its manners is as it ever was.

@@ -20,8 +20,11 @@ protected:
 
     void Try_Everything()
     {
-        for (const char* button : {"Reset_Btn", "Clear_Sel_Btn", "Clear_All_Btn", "Add_Number", "_sent_btn",
-                                   "Search_All_Modem", "Help_Btn", "Exit_Btn", "_Skip_Duplicate_Chk"})
+        for (const char* button :
+             {"Reset_Btn", "Clear_Sel_Btn", "Clear_All_Btn", "Add_Number", "_sent_btn", "Search_All_Modem", "Help_Btn",
+              "Exit_Btn", "_Skip_Duplicate_Chk", "Load_Number", "Export_Btn", "Fill_Msg_Btn", "Update_Sel_Msgs_Btn",
+              "Sent_Item_Btn", "View_Templates_Btn", "View_ExclusionWizrd_Btn", "_Exclusion_Chk",
+              "_Delayed_Delivry_Chk"})
             Press_In_Window(button);
         Press_In_Window("_numberEdit");
         QTest::keyClick(m_delegate->windowHandle(), Qt::Key_4);

@@ -177,7 +177,7 @@ TEST_F(Bad_Device, A_Port_Without_Permission_Does_Not_Open_Until_It_Is_Given)
         });
         {
             const Rights_Of_Nobody rights;
-            Click("_sent_btn");
+            Press_Send();
             EXPECT_TRUE(Serve_Until([] { return sms_thread_var == 0 && Workers_Running() == 0; }));
         }
         EXPECT_EQ(box, Box::Does_Not_Open);

@@ -192,7 +192,7 @@ TEST_F(Vanishing, With_The_Box_Still_Open_The_Job_Ends_As_Ever)
         phone->Hang_Up();
         box.accept();
     });
-    Click("_sent_btn");
+    Press_Send();
     EXPECT_TRUE(Serve_Until([] { return sms_thread_var == 0 && Workers_Running() == 0; }));
     Expect_That_All_Is_Quiet();
     EXPECT_EQ(Inbox(), Everything({}));
