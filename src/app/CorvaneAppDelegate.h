@@ -135,6 +135,7 @@ private:
     void Take_Imported_Lines(const QStringList& lines, int percent);
     void Leave_Import_Unread();
     void Finish_Import();
+    void End_Import();
     void Tell_And_Focus(const QString& text, Field field);
 
     std::unique_ptr<Ui::CorvaneAppDelegate> m_ui;

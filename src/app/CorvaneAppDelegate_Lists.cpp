@@ -4,6 +4,7 @@
 #include "app/Load_Num_Info.h"
 #include "app/Number_Acceptance.h"
 #include "app/Number_Import.h"
+#include "app/basics/Log_Line.h"
 #include "app/basics/String_Helpers.h"
 #include "app/shared/File_Panels.h"
 #include "app/shared/Line_Edit_Limit.h"
@@ -15,11 +16,13 @@
 #include "exclusion/Exclusion_Files.h"
 #include "platform/Interface_Thread.h"
 #include "platform/Row_Table_Model.h"
+#include "platform/Waiting.h"
 #include "sending/Composer.h"
 #include "stores/Open_Export_Log.h"
 #include "stores/Store_Globals.h"
 #include "ui_CorvaneAppDelegate.h"
 
+#include <exception>
 #include <utility>
 
 // The recipient list and the number rules: what fills the list, changes it, and takes it in and out of the program.
@@ -296,8 +299,8 @@ void CorvaneAppDelegate::Load_Number()
     m_ui->_numberEdit->clear();
     if (nsListDataObject.Count() > 0) {
         const int answer = Load_Num_Info(this).exec();
-        if (answer != Load_Num_Info::Remove_Numbers && answer != Load_Num_Info::Keep_Numbers)
-            return;
+        if (Program_Is_Exiting() || (answer != Load_Num_Info::Remove_Numbers && answer != Load_Num_Info::Keep_Numbers))
+            return; // leaving ends the dialog as well
         if (answer == Load_Num_Info::Remove_Numbers)
             Remove_All_Recipients();
     }
@@ -312,6 +315,14 @@ void CorvaneAppDelegate::Load_NUM_Thread(const QString& path)
     m_ui->_sent_btn->setEnabled(false);
     Show_Create_Modeless();
     m_import->Load_NUM_Thread(path);
+}
+
+// What broke off an import is in the log; the recipients that had come by then stay.
+void CorvaneAppDelegate::End_Import()
+{
+    Hide_Destroy_Modeless();
+    Redisplay_Recipients();
+    m_ui->_sent_btn->setEnabled(true);
 }
 
 void CorvaneAppDelegate::Take_Imported_Lines(const QStringList& lines, int percent)
@@ -343,7 +354,7 @@ void CorvaneAppDelegate::Finish_Import()
     Redisplay_Recipients();
     if (nsListDataObject.Count() == 0 || nsListDataObject.Count() == prev_list_item)
         Show_MessageBox(Text_Nothing_Imported);
-    m_ui->_sent_btn->setEnabled(true);
+    End_Import();
 }
 
 void CorvaneAppDelegate::Export_Btn()
@@ -358,7 +369,12 @@ void CorvaneAppDelegate::Export_Btn()
     Show_Create_Modeless();
     Export_File_Path = With_Extension(*path, QStringLiteral("txt"));
     bool is_written = false;
-    Run_On_Worker([&, list = nsListDataObject] { is_written = Write_Contact_List(Export_File_Path, list); });
+    try {
+        Run_On_Worker(
+            [&, path = Export_File_Path, list = nsListDataObject] { is_written = Write_Contact_List(path, list); });
+    } catch (const std::exception& failure) {
+        Show_NSLog_Message(QString::fromLocal8Bit(failure.what()));
+    }
     Hide_Destroy_Modeless();
     if (!is_written) {
         Show_MessageBox(Text_File_Error);

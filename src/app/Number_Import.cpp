@@ -36,14 +36,21 @@ Number_Import::Number_Import(Target target) : m_target(std::move(target)) {}
 
 void Number_Import::Load_NUM_Thread(const QString& path)
 {
-    Start_Worker("import", [this, path] {
-        try {
-            Load_Num_Func(path);
-        } catch (const std::exception& failure) {
-            Show_NSLog_Message(QStringLiteral("The import ended early: ") + QString::fromLocal8Bit(failure.what()));
-            Run_On_Interface_Thread(m_target.finish);
-        }
-    });
+    const auto break_off = [this](const std::exception& failure) {
+        Show_NSLog_Message(QStringLiteral("The import ended early: ") + QString::fromLocal8Bit(failure.what()));
+        Run_On_Interface_Thread(m_target.break_off);
+    };
+    try {
+        Start_Worker("import", [this, path, break_off] {
+            try {
+                Load_Num_Func(path);
+            } catch (const std::exception& failure) {
+                break_off(failure);
+            }
+        });
+    } catch (const std::exception& failure) {
+        break_off(failure);
+    }
 }
 
 void Number_Import::Load_Num_Func(const QString& path) const

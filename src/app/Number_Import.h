@@ -17,6 +17,8 @@ public:
         std::function<void()> leave_unread;
         /// All lines were taken in.
         std::function<void()> finish;
+        /// The import ended early, by an exception that is in the log; what was taken in stays.
+        std::function<void()> break_off;
     };
 
     explicit Number_Import(Target target);

@@ -10,6 +10,8 @@
 #include "dialogs/List_Change.h"
 #include "ui_Update_Num_SMS.h"
 
+#include <QSignalBlocker>
+
 namespace {
 
 constexpr char Not_A_Number[] = "Please enter a valid phone number.";
@@ -40,7 +42,10 @@ int Update_Num_SMS::Open_Dialog(Main_Window& window, int row)
 {
     m_window = &window;
     const Recipient recipient = window.Recipients().At(row);
-    m_ui->m_num_str->setText(recipient.Number);
+    {
+        const QSignalBlocker muted(*m_ui->m_num_str); // a number that stands there is not cut, only a typed one
+        m_ui->m_num_str->setText(recipient.Number);
+    }
     m_ui->m_s_str->setText(recipient.Number);
     m_ui->m_s_indx_str->setText(QString::number(row));
     m_message->Show(recipient.Message, window);

@@ -43,7 +43,10 @@ QStringList Names_In(const QString& path)
 bool Rewrite(const QString& path, const QByteArray& bytes)
 {
     const File_Lock lock(path);
-    return Can_Be_Written(path) && Replace_File(path, bytes);
+    if (!Can_Be_Written(path))
+        return false;
+    const auto until_now = Read_File(path);
+    return (!until_now || Keep_What_Is_No_Utf8(path, *until_now)) && Replace_File(path, bytes);
 }
 
 QByteArray Lines_Of(const QStringList& entries)

@@ -2,6 +2,7 @@
 
 #include "app/basics/String_Helpers.h"
 #include "app/shared/Number_Rules.h"
+#include "platform/Text_Files.h"
 
 #include <QHash>
 #include <QSet>
@@ -24,7 +25,7 @@ bool Is_Left_Out(QChar character)
 
 QString Exclusion_Rules::List_Name(const QString& typed)
 {
-    return QString::fromUtf8(Trim_Str(typed).toUtf8());
+    return Decode_Utf8(Trim_Str(typed).toUtf8()).value_or(QString()); // as the files are decoded
 }
 
 Exclusion_Rules::Name_Verdict Exclusion_Rules::Judge_List_Name(const QString& name, const QStringList& existing_names)

@@ -103,7 +103,7 @@ void Exclusion_Wizard::Connect_Controls()
     Connect_First_Screen();
     Connect_Other_Screens();
     for (QLineEdit* field : {m_ui->m_ex_list_name_edit, m_ui->m_loadnum_edit})
-        connect(field, &QLineEdit::textChanged, this, &Exclusion_Wizard::controlTextDidChange);
+        connect(field, &QLineEdit::textChanged, this, [this, field] { controlTextDidChange(*field); });
     connect(m_ui->m_loadnum_edit, &QLineEdit::returnPressed, this, &Exclusion_Wizard::Add_Number_Btn);
     connect(m_ui->m_loadfile_edit, &QLineEdit::returnPressed, this, &Exclusion_Wizard::Load_File_Btn);
 }
@@ -274,10 +274,9 @@ void Exclusion_Wizard::doubleClickInTable(QTableView& table)
         OnGetSelected();
 }
 
-void Exclusion_Wizard::controlTextDidChange()
+void Exclusion_Wizard::controlTextDidChange(QLineEdit& field)
 {
-    Cut_Line(*m_ui->m_loadnum_edit, Number_Rules::Longest_Number);
-    Cut_Line(*m_ui->m_ex_list_name_edit, Exclusion_Rules::Longest_Name);
+    Cut_Line(field, &field == m_ui->m_loadnum_edit ? Number_Rules::Longest_Number : Exclusion_Rules::Longest_Name);
 }
 
 // ------------------------------------------------------------------------------------------------------ small services

@@ -14,6 +14,7 @@
 class Exclusion_Wizard;
 class Input_Hold;
 class PleaseWait_Modeless;
+class QLineEdit;
 class QTableView;
 class Row_Table_Model;
 class Update_Ex_Num;
@@ -94,7 +95,8 @@ public:
     void Fill_Ex_List_Thread();
 
     void doubleClickInTable(QTableView& table);
-    void controlTextDidChange();
+    /// The number or the name was typed in: cuts that field, and no other.
+    void controlTextDidChange(QLineEdit& field);
 
     void Show_Create_Modeless();
     void Hide_Destroy_Modeless();

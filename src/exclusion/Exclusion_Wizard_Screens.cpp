@@ -6,7 +6,7 @@
 #include "exclusion/Exclusion_Texts.h"
 #include "ui_Exclusion_Wizard.h"
 
-#include <QFileInfo>
+#include <QSignalBlocker>
 
 // The screens of the wizard and the way from one to the other.
 
@@ -131,7 +131,11 @@ void Exclusion_Wizard::Begin_Editing_Selected(QTableView& table, const QStringLi
         }
     }
     Take_Numbers({});
-    m_ui->m_ex_list_name_edit->setText(name);
+    {
+        // Only what is typed is cut: a list that came by its name in another way is this one, not one like it.
+        const QSignalBlocker muted(*m_ui->m_ex_list_name_edit);
+        m_ui->m_ex_list_name_edit->setText(name);
+    }
     Show_Hide_First_Screen(true);
     Show_Info(Exclusion_Texts::message_info1);
     Show_Hide_Add_Screen_1(false);

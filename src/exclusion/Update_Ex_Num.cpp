@@ -8,6 +8,8 @@
 #include "exclusion/Exclusion_Texts.h"
 #include "ui_Update_Ex_Num.h"
 
+#include <QSignalBlocker>
+
 Update_Ex_Num::Update_Ex_Num(Edited_Numbers& numbers, QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::Update_Ex_Num>()), m_numbers(numbers)
 {
@@ -24,7 +26,10 @@ Update_Ex_Num::~Update_Ex_Num() = default;
 
 int Update_Ex_Num::Edit(const QString& number, int row)
 {
-    m_ui->m_ex_num_str->setText(number);
+    {
+        const QSignalBlocker muted(*m_ui->m_ex_num_str); // a number that stands there is not cut, only a typed one
+        m_ui->m_ex_num_str->setText(number);
+    }
     m_ui->m_s_number->setText(number);
     m_ui->m_ex_num_index->setText(QString::number(row));
     m_ui->m_ex_num_str->selectAll();

@@ -267,6 +267,16 @@ QString Replacement_Path(const QString& path)
     return path + QLatin1String(".new");
 }
 
+bool Keep_What_Is_No_Utf8(const QString& path, const QByteArray& bytes)
+{
+    return Decode_Utf8(bytes) || Replace_File(Kept_Path(path), bytes);
+}
+
+QString Kept_Path(const QString& path)
+{
+    return path + QStringLiteral(".unreadable");
+}
+
 bool Can_Be_Written(const QString& path)
 {
     const QByteArray name = Native_Name(path);

@@ -49,6 +49,13 @@ bool Replace_File(const QString& path, const QByteArray& bytes);
 /// Where a replacement is written before it takes the file's place. Does not end in the data files' extension.
 QString Replacement_Path(const QString& path);
 
+/// Keeps the bytes of a text file that are no UTF-8 beside it, at Kept_Path, before the file is replaced by what could
+/// be read of it, which is nothing. Returns false when they should be kept and can not be.
+bool Keep_What_Is_No_Utf8(const QString& path, const QByteArray& bytes);
+
+/// One plain name beside the file.
+QString Kept_Path(const QString& path);
+
 /// Whether the path could be opened for writing in place: it is missing and its folder takes new files, or it is a
 /// regular file that the user may write to. For what promises to report a file that can not be opened.
 bool Can_Be_Written(const QString& path);

@@ -95,10 +95,12 @@ void Send_Job::Reload_Exclusions()
 {
     if (!m_order.choices.exclusion)
         return;
-    Run_On_Interface_Thread([this] {
+    Exclusion_Set exclusions;
+    Run_On_Interface_Thread([&] {
         m_window.Fill_Exclusion_Num_List();
-        m_order.exclusions = m_window.Exclusions();
+        exclusions = m_window.Exclusions();
     });
+    std::swap(m_order.exclusions, exclusions); // the ones before, maybe a million, are let go on this thread
 }
 
 void Send_Job::Show_Progress()

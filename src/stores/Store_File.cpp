@@ -70,7 +70,7 @@ bool Store_File::Rewrite(const QByteArray& lines)
         const auto now = Read_File(m_path);
         if (!now)
             return false;
-        if (!Decode_Utf8(*now) && !Replace_File(Kept_Path(m_path), *now))
+        if (!Keep_What_Is_No_Utf8(m_path, *now))
             return false;
         Check_Path_And_Create_Files();
         added = What_Was_Added(m_loaded, *now);
@@ -92,9 +92,4 @@ bool Store_File::Clear()
 void Store_File::Forget()
 {
     m_loaded.clear();
-}
-
-QString Store_File::Kept_Path(const QString& path)
-{
-    return path + QStringLiteral(".unreadable");
 }

@@ -19,8 +19,8 @@ public:
     bool Append(const QByteArray& lines) const;
 
     /// Replaces what was loaded by these lines; what was added to the file since then stays, behind them. Bytes that
-    /// are no UTF-8 are kept beside the file first, see Kept_Path. A file that can not be read, kept or replaced stays
-    /// as it is, and the answer is false.
+    /// are no UTF-8 are kept beside the file first, see Keep_What_Is_No_Utf8. A file that can not be read, kept or
+    /// replaced stays as it is, and the answer is false.
     bool Rewrite(const QByteArray& lines);
 
     /// The same without any lines, but only when there is a file.
@@ -28,9 +28,6 @@ public:
 
     /// Lets go of what Load remembers. A rewrite without a load before it keeps everything there is.
     void Forget();
-
-    /// Where the bytes of a file that is no UTF-8 are kept: beside it, under one name.
-    static QString Kept_Path(const QString& path);
 
 private:
     QString m_path;

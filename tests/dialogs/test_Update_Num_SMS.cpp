@@ -111,6 +111,18 @@ TEST_F(Update_Num_SMS_Test, OK_Without_Changes_Keeps_A_Number_That_The_Rules_Wou
     EXPECT_TRUE(m_user.Was_Shown().isEmpty());
 }
 
+TEST_F(Update_Num_SMS_Test, A_Number_Longer_Than_Can_Be_Typed_Is_Shown_Whole_And_Kept_When_Unchanged)
+{
+    const QString long_number(25, u'7');
+    Add(long_number, "long");
+    Edit(3, [&](QWidget& dialog) {
+        EXPECT_EQ(In<QLineEdit>(dialog, "m_num_str").text(), long_number);
+        Type_Message(dialog, "new");
+        Click(dialog, "OKPressed");
+    });
+    EXPECT_EQ(List().last(), long_number + QStringLiteral(": new"));
+}
+
 TEST_F(Update_Num_SMS_Test, A_Number_Of_Blanks_Put_In_Directly_Is_Kept_When_Unchanged)
 {
     Add("  ", "blank");

@@ -2,6 +2,7 @@
 #include "app/shared/Globals.h"
 #include "exclusion/Exclusion_Files.h"
 #include "exclusion/Exclusion_Test.h"
+#include "platform/Text_Files.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -190,6 +191,22 @@ TEST_F(Exclusion_Files_Test, A_Missing_List_Is_Made_Empty_And_An_Existing_One_Is
     Exclusion_Files::Delete_List("a");
     EXPECT_EQ(Bytes_Of(Path_Of_List("a")), "(no file)");
     Exclusion_Files::Delete_List("a");
+}
+
+TEST_F(Exclusion_Files_Test, What_Can_Not_Be_Read_Is_Kept_Beside_The_File_Before_It_Is_Replaced)
+{
+    const QString list = *Exclusion_Files::List_Path("Staff");
+    for (const QString& path : {Exclusion_Index_Path, Applied_Exclusion_Path, list})
+        Write_Bytes(path, "Staff\n\xff\n");
+    EXPECT_EQ(Exclusion_Files::Read_Index(), QStringList());
+    EXPECT_TRUE(Exclusion_Files::Write_Index({"New"}));
+    EXPECT_TRUE(Exclusion_Files::Write_Applied({"New"}));
+    EXPECT_TRUE(Exclusion_Files::Write_List("Staff", Numbers_Of({"1"})));
+    EXPECT_EQ(Bytes_Of(Exclusion_Index_Path), "New\n");
+    for (const QString& path : {Exclusion_Index_Path, Applied_Exclusion_Path, list})
+        EXPECT_EQ(Bytes_Of(Kept_Path(path)), "Staff\n\xff\n");
+    EXPECT_TRUE(Exclusion_Files::Write_Index({"Other"})); // what can be read is not kept, and what was kept stays
+    EXPECT_EQ(Bytes_Of(Kept_Path(Exclusion_Index_Path)), "Staff\n\xff\n");
 }
 
 TEST_F(Exclusion_Files_Test, Two_Applied_Lists_That_Share_A_Number_Give_It_Twice)

@@ -54,6 +54,13 @@ TEST(Exclusion_Rules, Half_Of_A_Character_Is_Named_As_It_Comes_Back_From_Its_Fil
     EXPECT_EQ(Judged("a" + emoji.left(1), {half}), Name_Verdict::Exists);
 }
 
+TEST(Exclusion_Rules, A_Mark_At_The_Front_Of_A_Name_Is_Part_Of_It)
+{
+    const QString mark(QChar(QChar::ByteOrderMark));
+    EXPECT_EQ(List_Name(mark + "Staff"), mark + "Staff");
+    EXPECT_EQ(Judged(mark + "Staff", {"Staff"}), Name_Verdict::Accepted);
+}
+
 TEST(Exclusion_Rules, A_Typed_Number_Is_Normalised_And_Judged)
 {
     using Verdict = Judged_Number::Verdict;

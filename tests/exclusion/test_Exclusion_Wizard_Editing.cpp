@@ -27,6 +27,28 @@ TEST_F(Exclusion_Screens_Test, An_Edited_List_Shows_Its_Numbers_And_Is_Saved_By_
     EXPECT_EQ(m_main_window.m_exclusion_fills, 1);
 }
 
+TEST_F(Exclusion_Screens_Test, A_Name_That_Can_Not_Be_Typed_Is_Edited_In_Its_Own_File)
+{
+    const QString short_name(50, u'x');
+    for (const QString& name : {short_name + QStringLiteral(" and ten more"), QStringLiteral("two\vlines")}) {
+        SCOPED_TRACE(name.toStdString());
+        Write_Bytes(Exclusion_Index_Path, "");
+        Make_List(short_name, "1\n");
+        Make_List("two lines", "1\n");
+        Make_List(name, "5\n");
+        Run([&] {
+            Edit_List(2);
+            EXPECT_EQ(Label("m_st_curr_use_ex_list"), "Currently using exclusion list : " + name);
+            EXPECT_EQ(Rows_Of(Numbers()), QStringList("5"));
+            Add_Number("6");
+            Finish();
+        });
+        EXPECT_EQ(Bytes_Of(Path_Of_List(name)), "5\n6\n");
+        EXPECT_EQ(Bytes_Of(Path_Of_List(short_name)), "1\n");
+        EXPECT_EQ(Bytes_Of(Path_Of_List("two lines")), "1\n");
+    }
+}
+
 TEST_F(Exclusion_Screens_Test, Update_Of_Several_Lists_Is_Refused)
 {
     Make_List("Admin", "");

@@ -74,6 +74,18 @@ TEST_F(Update_Ex_Num_Test, The_Very_Same_Text_Ends_With_One_And_Changes_Nothing)
     EXPECT_EQ(m_numbers.m_numbers.at(1), "456");
 }
 
+TEST_F(Update_Ex_Num_Test, A_Number_Longer_Than_Can_Be_Typed_Is_Shown_Whole_And_Kept_When_Unchanged)
+{
+    const QString long_number(25, u'7');
+    m_numbers.m_numbers.replace(1, long_number);
+    const int result = Edit([&] {
+        EXPECT_EQ(Field().text(), long_number);
+        Press_OK();
+    });
+    EXPECT_EQ(result, 1);
+    EXPECT_EQ(m_numbers.m_numbers.at(1), long_number);
+}
+
 TEST_F(Update_Ex_Num_Test, A_Refused_Number_Is_Told_About_And_The_Field_Focused)
 {
     const struct

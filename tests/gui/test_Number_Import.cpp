@@ -7,6 +7,7 @@
 #include <QFileDialog>
 #include <QProgressBar>
 #include <QTemporaryDir>
+#include <stdexcept>
 #include <sys/stat.h>
 
 using testing::ElementsAre;
@@ -356,4 +357,51 @@ TEST_F(Import, Leaving_In_The_Middle_Ends_It)
     ASSERT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
     Forget_Program_Exit();
     EXPECT_LT(m_delegate->Recipients().Count(), 300'000);
+}
+
+// ---- The reading alone
+
+TEST(Number_Import_Test, An_Exception_Breaks_It_Off_Quietly_With_What_Came_Before)
+{
+    QTemporaryDir folder;
+    QFile file(folder.filePath("numbers.txt"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    for (int line = 0; line < 2500; ++line)
+        file.write(QByteArray::number(line) + '\n');
+    file.close();
+    QStringList events;
+    Number_Import import({[&](const QStringList& lines, int) {
+                              events.append(QString::number(lines.size()));
+                              if (events.size() == 2)
+                                  throw std::runtime_error("out of memory");
+                          },
+                          [&] { events.append("unread"); }, [&] { events.append("finished"); },
+                          [&] { events.append("broken off"); }});
+    import.Load_NUM_Thread(file.fileName());
+    EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
+    EXPECT_EQ(events, (QStringList{"1000", "1000", "broken off"}));
+}
+
+TEST(Number_Import_Test, Hands_Over_Every_Line_With_How_Far_It_Has_Come)
+{
+    QTemporaryDir folder;
+    QFile file(folder.filePath("numbers.txt"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    for (int line = 0; line < 2500; ++line)
+        file.write(QByteArray::number(10000 + line) + '\n');
+    file.close();
+    QStringList all;
+    QList<int> percents;
+    bool is_finished = false;
+    Number_Import import({[&](const QStringList& lines, int percent) {
+                              all += lines;
+                              percents.append(percent);
+                          },
+                          [] { FAIL(); }, [&] { is_finished = true; }, [] { FAIL(); }});
+    import.Load_NUM_Thread(file.fileName());
+    EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
+    EXPECT_TRUE(is_finished);
+    ASSERT_EQ(all.size(), 2501); // the piece behind the last line end is empty
+    EXPECT_EQ(all.at(2499), QStringLiteral("12499"));
+    EXPECT_EQ(percents, (QList<int>{39, 79, 100}));
 }

@@ -10,6 +10,7 @@
 #include <QTest>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <stdexcept>
 
 namespace {
 
@@ -186,6 +187,24 @@ TEST_F(Send_Checks_Test, An_Order_Holds_The_List_As_It_Is_When_The_Offer_Is_Decl
     const auto order = Take_Send_Order(m_window);
     ASSERT_TRUE(order);
     EXPECT_EQ(order->recipients.At(0).Message, QStringLiteral("Hello"));
+}
+
+TEST_F(Send_Checks_Test, An_Offer_That_Can_Not_Be_Made_Does_Not_Hold_The_Job_Up)
+{
+    class Window_Without_A_Place : public Window_For_Tests
+    {
+    public:
+        QWidget* Window() override { throw std::runtime_error("there is no place for a dialog"); }
+    };
+    Window_Without_A_Place window;
+    window.m_recipients = m_window.m_recipients;
+    window.m_choices = m_window.m_choices;
+    window.m_choices.composer_text = QStringLiteral("changed");
+    const auto order = Take_Send_Order(window);
+    ASSERT_TRUE(order);
+    EXPECT_EQ(order->recipients.At(0).Message, QStringLiteral("Hello"));
+    EXPECT_EQ(window.m_previous_message, QStringLiteral("changed"));
+    EXPECT_THAT(m_user.Was_Shown(), IsEmpty());
 }
 
 TEST_F(Send_Checks_Test, One_Message_In_The_List_Or_The_Composer_Is_Enough)

@@ -91,7 +91,7 @@ TEST_F(Sent_Items_Test, An_Empty_Missing_Or_Undecodable_File_Is_An_Empty_Table_W
     Put(Sent_Item_Path, "\a1\vm\ad\v\n\xff");
     Visit_Sent_Items(expect_empty);
     EXPECT_EQ(Stored(), QByteArray());
-    EXPECT_EQ(Bytes_Of(Store_File::Kept_Path(Sent_Item_Path)), QByteArray("\a1\vm\ad\v\n\xff"));
+    EXPECT_EQ(Bytes_Of(Kept_Path(Sent_Item_Path)), QByteArray("\a1\vm\ad\v\n\xff"));
     EXPECT_TRUE(m_user.Was_Shown().isEmpty());
 }
 

@@ -130,10 +130,10 @@ TEST_F(Store_File_Test, A_File_That_Is_No_Utf_8_Shows_Empty_And_Is_Kept_Beside_B
     EXPECT_EQ(Stored(), bytes);
     EXPECT_TRUE(m_file.Rewrite(""));
     EXPECT_EQ(Stored(), QByteArray());
-    EXPECT_EQ(Bytes_Of(Store_File::Kept_Path(Sent_Item_Path)), bytes);
-    EXPECT_FALSE(Store_File::Kept_Path(Sent_Item_Path).endsWith(QStringLiteral(".ZOVA")));
+    EXPECT_EQ(Bytes_Of(Kept_Path(Sent_Item_Path)), bytes);
+    EXPECT_FALSE(Kept_Path(Sent_Item_Path).endsWith(QStringLiteral(".ZOVA")));
     EXPECT_TRUE(m_file.Rewrite("two\n")) << "what is kept stays, once the file can be read again";
-    EXPECT_EQ(Bytes_Of(Store_File::Kept_Path(Sent_Item_Path)), bytes);
+    EXPECT_EQ(Bytes_Of(Kept_Path(Sent_Item_Path)), bytes);
 }
 
 TEST_F(Store_File_Test, What_Is_Appended_To_A_File_That_Is_No_Utf_8_Stays_When_It_Is_Rewritten)
@@ -152,14 +152,14 @@ TEST_F(Store_File_Test, A_File_That_Became_Unreadable_Since_The_Load_Is_Kept_Bes
     Put(Sent_Item_Path, "one\n\xff\n");
     EXPECT_TRUE(m_file.Rewrite("one\n"));
     EXPECT_EQ(Stored(), QByteArray("one\n"));
-    EXPECT_EQ(Bytes_Of(Store_File::Kept_Path(Sent_Item_Path)), QByteArray("one\n\xff\n"));
+    EXPECT_EQ(Bytes_Of(Kept_Path(Sent_Item_Path)), QByteArray("one\n\xff\n"));
 }
 
 TEST_F(Store_File_Test, Bytes_That_Can_Not_Be_Kept_Are_Not_Rewritten)
 {
     Put(Sent_Item_Path, "\xff\n");
     m_file.Load();
-    ASSERT_TRUE(QDir().mkpath(Store_File::Kept_Path(Sent_Item_Path) + QStringLiteral("/in the way")));
+    ASSERT_TRUE(QDir().mkpath(Kept_Path(Sent_Item_Path) + QStringLiteral("/in the way")));
     EXPECT_FALSE(m_file.Rewrite("one\n"));
     EXPECT_EQ(Stored(), QByteArray("\xff\n"));
 }

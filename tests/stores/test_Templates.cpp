@@ -1,3 +1,4 @@
+#include "platform/Text_Files.h"
 #include "stores/Templates.h"
 
 #include "app/shared/List_Tables.h"
@@ -93,7 +94,7 @@ TEST_F(Templates_Test, An_Undecodable_File_Shows_Empty_And_Its_Bytes_Are_Kept_Be
     Put(Templates_Path, "a\n\xfe\n");
     Visit_Templates([this] { EXPECT_EQ(Count_Label(), QStringLiteral("Total Items : 0")); });
     EXPECT_EQ(Stored(), QByteArray());
-    EXPECT_EQ(Bytes_Of(Store_File::Kept_Path(Templates_Path)), QByteArray("a\n\xfe\n"));
+    EXPECT_EQ(Bytes_Of(Kept_Path(Templates_Path)), QByteArray("a\n\xfe\n"));
 }
 
 TEST_F(Templates_Test, With_No_Templates_Each_Button_Has_Its_Own_Words)
