@@ -2,27 +2,45 @@
 
 #include "platform/Interface_Thread.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QScreen>
 #include <QTableView>
-#include <QTest>
 #include <chrono>
 #include <thread>
+
+// What the visitor waits for and sees; what it does with its hands is in Visitor_Hands.cpp.
 
 namespace {
 
 constexpr auto Look_Again_After = std::chrono::milliseconds(10);
 constexpr int Most_Looks = 1000;
+constexpr int Smallest_File = 0; // how hard the picture is packed: as far as it goes
 
-QWidget* Box_On_Top()
+// Whether keys and clicks reach a window: neither a dialog stands over it, nor does the program hold them back.
+bool Takes_Input(QWidget& window)
 {
-    return qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    class Probe : public QWidget
+    {
+    public:
+        using QWidget::QWidget;
+        bool m_is_reached = false;
+
+    protected:
+        void keyReleaseEvent(QKeyEvent*) override { m_is_reached = true; }
+    };
+    const QWidget* modal = QApplication::activeModalWidget();
+    if (modal && modal != &window)
+        return false;
+    Probe probe(&window);
+    QKeyEvent key(QEvent::KeyRelease, Qt::Key_unknown, {});
+    QCoreApplication::sendEvent(&probe, &key);
+    return probe.m_is_reached;
 }
 
 } // namespace
@@ -54,49 +72,20 @@ void Visitor::Await_Gone(const QString& window)
     Await_Until(window + QStringLiteral(" to go"), [&] { return Find_Window(window) == nullptr; });
 }
 
-void Visitor::Click(const QString& window, const QString& control)
+void Visitor::Await_Text(const QString& window, const QString& control, const QString& beginning)
+{
+    Await(window);
+    Await_Until(control + QStringLiteral(" to show ") + beginning,
+                [&] { return Text_Of(window, control).startsWith(beginning); });
+}
+
+void Visitor::Await_Input(const QString& window, const QString& control)
 {
     Await_Until(control + QStringLiteral(" in ") + window, [&] {
-        return Find_Window(window) && Control(window, control).isVisible() && Control(window, control).isEnabled();
+        auto* found = Find_Window(window);
+        return found && Control(window, control).isVisible() && Control(window, control).isEnabled() &&
+               Takes_Input(*found);
     });
-    // Left for the interface thread, not waited for: a click that opens a dialog returns only when the dialog has
-    // closed.
-    Post_To_Interface_Thread(qApp, [=] {
-        auto& widget = Control(window, control);
-        QTest::mouseClick(&widget, Qt::LeftButton, {}, QPoint(12, widget.height() / 2));
-    });
-}
-
-void Visitor::Click_Row_With(const QString& window, const QString& table, const QString& text)
-{
-    const auto find = [=] {
-        const auto* rows = Table(window, table).model();
-        return rows->match(rows->index(0, 1), Qt::DisplayRole, text, 1, Qt::MatchExactly);
-    };
-    Await_Until(text + QStringLiteral(" in ") + table, [&] { return !find().isEmpty(); });
-    Post_To_Interface_Thread(qApp, [=] {
-        auto& view = Table(window, table);
-        QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.visualRect(find().constFirst()).center());
-    });
-}
-
-void Visitor::Type(const QString& window, const QString& control, const QString& text)
-{
-    Click(window, control);
-    Post_To_Interface_Thread(qApp, [=] { QTest::keyClicks(&Control(window, control), text); });
-}
-
-void Visitor::Press_In_Box(const QString& button)
-{
-    Await_Until(QStringLiteral("a box with ") + button, [] { return Box_On_Top() != nullptr; });
-    Post_To_Interface_Thread(qApp, [=] {
-        const auto buttons = Box_On_Top()->findChildren<QAbstractButton*>();
-        for (auto* candidate : buttons) {
-            if (candidate->text().remove(u'&') == button)
-                QTest::mouseClick(candidate, Qt::LeftButton);
-        }
-    });
-    Await_Until(QStringLiteral("the box to close"), [] { return Box_On_Top() == nullptr; });
 }
 
 QString Visitor::Text_Of(const QString& window, const QString& control)
@@ -118,7 +107,7 @@ QString Visitor::Text_Of_Box()
 {
     QString text;
     Await_Until(QStringLiteral("a message box"), [&] {
-        auto* box = qobject_cast<QMessageBox*>(Box_On_Top());
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         text = box ? box->text() : QString();
         return box != nullptr;
     });
@@ -171,7 +160,7 @@ QTableView& Visitor::Table(const QString& window, const QString& name)
 void Visitor::Save(const QPixmap& picture, const QString& name)
 {
     const QString path = m_folder + u'/' + name + QStringLiteral(".png");
-    if (!picture.save(path))
+    if (!picture.toImage().convertToFormat(QImage::Format_RGB888).save(path, "PNG", Smallest_File))
         throw Tour_Failed(QStringLiteral("could not write ") + path);
     printf("picture  %s\n", qPrintable(path));
     fflush(stdout);

@@ -19,13 +19,28 @@ public:
     void Await(const QString& window);
     void Await_Gone(const QString& window);
     void Await_Until(const QString& what, const std::function<bool()>& is_so);
+    /// Waits until a label or field begins with the text.
+    void Await_Text(const QString& window, const QString& control, const QString& beginning);
 
     void Click(const QString& window, const QString& control);
-    /// Clicks the row that has the text in its second column.
-    void Click_Row_With(const QString& window, const QString& table, const QString& text);
+    /// Clicks the row that has the text in one of its columns; with Add_To_Selection, as with Ctrl held down.
+    enum class Row_Click
+    {
+        Select,
+        Add_To_Selection,
+        Open ///< twice
+    };
+    void Click_Row_With(const QString& window, const QString& table, const QString& text,
+                        Row_Click click = Row_Click::Select);
+    /// Types at the end of what a field holds.
     void Type(const QString& window, const QString& control, const QString& text);
-    /// Presses a button of the message box on top.
-    void Press_In_Box(const QString& button);
+    /// Types in place of what a field or an editable box holds.
+    void Retype(const QString& window, const QString& control, const QString& text);
+    void Press_Return(const QString& window, const QString& control);
+    /// Presses a button of the message box on top, which must show this text.
+    void Press_In_Box(const QString& button, const QString& expected_text);
+    /// Types a file's name into the file panel, takes the panel's picture, and accepts.
+    void Choose_File(const QString& name, const QString& picture);
 
     QString Text_Of(const QString& window, const QString& control);
     QString Text_Of_Box();
@@ -39,6 +54,7 @@ private:
     static QWidget* Find_Window(const QString& name);
     static QWidget& Control(const QString& window, const QString& name);
     static QTableView& Table(const QString& window, const QString& name);
+    void Await_Input(const QString& window, const QString& control);
     void Save(const QPixmap& picture, const QString& name);
 
     QString m_folder;

@@ -2,6 +2,8 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHeaderView>
+#include <QTreeView>
 
 namespace {
 
@@ -10,7 +12,15 @@ namespace {
 class File_Panel : public QFileDialog
 {
 public:
-    explicit File_Panel(QWidget* over) : QFileDialog(over) { setOption(QFileDialog::DontUseNativeDialog); }
+    explicit File_Panel(QWidget* over) : QFileDialog(over)
+    {
+        setOption(QFileDialog::DontUseNativeDialog);
+        resize(sizeHint().expandedTo(QSize(800, 520)));
+        if (auto* files = findChild<QTreeView*>(QStringLiteral("treeView"))) { // names and dates in full
+            files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+            files->header()->setResizeContentsPrecision(0); // of what is in sight: a folder may be large
+        }
+    }
 
     std::optional<QString> Ask()
     {

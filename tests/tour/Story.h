@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QDate>
+#include <QString>
+#include <QStringList>
+#include <vector>
+
+// Who is written to in the tour and what, and what must come of it: the choir's secretary of every picture. Everything
+// that is expected is written down here a second time, octet by octet, and not asked of the program.
+namespace Story {
+
+struct Message
+{
+    QString number;
+    QString text;
+
+    bool operator==(const Message&) const = default;
+};
+
+/// The files that the secretary has at hand: the members and those who moved away.
+inline const QString Members_File = QStringLiteral("members.txt");
+inline const QString Moved_Away_File = QStringLiteral("moved-away.txt");
+void Write_Files(const QString& folder);
+
+inline const QString Rehearsal =
+    QStringLiteral("Choir practice moves to Thursday at 7 pm, same room. Please bring the blue folder!");
+inline const QString Thanks =
+    QStringLiteral("Thank you for singing with us! The next rehearsal is on Monday at the usual time.");
+inline const QString About_The_Concert =
+    QStringLiteral(" The concert is on Saturday the 12th: doors open at 6, we sing at 7:30, and there "
+                   "is soup afterwards for everyone who helps with the chairs.");
+inline const QString To_The_Soloists =
+    QStringLiteral("You sing a solo on Saturday.\nPlease come half an hour early to try the microphone.");
+inline const QString Not_To_Be_Sent = QStringLiteral("Notes for next week: new scores, chairs, key of the hall.");
+
+/// Numbers as they stand in the list.
+inline const QString First_Member = QStringLiteral("00447700900123");
+inline const QString Moved_Member = QStringLiteral("07700900222");
+inline const QString Concert_Helper = QStringLiteral("07700900789");
+inline const QStringList Soloists = {QStringLiteral("07700900654"), QStringLiteral("07700900987")};
+
+inline const QString Moved_Away = QStringLiteral("Moved away");
+inline const QString Committee = QStringLiteral("Committee");
+
+/// What the phone must have received at the end, in its order.
+std::vector<Message> Messages();
+
+/// What the files must hold, octet by octet; date is the day of the send job.
+QByteArray Contacts_Export();
+QByteArray Sent_Items(const QDate& date);
+QByteArray Sent_Items_Page(const QDate& date);
+QByteArray Templates();
+QByteArray Templates_Export();
+QByteArray Exclusion_Index();
+QByteArray Applied_Exclusions();
+QByteArray Numbers_Of_Moved_Away();
+
+} // namespace Story
