@@ -27,9 +27,8 @@ constexpr char None_Blank[] = "There is no blank message in the phone numbers-me
 
 bool Has_Blank_Message(const Main_Window& window)
 {
-    const Recipient_List recipients = window.Recipients();
     bool has_blank = false;
-    Run_On_Worker([&] { has_blank = Fill_Rules::Has_Blank_Message(recipients); });
+    Run_On_Worker([&, recipients = window.Recipients()] { has_blank = Fill_Rules::Has_Blank_Message(recipients); });
     return has_blank;
 }
 
