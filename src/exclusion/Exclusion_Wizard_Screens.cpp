@@ -121,7 +121,7 @@ void Exclusion_Wizard::Begin_Editing_Selected(QTableView& table, const QStringLi
         Tell_And_Focus(Exclusion_Texts::Select_Only_One, table);
         return;
     }
-    const QString& name = names.at(rows.front());
+    const QString name = names.value(rows.front());
     if (&table == m_ui->m_exclusion_list) {
         bool is_there = false;
         Work_On_Worker([&] { is_there = Exclusion_Files::Create_List_If_Missing(name); });
