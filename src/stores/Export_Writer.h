@@ -4,7 +4,7 @@
 #include <QString>
 #include <functional>
 
-// Writes an export: the pieces of a file, each with a byte-order mark of its own.
+// Writes an export, whatever its pieces are: the stores' have a byte-order mark each, those of a contact list none.
 
 /// What an export consists of: its header, then how many pieces and what each of them is.
 struct Export_Content
@@ -15,5 +15,6 @@ struct Export_Content
 };
 
 /// Writes an export straight into its file. What stands at the path is deleted first, if it can be; a file that could
-/// be written only in part stays as it is. Returns whether all of it is written. For a worker.
+/// be written only in part stays as it is. Never writes through a link into a store. Returns whether all of it is
+/// written. For a worker.
 bool Write_Export(const QString& path, const Export_Content& content);

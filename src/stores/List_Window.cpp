@@ -1,5 +1,6 @@
 #include "stores/List_Window.h"
 
+#include "app/basics/Log_Line.h"
 #include "app/shared/File_Panels.h"
 #include "app/shared/Globals.h"
 #include "app/shared/List_Tables.h"
@@ -16,6 +17,7 @@
 #include "stores/Store_Globals.h"
 
 #include <QItemSelectionModel>
+#include <QLabel>
 #include <QScopedValueRollback>
 #include <QTableView>
 #include <algorithm>
@@ -27,6 +29,19 @@ constexpr char Clear_All_Question[] = "\nThis option will clear the entire list 
 constexpr char File_Error[] = "Error in file accessing.";
 
 constexpr double Wait_Before_Opening_Seconds = 1.0;
+
+// Does a step and returns whether it came to its end. One that fails, for want of memory above all, must not take the
+// window with it: nothing may be thrown out of what a button does.
+bool Succeeds(const std::function<void()>& step)
+{
+    try {
+        step();
+        return true;
+    } catch (const std::exception& failure) {
+        Show_NSLog_Message(QString::fromLocal8Bit(failure.what()));
+        return false;
+    }
+}
 
 } // namespace
 
@@ -51,9 +66,10 @@ List_Window::List_Window(QWidget* parent, const Texts& texts)
 
 List_Window::~List_Window() = default;
 
-void List_Window::Set_Up_List(QTableView& table, std::unique_ptr<Row_Table_Model> rows)
+void List_Window::Set_Up_List(QTableView& table, std::unique_ptr<Row_Table_Model> rows, QLabel& count)
 {
     m_table = &table;
+    m_count = &count;
     m_rows = std::move(rows);
     Prepare_List_Table(table, *m_rows);
 }
@@ -113,6 +129,10 @@ void List_Window::Load_Thread()
 void List_Window::End_Load()
 {
     m_is_loading = false;
+    if (!m_is_whole) { // half a list would pass for the whole
+        Begin_Anew();
+        Update_Count();
+    }
     Hide_Destroy_Modeless();
     m_input_hold.reset();
     if (m_is_left)
@@ -125,10 +145,25 @@ void List_Window::Await_Load()
         Run_On_Worker([is_running = m_is_load_running] { is_running->wait(true); });
 }
 
+void List_Window::Begin_Anew()
+{
+    Prev_Index = No_Index;
+    Remove_All_Rows();
+    ListreloadData();
+    List_Became_Empty();
+}
+
 void List_Window::ListreloadData()
 {
     Rows().Reload();
     Table().viewport()->update();
+}
+
+void List_Window::Update_Count()
+{
+    m_count->setText(QStringLiteral("Total Items : ") + QString::number(Count()));
+    if (Count() == Early_Reload_Count)
+        ListreloadData();
 }
 
 // ------------------------------------------------------------------------------------------------ the buttons
@@ -145,7 +180,8 @@ void List_Window::Clear_Sel_Btn()
         return;
     }
     const Sheet sheet(*this);
-    Remove_Rows(selected);
+    if (!Succeeds([&] { Remove_Rows(selected); }))
+        return;
     Reload_And_Select_First(Table(), Rows());
     Update_Count();
     if (Count() == 0)
@@ -161,7 +197,7 @@ void List_Window::Clear_All_Btn()
     if (!Show_YES_NO_MessageBox(QLatin1String(Clear_All_Question)))
         return;
     const Sheet sheet(*this);
-    Run_On_Worker([this] { Clear_File(); }, User_Input::Served);
+    Succeeds([this] { Run_On_Worker([this] { Clear_File(); }, User_Input::Served); });
     Remove_All_Rows();
     ListreloadData();
     Update_Count();
@@ -245,7 +281,8 @@ int List_Window::First_Selected_Row() const
 void List_Window::Work_Under_Sheet(const std::function<void()>& work)
 {
     const Sheet sheet(*this);
-    Run_On_Worker(work, User_Input::Served); // the sheet is what keeps input away from the window
+    // The sheet is what keeps input away from the window.
+    Succeeds([&] { Run_On_Worker(work, User_Input::Served); });
 }
 
 void List_Window::Show_Create_Modeless()

@@ -10,6 +10,7 @@
 
 class Input_Hold;
 class PleaseWait_Modeless;
+class QLabel;
 class QTableView;
 class Row_Table_Model;
 
@@ -56,7 +57,7 @@ protected:
     List_Window(QWidget* parent, const Texts& texts);
 
     /// Called by the window once its controls are made.
-    void Set_Up_List(QTableView& table, std::unique_ptr<Row_Table_Model> rows);
+    void Set_Up_List(QTableView& table, std::unique_ptr<Row_Table_Model> rows, QLabel& count);
 
     /// Starts the load, waits 1.0 second and runs the window modally over the main window. Returns the code that it
     /// ended with; no worker of it runs then.
@@ -68,12 +69,17 @@ protected:
     Row_Table_Model& Rows() const { return *m_rows; }
     const Texts& Said() const { return m_texts; }
 
+    /// Shows how many rows the list has. At exactly ten it reloads the table as well.
+    void Update_Count();
+    /// Empties the list and what is shown of it, as before a load.
+    void Begin_Anew();
+
     /// Tells the text and puts the focus back on the table.
     void Tell(const char* text);
     /// The first selected row, or -1.
     int First_Selected_Row() const;
 
-    /// Does blocking work on a worker, under the please-wait sheet.
+    /// Does blocking work on a worker, under the please-wait sheet. What the work throws is logged and goes no further.
     void Work_Under_Sheet(const std::function<void()>& work);
     /// Writes the list back; not when it was never loaded whole.
     void Write_List();
@@ -81,8 +87,8 @@ protected:
     // What each window does with a list of its own.
     virtual int Count() const = 0;
     virtual void LoadItems() = 0; ///< on a worker
-    virtual void Update_Count() = 0;
-    /// Takes rows, in ascending order, out of the list; it need not take them out of the table.
+    /// Takes rows, in ascending order, out of the list; it need not take them out of the table. Leaves the list as it
+    /// is when it throws.
     virtual void Remove_Rows(const std::vector<int>& rows) = 0;
     virtual void Remove_All_Rows() = 0;
     virtual void List_Became_Empty() {}
@@ -90,6 +96,8 @@ protected:
     virtual void Clear_File() = 0;                 ///< on a worker
     virtual void Forget_File() = 0;
     virtual Export_Content Content_To_Export(int mode) const = 0;
+
+    unsigned Prev_Index = No_Index; ///< the row last shown in full, since the load
 
 private:
     class Sheet;
@@ -100,6 +108,7 @@ private:
 
     const Texts m_texts;
     QTableView* m_table = nullptr;
+    QLabel* m_count = nullptr;
     std::unique_ptr<Row_Table_Model> m_rows;
     std::unique_ptr<PleaseWait_Modeless> plz_wait_Window;
     std::unique_ptr<Input_Hold> m_input_hold; // until the load has ended

@@ -1,10 +1,8 @@
 #pragma once
 
-#include "stores/List_Window.h"
 #include "stores/Sent_Item.h"
 #include "stores/Sent_Item_Store.h"
-
-#include <QList>
+#include "stores/Store_Window.h"
 
 namespace Ui {
 class Sent_Items;
@@ -13,7 +11,7 @@ class Sent_Items;
 // The window of the sent items: shows the file as a table and the selected record in full, deletes records and exports
 // them. The shared instance belongs to Shared_Instance, or to the main window once it was put over it; interface
 // thread.
-class Sent_Items : public List_Window
+class Sent_Items : public Store_Window<Sent_Item, Sent_Item_Store>
 {
     Q_OBJECT
 
@@ -36,24 +34,12 @@ public:
     QString tableView(const QTableView* table, const QString& objectValueForTableColumn, int pRowIndex) const;
 
 protected:
-    int Count() const override;
-    void LoadItems() override;
-    void Update_Count() override { Update_Send_List_Count(); }
-    void Remove_Rows(const std::vector<int>& rows) override;
-    void Remove_All_Rows() override;
     void List_Became_Empty() override;
-    std::function<void()> Rewriting() override;
-    void Clear_File() override;
-    void Forget_File() override;
     Export_Content Content_To_Export(int mode) const override;
 
 private:
     void Set_Up_Table();
-    void Begin_Anew();
-    void Publish(const QList<Sent_Item>& loaded);
 
     const std::unique_ptr<Ui::Sent_Items> m_ui;
-    Sent_Item_Store m_store;
     QList<Sent_Item> nsSendListData;
-    unsigned Prev_Index = No_Index; ///< the record last shown in full
 };

@@ -22,7 +22,7 @@ std::optional<Template_Item> Template_Format::Template_Of(const QString& text)
     const QStringView trimmed = QStringView(text).trimmed();
     if (trimmed.isEmpty())
         return std::nullopt;
-    return Template_Item{trimmed.left(Most_Characters).toString()};
+    return Template_Item{As_Stored(trimmed.left(Most_Characters).toString())};
 }
 
 void Template_Format::Read_Lines(const QString& text, const std::function<void(QString)>& take)

@@ -19,7 +19,8 @@ QByteArray Line(const QString& text);
 /// The bytes of a whole file.
 QByteArray Lines(const QList<Template_Item>& templates);
 
-/// The template of a text: trimmed, then cut to its first 1600 characters. Nothing when the text is blank.
+/// The template of a text: trimmed, then cut to its first 1600 characters, and with what the cut may leave of a
+/// surrogate pair as it comes back from a file. Nothing when the text is blank.
 std::optional<Template_Item> Template_Of(const QString& text);
 
 /// Hands on every line of a file's text that is not empty, as it was before it was stored.

@@ -6,12 +6,11 @@
 #include "app/shared/Message_Boxes.h"
 #include "app/shared/Shared_Instance.h"
 #include "app/shared/Window_Look.h"
-#include "platform/Interface_Thread.h"
 #include "platform/Row_Table_Model.h"
 #include "stores/Dialog_Over.h"
 #include "stores/Export_Format.h"
-#include "stores/Shared_Rows.h"
 #include "stores/Store_Globals.h"
+#include "stores/Stored_Text.h"
 #include "stores/Template_Format.h"
 #include "stores/UpdateTemp.h"
 #include "ui_Templates.h"
@@ -34,8 +33,10 @@ constexpr char Too_Long_Question[] =
 } // namespace
 
 Templates::Templates(QWidget* parent)
-    : List_Window(parent, {"Templates list is empty.", "Templates items list is empty.", "Templates list is empty.",
-                           "Please select at least one record from the templates list to continue."}),
+    : Store_Window(parent,
+                   {"Templates list is empty.", "Templates items list is empty.", "Templates list is empty.",
+                    "Please select at least one record from the templates list to continue."},
+                   nsTemplateListData),
       m_ui(std::make_unique<Ui::Templates>()), Update_temp_Window(UpdateTemp::defaultInstance()),
       Update_m_templ_msg_str(Update_temp_Window->findChild<QPlainTextEdit*>(QStringLiteral("m_templ_msg_str"))),
       Update_m_templ_index(Update_temp_Window->findChild<QLabel*>(QStringLiteral("m_templ_index"))),
@@ -76,7 +77,8 @@ void Templates::Set_Up_Table()
                 std::make_unique<Row_Table_Model>(
                     std::vector<Row_Table_Model::Column>{{QStringLiteral("Message"), tr("Template")}},
                     [this, table] { return numberOfRowsInTableView(table); },
-                    [this, table](const QString& identifier, int row) { return tableView(table, identifier, row); }));
+                    [this, table](const QString& identifier, int row) { return tableView(table, identifier, row); }),
+                *m_ui->_templ_list_count);
     m_ui->idTemplateList->verticalScrollBar()->setObjectName(QStringLiteral("idTemplateListsclview"));
 }
 
@@ -87,85 +89,32 @@ int Templates::Open_Template_Wnd()
 
 // ---------------------------------------------------------------------------------------------------- the list
 
-void Templates::LoadItems()
-{
-    Run_On_Interface_Thread([this] { Begin_Anew(); });
-    QList<Template_Item> loaded;
-    m_store.Load([&](Template_Item item) {
-        loaded.append(std::move(item));
-        if (loaded.size() == Early_Reload_Count) // a long load shows its first rows early
-            Run_On_Interface_Thread([&] { Publish(loaded); });
-    });
-    Run_On_Interface_Thread([&] {
-        Publish(loaded);
-        m_ui->idTemplateList->scrollToTop();
-    });
-}
-
-void Templates::Begin_Anew()
-{
-    Prev_Index = No_Index;
-    Remove_All_Rows();
-    ListreloadData();
-}
-
-void Templates::Publish(const QList<Template_Item>& loaded)
-{
-    Put_In_Place(nsTemplateListData, loaded);
-    Update_Template_List_Count();
-}
-
 void Templates::Create_Template_List(const QString& text)
 {
-    auto item = Template_Format::Template_Of(text);
-    if (!item)
-        return;
-    nsTemplateListData.append(std::move(*item));
-    Update_Template_List_Count();
+    Add(Template_Format::Template_Of(text));
 }
 
 void Templates::Replace_Template(int row, const QString& text)
 {
     if (row >= 0 && row < Count())
-        nsTemplateListData[row].Message = text;
+        nsTemplateListData[row].Message = As_Stored(text);
 }
 
 bool Templates::Check_Duplicate_Template(const QString& text) const
 {
     return std::any_of(nsTemplateListData.cbegin(), nsTemplateListData.cend(),
-                       [&](const Template_Item& item) { return item.Message == text; });
+                       [stored = As_Stored(text)](const Template_Item& item) { return item.Message == stored; });
 }
 
 void Templates::Update_Template_List_Count()
 {
-    m_ui->_templ_list_count->setText(QStringLiteral("Total Items : ") + QString::number(Count()));
-    if (Count() == Early_Reload_Count)
-        ListreloadData();
-}
-
-int Templates::Count() const
-{
-    return static_cast<int>(nsTemplateListData.size());
-}
-
-void Templates::Remove_Rows(const std::vector<int>& rows)
-{
-    QList<Template_Item> left;
-    Run_On_Worker([&, all = nsTemplateListData] { left = Rows_Without(all, rows); }, User_Input::Served);
-    Put_In_Place(nsTemplateListData, std::move(left));
-}
-
-void Templates::Remove_All_Rows()
-{
-    Put_In_Place(nsTemplateListData, {});
+    Update_Count();
 }
 
 QString Templates::tableView(const QTableView* table, const QString& objectValueForTableColumn, int pRowIndex) const
 {
-    if (pRowIndex < 0 || pRowIndex >= Count())
-        throw Invalid_Parameter("pRowIndex >= 0 && pRowIndex < [nsTemplateListData count]");
-    return table == m_ui->idTemplateList ? nsTemplateListData.at(pRowIndex).Value(objectValueForTableColumn)
-                                         : QString();
+    return Value_In(table, objectValueForTableColumn, pRowIndex,
+                    "pRowIndex >= 0 && pRowIndex < [nsTemplateListData count]");
 }
 
 // ------------------------------------------------------------------------------------------- adding and editing
@@ -229,7 +178,7 @@ void Templates::Use_template_Btn()
         return;
     Main_App_wnd->Use_In_Composer(text);
     Write_Template_file();
-    m_store.Forget();
+    Forget_File();
     done(1);
 }
 
@@ -246,25 +195,7 @@ void Templates::Write_Template_file()
     Write_List();
 }
 
-std::function<void()> Templates::Rewriting()
-{
-    return [this, templates = nsTemplateListData] { m_store.Rewrite(templates); };
-}
-
-void Templates::Clear_File()
-{
-    m_store.Clear();
-}
-
-void Templates::Forget_File()
-{
-    m_store.Forget();
-}
-
 Export_Content Templates::Content_To_Export(int mode) const
 {
-    return {Export_Format::Templates_Header(mode), nsTemplateListData.size(),
-            [mode, templates = nsTemplateListData](qsizetype index) {
-                return Export_Format::Template_Piece(mode, templates.at(index));
-            }};
+    return Content(mode, Export_Format::Templates_Header(mode), Export_Format::Template_Piece);
 }

@@ -1,10 +1,8 @@
 #pragma once
 
-#include "stores/List_Window.h"
+#include "stores/Store_Window.h"
 #include "stores/Template_Item.h"
 #include "stores/Template_Store.h"
-
-#include <QList>
 
 class QLabel;
 class QPlainTextEdit;
@@ -17,7 +15,7 @@ class Templates;
 // The window of the templates: lists them, adds, edits, deletes and exports them, and puts one into the main window's
 // composer. The shared instance belongs to Shared_Instance, or to the main window once it was put over it; interface
 // thread.
-class Templates : public List_Window
+class Templates : public Store_Window<Template_Item, Template_Store>
 {
     Q_OBJECT
 
@@ -34,7 +32,7 @@ public:
     void Create_Template_List(const QString& text);
     /// Puts a text in the place of the template of a row, if there is one.
     void Replace_Template(int row, const QString& text);
-    /// Whether a template of the list is exactly this text.
+    /// Whether a template of the list is exactly this text, as it would come back from the file.
     bool Check_Duplicate_Template(const QString& text) const;
     void Update_Template_List_Count();
     void Write_Template_file();
@@ -49,26 +47,14 @@ public:
     QString tableView(const QTableView* table, const QString& objectValueForTableColumn, int pRowIndex) const;
 
 protected:
-    int Count() const override;
-    void LoadItems() override;
-    void Update_Count() override { Update_Template_List_Count(); }
-    void Remove_Rows(const std::vector<int>& rows) override;
-    void Remove_All_Rows() override;
-    std::function<void()> Rewriting() override;
-    void Clear_File() override;
-    void Forget_File() override;
     Export_Content Content_To_Export(int mode) const override;
 
 private:
     void Set_Up_Table();
-    void Begin_Anew();
-    void Publish(const QList<Template_Item>& loaded);
     bool May_Be_Used(const QString& text);
 
     const std::unique_ptr<Ui::Templates> m_ui;
-    Template_Store m_store;
     QList<Template_Item> nsTemplateListData;
-    unsigned Prev_Index = No_Index;
 
     // The editing dialog and its controls.
     UpdateTemp* Update_temp_Window;

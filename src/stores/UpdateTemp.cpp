@@ -11,8 +11,18 @@
 #include "ui_UpdateTemp.h"
 
 namespace {
+
 constexpr char Nothing_Typed[] = "Please type template message.";
 constexpr char Exists_Already[] = "Entered template already exists.";
+
+// What a text area makes of a text: it has only one kind of line break.
+QString As_Shown(const QString& text)
+{
+    QPlainTextEdit edit;
+    edit.setPlainText(text);
+    return Exact_Text(edit);
+}
+
 } // namespace
 
 UpdateTemp::UpdateTemp(QWidget* parent) : QDialog(parent), m_ui(std::make_unique<Ui::UpdateTemp>())
@@ -42,15 +52,17 @@ void UpdateTemp::textDidChange()
 void UpdateTemp::OKPressed()
 {
     const QString typed = Exact_Text(*m_ui->m_templ_msg_str);
-    const QString text = Trim_Str(Left_Str_substringToIndex(typed, Template_Format::Most_Characters));
+    const QString before = m_ui->m_s_temp_str->text();
+    const bool is_update = !m_ui->m_templ_index->text().isEmpty();
+    const bool is_unchanged = is_update && typed == As_Shown(before);
+    const QString text =
+        Trim_Str(Left_Str_substringToIndex(is_unchanged ? before : typed, Template_Format::Most_Characters));
     if (text.isEmpty()) {
         Refuse(Nothing_Typed);
         return;
     }
     if (!Template_Window)
         return;
-    const bool is_update = !m_ui->m_templ_index->text().isEmpty();
-    const bool is_unchanged = is_update && m_ui->m_s_temp_str->text() == typed;
     if (!is_unchanged && Template_Window->Check_Duplicate_Template(text)) {
         Refuse(Exists_Already);
         return;

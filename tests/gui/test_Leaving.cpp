@@ -1,78 +1,30 @@
-#include "app/Program.h"
-#include "gui/Sending_Program.h"
-#include "platform/Waiting.h"
+#include "gui/Leaving_Program.h"
 #include "sending/Send_Modeless.h"
 #include "wizard/Phone_List_Wnd.h"
 
 #include <QMessageBox>
-#include <QTimer>
-#include <algorithm>
 
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-// The whole program, left at its awkward moments: with a job, a search or a probe under way, a box or a dialog open.
-// Each time it comes to its end at once, without another box, and nothing of it is left.
-class Leaving : public testing::Test
+// The program with a phone on its line, left with a job, a search or a probe under way, a box or a dialog open: each
+// time without another box.
+class Leaving : public Leaving_Program
 {
 protected:
     Leaving()
     {
-        Set_Pace(10);
         Command_Line command_line;
         command_line.device_paths = {QString::fromStdString(m_phone.Path())};
-        m_program = std::make_unique<Program>(command_line);
-        EXPECT_TRUE(m_program->Start());
+        Start(command_line);
     }
+    ~Leaving() override { m_program.reset(); }
 
-    ~Leaving() override
+    void Expect_Nothing_Left() override
     {
-        m_program.reset();
-        Forget_Program_Exit();
-        Set_Extra_Device_Paths({});
-        sel_port_bsd_str.clear();
-        sel_port_name_str.clear();
-        Set_Pace(1);
-    }
-
-    /// Runs the program, does what leads to the moment, and leaves when it has come.
-    void Leave_When(const std::function<bool()>& is_time, const std::function<void()>& leads_there)
-    {
-        double left_at = 0;
-        QTimer clock;
-        QObject::connect(&clock, &QTimer::timeout, [&] {
-            if (left_at > 0 || !is_time())
-                return;
-            left_at = Now_Seconds();
-            m_leave();
-        });
-        clock.start(2);
-        QTimer::singleShot(0, &clock, leads_there);
-        QTimer::singleShot(20000, &clock, [this] {
-            ADD_FAILURE() << "the moment to leave never came";
-            m_program->Leave();
-        });
-        EXPECT_EQ(m_program->Run(), 0);
-        m_program.reset();
-        EXPECT_LT(Now_Seconds() - left_at, 5);
-        Expect_Nothing_Left();
-    }
-
-    void Expect_Nothing_Left()
-    {
-        EXPECT_EQ(Workers_Running(), 0);
-        EXPECT_EQ(sms_thread_var, 0);
-        EXPECT_EQ(ph_find_thread, 0);
+        Leaving_Program::Expect_Nothing_Left();
         EXPECT_EQ(Descriptors_On(m_phone.Path()), 0);
-        EXPECT_THAT(QApplication::topLevelWidgets(), IsEmpty());
     }
-
-    template <typename Control>
-    Control& The(const char* name)
-    {
-        return *m_program->Delegate().findChild<Control*>(QLatin1String(name));
-    }
-    void Click(const char* name) { QTest::mouseClick(&The<QPushButton>(name), Qt::LeftButton); }
 
     void Press_Send()
     {
@@ -84,9 +36,7 @@ protected:
 
     void Open_Wizard()
     {
-        user.When_Opens(QStringLiteral("Connection_Info"), [](QWidget& window) {
-            QTest::mouseClick(window.findChild<QPushButton*>(QStringLiteral("Continue_Btn")), Qt::LeftButton);
-        });
+        user.When_Opens(QStringLiteral("Connection_Info"), [](QWidget& window) { Click_In(window, "Continue_Btn"); });
         Click("Search_All_Modem");
     }
 
@@ -109,16 +59,6 @@ protected:
         table->selectRow(found.constFirst().row());
     }
 
-    static bool Is_Shown(const char* window_name)
-    {
-        const auto windows = QApplication::topLevelWidgets();
-        return std::any_of(windows.begin(), windows.end(), [&](const QWidget* window) {
-            return window->isVisible() && window->objectName() == QLatin1String(window_name);
-        });
-    }
-
-    static bool A_Box_Is_Open() { return Is_Shown("Message_Box"); }
-
     void Make_The_Phone_Silent()
     {
         Phone_Moods moods;
@@ -126,10 +66,7 @@ protected:
         m_phone.Set_Moods(moods);
     }
 
-    User user;
     Virtual_Phone m_phone;
-    std::unique_ptr<Program> m_program;
-    std::function<void()> m_leave = [this] { m_program->Leave(); };
 };
 
 TEST_F(Leaving, The_Users_Yes_Ends_The_Program)
@@ -157,7 +94,7 @@ TEST_F(Leaving, With_A_Question_Open_Answers_No)
 
 TEST_F(Leaving, With_The_Help_Open)
 {
-    Leave_When([] { return Is_Shown("Help_Wnd"); }, [this] { Click("Help_Btn"); });
+    Leave_When(Is_Shown("Help_Wnd"), [this] { Click("Help_Btn"); });
 }
 
 TEST_F(Leaving, In_The_Second_Before_The_Long_Message_Notice)
@@ -169,7 +106,7 @@ TEST_F(Leaving, In_The_Second_Before_The_Long_Message_Notice)
 
 TEST_F(Leaving, With_The_Long_Message_Notice_Open)
 {
-    Leave_When([] { return Is_Shown("Long_SMS_Dlg"); },
+    Leave_When(Is_Shown("Long_SMS_Dlg"),
                [this] { The<QPlainTextEdit>("_messageEdit").insertPlainText(QString(161, u'a')); });
 }
 
@@ -202,7 +139,7 @@ TEST_F(Leaving, With_The_Stop_Question_Open)
     bool is_pressed = false;
     Leave_When(
         [&] {
-            if (!is_pressed && Is_Shown("Send_Modeless") && stop->isEnabled()) {
+            if (!is_pressed && Is_Shown("Send_Modeless")() && stop->isEnabled()) {
                 is_pressed = true;
                 QTimer::singleShot(0, stop, &QPushButton::click);
             }
@@ -223,7 +160,7 @@ TEST_F(Leaving, By_The_Close_Button_Between_Send_And_The_Progress_Window)
                 box->defaultButton()->click();
         }
     };
-    Leave_When([] { return Is_Shown("Send_Modeless") && A_Box_Is_Open(); },
+    Leave_When([] { return Is_Shown("Send_Modeless")() && A_Box_Is_Open(); },
                [this] {
                    Press_Send();
                    m_program->Delegate().close();
@@ -233,14 +170,14 @@ TEST_F(Leaving, By_The_Close_Button_Between_Send_And_The_Progress_Window)
 
 TEST_F(Leaving, With_The_Connection_Screen_Open)
 {
-    Leave_When([] { return Is_Shown("Connection_Info"); }, [this] { Click("Search_All_Modem"); });
+    Leave_When(Is_Shown("Connection_Info"), [this] { Click("Search_All_Modem"); });
 }
 
 TEST_F(Leaving, In_The_Second_Before_The_Wizard_Opens)
 {
     user.When_Opens(QStringLiteral("Connection_Info"), [](QWidget& window) {
         Set_Pace(1);
-        QTest::mouseClick(window.findChild<QPushButton*>(QStringLiteral("Continue_Btn")), Qt::LeftButton);
+        Click_In(window, "Continue_Btn");
     });
     Leave_When(
         [] {
@@ -252,12 +189,12 @@ TEST_F(Leaving, In_The_Second_Before_The_Wizard_Opens)
 
 TEST_F(Leaving, With_The_Wizard_Open)
 {
-    Leave_When([] { return Is_Shown("Phone_List_Wnd"); }, [this] { Open_Wizard(); });
+    Leave_When(Is_Shown("Phone_List_Wnd"), [this] { Open_Wizard(); });
 }
 
 TEST_F(Leaving, While_A_Device_Is_Probed)
 {
-    Leave_When([this] { return Is_Shown("PleaseWait_Modeless") && m_phone.Heard().size() > 1; },
+    Leave_When([this] { return Is_Shown("PleaseWait_Modeless")() && m_phone.Heard().size() > 1; },
                [this] { Open_Wizard_And_Probe(); });
     EXPECT_THAT(user.Was_Shown(), IsEmpty());
 }
@@ -277,7 +214,7 @@ TEST_F(Leaving, While_A_Device_Is_Checked_For_Sending)
         EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
         Set_Pace(1);
         m_phone.Forget();
-        QTest::mouseClick(wizard.findChild<QPushButton*>(QStringLiteral("_Select_Btn")), Qt::LeftButton);
+        Click_In(wizard, "_Select_Btn");
     });
     Leave_When([this] { return Pace() == 1 && !m_phone.Heard().empty(); }, [this] { Open_Wizard(); });
     EXPECT_THAT(user.Was_Shown(), IsEmpty());

@@ -1,88 +1,27 @@
-#include "app/Program.h"
 #include "exclusion/Exclusion_Wizard.h"
-#include "gui/Sending_Program.h"
-#include "platform/Waiting.h"
+#include "gui/Leaving_Program.h"
 
 #include <QFile>
 #include <QFileDialog>
 #include <QTemporaryDir>
-#include <QTimer>
-#include <algorithm>
 
-using testing::ElementsAre;
 using testing::IsEmpty;
 
 namespace {
 
-// The whole program, left while one of the windows around the list of recipients is open or at work. Each time it comes
-// to its end at once, without another box or dialog, and nothing of it is left.
-class Leaving_Lists : public testing::Test
+// The program with three recipients, left while one of the windows around their list is open or at work: each time
+// without another box or dialog.
+class Leaving_Lists : public Leaving_Program
 {
 protected:
     Leaving_Lists()
     {
-        Set_Pace(10);
-        m_program = std::make_unique<Program>(Command_Line());
-        EXPECT_TRUE(m_program->Start());
+        Start();
         for (const char* number : {"111", "222", "333"})
             m_program->Delegate().Create_Num_Msg_List(QLatin1String(number), QStringLiteral("Hello"));
         m_program->Delegate().Redisplay_Recipients();
     }
 
-    ~Leaving_Lists() override
-    {
-        m_program.reset();
-        Forget_Program_Exit();
-        sel_port_bsd_str.clear();
-        Set_Pace(1);
-    }
-
-    /// Runs the program, does what leads to the moment, and leaves when it has come.
-    void Leave_When(const std::function<bool()>& is_time, const std::function<void()>& leads_there)
-    {
-        double left_at = 0;
-        QTimer clock;
-        QObject::connect(&clock, &QTimer::timeout, [&] {
-            if (left_at > 0 || !is_time())
-                return;
-            left_at = Now_Seconds();
-            m_program->Leave();
-        });
-        clock.start(2);
-        QTimer::singleShot(0, &clock, leads_there);
-        QTimer::singleShot(20000, &clock, [this] {
-            ADD_FAILURE() << "the moment to leave never came";
-            m_program->Leave();
-        });
-        EXPECT_EQ(m_program->Run(), 0);
-        m_recipients_at_the_end = m_program->Delegate().Recipients().Count();
-        m_program.reset();
-        EXPECT_LT(Now_Seconds() - left_at, 5);
-        EXPECT_EQ(Workers_Running(), 0);
-        EXPECT_EQ(sms_thread_var, 0);
-        EXPECT_THAT(QApplication::topLevelWidgets(), IsEmpty());
-    }
-
-    template <typename Control>
-    Control& The(const char* name)
-    {
-        return *m_program->Delegate().findChild<Control*>(QLatin1String(name));
-    }
-    void Click(const char* name) { QTest::mouseClick(&The<QPushButton>(name), Qt::LeftButton); }
-    static void Click_In(QWidget& window, const char* name)
-    {
-        QTest::mouseClick(window.findChild<QAbstractButton*>(QLatin1String(name)), Qt::LeftButton);
-    }
-
-    static std::function<bool()> Is_Shown(const char* window_name)
-    {
-        return [window_name] {
-            const auto windows = QApplication::topLevelWidgets();
-            return std::any_of(windows.begin(), windows.end(), [&](const QWidget* window) {
-                return window->isVisible() && window->objectName() == QLatin1String(window_name);
-            });
-        };
-    }
     static bool A_Panel_Is_Open() { return qobject_cast<QFileDialog*>(QApplication::activeModalWidget()) != nullptr; }
 
     /// A file of so many numbers.
@@ -120,10 +59,7 @@ protected:
         Click_In(wizard, "m_add_num_btn");
     }
 
-    User user;
     QTemporaryDir m_folder;
-    std::unique_ptr<Program> m_program;
-    int m_recipients_at_the_end = 0;
 };
 
 TEST_F(Leaving_Lists, With_The_Question_Before_An_Import_Open_Imports_And_Removes_Nothing)
@@ -179,7 +115,7 @@ TEST_F(Leaving_Lists, With_The_Fill_Dialog_And_Its_Question_Open_Fills_Nothing)
     The<QPlainTextEdit>("_messageEdit").setPlainText("new");
     user.When_Opens("Fill_Msg_In_List", [](QWidget& dialog) { Click_In(dialog, "OKPressed"); });
     user.Will_Leave_It_Open();
-    Leave_When(Is_Shown("Message_Box"), [this] {
+    Leave_When(A_Box_Is_Open, [this] {
         Click("Fill_Msg_Btn");
         EXPECT_EQ(m_program->Delegate().Recipients().At(0).Message, QStringLiteral("Hello"));
     });
@@ -220,7 +156,7 @@ TEST_F(Leaving_Lists, While_The_Exclusion_Lists_Come_In)
 TEST_F(Leaving_Lists, With_Unsaved_Exclusions_And_The_Question_About_Them_Open)
 {
     user.Will_Leave_It_Open();
-    Leave_When(Is_Shown("Message_Box"), [this] {
+    Leave_When(A_Box_Is_Open, [this] {
         Open_Exclusion_Wizard([](QWidget& wizard) {
             Begin_New_List(wizard);
             Add_Number(wizard);

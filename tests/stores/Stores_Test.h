@@ -42,10 +42,11 @@ protected:
 
     /// Opens the window and returns when it is closed; meanwhile, once the whole list is in, the person does the visit.
     /// What the visit leaves open is closed with the window's own button.
-    void Visit_Sent_Items(const std::function<void()>& visit)
+    void Visit_Sent_Items(const std::function<void()>& visit) { Visit(*Sent_Items::defaultInstance(), visit); }
+    void Visit(Sent_Items& window, const std::function<void()>& visit)
     {
-        Expect_Visit(*Sent_Items::defaultInstance(), visit);
-        Sent_Items::defaultInstance()->Open_Sent_Item_Wnd();
+        Expect_Visit(window, visit);
+        window.Open_Sent_Item_Wnd();
     }
     int Visit_Templates(const std::function<void()>& visit)
     {

@@ -177,6 +177,22 @@ TEST_F(Export_Test, Cancelling_The_File_Panel_Ends_The_Export)
     EXPECT_TRUE(m_user.Was_Shown().isEmpty());
 }
 
+TEST_F(Export_Test, Any_Other_Mode_Ends_The_Export_Without_A_Word)
+{
+    Will_Choose(false);
+    Visit_Sent_Items([this] {
+        m_user.Will_Do([this](QDialog* panel) {
+            SENT_EXPORT_MODE = 2;
+            qobject_cast<QFileDialog*>(panel)->selectFile(m_folder.Path("list"));
+            panel->accept();
+        });
+        Click("Export_Btn");
+    });
+    EXPECT_EQ(Export_File_Path, QString());
+    EXPECT_FALSE(QFileInfo::exists(m_folder.Path("list.txt")));
+    EXPECT_TRUE(m_user.Was_Shown().isEmpty());
+}
+
 TEST_F(Export_Test, A_File_That_Can_Not_Be_Written_Is_An_Error)
 {
     ASSERT_TRUE(QDir().mkpath(m_folder.Path("gone")));

@@ -106,6 +106,18 @@ TEST(Export_Writer, A_Link_Is_Replaced_And_What_It_Leads_To_Is_Not)
     EXPECT_EQ(Bytes_Of(path), QByteArray("head012"));
 }
 
+TEST(Export_Writer, A_Link_To_A_Store_That_Can_Not_Be_Taken_Away_Is_An_Error)
+{
+    const Data_Folder folder;
+    const QString path = folder.Path("list.txt");
+    Put(Sent_Item_Path, "precious");
+    ASSERT_TRUE(QFile::link(Sent_Item_Path, path));
+    folder.Turn_Read_Only();
+    EXPECT_FALSE(As_Nobody([&] { return Write_Export(path, Three_Pieces()); }));
+    folder.Turn_Writable();
+    EXPECT_EQ(Bytes_Of(Sent_Item_Path), QByteArray("precious"));
+}
+
 TEST(Export_Writer, A_Folder_At_The_Path_Is_An_Error)
 {
     const QTemporaryDir folder;
@@ -121,9 +133,20 @@ TEST(Export_Writer, An_Exception_During_The_Writing_Is_An_Error)
     EXPECT_FALSE(Write_Export(path, {"head", 1, [](qsizetype) -> QByteArray { throw std::bad_alloc(); }}));
 }
 
-TEST(Export_Writer, A_Full_Disk_Is_An_Error)
+TEST(Export_Writer, A_Device_At_The_Path_Is_An_Error)
 {
     EXPECT_FALSE(Write_Export(QStringLiteral("/dev/full"), Three_Pieces()));
+}
+
+TEST(Export_Writer, A_Full_Disk_Is_An_Error_And_What_Was_Written_Stays)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("list.txt"));
+    {
+        const Full_Disk full_disk(100'000);
+        EXPECT_FALSE(Write_Export(path, {"head", 30, [](qsizetype) { return QByteArray(10'000, 'x'); }}));
+    }
+    EXPECT_EQ(Bytes_Of(path), "head" + QByteArray(99'996, 'x'));
 }
 
 TEST(Export_Writer, A_Long_List_Comes_Whole)

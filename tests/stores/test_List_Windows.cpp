@@ -112,6 +112,37 @@ TEST_F(Many_Records, The_Interface_Thread_Goes_On_With_Its_Events_While_They_Loa
     EXPECT_EQ(Bytes_Of(Sent_Item_Path).count('\n'), Many / 2);
 }
 
+TEST_F(Stores_Test, A_Window_Opens_After_One_Second)
+{
+    Set_Pace(10);
+    for (const bool is_templates : {false, true}) {
+        const double pressed_at = Now_Seconds();
+        double shown_at = 0;
+        const auto see = [&] { shown_at = Now_Seconds(); };
+        if (is_templates)
+            Visit_Templates(see);
+        else
+            Visit_Sent_Items(see);
+        EXPECT_GE(shown_at - pressed_at, 0.1);
+    }
+}
+
+TEST_F(Stores_Test, A_Window_That_Is_Open_Does_Not_Open_Once_More)
+{
+    Visit_Sent_Items([] { Sent_Items::defaultInstance()->Open_Sent_Item_Wnd(); });
+    Visit_Templates([] { EXPECT_EQ(Templates::defaultInstance()->Open_Template_Wnd(), 0); });
+}
+
+TEST_F(Stores_Test, The_Detail_View_And_The_Dialogs_Have_The_Colour_Of_The_Exported_Page)
+{
+    const QColor page(0xf1, 0xf4, 0xfa);
+    const auto& detail = In<QPlainTextEdit>(*Sent_Items::defaultInstance(), "_Mess_det_edit");
+    EXPECT_EQ(detail.palette().color(QPalette::Base), page);
+    for (const QWidget* dialog :
+         std::initializer_list<const QWidget*>{Export_Option::defaultInstance(), Open_Export_Log::defaultInstance()})
+        EXPECT_EQ(dialog->palette().color(QPalette::Window), page) << qPrintable(dialog->objectName());
+}
+
 TEST_P(Store_Window_Sizes, Nothing_Is_Cut_Off_And_No_Two_Controls_Share_A_Key)
 {
     Expect_Nothing_Cut_Off(*Sent_Items::defaultInstance());

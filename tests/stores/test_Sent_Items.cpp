@@ -75,6 +75,8 @@ TEST_F(Sent_Items_Test, Every_Opening_Loads_The_File_Again)
         EXPECT_EQ(Shown(), (QStringList{"1000", "1001", "7"}));
         EXPECT_EQ(Detail(), QString());
         EXPECT_TRUE(Selected().isEmpty());
+        Select(1);
+        EXPECT_TRUE(Detail().startsWith(QStringLiteral("Number\t: 1001"))) << "no record was shown yet";
     });
     EXPECT_EQ(Stored(), Records(2) + "\a7\vnew\a06/03/2024\v\n");
 }

@@ -6,10 +6,8 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <functional>
 #include <random>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
 
@@ -22,22 +20,6 @@ protected:
     QStringList Names() const
     {
         return QDir(Corvane_Data_Folder_Path).entryList(QDir::Files | QDir::Hidden, QDir::Name);
-    }
-
-    /// Runs a step in a process of its own, without any power over files that are not open to everybody; whether it
-    /// answered yes.
-    static bool As_Nobody(const std::function<bool()>& step)
-    {
-        const pid_t child = fork();
-        if (child == 0) {
-            if (getuid() == 0 && setuid(65534) != 0)
-                std::_Exit(90);
-            std::_Exit(step() ? 1 : 0);
-        }
-        int status = 0;
-        EXPECT_EQ(waitpid(child, &status, 0), child);
-        EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) <= 1) << status;
-        return WEXITSTATUS(status) == 1;
     }
 
     Data_Folder m_folder;
@@ -209,9 +191,7 @@ TEST_F(Store_File_Test, Without_A_Load_Before_It_A_Rewrite_Loses_Nothing)
 TEST_F(Store_File_Test, In_A_Folder_That_Turned_Read_Only_The_Old_Whole_Stays_And_Appends_Still_Come_In)
 {
     Put(Sent_Item_Path, "one\n");
-    for (QString folder = Corvane_Data_Folder_Path; folder.contains(QFileInfo(m_folder.Path("Resources")).path());
-         folder = QFileInfo(folder).path())
-        ASSERT_EQ(chmod(qPrintable(folder), 0555), 0);
+    m_folder.Turn_Read_Only();
     EXPECT_FALSE(As_Nobody([this] {
         m_file.Load();
         return m_file.Rewrite("two\n");
@@ -223,9 +203,7 @@ TEST_F(Store_File_Test, In_A_Folder_That_Turned_Read_Only_The_Old_Whole_Stays_An
     EXPECT_FALSE(As_Nobody([this] { return m_file.Append("three\n"); }));
     EXPECT_FALSE(As_Nobody([this] { return !m_file.Load().isEmpty() || m_file.Rewrite(""); }));
     EXPECT_EQ(Stored(), QByteArray("one\ntwo\n"));
-    for (QString folder = Corvane_Data_Folder_Path; folder.contains(QFileInfo(m_folder.Path("Resources")).path());
-         folder = QFileInfo(folder).path())
-        ASSERT_EQ(chmod(qPrintable(folder), 0755), 0);
+    m_folder.Turn_Writable();
 }
 
 TEST_F(Store_File_Test, Appends_And_Rewrites_From_Many_Threads_Lose_No_Line)

@@ -9,6 +9,7 @@
 #include "stores/UpdateTemp.h"
 
 #include <QClipboard>
+#include <QWindow>
 
 namespace {
 
@@ -298,6 +299,62 @@ TEST_F(Templates_Test, Editing_A_Template_Without_Changing_It_Is_Accepted)
     EXPECT_EQ(Stored(), QByteArray("a\nb\n"));
 }
 
+TEST_F(Templates_Test, Editing_A_Template_Without_Changing_It_Keeps_What_No_Text_Area_Shows)
+{
+    for (const char* inside : {"\r", "\r\r", "\xe2\x80\xa8", "\xe2\x80\xa9", "\xc2\xa0", "\xef\xb7\x90"}) {
+        const QByteArray stored = QByteArray("a") + inside + "b\na|AP*|DX/b\n";
+        Put(Templates_Path, stored);
+        In_The_Dialog([](QWidget& dialog) { Click_In(dialog, "OKPressed"); });
+        Visit_Templates([this] {
+            Select(0);
+            Click("Update_Btn");
+        });
+        EXPECT_EQ(UpdateTemp::defaultInstance()->result(), 1);
+        EXPECT_EQ(Stored(), stored);
+    }
+}
+
+TEST_F(Templates_Test, A_Text_Cut_In_The_Middle_Of_A_Pair_Is_Not_Added_Twice)
+{
+    const QString text = QString(1599, u'x') + QString::fromUtf8("\U0001F600");
+    const auto add = [&](bool is_there) {
+        In_The_Dialog([text, is_there](QWidget& dialog) {
+            Paste(Text_In(dialog), text);
+            EXPECT_EQ(Count_In(dialog), QStringLiteral("1600 Characters"));
+            Click_In(dialog, "OKPressed");
+            EXPECT_EQ(dialog.isVisible(), is_there);
+            if (is_there)
+                Click_In(dialog, "CancelPressed");
+        });
+        if (is_there)
+            m_user.Will_Press("OK");
+        Click("AddNew_Btn");
+    };
+    Visit_Templates([&] {
+        add(false);
+        add(true);
+        In_The_Dialog([](QWidget& dialog) { Click_In(dialog, "OKPressed"); });
+        Select(0);
+        Click("Update_Btn");
+    });
+    Visit_Templates([&] { add(true); });
+    EXPECT_EQ(m_user.Was_Shown(), (QStringList{Exists_Already, Exists_Already}));
+    EXPECT_EQ(Stored(), QByteArray(1599, 'x') + "\xef\xbf\xbd\n");
+}
+
+TEST_F(Templates_Test, A_Blank_Template_Can_Not_Be_Edited)
+{
+    Put(Templates_Path, "a\nb\n");
+    m_user.Will_Press("OK");
+    Visit_Templates([this] {
+        Template_Window->Replace_Template(0, QStringLiteral(" \n "));
+        Select(0);
+        Click("Update_Btn");
+        Expect_Focus_On_Table();
+    });
+    EXPECT_EQ(m_user.Was_Shown(), QStringList{None_Selected});
+}
+
 TEST_F(Templates_Test, Editing_A_Template_Into_Another_Or_Adding_A_Blank_To_It_Is_Refused)
 {
     Put(Templates_Path, "a\nb\n");
@@ -403,6 +460,36 @@ TEST_F(Templates_Test, Using_A_Template_Writes_The_File)
     EXPECT_EQ(Stored(), QByteArray("b\nc\n"));
 }
 
+TEST_F(Templates_Test, While_The_File_Is_Written_Neither_A_Second_Press_Nor_Escape_Does_Anything)
+{
+    Put(Templates_Path, "a\nb\n");
+    std::atomic<bool> may_write{false};
+    m_user.When_Opens("PleaseWait_Modeless", [&](QWidget&) {
+        auto* button = &The<QPushButton>("Use_template_Btn");
+        const QPoint place = button->mapTo(m_visited, button->rect().center());
+        QTest::mouseClick(m_visited->windowHandle(), Qt::LeftButton, {}, place); // as from the window system
+        QTest::keyClick(m_visited->windowHandle(), Qt::Key_Escape);
+        m_visited->close();
+        EXPECT_TRUE(m_visited->isVisible());
+        may_write = true;
+        may_write.notify_all();
+    });
+    EXPECT_EQ(Visit_Templates([&] {
+                  std::atomic<bool> is_held{false};
+                  Start_Worker("holds the file", [&] {
+                      const File_Lock lock(Templates_Path);
+                      is_held = true;
+                      may_write.wait(false);
+                  });
+                  EXPECT_TRUE(Serve_Until([&] { return is_held.load(); }));
+                  Select(1);
+                  Click("Use_template_Btn");
+              }),
+              1);
+    EXPECT_EQ(m_window.m_choices.composer_text, QStringLiteral("b"));
+    EXPECT_EQ(Stored(), QByteArray("a\nb\n"));
+}
+
 TEST_F(Templates_Test, Several_Templates_Can_Not_Be_Used_At_Once)
 {
     Put(Templates_Path, "a\nb\n");
@@ -481,6 +568,20 @@ TEST_F(Templates_Test, The_Count_Label_Reloads_The_Table_Once_At_Exactly_Ten)
             EXPECT_EQ(Table().model()->rowCount(), i < 10 ? 0 : 10);
         }
     });
+}
+
+TEST_F(Templates_Test, A_Long_Load_Shows_Its_First_Ten_Rows_Early)
+{
+    QByteArray lines;
+    for (int i = 0; i < 500; ++i)
+        lines += QByteArray::number(i) + '\n';
+    Put(Templates_Path, lines);
+    QList<int> rows_shown;
+    auto* table = Templates::defaultInstance()->findChild<QTableView*>();
+    QObject::connect(table->model(), &QAbstractItemModel::rowsInserted, table,
+                     [&] { rows_shown.append(table->model()->rowCount()); });
+    Visit_Templates([] {});
+    EXPECT_EQ(rows_shown, (QList{10, 500}));
 }
 
 TEST_F(Templates_Test, A_Row_Outside_The_List_Is_An_Invalid_Parameter)
