@@ -61,6 +61,11 @@ public:
         const std::lock_guard guard(m_lock);
         return m_written;
     }
+    void Forget_Writes()
+    {
+        const std::lock_guard guard(m_lock);
+        m_written.clear();
+    }
     int Still_Open() const
     {
         const std::lock_guard guard(m_lock);

@@ -64,6 +64,12 @@ public:
         Note(QStringLiteral("timer off"));
     }
 
+    void Forget_Steps()
+    {
+        const std::lock_guard guard(m_lock);
+        m_steps.clear();
+    }
+
     QStringList Steps() const
     {
         const std::lock_guard guard(m_lock);
