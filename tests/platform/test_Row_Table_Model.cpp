@@ -80,6 +80,17 @@ TEST_F(Row_Table, A_Long_Message_Is_One_Line_Of_400_Characters)
     EXPECT_EQ(Shown(0, 0), QLatin1String("a b ") + QString(396, u'x'));
 }
 
+TEST_F(Row_Table, Every_Kind_Of_Line_Break_Is_A_Blank)
+{
+    m_rows = 1;
+    m_cell = [](const QString&, int) {
+        return QStringLiteral("a\r\nb\rc\vd") + QChar(QChar::LineSeparator) + u'e' + QChar(QChar::ParagraphSeparator) +
+               u'f';
+    };
+    m_model.Reload();
+    EXPECT_EQ(Shown(0, 0), QLatin1String("a b c d e f"));
+}
+
 TEST_F(Row_Table, What_The_Table_Shows_Changes_At_A_Reload_Only)
 {
     m_rows = 3;
