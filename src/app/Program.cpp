@@ -8,13 +8,27 @@
 #include "app/shared/Window_Look.h"
 #include "device/Device_Paths.h"
 #include "platform/Interface_Thread.h"
+#include "platform/Single_Start.h"
 #include "platform/System_Log.h"
 #include "platform/Waiting.h"
 
 #include <QApplication>
 #include <cstdio>
 
-Program::Program(Command_Line command_line) : m_command_line(std::move(command_line))
+namespace {
+
+void Bring_Up(QWidget& window)
+{
+    if (window.isMinimized())
+        window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.raise();
+    window.activateWindow();
+}
+
+} // namespace
+
+Program::Program(Command_Line command_line, Single_Start* single_start)
+    : m_command_line(std::move(command_line)), m_single_start(single_start)
 {
     Apply_Application_Look(*qApp);
     QApplication::setQuitOnLastWindowClosed(false); // the main window decides, not the last dialog that closes
@@ -34,6 +48,8 @@ bool Program::Start()
 {
     m_delegate = std::make_unique<CorvaneAppDelegate>();
     connect(m_delegate.get(), &CorvaneAppDelegate::Exit_Wanted, this, &Program::Leave);
+    if (m_single_start)
+        m_single_start->When_Asked([this] { Come_To_The_Front(); });
     if (!m_delegate->awakeFromNib())
         return false;
     if (m_command_line.demo)
@@ -54,10 +70,23 @@ void Program::Leave()
     if (m_is_leaving)
         return;
     m_is_leaving = true;
+    if (m_single_start)
+        m_single_start->Stop_Listening(); // a start from now on is a new program, once this one has ended
     Begin_Program_Exit();
     Stop_SMS_Sending_Now = 1; // after the exit has begun: a job that clears the flag looks for the exit then
     Close_Message_Boxes();
     QCoreApplication::exit(0); // ends every dialog's own event loop as well
+}
+
+void Program::Come_To_The_Front()
+{
+    if (m_delegate->isVisible())
+        Bring_Up(*m_delegate);
+    QWidget* modal = QApplication::activeModalWidget();
+    if (modal)
+        Bring_Up(*modal);
+    // Where the desktop lets no program come to the front by itself, it shows at least that there is something.
+    QApplication::alert(modal ? modal : m_delegate.get());
 }
 
 void Program::Start_Demo_Phone()

@@ -7,6 +7,7 @@
 
 class CorvaneAppDelegate;
 class Demo_Phone;
+class Single_Start;
 
 // The program from its start to its orderly end: the look, the main window, the virtual phone of --demo, and on the way
 // out every worker joined and every window gone. One instance, made by main() after the application object; interface
@@ -16,7 +17,8 @@ class Program : public QObject
     Q_OBJECT
 
 public:
-    explicit Program(Command_Line command_line);
+    /// single_start, when there is one, outlives the program and has begun as the first.
+    explicit Program(Command_Line command_line, Single_Start* single_start = nullptr);
     ~Program() override;
 
     /// Builds everything and shows the main window. Returns false when the program can not go on; the user has been
@@ -31,10 +33,15 @@ public:
     /// Begins the way out, as the user's Yes does: a running job stops, open boxes and dialogs close, Run() returns.
     void Leave();
 
+    /// Shows the main window, and what is open over it, above all other windows: the user has started the program once
+    /// more.
+    void Come_To_The_Front();
+
 private:
     void Start_Demo_Phone();
 
     Command_Line m_command_line;
+    Single_Start* m_single_start;
     std::unique_ptr<Demo_Phone> m_demo_phone;
     std::unique_ptr<CorvaneAppDelegate> m_delegate;
     bool m_is_leaving = false;

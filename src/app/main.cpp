@@ -1,8 +1,11 @@
 #include "app/Command_Line.h"
 #include "app/Program.h"
+#include "app/shared/Data_Paths.h"
 #include "platform/Pace.h"
+#include "platform/Single_Start.h"
 
 #include <QApplication>
+#include <QFileInfo>
 #include <cstdio>
 
 namespace {
@@ -15,10 +18,10 @@ QStringList Arguments(int argc, char** argv)
     return arguments;
 }
 
-int Say_And_End(const QString& line, bool is_mistaken)
+int Say_And_End(const QString& line, int status)
 {
-    fprintf(is_mistaken ? stderr : stdout, "%s\n", line.toLocal8Bit().constData());
-    return is_mistaken ? 2 : 0;
+    fprintf(status == 0 ? stdout : stderr, "%s\n", line.toLocal8Bit().constData());
+    return status;
 }
 
 bool Has_Display()
@@ -34,17 +37,28 @@ int main(int argc, char** argv)
     // Answered before the application object is made, which needs a display.
     const Command_Line command_line = Read_Command_Line(Arguments(argc, argv), QStringLiteral(CORVANE_VERSION));
     if (!command_line.answer.isEmpty())
-        return Say_And_End(command_line.answer, command_line.is_mistaken);
+        return Say_And_End(command_line.answer, command_line.is_mistaken ? 2 : 0);
     const QString pace_error = Take_Pace_From_Environment();
     if (!pace_error.isEmpty())
-        return Say_And_End(QStringLiteral("corvane: ") + pace_error, true);
+        return Say_And_End(QStringLiteral("corvane: ") + pace_error, 2);
     if (!Has_Display())
-        return Say_And_End(QStringLiteral("corvane: there is no display to open a window on."), true);
+        return Say_And_End(QStringLiteral("corvane: there is no display to open a window on."), 2);
+
+    // Outlives everything that writes, and comes before anything that reads.
+    Single_Start single_start(QFileInfo(Default_Resource_Path()).path());
+    switch (single_start.Begin()) {
+    case Single_Start::Outcome::First:
+        break;
+    case Single_Start::Outcome::Shown:
+        return Say_And_End(QStringLiteral("corvane: the program is running already; here is its window."), 0);
+    case Single_Start::Outcome::No_Answer:
+        return Say_And_End(QStringLiteral("corvane: the program is running already, but does not answer."), 1);
+    }
 
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("corvane"));
     QApplication::setApplicationDisplayName(QStringLiteral("Corvane"));
     QApplication::setApplicationVersion(QStringLiteral(CORVANE_VERSION));
-    Program program(command_line);
+    Program program(command_line, &single_start);
     return program.Start() ? program.Run() : 1;
 }

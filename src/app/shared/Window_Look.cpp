@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QColor>
 #include <QEvent>
+#include <QLabel>
 #include <QLayout>
 #include <QPalette>
 #include <QProxyStyle>
@@ -10,11 +11,23 @@
 
 namespace {
 
-// Fusion, with room around the text of buttons, fields and boxes.
+// Fusion, with room around the text of buttons, fields and boxes, and with labels that show every text as it is.
 class Program_Style : public QProxyStyle
 {
 public:
     Program_Style() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+    // Left to itself a label guesses whether its text is markup, and what it shows may come from a device or from a
+    // file's name. That goes for tool tips and for the toolkit's own boxes and panels, whose labels are not ours to
+    // make.
+    void polish(QWidget* widget) override
+    {
+        QProxyStyle::polish(widget);
+        auto* label = qobject_cast<QLabel*>(widget);
+        if (label && label->textFormat() == Qt::AutoText)
+            label->setTextFormat(Qt::PlainText);
+    }
+    using QProxyStyle::polish;
 
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                            const QWidget* widget) const override

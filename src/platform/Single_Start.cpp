@@ -1,0 +1,192 @@
+#include "platform/Single_Start.h"
+
+#include "platform/Folders_And_Files.h"
+#include "platform/System_Log.h"
+#include "platform/Waiting.h"
+
+#include <QFile>
+#include <QSocketNotifier>
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/file.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr unsigned Only_The_User = 0700;
+constexpr char Lock_Name[] = "Running.lock";
+constexpr char Socket_Name[] = "Running.socket";
+constexpr double Seconds_Between_Tries = 0.02;
+constexpr int Longest_Queue = 16;
+
+// Through the open folder: the name of a socket is cut off after 107 bytes, and a folder's own path may be longer.
+sockaddr_un Socket_Address(int folder)
+{
+    sockaddr_un address = {};
+    address.sun_family = AF_UNIX;
+    snprintf(address.sun_path, sizeof address.sun_path, "/proc/self/fd/%d/%s", folder, Socket_Name);
+    return address;
+}
+
+void Close(int& descriptor)
+{
+    if (descriptor >= 0)
+        close(descriptor);
+    descriptor = -1;
+}
+
+int New_Socket()
+{
+    // Never blocks: not in connect either, when the queue of a program that hangs is full.
+    return socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+}
+
+// Gives a lock back in words, because a child that is just being started may hold the open file for a moment longer.
+void Give_Back(int& descriptor)
+{
+    if (descriptor >= 0)
+        flock(descriptor, LOCK_UN);
+    Close(descriptor);
+}
+
+void Log_Failure(const char* what)
+{
+    Write_System_Log(QStringLiteral("Single start: %1: %2").arg(QLatin1String(what), QLatin1String(strerror(errno))));
+}
+
+// Takes the lock unless another program has it.
+bool Is_Taken_By_Another(int descriptor)
+{
+    if (descriptor < 0 || flock(descriptor, LOCK_EX | LOCK_NB) == 0)
+        return false;
+    if (errno == EWOULDBLOCK)
+        return true;
+    Log_Failure("no lock");
+    return false;
+}
+
+} // namespace
+
+Single_Start::Single_Start(const QString& private_folder) : m_folder(private_folder) {}
+
+Single_Start::~Single_Start()
+{
+    Stop_Listening();
+    Give_Back(m_lock_file);
+    Give_Back(m_folder_descriptor);
+}
+
+Single_Start::Outcome Single_Start::Begin(double patience)
+{
+    if (!Open_Folder())
+        return Outcome::First; // whoever needs the folder finds out and tells
+    Open_Lock_File();
+    for (const double end = Now_Seconds() + patience;;) {
+        if (Take_Locks()) {
+            Listen();
+            return Outcome::First;
+        }
+        if (Ask_The_First(end))
+            return Outcome::Shown;
+        if (Now_Seconds() >= end)
+            return Outcome::No_Answer;
+        // It has not begun to listen, or is on its way out and has stopped.
+        Wait_For_Descriptor(-1, POLLIN, Seconds_Between_Tries);
+    }
+}
+
+bool Single_Start::Open_Folder()
+{
+    // A folder left open by hand is closed to others before a socket is made in it.
+    if (!Make_Folder_If_Missing(m_folder, Only_The_User))
+        return false;
+    Set_Permissions(m_folder, Only_The_User);
+    m_folder_descriptor = open(QFile::encodeName(m_folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    return m_folder_descriptor >= 0;
+}
+
+void Single_Start::Open_Lock_File()
+{
+    constexpr int flags = O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY;
+    m_lock_file = openat(m_folder_descriptor, Lock_Name, O_RDWR | O_CREAT | flags, 0600);
+    if (m_lock_file < 0)
+        Log_Failure("no lock file"); // the folder's own lock is left
+}
+
+// Returns false when another program has one of the two. A lock that the file system does not know counts as taken: it
+// must not keep the program from starting.
+bool Single_Start::Take_Locks()
+{
+    if (Is_Taken_By_Another(m_folder_descriptor))
+        return false;
+    if (!Is_Taken_By_Another(m_lock_file))
+        return true;
+    flock(m_folder_descriptor, LOCK_UN);
+    return false;
+}
+
+void Single_Start::Listen()
+{
+    const sockaddr_un address = Socket_Address(m_folder_descriptor);
+    m_listener = New_Socket();
+    // Whoever holds the lock owns the socket's name: what stands there was left by a program that was killed.
+    unlinkat(m_folder_descriptor, Socket_Name, 0);
+    if (m_listener >= 0 && fchmod(m_listener, 0600) == 0 &&
+        bind(m_listener, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0 &&
+        listen(m_listener, Longest_Queue) == 0)
+        return;
+    Log_Failure("no socket"); // the lock alone keeps further starts away
+    Close(m_listener);
+}
+
+// Returns whether the program that holds the lock has answered. Waits for that until end, but not for a program that
+// does not listen.
+bool Single_Start::Ask_The_First(double end)
+{
+    const sockaddr_un address = Socket_Address(m_folder_descriptor);
+    int question = New_Socket();
+    bool is_answered = false;
+    if (question >= 0 && connect(question, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0) {
+        Wait_For_Descriptor(question, POLLIN, std::max(0.0, end - Now_Seconds()));
+        char answer = 0;
+        is_answered = recv(question, &answer, 1, 0) == 1;
+    }
+    Close(question);
+    return is_answered;
+}
+
+void Single_Start::When_Asked(std::function<void()> come_to_the_front)
+{
+    m_come_to_the_front = std::move(come_to_the_front);
+    if (m_listener < 0)
+        return;
+    m_notifier = std::make_unique<QSocketNotifier>(m_listener, QSocketNotifier::Read);
+    QObject::connect(m_notifier.get(), &QSocketNotifier::activated, m_notifier.get(), [this] { Answer(); });
+}
+
+void Single_Start::Answer()
+{
+    int asking = accept4(m_listener, nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK);
+    if (asking < 0)
+        return;
+    // Answered first: what is asked of the window system may take its time. Nothing is read from whoever asks.
+    send(asking, "!", 1, MSG_NOSIGNAL);
+    Close(asking);
+    m_come_to_the_front();
+}
+
+void Single_Start::Stop_Listening()
+{
+    m_notifier.reset();
+    if (m_listener < 0)
+        return;
+    unlinkat(m_folder_descriptor, Socket_Name, 0);
+    Close(m_listener);
+}

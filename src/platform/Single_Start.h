@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <functional>
+#include <memory>
+
+class QSocketNotifier;
+
+// Sees to it that one program at a time works in a private folder. The first start locks the folder, and a file in it
+// for file systems that computers share. The system takes such locks back when the program ends, however it ends:
+// nothing is left behind that could be stale. Every further start asks the first, through a socket in the folder, to
+// come to the front, and is then to end. Made by main() before anything in the folder is touched and before the
+// application object; one thread.
+class Single_Start
+{
+public:
+    enum class Outcome
+    {
+        First,     ///< this start may work in the folder; also where the folder can not be locked at all
+        Shown,     ///< another start has it, and comes to the front
+        No_Answer, ///< another start has it, and says nothing
+    };
+
+    explicit Single_Start(const QString& private_folder);
+    /// Gives the folder back; the last thing a program does, when all its files are written.
+    ~Single_Start();
+    Single_Start(const Single_Start&) = delete;
+    Single_Start& operator=(const Single_Start&) = delete;
+
+    /// Makes the folder when it is missing, takes it or asks whoever has it. patience, in real seconds, is how long an
+    /// answer is waited for, and how long a program on its way out gets to leave the folder.
+    Outcome Begin(double patience = 5);
+
+    /// What to do when a further start asks, from now on and for what has been asked already. Needs the application
+    /// object and its events; interface thread.
+    void When_Asked(std::function<void()> come_to_the_front);
+
+    /// The way out has begun: nobody is asked in any more. Further starts wait until the folder is given back.
+    void Stop_Listening();
+
+private:
+    bool Open_Folder();
+    void Open_Lock_File();
+    bool Take_Locks();
+    void Listen();
+    bool Ask_The_First(double end);
+    void Answer();
+
+    QString m_folder;
+    int m_folder_descriptor = -1;
+    int m_lock_file = -1;
+    int m_listener = -1;
+    std::unique_ptr<QSocketNotifier> m_notifier;
+    std::function<void()> m_come_to_the_front;
+};

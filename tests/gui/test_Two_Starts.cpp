@@ -1,0 +1,398 @@
+#include "app/Program.h"
+#include "app/shared/Data_Paths.h"
+#include "gui/Open_Program.h"
+#include "platform/Single_Start.h"
+#include "platform/Waiting.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <csignal>
+#include <map>
+#include <memory>
+#include <sys/stat.h>
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+namespace {
+
+constexpr char Shown_Line[] = "corvane: the program is running already; here is its window.\n";
+constexpr char No_Answer_Line[] = "corvane: the program is running already, but does not answer.\n";
+
+// The program as the user starts it, with a data home of its own. Killed when it is still there at the end.
+class Started_Corvane
+{
+public:
+    explicit Started_Corvane(const QString& data_home, const QStringList& arguments = {},
+                             const QString& screen = QStringLiteral("offscreen"))
+    {
+        auto environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("XDG_DATA_HOME"), data_home);
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), screen);
+        m_process.setProcessEnvironment(environment);
+        m_process.start(QStringLiteral(CORVANE_BUILD_DIR "/corvane"), arguments);
+    }
+    ~Started_Corvane() { Kill(); }
+
+    bool Is_Running() const { return m_process.state() != QProcess::NotRunning; }
+    bool Has_Ended() const { return !Is_Running(); }
+    bool Ends()
+    {
+        return Serve_Until([this] { return Has_Ended(); }, 60);
+    }
+    int Status() const { return m_process.exitStatus() == QProcess::NormalExit ? m_process.exitCode() : -1; }
+    std::string Output() { return m_process.readAllStandardOutput().toStdString(); }
+    std::string Errors() { return m_process.readAllStandardError().toStdString(); }
+
+    void Signal(int signal)
+    {
+        m_process.waitForStarted();
+        ::kill(static_cast<pid_t>(m_process.processId()), signal);
+    }
+    void Kill()
+    {
+        if (Has_Ended())
+            return;
+        m_process.kill();
+        EXPECT_TRUE(m_process.waitForFinished());
+    }
+
+private:
+    QProcess m_process;
+};
+
+class Two_Starts : public testing::Test
+{
+protected:
+    QString Home() const { return m_home.path(); }
+    QString In_Data(const char* name) const
+    {
+        return Home() + QStringLiteral("/corvane/Resources/CORVANE_DATA/") + QLatin1String(name);
+    }
+
+    // The last file that a start makes.
+    static QString Last_File(const QString& home)
+    {
+        return home + QStringLiteral("/corvane/Resources/CORVANE_DATA/Exclusion/ExListIndex.ZOVA");
+    }
+    // Takes it away, so that the next program to come up can be told by it.
+    void Remove_Last_File() const { ASSERT_TRUE(QFile::remove(Last_File(Home()))); }
+
+    static bool Comes_Up(const Started_Corvane& started, const QString& home)
+    {
+        const QByteArray last = QFile::encodeName(Last_File(home));
+        const auto is_made = [&last] { // with its permissions, which come after the file
+            struct stat status = {};
+            return stat(last.constData(), &status) == 0 && (status.st_mode & 07777U) == 0777U;
+        };
+        return Serve_Until([&] { return is_made() || started.Has_Ended(); }, 60) && started.Is_Running();
+    }
+
+    // A further start: the program that is there answers, and the further one ends.
+    static void Expect_Shown_By_The_First(const QString& home)
+    {
+        Started_Corvane second(home);
+        ASSERT_TRUE(second.Ends());
+        EXPECT_EQ(second.Status(), 0);
+        EXPECT_EQ(second.Output(), Shown_Line);
+        EXPECT_EQ(second.Errors(), "");
+    }
+
+    // Everything under the data home: names, kinds, modes, sizes, times to the nanosecond, and contents.
+    std::map<std::string, std::string> Everything() const
+    {
+        std::map<std::string, std::string> found;
+        QDirIterator walk(Home(), QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                          QDirIterator::Subdirectories);
+        while (walk.hasNext()) {
+            const QString path = walk.next();
+            struct stat status = {};
+            EXPECT_EQ(lstat(QFile::encodeName(path).constData(), &status), 0) << path.toStdString();
+            QByteArray state = QByteArray::number(static_cast<qulonglong>(status.st_ino)) + ' ' +
+                               QByteArray::number(status.st_mode, 8) + ' ' +
+                               QByteArray::number(static_cast<qlonglong>(status.st_size)) + ' ' +
+                               QByteArray::number(static_cast<qlonglong>(status.st_mtim.tv_sec)) + '.' +
+                               QByteArray::number(static_cast<qlonglong>(status.st_mtim.tv_nsec)) + ' ';
+            QFile file(path);
+            if (S_ISREG(status.st_mode) && file.open(QIODevice::ReadOnly))
+                state += file.readAll();
+            found[path.toStdString()] = state.toStdString();
+        }
+        return found;
+    }
+
+    QTemporaryDir m_home;
+};
+
+// The application object lives on: its next event loop is not to end at once.
+void Forget_The_End()
+{
+    Forget_Program_Exit();
+    QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+    QCoreApplication::exec();
+}
+
+// The first program inside the test, so that its windows can be looked at.
+class First_Of_Two_Starts : public Two_Starts
+{
+protected:
+    First_Of_Two_Starts()
+    {
+        qputenv("XDG_DATA_HOME", Home().toUtf8());
+        m_single_start = std::make_unique<Single_Start>(QFileInfo(Default_Resource_Path()).path());
+        EXPECT_EQ(m_single_start->Begin(), Single_Start::Outcome::First);
+        m_program = std::make_unique<Program>(Command_Line(), m_single_start.get());
+        EXPECT_TRUE(m_program->Start());
+    }
+    ~First_Of_Two_Starts() override
+    {
+        m_program.reset();
+        m_single_start.reset();
+        Forget_The_End();
+        qputenv("XDG_DATA_HOME", m_home_before);
+    }
+
+    QWidget& Main() { return m_program->Delegate(); }
+
+    // Something else that the user looks at meanwhile.
+    std::unique_ptr<QWidget> Something_Else() const
+    {
+        auto other = std::make_unique<QWidget>();
+        other->show();
+        other->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(other.get()));
+        return other;
+    }
+
+    QByteArray m_home_before = qgetenv("XDG_DATA_HOME");
+    User user;
+    std::unique_ptr<Single_Start> m_single_start;
+    std::unique_ptr<Program> m_program;
+};
+
+} // namespace
+
+TEST_F(First_Of_Two_Starts, The_Second_Brings_The_First_Window_To_The_Front_And_Ends)
+{
+    const auto other = Something_Else();
+    ASSERT_FALSE(Main().isActiveWindow());
+    Expect_Shown_By_The_First(Home());
+    EXPECT_TRUE(Serve_Until([this] { return Main().isActiveWindow(); }));
+}
+
+TEST_F(First_Of_Two_Starts, A_Window_Put_Away_Comes_Back_As_It_Was)
+{
+    Main().showMaximized();
+    Main().setWindowState(Main().windowState() | Qt::WindowMinimized);
+    ASSERT_TRUE(Main().isMinimized());
+    Expect_Shown_By_The_First(Home());
+    EXPECT_TRUE(Serve_Until([this] { return !Main().isMinimized() && Main().isActiveWindow(); }));
+    EXPECT_TRUE(Main().isMaximized());
+}
+
+TEST_F(First_Of_Two_Starts, A_Box_That_Is_Open_Comes_To_The_Front_With_Its_Window)
+{
+    std::unique_ptr<QWidget> other;
+    user.Will_Handle([&](QMessageBox& box) {
+        other = Something_Else();
+        EXPECT_FALSE(box.isActiveWindow());
+        Expect_Shown_By_The_First(Home());
+        EXPECT_TRUE(Serve_Until([&] { return box.isActiveWindow(); }));
+        QTest::mouseClick(box.findChild<QAbstractButton*>(), Qt::LeftButton);
+    });
+    QTest::mouseClick(Main().findChild<QPushButton*>(QStringLiteral("Add_Number")), Qt::LeftButton);
+    EXPECT_EQ(user.Was_Shown().size(), 1);
+}
+
+TEST_F(First_Of_Two_Starts, Once_The_First_Is_Leaving_The_Next_Start_Waits_And_Is_The_Program)
+{
+    m_program->Leave();
+    Started_Corvane next(Home());
+    EXPECT_FALSE(Serve_Until([&] { return next.Has_Ended(); }, 1)); // the folder is not free yet
+    Remove_Last_File();
+    m_program.reset();
+    m_single_start.reset();
+    EXPECT_TRUE(Comes_Up(next, Home()));
+    Expect_Shown_By_The_First(Home());
+    EXPECT_TRUE(next.Is_Running());
+}
+
+TEST_F(First_Of_Two_Starts, Asked_Before_It_Has_A_Window_It_Shows_None_Yet)
+{
+    Main().hide();
+    m_program->Come_To_The_Front();
+    EXPECT_FALSE(Main().isVisible());
+}
+
+TEST(A_Start_On_A_Read_Only_Disk, Is_Told_And_Ends)
+{
+    // No account may make anything there, and none is kept from looking.
+    const QByteArray home_before = qgetenv("XDG_DATA_HOME");
+    qputenv("XDG_DATA_HOME", "/proc/sys/kernel");
+    {
+        User user;
+        user.Will_Press(QStringLiteral("OK"));
+        Single_Start single_start(QFileInfo(Default_Resource_Path()).path());
+        EXPECT_EQ(single_start.Begin(), Single_Start::Outcome::First);
+        Program program(Command_Line(), &single_start);
+        EXPECT_FALSE(program.Start());
+        EXPECT_THAT(user.Was_Shown(), ElementsAre(QStringLiteral("\nCan not access Corvane Data file.")));
+    }
+    Forget_The_End();
+    qputenv("XDG_DATA_HOME", home_before);
+}
+
+TEST_F(Two_Starts, The_Second_Leaves_Every_File_Of_The_First_Alone)
+{
+    Started_Corvane first(Home());
+    ASSERT_TRUE(Comes_Up(first, Home()));
+    Expect_Shown_By_The_First(Home()); // everything is in place and quiet by then
+    QFile templates(In_Data("Templates.ZOVA"));
+    ASSERT_TRUE(templates.open(QIODevice::WriteOnly));
+    templates.write("kept\n");
+    templates.close();
+    ASSERT_TRUE(QFile::remove(In_Data("SentItem.ZOVA"))); // which every start of its own would make again
+    const auto before = Everything();
+    ASSERT_GE(before.size(), 9U);
+    for (const QStringList& arguments : {QStringList(), QStringList{"--demo"}, QStringList{"--device", "/dev/null"}}) {
+        Started_Corvane second(Home(), arguments);
+        ASSERT_TRUE(second.Ends());
+        EXPECT_EQ(second.Status(), 0);
+        EXPECT_EQ(second.Output(), Shown_Line);
+    }
+    EXPECT_EQ(Everything(), before);
+    EXPECT_TRUE(first.Is_Running());
+}
+
+TEST_F(Two_Starts, The_Second_Needs_No_Screen)
+{
+    Started_Corvane first(Home());
+    ASSERT_TRUE(Comes_Up(first, Home()));
+    Started_Corvane second(Home(), {}, QStringLiteral("no such platform"));
+    ASSERT_TRUE(second.Ends());
+    EXPECT_EQ(second.Status(), 0);
+    EXPECT_EQ(second.Errors(), "");
+}
+
+TEST_F(Two_Starts, A_Killed_Program_Keeps_Nobody_From_Starting)
+{
+    for (int round = 0; round < 5; ++round) {
+        Started_Corvane killed(Home());
+        ASSERT_TRUE(Comes_Up(killed, Home()));
+        Expect_Shown_By_The_First(Home()); // it is up and listens: its lock and its socket are there to be left behind
+        killed.Signal(SIGKILL);
+        ASSERT_TRUE(killed.Ends());
+        ASSERT_TRUE(QFileInfo::exists(Home() + QStringLiteral("/corvane/Running.lock")));
+        Remove_Last_File();
+        Started_Corvane next(Home());
+        ASSERT_TRUE(Comes_Up(next, Home()));
+        Expect_Shown_By_The_First(Home());
+        EXPECT_TRUE(next.Is_Running());
+        next.Kill();
+        Remove_Last_File();
+    }
+}
+
+TEST_F(Two_Starts, A_Program_Killed_In_The_Middle_Of_Its_Start_Keeps_Nobody_From_Starting)
+{
+    for (int milliseconds = 0; milliseconds < 100; milliseconds += 10) {
+        Started_Corvane killed(Home());
+        QTest::qWait(milliseconds); // wherever that is
+        killed.Signal(SIGKILL);
+        ASSERT_TRUE(killed.Ends());
+    }
+    QFile::remove(Last_File(Home()));
+    Started_Corvane next(Home());
+    ASSERT_TRUE(Comes_Up(next, Home()));
+    Expect_Shown_By_The_First(Home());
+}
+
+TEST_F(Two_Starts, Of_Two_At_The_Very_Same_Moment_One_Stays_And_One_Ends)
+{
+    for (int round = 0; round < 20; ++round) {
+        const QTemporaryDir home;
+        Started_Corvane one(home.path());
+        Started_Corvane other(home.path());
+        ASSERT_TRUE(Serve_Until([&] { return one.Has_Ended() || other.Has_Ended(); }, 60)) << "two windows";
+        Started_Corvane& ended = one.Has_Ended() ? one : other;
+        const Started_Corvane& stays = one.Has_Ended() ? other : one;
+        EXPECT_EQ(ended.Status(), 0);
+        EXPECT_EQ(ended.Output(), Shown_Line) << ended.Errors();
+        EXPECT_TRUE(stays.Is_Running());
+    }
+}
+
+TEST_F(Two_Starts, A_First_That_Hangs_Is_Reported_And_Not_Touched)
+{
+    Started_Corvane first(Home());
+    ASSERT_TRUE(Comes_Up(first, Home()));
+    Expect_Shown_By_The_First(Home());
+    first.Signal(SIGSTOP);
+    const auto before = Everything();
+    Started_Corvane second(Home());
+    ASSERT_TRUE(second.Ends());
+    EXPECT_EQ(second.Status(), 1);
+    EXPECT_EQ(second.Output(), "");
+    EXPECT_EQ(second.Errors(), No_Answer_Line);
+    EXPECT_EQ(Everything(), before);
+    first.Signal(SIGCONT);
+    Expect_Shown_By_The_First(Home());
+    EXPECT_TRUE(first.Is_Running());
+}
+
+TEST_F(Two_Starts, Different_Data_Folders_Run_Side_By_Side)
+{
+    const QTemporaryDir elsewhere;
+    Started_Corvane here(Home());
+    Started_Corvane there(elsewhere.path());
+    EXPECT_TRUE(Comes_Up(here, Home()));
+    EXPECT_TRUE(Comes_Up(there, elsewhere.path()));
+    Expect_Shown_By_The_First(Home());
+    Expect_Shown_By_The_First(elsewhere.path());
+    EXPECT_TRUE(here.Is_Running());
+    EXPECT_TRUE(there.Is_Running());
+}
+
+TEST_F(Two_Starts, Help_And_Version_And_Mistakes_Touch_No_Folder_And_Wait_For_Nobody)
+{
+    for (const char* option : {"--help", "--version", "--nonsense"}) {
+        Started_Corvane asked(Home(), {QLatin1String(option)});
+        ASSERT_TRUE(asked.Ends());
+        EXPECT_EQ(asked.Status(), QLatin1String(option) == QLatin1String("--nonsense") ? 2 : 0);
+    }
+    EXPECT_TRUE(Everything().empty());
+    Started_Corvane first(Home());
+    ASSERT_TRUE(Comes_Up(first, Home()));
+    first.Signal(SIGSTOP);
+    Started_Corvane asked(Home(), {QStringLiteral("--version")});
+    ASSERT_TRUE(asked.Ends());
+    EXPECT_EQ(asked.Status(), 0);
+    EXPECT_THAT(asked.Output(), HasSubstr("corvane "));
+}
+
+TEST_F(Two_Starts, Without_A_Lock_File_The_Program_Starts_And_Is_Still_The_Only_One)
+{
+    ASSERT_TRUE(QDir().mkpath(Home() + QStringLiteral("/corvane/Running.lock"))); // a folder, which nobody can write to
+    Started_Corvane first(Home());
+    ASSERT_TRUE(Comes_Up(first, Home()));
+    Expect_Shown_By_The_First(Home());
+}
+
+TEST_F(Two_Starts, Without_A_Socket_The_Program_Starts_And_Is_Still_The_Only_One)
+{
+    ASSERT_TRUE(QDir().mkpath(Home() + QStringLiteral("/corvane/Running.socket/in the way")));
+    Started_Corvane first(Home());
+    ASSERT_TRUE(Comes_Up(first, Home()));
+    const auto before = Everything();
+    Started_Corvane second(Home());
+    ASSERT_TRUE(second.Ends());
+    EXPECT_EQ(second.Status(), 1);
+    EXPECT_EQ(second.Errors(), No_Answer_Line);
+    EXPECT_EQ(Everything(), before);
+}
