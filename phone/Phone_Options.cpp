@@ -163,6 +163,14 @@ std::string Take_Option(Phone_Options& options, Values& left)
     return {};
 }
 
+// Arguments may hold anything; what is said of them is one line all the same, and moves no cursor.
+std::string On_One_Line(std::string text)
+{
+    std::replace_if(
+        text.begin(), text.end(), [](unsigned char byte) { return byte < ' ' || byte == 0x7F; }, '?');
+    return text;
+}
+
 constexpr std::string_view Help_Begin = R"(Usage: corvane-phone [option]...
 
 A GSM phone on a pseudo-terminal. It takes SMS in PDU and text mode after 3GPP TS 27.005 and shows them as a handset
@@ -207,7 +215,7 @@ Phone_Options Read_Options(const std::vector<std::string>& arguments)
     Phone_Options options;
     Values left(arguments);
     while (!left.empty() && options.m_error.empty())
-        options.m_error = Take_Option(options, left);
+        options.m_error = On_One_Line(Take_Option(options, left));
     return options;
 }
 

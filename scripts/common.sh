@@ -12,6 +12,7 @@ build_packages=(
     libgtest-dev libgmock-dev
     xvfb xauth fonts-dejavu-core
 )
+fuzz_packages=(clang libclang-rt-14-dev)
 
 if [ -t 1 ]; then
     say() { printf '\033[1m== %s\033[0m\n' "$*"; }

@@ -123,6 +123,13 @@ TEST(Phone_Options, What_Is_Wrong_Is_Said_In_One_Line)
         EXPECT_EQ(Read_Options(arguments).m_error, error);
 }
 
+TEST(Phone_Options, What_Is_Wrong_Stays_One_Line_With_Any_Argument)
+{
+    EXPECT_EQ(Read_Options({"--no\nsuch\x1B[2J\r\x7F"}).m_error, "unknown option: --no?such?[2J??");
+    EXPECT_EQ(Read_Options({"--signal", "1\n2"}).m_error, "--signal does not take \"1?2\" as its N");
+    EXPECT_EQ(Read_Options({"--signal", "\xC3\xA9"}).m_error, "--signal does not take \"\xC3\xA9\" as its N");
+}
+
 TEST(Phone_Options, Escapes_Stand_For_Their_Bytes)
 {
     EXPECT_EQ(Unescaped("\\r\\n\\t\\e\\\\"), "\r\n\t\x1B\\");

@@ -1,0 +1,100 @@
+#include "app/shared/Globals.h"
+#include "app/shared/Number_Rules.h"
+#include "exclusion/Exclusion_Files.h"
+#include "exclusion/Exclusion_Rules.h"
+#include "fuzz/Fuzz_Input.h"
+#include "platform/Text_Files.h"
+
+#include <QTemporaryDir>
+
+namespace {
+
+// One folder for all runs; it goes with the process.
+void Set_Paths()
+{
+    static const QTemporaryDir folder;
+    MUST(folder.isValid());
+    Exclusion_Folder_Path = folder.path();
+    Exclusion_Index_Path = folder.filePath(QStringLiteral("ExListIndex.ZOVA"));
+    Applied_Exclusion_Path = folder.filePath(QStringLiteral("AppExclusion.ZOVA"));
+}
+
+// The rule, said once more and without regard to how long a line is.
+QString Number_By_The_Rule(QString line)
+{
+    for (const QChar left_out : {u'\\', u'{', u'}', u'-'})
+        line.remove(left_out);
+    return Number_Rules::Normalised_Number(line);
+}
+
+Excluded_Numbers Check_Numbers(const QString& text)
+{
+    Excluded_Numbers numbers;
+    const int added = Exclusion_Rules::Add_Numbers_Of_Text(text, numbers, [](int) {});
+    MUST(added == numbers.Count());
+    MUST(Exclusion_Rules::Add_Numbers_Of_Text(text, numbers, [](int) {}) == 0);
+    int row = 0;
+    Excluded_Numbers again;
+    for (const QString& line : text.split(u'\n')) {
+        const QString number = Exclusion_Rules::Number_In_Line(line);
+        MUST(number == Number_By_The_Rule(line));
+        if (number.isEmpty() || again.Contains(number))
+            continue;
+        MUST(row < numbers.Count() && numbers.At(row++) == number);
+        again.Append(number);
+    }
+    MUST(row == numbers.Count());
+    return numbers;
+}
+
+void Check_List_File(const QString& typed_name, const Excluded_Numbers& numbers)
+{
+    const QString name = Exclusion_Rules::List_Name(typed_name).left(Exclusion_Rules::Longest_Name);
+    if (Exclusion_Rules::Judge_List_Name(name, {}) != Exclusion_Rules::Name_Verdict::Accepted)
+        return;
+    const auto path = Exclusion_Files::List_Path(name);
+    MUST(!path || path->startsWith(Exclusion_Folder_Path + u'/'));
+    MUST(!path || path->count(u'/') == Exclusion_Folder_Path.count(u'/') + 1);
+    if (!Exclusion_Files::Create_List_If_Missing(name))
+        return;
+    if (Exclusion_Files::Write_List(name, numbers)) {
+        const Excluded_Numbers stored = Exclusion_Files::Read_List(name);
+        MUST(stored.Count() == numbers.Count());
+        for (int row = 0; row < numbers.Count(); ++row)
+            MUST(stored.At(row) == numbers.At(row));
+    }
+    Exclusion_Files::Delete_List(name);
+}
+
+// An index and a list of applied names with anything in them; the applied names lead to files of their own folder only.
+void Check_Index_Files(const QByteArray& index)
+{
+    MUST(Replace_File(Exclusion_Index_Path, index));
+    for (const QString& name : Exclusion_Files::Read_Index())
+        MUST(!name.isEmpty() && name == name.trimmed());
+    const QStringList names = Exclusion_Files::Read_Index();
+    MUST(Exclusion_Files::Write_Index(names) && Exclusion_Files::Read_Index() == names);
+    MUST(Replace_File(Applied_Exclusion_Path, index));
+    const QStringList applied = Exclusion_Files::Read_Applied();
+    MUST(applied == names);
+    Exclusion_Files::Read_Applied_Numbers();
+    MUST(Remove_File(Applied_Exclusion_Path) && Remove_File(Exclusion_Index_Path));
+    Remove_File(Kept_Path(Exclusion_Index_Path));
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    Set_Paths();
+    Fuzz_Input input(data, size);
+    const unsigned kind = input.Octet() % 8;
+    const QString name = input.Text();
+    const QByteArray document = input.Document();
+    const Excluded_Numbers numbers = Check_Numbers(Fuzz_Input::Text_Of(document));
+    if (kind == 1)
+        Check_List_File(name, numbers);
+    else if (kind == 2 && document.size() < 4096)
+        Check_Index_Files(document);
+    return 0;
+}
