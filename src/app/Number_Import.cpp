@@ -16,6 +16,8 @@ namespace {
 
 constexpr int Lines_In_Batch = 1000;       // a batch is taken in within a few milliseconds
 constexpr qsizetype Longest_Logged = 1000; // of a line, in characters
+constexpr double Seconds_Between_Breaths = 0.02;
+constexpr double Breath_Seconds = 0.001;
 constexpr QChar Byte_Order_Mark(0xFEFF);
 
 bool Is_Passed_Over(QChar character)
@@ -91,6 +93,7 @@ QString Number_Import::Cleaned_Line(QStringView line)
 void Number_Import::Hand_Over_Lines(const QString& text) const
 {
     QStringList batch;
+    double last_breath = Now_Seconds();
     for (qsizetype begin = 0; begin <= text.size() && !Program_Is_Exiting();) {
         const qsizetype line_end = text.indexOf(u'\n', begin);
         const qsizetype end = line_end < 0 ? text.size() : line_end;
@@ -103,5 +106,10 @@ void Number_Import::Hand_Over_Lines(const QString& text) const
         const int percent = static_cast<int>(end * 100 / std::max<qsizetype>(1, text.size()));
         Run_On_Interface_Thread([&] { m_target.take_lines(batch, percent); });
         batch.clear();
+        // Steps that come one right after the other keep the interface thread from its timers and from painting.
+        if (Now_Seconds() - last_breath > Seconds_Between_Breaths) {
+            Wait_Seconds(Breath_Seconds);
+            last_breath = Now_Seconds();
+        }
     }
 }
