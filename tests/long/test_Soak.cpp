@@ -86,8 +86,9 @@ protected:
 
     QString Random_Text(bool is_unicode)
     {
+        // A long 7-bit message keeps only what has one code in both alphabets.
         const QString letters = is_unicode ? QString::fromUtf8("abc žluťoučký кириллица 漢字 \n")
-                                           : QString::fromUtf8("abcdefgh ABC 123 £éì \n[]{}~^");
+                                           : QString::fromUtf8("abcdefgh ABC 123 \n");
         std::uniform_int_distribution<qsizetype> any_letter(0, letters.size() - 1);
         std::uniform_int_distribution<int> any_length(1, 20);
         const int length = any_length(m_random) == 20 ? 400 : any_length(m_random);
