@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <utility>
 
 #include "pdu/Septets.h"
 
@@ -12,12 +13,23 @@ class Hex_Writer
 public:
     // Room in characters, two for an octet. Throws std::bad_alloc where there is no memory for it.
     explicit Hex_Writer(qsizetype room);
+    Hex_Writer(const Hex_Writer&) = delete;
+    Hex_Writer& operator=(const Hex_Writer&) = delete;
 
     // Two digits, of the value's low eight bits: longer values wrap.
-    void Put_Octet(qint64 value);
+    void Put_Octet(qint64 value)
+    {
+        const auto octet = static_cast<unsigned>(value & 0xFF);
+        Put_Pair(QChar(Hex_Digits[octet >> 4]), QChar(Hex_Digits[octet & 0x0F]));
+    }
 
     // Two characters as they stand.
-    void Put_Pair(QChar first, QChar second);
+    void Put_Pair(QChar first, QChar second)
+    {
+        QChar* const place = Claim(2);
+        place[0] = first;
+        place[1] = second;
+    }
 
     // Characters as they stand.
     void Put_Text(QStringView text);
@@ -32,8 +44,17 @@ public:
     QString Take();
 
 private:
-    QChar* Claim(qsizetype count);
+    static constexpr char16_t Hex_Digits[] = u"0123456789ABCDEF";
+
+    QChar* Claim(qsizetype count)
+    {
+        if (count > m_end - m_at)
+            Refuse();
+        return std::exchange(m_at, m_at + count);
+    }
+    [[noreturn]] static void Refuse();
 
     QString m_text;
-    qsizetype m_written = 0;
+    QChar* m_at; // where the next character goes, in m_text
+    QChar* m_end;
 };

@@ -240,7 +240,7 @@ QString PDU::EncodePDU(const QString& message, const QString& strDestinationAddr
     } catch (const std::bad_alloc&) {
         return QString();
     }
-    return blnIncludeSMSC ? pdu : QString();
+    return blnIncludeSMSC ? std::move(pdu) : QString();
 }
 
 QString PDU::Encode_UDH_PDU(const QString& message, const QString& strDestinationAddress, const QString& strSMSCAddress,
@@ -253,8 +253,8 @@ QString PDU::Encode_UDH_PDU(const QString& message, const QString& strDestinatio
             tp_ud = unicode ? EncodeUserData_16_bit(message) : EncodeUserData(message);
         const qsizetype digits = unicode ? Digits_In_A_Ucs2_Part : Digits_In_A_7_Bit_Part;
         const QStringView slice = Mid(tp_ud, (qsizetype{curr_msg} - 1) * digits, digits);
-        const QString pdu = Head_And_Slice(head, {tot_msg, curr_msg}, slice);
-        return blnIncludeSMSC ? pdu : QString();
+        QString pdu = Head_And_Slice(head, {tot_msg, curr_msg}, slice);
+        return blnIncludeSMSC ? std::move(pdu) : QString();
     } catch (const std::bad_alloc&) {
         return QString();
     }

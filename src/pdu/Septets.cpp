@@ -8,15 +8,20 @@ namespace {
 
 constexpr qsizetype Block = 8;
 
-// Most text has no escaped character in it, so blocks are mapped straight on; true where that was right for this one.
+// Most text has no character beyond the first page and no escaped one in it, so blocks are mapped straight on; true
+// where that was right for this one.
 bool Map_Plain_Block(const QChar* characters, quint8* septets)
 {
+    constexpr const auto& page = Gsm_Direct_Index.septets[Gsm_Direct_Index.page_of[0]];
     quint8 all = 0;
+    unsigned all_units = 0;
     for (qsizetype i = 0; i < Block; ++i) {
-        septets[i] = Gsm_Septet_Of(characters[i].unicode());
+        const char16_t unit = characters[i].unicode();
+        septets[i] = page[unit & 0xFF];
         all |= septets[i];
+        all_units |= unit;
     }
-    return (all & 0x80) == 0;
+    return (all & 0x80) == 0 && all_units <= 0xFF;
 }
 
 quint8* Map_With_Escapes(QStringView characters, quint8* at)

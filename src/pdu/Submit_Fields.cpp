@@ -59,41 +59,6 @@ void Put_Address(Hex_Writer& writer, QStringView address, Address_Length counted
     Put_Swapped(writer, digits);
 }
 
-void Put_First_Octet(Hex_Writer& writer, bool concatenated)
-{
-    constexpr quint8 submit = 0x01;
-    constexpr quint8 relative_validity = 0x10;
-    constexpr quint8 header_present = 0x40;
-    writer.Put_Octet(submit | relative_validity | (concatenated ? header_present : 0));
-}
-
-void Put_Message_Reference(Hex_Writer& writer)
-{
-    writer.Put_Octet(0x00); // the device counts for itself
-}
-
-void Put_Pid(Hex_Writer& writer)
-{
-    writer.Put_Octet(0x00);
-}
-
-void Put_Dcs(Hex_Writer& writer, bool flash, bool unicode)
-{
-    constexpr quint8 ucs2 = 0x08;
-    constexpr quint8 class_0 = 0x10;
-    writer.Put_Octet((unicode ? ucs2 : 0) | (flash ? class_0 : 0));
-}
-
-void Put_Validity(Hex_Writer& writer)
-{
-    writer.Put_Octet(0xFF); // 63 weeks, the longest there is
-}
-
-void Put_Udl(Hex_Writer& writer, qint64 length)
-{
-    writer.Put_Octet(length);
-}
-
 void Put_Concatenation(Hex_Writer& writer, const Concatenation& concatenation)
 {
     writer.Put_Octet(Concatenation_Octets - 1); // UDHL does not count itself

@@ -41,22 +41,45 @@ qsizetype Head_Room(const Submit_Head& head);
 void Put_Address(Hex_Writer& writer, QStringView address, Address_Length counted);
 
 // 3GPP TS 23.040, 9.2.3.1 TP-MTI, 9.2.3.3 TP-VPF, 9.2.3.23 TP-UDHI.
-void Put_First_Octet(Hex_Writer& writer, bool concatenated);
+inline void Put_First_Octet(Hex_Writer& writer, bool concatenated)
+{
+    constexpr quint8 submit = 0x01;
+    constexpr quint8 relative_validity = 0x10;
+    constexpr quint8 header_present = 0x40;
+    writer.Put_Octet(submit | relative_validity | (concatenated ? header_present : 0));
+}
 
 // 9.2.3.6 TP-MR.
-void Put_Message_Reference(Hex_Writer& writer);
+inline void Put_Message_Reference(Hex_Writer& writer)
+{
+    writer.Put_Octet(0x00); // the device counts for itself
+}
 
 // 9.2.3.9 TP-PID.
-void Put_Pid(Hex_Writer& writer);
+inline void Put_Pid(Hex_Writer& writer)
+{
+    writer.Put_Octet(0x00);
+}
 
 // 9.2.3.10 TP-DCS, as 3GPP TS 23.038, 4 codes it.
-void Put_Dcs(Hex_Writer& writer, bool flash, bool unicode);
+inline void Put_Dcs(Hex_Writer& writer, bool flash, bool unicode)
+{
+    constexpr quint8 ucs2 = 0x08;
+    constexpr quint8 class_0 = 0x10;
+    writer.Put_Octet((unicode ? ucs2 : 0) | (flash ? class_0 : 0));
+}
 
 // 9.2.3.12.1 TP-VP, relative.
-void Put_Validity(Hex_Writer& writer);
+inline void Put_Validity(Hex_Writer& writer)
+{
+    writer.Put_Octet(0xFF); // 63 weeks, the longest there is
+}
 
 // 9.2.3.16 TP-UDL: septets or octets, as the coding scheme has it.
-void Put_Udl(Hex_Writer& writer, qint64 length);
+inline void Put_Udl(Hex_Writer& writer, qint64 length)
+{
+    writer.Put_Octet(length);
+}
 
 // 9.2.3.24.8 concatenated short messages, 16-bit reference number.
 void Put_Concatenation(Hex_Writer& writer, const Concatenation& concatenation);
