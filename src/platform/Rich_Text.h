@@ -6,7 +6,7 @@
 /// The plain text of a document in the Rich Text Format, as far as it can be read: paragraphs, lines and table rows
 /// each end in "\n"; font, colour, style, information and picture groups are passed over. Truncated and hostile
 /// documents give what stands before the damage. Bytes that are no rich text at all are read leniently as UTF-8.
-/// Source: the Rich Text Format specification 1.9.1.
+/// Source: Rich Text Format, version 1.9.1.
 QString Plain_Text_Of_Rich_Text(const QByteArray& bytes);
 
 /// Whether a path's extension is "rtf", in any case of letters.
