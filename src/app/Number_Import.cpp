@@ -3,8 +3,8 @@
 #include "app/basics/Log_Line.h"
 #include "app/basics/String_Helpers.h"
 #include "app/shared/Number_Rules.h"
+#include "exclusion/Number_File.h"
 #include "platform/Interface_Thread.h"
-#include "platform/Rich_Text.h"
 #include "platform/Text_Files.h"
 #include "platform/Waiting.h"
 
@@ -18,7 +18,6 @@ constexpr int Lines_In_Batch = 1000;       // a batch is taken in within a few m
 constexpr qsizetype Longest_Logged = 1000; // of a line, in characters
 constexpr double Seconds_Between_Breaths = 0.02;
 constexpr double Breath_Seconds = 0.001;
-constexpr QChar Byte_Order_Mark(0xFEFF);
 
 bool Is_Passed_Over(QChar character)
 {
@@ -66,16 +65,8 @@ void Number_Import::Load_Num_Func(const QString& path) const
         }
         bytes = std::move(*content);
     }
-    Hand_Over_Lines(Text_Of(path, std::exchange(bytes, {})));
+    Hand_Over_Lines(Text_Of_Number_File(path, std::exchange(bytes, {})));
     Run_On_Interface_Thread(m_target.finish);
-}
-
-QString Number_Import::Text_Of(const QString& path, const QByteArray& bytes)
-{
-    QString text = Is_Rich_Text_Path(path) ? Plain_Text_Of_Rich_Text(bytes) : Decode_Utf8(bytes).value_or(QString());
-    if (text.startsWith(Byte_Order_Mark))
-        text.remove(0, 1);
-    return text;
 }
 
 QString Number_Import::Cleaned_Line(QStringView line)

@@ -26,10 +26,6 @@ public:
     /// Starts reading on a worker of its own and returns.
     void Load_NUM_Thread(const QString& path);
 
-    /// The text of a file of numbers: rich text by its extension, otherwise strict UTF-8; a byte-order mark at its
-    /// front is passed over. An undecodable file, and what is no regular file, give an empty text.
-    static QString Text_Of(const QString& path, const QByteArray& bytes);
-
     /// A line as it goes to the number rules: without "\", "{", "}" and "-", trimmed; empty when it is longer than any
     /// number.
     static QString Cleaned_Line(QStringView line);

@@ -5,9 +5,12 @@
 
 QString Text_Of_Number_File(const QString& path)
 {
-    if (Is_Rich_Text_Path(path))
-        return Plain_Text_Of_Rich_Text(Read_File(path).value_or(QByteArray()));
-    QString text = Read_Utf8_File(path).value_or(QString());
+    return Text_Of_Number_File(path, Read_File(path).value_or(QByteArray()));
+}
+
+QString Text_Of_Number_File(const QString& path, const QByteArray& bytes)
+{
+    QString text = Is_Rich_Text_Path(path) ? Plain_Text_Of_Rich_Text(bytes) : Decode_Utf8(bytes).value_or(QString());
     if (text.startsWith(QChar(QChar::ByteOrderMark)))
         text.remove(0, 1);
     return text;
