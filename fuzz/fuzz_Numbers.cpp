@@ -3,6 +3,7 @@
 #include "app/shared/Number_Rules.h"
 #include "dialogs/Edited_Number.h"
 #include "exclusion/Exclusion_Rules.h"
+#include "exclusion/Number_File.h"
 #include "fuzz/Fuzz_Input.h"
 #include "wizard/Custom_Smsc_Rules.h"
 
@@ -46,7 +47,7 @@ void Check_Rules(const QString& typed, const QString& other, unsigned choices)
 // The two ways a file's line takes, into the recipient list and into an exclusion list, are of one mind.
 void Check_File(const QString& path, const QByteArray& bytes)
 {
-    const QString text = Number_Import::Text_Of(path, bytes);
+    const QString text = Text_Of_Number_File(path, bytes);
     for (const QString& line : text.split(u'\n')) {
         const QString number = Number_Rules::Normalised_Number(Number_Import::Cleaned_Line(line));
         Check_Number(number);
