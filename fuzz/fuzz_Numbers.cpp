@@ -52,6 +52,7 @@ void Check_File(const QString& path, const QByteArray& bytes)
         const QString number = Number_Rules::Normalised_Number(Number_Import::Cleaned_Line(line));
         Check_Number(number);
         MUST(number == Exclusion_Rules::Number_In_Line(line));
+        MUST(number == Number_Texts().Text_Of(Number_Import::Number_In_Line(line)));
     }
 }
 

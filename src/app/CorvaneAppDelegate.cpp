@@ -91,8 +91,9 @@ bool CorvaneAppDelegate::awakeFromNib()
         box->setCurrentIndex(-1);
     }
     m_import = std::make_unique<Number_Import>(Number_Import::Target{
-        [this](const QStringList& lines, int percent) { Take_Imported_Lines(lines, percent); },
-        [this] { Leave_Import_Unread(); }, [this] { Finish_Import(); }, [this] { End_Import(); }});
+        [this](int count, int percent) { Show_Import_Progress(count, percent); },
+        [this](Recipient_List& recipients) { Take_Over_Imported(recipients); }, [this] { Leave_Import_Unread(); },
+        [this] { Finish_Import(); }, [this] { End_Import(); }});
     m_send_runner = std::make_unique<Send_Runner>(*this, *mfc_sms_obj, *Send_Modeless::defaultInstance());
     Main_App_wnd = this;
     Show_Device_In_Ticker();

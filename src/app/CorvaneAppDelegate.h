@@ -86,6 +86,7 @@ public:
     const Recipient_List& Recipients() const override { return nsListDataObject; }
     const Exclusion_Set& Exclusions() const override { return nsExclusionListDataObject; }
     void Replace_Recipients(Recipient_List recipients) override;
+    void Replace_Recipient(int row, const QString& number, const QString& message) override;
     void Redisplay_Recipients() override;
     std::vector<int> Selected_Recipient_Rows() const override;
     Send_Choices Read_Send_Choices() const override;
@@ -132,7 +133,9 @@ private:
     void Show_Device_In_Ticker();
     void Remember_Composer_Text();
     void Remove_All_Recipients();
-    void Take_Imported_Lines(const QStringList& lines, int percent);
+    void Show_List_Count(int count);
+    void Show_Import_Progress(int count, int percent);
+    void Take_Over_Imported(Recipient_List& recipients);
     void Leave_Import_Unread();
     void Finish_Import();
     void End_Import();
@@ -143,8 +146,7 @@ private:
     Recipient_List nsListDataObject;
     Exclusion_Set nsExclusionListDataObject;
     QString prev_composer_msg;
-    int prev_list_item = 0;   // recipients before the import
-    QString m_import_message; // what every imported number gets
+    int prev_list_item = 0; // recipients before the import
     Row_Table_Model* m_recipient_rows = nullptr;
     Row_Table_Model* m_exclusion_rows = nullptr;
     std::unique_ptr<Composer> m_composer;

@@ -29,7 +29,8 @@
 
 namespace {
 
-constexpr int Redisplay_Count = 10; // reaching exactly this many recipients redraws the table from the count itself
+// Reaching exactly this many recipients redraws the table from the count itself.
+constexpr int Redisplay_Count = Number_Import::First_Shown;
 constexpr int Normal_Message_Index = 1;
 
 const QString Text_Not_A_Number = QStringLiteral("Please enter a valid phone number.");
@@ -124,15 +125,20 @@ void CorvaneAppDelegate::Fill_Exclusion_Num_List()
 
 void CorvaneAppDelegate::Update_List_Count()
 {
-    m_ui->_gsm_list_count->setText(QStringLiteral("Total Numbers : ") + QString::number(nsListDataObject.Count()));
+    Show_List_Count(nsListDataObject.Count());
     if (nsListDataObject.Count() == Redisplay_Count)
         Redisplay_Recipients();
+}
+
+void CorvaneAppDelegate::Show_List_Count(int count)
+{
+    m_ui->_gsm_list_count->setText(QStringLiteral("Total Numbers : ") + QString::number(count));
 }
 
 bool CorvaneAppDelegate::Blank_Msg_Chk() const
 {
     for (int index = 0; index < nsListDataObject.Count(); ++index) {
-        if (!nsListDataObject.At(index).Message.isEmpty())
+        if (!nsListDataObject.Message_At(index).isEmpty())
             return false;
     }
     return m_composer->Text().isEmpty();
@@ -287,6 +293,12 @@ void CorvaneAppDelegate::Replace_Recipients(Recipient_List recipients)
     Let_Go_Of(recipients);
 }
 
+void CorvaneAppDelegate::Replace_Recipient(int row, const QString& number, const QString& message)
+{
+    nsListDataObject.Replace(row, number, message);
+    Redisplay_Recipients();
+}
+
 void CorvaneAppDelegate::Redisplay_Recipients()
 {
     m_recipient_rows->Reload();
@@ -310,11 +322,11 @@ void CorvaneAppDelegate::Load_Number()
 
 void CorvaneAppDelegate::Load_NUM_Thread(const QString& path)
 {
-    m_import_message = m_composer->Text();
     prev_list_item = nsListDataObject.Count();
     m_ui->_sent_btn->setEnabled(false);
     Show_Create_Modeless();
-    m_import->Load_NUM_Thread(path);
+    m_import->Load_NUM_Thread({path, nsListDataObject, nsExclusionListDataObject, m_composer->Text(),
+                               m_ui->_Skip_Duplicate_Chk->isChecked(), m_ui->_Exclusion_Chk->isChecked()});
 }
 
 // What broke off an import is in the log; the recipients that had come by then stay.
@@ -325,20 +337,18 @@ void CorvaneAppDelegate::End_Import()
     m_ui->_sent_btn->setEnabled(true);
 }
 
-void CorvaneAppDelegate::Take_Imported_Lines(const QStringList& lines, int percent)
+void CorvaneAppDelegate::Show_Import_Progress(int count, int percent)
 {
-    for (const QString& line : lines) {
-        const QString number = Num_Able_To_insert(line);
-        if (number.isEmpty())
-            continue;
-        nsListDataObject.Append(number, m_import_message);
-        if (nsListDataObject.Count() == Redisplay_Count)
-            Redisplay_Recipients();
-    }
-    if (nsListDataObject.Count() != prev_list_item)
+    if (count != prev_list_item)
         Remember_Composer_Text();
-    Update_List_Count();
+    Show_List_Count(count);
     m_please_wait->Show_Progress(percent);
+}
+
+void CorvaneAppDelegate::Take_Over_Imported(Recipient_List& recipients)
+{
+    std::swap(nsListDataObject, recipients);
+    Update_List_Count();
 }
 
 void CorvaneAppDelegate::Leave_Import_Unread()

@@ -9,15 +9,33 @@
 #include "platform/Waiting.h"
 
 #include <QFileInfo>
+#include <algorithm>
 #include <exception>
+#include <optional>
 #include <utility>
 
 namespace {
 
-constexpr int Lines_In_Batch = 1000;       // a batch is taken in within a few milliseconds
+constexpr std::size_t Lines_In_Batch = 64; // enough for their look-ups to overlap, and few enough to stay in the cache
 constexpr qsizetype Longest_Logged = 1000; // of a line, in characters
-constexpr double Seconds_Between_Breaths = 0.02;
-constexpr double Breath_Seconds = 0.001;
+constexpr double Seconds_Between_Reports = 0.02;
+
+// The number of a line as they are mostly written: digits, perhaps with a leading "+" and with "-" between them.
+// Nothing when the line has anything else to it, which is for the rules to judge.
+std::optional<Packed_Number> Number_In_Plain_Line(QStringView line)
+{
+    Packed_Number number;
+    bool fits = true;
+    for (const QChar character : line.endsWith(u'\r') ? line.chopped(1) : line) {
+        if (character >= u'0' && character <= u'9')
+            fits = fits && number.Add_Digit(character.unicode());
+        else if (character == u'+' && number.Is_Empty())
+            fits = number.Add_Digit(u'0') && number.Add_Digit(u'0');
+        else if (character != u'-')
+            return std::nullopt;
+    }
+    return fits ? number : Packed_Number();
+}
 
 bool Is_Passed_Over(QChar character)
 {
@@ -35,16 +53,16 @@ bool Is_No_Regular_File(const QString& path)
 
 Number_Import::Number_Import(Target target) : m_target(std::move(target)) {}
 
-void Number_Import::Load_NUM_Thread(const QString& path)
+void Number_Import::Load_NUM_Thread(Order order)
 {
     const auto break_off = [this](const std::exception& failure) {
         Show_NSLog_Message(QStringLiteral("The import ended early: ") + QString::fromLocal8Bit(failure.what()));
         Run_On_Interface_Thread(m_target.break_off);
     };
     try {
-        Start_Worker("import", [this, path, break_off] {
+        Start_Worker("import", [this, order = std::move(order), break_off]() mutable {
             try {
-                Load_Num_Func(path);
+                Load_Num_Func(order);
             } catch (const std::exception& failure) {
                 break_off(failure);
             }
@@ -54,18 +72,24 @@ void Number_Import::Load_NUM_Thread(const QString& path)
     }
 }
 
-void Number_Import::Load_Num_Func(const QString& path) const
+void Number_Import::Load_Num_Func(Order& order) const
 {
     QByteArray bytes;
-    if (!Is_No_Regular_File(path)) {
-        auto content = Read_File(path);
+    if (!Is_No_Regular_File(order.path)) {
+        auto content = Read_File(order.path);
         if (!content) {
             Run_On_Interface_Thread(m_target.leave_unread);
             return;
         }
         bytes = std::move(*content);
     }
-    Hand_Over_Lines(Text_Of_Number_File(path, std::exchange(bytes, {})));
+    try {
+        Take_In_Lines(order, Text_Of_Number_File(order.path, std::exchange(bytes, {})));
+    } catch (...) {
+        Hand_Over(order.recipients);
+        throw;
+    }
+    Hand_Over(order.recipients);
     Run_On_Interface_Thread(m_target.finish);
 }
 
@@ -81,26 +105,53 @@ QString Number_Import::Cleaned_Line(QStringView line)
     return cleaned.size() <= Number_Rules::Longest_Number ? cleaned : QString(); // no rule lets a longer one in
 }
 
-void Number_Import::Hand_Over_Lines(const QString& text) const
+Packed_Number Number_Import::Number_In_Line(QStringView line)
 {
-    QStringList batch;
-    double last_breath = Now_Seconds();
+    if (const auto number = Number_In_Plain_Line(line))
+        return *number;
+    return Packed_Number::Of(Number_Rules::Normalised_Number(Cleaned_Line(line))).value_or(Packed_Number());
+}
+
+void Number_Import::Take_In_Lines(Order& order, const QString& text) const
+{
+    std::vector<Packed_Number> numbers;
+    double last_report = Now_Seconds();
     for (qsizetype begin = 0; begin <= text.size() && !Program_Is_Exiting();) {
         const qsizetype line_end = text.indexOf(u'\n', begin);
         const qsizetype end = line_end < 0 ? text.size() : line_end;
         const QStringView line = QStringView(text).mid(begin, end - begin);
-        Show_NSLog_Message(line.left(Longest_Logged).toString());
-        batch.append(Cleaned_Line(line));
+        Show_NSLog_Message(line.left(Longest_Logged));
+        numbers.push_back(Number_In_Line(line));
+        order.recipients.Fetch(numbers.back());
+        order.exclusions.Fetch(numbers.back());
         begin = end + 1;
-        if (batch.size() < Lines_In_Batch && begin <= text.size())
+        if (numbers.size() < Lines_In_Batch && begin <= text.size())
+            continue;
+        Take_In(order, numbers);
+        numbers.clear();
+        if (Now_Seconds() - last_report < Seconds_Between_Reports && begin <= text.size())
             continue;
         const int percent = static_cast<int>(end * 100 / std::max<qsizetype>(1, text.size()));
-        Run_On_Interface_Thread([&] { m_target.take_lines(batch, percent); });
-        batch.clear();
-        // Steps that come one right after the other keep the interface thread from its timers and from painting.
-        if (Now_Seconds() - last_breath > Seconds_Between_Breaths) {
-            Wait_Seconds(Breath_Seconds);
-            last_breath = Now_Seconds();
+        Run_On_Interface_Thread([&] { m_target.show_progress(order.recipients.Count(), percent); });
+        last_report = Now_Seconds();
+    }
+}
+
+void Number_Import::Take_In(Order& order, const std::vector<Packed_Number>& numbers) const
+{
+    for (const Packed_Number& number : numbers) {
+        if (number.Is_Empty() || (order.skip_duplicates && order.recipients.Count_Of(number) > 0) ||
+            (order.heed_exclusions && order.exclusions.Count_Of(number) > 0))
+            continue;
+        order.recipients.Append(number, order.message);
+        if (order.recipients.Count() == First_Shown) {
+            Recipient_List first = order.recipients;
+            Hand_Over(first);
         }
     }
+}
+
+void Number_Import::Hand_Over(Recipient_List& recipients) const
+{
+    Run_On_Interface_Thread([&] { m_target.take_over(recipients); });
 }

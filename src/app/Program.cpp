@@ -10,6 +10,7 @@
 #include "platform/Interface_Thread.h"
 #include "platform/Single_Start.h"
 #include "platform/System_Log.h"
+#include "platform/Text_Files.h"
 #include "platform/Waiting.h"
 
 #include <QApplication>
@@ -23,6 +24,13 @@ void Bring_Up(QWidget& window)
         window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
     window.raise();
     window.activateWindow();
+}
+
+// What an earlier start may have left when it was killed; nobody else's.
+void Clear_Up_The_Data_Folders()
+{
+    for (const QString& folder : {Corvane_Data_Folder_Path, Exclusion_Folder_Path})
+        Clear_Up_After_A_Kill(folder, QStringLiteral(".ZOVA"));
 }
 
 } // namespace
@@ -52,6 +60,8 @@ bool Program::Start()
         m_single_start->When_Asked([this] { Come_To_The_Front(); });
     if (!m_delegate->awakeFromNib())
         return false;
+    if (m_single_start && m_single_start->Is_Alone())
+        Clear_Up_The_Data_Folders();
     if (m_command_line.demo)
         Start_Demo_Phone();
     Set_Extra_Device_Paths(m_command_line.device_paths);

@@ -9,7 +9,7 @@ namespace {
 
 bool Is_Blank(const Recipient_List& recipients, int row)
 {
-    return recipients.At(row).Message.isEmpty();
+    return recipients.Message_At(row).isEmpty();
 }
 
 std::vector<int> All_Rows(const Recipient_List& recipients)

@@ -76,7 +76,7 @@ void Update_Num_SMS::OKPressed()
     }
     const QString message = m_message->Text();
     const int row = m_ui->m_s_indx_str->text().toInt();
-    Change_Recipients(*m_window, [&](Recipient_List& recipients) { recipients.Replace(row, judged.number, message); });
+    m_window->Replace_Recipient(row, judged.number, message);
     End_With(1);
 }
 

@@ -1,11 +1,10 @@
 #pragma once
 
-#include "app/shared/Number_Index.h"
+#include "app/shared/Indexed_Numbers.h"
 
 #include <QSharedData>
 #include <QSharedDataPointer>
 #include <QString>
-#include <deque>
 #include <vector>
 
 // The numbers of the exclusion list that is being created or edited, in their order. Made for a million of them: a copy
@@ -18,7 +17,7 @@ public:
 
     int Count() const;
     /// The number at an index from 0 to Count() - 1.
-    const QString& At(int index) const;
+    QString At(int index) const;
     /// Whether some entry is exactly this number. Constant time.
     bool Contains(const QString& number) const;
 
@@ -32,10 +31,7 @@ public:
 private:
     struct Body : QSharedData
     {
-        std::deque<QString> numbers;
-        Number_Index index;
-
-        void Rebuild_Index();
+        Indexed_Numbers numbers;
     };
 
     QSharedDataPointer<Body> m_body;

@@ -8,7 +8,7 @@
 
 /// Writes one line. The text is never taken as a format; control characters in it are made visible. When the sink falls
 /// behind by more than 65,536 lines, further ones are counted instead, and the count is logged when it has caught up.
-void Write_System_Log(const QString& line);
+void Write_System_Log(QStringView line);
 
 /// Waits until what was written has reached the sink, one second at the most.
 void Flush_System_Log();
@@ -18,4 +18,4 @@ void Flush_System_Log();
 void Set_Log_Listener(std::function<void(const QString&)> listener);
 
 /// The form in which a line reaches the sink: without line ends at its end, every other control character as \xNN.
-QByteArray Printable_Log_Line(const QString& line);
+QByteArray Printable_Log_Line(QStringView line);

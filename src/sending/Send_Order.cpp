@@ -2,7 +2,7 @@
 
 Skip_Reason Reason_To_Skip(const Send_Order& order, int index)
 {
-    const QString& number = order.recipients.At(index).Number;
+    const QString number = order.recipients.At(index).Number;
     if (order.choices.exclusion && order.exclusions.Count_Of(number) > 0)
         return Skip_Reason::Excluded;
     if (order.choices.skip_duplicates && order.recipients.First_Index_Of(number) < index)

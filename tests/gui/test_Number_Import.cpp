@@ -1,12 +1,15 @@
 #include "app/Load_Num_Info.h"
 #include "app/Number_Import.h"
+#include "app/shared/Number_Rules.h"
 #include "gui/Open_Program.h"
 #include "platform/Waiting.h"
 
 #include <QFile>
 #include <QFileDialog>
 #include <QProgressBar>
+#include <QRandomGenerator>
 #include <QTemporaryDir>
+#include <algorithm>
 #include <stdexcept>
 #include <sys/stat.h>
 
@@ -355,47 +358,84 @@ TEST_F(Import, Leaving_In_The_Middle_Ends_It)
 
 // ---- The reading alone
 
+namespace {
+
+// What an import of the numbers from 10000 on hands over.
+struct Imported
+{
+    Recipient_List recipients;
+    QStringList events;
+    QList<int> percents;
+    std::function<void()> when_told; ///< of progress
+
+    void Import(int count)
+    {
+        QTemporaryDir folder;
+        QFile file(folder.filePath("numbers.txt"));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        for (int line = 0; line < count; ++line)
+            file.write(QByteArray::number(10000 + line) + '\n');
+        file.close();
+        Number_Import import({[&](int numbers, int percent) {
+                                  EXPECT_GE(numbers, recipients.Count());
+                                  percents.append(percent);
+                                  if (when_told)
+                                      when_told();
+                              },
+                              [&](Recipient_List& taken_over) {
+                                  std::swap(recipients, taken_over);
+                                  events.append(QString::number(recipients.Count()));
+                              },
+                              [&] { events.append("unread"); }, [&] { events.append("finished"); },
+                              [&] { events.append("broken off"); }});
+        import.Load_NUM_Thread({file.fileName(), {}, {}, QStringLiteral("text"), false, false});
+        EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
+    }
+};
+
+} // namespace
+
 TEST(Number_Import_Test, An_Exception_Breaks_It_Off_Quietly_With_What_Came_Before)
 {
-    QTemporaryDir folder;
-    QFile file(folder.filePath("numbers.txt"));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    for (int line = 0; line < 2500; ++line)
-        file.write(QByteArray::number(line) + '\n');
-    file.close();
-    QStringList events;
-    Number_Import import({[&](const QStringList& lines, int) {
-                              events.append(QString::number(lines.size()));
-                              if (events.size() == 2)
-                                  throw std::runtime_error("out of memory");
-                          },
-                          [&] { events.append("unread"); }, [&] { events.append("finished"); },
-                          [&] { events.append("broken off"); }});
-    import.Load_NUM_Thread(file.fileName());
-    EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
-    EXPECT_EQ(events, (QStringList{"1000", "1000", "broken off"}));
+    Imported imported;
+    imported.when_told = [] { throw std::runtime_error("out of memory"); };
+    imported.Import(2500);
+    EXPECT_EQ(imported.events, (QStringList{"10", "2500", "broken off"}));
+    EXPECT_EQ(imported.recipients.At(2499).Number, QStringLiteral("12499"));
 }
 
-TEST(Number_Import_Test, Hands_Over_Every_Line_With_How_Far_It_Has_Come)
+TEST(Number_Import_Test, Hands_Over_Every_Number_And_Tells_How_Far_It_Has_Come)
 {
-    QTemporaryDir folder;
-    QFile file(folder.filePath("numbers.txt"));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    for (int line = 0; line < 2500; ++line)
-        file.write(QByteArray::number(10000 + line) + '\n');
-    file.close();
-    QStringList all;
-    QList<int> percents;
-    bool is_finished = false;
-    Number_Import import({[&](const QStringList& lines, int percent) {
-                              all += lines;
-                              percents.append(percent);
-                          },
-                          [] { FAIL(); }, [&] { is_finished = true; }, [] { FAIL(); }});
-    import.Load_NUM_Thread(file.fileName());
-    EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
-    EXPECT_TRUE(is_finished);
-    ASSERT_EQ(all.size(), 2501); // the piece behind the last line end is empty
-    EXPECT_EQ(all.at(2499), QStringLiteral("12499"));
-    EXPECT_EQ(percents, (QList<int>{39, 79, 100}));
+    Imported imported;
+    imported.Import(250'000);
+    EXPECT_EQ(imported.events, (QStringList{"10", "250000", "finished"}));
+    EXPECT_EQ(imported.recipients.At(249'999).Number, QStringLiteral("259999"));
+    EXPECT_EQ(imported.recipients.At(249'999).Message, QStringLiteral("text"));
+    ASSERT_FALSE(imported.percents.isEmpty());
+    EXPECT_TRUE(std::is_sorted(imported.percents.begin(), imported.percents.end()));
+    EXPECT_EQ(imported.percents.last(), 100);
+}
+
+TEST(Number_Import_Test, The_Quick_Look_At_A_Line_Is_Of_One_Mind_With_The_Rules)
+{
+    const QString characters = QStringLiteral("0123456789+-\r \\{},a\t") + QChar(0x0661) + QChar(QChar::Nbsp);
+    QRandomGenerator random(31);
+    int numbers = 0;
+    const auto expect_one_mind = [&](const QString& line) {
+        const QString number = Number_Rules::Normalised_Number(Number_Import::Cleaned_Line(line));
+        ASSERT_EQ(Number_Texts().Text_Of(Number_Import::Number_In_Line(line)), number) << line.toStdString();
+        numbers += number.isEmpty() ? 0 : 1;
+    };
+    for (int round = 0; round < 200'000; ++round) {
+        QString line;
+        const int length = random.bounded(25);
+        const int variety = random.bounded(3) == 0 ? static_cast<int>(characters.size()) : 12 + random.bounded(2);
+        for (int i = 0; i < length; ++i)
+            line.append(characters[random.bounded(4) == 0 ? random.bounded(variety) : random.bounded(10)]);
+        expect_one_mind(line);
+        expect_one_mind(QLatin1String("+") + line);
+        expect_one_mind(line + QLatin1String("\r"));
+        ASSERT_FALSE(testing::Test::HasFatalFailure());
+    }
+    EXPECT_GT(numbers, 50'000);
 }

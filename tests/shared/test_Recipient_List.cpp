@@ -33,6 +33,17 @@ struct Scanned_List
     }
 };
 
+// Every sixth is none of digits alone.
+QString Number_Of(int i)
+{
+    return i % 6 == 5 ? QStringLiteral("no. ") + QString::number(i) : QString::number(i);
+}
+
+QString Some_Number(QRandomGenerator& random)
+{
+    return Number_Of(random.bounded(60));
+}
+
 void Expect_The_Same(const Recipient_List& list, const Scanned_List& scanned)
 {
     ASSERT_EQ(list.Count(), static_cast<int>(scanned.rows.size()));
@@ -41,7 +52,7 @@ void Expect_The_Same(const Recipient_List& list, const Scanned_List& scanned)
         ASSERT_EQ(list.At(row).Message, scanned.rows[static_cast<std::size_t>(row)].second) << row;
     }
     for (int i = 0; i < 60; ++i) {
-        const QString number = QString::number(i);
+        const QString number = Number_Of(i);
         ASSERT_EQ(list.First_Index_Of(number), scanned.First_Index_Of(number)) << i;
         ASSERT_EQ(list.Count_Of(number), scanned.Count_Of(number)) << i;
     }
@@ -141,6 +152,22 @@ TEST(Recipient_List, Rows_Are_Removed_Wherever_They_Stand)
     }
 }
 
+TEST(Recipient_List, A_Replaced_Number_Is_Found_In_Its_New_Place_Alone)
+{
+    Recipient_List list = List_Of({"5", "7", "5", "9", "5"});
+    list.Replace(0, QStringLiteral("9"), QStringLiteral("new"));
+    EXPECT_EQ(Numbers_Of(list), QLatin1String("9 7 5 9 5"));
+    EXPECT_EQ(list.At(0).Message, QLatin1String("new"));
+    EXPECT_EQ(list.First_Index_Of(QStringLiteral("5")), 2);
+    EXPECT_EQ(list.Count_Of(QStringLiteral("5")), 2);
+    EXPECT_EQ(list.First_Index_Of(QStringLiteral("9")), 0);
+    EXPECT_EQ(list.Count_Of(QStringLiteral("9")), 2);
+    list.Replace(1, QStringLiteral("8"), {});
+    EXPECT_EQ(list.First_Index_Of(QStringLiteral("7")), -1);
+    EXPECT_EQ(list.Count_Of(QStringLiteral("7")), 0);
+    EXPECT_EQ(list.First_Index_Of(QStringLiteral("8")), 1);
+}
+
 TEST(Recipient_List, It_Agrees_With_Plain_Scans_Whatever_Is_Done_To_It)
 {
     QRandomGenerator random(20240607);
@@ -149,11 +176,16 @@ TEST(Recipient_List, It_Agrees_With_Plain_Scans_Whatever_Is_Done_To_It)
         Scanned_List scanned;
         for (int step = 0; step < 200; ++step) {
             const int what = random.bounded(100);
-            if (what < 85) {
-                const QString number = QString::number(random.bounded(60));
+            if (what < 65) {
+                const QString number = Some_Number(random);
                 const QString message = QString::number(step);
                 list.Append(number, message);
                 scanned.rows.emplace_back(number, message);
+            } else if (what < 95 && list.Count() > 0) {
+                const int row = random.bounded(list.Count());
+                const QString number = Some_Number(random);
+                list.Replace(row, number, QStringLiteral("another"));
+                scanned.rows[static_cast<std::size_t>(row)] = {number, QStringLiteral("another")};
             } else if (what < 99) {
                 std::vector<int> removed;
                 for (int row = 0; row < list.Count(); ++row) {
@@ -178,7 +210,7 @@ TEST(Recipient_List, A_Copy_Is_A_Snapshot)
 {
     Recipient_List list = List_Of({"1", "2", "3"});
     const Recipient_List snapshot = list;
-    EXPECT_EQ(&snapshot.At(0), &std::as_const(list).At(0)) << "nothing is copied before there is need";
+    EXPECT_EQ(&snapshot.Message_At(0), &std::as_const(list).Message_At(0)) << "nothing is copied before there is need";
     list.Append(QStringLiteral("4"), {});
     list.Remove_Rows({0});
     EXPECT_EQ(Numbers_Of(snapshot), QLatin1String("1 2 3"));

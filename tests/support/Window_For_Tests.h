@@ -33,6 +33,11 @@ public:
         m_recipients = std::move(recipients);
         Redisplay_Recipients();
     }
+    void Replace_Recipient(int row, const QString& number, const QString& message) override
+    {
+        m_recipients.Replace(row, number, message);
+        Redisplay_Recipients();
+    }
     void Redisplay_Recipients() override { ++m_redisplays; }
     std::vector<int> Selected_Recipient_Rows() const override { return m_selected_rows; }
     void Fill_Exclusion_Num_List() override
@@ -50,7 +55,7 @@ public:
     bool Blank_Msg_Chk() const override
     {
         for (int index = 0; index < m_recipients.Count(); ++index) {
-            if (!m_recipients.At(index).Message.isEmpty())
+            if (!m_recipients.Message_At(index).isEmpty())
                 return false;
         }
         return m_choices.composer_text.isEmpty();

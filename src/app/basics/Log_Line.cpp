@@ -2,7 +2,7 @@
 
 #include "platform/System_Log.h"
 
-void Show_NSLog_Message(const QString& text)
+void Show_NSLog_Message(QStringView text)
 {
     Write_System_Log(text);
 }

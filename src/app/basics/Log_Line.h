@@ -3,4 +3,4 @@
 #include <QString>
 
 /// Writes one line to the system log.
-void Show_NSLog_Message(const QString& text);
+void Show_NSLog_Message(QStringView text);

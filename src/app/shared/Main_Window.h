@@ -50,6 +50,8 @@ public:
     /// Puts a changed copy in the list's place and redraws the recipient table. Whoever changes many recipients changes
     /// a copy on a worker, since the list itself belongs to the interface thread.
     virtual void Replace_Recipients(Recipient_List recipients) = 0;
+    /// Puts one changed recipient in its place and redraws the recipient table; costs the same however long the list.
+    virtual void Replace_Recipient(int row, const QString& number, const QString& message) = 0;
     /// Redraws the recipient table from the list.
     virtual void Redisplay_Recipients() = 0;
     /// The rows selected in the recipient table, in ascending order.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/shared/Number_Index.h"
+#include "app/shared/Indexed_Numbers.h"
 
 #include <QSharedData>
 #include <QSharedDataPointer>
@@ -18,9 +18,9 @@ struct Recipient
     QString Value(QStringView identifier) const;
 };
 
-// The ordered list of recipients: the order of insertion is the order of sending. Made for a million rows: a
-// message given to many of them is kept once. A copy costs nothing until one of the two changes, which is how a worker
-// takes its snapshot. The list itself is owned by the main window and belongs to the interface thread.
+// The ordered list of recipients: the order of insertion is the order of sending. Made for a million rows: a number is
+// kept packed, and a message given to many of them once. A copy costs nothing until one of the two changes, which is
+// how a worker takes its snapshot. The list itself is owned by the main window and belongs to the interface thread.
 class Recipient_List
 {
 public:
@@ -28,8 +28,12 @@ public:
 
     int Count() const;
     /// The recipient at an index from 0 to Count() - 1.
-    const Recipient& At(int index) const;
+    Recipient At(int index) const;
+    /// The message alone of the recipient at an index from 0 to Count() - 1.
+    const QString& Message_At(int index) const;
     void Append(const QString& number, const QString& message);
+    /// The same for a number of digits alone.
+    void Append(const Packed_Number& number, const QString& message);
     /// Puts another recipient in the place of the one at an index from 0 to Count() - 1.
     void Replace(int index, const QString& number, const QString& message);
     /// Gives the recipients at the indexes, each from 0 to Count() - 1, one message; each keeps its number.
@@ -42,17 +46,17 @@ public:
     int First_Index_Of(const QString& number) const;
     /// How many recipients have exactly this number. Constant time.
     int Count_Of(const QString& number) const;
+    /// The same for a number of digits alone.
+    int Count_Of(const Packed_Number& number) const;
+    /// Tells of a number that Count_Of will soon be asked for; see Indexed_Numbers.
+    void Fetch(const Packed_Number& number) const { m_body->numbers.Fetch(number); }
 
 private:
     struct Body : QSharedData
     {
-        std::deque<Recipient> recipients;
-        Number_Index index;
-
-        void Rebuild_Index();
+        Indexed_Numbers numbers;
+        std::deque<QString> messages; ///< as many
     };
-
-    Number_Index::Entry Look_Up(const QString& number) const;
 
     QSharedDataPointer<Body> m_body;
 };
