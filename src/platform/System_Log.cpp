@@ -6,10 +6,11 @@
 #include <cerrno>
 #include <chrono>
 #include <condition_variable>
-#include <deque>
 #include <mutex>
 #include <paths.h>
 #include <pthread.h>
+#include <string>
+#include <string_view>
 #include <syslog.h>
 #include <thread>
 #include <unistd.h>
@@ -18,6 +19,7 @@
 namespace {
 
 constexpr std::size_t Most_Lines_Waiting = 65536;
+constexpr std::chrono::milliseconds Between_Batches(2);
 
 class Log_Writer
 {
@@ -35,13 +37,16 @@ public:
             ++m_passed_over;
             return;
         }
-        QByteArray printable = Printable_Log_Line(line);
+        const QByteArray printable = Printable_Log_Line(line);
+        bool is_first = false;
         {
             const std::lock_guard guard(m_lock);
-            m_lines.push_back(std::move(printable));
+            is_first = m_lines.empty();
+            m_lines.append(printable.constData(), static_cast<std::size_t>(printable.size()) + 1); // its "\0" as well
             ++m_waiting;
         }
-        m_changed.notify_one();
+        if (is_first)
+            m_changed.notify_one();
     }
 
     void Flush()
@@ -70,7 +75,7 @@ private:
     void Write_Lines()
     {
         const bool has_terminal = isatty(STDERR_FILENO) == 1;
-        std::deque<QByteArray> lines;
+        std::string lines;
         std::unique_lock guard(m_lock);
         for (;;) {
             m_changed.wait(guard, [this] { return !m_lines.empty() || m_is_ending; });
@@ -78,26 +83,38 @@ private:
                 return;
             lines.swap(m_lines);
             guard.unlock();
-            for (; !lines.empty(); lines.pop_front()) {
-                Write_To_Sinks(lines.front(), has_terminal);
-                if (lines.size() > 1)
-                    --m_waiting;
-            }
-            const auto passed_over = m_waiting == 1 ? m_passed_over.exchange(0) : 0;
-            if (passed_over > 0)
-                Write_To_Sinks(QByteArray::number(passed_over) + " log lines were passed over.", has_terminal);
+            Write_Batch(lines, has_terminal);
+            lines.clear();
             guard.lock();
-            --m_waiting; // the last one, so that whoever waits for none has the count as well
+            --m_waiting;
             m_written.notify_all();
+            // Lines that come one upon the other are written together: waking for each would cost more than it.
+            m_changed.wait_for(guard, Between_Batches, [this] { return m_is_ending; });
         }
     }
 
-    void Write_To_Sinks(const QByteArray& line, bool has_terminal)
+    // The last line still counts as waiting afterwards, so that whoever waits for none has the other count as well.
+    void Write_Batch(const std::string& lines, bool has_terminal)
     {
-        if (Has_Log_Daemon())
-            syslog(LOG_INFO, "%s", line.constData());
+        const bool has_daemon = Has_Log_Daemon();
+        for (std::size_t begin = 0; begin < lines.size();) {
+            const std::string_view line = lines.data() + begin;
+            Write_To_Sinks(line, has_daemon, has_terminal);
+            begin += line.size() + 1;
+            if (begin < lines.size())
+                --m_waiting;
+        }
+        const auto passed_over = m_waiting == 1 ? m_passed_over.exchange(0) : 0;
+        if (passed_over > 0)
+            Write_To_Sinks(std::to_string(passed_over) + " log lines were passed over.", has_daemon, has_terminal);
+    }
+
+    static void Write_To_Sinks(std::string_view line, bool has_daemon, bool has_terminal)
+    {
+        if (has_daemon)
+            syslog(LOG_INFO, "%.*s", static_cast<int>(line.size()), line.data());
         if (has_terminal)
-            Write_To_Terminal(line + '\n');
+            Write_To_Terminal(std::string(line) + '\n');
     }
 
     // Where no daemon listens, syslog(3) would try to reach one anew for every line.
@@ -112,20 +129,20 @@ private:
     }
 
     // Not through stdio: its lock, held while a stopped terminal takes nothing, would keep the process from ending.
-    static void Write_To_Terminal(const QByteArray& bytes)
+    static void Write_To_Terminal(std::string_view bytes)
     {
-        for (qsizetype at = 0; at < bytes.size();) {
-            const auto written = write(STDERR_FILENO, bytes.constData() + at, static_cast<size_t>(bytes.size() - at));
+        while (!bytes.empty()) {
+            const auto written = write(STDERR_FILENO, bytes.data(), bytes.size());
             if (written < 0 && errno != EINTR)
                 return;
-            at += std::max<qsizetype>(0, written);
+            bytes.remove_prefix(static_cast<std::size_t>(std::max<ssize_t>(0, written)));
         }
     }
 
     std::mutex m_lock;
     std::condition_variable m_changed;
     std::condition_variable m_written;
-    std::deque<QByteArray> m_lines;
+    std::string m_lines;                    // each with a "\0" behind it
     std::atomic<std::size_t> m_waiting = 0; // lines that have not reached the sink
     std::atomic<qint64> m_passed_over = 0;
     bool m_is_ending = false;

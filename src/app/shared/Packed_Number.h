@@ -37,7 +37,10 @@ public:
         return static_cast<std::uint32_t>(mixed >> 32);
     }
 
-    bool operator==(const Packed_Number&) const = default;
+    bool operator==(const Packed_Number& other) const
+    {
+        return m_words[0] == other.m_words[0] && m_words[1] == other.m_words[1] && m_words[2] == other.m_words[2];
+    }
 
 private:
     friend class Number_Texts;
