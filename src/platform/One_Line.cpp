@@ -1,5 +1,7 @@
 #include "platform/One_Line.h"
 
+#include "platform/Replace_Each.h"
+
 #include <algorithm>
 
 namespace {
@@ -24,8 +26,7 @@ bool Is_Line_Break(QChar character)
 
 QString On_One_Line(const QString& text)
 {
-    QString line = text;
-    line.replace(QStringLiteral("\r\n"), QStringLiteral(" "));
+    QString line = Replace_Each(text, u"\r\n", u" ");
     std::replace_if(line.begin(), line.end(), Is_Line_Break, QChar(u' '));
     return line;
 }

@@ -1,5 +1,7 @@
 #include "stores/Export_Format.h"
 
+#include "platform/Replace_Each.h"
+
 #include <QStringEncoder>
 
 namespace {
@@ -41,9 +43,9 @@ QString Html_Header(const QString& name)
            QStringLiteral(":</th></tr>");
 }
 
-QString Html_Message(QString message)
+QString Html_Message(const QString& message)
 {
-    return message.replace(QChar(u'\n'), QStringLiteral("<br>")).replace(QChar(u' '), QStringLiteral("&nbsp;"));
+    return Replace_Each(Replace_Each(message, u"\n", u"<br>"), u" ", u"&nbsp;");
 }
 
 QString Html_Field(const QString& name, const QString& value)

@@ -1,17 +1,19 @@
 #include "stores/Stored_Text.h"
 
+#include "platform/Replace_Each.h"
+
 namespace {
 const QString Line_Break_Token = QStringLiteral("|AP*|DX/");
 }
 
-QString On_One_Line(QString text)
+QString With_Line_Break_Tokens(const QString& text)
 {
-    return text.replace(QChar(u'\n'), Line_Break_Token);
+    return Replace_Each(text, u"\n", Line_Break_Token);
 }
 
 QString With_Line_Breaks(QStringView line)
 {
-    return line.toString().replace(Line_Break_Token, QStringLiteral("\n"));
+    return Replace_Each(line, Line_Break_Token, u"\n");
 }
 
 QString As_Stored(const QString& text)
@@ -34,5 +36,5 @@ QString As_Stored(const QString& text)
 
 QByteArray Stored_Line(const QString& text)
 {
-    return (As_Stored(On_One_Line(text)) + QChar(u'\n')).toUtf8();
+    return (As_Stored(With_Line_Break_Tokens(text)) + QChar(u'\n')).toUtf8();
 }

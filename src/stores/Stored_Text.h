@@ -7,7 +7,7 @@
 
 /// The text with every "\n" written as the line-break token, which nothing escapes: a token that was typed comes back
 /// as a line break.
-QString On_One_Line(QString text);
+QString With_Line_Break_Tokens(const QString& text);
 
 /// The text of a line of a data file, its line breaks back in place.
 QString With_Line_Breaks(QStringView line);

@@ -28,7 +28,7 @@ void Template_Lines::Was_Appended(const QString& text, qsizetype line_size)
     const bool is_same_file = std::equal(now.begin(), now.begin() + Size_In_Stamp, m_stamp.begin());
     if (!m_takes_lines || !is_same_file || now[Size_In_Stamp] != m_stamp[Size_In_Stamp] + line_size)
         return;
-    m_lines.insert(With_Line_Breaks(As_Stored(On_One_Line(text))));
+    m_lines.insert(With_Line_Breaks(As_Stored(With_Line_Break_Tokens(text))));
     m_stamp = now;
 }
 

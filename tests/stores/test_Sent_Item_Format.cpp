@@ -200,7 +200,7 @@ TEST(Sent_Item_Format, Whatever_Is_Written_Is_Read_Back_Within_What_The_Format_C
         QList<Sent_Item> expected = items;
         for (Sent_Item& item : expected) // pieces of the token that came together by chance
             for (QString* field : {&item.Number, &item.Message, &item.Date})
-                *field = With_Line_Breaks(On_One_Line(*field));
+                *field = With_Line_Breaks(With_Line_Break_Tokens(*field));
         ASSERT_EQ(Read(Decode_Utf8(Sent_Item_Format::Lines(items)).value()), expected) << "round " << round;
     }
 }
