@@ -2,6 +2,7 @@
 
 #include "app/CorvaneAppDelegate.h"
 #include "app/Demo_Phone.h"
+#include "app/shared/Data_Paths.h"
 #include "app/shared/Globals.h"
 #include "app/shared/Message_Boxes.h"
 #include "app/shared/Shared_Instance.h"
@@ -14,6 +15,7 @@
 #include "platform/Waiting.h"
 
 #include <QApplication>
+#include <QSettings>
 #include <cstdio>
 
 namespace {
@@ -39,6 +41,9 @@ Program::Program(Command_Line command_line, Single_Start* single_start)
     : m_command_line(std::move(command_line)), m_single_start(single_start)
 {
     Apply_Application_Look(*qApp);
+    // The toolkit's file panels would keep a file of where the user has been, and wait for its lock when a start that
+    // was killed has left it. No file can be in such a place.
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
     QApplication::setQuitOnLastWindowClosed(false); // the main window decides, not the last dialog that closes
 }
 

@@ -132,6 +132,14 @@ bool Single_Start::Take_Locks()
     return false;
 }
 
+bool Single_Start::Is_Alone() const
+{
+    // To take a lock again that one has is granted.
+    const int locks[] = {m_folder_descriptor, m_lock_file};
+    return std::all_of(std::begin(locks), std::end(locks),
+                       [](int lock) { return lock >= 0 && flock(lock, LOCK_EX | LOCK_NB) == 0; });
+}
+
 void Single_Start::Listen()
 {
     const sockaddr_un address = Socket_Address(m_folder_descriptor);

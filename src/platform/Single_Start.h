@@ -32,6 +32,10 @@ public:
     /// answer is waited for, and how long a program on its way out gets to leave the folder.
     Outcome Begin(double patience = 5);
 
+    /// Whether it is certain that no other program works in the folder: both locks are taken, and not only unknown to
+    /// the file system.
+    bool Is_Alone() const;
+
     /// What to do when a further start asks, from now on and for what has been asked already. Needs the application
     /// object and its events; interface thread.
     void When_Asked(std::function<void()> come_to_the_front);

@@ -1,6 +1,7 @@
 #include "platform/Text_Files.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QStringDecoder>
@@ -22,6 +23,7 @@ constexpr int Open_Flags = O_CLOEXEC | O_NOCTTY | O_NONBLOCK;
 constexpr mode_t Data_File_Permissions = 0777;
 constexpr qint64 Largest_Read = qint64{2} << 30;
 constexpr qsizetype Read_Step = qsizetype{64} << 10;
+constexpr off_t Smallest_Page = 4096;
 
 /// A path as the system takes it. A text with a NUL in it names no file: it becomes the empty name, which never opens.
 QByteArray Native_Name(const QString& path)
@@ -116,6 +118,63 @@ bool Write_Replacement(const QByteArray& name, const QByteArray& bytes)
     Descriptor file(name, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, Data_File_Permissions);
     return file.Is_Open() && Give_Permissions(file) && Write_All(file, bytes) && Sync(file) && file.Close();
 }
+
+/// Whether a kill can cut off an append: between two pages of a file the system looks for one, within a page it does
+/// not.
+bool Can_Be_Left_Half_Done(off_t size, const QByteArray& bytes)
+{
+    return size % Smallest_Page + bytes.size() > Smallest_Page;
+}
+
+/// An append that goes on. Where it can not be noted, for want of room above all, it is done all the same.
+class Append_Note
+{
+public:
+    Append_Note(const QString& path, off_t size, const QByteArray& bytes)
+    {
+        if (!Can_Be_Left_Half_Done(size, bytes))
+            return;
+        m_name = Native_Name(Append_Note_Path(path));
+        Descriptor file(m_name, O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW, 0600);
+        if (!Regular_Size(file) || !Write_All(file, QByteArray::number(qint64{size}) + '\n' + bytes))
+            Remove();
+    }
+
+    void Remove() const
+    {
+        if (!m_name.isEmpty())
+            unlink(m_name.constData());
+    }
+
+    /// Cuts the file back to its size before the append when it ends in a part of what was to be appended. Returns
+    /// whether the file is whole.
+    static bool Undo(const QString& path)
+    {
+        const QByteArray note = Read_File(Append_Note_Path(path)).value_or(QByteArray());
+        const qsizetype line_end = note.indexOf('\n');
+        const QByteArray bytes = note.mid(line_end + 1);
+        const auto size = static_cast<off_t>(note.left(line_end).toLongLong());
+        const QByteArray added = line_end > 0 ? Read_From(path, size, bytes.size()) : QByteArray();
+        if (added.isEmpty() || added.size() == bytes.size() || !bytes.startsWith(added))
+            return true;
+        return Cut(Descriptor(Native_Name(path), O_WRONLY), size);
+    }
+
+private:
+    /// What stands in a file behind its first bytes, so much at the most: it may be a large file.
+    static QByteArray Read_From(const QString& path, off_t first, qsizetype at_most)
+    {
+        const Descriptor file(Native_Name(path), O_RDONLY);
+        QByteArray bytes(at_most, Qt::Uninitialized);
+        const bool is_there = Regular_Size(file) && lseek(file.Number(), first, SEEK_SET) == first;
+        const auto size = static_cast<size_t>(at_most);
+        const ssize_t count =
+            is_there ? Uninterrupted([&] { return read(file.Number(), bytes.data(), size); }) : ssize_t{0};
+        return bytes.left(std::max<qsizetype>(count, 0));
+    }
+
+    QByteArray m_name;
+};
 
 /// One name for a file, whichever way its folder is written. The file itself may be missing.
 QString Lock_Key(const QString& path)
@@ -217,6 +276,11 @@ std::optional<QString> Decode_Utf8(const QByteArray& bytes)
     return text;
 }
 
+bool Is_Valid_Utf8(const QByteArray& bytes)
+{
+    return QUtf8StringView(bytes).isValidUtf8();
+}
+
 std::optional<QString> Read_Utf8_File(const QString& path)
 {
     const std::optional<QByteArray> bytes = Read_File(path);
@@ -234,14 +298,15 @@ bool Append_To_File(const QString& path, const QByteArray& bytes)
     const std::optional<off_t> size = Regular_Size(file);
     if (!size || (is_new && !Give_Permissions(file)))
         return false;
-    if (!Write_All(file, bytes)) {
-        Cut(file, *size);
-        return false;
-    }
-    if (file.Close())
-        return true;
-    Cut(Descriptor(name, O_WRONLY), *size); // a file on a server may refuse its bytes as late as this
-    return false;
+    const Append_Note note(path, *size, bytes);
+    const bool is_written = Write_All(file, bytes);
+    bool is_whole = is_written || Cut(file, *size);
+    const bool is_closed = file.Close();
+    if (is_written && !is_closed)
+        is_whole = Cut(Descriptor(name, O_WRONLY), *size); // a file on a server may refuse its bytes as late as this
+    if (is_whole)
+        note.Remove();
+    return is_written && is_closed;
 }
 
 bool Replace_File(const QString& path, const QByteArray& bytes)
@@ -267,9 +332,29 @@ QString Replacement_Path(const QString& path)
     return path + QLatin1String(".new");
 }
 
+QString Append_Note_Path(const QString& path)
+{
+    return path + QLatin1String(".appending");
+}
+
+void Clear_Up_After_A_Kill(const QString& folder, const QString& extension)
+{
+    const QString any_file = QLatin1Char('*') + extension;
+    const QStringList left = {Replacement_Path(any_file), Replacement_Path(Kept_Path(any_file)),
+                              Append_Note_Path(any_file)};
+    QDirIterator files(folder, left, QDir::Files | QDir::Hidden | QDir::System | QDir::CaseSensitive);
+    while (files.hasNext()) {
+        const QString name = files.next();
+        const QString noted = name.chopped(Append_Note_Path({}).size());
+        const File_Lock lock(noted);
+        if (!name.endsWith(Append_Note_Path({})) || Append_Note::Undo(noted))
+            Remove_File(name);
+    }
+}
+
 bool Keep_What_Is_No_Utf8(const QString& path, const QByteArray& bytes)
 {
-    return Decode_Utf8(bytes) || Replace_File(Kept_Path(path), bytes);
+    return Is_Valid_Utf8(bytes) || Replace_File(Kept_Path(path), bytes);
 }
 
 QString Kept_Path(const QString& path)

@@ -32,12 +32,17 @@ std::optional<QByteArray> Read_File(const QString& path);
 /// byte-order mark stay in the text.
 std::optional<QString> Decode_Utf8(const QByteArray& bytes);
 
+/// Whether Decode_Utf8 takes the bytes; without the text, which may be large.
+bool Is_Valid_Utf8(const QByteArray& bytes);
+
 /// Both in one: the text of a UTF-8 file.
 std::optional<QString> Read_Utf8_File(const QString& path);
 
 /// Appends bytes to an existing regular file, or to a new one with the permissions 0777, with one write where the
-/// system takes them in one. An append that fails part-way is cut back to where it began. Takes the file's lock itself.
-/// Returns whether all of it is in the file. No bytes: only makes sure that the file is there and can be written to.
+/// system takes them in one. An append that fails part-way is cut back to where it began; one that a kill can leave
+/// half done is noted beside the file first, under the name of Append_Note_Path, for Clear_Up_After_A_Kill. Takes the
+/// file's lock itself. Returns whether all of it is in the file. No bytes: only makes sure that the file is there and
+/// can be written to.
 bool Append_To_File(const QString& path, const QByteArray& bytes);
 
 /// Replaces a file by one with this content and the permissions 0777, whatever the umask: written beside it under the
@@ -48,6 +53,14 @@ bool Replace_File(const QString& path, const QByteArray& bytes);
 
 /// Where a replacement is written before it takes the file's place. Does not end in the data files' extension.
 QString Replacement_Path(const QString& path);
+
+/// Where an append is noted for as long as it lasts: the size of the file before it, and what is appended.
+QString Append_Note_Path(const QString& path);
+
+/// Puts in order what a kill left of the files with this extension in a folder: a replacement that never took its
+/// file's place goes; an append of which only the beginning is in its file is cut back, and its note goes. For a start
+/// that nobody else works in the folder with, before anything there is read.
+void Clear_Up_After_A_Kill(const QString& folder, const QString& extension);
 
 /// Keeps the bytes of a text file that are no UTF-8 beside it, at Kept_Path, before the file is replaced by what could
 /// be read of it, which is nothing. Returns false when they should be kept and can not be.

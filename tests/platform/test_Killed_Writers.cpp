@@ -108,6 +108,8 @@ protected:
                     return kills;
                 }
                 ++kills;
+                if (QFile::exists(Append_Note_Path(Path())))
+                    Clear_Up_After_A_Kill(m_folder.path(), QStringLiteral(".ZOVA"));
                 const Content left = In_The_File();
                 const bool is_whole = left == states.at(count) || left == states.at(count + 1);
                 const bool is_extra = std::ranges::find(extra, left) != extra.end();
@@ -120,7 +122,8 @@ protected:
         }
     }
 
-    /// A killed replacement may be left under the one name, and the next one takes it away.
+    /// A killed replacement may be left under the one name, and the next one takes it away. The note of an append has
+    /// gone with what it was for.
     void Expect_Nothing_Strange_Beside() const
     {
         const QStringList beside = Beside();
@@ -149,6 +152,9 @@ protected:
                     made = calls.Made().size();
                 }
                 EXPECT_EQ(In_The_File(), has_worked ? step.After(before) : before) << strerror(error) << " at " << call;
+                // A note that could not be taken away is, by the next start, and has nothing to say.
+                Clear_Up_After_A_Kill(m_folder.path(), QStringLiteral(".ZOVA"));
+                EXPECT_EQ(In_The_File(), has_worked ? step.After(before) : before) << strerror(error) << " at " << call;
                 EXPECT_EQ(Beside(), QStringList()) << strerror(error) << " at " << call;
                 if (made < call) {
                     EXPECT_TRUE(has_worked);
@@ -158,7 +164,6 @@ protected:
         }
     }
 
-private:
     QTemporaryDir m_folder;
 };
 
@@ -198,8 +203,14 @@ TEST_F(Killed_Writers, A_Replacement_Killed_Between_Its_Many_Writes_Leaves_The_O
 TEST_F(Killed_Writers, A_Killed_Append_Leaves_The_Record_Whole_Or_Missing)
 {
     EXPECT_EQ(Kill_Everywhere(QByteArray("\a1\vone\a02/01/2024\v\n"), {Append("\a2\vtwo\a\v\n")}), 12);
-    EXPECT_EQ(Kill_Everywhere(Large('o'), {Append(Large('r'))}), 12);
+    EXPECT_EQ(Kill_Everywhere(Large('o'), {Append(Large('r'))}), 22) << "with a note";
     EXPECT_EQ(Kill_Everywhere({}, {Append("first\n")}, {}, {QByteArray()}), 14) << "the file may be there";
+}
+
+TEST_F(Killed_Writers, An_Append_That_Is_Killed_Between_Its_Writes_Is_Cut_Back_By_The_Next_Start)
+{
+    EXPECT_EQ(Kill_Everywhere(Large('o'), {Append(Large('r'))}, {.longest = 1000}), 2 * (9 + 66 + 66));
+    EXPECT_EQ(Kill_Everywhere(QByteArray(4090, 'o'), {Append("a record\n")}, {.longest = 1}), 2 * (9 + 14 + 9));
 }
 
 TEST_F(Killed_Writers, A_Writer_Killed_Anywhere_In_A_Long_Run_Misses_One_Step_At_The_Most)
@@ -210,7 +221,52 @@ TEST_F(Killed_Writers, A_Writer_Killed_Anywhere_In_A_Long_Run_Misses_One_Step_At
         const QByteArray record = "record " + QByteArray::number(i) + ' ' + QByteArray(i * 20, 'm') + '\n';
         steps.push_back(i % 10 == 9 ? Replace("rewritten, " + record) : Append(record));
     }
-    EXPECT_EQ(Kill_Everywhere(before, steps), 2 * (3 * 10 + 27 * 6));
+    EXPECT_EQ(Kill_Everywhere(before, steps), 2 * (3 * 10 + 27 * 6 + 5)) << "one of them fills a page";
+}
+
+TEST_F(Killed_Writers, Only_A_Part_Of_The_Record_That_Was_Noted_Is_Cut_Off)
+{
+    const QByteArray old = "old\n";
+    const QByteArray record = "a record\n";
+    const QByteArray note = "4\n" + record;
+    const auto after_a_start = [&](const Content& found, const QByteArray& noted) {
+        Put_In_The_File(found);
+        QFile file(Append_Note_Path(Path()));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(noted) == noted.size());
+        file.close();
+        Clear_Up_After_A_Kill(m_folder.path(), QStringLiteral(".ZOVA"));
+        EXPECT_EQ(Beside(), QStringList());
+        return In_The_File();
+    };
+    for (qsizetype part = 0; part < record.size(); ++part)
+        EXPECT_EQ(after_a_start(old + record.left(part), note), old) << part;
+    for (const QByteArray& whole : {old + record, old + "another\n", old + record + record.left(3), old.left(2)})
+        EXPECT_EQ(after_a_start(whole, note), whole) << whole.constData();
+    EXPECT_EQ(after_a_start({}, note), Content());
+    for (const QByteArray& half_a_note : {QByteArray(), QByteArray("4"), note.left(2), QByteArray("x\na rec"),
+                                          QByteArray("-4\na record\n"), QByteArray("99999999999999999999\na")})
+        EXPECT_EQ(after_a_start(old + "a rec", half_a_note), old + "a rec") << half_a_note.constData();
+}
+
+TEST_F(Killed_Writers, A_Start_Takes_Away_What_Is_The_Programs_Own_And_Nothing_Else)
+{
+    const QStringList own = {"Store.ZOVA.new", "a list.ZOVA.new", ".hidden.ZOVA.new", "Store.ZOVA.unreadable.new",
+                             "Store.ZOVA.appending"};
+    const QStringList others = {"Store.ZOVA",     "Store.ZOVA.unreadable", "Store.new", "Store.ZOVA.new.ZOVA",
+                                "Store.zova.new", "Store.appending",       "new"};
+    for (const QString& name : own + others) {
+        QFile file(QDir(m_folder.path()).filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    }
+    ASSERT_TRUE(QDir(m_folder.path()).mkdir("Folder.ZOVA.new"));
+    ASSERT_TRUE(QFile::link("/dev/null", QDir(m_folder.path()).filePath("Link.ZOVA.appending")));
+    Clear_Up_After_A_Kill(m_folder.path(), QStringLiteral(".ZOVA"));
+    QStringList left = Beside();
+    left.sort();
+    QStringList expected = others.mid(1) + QStringList{"Folder.ZOVA.new"};
+    expected.sort();
+    EXPECT_EQ(left, expected);
+    EXPECT_TRUE(QFile::exists("/dev/null"));
 }
 
 TEST_F(Killed_Writers, A_Replacement_That_Fails_Leaves_The_Old_File_And_Nothing_Beside_It)

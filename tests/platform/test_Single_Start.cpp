@@ -99,6 +99,27 @@ TEST_F(Single_Start_Test, The_First_Start_Makes_The_Folder_And_Keeps_It_Private)
     EXPECT_EQ(Mode_Of(In_Folder("Running.socket")), 0600U);
 }
 
+TEST_F(Single_Start_Test, Only_Who_Has_Both_Locks_Is_Alone)
+{
+    Single_Start start(Folder());
+    EXPECT_FALSE(start.Is_Alone());
+    EXPECT_EQ(start.Begin(), Outcome::First);
+    EXPECT_TRUE(start.Is_Alone());
+    EXPECT_TRUE(start.Is_Alone()) << "asking changes nothing";
+    EXPECT_EQ(Start_Again(0.1), Outcome::No_Answer);
+    Single_Start second(Folder());
+    EXPECT_EQ(second.Begin(0), Outcome::No_Answer);
+    EXPECT_FALSE(second.Is_Alone());
+}
+
+TEST_F(Single_Start_Test, On_A_File_System_Without_Locks_Nobody_Is_Certain_To_Be_Alone)
+{
+    Flock_Error = ENOLCK;
+    Single_Start start(Folder());
+    EXPECT_EQ(start.Begin(), Outcome::First);
+    EXPECT_FALSE(start.Is_Alone());
+}
+
 TEST_F(Single_Start_Test, A_Folder_Left_Open_Is_Closed_To_Others)
 {
     ASSERT_TRUE(QDir().mkpath(Folder()));

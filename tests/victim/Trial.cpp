@@ -1,0 +1,164 @@
+#include "victim/Trial.h"
+
+#include <QDate>
+#include <atomic>
+#include <gtest/gtest.h>
+#include <thread>
+
+namespace {
+
+constexpr int Lanes = 4; // the lives mostly wait
+constexpr int Tries = 30;
+constexpr int Lives_Between_Looks = 10;
+
+bool Is_Death(const Doom& doom)
+{
+    return doom.way == Doom::Way::Kill_Before || doom.way == Doom::Way::Kill_After ||
+           doom.way == Doom::Way::Kill_Within;
+}
+
+// The lives of one trial.
+class Lives
+{
+public:
+    explicit Lives(const Trial& trial) : m_trial(trial) {}
+
+    int Try_All(const std::function<std::vector<Doom>(const Ending& whole)>& fates)
+    {
+        Live_The_Whole();
+        m_fates = fates(m_whole.ending);
+        std::vector<std::jthread> threads;
+        for (int i = 0; i < Lanes; ++i)
+            threads.emplace_back([this] { Live_In_A_Lane(); });
+        threads.clear();
+        return m_came_true;
+    }
+
+private:
+    void Live_The_Whole()
+    {
+        Lane lane;
+        lane.needs_phone = m_trial.needs_phone;
+        bool is_whole = false;
+        for (int tries = 0; tries < Tries && !is_whole; ++tries) {
+            m_whole.ending = Live(lane, {});
+            m_whole.picked = lane.world.Picked();
+            is_whole = m_whole.ending.lived && m_trial.is_whole(m_whole.ending);
+        }
+        EXPECT_TRUE(is_whole);
+        m_trial.check(lane, m_whole, m_whole.ending);
+    }
+
+    void Live_In_A_Lane()
+    {
+        Lane lane;
+        lane.needs_phone = m_trial.needs_phone;
+        for (int life = 1;; ++life) {
+            const std::size_t next = m_next++;
+            if (next >= m_fates.size() || testing::Test::HasFailure())
+                return;
+            bool comes_true = false;
+            for (int tries = 0; tries < Tries && !comes_true; ++tries)
+                comes_true = Comes_True(lane, m_fates.at(next));
+            m_came_true += comes_true ? 1 : 0;
+            if (life % Lives_Between_Looks == 0)
+                m_trial.look_closer(lane);
+        }
+    }
+
+    bool Comes_True(Lane& lane, const Doom& doom)
+    {
+        const Ending ending = Live(lane, doom);
+        const std::string last = ending.made.value(doom.at - 1).toStdString();
+        SCOPED_TRACE(std::string(m_trial.errand.steps) + ": " + static_cast<char>(doom.way) + " at call " +
+                     std::to_string(doom.at) + " for " + std::to_string(doom.error) + ": " + last);
+        m_trial.check(lane, m_whole, ending);
+        return Is_Death(doom) ? ending.was_killed : m_trial.is_whole(ending);
+    }
+
+    Ending Live(Lane& lane, const Doom& doom)
+    {
+        m_trial.prepare(lane.world);
+        lane.Plug_In_Again();
+        lane.phone.Forget();
+        Errand errand = m_trial.errand;
+        errand.doom = doom;
+        errand.doom.counts_reads = m_trial.errand.doom.counts_reads;
+        return lane.Live(errand);
+    }
+
+    const Trial& m_trial;
+    Whole m_whole;
+    std::vector<Doom> m_fates;
+    std::atomic<std::size_t> m_next = 0;
+    std::atomic<int> m_came_true = 0;
+};
+
+} // namespace
+
+Ending Lane::Live(Errand errand)
+{
+    if (needs_phone)
+        errand.phone = phone.Path();
+    return victim.Live(world.Path(), errand);
+}
+
+void Lane::Plug_In_Again()
+{
+    if (needs_phone)
+        phone.Plug_In_Again();
+}
+
+int Try_All(const Trial& trial, const std::function<std::vector<Doom>(const Ending& whole)>& fates)
+{
+    return Lives(trial).Try_All(fates);
+}
+
+QByteArrayList Steps_In(const Ending& ending)
+{
+    QByteArrayList steps;
+    for (const QByteArray& line : ending.journal) {
+        if (line.startsWith("boxes "))
+            steps.append(line.mid(6, line.lastIndexOf(' ') - 6));
+    }
+    return steps;
+}
+
+void Expect_A_Good_Start(Lane& lane)
+{
+    const Ending start = lane.Live({});
+    EXPECT_TRUE(start.lived);
+    EXPECT_TRUE(start.Says("outcome first")) << "a lock of the dead is taken for one of the living";
+    EXPECT_TRUE(start.Says("started"));
+    EXPECT_EQ(start.All_Boxes().join(u'|').toStdString(), "");
+    EXPECT_EQ(lane.world.Strangers(), "");
+}
+
+QByteArray Text_Of(int item)
+{
+    return "message " + QByteArray::number(item) + ' ' + QByteArray(item % 4 == 3 ? 150 : 20, 'x');
+}
+
+QByteArray Record_Of(int item)
+{
+    return World::Record(item, Text_Of(item), QDate::currentDate().toString(QStringLiteral("dd/MM/yyyy")).toUtf8());
+}
+
+int Messages_In(const Virtual_Phone& phone)
+{
+    do
+        phone.Heard();
+    while (!phone.Is_Silent(15));
+    const auto inbox = phone.Inbox();
+    for (std::size_t item = 0; item < inbox.size(); ++item) {
+        const int number = First_Number + static_cast<int>(item);
+        EXPECT_EQ(inbox.at(item).m_number, std::to_string(number));
+        EXPECT_EQ(inbox.at(item).m_text, Text_Of(number).toStdString());
+    }
+    return static_cast<int>(inbox.size());
+}
+
+bool Is_Whole_Job(const Ending& ending)
+{
+    return ending.All_Boxes() == QStringList{QStringLiteral("\nMessage Sending Process Completed.")};
+}
