@@ -1,3 +1,3 @@
 #include "device/Stop_Flag.h"
 
-std::atomic<int> Stop_SMS_Sending_Now{0};
+Stop_Flag Stop_SMS_Sending_Now;

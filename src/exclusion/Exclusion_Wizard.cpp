@@ -17,7 +17,6 @@
 #include "platform/Input_Hold.h"
 #include "platform/Interface_Thread.h"
 #include "platform/Row_Table_Model.h"
-#include "platform/Waiting.h"
 #include "ui_Exclusion_Wizard.h"
 
 #include <QHeaderView>
@@ -156,7 +155,7 @@ void Exclusion_Wizard::Open_Exclusion_Wnd()
 
 void Exclusion_Wizard::Start_Loading()
 {
-    m_is_over = false;
+    m_is_over = 0;
     *m_is_loading = true;
     m_input_hold = std::make_unique<Input_Hold>(this);
     Start_Worker("load exclusion", [this, is_loading = m_is_loading] {
@@ -171,7 +170,7 @@ void Exclusion_Wizard::Start_Loading()
 void Exclusion_Wizard::Load_Thread()
 {
     LoadItems();
-    Wait_Seconds_Unless(Wait_After_Loading_Seconds, [this] { return m_is_over.load(); });
+    m_is_over.Wait(Wait_After_Loading_Seconds);
     Run_On_Interface_Thread([this] {
         for (QTableView* table : {m_ui->m_exclusion_list, m_ui->m_applied_axclusion_list}) {
             table->scrollToTop();
@@ -200,7 +199,7 @@ void Exclusion_Wizard::LoadItems()
 // The worker may be in its wait: it is told that nobody looks any more.
 void Exclusion_Wizard::End_Run()
 {
-    m_is_over = true;
+    m_is_over = 1;
     Run_On_Worker([this] { m_is_loading->wait(true); });
     m_input_hold.reset();
     plz_wait_Window->End_Sheet();

@@ -3,6 +3,7 @@
 #include "exclusion/Edited_Numbers.h"
 #include "exclusion/Excluded_Numbers.h"
 #include "exclusion/Exclusion_Steps.h"
+#include "platform/Waiting.h"
 
 #include <QDialog>
 #include <QStringList>
@@ -166,6 +167,6 @@ private:
 
     std::unique_ptr<Input_Hold> m_input_hold; // until the lists are in
     bool m_is_working = false;
-    std::atomic<bool> m_is_over{false};              // the window has been closed
+    Stop_Flag m_is_over;                             // the window has been closed
     std::shared_ptr<std::atomic<bool>> m_is_loading; // outlives the window in the worker that clears it
 };

@@ -14,6 +14,7 @@
 #include <mutex>
 #include <poll.h>
 #include <sys/eventfd.h>
+#include <sys/prctl.h>
 #include <unistd.h>
 
 namespace {
@@ -36,41 +37,80 @@ Exit_Signal& The_Exit_Signal()
 constexpr double Slice_Seconds = 0.05;
 constexpr double Longest_Wait = 365 * 24 * 3600.0; // a pace near 0 asks for more than any clock can count
 
-// For timers and poll; whoever waits longer than an hour comes back for more.
+constexpr double Longest_At_Once = 3600; // whoever waits longer than an hour comes back for more
+
+// For timers, which know nothing shorter.
 int Whole_Milliseconds(double seconds)
 {
-    return static_cast<int>(std::ceil(std::min(seconds, 3600.0) * 1000));
+    return static_cast<int>(std::ceil(std::min(seconds, Longest_At_Once) * 1000));
 }
 
-void Sleep_On_Worker(double seconds)
+// To the nanosecond: a time-out that is rounded up adds its rest to every read of a job.
+timespec Time_Out(double seconds)
 {
+    constexpr double nanoseconds = 1e9;
+    const double limited = std::clamp(seconds, 0.0, Longest_At_Once);
+    const auto whole = static_cast<time_t>(limited);
+    return {whole, static_cast<long>((limited - static_cast<double>(whole)) * nanoseconds)};
+}
+
+// What the two kinds of wait end for, next to their time: the exit, and a flag if there is one.
+using Flag = const std::atomic<int>*;
+
+bool Is_Over(Flag flag)
+{
+    return Program_Is_Exiting() || (flag && *flag != 0);
+}
+
+// Unless told otherwise the system ends a thread's waits some 50 us late, so as to end many at once: a job waits three
+// times for each message.
+void Be_On_Time()
+{
+    static thread_local const int set = prctl(PR_SET_TIMERSLACK, 1UL);
+    static_cast<void>(set);
+}
+
+void Sleep_On_Worker(double seconds, Flag flag)
+{
+    Be_On_Time();
     auto& exit_signal = The_Exit_Signal();
     std::unique_lock guard(exit_signal.lock);
-    exit_signal.changed.wait_for(guard, std::chrono::duration<double>(seconds),
-                                 [&] { return exit_signal.is_set.load(); });
+    exit_signal.changed.wait_for(guard, std::chrono::duration<double>(seconds), [flag] { return Is_Over(flag); });
 }
 
 // Paints, timers and workers' calls are served meanwhile; what the user types or clicks waits.
-void Serve_On_Interface_Thread(double seconds)
+void Serve_On_Interface_Thread(double seconds, Flag flag)
 {
     const double end = Now_Seconds() + seconds;
     QTimer alarm;
     alarm.setTimerType(Qt::PreciseTimer);
     alarm.start(Whole_Milliseconds(seconds));
     Wake_Interface_Thread();
-    while (Now_Seconds() < end && !Program_Is_Exiting())
+    while (Now_Seconds() < end && !Is_Over(flag))
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
     Wake_Interface_Thread();
 }
 
-void Wait_Real_Seconds(double seconds)
+void Wait_Real_Seconds(double seconds, Flag flag = nullptr)
 {
-    if (seconds <= 0 || Program_Is_Exiting())
+    if (seconds <= 0 || Is_Over(flag))
         return;
     if (Is_Interface_Thread())
-        Serve_On_Interface_Thread(seconds);
+        Serve_On_Interface_Thread(seconds, flag);
     else
-        Sleep_On_Worker(seconds);
+        Sleep_On_Worker(seconds, flag);
+}
+
+// Sleepers look at what they wait for under the lock: what is set under it too is never set between look and sleep.
+void Set_And_Wake(const std::function<void()>& set)
+{
+    auto& exit_signal = The_Exit_Signal();
+    {
+        const std::lock_guard guard(exit_signal.lock);
+        set();
+    }
+    exit_signal.changed.notify_all();
+    Wake_Interface_Thread();
 }
 
 } // namespace
@@ -112,8 +152,23 @@ void Wait_Seconds_Unless(double seconds, const std::function<bool()>& is_over)
     }
 }
 
+Stop_Flag& Stop_Flag::operator=(int asked)
+{
+    if (asked == 0)
+        m_asked = 0; // nobody sleeps until that
+    else
+        Set_And_Wake([this, asked] { m_asked = asked; });
+    return *this;
+}
+
+void Stop_Flag::Wait(double seconds) const
+{
+    Wait_Real_Seconds(Paced(seconds), &m_asked);
+}
+
 Line_Event Wait_For_Descriptor(int descriptor, short events, double seconds, int wake_descriptor)
 {
+    Be_On_Time();
     const double end = Now_Seconds() + seconds;
     for (;;) {
         if (Program_Is_Exiting())
@@ -121,8 +176,9 @@ Line_Event Wait_For_Descriptor(int descriptor, short events, double seconds, int
         const double left = end - Now_Seconds();
         pollfd waited[3] = {{descriptor, events, 0},
                             {The_Exit_Signal().descriptor, POLLIN, 0},
-                            {wake_descriptor, POLLIN, 0}}; // poll passes over a descriptor of -1
-        const int ready = poll(waited, 3, seconds < 0 ? -1 : Whole_Milliseconds(std::max(0.0, left)));
+                            {wake_descriptor, POLLIN, 0}}; // ppoll passes over a descriptor of -1
+        const timespec time_out = Time_Out(left);
+        const int ready = ppoll(waited, 3, seconds < 0 ? nullptr : &time_out, nullptr);
         if (ready < 0 && errno != EINTR)
             return Line_Event::Failed;
         if (ready > 0) {
@@ -148,13 +204,10 @@ bool Program_Is_Exiting()
 void Begin_Program_Exit()
 {
     auto& exit_signal = The_Exit_Signal();
-    {
-        const std::lock_guard guard(exit_signal.lock);
+    Set_And_Wake([&exit_signal] {
         exit_signal.is_set = true;
-    }
-    eventfd_write(exit_signal.descriptor, 1);
-    exit_signal.changed.notify_all();
-    Wake_Interface_Thread();
+        eventfd_write(exit_signal.descriptor, 1);
+    });
 }
 
 void Forget_Program_Exit()

@@ -2,6 +2,7 @@
 
 #include <QDate>
 #include <QEventLoop>
+#include <atomic>
 #include <functional>
 
 // The one door to time. Nothing else in the program sleeps, waits for a descriptor or reads a clock.
@@ -23,15 +24,36 @@ double Paced_Read_Timeout(double seconds);
 /// the interface thread goes on painting and serving workers, while user input is held back.
 void Wait_Seconds(double seconds);
 
-/// The same, but ends at once when is_over, asked every time slice of at most 50 ms, answers yes.
+/// The same, but ends at once when is_over, asked every time slice of at most 50 ms, answers yes. For short waits for
+/// what nobody tells of: each slice wakes the thread. What is told of is a Stop_Flag.
 void Wait_Seconds_Unless(double seconds, const std::function<bool()>& is_over);
+
+// An integer that threads share, 1 to ask for an end and 0 otherwise, and a wait that hears of it at once: it wakes
+// nobody before. Belongs to whoever is asked; may be set, read and waited for from any thread.
+class Stop_Flag
+{
+public:
+    constexpr Stop_Flag() = default;
+    Stop_Flag(const Stop_Flag&) = delete;
+    Stop_Flag& operator=(const Stop_Flag&) = delete;
+
+    /// What is set to 1 ends every wait for it, those that begin later included.
+    Stop_Flag& operator=(int asked);
+    operator int() const { return m_asked; } // NOLINT(google-explicit-constructor): it is an integer with a wait
+
+    /// As Wait_Seconds, unless it is asked, before or meanwhile.
+    void Wait(double seconds) const;
+
+private:
+    std::atomic<int> m_asked{0};
+};
 
 enum class Line_Event
 {
     Ready,     ///< what was waited for has come, or the line has hung up: the next read or write tells
     Timed_Out, ///< the time has gone by, or the program is exiting
     Woken,     ///< the second descriptor was signalled
-    Failed     ///< poll failed or the descriptor is not open; errno says why
+    Failed     ///< ppoll failed or the descriptor is not open; errno says why
 };
 
 /// Waits until a descriptor has input (POLLIN) or room (POLLOUT). The seconds are real ones, already paced; below 0

@@ -2,20 +2,14 @@
 
 #include "app/shared/Globals.h"
 #include "platform/Pace.h"
-#include "platform/Waiting.h"
 #include "sending/Delayed_Delivery.h"
 #include "sending/Send_Progress.h"
-
-#include <utility>
 
 namespace {
 constexpr qint64 Milliseconds = 1000; // in a second
 }
 
-Pause_Countdown::Pause_Countdown(Send_Progress& progress, std::function<bool()> is_asked_to_stop)
-    : m_progress(progress), m_is_asked_to_stop(std::move(is_asked_to_stop))
-{
-}
+Pause_Countdown::Pause_Countdown(Send_Progress& progress, const Stop_Flag& stop) : m_progress(progress), m_stop(stop) {}
 
 void Pause_Countdown::Pause(qint64 seconds)
 {
@@ -27,7 +21,7 @@ void Pause_Countdown::Pause(qint64 seconds)
     Pause_Timer_Running = true;
     Calculate_Pause_Time(GSM_Pause_Delay_Time);
     // Each step waits for its own moment on the clock, so that what a step takes does not add up over an hour.
-    for (qint64 gone = 1; gone <= seconds && !m_is_asked_to_stop(); ++gone) {
+    for (qint64 gone = 1; gone <= seconds && !Is_Asked_To_Stop(); ++gone) {
         Wait_Until(begin + Paced(static_cast<double>(gone)));
         GSM_Pause_Delay_Time = (seconds - gone) * Milliseconds;
         if (GSM_Pause_Delay_Time > 0)
@@ -50,5 +44,10 @@ void Pause_Countdown::Pause_Timer_Func()
 
 void Pause_Countdown::Wait_Until(double due)
 {
-    Wait_Seconds_Unless((due - Now_Seconds()) * Pace(), m_is_asked_to_stop);
+    m_stop.Wait((due - Now_Seconds()) * Pace());
+}
+
+bool Pause_Countdown::Is_Asked_To_Stop() const
+{
+    return m_stop == 1 || Program_Is_Exiting();
 }

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "platform/Waiting.h"
+
 #include <QtGlobal>
-#include <functional>
 
 class Send_Progress;
 
@@ -10,19 +11,19 @@ class Send_Progress;
 class Pause_Countdown
 {
 public:
-    /// is_asked_to_stop is asked often, from this thread.
-    Pause_Countdown(Send_Progress& progress, std::function<bool()> is_asked_to_stop);
+    Pause_Countdown(Send_Progress& progress, const Stop_Flag& stop);
 
-    /// Pauses for exactly this many seconds of the described time, or until asked to stop, which ends it within one
-    /// second at any pace. The label counts them down to 1 and is empty afterwards.
+    /// Pauses for exactly this many seconds of the described time, or until asked to stop, which ends it at once. The
+    /// label counts them down to 1 and is empty afterwards. Wakes once a second, for the label.
     void Pause(qint64 seconds);
 
 private:
     void Calculate_Pause_Time(qint64 milliseconds);
     void Pause_Timer_Func();
     void Wait_Until(double due);
+    bool Is_Asked_To_Stop() const;
 
     Send_Progress& m_progress;
-    std::function<bool()> m_is_asked_to_stop;
+    const Stop_Flag& m_stop;
     qint64 GSM_Pause_Delay_Time = 0; // milliseconds still to wait; 0 when no pause runs
 };

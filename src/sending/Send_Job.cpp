@@ -159,7 +159,7 @@ void Send_Job::Send_Items()
 // Answers whether the next item is to follow.
 bool Send_Job::Send_Item(int index)
 {
-    const Recipient& recipient = m_order.recipients.At(index);
+    const Recipient recipient = m_order.recipients.At(index);
     const QString message = Composer_Rules::Cut_To_Limit(recipient.Message);
     m_progress.Show_Item(index + 1, m_order.recipients.Count(), recipient.Number);
     Pause_Timer_Running = false;
@@ -195,7 +195,7 @@ void Send_Job::Pause_If_Due(int index)
         return;
     m_batch_count = 0;
     if (index + 1 < m_order.recipients.Count())
-        Pause_Countdown(m_progress, Is_Asked_To_Stop).Pause(m_delivery.pause_in_seconds);
+        Pause_Countdown(m_progress, Stop_SMS_Sending_Now).Pause(m_delivery.pause_in_seconds);
 }
 
 bool Send_Job::Skip_Item(int index, const QString& number)

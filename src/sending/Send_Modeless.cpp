@@ -106,15 +106,22 @@ void Send_Modeless::Begin_Sending()
     });
 }
 
+// The job does not wait while the bars paint themselves: it goes on with the message. It waits when the item before is
+// not even shown, so that a hasty job is never more than one item ahead of its window.
 void Send_Modeless::Show_Item(int position, int total, const QString& number)
 {
-    Run_On_Interface_Thread([&] {
+    const auto show = [this, position, total, number] {
+        m_is_item_on_its_way = false;
         m_ui->_Tot_Progress->setValue(position);
         m_ui->_curr_msg_cnt->setText(QString::number(position) + QStringLiteral(" / ") + QString::number(total) +
                                      QStringLiteral(" Message"));
         m_ui->_current_send_msg->setText(number);
         m_ui->_Curr_Progress->setValue(Activity_End);
-    });
+    };
+    if (Is_Interface_Thread() || m_is_item_on_its_way.exchange(true))
+        Run_On_Interface_Thread(show);
+    else
+        Post_To_Interface_Thread(this, show);
 }
 
 void Send_Modeless::Show_Current(const QString& text)

@@ -4,6 +4,7 @@
 #include "sending/Send_Progress.h"
 
 #include <QTimer>
+#include <atomic>
 #include <functional>
 #include <memory>
 
@@ -47,4 +48,5 @@ private:
 
     std::unique_ptr<Ui::Send_Modeless> m_ui;
     QTimer msend_modTimer{this};
+    std::atomic<bool> m_is_item_on_its_way{false}; // to the interface thread, which has not shown it yet
 };

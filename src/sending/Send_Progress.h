@@ -5,7 +5,8 @@
 class Main_Window;
 
 // What a send job shows while it runs, as the job sees it: no widget, only steps. The job calls every operation from
-// its own thread and may call them in any order and more than once; each is done when it returns.
+// its own thread and may call them in any order and more than once. What they show comes in that order; each but
+// Show_Item is done when it returns.
 class Send_Progress
 {
 public:
@@ -15,7 +16,7 @@ public:
     virtual void Begin_Preparing(Main_Window& window, int total) = 0;
     /// The device is ready: items follow, and the job can be stopped.
     virtual void Begin_Sending() = 0;
-    /// The item at a position from 1 to total is being handled.
+    /// The item at a position from 1 to total is being handled. The job need not wait until it is shown.
     virtual void Show_Item(int position, int total, const QString& number) = 0;
     /// Says something else where the number stands.
     virtual void Show_Current(const QString& text) = 0;

@@ -1,5 +1,6 @@
 #include "platform/Waiting.h"
 
+#include <algorithm>
 #include <atomic>
 #include <cerrno>
 #include <csignal>
@@ -90,6 +91,18 @@ TEST_F(Wait_For_A_Line, Silence_Lasts_The_Whole_Time)
     EXPECT_EQ(Wait_For_Descriptor(Reading_End(), POLLIN, 0.05), Line_Event::Timed_Out);
     EXPECT_GE(Now_Seconds() - start, 0.05);
     EXPECT_EQ(Wait_For_Descriptor(Reading_End(), POLLIN, 0), Line_Event::Timed_Out);
+}
+
+TEST_F(Wait_For_A_Line, A_Part_Of_A_Millisecond_Is_Not_Rounded_Up)
+{
+    double shortest = 3600; // of many: a loaded computer may be late every now and then
+    for (int round = 0; round < 200; ++round) {
+        const double start = Now_Seconds();
+        EXPECT_EQ(Wait_For_Descriptor(Reading_End(), POLLIN, 0.0011), Line_Event::Timed_Out);
+        shortest = std::min(shortest, Now_Seconds() - start);
+    }
+    EXPECT_GE(shortest, 0.0011);
+    EXPECT_LT(shortest, 0.0019);
 }
 
 TEST_F(Wait_For_A_Line, A_Wait_Without_End_Ends_With_Input)

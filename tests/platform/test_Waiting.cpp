@@ -9,6 +9,7 @@
 #include <atomic>
 #include <cerrno>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <thread>
 
 namespace {
@@ -173,6 +174,93 @@ TEST_F(Waiting, A_Wait_Ends_When_What_It_Waits_For_Is_Over)
     Begin_Program_Exit();
     Wait_Seconds_Unless(3600, [&] { return ++asked == 3; });
     EXPECT_EQ(asked, 1);
+}
+
+TEST_F(Waiting, A_Stop_Ends_A_Wait_For_It_Whoever_Asks_And_Whoever_Waits)
+{
+    Stop_Flag stop;
+    std::atomic<bool> has_begun{false};
+    std::thread worker([&] {
+        has_begun = true;
+        stop.Wait(3600);
+    });
+    while (!has_begun)
+        std::this_thread::yield();
+    EXPECT_LT(Seconds_Of([&] {
+                  stop = 1;
+                  worker.join();
+              }),
+              Much_Longer_Than_Needed);
+
+    stop = 0;
+    Start_Worker("stops", [&] { stop = 1; });
+    EXPECT_LT(Seconds_Of([&] { stop.Wait(3600); }), Much_Longer_Than_Needed) << "on the interface thread";
+    Finish_Workers();
+}
+
+TEST_F(Waiting, A_Stop_Asked_For_Before_The_Wait_Is_Heard_Too)
+{
+    Stop_Flag stop;
+    EXPECT_EQ(stop, 0);
+    stop = 1;
+    EXPECT_EQ(stop, 1);
+    const auto wait = [&] { stop.Wait(3600); };
+    EXPECT_LT(Seconds_Of(wait), Much_Longer_Than_Needed);
+    std::thread worker([&] { EXPECT_LT(Seconds_Of(wait), Much_Longer_Than_Needed); });
+    worker.join();
+}
+
+TEST_F(Waiting, No_Stop_Is_Lost_Between_The_Look_And_The_Sleep)
+{
+    Stop_Flag stop;
+    std::atomic<int> begun{0};
+    std::atomic<int> ended{0};
+    constexpr int Rounds = 2000;
+    std::thread worker([&] {
+        for (int round = 1; round <= Rounds; ++round) {
+            begun = round;
+            stop.Wait(3600);
+            stop = 0;
+            ended = round;
+        }
+    });
+    const double time = Seconds_Of([&] {
+        for (int round = 1; round <= Rounds; ++round) {
+            while (begun != round)
+                std::this_thread::yield();
+            stop = 1;
+            while (ended != round)
+                std::this_thread::yield();
+        }
+    });
+    worker.join();
+    EXPECT_LT(time, 3600);
+}
+
+TEST_F(Waiting, Without_A_Stop_The_Paced_Time_Passes_And_The_Exit_Ends_It)
+{
+    const Stop_Flag stop;
+    Set_Pace(10);
+    EXPECT_GE(Seconds_Of([&] { stop.Wait(1); }), 0.1);
+    std::thread worker([&] { EXPECT_GE(Seconds_Of([&] { stop.Wait(1); }), 0.1); });
+    worker.join();
+    Start_Worker("exits", [] { Begin_Program_Exit(); });
+    EXPECT_LT(Seconds_Of([&] { stop.Wait(36000); }), Much_Longer_Than_Needed);
+    Finish_Workers();
+}
+
+TEST_F(Waiting, A_Wait_For_A_Stop_Sleeps_Through)
+{
+    std::thread worker([] {
+        const Stop_Flag stop;
+        rusage before{};
+        rusage after{};
+        getrusage(RUSAGE_THREAD, &before);
+        stop.Wait(0.5);
+        getrusage(RUSAGE_THREAD, &after);
+        EXPECT_LE(after.ru_nvcsw - before.ru_nvcsw, 3) << "the thread was woken before its time";
+    });
+    worker.join();
 }
 
 TEST_F(Waiting, Today_Is_The_Users_Date)

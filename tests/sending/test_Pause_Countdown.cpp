@@ -4,7 +4,6 @@
 #include "platform/Waiting.h"
 #include "sending/Sending_Test.h"
 
-#include <atomic>
 #include <gmock/gmock.h>
 
 namespace {
@@ -29,7 +28,7 @@ protected:
 
     void Pause(qint64 seconds)
     {
-        Run_On_Worker([&] { Pause_Countdown(m_progress, [this] { return m_is_stopped.load(); }).Pause(seconds); });
+        Run_On_Worker([&] { Pause_Countdown(m_progress, m_stop).Pause(seconds); });
     }
 
     QStringList New_Steps() const { return m_progress.Steps().mid(m_steps_before.size()); }
@@ -44,7 +43,7 @@ protected:
     Window_For_Tests m_window;
     Watched_Progress m_progress;
     QStringList m_steps_before;
-    std::atomic<bool> m_is_stopped{false};
+    Stop_Flag m_stop;
 };
 
 QString Pausing(const char* time)
@@ -117,13 +116,25 @@ TEST_F(Pause_Countdown_Test, A_Stop_Ends_It_Within_A_Second_At_The_Pace_It_Ships
     m_progress.m_at_step = [&](const QString& step) {
         if (step == Pausing("1 Hour 0 Minute 0 Seconds.")) {
             stopped_at = Now_Seconds();
-            m_is_stopped = true;
+            m_stop = 1;
         }
     };
     Pause(3600);
     EXPECT_GT(stopped_at, 0);
     EXPECT_LT(Now_Seconds() - stopped_at, 1.0);
     EXPECT_FALSE(Pause_Timer_Running);
+}
+
+TEST_F(Pause_Countdown_Test, A_Stop_From_The_Window_Wakes_The_Sleeping_Pause)
+{
+    Set_Pace(0.001); // a second lasts a quarter of an hour: only the stop can end this
+    m_progress.m_at_step = [&](const QString& step) {
+        if (step == Pausing("3 Seconds."))
+            Post_To_Interface_Thread(qApp, [&] { m_stop = 1; });
+    };
+    Pause(3);
+    EXPECT_EQ(New_Steps().mid(0, 2), (QStringList{"pause", Pausing("3 Seconds.")}));
+    EXPECT_EQ(New_Steps().last(), QStringLiteral("pause over"));
 }
 
 TEST_F(Pause_Countdown_Test, No_Length_Is_No_Pause)
