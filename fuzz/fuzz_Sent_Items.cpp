@@ -1,6 +1,7 @@
 #include "fuzz/Fuzz_Input.h"
 #include "platform/Text_Files.h"
 #include "stores/Sent_Item_Format.h"
+#include "stores/Sent_Item_List.h"
 #include "stores/Stored_Text.h"
 
 namespace {
@@ -21,7 +22,7 @@ QList<Sent_Item> Read_Back(const QList<Sent_Item>& items)
 
 void Read_Any_File(const QByteArray& bytes)
 {
-    const QString text = QString::fromUtf8(bytes);
+    const QString text = Decode_Utf8(bytes).value_or(QString::fromUtf8(bytes));
     QList<Sent_Item> items = Items_In(text);
     qsizetype size = 0;
     for (const Sent_Item& item : items) {
@@ -29,6 +30,15 @@ void Read_Any_File(const QByteArray& bytes)
         size += item.Number.size() + item.Message.size() + item.Date.size() + item.Status.size();
     }
     MUST(size <= text.size());
+
+    // The window's list, which reads the bytes and not their text, has the same records and writes the same file.
+    const QByteArray stored = text.toUtf8();
+    const Sent_Item_List list = Sent_Item_List::Read(stored);
+    MUST(list.size() == items.size());
+    for (qsizetype row = 0; row < items.size(); ++row)
+        MUST(list.at(row) == items.at(row));
+    MUST(list.Lines() == Sent_Item_Format::Lines(items));
+    MUST(Is_Valid_Utf8(bytes) == Decode_Utf8(bytes).has_value());
 
     // A window that is opened and closed again changes nothing but the status, which no file keeps.
     for (Sent_Item& item : items)
@@ -51,7 +61,9 @@ void Write_And_Read(Fuzz_Input& input)
         if (!item || Has_Separator(item->Number) || Has_Separator(item->Message) || Has_Separator(item->Date))
             continue;
         items.append(*item);
-        const auto as_stored = [](const QString& text) { return With_Line_Breaks(As_Stored(On_One_Line(text))); };
+        const auto as_stored = [](const QString& text) {
+            return With_Line_Breaks(As_Stored(With_Line_Break_Tokens(text)));
+        };
         const auto stored = Sent_Item_Format::Record(as_stored(item->Number), as_stored(item->Message),
                                                      as_stored(item->Date), QString());
         if (stored)

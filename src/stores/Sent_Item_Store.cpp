@@ -9,14 +9,16 @@ bool Sent_Item_Store::Append(const Sent_Item& item)
     return Store_File(Sent_Item_Path).Append(Sent_Item_Format::Line(item));
 }
 
-void Sent_Item_Store::Load(const std::function<void(Sent_Item)>& take)
+Sent_Item_List Sent_Item_Store::Load_List(qsizetype early_count,
+                                          const std::function<void(const Sent_Item_List&)>& early)
 {
-    Sent_Item_Format::Read(m_file.Load(), take); // not under the file's lock: taking them may wait for a window
+    // Not under the file's lock: taking the first records may wait for a window.
+    return Sent_Item_List::Read(m_file.Load_Bytes(), early_count, early);
 }
 
-bool Sent_Item_Store::Rewrite(const QList<Sent_Item>& items)
+bool Sent_Item_Store::Rewrite(const Sent_Item_List& items)
 {
-    return m_file.Rewrite(Sent_Item_Format::Lines(items));
+    return m_file.Rewrite(items.Lines());
 }
 
 bool Sent_Item_Store::Clear()

@@ -1,10 +1,9 @@
 #pragma once
 
 #include "app/shared/Globals.h"
-#include "stores/Sent_Item.h"
+#include "stores/Sent_Item_List.h"
 #include "stores/Store_File.h"
 
-#include <QList>
 #include <functional>
 
 // The file of sent items. The send job appends to it; the sent items window keeps an object of its own that loads and
@@ -18,11 +17,12 @@ public:
     /// any worker.
     static bool Append(const Sent_Item& item);
 
-    /// Hands on the records of the file; none of a file that is missing or can not be read.
-    void Load(const std::function<void(Sent_Item)>& take);
+    /// The records of the file; none of a file that is missing or can not be read. Where there are so many, early is
+    /// handed the first of them as soon as they are read.
+    Sent_Item_List Load_List(qsizetype early_count = -1, const std::function<void(const Sent_Item_List&)>& early = {});
 
     /// Writes the records back, each with an empty status. See Store_File for what stays.
-    bool Rewrite(const QList<Sent_Item>& items);
+    bool Rewrite(const Sent_Item_List& items);
     bool Clear();
     void Forget();
 

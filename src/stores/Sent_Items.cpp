@@ -107,7 +107,7 @@ void Sent_Items::tableViewSelectionDidChange()
     if (row < 0 || row >= Count() || static_cast<unsigned>(row) == Prev_Index)
         return;
     Prev_Index = static_cast<unsigned>(row);
-    const Sent_Item& item = nsSendListData.at(row);
+    const Sent_Item item = nsSendListData.at(row);
     m_ui->_Mess_det_edit->setPlainText(QStringLiteral("Number\t: ") + item.Number.left(Longest_Shown) +
                                        QStringLiteral("\r\n\r\nMessage\t: ") + item.Message.left(Longest_Shown) +
                                        QStringLiteral("\r\n\r\nDate:\t ") + item.Date.left(Longest_Shown));

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "stores/Sent_Item.h"
+#include "stores/Sent_Item_List.h"
 #include "stores/Sent_Item_Store.h"
 #include "stores/Store_Window.h"
 
@@ -11,7 +11,7 @@ class Sent_Items;
 // The window of the sent items: shows the file as a table and the selected record in full, deletes records and exports
 // them. The shared instance belongs to Shared_Instance, or to the main window once it was put over it; interface
 // thread.
-class Sent_Items : public Store_Window<Sent_Item, Sent_Item_Store>
+class Sent_Items : public Store_Window<Sent_Item_List, Sent_Item_Store>
 {
     Q_OBJECT
 
@@ -41,5 +41,5 @@ private:
     void Set_Up_Table();
 
     const std::unique_ptr<Ui::Sent_Items> m_ui;
-    QList<Sent_Item> nsSendListData;
+    Sent_Item_List nsSendListData;
 };

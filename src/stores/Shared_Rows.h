@@ -26,10 +26,10 @@ QList<Row> Rows_Without(const QList<Row>& rows, const std::vector<int>& removed)
 }
 
 /// Puts new rows in the place of those shown. Letting go of a million rows takes its time: a worker does it.
-template <typename Row>
-void Put_In_Place(QList<Row>& shown, QList<Row> rows)
+template <typename List>
+void Put_In_Place(List& shown, List rows)
 {
-    shown.swap(rows);
+    std::swap(shown, rows);
     if (rows.size() > 10'000)
         Start_Worker("let go of rows", [old_rows = std::move(rows)] {});
 }

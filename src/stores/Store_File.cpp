@@ -48,11 +48,16 @@ bool Is_Missing(const QString& path)
 
 Store_File::Store_File(QString path) : m_path(std::move(path)) {}
 
-QString Store_File::Load()
+QByteArray Store_File::Load_Bytes()
 {
     const File_Lock lock(m_path);
     m_loaded = Read_File(m_path).value_or(QByteArray());
-    return Decode_Utf8(m_loaded).value_or(QString());
+    return Is_Valid_Utf8(m_loaded) ? m_loaded : QByteArray();
+}
+
+QString Store_File::Load()
+{
+    return Decode_Utf8(Load_Bytes()).value_or(QString());
 }
 
 bool Store_File::Append(const QByteArray& lines) const
@@ -74,10 +79,10 @@ bool Store_File::Rewrite(const QByteArray& lines)
             return false;
         Check_Path_And_Create_Files();
         added = What_Was_Added(m_loaded, *now);
-        if (!Decode_Utf8(added))
+        if (!Is_Valid_Utf8(added))
             added.clear(); // it was kept beside the file, and would make all of it unreadable again
     }
-    if (!Replace_File(m_path, lines + added))
+    if (!Replace_File(m_path, added.isEmpty() ? lines : lines + added))
         return false;
     m_loaded = lines;
     return true;

@@ -11,7 +11,10 @@ class Store_File
 public:
     explicit Store_File(QString path);
 
-    /// The text of the whole file; empty when it is missing, can not be read or is no UTF-8.
+    /// The bytes of the whole file, which are UTF-8; none when it is missing, can not be read or is no UTF-8. What they
+    /// take is taken once: the bytes are the very ones that are remembered.
+    QByteArray Load_Bytes();
+    /// The same as a text.
     QString Load();
 
     /// Makes sure that the data files exist and appends the bytes of whole lines. Returns whether they are in the file

@@ -5,18 +5,21 @@
 #include "stores/List_Window.h"
 #include "stores/Shared_Rows.h"
 
-#include <QList>
 #include <QTableView>
 #include <optional>
+#include <type_traits>
 #include <utility>
 
 // A list window whose rows come from one store: what the window of the sent items and that of the templates do alike
-// with a list, each of which has it as a field of its own. Owned as they are; interface thread.
-template <typename Row, typename Store>
+// with a list, each of which has it as a field of its own: a QList of rows, or what can be used like one. Owned as they
+// are; interface thread.
+template <typename List, typename Store>
 class Store_Window : public List_Window
 {
 protected:
-    Store_Window(QWidget* parent, const Texts& texts, QList<Row>& list) : List_Window(parent, texts), m_list(list) {}
+    using Row = std::decay_t<decltype(std::declval<const List&>().at(0))>;
+
+    Store_Window(QWidget* parent, const Texts& texts, List& list) : List_Window(parent, texts), m_list(list) {}
 
     /// Adds a row at the list's end, if there is one.
     void Add(std::optional<Row> row)
@@ -48,21 +51,18 @@ protected:
     void LoadItems() override
     {
         Run_On_Interface_Thread([this] { Begin_Anew(); });
-        QList<Row> loaded;
-        m_store.Load([&](Row row) {
-            loaded.append(std::move(row));
-            if (loaded.size() == Early_Reload_Count) // a long load shows its first rows early
-                Run_On_Interface_Thread([&] { Publish(loaded); });
-        });
+        // A long load shows its first rows early.
+        List loaded = m_store.Load_List(
+            Early_Reload_Count, [this](const List& first) { Run_On_Interface_Thread([&] { Publish(first); }); });
         Run_On_Interface_Thread([&] {
-            Publish(loaded);
+            Publish(std::move(loaded));
             Table().scrollToTop();
         });
     }
 
     void Remove_Rows(const std::vector<int>& rows) override
     {
-        QList<Row> left;
+        List left;
         Run_On_Worker([&, all = m_list] { left = Rows_Without(all, rows); }, User_Input::Served);
         Put_In_Place(m_list, std::move(left));
     }
@@ -77,12 +77,12 @@ protected:
     void Forget_File() override { m_store.Forget(); }
 
 private:
-    void Publish(const QList<Row>& loaded)
+    void Publish(List loaded)
     {
-        Put_In_Place(m_list, loaded);
+        Put_In_Place(m_list, std::move(loaded));
         Update_Count();
     }
 
-    QList<Row>& m_list;
+    List& m_list;
     Store m_store;
 };

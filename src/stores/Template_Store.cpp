@@ -67,6 +67,18 @@ void Template_Store::Load(const std::function<void(Template_Item)>& take)
     Template_Format::Read(m_file.Load(), take); // not under the file's lock: taking them may wait for a window
 }
 
+QList<Template_Item> Template_Store::Load_List(qsizetype early_count,
+                                               const std::function<void(const QList<Template_Item>&)>& early)
+{
+    QList<Template_Item> list;
+    Load([&](Template_Item item) {
+        list.append(std::move(item));
+        if (list.size() == early_count)
+            early(list);
+    });
+    return list;
+}
+
 bool Template_Store::Rewrite(const QList<Template_Item>& templates)
 {
     return m_file.Rewrite(Template_Format::Lines(templates));

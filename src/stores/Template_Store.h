@@ -26,6 +26,10 @@ public:
     /// Hands on the templates of the file, each once; none of a file that is missing or can not be read.
     void Load(const std::function<void(Template_Item)>& take);
 
+    /// The same as a list. Where there are so many, early is handed the first of them as soon as they are read.
+    QList<Template_Item> Load_List(qsizetype early_count,
+                                   const std::function<void(const QList<Template_Item>&)>& early);
+
     /// Writes the templates back. See Store_File for what stays.
     bool Rewrite(const QList<Template_Item>& templates);
     bool Clear();

@@ -15,7 +15,7 @@ class Templates;
 // The window of the templates: lists them, adds, edits, deletes and exports them, and puts one into the main window's
 // composer. The shared instance belongs to Shared_Instance, or to the main window once it was put over it; interface
 // thread.
-class Templates : public Store_Window<Template_Item, Template_Store>
+class Templates : public Store_Window<QList<Template_Item>, Template_Store>
 {
     Q_OBJECT
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "stores/Sent_Item.h"
+#include "stores/Sent_Item_List.h"
 #include "stores/Template_Item.h"
 
 #include <QList>
@@ -21,6 +21,14 @@ inline QList<Template_Item> Sample_Templates()
     return {{QStringLiteral("Dear  customer,\nyour parcel\nis here.")},
             {QString::fromUtf8("Gr\u00fc\u00dfe \U0001F600")},
             {QStringLiteral("%1 | %@ & <i>")}};
+}
+
+inline QList<Sent_Item> All_Of(const Sent_Item_List& list)
+{
+    QList<Sent_Item> items;
+    for (qsizetype row = 0; row < list.size(); ++row)
+        items.append(list.at(row));
+    return items;
 }
 
 inline void PrintTo(const Sent_Item& item, std::ostream* out)

@@ -37,10 +37,9 @@ TEST_F(Stores, Records_Appended_One_By_One_Make_The_File)
 TEST_F(Stores, A_File_Loaded_And_Rewritten_Is_The_Same_File)
 {
     Put(Sent_Item_Path, Golden("SentItem.ZOVA"));
-    QList<Sent_Item> items;
     Sent_Item_Store store;
-    store.Load([&](Sent_Item item) { items.append(std::move(item)); });
-    EXPECT_EQ(items, Sample_Sent_Items());
+    const Sent_Item_List items = store.Load_List();
+    EXPECT_EQ(All_Of(items), Sample_Sent_Items());
     EXPECT_TRUE(store.Rewrite(items));
     EXPECT_EQ(Bytes_Of(Sent_Item_Path), Golden("SentItem.ZOVA"));
 }
