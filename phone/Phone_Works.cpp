@@ -97,6 +97,12 @@ void Phone_Works::Forget()
     m_heard_something = false;
 }
 
+bool Phone_Works::Says_Something_Before(Clock::time_point moment) const
+{
+    const auto next = m_queue.Next_Moment();
+    return next && *next <= moment;
+}
+
 void Phone_Works::Wake() const
 {
     const std::uint64_t one = 1;
@@ -225,6 +231,7 @@ void Phone_Works::Speak()
     for (auto due = m_queue.Due(now); !due.empty() && !m_has_no_room; due = m_queue.Due(now)) {
         const std::size_t count = m_line.Write(due);
         m_queue.Went_Out(count);
+        m_said += count;
         m_has_no_room = count == 0;
         m_words_are_out = m_words_are_out || count > 0;
     }

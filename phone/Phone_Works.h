@@ -12,6 +12,7 @@
 
 #include <chrono>
 #include <condition_variable>
+#include <cstdint>
 #include <deque>
 #include <mutex>
 #include <optional>
@@ -35,6 +36,8 @@ public:
     void Serve(); // takes what has come and says what is due, at once
     void Say(const Utterance& said);
     void Forget();
+    bool Somebody_Is_There() const { return m_somebody_is_there; }
+    bool Says_Something_Before(Answer_Queue::Clock::time_point moment) const;
 
     std::mutex m_lock;
     std::condition_variable m_changed;
@@ -46,6 +49,7 @@ public:
     std::deque<Handset_Part> m_parts;
     std::deque<Handset_Message> m_inbox;
     bool m_heard_something = false; // since somebody last asked what it heard
+    std::uint64_t m_said = 0;       // bytes that went out
 
 private:
     // What the listeners have not been told yet; an arrival, or nothing for a hang-up.

@@ -52,6 +52,22 @@ bool Virtual_Phone::Is_Silent(int milliseconds) const
                                         [&] { return m_works->m_heard_something; });
 }
 
+std::uint64_t Virtual_Phone::Said(std::chrono::milliseconds within) const
+{
+    const auto end = std::chrono::steady_clock::now() + within;
+    std::unique_lock guard(m_works->m_lock);
+    m_works->Serve();
+    m_works->m_changed.wait_until(guard, end, [&] { return !m_works->Says_Something_Before(end); });
+    return m_works->m_said;
+}
+
+bool Virtual_Phone::Somebody_Is_There() const
+{
+    const std::lock_guard guard(m_works->m_lock);
+    m_works->Serve();
+    return m_works->Somebody_Is_There();
+}
+
 void Virtual_Phone::Forget()
 {
     const std::lock_guard guard(m_works->m_lock);

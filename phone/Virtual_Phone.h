@@ -9,6 +9,7 @@
 
 #include <chrono>
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -47,6 +48,13 @@ public:
 
     // Waits this long; true when nothing was heard since the last Heard() or Heard_Bytes() and nothing comes meanwhile.
     bool Is_Silent(int milliseconds = 50) const;
+
+    // How many bytes have gone out on the line so far, after what is due within this time has gone out, too. An answer
+    // that is due later is not waited for.
+    std::uint64_t Said(std::chrono::milliseconds within = {}) const;
+
+    // Whether anybody has the line open.
+    bool Somebody_Is_There() const;
 
     // Clears what was heard, the inbox, the parts and half-received messages, and counts messages from 1 again.
     void Forget();

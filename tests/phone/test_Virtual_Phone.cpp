@@ -256,3 +256,34 @@ TEST(Virtual_Phone, Many_Threads_May_Ask_At_Once)
     for (auto& asker : askers)
         asker.join();
 }
+
+TEST(Virtual_Phone, Knows_Whether_Anybody_Has_Its_Line_Open)
+{
+    Virtual_Phone phone;
+    EXPECT_FALSE(phone.Somebody_Is_There());
+    {
+        Line_Peer peer(phone.Path());
+        EXPECT_TRUE(phone.Somebody_Is_There());
+        phone.Hang_Up();
+        EXPECT_FALSE(phone.Somebody_Is_There());
+    }
+    phone.Plug_In_Again();
+    EXPECT_FALSE(phone.Somebody_Is_There());
+}
+
+TEST(Virtual_Phone, Counts_What_It_Has_Said_And_Waits_For_What_Is_Due_In_Time)
+{
+    Phone_Moods moods = Quiet();
+    moods.m_answer_delay_ms = 10;
+    Virtual_Phone phone(moods);
+    Line_Peer peer(phone.Path());
+    peer.Says("AT\r");
+    EXPECT_EQ(phone.Said(10s), std::string_view("\r\nOK\r\n").size());
+    EXPECT_EQ(peer.Hears("OK\r\n"), "\r\nOK\r\n");
+
+    moods.m_answer_delay_ms = 600'000;
+    phone.Set_Moods(moods);
+    peer.Says("AT\r");
+    EXPECT_EQ(phone.Said(10ms), std::string_view("\r\nOK\r\n").size())
+        << "what is due in ten minutes is not waited for";
+}

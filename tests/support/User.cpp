@@ -140,6 +140,7 @@ public:
     std::map<QString, std::deque<std::function<void(QWidget&)>>> m_openings;
     std::deque<std::function<void(QDialog*)>> m_dialogs;
     QStringList m_shown;
+    bool m_leaves_others_open = false;
 
 private:
     void See_Box(QMessageBox& box)
@@ -148,6 +149,8 @@ private:
         m_shown.append(text);
         Once_On_Top(&box, this, [this, text](QWidget* on_top) {
             auto* open_box = static_cast<QMessageBox*>(on_top);
+            if (m_answers.empty() && m_leaves_others_open)
+                return;
             if (m_answers.empty()) {
                 ADD_FAILURE() << "An unexpected box: " << Shown(text);
                 if (open_box)
@@ -210,6 +213,11 @@ void User::Will_Close_It()
 void User::Will_Leave_It_Open()
 {
     m_eyes->m_answers.push_back({QStringLiteral("no answer at all"), [](QMessageBox&) {}});
+}
+
+void User::Will_Leave_The_Others_Open()
+{
+    m_eyes->m_leaves_others_open = true;
 }
 
 void User::Will_Handle(std::function<void(QMessageBox&)> handle)

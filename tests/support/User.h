@@ -27,6 +27,8 @@ public:
     void Will_Close_It();
     /// Queues a box that the person looks at and leaves open.
     void Will_Leave_It_Open();
+    /// Leaves every box open for which nothing is queued: somebody else answers.
+    void Will_Leave_The_Others_Open();
     /// Queues anything else to do with the next box.
     void Will_Handle(std::function<void(QMessageBox&)> handle);
 

@@ -1,0 +1,161 @@
+#pragma once
+
+#include "app/shared/Data_Paths.h"
+#include "gui/Leaving_Program.h"
+
+#include <QFile>
+#include <QFileDialog>
+#include <QTemporaryDir>
+#include <QWindow>
+#include <random>
+#include <set>
+
+// A person without patience: presses whatever can be pressed, at random moments, while messages are sent, numbers are
+// imported and devices are looked for, and leaves in the middle of it. One seed, one such visit. However it went, the
+// program ends within a second, nothing of it is left, and the records tell what the phone has.
+class Random_Moments : public Leaving_Program
+{
+public:
+    explicit Random_Moments(unsigned seed) : m_random(seed)
+    {
+        Set_Pace(std::array{25, 100, 400}[m_random() % 3]);
+        QFile::remove(QFile::decodeName(Sent_Item_Path.toLocal8Bit()));
+        QFile file(m_folder.filePath(QStringLiteral("numbers.txt")));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        for (int line = 0; line < 20'000; ++line)
+            file.write(QByteArray::number(1'000'000 + line) + "\r\n");
+        m_impatience.setSingleShot(true);
+        QObject::connect(&m_impatience, &QTimer::timeout, [this] {
+            m_impatience.start(static_cast<int>(m_random() % 25));
+            Press_Something();
+        });
+    }
+    ~Random_Moments() override { m_program.reset(); }
+
+    void TestBody() override
+    {
+        Command_Line command_line;
+        command_line.device_paths = {QString::fromStdString(m_phone.Path())};
+        Start(command_line);
+        user.Will_Leave_The_Others_Open();
+        sel_port_bsd_str = QString::fromStdString(m_phone.Path());
+        The<QCheckBox>("_Save_Sent_Item_Chk").setChecked(true);
+        The<QPlainTextEdit>("_messageEdit").setPlainText(QStringLiteral("Hello"));
+        for (int item = 0; item < 30; ++item)
+            m_program->Delegate().Create_Num_Msg_List(QString::number(1000 + item), QStringLiteral("Hello"));
+        m_impatience.start(0);
+        QTimer::singleShot(static_cast<int>(200 + m_random() % 1500), m_program.get(), [this] {
+            m_impatience.stop();
+            m_last_pressed = Now_Seconds();
+            m_program->Leave();
+        });
+        EXPECT_EQ(m_program->Run(), 0);
+        m_impatience.stop();
+        m_program.reset();
+        EXPECT_LT(Now_Seconds() - m_last_pressed, Longest_Way_Out) << "after " << m_pressed.join(u' ').toStdString();
+        Expect_Nothing_Left();
+        EXPECT_EQ(Descriptors_On(m_phone.Path()), 0);
+        Expect_A_Record_Of_Each_Message();
+    }
+
+private:
+#if defined(__SANITIZE_THREAD__) || defined(__SANITIZE_ADDRESS__)
+    static constexpr double Longest_Way_Out = 5; // the same, several times slower
+#else
+    static constexpr double Longest_Way_Out = 1;
+#endif
+
+    void Press_Something()
+    {
+        m_last_pressed = Now_Seconds();
+        QWidget* window = QApplication::activeModalWidget();
+        if (!window)
+            window = &m_program->Delegate();
+        if (auto* panel = qobject_cast<QFileDialog*>(window)) {
+            Answer_Panel(*panel);
+        } else if (!window->isVisible() || !window->windowHandle() ||
+                   (window->objectName() == QStringLiteral("Send_Modeless") && m_random() % 20 != 0)) {
+            return; // a job is given some time
+        } else if (window != &m_program->Delegate() && m_random() % 10 == 0) {
+            m_pressed.append(window->objectName() + QStringLiteral(":Escape"));
+            QTest::keyClick(window->windowHandle(), Qt::Key_Escape);
+        } else if (m_random() % 40 == 0) {
+            m_pressed.append(window->objectName() + QStringLiteral(":close"));
+            window->close();
+        } else if (auto* devices = window->findChild<QTableView*>(QStringLiteral("idPortList"));
+                   devices && devices->model()->rowCount() > 0 && m_random() % 3 == 0) {
+            m_pressed.append(QStringLiteral("device"));
+            devices->selectRow(static_cast<int>(m_random()) & 1 ? devices->model()->rowCount() - 1 : 0);
+        } else {
+            Press_A_Button(*window);
+        }
+    }
+
+    void Answer_Panel(QFileDialog& panel)
+    {
+        if (panel.acceptMode() == QFileDialog::AcceptSave || m_random() % 2 == 0) {
+            m_pressed.append(QStringLiteral("panel:no"));
+            panel.reject();
+            return;
+        }
+        m_pressed.append(QStringLiteral("panel:yes"));
+        panel.selectFile(m_folder.filePath(QStringLiteral("numbers.txt")));
+        QMetaObject::invokeMethod(&panel, "accept");
+    }
+
+    void Press_A_Button(QWidget& window)
+    {
+        // Records are to be kept, and to stay where they are.
+        static const std::set<QString> left_alone{QStringLiteral("_Save_Sent_Item_Chk"), QStringLiteral("Reset_Btn"),
+                                                  QStringLiteral("Sent_Item_Btn")};
+        QList<QAbstractButton*> buttons;
+        for (auto* button : window.findChildren<QAbstractButton*>()) {
+            const bool can_be_pressed = button->isVisible() && button->isEnabled() && button->window() == &window;
+            if (can_be_pressed && !left_alone.contains(button->objectName()))
+                buttons.append(button);
+        }
+        if (buttons.isEmpty())
+            return;
+        auto* button = buttons.at(static_cast<int>(m_random() % static_cast<unsigned>(buttons.size())));
+        // Now and then on what it is all about.
+        if (&window == &m_program->Delegate() && m_random() % 2 == 0)
+            button = &The<QPushButton>(
+                std::array{"_sent_btn", "_sent_btn", "Search_All_Modem", "Load_Number"}[m_random() % 4]);
+        m_pressed.append(window.objectName() + u':' + button->objectName() + u'/' + button->text());
+        QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {},
+                          button->mapTo(&window, QPoint(std::min(12, button->width() / 2), button->height() / 2)));
+    }
+
+    void Expect_A_Record_Of_Each_Message() const
+    {
+        RecordProperty("messages", static_cast<int>(m_phone.Inbox().size()));
+        std::vector<std::string> sent;
+        for (const auto& message : m_phone.Inbox())
+            sent.push_back(message.m_number);
+        std::vector<std::string> recorded;
+        QFile file(Sent_Item_Path);
+        if (file.open(QIODevice::ReadOnly)) {
+            for (const QByteArray& line : file.readAll().split('\n')) {
+                if (!line.isEmpty())
+                    recorded.push_back(line.mid(1, line.indexOf('\v') - 1).toStdString());
+            }
+        }
+        EXPECT_EQ(recorded, sent) << "after " << m_pressed.join(u' ').toStdString();
+    }
+
+    std::mt19937 m_random;
+    Virtual_Phone m_phone;
+    QTemporaryDir m_folder;
+    QTimer m_impatience;
+    QStringList m_pressed;
+    double m_last_pressed = 0;
+};
+
+/// Makes a test of each seed.
+inline bool Register_Random_Moments(unsigned first_seed, unsigned last_seed)
+{
+    for (unsigned seed = first_seed; seed <= last_seed; ++seed)
+        testing::RegisterTest("Random_Moments", ("Of_Seed_" + std::to_string(seed)).c_str(), nullptr, nullptr, __FILE__,
+                              __LINE__, [seed]() -> testing::Test* { return new Random_Moments(seed); });
+    return true;
+}

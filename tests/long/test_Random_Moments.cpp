@@ -1,0 +1,7 @@
+#include "gui/Random_Moments.h"
+
+namespace {
+
+[[maybe_unused]] const bool Are_Registered = Register_Random_Moments(101, 300);
+
+} // namespace
