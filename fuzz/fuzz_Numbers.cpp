@@ -48,11 +48,12 @@ void Check_Rules(const QString& typed, const QString& other, unsigned choices)
 void Check_File(const QString& path, const QByteArray& bytes)
 {
     const QString text = Text_Of_Number_File(path, bytes);
+    const Number_Texts texts;
     for (const QString& line : text.split(u'\n')) {
         const QString number = Number_Rules::Normalised_Number(Number_Import::Cleaned_Line(line));
         Check_Number(number);
         MUST(number == Exclusion_Rules::Number_In_Line(line));
-        MUST(number == Number_Texts().Text_Of(Number_Import::Number_In_Line(line)));
+        MUST(number == texts.Text_Of(Number_Import::Number_In_Line(line)));
     }
 }
 

@@ -1,5 +1,7 @@
 #include "platform/System_Log.h"
 
+#include "platform/Waiting.h"
+
 #include <QByteArray>
 #include <algorithm>
 #include <atomic>
@@ -120,10 +122,10 @@ private:
     // Where no daemon listens, syslog(3) would try to reach one anew for every line.
     bool Has_Log_Daemon()
     {
-        const auto now = std::chrono::steady_clock::now();
+        const double now = Now_Seconds();
         if (now >= m_next_look) {
             m_has_log_daemon = access(_PATH_LOG, W_OK) == 0;
-            m_next_look = now + std::chrono::seconds(1);
+            m_next_look = now + 1;
         }
         return m_has_log_daemon;
     }
@@ -146,7 +148,7 @@ private:
     std::atomic<std::size_t> m_waiting = 0; // lines that have not reached the sink
     std::atomic<qint64> m_passed_over = 0;
     bool m_is_ending = false;
-    std::chrono::steady_clock::time_point m_next_look; // the log's thread alone uses these two
+    double m_next_look = 0; // the log's thread alone uses these two
     bool m_has_log_daemon = false;
     std::thread m_thread;
 };
