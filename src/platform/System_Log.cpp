@@ -21,7 +21,7 @@
 namespace {
 
 constexpr std::size_t Most_Lines_Waiting = 65536;
-constexpr std::chrono::milliseconds Between_Batches(2);
+constexpr double Seconds_Between_Batches = 0.002;
 
 class Log_Writer
 {
@@ -90,8 +90,10 @@ private:
             guard.lock();
             --m_waiting;
             m_written.notify_all();
+            guard.unlock();
             // Lines that come one upon the other are written together: waking for each would cost more than it.
-            m_changed.wait_for(guard, Between_Batches, [this] { return m_is_ending; });
+            Wait_Seconds(Seconds_Between_Batches);
+            guard.lock();
         }
     }
 

@@ -231,8 +231,9 @@ void Phone_List_Wnd::OnGetSelected()
 void Phone_List_Wnd::Set_Phone_Value(Phone_Value value, const QString& text)
 {
     Run_On_Interface_Thread([&] {
+        // A copy of the window's own: the text is a worker's.
         if (auto* field = findChild<QLineEdit*>(QLatin1String(Phone_Value_Field(value))))
-            Show_Text(*field, text);
+            Show_Text(*field, QString(text.constData(), text.size()));
     });
 }
 

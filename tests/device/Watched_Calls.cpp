@@ -1,5 +1,7 @@
 #include "device/Watched_Calls.h"
 
+#include "platform/Interface_Thread.h"
+
 #include <algorithm>
 #include <asm/ioctls.h>
 #include <cerrno>
@@ -19,6 +21,11 @@ std::string Name_Of(unsigned long request)
 }
 
 } // namespace
+
+Watched_Calls::~Watched_Calls()
+{
+    Finish_Workers();
+}
 
 Watched_Calls::Action Watched_Calls::Note(const std::string& step)
 {

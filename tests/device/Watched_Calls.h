@@ -16,6 +16,9 @@ class Watched_Calls : public Serial_Calls
 public:
     using Action = std::function<int(void* argument)>;
 
+    /// Waits until the background readers that may still use it have ended.
+    ~Watched_Calls() override;
+
     /// From now on this step fails with the error number and is not done.
     void Will_Fail(const std::string& step, int error);
     /// From now on this step is not done; the action's result is its result.

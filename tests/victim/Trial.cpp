@@ -141,7 +141,8 @@ QByteArray Text_Of(int item)
 
 QByteArray Record_Of(int item)
 {
-    return World::Record(item, Text_Of(item), QDate::currentDate().toString(QStringLiteral("dd/MM/yyyy")).toUtf8());
+    static const QByteArray today = QDate::currentDate().toString(QStringLiteral("dd/MM/yyyy")).toUtf8();
+    return World::Record(item, Text_Of(item), today);
 }
 
 int Messages_In(const Virtual_Phone& phone)
