@@ -339,8 +339,6 @@ void CorvaneAppDelegate::End_Import()
 
 void CorvaneAppDelegate::Show_Import_Progress(int count, int percent)
 {
-    if (count != prev_list_item)
-        Remember_Composer_Text();
     Show_List_Count(count);
     m_please_wait->Show_Progress(percent);
 }
@@ -348,6 +346,8 @@ void CorvaneAppDelegate::Show_Import_Progress(int count, int percent)
 void CorvaneAppDelegate::Take_Over_Imported(Recipient_List& recipients)
 {
     std::swap(nsListDataObject, recipients);
+    if (nsListDataObject.Count() != prev_list_item)
+        Remember_Composer_Text();
     Update_List_Count();
 }
 

@@ -21,7 +21,8 @@
 namespace {
 
 constexpr std::size_t Most_Lines_Waiting = 65536;
-constexpr double Seconds_Between_Batches = 0.002;
+constexpr std::chrono::milliseconds Between_Batches(2);
+constexpr std::size_t Largest_Kept = 1024 * 1024; // bytes of a batch, once it is written
 
 class Log_Writer
 {
@@ -87,13 +88,13 @@ private:
             guard.unlock();
             Write_Batch(lines, has_terminal);
             lines.clear();
+            if (lines.capacity() > Largest_Kept)
+                lines.shrink_to_fit();
             guard.lock();
             --m_waiting;
             m_written.notify_all();
-            guard.unlock();
             // Lines that come one upon the other are written together: waking for each would cost more than it.
-            Wait_Seconds(Seconds_Between_Batches);
-            guard.lock();
+            m_changed.wait_for(guard, Between_Batches, [this] { return m_is_ending.load(); });
         }
     }
 
@@ -121,7 +122,8 @@ private:
             Write_To_Terminal(std::string(line) + '\n');
     }
 
-    // Where no daemon listens, syslog(3) would try to reach one anew for every line.
+    // Where no daemon listens, syslog(3) would try to reach one anew for every line. One that comes is seen within a
+    // second.
     bool Has_Log_Daemon()
     {
         const double now = Now_Seconds();
@@ -149,7 +151,7 @@ private:
     std::string m_lines;                    // each with a "\0" behind it
     std::atomic<std::size_t> m_waiting = 0; // lines that have not reached the sink
     std::atomic<qint64> m_passed_over = 0;
-    bool m_is_ending = false;
+    std::atomic<bool> m_is_ending = false;
     double m_next_look = 0; // the log's thread alone uses these two
     bool m_has_log_daemon = false;
     std::thread m_thread;

@@ -150,27 +150,37 @@ public:
     /// whether the file is whole.
     static bool Undo(const QString& path)
     {
-        const QByteArray note = Read_File(Append_Note_Path(path)).value_or(QByteArray());
-        const qsizetype line_end = note.indexOf('\n');
-        const QByteArray bytes = note.mid(line_end + 1);
-        const auto size = static_cast<off_t>(note.left(line_end).toLongLong());
-        const QByteArray added = line_end > 0 ? Read_From(path, size, bytes.size()) : QByteArray();
-        if (added.isEmpty() || added.size() == bytes.size() || !bytes.startsWith(added))
+        const auto note = Read_File(Append_Note_Path(path));
+        if (!note) // it can not be told, unless it is no note at all
+            return !QFileInfo(Append_Note_Path(path)).isFile();
+        const qsizetype line_end = note->indexOf('\n');
+        const QByteArray bytes = note->mid(line_end + 1);
+        bool is_number = false;
+        const auto size = static_cast<off_t>(note->left(line_end).toLongLong(&is_number));
+        if (line_end <= 0 || !is_number || size < 0)
+            return true; // a note that was not finished itself: nothing had been appended yet
+        const auto added = Read_From(path, size, bytes.size());
+        if (!added)
+            return false;
+        if (added->isEmpty() || added->size() == bytes.size() || !bytes.startsWith(*added))
             return true;
         return Cut(Descriptor(Native_Name(path), O_WRONLY), size);
     }
 
 private:
-    /// What stands in a file behind its first bytes, so much at the most: it may be a large file.
-    static QByteArray Read_From(const QString& path, off_t first, qsizetype at_most)
+    /// What stands in a file behind its first bytes, so much at the most: it may be a large file. Nothing at all when
+    /// the file is there and can not be read.
+    static std::optional<QByteArray> Read_From(const QString& path, off_t first, qsizetype at_most)
     {
         const Descriptor file(Native_Name(path), O_RDONLY);
+        if (!file.Is_Open() && errno == ENOENT)
+            return QByteArray();
+        if (!Regular_Size(file) || lseek(file.Number(), first, SEEK_SET) != first)
+            return std::nullopt;
         QByteArray bytes(at_most, Qt::Uninitialized);
-        const bool is_there = Regular_Size(file) && lseek(file.Number(), first, SEEK_SET) == first;
         const auto size = static_cast<size_t>(at_most);
-        const ssize_t count =
-            is_there ? Uninterrupted([&] { return read(file.Number(), bytes.data(), size); }) : ssize_t{0};
-        return bytes.left(std::max<qsizetype>(count, 0));
+        const ssize_t count = Uninterrupted([&] { return read(file.Number(), bytes.data(), size); });
+        return count < 0 ? std::nullopt : std::optional(bytes.left(count));
     }
 
     QByteArray m_name;

@@ -156,11 +156,7 @@ QByteArray Sent_Item_List::Lines() const
     QByteArray lines;
     qsizetype run = 0; // lines of the file that are to be copied, all in one
     qsizetype run_end = 0;
-    const auto copy_run = [&] {
-        if (lines.isEmpty())
-            lines.reserve(m_file.size());
-        lines.append(QByteArrayView(m_file).sliced(run, run_end - run));
-    };
+    const auto copy_run = [&] { lines.append(QByteArrayView(m_file).sliced(run, run_end - run)); };
     for (const quint32 place : m_rows) {
         if (place & Own_Item) {
             copy_run();

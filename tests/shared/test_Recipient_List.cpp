@@ -1,10 +1,14 @@
 #include "app/shared/Recipient_List.h"
 #include "platform/Waiting.h"
 
+#include <QFile>
 #include <QRandomGenerator>
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <new>
+#include <sys/resource.h>
 #include <thread>
+#include <unistd.h>
 #include <utility>
 
 namespace {
@@ -262,3 +266,48 @@ TEST(Recipient_List, A_Million_Look_Ups_And_The_Removal_Of_Half_Take_No_Scan)
     // Scans would take half a million million steps: hours. This allows for a slow machine under a sanitizer.
     EXPECT_LT(Now_Seconds() - start, 120);
 }
+
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__) // which need the address space themselves
+
+namespace {
+
+rlim_t Address_Space_In_Use()
+{
+    QFile status(QStringLiteral("/proc/self/statm"));
+    if (!status.open(QIODevice::ReadOnly))
+        std::_Exit(90);
+    return status.readAll().split(' ').at(0).toULongLong() * static_cast<rlim_t>(getpagesize());
+}
+
+[[noreturn]] void Append_Until_Memory_Runs_Out()
+{
+    constexpr rlim_t room = 60'000'000; // which the next doubling of the index will not find
+    rlimit limit{};
+    getrlimit(RLIMIT_AS, &limit);
+    limit.rlim_cur = Address_Space_In_Use() + room;
+    setrlimit(RLIMIT_AS, &limit);
+    Recipient_List list;
+    const QString message = QStringLiteral("text");
+    int appended = 0;
+    try {
+        for (;; ++appended)
+            list.Append(*Packed_Number::Of(QString::number(appended)), message);
+    } catch (const std::bad_alloc&) {
+        limit.rlim_cur = limit.rlim_max;
+        setrlimit(RLIMIT_AS, &limit);
+    }
+    bool is_whole = appended > 1000 && list.Count() == appended;
+    for (int row = 0; row < appended && is_whole; ++row)
+        is_whole = list.At(row).Message == message && list.First_Index_Of(QString::number(row)) == row;
+    std::_Exit(is_whole ? 0 : 1);
+}
+
+} // namespace
+
+TEST(Recipient_List, Where_Memory_Runs_Out_What_Came_Before_Stays_Whole)
+{
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    EXPECT_EXIT(Append_Until_Memory_Runs_Out(), testing::ExitedWithCode(0), "");
+}
+
+#endif

@@ -7,8 +7,10 @@ QString Indexed_Numbers::At(int index) const
     return m_texts.Text_Of(m_numbers.at(static_cast<std::size_t>(index)));
 }
 
+// Room is made before anything is changed: where memory runs out, the list stays as it was.
 void Indexed_Numbers::Append(const Packed_Number& number)
 {
+    Make_Room_In_Index();
     m_numbers.push_back(number);
     Add_To_Index(Count() - 1);
 }
@@ -19,6 +21,7 @@ void Indexed_Numbers::Replace(int index, const QString& number)
     const Packed_Number packed = m_texts.Pack(number);
     if (present == packed)
         return;
+    Make_Room_In_Index();
     Remove_From_Index(index);
     present = packed;
     Add_To_Index(index);
@@ -62,10 +65,14 @@ std::size_t Indexed_Numbers::Slot_Of(const Packed_Number& number, std::uint32_t 
     return slot;
 }
 
-void Indexed_Numbers::Add_To_Index(int row)
+void Indexed_Numbers::Make_Room_In_Index()
 {
     if ((m_used_slots + 1) * 3 > m_slots.size() * 2)
         Grow_Index();
+}
+
+void Indexed_Numbers::Add_To_Index(int row)
+{
     const std::uint32_t hash = Number_At(row).Hash(m_seed);
     Slot& slot = m_slots[Slot_Of(Number_At(row), hash)];
     if (slot.entry.count++ == 0) {
@@ -128,6 +135,7 @@ void Indexed_Numbers::Rebuild_Index()
     for (std::size_t row = 0; row < m_numbers.size(); ++row) {
         if (row + Rows_Ahead < m_numbers.size())
             Fetch(m_numbers[row + Rows_Ahead]);
+        Make_Room_In_Index();
         Add_To_Index(static_cast<int>(row));
     }
 }

@@ -22,7 +22,7 @@ public:
     /// The number at an index from 0 to Count() - 1.
     QString At(int index) const;
 
-    /// Takes a number in at the end, one that is there already too.
+    /// Takes a number in at the end, one that is there already too; all of it, or nothing where memory runs out.
     void Append(const QString& number) { Append(m_texts.Pack(number)); }
     /// The same for a number of digits alone.
     void Append(const Packed_Number& number);
@@ -50,6 +50,7 @@ private:
     std::size_t Slot_Of(const Packed_Number& number, std::uint32_t hash) const;
     std::size_t Home_Of(std::uint32_t hash) const { return hash & (m_slots.size() - 1); }
     std::size_t Next(std::size_t slot) const { return (slot + 1) & (m_slots.size() - 1); }
+    void Make_Room_In_Index();
     void Add_To_Index(int row);
     void Remove_From_Index(int row);
     void Free(std::size_t slot);

@@ -27,7 +27,7 @@ public:
         m_words[0] = m_words[0] << 4 | static_cast<std::uint32_t>(digit - u'0' + 1); // so that no digit is nought
         return true;
     }
-    bool Is_Empty() const { return m_words[0] == 0; }
+    bool Is_Empty() const { return m_words[0] == 0 && m_words[2] == 0; }
 
     std::uint32_t Hash(std::uint64_t seed) const
     {

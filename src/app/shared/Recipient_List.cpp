@@ -26,16 +26,24 @@ const QString& Recipient_List::Message_At(int index) const
 
 void Recipient_List::Append(const QString& number, const QString& message)
 {
-    auto& body = *m_body;
-    body.numbers.Append(number);
-    body.messages.push_back(message);
+    m_body->Append(number, message);
 }
 
 void Recipient_List::Append(const Packed_Number& number, const QString& message)
 {
-    auto& body = *m_body;
-    body.numbers.Append(number);
-    body.messages.push_back(message);
+    m_body->Append(number, message);
+}
+
+template <typename Number>
+void Recipient_List::Body::Append(const Number& number, const QString& message)
+{
+    messages.push_back(message);
+    try {
+        numbers.Append(number);
+    } catch (...) { // memory has run out: not one without the other
+        messages.pop_back();
+        throw;
+    }
 }
 
 void Recipient_List::Replace(int index, const QString& number, const QString& message)

@@ -56,6 +56,9 @@ private:
     {
         Indexed_Numbers numbers;
         std::deque<QString> messages; ///< as many
+
+        template <typename Number>
+        void Append(const Number& number, const QString& message);
     };
 
     QSharedDataPointer<Body> m_body;
