@@ -24,6 +24,30 @@ constexpr std::size_t Most_Lines_Waiting = 65536;
 constexpr std::chrono::milliseconds Between_Batches(2);
 constexpr std::size_t Largest_Kept = 1024 * 1024; // bytes of a batch, once it is written
 
+QStringView Without_Line_Ends(QStringView line)
+{
+    while (line.endsWith(u'\n') || line.endsWith(u'\r'))
+        line.chop(1);
+    return line;
+}
+
+// Appends the line and a "\0" when it is of visible ASCII characters alone, as almost every one is: that is its
+// printable form already. Otherwise nothing.
+bool Append_Plain(std::string& lines, QStringView line)
+{
+    const std::size_t begin = lines.size();
+    lines.resize(begin + static_cast<std::size_t>(line.size()) + 1);
+    char* next = lines.data() + begin;
+    for (const QChar character : line) {
+        if (character < u' ' || character > u'~') {
+            lines.resize(begin);
+            return false;
+        }
+        *next++ = character.toLatin1();
+    }
+    return true;
+}
+
 class Log_Writer
 {
 public:
@@ -40,12 +64,14 @@ public:
             ++m_passed_over;
             return;
         }
-        const QByteArray printable = Printable_Log_Line(line);
         bool is_first = false;
         {
             const std::lock_guard guard(m_lock);
             is_first = m_lines.empty();
-            m_lines.append(printable.constData(), static_cast<std::size_t>(printable.size()) + 1); // its "\0" as well
+            if (!Append_Plain(m_lines, Without_Line_Ends(line))) {
+                const QByteArray printable = Printable_Log_Line(line);
+                m_lines.append(printable.constData(), static_cast<std::size_t>(printable.size()) + 1); // and its "\0"
+            }
             ++m_waiting;
         }
         if (is_first)
@@ -180,8 +206,7 @@ bool Is_Control(QChar character)
 
 QByteArray Printable_Log_Line(QStringView line)
 {
-    while (line.endsWith(u'\n') || line.endsWith(u'\r'))
-        line.chop(1);
+    line = Without_Line_Ends(line);
     if (std::none_of(line.begin(), line.end(), Is_Control))
         return line.toUtf8();
     QString printable;
