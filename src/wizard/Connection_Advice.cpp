@@ -40,8 +40,9 @@ QList<Advice> Connection_Advice::For(const Connection_Facts& facts)
 Advice Connection_Advice::On_No_Port()
 {
     return {
-        tr("No serial port was found. Connect the device as described above; it may take some seconds until its port "
-           "appears."),
+        tr("No phone or modem was found on USB or Bluetooth. Switch it on and connect it as described above; it may "
+           "take some seconds until it appears. A modem on a serial socket of the computer itself is offered all the "
+           "same, as ttyS0 or another ttyS, where your account may open it."),
         {}};
 }
 

@@ -13,8 +13,8 @@ struct Connection_Facts
         QString group; ///< members of it may open the port; empty when its group may not either
     };
 
-    int ports_found = 0;             ///< with those that this account may not open
-    QList<Barred_Port> barred_ports; ///< which this account may not open
+    int ports_found = 0;             ///< that came with a device or were named, also those this account may not open
+    QList<Barred_Port> barred_ports; ///< which this account may not open; no mainboard's that are for root alone
     bool modem_manager_runs = false;
 };
 

@@ -1,7 +1,10 @@
 #include "wizard/Connection_Facts_Finder.h"
 
+#include "device/Device_Paths.h"
+
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <algorithm>
 #include <array>
 #include <grp.h>
@@ -29,6 +32,13 @@ bool Membership_Helps(const struct stat& port)
     return port.st_gid != 0 && (port.st_mode & Read_And_Write) == Read_And_Write;
 }
 
+// A serial socket of the computer itself, which stands there with or without a modem in it. One that the user named is
+// meant, and is no such port here.
+bool Is_Mainboard_Port(const QString& path)
+{
+    return QFileInfo(path).fileName().startsWith(QLatin1String("ttyS")) && !Extra_Device_Paths().contains(path);
+}
+
 } // namespace
 
 Connection_Facts Connection_Facts_Finder::Find(const Port_Finder& finder)
@@ -40,8 +50,11 @@ Connection_Facts Connection_Facts_Finder::Find(const Port_Finder& finder)
         const QString path = QFile::decodeName(entry->m_callout_path.value_or(QByteArray()));
         if (!QFile::exists(path))
             continue;
-        ++facts.ports_found;
-        if (const auto barred = Barred_Port_At(path))
+        const bool may_be_empty = Is_Mainboard_Port(path);
+        if (!may_be_empty)
+            ++facts.ports_found;
+        const auto barred = Barred_Port_At(path);
+        if (barred && !(may_be_empty && barred->group.isEmpty())) // whoever has a modem there knows whom to ask
             facts.barred_ports.append(*barred);
     }
     facts.modem_manager_runs = Process_Runs(QStringLiteral("ModemManager"));

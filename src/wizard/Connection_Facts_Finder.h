@@ -8,6 +8,8 @@
 // Finds out what Connection_Advice needs to know. No port is opened; any thread.
 namespace Connection_Facts_Finder {
 
+/// A mainboard's own port (ttyS) that was not named with --device counts as no port found: nothing need be in it. That
+/// it is for root alone is no news either.
 Connection_Facts Find(const Port_Finder& finder = System_Port_Finder());
 
 /// The port with the group that may open it, when something stands at the path that this account may not read and

@@ -24,7 +24,7 @@ TEST(Connection_Advice, Each_Piece_Is_Given_Exactly_When_It_Applies)
     const Barred usb{"/dev/ttyUSB0", "dialout"};
     const Barred acm{"/dev/ttyACM0", "dialout"};
     const Barred other{"/dev/ttyX0", "uucp"};
-    const Barred root_only{"/dev/ttyS9", ""};
+    const Barred root_only{"/dev/ttyACM9", ""};
     const struct
     {
         const char* what;
@@ -61,11 +61,20 @@ TEST(Connection_Advice, A_Barred_Port_Is_Named_With_Its_Group_And_What_To_Do_Aft
         EXPECT_TRUE(advice.first().text.contains(part)) << part;
 }
 
+TEST(Connection_Advice, Without_A_Device_It_Is_To_Be_Connected_And_Nobody_Is_Blamed)
+{
+    const auto advice = Connection_Advice::For(Facts(0, {}, false));
+    ASSERT_EQ(advice.size(), 1);
+    EXPECT_TRUE(advice.first().text.contains("connect it as described above"));
+    for (const char* part : {"administrator", "Your account may not"})
+        EXPECT_FALSE(advice.first().text.contains(part)) << part;
+}
+
 TEST(Connection_Advice, A_Port_For_Root_Alone_Is_Left_To_The_Administrator)
 {
-    const auto advice = Connection_Advice::For(Facts(1, {{"/dev/ttyS9", ""}}, false));
+    const auto advice = Connection_Advice::For(Facts(1, {{"/dev/ttyACM9", ""}}, false));
     ASSERT_EQ(advice.size(), 1);
-    EXPECT_TRUE(advice.first().text.contains("/dev/ttyS9"));
+    EXPECT_TRUE(advice.first().text.contains("/dev/ttyACM9"));
     EXPECT_TRUE(advice.first().text.contains("administrator"));
 }
 

@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <fcntl.h>
+#include <functional>
 #include <gmock/gmock.h>
 #include <grp.h>
 #include <sys/stat.h>
@@ -56,14 +57,20 @@ protected:
     // "-" when the port is not barred, else "group:" and the group.
     std::string As_An_Ordinary_Account_Sees_It() const
     {
+        return To_An_Ordinary_Account([this] { return Seen(); });
+    }
+
+    // What a function answers to an account that is not root.
+    static std::string To_An_Ordinary_Account(const std::function<std::string()>& answer)
+    {
         if (getuid() != 0)
-            return Seen();
+            return answer();
         int pipe_ends[2];
         EXPECT_EQ(pipe(pipe_ends), 0);
         const pid_t child = fork();
         if (child == 0) {
             const bool became_nobody = setgroups(0, nullptr) == 0 && setgid(Nobody) == 0 && setuid(Nobody) == 0;
-            const std::string seen = became_nobody ? Seen() : "still root";
+            const std::string seen = became_nobody ? answer() : "still root";
             const auto written = write(pipe_ends[1], seen.data(), seen.size());
             _exit(written < 0 ? 1 : 0);
         }
@@ -74,6 +81,25 @@ protected:
         int status = 0;
         waitpid(child, &status, 0);
         return {seen, static_cast<std::size_t>(std::max<ssize_t>(0, length))};
+    }
+
+    // How many ports a search counts that finds this port alone, and what it says of it if anything.
+    std::string As_A_Search_Counts_It() const
+    {
+        return To_An_Ordinary_Account([this] {
+            const auto facts = Connection_Facts_Finder::Find(A_Finder_That_Finds({{QFile::encodeName(m_path)}}));
+            std::string counted = std::to_string(facts.ports_found);
+            for (const auto& barred : facts.barred_ports)
+                counted += " group:" + barred.group.toStdString();
+            return counted;
+        });
+    }
+
+    void Is_Named(const char* name)
+    {
+        const QString path = m_folder.filePath(name);
+        ASSERT_TRUE(path == m_path || QFile::rename(m_path, path));
+        m_path = path;
     }
 
     QTemporaryDir m_folder;
@@ -135,6 +161,31 @@ TEST_F(A_Port, That_Is_There_Is_Counted)
 {
     const A_Finder_That_Finds finder({{QFile::encodeName(m_path)}, {QByteArray("/dev/null")}});
     EXPECT_EQ(Connection_Facts_Finder::Find(finder).ports_found, 2);
+}
+
+// A socket of the mainboard stands there whether a modem is in it or not: the advice must not begin with it.
+TEST_F(A_Port, Of_The_Mainboard_Is_No_Port_Found_And_For_Root_Alone_No_News)
+{
+    const std::string with_group = " group:" + Its_Name();
+    const struct
+    {
+        const char* name;
+        mode_t mode;
+        bool is_given_as_device;
+        std::string counted;
+    } cases[] = {
+        {"ttyS0", 0000, false, "0"},          {"ttyS0", 0060, false, "0" + with_group},
+        {"ttyS0", 0666, false, "0"},          {"ttyS0", 0000, true, "1 group:"},
+        {"ttyUSB0", 0000, false, "1 group:"}, {"ttyACM0", 0060, false, "1" + with_group},
+        {"rfcomm0", 0000, false, "1 group:"}, {"ttyUSB0", 0666, false, "1"},
+    };
+    for (const auto& one : cases) {
+        Is_Named(one.name);
+        Belongs_To(A_Group(), one.mode);
+        Set_Extra_Device_Paths(one.is_given_as_device ? QStringList(m_path) : QStringList());
+        EXPECT_EQ(As_A_Search_Counts_It(), one.counted) << one.name << ' ' << one.mode << one.is_given_as_device;
+    }
+    Set_Extra_Device_Paths({});
 }
 
 TEST(Connection_Facts_Finder, A_Process_Is_Known_By_Its_Whole_Name)
