@@ -4,7 +4,10 @@
 
 #include "Measured.h"
 #include "Text_Printing.h"
+#include "Written_Lists.h"
+#include "device/Submission_Rules.h"
 #include "pdu/PDU.h"
+#include "phone/Gsm_Alphabet.h"
 #include "phone/Submit_Decoder.h"
 
 // What people type, encoded here, and what a handset shows of it, decoded by the phone from the standards alone.
@@ -57,12 +60,6 @@ QString Plain_Text(qsizetype length)
     const QString letters = u"The quick brown fox jumps over the lazy dog 0123456789.\n"_s;
     return letters.repeated(length / letters.size() + 1).first(length);
 }
-
-struct Typed_And_Shown
-{
-    QString typed;
-    QString shown;
-};
 
 } // namespace
 
@@ -183,5 +180,62 @@ TEST(Round_Trip, Every_Field_Arrives_As_It_Was_Given)
                 EXPECT_EQ(static_cast<qsizetype>(frame.m_tpdu_octets), Measured(text, smsc));
             }
         }
+    }
+}
+
+TEST(Round_Trip, The_Guide_And_The_Help_Window_List_The_Same_Characters)
+{
+    const Written_Lists guide = Lists_In_The_Guide();
+    const Written_Lists help = Lists_In_The_Help_Window();
+    EXPECT_EQ(guide.everywhere, help.everywhere);
+    EXPECT_EQ(guide.but_for_text_mode, help.but_for_text_mode);
+    EXPECT_EQ(guide.in_a_short_text, help.in_a_short_text);
+}
+
+TEST(Round_Trip, A_Short_Text_Changes_Exactly_The_Characters_That_The_Guide_Does_Not_List)
+{
+    const Written_Lists guide = Lists_In_The_Guide();
+    const QString listed = guide.everywhere + guide.but_for_text_mode + guide.in_a_short_text;
+    EXPECT_EQ(Shown_Single(listed), listed);
+    for (char16_t unit = u' '; unit < 0xD800; ++unit) // to where the halves of pairs begin
+        EXPECT_EQ(Shown_Single(QString(QChar(unit))) == QChar(unit), listed.contains(QChar(unit))) << int{unit};
+    for (const Typed_And_Shown& row : Changes_In_The_Guide(u"a short text shows"_s))
+        EXPECT_EQ(Shown_Single(row.typed), row.shown) << row.typed.toStdString();
+}
+
+TEST(Round_Trip, A_Longer_Text_Changes_Exactly_The_Characters_That_The_Guide_Says)
+{
+    const Written_Lists guide = Lists_In_The_Guide();
+    const QString listed = guide.everywhere + guide.but_for_text_mode;
+    EXPECT_EQ(Shown_Long(listed.repeated(4)), listed.repeated(4));
+    for (char16_t unit = u' '; unit < 0xD800; ++unit)
+        EXPECT_EQ(Shown_Long(QString(QChar(unit))) == QChar(unit), listed.contains(QChar(unit))) << int{unit};
+    for (const Typed_And_Shown& row : Changes_In_The_Guide(u"a longer text shows"_s))
+        EXPECT_EQ(Shown_Long(row.typed), row.shown) << row.typed.toStdString();
+}
+
+// In text mode a message's UTF-8 octets go out as they are. A device reads them as ASCII or as the alphabet's codes.
+TEST(Round_Trip, Every_Device_With_Text_Mode_Alone_Reads_The_First_List_As_It_Is_Written)
+{
+    const Written_Lists guide = Lists_In_The_Guide();
+    for (const QChar character : guide.everywhere) {
+        const auto octet = static_cast<std::uint8_t>(character.unicode());
+        ASSERT_LT(character.unicode(), 0x80);
+        EXPECT_EQ(Handset::Text_Of_Septets({octet}), std::string(1, static_cast<char>(octet)));
+    }
+    for (const QChar character : guide.but_for_text_mode + guide.in_a_short_text) {
+        std::vector<std::uint8_t> octets;
+        for (const char octet : QString(character).toUtf8())
+            octets.push_back(static_cast<std::uint8_t>(octet) & 0x7F);
+        EXPECT_NE(Handset::Text_Of_Septets(octets), QString(character).toStdString());
+    }
+}
+
+TEST(Round_Trip, What_The_Guide_Calls_A_Short_Text_Goes_As_One_To_The_Longest_Number)
+{
+    const QString longest_number(20, u'1');
+    for (const QString& text : {Plain_Text(150), QString(75, u'['), QString(50, u'|') + QString(50, u'x')}) {
+        const QString pdu = PDU().EncodePDU(text, longest_number, QString(), 0, true, false, false);
+        EXPECT_LT(Measured(pdu, QString()), Too_Long_For_One) << text.toStdString();
     }
 }
