@@ -128,7 +128,8 @@ void Send_Job::Prepare_Device()
     if (m_order.choices.delayed_delivery)
         m_delivery = Delayed_Delivery::Read_Setting(m_order.choices.batch_size, m_order.choices.pause_choice);
     m_mode = m_session.PDU_or_Text_SMS(m_handle);
-    // What the device answers to this is not judged: the first submission tells.
+    // What the device answers to this is not judged, nor what it answers to a submission: only a failed write ends a
+    // job.
     if (m_mode == Pdu_Mode)
         m_session.Prepare_Modem_For_PDU_SMS(m_handle);
     else if (m_mode == Text_Mode)
@@ -220,10 +221,10 @@ Send_Job::Outcome Send_Job::Submit(const QString& number, const QString& message
 Send_Job::Outcome Send_Job::Submit_In_PDU_Mode(const QString& number, const QString& message)
 {
     try {
-        const bool is_sent = m_session.Send_PDU_SMS(m_handle, number, message, m_order.service_centre,
-                                                    m_order.choices.flash, m_order.choices.unicode);
+        const bool is_handed_over = m_session.Send_PDU_SMS(m_handle, number, message, m_order.service_centre,
+                                                           m_order.choices.flash, m_order.choices.unicode);
         Wait_Seconds(Seconds_After_Message);
-        return is_sent ? Outcome::Handled : Outcome::Failed;
+        return is_handed_over ? Outcome::Handled : Outcome::Failed;
     } catch (const std::exception&) {
         return Outcome::Broken_Off;
     }
@@ -232,10 +233,10 @@ Send_Job::Outcome Send_Job::Submit_In_PDU_Mode(const QString& number, const QStr
 Send_Job::Outcome Send_Job::Submit_In_Text_Mode(const QString& number, const QString& message)
 {
     try {
-        const bool is_sent = m_session.Send_Text_SMS(m_handle, number, message, m_order.service_centre,
-                                                     m_order.choices.flash, m_order.choices.unicode);
+        const bool is_handed_over = m_session.Send_Text_SMS(m_handle, number, message, m_order.service_centre,
+                                                            m_order.choices.flash, m_order.choices.unicode);
         Wait_Seconds(Seconds_After_Message);
-        return is_sent ? Outcome::Handled : Outcome::Failed;
+        return is_handed_over ? Outcome::Handled : Outcome::Failed;
     } catch (const std::exception&) {
         return Outcome::Handled;
     }

@@ -2,7 +2,8 @@
 
 #include <QString>
 
-// One message that was sent, as the sent items window shows it. The fields are what the columns are called.
+// One message that was handed to a device, as the sent items window shows it. The fields are what the columns are
+// called.
 struct Sent_Item
 {
     QString Number;

@@ -8,6 +8,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <gmock/gmock.h>
+#include <stdexcept>
 
 namespace {
 
@@ -135,6 +136,62 @@ TEST_F(Job_With_Records, A_Failure_On_The_Third_Of_Five_Leaves_Two_Records_And_N
     Send();
     EXPECT_EQ(m_user.Was_Shown(), QStringList{Connection_Error});
     EXPECT_EQ(Content(Sent_Item_Path), Record("111", "hello") + Record("222", "hello"));
+}
+
+// Handed to the phone is what a record means: nobody judges what became of the message there.
+TEST_F(Job_With_Records, What_Was_Refused_Or_Cut_Short_Has_Its_Record_All_The_Same)
+{
+    const QString one_part(60, u'a');
+    const QString three_parts(400, u'b');
+    for (const QString& message : {one_part, three_parts, one_part})
+        Add("111", message);
+    m_window.m_choices.save_sent_items = true;
+    auto moods = m_phone.Moods();
+    moods.m_cms_error_at[1] = 21; // the network refuses the first message
+    m_phone.Set_Moods(moods);
+    int submissions = 0;
+    m_calls.m_before_write = [&](const QByteArray& bytes) {
+        if (bytes.startsWith("AT+CMGS=") && ++submissions == 3)
+            Stop_SMS_Sending_Now = 1; // while the second part of three goes out
+    };
+    Send();
+    EXPECT_EQ(submissions, 3);
+    EXPECT_EQ(Received(), QStringList());
+    EXPECT_EQ(m_user.Was_Shown(), QStringList()) << "a stopped job ends without a word";
+    EXPECT_EQ(Content(Sent_Item_Path), Record("111", one_part.toUtf8()) + Record("111", three_parts.toUtf8()));
+}
+
+TEST_F(Text_Mode_Records, A_Message_That_An_Exception_Cut_Short_Has_Its_Record_All_The_Same)
+{
+    Add("111", "first");
+    Add("222", "second");
+    m_window.m_choices.save_sent_items = true;
+    int submissions = 0;
+    m_calls.m_before_write = [&](const QByteArray& bytes) {
+        if (bytes.startsWith("AT+CMGS=") && ++submissions == 1)
+            throw std::runtime_error("the line broke");
+    };
+    m_user.Will_Press("OK");
+    Send();
+    EXPECT_EQ(Received(), QStringList{"222: second"});
+    EXPECT_EQ(Content(Sent_Item_Path), Record("111", "first") + Record("222", "second"));
+}
+
+TEST_F(Job_With_Records, A_Phone_That_Falls_Silent_Ends_No_Job_And_Leaves_Every_Record)
+{
+    for (const char* number : {"111", "222", "333"})
+        Add(QString::fromLatin1(number), "hello");
+    m_window.m_choices.save_sent_items = true;
+    m_progress.m_at_step = [this](const QString& step) {
+        auto moods = m_phone.Moods();
+        moods.m_silent = step == QStringLiteral("2 / 3 222") || moods.m_silent;
+        m_phone.Set_Moods(moods);
+    };
+    m_user.Will_Press("OK");
+    Send();
+    EXPECT_EQ(m_user.Was_Shown(), QStringList{Completed});
+    EXPECT_EQ(Received(), QStringList{"111: hello"});
+    EXPECT_EQ(Content(Sent_Item_Path), Record("111", "hello") + Record("222", "hello") + Record("333", "hello"));
 }
 
 TEST_F(Job_With_Records, What_Is_Excluded_Or_Skipped_Is_Neither_Sent_Nor_Recorded)
