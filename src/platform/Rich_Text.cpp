@@ -41,6 +41,8 @@ private:
     {
         int font = No_Font;
         int fallback = 1;
+        bool is_hidden = false;
+        bool is_deleted = false;
     };
     struct Saved_State
     {
@@ -192,6 +194,13 @@ private:
         case Rich_Text_Action::Put:
             Put_Character(static_cast<char16_t>(word.value));
             break;
+        case Rich_Text_Action::End_Cell:
+            End_Line();
+            break;
+        case Rich_Text_Action::End_Row:
+            if (!Is_At_Line_Begin())
+                End_Line();
+            break;
         case Rich_Text_Action::Pass_Over:
             Skip_This_Group();
             break;
@@ -246,6 +255,13 @@ private:
             break;
         case Rich_Text_Action::Plain:
             Changing_State().font = No_Font;
+            Changing_State().is_hidden = Changing_State().is_deleted = false;
+            break;
+        case Rich_Text_Action::Hidden:
+            Changing_State().is_hidden = number != 0;
+            break;
+        case Rich_Text_Action::Deleted:
+            Changing_State().is_deleted = number != 0;
             break;
         case Rich_Text_Action::Fallback:
             Changing_State().fallback = std::clamp(number.value_or(1), 0, Most_Fallback);
@@ -261,14 +277,17 @@ private:
         return m_fonts.value(font, m_code_page);
     }
 
-    /// Whether what comes is no text of the document, or stands for a Unicode character that is in the text already.
+    bool Is_Shown() const { return !m_state.is_hidden && !m_state.is_deleted; }
+
+    /// Whether what comes is no text that the document shows, or stands for a Unicode character that is in the text
+    /// already.
     bool Is_Passed_Over()
     {
         if (m_fallback_left > 0 && !Is_Skipping()) {
             --m_fallback_left;
             return true;
         }
-        return Is_Skipping();
+        return Is_Skipping() || !Is_Shown();
     }
 
     void Put_Byte(char byte)
@@ -293,9 +312,24 @@ private:
         m_text += QChar(character);
     }
 
+    bool Is_At_Line_Begin() const { return !m_decoder.Is_Holding() && (m_text.isEmpty() || m_text.endsWith(u'\n')); }
+
+    /// The end of a cell stays where the cell's text is hidden.
+    void End_Line()
+    {
+        m_fallback_left = 0;
+        if (Is_Skipping())
+            return;
+        m_decoder.Finish(m_text);
+        m_text += u'\n';
+    }
+
     /// Numbers above 32767 are written as negative ones; some writers write them, and whole code points, as they are.
     void Put_Unicode(int number)
     {
+        m_fallback_left = m_state.fallback;
+        if (!Is_Shown())
+            return;
         m_decoder.Finish(m_text);
         const int code = number < 0 ? number + 0x10000 : number;
         if (code >= 0 && code <= 0xFFFF)
@@ -304,7 +338,6 @@ private:
             m_text += QChar::fromUcs4(static_cast<char32_t>(code));
         else
             m_text += QChar::ReplacementCharacter;
-        m_fallback_left = m_state.fallback;
     }
 
     static bool Is_Letter(char byte) { return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z'); }

@@ -3,8 +3,9 @@
 #include <QByteArray>
 #include <QString>
 
-/// The plain text of a document in the Rich Text Format, as far as it can be read: paragraphs, lines and table rows
-/// each end in "\n"; font, colour, style, information and picture groups are passed over. Truncated and hostile
+/// The plain text of a document in the Rich Text Format, as far as it can be read: paragraphs, lines and table cells
+/// each end in "\n"; what the document does not show is left out: hidden and deleted text, annotations, fields'
+/// instructions, headers and footers; font, colour, style, information and picture groups. Truncated and hostile
 /// documents give what stands before the damage. Bytes that are no rich text at all are read leniently as UTF-8.
 /// Source: Rich Text Format, version 1.9.1.
 QString Plain_Text_Of_Rich_Text(const QByteArray& bytes);

@@ -75,14 +75,17 @@ TEST(Rich_Text, A_Real_Document_Reads_The_Same_From_Its_Code_Page_Alone)
     EXPECT_EQ(Plain_Text_Of_Rich_Text(older.toLatin1()), Shown(name));
 }
 
-TEST(Rich_Text, Paragraphs_Lines_And_Rows_End_A_Line)
+TEST(Rich_Text, Paragraphs_Lines_And_Cells_End_A_Line)
 {
     Expect_All({
         {"1\\par 2\\line 3\\row 4\\sect 5\\page 6", "1\n2\n3\n4\n5\n6"},
         {"1\\par\\par\n2", "1\n\n2"},
         {"1\\\n2\\\r\n3\\\r4", "1\n2\n3\n4"},
         {"1\n2\r\n3", "123"},
-        {"\\trowd 1\\cell 2\\cell\\row 3\\cell\\row", "1\t2\t\n3\t\n"},
+        {"\\trowd 1\\cell 2\\cell\\row 3\\cell\\row", "1\n2\n3\n"},
+        {"1\\cell\\cell\\row\\row 2\\par 3\\cell 4\\row 5", "1\n\n2\n3\n4\n5"},
+        {"1{\\nestcell 2\\nestcell{\\*\\nesttableprops\\nestrow}{\\nonesttables\\par}}3\\cell\\row", "1\n2\n3\n"},
+        {"\\u8364\\cell 1", "€\n1"},
         {"1\\tab 2\\\t3\t4", "1\t2\t3\t4"},
         {"1\\pard 2\\pararsid7 3\\PAR 4", "1234"},
     });
@@ -180,6 +183,26 @@ TEST(Rich_Text, What_Is_No_Text_Of_The_Document_Is_Passed_Over)
         {"1{\\pict\\bin5 }}}}}2}3", "13"},
         {"1\\bin3 \\}{2\\bin-4 3\\bin0 4", "1234"},
         {"1\\info 2\\*3", "123"},
+    });
+}
+
+TEST(Rich_Text, What_The_Document_Does_Not_Show_Is_No_Text)
+{
+    Expect_All({
+        {"1{\\v 2}3", "13"},
+        {"1\\v 2\\v0 3\\v1 4\\b 5\\plain 6", "136"},
+        {"1{\\v 2{\\b 3{\\v0 4}5}}6", "146"},
+        {"1\\v{2}\\v0{3\\v 4}5", "135"},
+        {"1{\\deleted\\revauthdel1 2}3\\deleted 4\\deleted0 5", "135"},
+        {"{\\v\\deleted 1\\v0 2\\deleted0 3}", "3"},
+        {"1{\\v\\'e9\\u8364 ?\\emdash\\~\\{\\line\\tab 2}3", "13"},
+        {"{\\v\\u8364}12{\\v\\u8364 ?}{\\u8364 ?}3", "12€3"},
+        {"1\\par{\\v 2\\par}3\\par", "1\n3\n"},
+        {"1\\cell{\\v 2\\cell}3\\cell{\\v 4\\row}5", "1\n\n3\n5"},
+        {"1{\\*\\atnid A}{\\*\\atnauthor B}\\chatn{\\*\\annotation{\\*\\atndate 5}7}2", "12"},
+        {"1{\\atnid A}{\\atnauthor B}{\\annotation{\\atndate 5}7}2{\\bkmkstart 8}{\\bkmkend 8}", "12"},
+        {"1{\\*\\bkmkstart 2}3{\\*\\bkmkend 2}{\\aftnsep 4\\par}", "13"},
+        {"1\\viewkind4 2\\vertalt 3\\deletedx 4", "1234"},
     });
 }
 
