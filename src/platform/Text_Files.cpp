@@ -95,9 +95,12 @@ bool Write_All(const Descriptor& file, const QByteArray& bytes)
     return true;
 }
 
+/// Some file systems, as one that a program of its own serves, can not sync: what was written there is as safe as it
+/// gets. An EROFS is none of these answers: with it a file system tells that it has given up on what it was given.
 bool Sync(const Descriptor& file)
 {
-    return Uninterrupted([&] { return fsync(file.Number()); }) == 0;
+    return Uninterrupted([&] { return fsync(file.Number()); }) == 0 || errno == EINVAL || errno == ENOSYS ||
+           errno == EOPNOTSUPP;
 }
 
 bool Cut(const Descriptor& file, off_t size)

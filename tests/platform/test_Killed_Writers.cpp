@@ -317,6 +317,56 @@ TEST_F(Killed_Writers, What_Is_Written_In_Pieces_Stays_As_Far_As_It_Got)
     }
 }
 
+TEST_F(Killed_Writers, A_File_System_That_Can_Not_Sync_Is_Written_To_All_The_Same)
+{
+    const auto write_in_place = [this] {
+        bool is_first = true;
+        return Write_File_In_Pieces(
+            Path(), [&] { return std::exchange(is_first, false) ? std::optional(QByteArray("new\n")) : std::nullopt; });
+    };
+    const auto replace = [this] { return Replace_File(Path(), "new\n"); };
+    for (const std::function<bool()>& write : {std::function<bool()>(write_in_place), std::function<bool()>(replace)}) {
+        Put_In_The_File(QByteArray("old\n"));
+        QByteArrayList calls_made;
+        {
+            const File_Calls calls({});
+            ASSERT_TRUE(write());
+            calls_made = calls.Made();
+        }
+        const int sync = static_cast<int>(calls_made.indexOf("fsync")) + 1;
+        ASSERT_GT(sync, 0);
+        for (const int error : {EINVAL, ENOSYS, EOPNOTSUPP, EIO, ENOSPC, EDQUOT, EROFS}) {
+            const bool has_synced = error == EINVAL || error == ENOSYS || error == EOPNOTSUPP;
+            Put_In_The_File(QByteArray("old\n"));
+            {
+                const File_Calls calls({.fail_at = sync, .error = error});
+                EXPECT_EQ(write(), has_synced) << error;
+            }
+            EXPECT_TRUE(!has_synced || In_The_File() == "new\n") << error;
+            EXPECT_EQ(Beside(), QStringList()) << error;
+        }
+    }
+}
+
+TEST_F(Killed_Writers, A_Folder_That_Can_Not_Be_Synced_Holds_The_New_File_All_The_Same)
+{
+    for (const int error : {EINVAL, EIO}) {
+        Put_In_The_File(QByteArray("old\n"));
+        int syncs = 0;
+        int at = 0;
+        {
+            const File_Calls calls({});
+            ASSERT_TRUE(Replace_File(Path(), "new\n"));
+            at = static_cast<int>(calls.Made().lastIndexOf("fsync")) + 1;
+            syncs = static_cast<int>(calls.Made().count("fsync"));
+        }
+        ASSERT_EQ(syncs, 2) << "the file, then its folder";
+        const File_Calls calls({.fail_at = at, .error = error});
+        EXPECT_TRUE(Replace_File(Path(), "newer\n")) << error;
+    }
+    EXPECT_EQ(In_The_File(), "newer\n");
+}
+
 TEST_F(Killed_Writers, The_Largest_File_That_The_System_Allows_Is_A_Full_Disk_Too)
 {
     Put_In_The_File(Large('o'));
