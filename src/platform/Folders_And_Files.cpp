@@ -8,6 +8,18 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+namespace {
+
+// Whether a call that was to set permissions has done so, or has none to set: a memory stick and many a network folder
+// have none of their own, and those of another account's folder are that account's. Both may be written to all the
+// same.
+bool Are_Set_Or_Not_To_Be_Had(int result)
+{
+    return result == 0 || errno == EPERM || errno == EOPNOTSUPP || errno == ENOSYS;
+}
+
+} // namespace
+
 bool Make_Folder_If_Missing(const QString& path, unsigned permissions)
 {
     if (QFileInfo(path).isDir())
@@ -28,11 +40,17 @@ bool Make_Empty_File_If_Missing(const QString& path, unsigned permissions)
         open(QFile::encodeName(path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, permissions);
     if (descriptor < 0)
         return QFileInfo(path).isFile();
-    const bool is_done = fchmod(descriptor, permissions) == 0;
+    const bool is_done = Are_Set_Or_Not_To_Be_Had(fchmod(descriptor, permissions));
     return close(descriptor) == 0 && is_done;
 }
 
 bool Set_Permissions(const QString& path, unsigned permissions)
 {
-    return chmod(QFile::encodeName(path).constData(), permissions) == 0;
+    return Are_Set_Or_Not_To_Be_Had(chmod(QFile::encodeName(path).constData(), permissions));
+}
+
+bool Is_Missing(const QString& path)
+{
+    struct stat found = {};
+    return lstat(QFile::encodeName(path).constData(), &found) != 0 && (errno == ENOENT || errno == ENOTDIR);
 }

@@ -11,5 +11,9 @@ bool Make_Folder_If_Missing(const QString& path, unsigned permissions);
 /// Makes an empty file when nothing stands at the path. Returns whether a file stands there then.
 bool Make_Empty_File_If_Missing(const QString& path, unsigned permissions);
 
-/// Gives a file or folder the permissions of a mode word such as 0700. Returns whether that worked.
+/// Gives a file or folder the permissions of a mode word such as 0700. Returns whether that worked, or can not be had
+/// there: on a file system without permissions, or where another account owns it. Whether it can be used tells its use.
 bool Set_Permissions(const QString& path, unsigned permissions);
+
+/// Whether it is certain that nothing stands at the path, not even a link; what can not be looked at may be there.
+bool Is_Missing(const QString& path);

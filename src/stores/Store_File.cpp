@@ -1,9 +1,9 @@
 #include "stores/Store_File.h"
 
 #include "app/shared/Data_Paths.h"
+#include "platform/Folders_And_Files.h"
 #include "platform/Text_Files.h"
 
-#include <QFileInfo>
 #include <QHash>
 #include <utility>
 
@@ -37,11 +37,6 @@ QByteArray What_Was_Added(const QByteArray& loaded, const QByteArray& now)
             added.append(line);
     });
     return added;
-}
-
-bool Is_Missing(const QString& path)
-{
-    return !QFileInfo::exists(path) && !QFileInfo(path).isSymLink();
 }
 
 } // namespace

@@ -92,6 +92,7 @@ bool Lives_Through(const File_Call_Plan& plan, const std::function<void()>& step
 // NOLINTBEGIN(readability-identifier-naming)
 extern "C" {
 int __real_access(const char* name, int mode);
+int __real_chmod(const char* name, mode_t mode);
 int __real_close(int descriptor);
 int __real_faccessat(int folder, const char* name, int mode, int flags);
 int __real_fchmod(int descriptor, mode_t mode);
@@ -107,6 +108,7 @@ int __real_unlink(const char* name);
 ssize_t __real_write(int descriptor, const void* bytes, size_t size);
 
 int __wrap_access(const char* name, int mode);
+int __wrap_chmod(const char* name, mode_t mode);
 int __wrap_close(int descriptor);
 int __wrap_faccessat(int folder, const char* name, int mode, int flags);
 int __wrap_fchmod(int descriptor, mode_t mode);
@@ -124,6 +126,11 @@ ssize_t __wrap_write(int descriptor, const void* bytes, size_t size);
 int __wrap_access(const char* name, int mode)
 {
     return static_cast<int>(File_Calls::Make("access", [&] { return __real_access(name, mode); }));
+}
+
+int __wrap_chmod(const char* name, mode_t mode)
+{
+    return static_cast<int>(File_Calls::Make("chmod", [&] { return __real_chmod(name, mode); }));
 }
 
 int __wrap_close(int descriptor)

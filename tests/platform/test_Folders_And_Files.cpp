@@ -1,3 +1,4 @@
+#include "platform/File_Calls.h"
 #include "platform/Folders_And_Files.h"
 
 #include <QFile>
@@ -85,6 +86,46 @@ TEST_F(Folders_And_Files, Something_Else_In_The_Way_Is_A_Failure)
     EXPECT_FALSE(Make_Empty_File_If_Missing(Path("nowhere/file"), 0777));
     EXPECT_FALSE(Make_Folder_If_Missing(QStringLiteral("/proc/self/nothing"), 0777));
     EXPECT_FALSE(Set_Permissions(Path("nothing"), 0700));
+}
+
+TEST_F(Folders_And_Files, Permissions_That_Are_Not_To_Be_Had_Are_No_Failure)
+{
+    struct Case
+    {
+        int error;
+        bool is_failure;
+    };
+    for (const auto& [error, is_failure] : {Case{EPERM, false}, {EOPNOTSUPP, false}, {ENOSYS, false}, {EIO, true}}) {
+        const QString folder = Path("folder") + QString::number(error);
+        const QString file = folder + QLatin1String("/file");
+        {
+            const File_Calls calls({.fail_at = 1, .error = error});
+            EXPECT_EQ(Make_Folder_If_Missing(folder, 0777), !is_failure) << error;
+            EXPECT_EQ(calls.Made(), QByteArrayList({"chmod"}));
+        }
+        {
+            const File_Calls calls({.fail_at = 1, .error = error});
+            EXPECT_EQ(Set_Permissions(folder, 0700), !is_failure) << error;
+        }
+        const File_Calls calls({.fail_at = 2, .error = error});
+        EXPECT_EQ(Make_Empty_File_If_Missing(file, 0777), !is_failure) << error;
+        EXPECT_EQ(calls.Made().mid(0, 2), QByteArrayList({"open", "fchmod"}));
+        EXPECT_TRUE(QFileInfo(file).isFile());
+    }
+}
+
+TEST_F(Folders_And_Files, Only_What_Is_Known_Not_To_Be_There_Is_Missing)
+{
+    EXPECT_TRUE(Is_Missing(Path("nothing")));
+    EXPECT_TRUE(Is_Missing(Path("nothing/below")));
+    Write(Path("file"), "");
+    EXPECT_TRUE(Is_Missing(Path("file/below")));
+    EXPECT_FALSE(Is_Missing(Path("file")));
+    EXPECT_FALSE(Is_Missing(m_folder.path()));
+    ASSERT_EQ(symlink("nothing", QFile::encodeName(Path("link")).constData()), 0);
+    EXPECT_FALSE(Is_Missing(Path("link")));
+    const File_Calls calls({.fail_at = 1, .error = EACCES});
+    EXPECT_FALSE(Is_Missing(Path("nothing"))) << "nobody can tell";
 }
 
 TEST_F(Folders_And_Files, Starts_At_The_Same_Moment_All_Find_The_Folder_And_The_File)

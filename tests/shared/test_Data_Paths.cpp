@@ -156,6 +156,15 @@ TEST_F(Data_Paths, A_Home_Where_Nothing_Can_Be_Created_Is_Refused)
     EXPECT_FALSE(Create_Resource_Folder());
 }
 
+TEST_F(Data_Paths, A_Folder_Whose_Permissions_Are_Another_Accounts_Will_Do_While_It_Can_Be_Written_To)
+{
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    ASSERT_EQ(chmod(QFile::encodeName(m_home.path()).constData(), 0755), 0);
+    ASSERT_TRUE(QDir().mkdir(Path("corvane")));
+    ASSERT_EQ(chmod(QFile::encodeName(Path("corvane")).constData(), 0777), 0);
+    EXPECT_EXIT(Try_As_Nobody(m_home.path()), testing::ExitedWithCode(1), "");
+}
+
 TEST_F(Data_Paths, A_Home_That_May_Not_Be_Written_To_Is_Refused)
 {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
