@@ -17,7 +17,9 @@
 #include "wizard/Phone_List_Wnd.h"
 
 #include <QAbstractButton>
+#include <QDirIterator>
 #include <QGroupBox>
+#include <QRegularExpression>
 
 // Every window, with the desktop's text at 100, 125 and 150 per cent: nothing that is shown is smaller than its text
 // needs, nothing lies outside its window, and no two controls of one window answer to the same key.
@@ -238,4 +240,23 @@ TEST_F(Main_Window_Size, Every_Control_That_Takes_The_Focus_Has_A_Name_For_Assis
         EXPECT_TRUE(!control->accessibleName().isEmpty() || (button && !button->text().isEmpty()))
             << qPrintable(control->objectName());
     }
+}
+
+// The toolkit puts the program's name behind every title that does not end with it.
+TEST(Window_Titles, None_Has_The_Programs_Name_Twice)
+{
+    QDirIterator files(QStringLiteral(CORVANE_SOURCE_DIR "/src"), {"*.ui"}, QDir::Files, QDirIterator::Subdirectories);
+    int titles = 0;
+    while (files.hasNext()) {
+        QFile file(files.next());
+        ASSERT_TRUE(file.open(QFile::ReadOnly));
+        const QRegularExpression title_pattern("<property name=\"windowTitle\"><string[^>]*>([^<]*)</string>");
+        const auto match = title_pattern.match(QString::fromUtf8(file.readAll()));
+        if (!match.hasMatch())
+            continue;
+        ++titles;
+        const QString title = match.captured(1);
+        EXPECT_TRUE(title == "Corvane" || !title.contains("Corvane")) << qPrintable(file.fileName());
+    }
+    EXPECT_GT(titles, 10);
 }
