@@ -6,13 +6,9 @@
 #include <QCoreApplication>
 #include <QPainter>
 
-namespace {
-const Qt::WindowFlags Sheet_Flags = Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint;
-}
-
 Modal_Sheet::Modal_Sheet(QWidget* parent) : QDialog(parent)
 {
-    Become(Qt::WindowModal, Sheet_Flags);
+    Become(Qt::WindowModal, m_sheet_flags);
 }
 
 void Modal_Sheet::Begin_Sheet(QWidget* over)
@@ -20,19 +16,23 @@ void Modal_Sheet::Begin_Sheet(QWidget* over)
     if (m_is_let_go) {
         End_Sheet();
         m_is_let_go = false;
-        Become(Qt::WindowModal, Sheet_Flags);
+        Become(Qt::WindowModal, m_sheet_flags);
     }
     if (parentWidget() != over)
-        setParent(over, windowFlags());
+        setParent(over, windowFlags()); // which hides it
+    if (!isVisible())
+        setAttribute(Qt::WA_Moved, false); // a dialog that nobody has moved is put in the middle of its window
     show();
-    if (over) {
-        const QPoint middle = over->mapToGlobal(over->rect().center());
-        move(middle - rect().center());
-    }
     raise();
     repaint();
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     Wake_Interface_Thread();
+}
+
+void Modal_Sheet::Offer_Close_Button()
+{
+    m_sheet_flags |= Qt::WindowCloseButtonHint;
+    setWindowFlags(m_sheet_flags);
 }
 
 void Modal_Sheet::End_Sheet()

@@ -11,7 +11,8 @@ class Modal_Sheet : public QDialog
 public:
     explicit Modal_Sheet(QWidget* parent = nullptr);
 
-    /// Shows the sheet over a window, drawn before this returns. Shown already, it only moves over that window.
+    /// Shows the sheet in the middle of a window, drawn before this returns. Shown over that window already, it stays
+    /// where it is, which is where the user may have put it.
     void Begin_Sheet(QWidget* over);
     void End_Sheet();
 
@@ -22,12 +23,15 @@ public:
     void reject() override; ///< Escape: nothing happens
 
 protected:
+    /// Gives the frame a close button. What a press does is for closeEvent to say; the sheet stays. Before it is shown.
+    void Offer_Close_Button();
     void closeEvent(QCloseEvent* event) override;
     void paintEvent(QPaintEvent* event) override; ///< with an edge, which some desktops give no window without buttons
 
 private:
     void Become(Qt::WindowModality modality, Qt::WindowFlags flags);
 
+    Qt::WindowFlags m_sheet_flags = Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint;
     bool m_is_ending = false;
     bool m_is_let_go = false;
 };

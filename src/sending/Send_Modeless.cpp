@@ -10,6 +10,7 @@
 #include "platform/Waiting.h"
 #include "ui_Send_Modeless.h"
 
+#include <QCloseEvent>
 #include <algorithm>
 #include <cmath>
 #include <exception>
@@ -53,6 +54,8 @@ Send_Modeless::Send_Modeless(QWidget* parent) : Modal_Sheet(parent), m_ui(std::m
 {
     m_ui->setupUi(this);
     Apply_Window_Look(*this);
+    m_stop_caption = m_ui->_stop_btn->text();
+    Offer_Close_Button();
     Make_Room_For_Texts();
     msend_modTimer.setObjectName(QStringLiteral("msend_modTimer"));
     connect(m_ui->_stop_btn, &QPushButton::clicked, this, &Send_Modeless::Stop_Sending_Pressed);
@@ -83,6 +86,7 @@ void Send_Modeless::Make_Room_For_Texts()
 void Send_Modeless::Begin_Preparing(Main_Window& window, int total)
 {
     Run_On_Interface_Thread([&] {
+        Show_Stop_Asked_For(false);
         m_ui->_stop_btn->setEnabled(false);
         m_ui->_Tot_Progress->setRange(0, std::max(total, 1)); // a range of nothing would show as endless activity
         m_ui->_Tot_Progress->setValue(0);
@@ -175,8 +179,25 @@ void Send_Modeless::Stop_Timers()
 
 void Send_Modeless::Stop_Sending_Pressed()
 {
-    if (Show_YES_NO_MessageBox(Stop_Question()))
-        Stop_SMS_Sending_Now = 1;
+    if (!Show_YES_NO_MessageBox(Stop_Question()))
+        return;
+    Stop_SMS_Sending_Now = 1;
+    Show_Stop_Asked_For(true);
+}
+
+// The message under way is still sent, which takes its time: until then the button tells that the stop was heard.
+void Send_Modeless::Show_Stop_Asked_For(bool is_asked_for)
+{
+    m_ui->_stop_btn->setText(is_asked_for ? tr("Stopping ...") : m_stop_caption);
+    m_ui->_stop_btn->setEnabled(!is_asked_for);
+}
+
+// Asks what the stop button asks, while that can be pressed; the window itself stays until the job takes it down.
+void Send_Modeless::closeEvent(QCloseEvent* event)
+{
+    Modal_Sheet::closeEvent(event);
+    if (!event->isAccepted() && m_ui->_stop_btn->isEnabled())
+        Stop_Sending_Pressed();
 }
 
 void Send_Modeless::Timer_Curr_Prg_Send_Modeless()

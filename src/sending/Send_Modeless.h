@@ -36,17 +36,23 @@ public:
     void startTimerThread() override;
     void Stop_Timers() override;
 
-    /// The stop button: asks, and on Yes sets Stop_SMS_Sending_Now.
+    /// The stop button, and the window's close button: asks, and on Yes sets Stop_SMS_Sending_Now. From then on until
+    /// the next job the button tells so and can not be pressed.
     void Stop_Sending_Pressed();
     /// One step of the activity bar, every half second: onwards by 20, and from 100 to the start.
     void Timer_Curr_Prg_Send_Modeless();
 
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
 private:
     void Make_Room_For_Texts();
+    void Show_Stop_Asked_For(bool is_asked_for);
     void Show_Sending_Controls(bool visible);
     void Show_Current_Item(bool visible);
 
     std::unique_ptr<Ui::Send_Modeless> m_ui;
+    QString m_stop_caption; // as it is before it was pressed
     QTimer msend_modTimer{this};
     std::atomic<bool> m_is_item_on_its_way{false}; // to the interface thread, which has not shown it yet
 };

@@ -15,6 +15,8 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTest>
+#include <QWindow>
+#include <functional>
 #include <gtest/gtest.h>
 
 namespace {
@@ -139,6 +141,76 @@ TEST_F(Send_Modeless_Test, Stop_Asks_And_Only_Yes_Stops)
     EXPECT_EQ(m_user.Was_Shown(), (QStringList{question, question, question}));
 }
 
+TEST_F(Send_Modeless_Test, Once_A_Stop_Was_Asked_For_The_Button_Says_So_Until_The_Next_Job)
+{
+    m_progress.Begin_Preparing(m_window, 3);
+    m_progress.Begin_Sending();
+    const QString caption = Stop_Button().text();
+    m_user.Will_Press("No");
+    QTest::mouseClick(&Stop_Button(), Qt::LeftButton);
+    EXPECT_EQ(Stop_Button().text(), caption);
+    EXPECT_TRUE(Stop_Button().isEnabled());
+    m_user.Will_Press("Yes");
+    QTest::mouseClick(&Stop_Button(), Qt::LeftButton);
+    for (const auto& goes_on : std::initializer_list<std::function<void()>>{
+             [] {}, [this] { m_progress.Show_Item(2, 3, QStringLiteral("1")); }, [this] { m_progress.Begin_Pause(); },
+             [this] { m_progress.End_Pause(); }}) {
+        goes_on();
+        EXPECT_EQ(Stop_Button().text(), QStringLiteral("Stopping ..."));
+        EXPECT_FALSE(Stop_Button().isEnabled());
+    }
+    QTest::mouseClick(&Stop_Button(), Qt::LeftButton); // asks nothing any more
+    m_progress.close();
+    m_progress.End();
+    m_progress.Begin_Preparing(m_window, 3);
+    EXPECT_EQ(Stop_Button().text(), caption);
+    EXPECT_FALSE(Stop_Button().isEnabled());
+    m_progress.Begin_Sending();
+    EXPECT_TRUE(Stop_Button().isEnabled());
+}
+
+TEST_F(Send_Modeless_Test, The_Close_Button_Asks_What_The_Stop_Button_Asks)
+{
+    m_progress.Begin_Preparing(m_window, 1);
+    EXPECT_TRUE(m_progress.windowFlags().testFlag(Qt::WindowCloseButtonHint));
+    m_progress.close(); // while the device is prepared nothing can be stopped
+    EXPECT_TRUE(m_progress.isVisible());
+    m_progress.Begin_Sending();
+    m_user.Will_Press("No");
+    m_progress.close();
+    EXPECT_EQ(Stop_SMS_Sending_Now, 0);
+    m_user.Will_Press("Yes");
+    m_progress.close();
+    EXPECT_EQ(Stop_SMS_Sending_Now, 1);
+    EXPECT_TRUE(m_progress.isVisible()) << "the job takes the window down when it has ended";
+    EXPECT_EQ(m_user.Was_Shown().size(), 2);
+}
+
+TEST_F(Send_Modeless_Test, It_Stays_Where_It_Was_Put_Until_The_Next_Job)
+{
+    m_progress.Begin_Preparing(m_window, 3);
+    const QPoint middle = m_progress.pos();
+    m_progress.windowHandle()->setPosition(middle + QPoint(60, 40)); // as the frame does when it is dragged
+    ASSERT_TRUE(Serve_Until([&] { return m_progress.pos() != middle; }));
+    const QPoint put = m_progress.pos();
+    const std::function<void()> steps[] = {
+        [this] { m_progress.Begin_Sending(); },
+        [this] { m_progress.Show_Item(1, 3, QString(20, u'0')); },
+        [this] { m_progress.Begin_Pause(); },
+        [this] { m_progress.Show_Pause(QStringLiteral("Pausing the process for 1 Hour 59 Minute 59 Seconds.")); },
+        [this] { m_progress.End_Pause(); },
+        [this] { m_progress.Begin_Sheet(&m_window); },
+    };
+    for (const auto& step : steps) {
+        step();
+        QTest::qWait(1);
+        EXPECT_EQ(m_progress.pos(), put);
+    }
+    m_progress.End();
+    m_progress.Begin_Preparing(m_window, 3);
+    EXPECT_EQ(m_progress.pos(), middle);
+}
+
 TEST_F(Send_Modeless_Test, A_Stop_Question_Still_Open_When_It_Ends_Counts_As_No)
 {
     m_progress.Begin_Preparing(m_window, 1);
@@ -149,13 +221,12 @@ TEST_F(Send_Modeless_Test, A_Stop_Question_Still_Open_When_It_Ends_Counts_As_No)
     EXPECT_FALSE(m_progress.isVisible());
 }
 
-TEST_F(Send_Modeless_Test, Escape_Enter_And_The_Close_Button_Do_Nothing)
+TEST_F(Send_Modeless_Test, Escape_And_Enter_Do_Nothing)
 {
     m_progress.Begin_Preparing(m_window, 1);
     m_progress.Begin_Sending();
     for (const int key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter})
         QTest::keyClick(&m_progress, static_cast<Qt::Key>(key));
-    m_progress.close();
     EXPECT_TRUE(m_progress.isVisible());
     EXPECT_EQ(Stop_SMS_Sending_Now, 0);
 }
