@@ -15,6 +15,7 @@
 #include "wizard/Custom_Smsc_Rules.h"
 #include "wizard/Phone_Search.h"
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QScopedValueRollback>
 #include <QScrollBar>
@@ -22,6 +23,7 @@
 namespace {
 
 constexpr char List_Is_Empty[] = "Device list is empty.";
+constexpr char Still_Searching[] = "Still searching for devices. Please wait ...";
 constexpr char None_Selected[] = "Please select device from list.";
 constexpr char Custom_Smsc_Invalid[] = "Please enter a valid Custom SMSC number.";
 
@@ -141,6 +143,7 @@ void Phone_List_Wnd::Find_Ph_List()
 
 void Phone_List_Wnd::Empty_For_Search()
 {
+    Show_Searching(true);
     Prev_Index = Phone_List::No_Row;
     nsPortListData.Clear();
     m_table_model->Reload();
@@ -167,7 +170,21 @@ void Phone_List_Wnd::End_Search()
     // A row clicked during the search was passed over; it must not stay highlighted, or a click on it would be no
     // change.
     m_ui->idPortList->selectionModel()->clear();
+    Show_Searching(false);
     ph_find_thread = 0;
+}
+
+// The list fills while the search goes on, and stays empty for as long as the first devices keep it waiting.
+void Phone_List_Wnd::Show_Searching(bool is_searching)
+{
+    if (is_searching == m_is_searching_shown)
+        return;
+    m_is_searching_shown = is_searching;
+    m_ui->device_box->setTitle(is_searching ? tr("Searching for devices ...") : tr("Devices found"));
+    if (is_searching)
+        QApplication::setOverrideCursor(Qt::BusyCursor); // for the search before the window opens, too
+    else
+        QApplication::restoreOverrideCursor();
 }
 
 // ------------------------------------------------------------------------------------------------------- the probe
@@ -210,12 +227,18 @@ void Phone_List_Wnd::Find_Ph_Value_Thread()
 {
     const std::lock_guard turn(m_device_turn);
     Run_On_Interface_Thread([] { Cus_SMS_Num_STR.clear(); });
-    const Shown_Sheet sheet(*this);
-    OnGetSelected();
-    Run_On_Interface_Thread([this] { port.Close(); });
+    QString fault;
+    {
+        const Shown_Sheet sheet(*this);
+        fault = OnGetSelected();
+        Run_On_Interface_Thread([this] { port.Close(); });
+    }
+    // Nobody is asked to wait while there is something to read.
+    if (!fault.isEmpty())
+        Tell_About_Device(fault);
 }
 
-void Phone_List_Wnd::OnGetSelected()
+QString Phone_List_Wnd::OnGetSelected()
 {
     QString path;
     Run_On_Interface_Thread([&] {
@@ -224,8 +247,7 @@ void Phone_List_Wnd::OnGetSelected()
         Show_Picked_Row();
         path = nsPortListData.Path(Prev_Index);
     });
-    if (!path.isEmpty())
-        Phone_Probe(mfc_sms_obj, *this).Read_Details(path);
+    return path.isEmpty() ? QString() : Phone_Probe(mfc_sms_obj, *this).Read_Details(path);
 }
 
 void Phone_List_Wnd::Set_Phone_Value(Phone_Value value, const QString& text)
@@ -297,7 +319,8 @@ void Phone_List_Wnd::Phone_Selected_Func()
 bool Phone_List_Wnd::May_Be_Selected()
 {
     if (!nsPortListData.Is_Row(Prev_Index)) {
-        Show_MessageBox(nsPortListData.Count() == 0 ? List_Is_Empty : None_Selected);
+        const char* empty = ph_find_thread == 1 ? Still_Searching : List_Is_Empty;
+        Show_MessageBox(nsPortListData.Count() == 0 ? empty : None_Selected);
         m_ui->idPortList->setFocus();
         return false;
     }

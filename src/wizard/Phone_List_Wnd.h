@@ -73,9 +73,10 @@ private:
                           const QString& Port_IMEI);
     void Empty_For_Search();
     void End_Search();
+    void Show_Searching(bool is_searching);
 
     void Find_Ph_Value_Thread();
-    void OnGetSelected();
+    QString OnGetSelected();
     void Show_Picked_Row();
     void Empty_Details();
 
@@ -96,6 +97,7 @@ private:
 
     std::unique_ptr<Input_Hold> m_input_hold; // from a click on a row until the sheet stands over the window
     bool m_is_selecting = false;
+    bool m_is_searching_shown = false;
     std::mutex
         m_device_turn; // one search, probe or check at a time has the session; never taken by the interface thread
     std::shared_ptr<std::atomic<int>> m_own_workers; // outlives the window in the worker that counts itself out

@@ -36,18 +36,16 @@ void Phone_Probe::Let_Go_Of_Port(MFCSMS& session)
     session.setPort(nullptr);
 }
 
-void Phone_Probe::Read_Details(const QString& path)
+QString Phone_Probe::Read_Details(const QString& path)
 {
     const int handle = m_session.OpenSerialPort(QFile::encodeName(path));
-    if (handle == -1) {
-        m_display.Tell_About_Device(Could_Not_Open);
-        return;
-    }
+    if (handle == -1)
+        return Could_Not_Open;
     const Port_Let_Go_At_End port_end(m_session);
-    if (Connect(handle, path))
-        m_session.Read_Ph_Values(handle, m_display);
-    else
-        m_display.Tell_About_Device(Not_Working);
+    if (!Connect(handle, path))
+        return Not_Working;
+    m_session.Read_Ph_Values(handle, m_display);
+    return {};
 }
 
 bool Phone_Probe::Check_For_Sending(const QString& path, const Chosen_Centre& centre)

@@ -44,9 +44,9 @@ class Phone_Probe
 public:
     Phone_Probe(MFCSMS& session, Probe_Display& display) : m_session(session), m_display(display) {}
 
-    /// Puts the nine details into the display, or tells there why the device is of no use. The port is closed
-    /// afterwards.
-    void Read_Details(const QString& path);
+    /// Puts the nine details into the display and returns nothing, or returns why the device is of no use: that is for
+    /// the caller to tell, once its sheet has gone. The port is closed afterwards.
+    QString Read_Details(const QString& path);
 
     /// Whether the device answers, has a service centre to send through and supports sending; tells what is wrong when
     /// not. The port is left open where only the centre or the support is missing.

@@ -52,7 +52,11 @@ protected:
 
     void Read_Details(const std::string& path)
     {
-        Run_On_Worker([&] { Phone_Probe(m_session, m_display).Read_Details(QString::fromStdString(path)); });
+        Run_On_Worker([&] {
+            const QString fault = Phone_Probe(m_session, m_display).Read_Details(QString::fromStdString(path));
+            if (!fault.isEmpty())
+                m_display.m_events.append(fault);
+        });
     }
 
     bool Check(const std::string& path, const Chosen_Centre& centre)

@@ -6,6 +6,9 @@
 #include "platform/Pace.h"
 #include "platform/Waiting.h"
 
+#include <QAbstractButton>
+#include <QMessageBox>
+
 namespace {
 
 const char* const Not_Working = "Selected device is not working properly.";
@@ -212,6 +215,31 @@ TEST_F(Wizard_Test, A_Silent_Phone_Is_Told_Of_And_The_Wizard_Stays_Open)
     EXPECT_EQ(m_user.Was_Shown(), QStringList(Boxed(Not_Working)));
 }
 
+TEST_F(Wizard_Test, What_Is_Wrong_With_A_Device_Is_Told_Once_The_Sheet_Has_Gone)
+{
+    Phone_Moods moods;
+    moods.m_silent = true;
+    const Virtual_Phone silent(moods);
+    Virtual_Phone gone;
+    Plug_In(silent, gone);
+    int boxes = 0;
+    for (int told = 0; told < 2; ++told) {
+        m_user.Will_Handle([&](QMessageBox& box) {
+            ++boxes;
+            EXPECT_FALSE(Sheet_Is_Shown()) << "under: " << box.text().toStdString();
+            EXPECT_EQ(box.parentWidget(), m_window.get());
+            box.buttons().front()->click();
+        });
+    }
+    Run([&] {
+        gone.Hang_Up();
+        for (const int row : {0, 1}) {
+            Probe_Row(row);
+            ASSERT_TRUE(Serve_Until([&] { return boxes == row + 1; }));
+        }
+    });
+}
+
 TEST_F(Wizard_Test, A_Phone_That_Is_Gone_Since_The_Search_Cannot_Be_Opened)
 {
     Virtual_Phone phone;
@@ -324,6 +352,7 @@ TEST_F(Wizard_Test, A_Message_Left_Open_From_A_Probe_Closes_At_The_Programs_Exit
     });
     Run([&] {
         Probe_Row(0);
+        EXPECT_TRUE(Serve_Until([] { return Program_Is_Exiting(); }));
         m_window->done(0);
     });
     EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));

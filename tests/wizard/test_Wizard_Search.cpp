@@ -6,6 +6,8 @@
 #include "platform/Waiting.h"
 
 #include <QApplication>
+#include <QCursor>
+#include <QGroupBox>
 
 namespace {
 
@@ -140,6 +142,34 @@ TEST_F(Wizard_Test, The_Window_Stays_Alive_While_It_Searches)
     });
 }
 
+TEST_F(Wizard_Test, A_Search_Shows_That_It_Runs_And_An_Empty_List_Is_Not_Called_Empty_Until_It_Is_Over)
+{
+    const Virtual_Phone phone;
+    Plug_In(phone);
+    m_user.Will_Press("OK");
+    m_user.Will_Press("OK");
+    Run([&] {
+        EXPECT_EQ(Control<QGroupBox>("device_box").title(), "Devices found")
+            << "the search before the window opened is over";
+        m_calls.m_gated_path = phone.Path();
+        Click("_Search_Btn");
+        ASSERT_TRUE(Serve_Until([&] { return m_calls.m_gate.Is_Somebody_Waiting(); }));
+        EXPECT_EQ(Control<QGroupBox>("device_box").title(), "Searching for devices ...");
+        EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::BusyCursor);
+        Click("_Select_Btn");
+        Set_Extra_Device_Paths({});
+        m_calls.m_gate.Open();
+        ASSERT_TRUE(Serve_Until([] { return ph_find_thread == 0; }));
+        EXPECT_EQ(Control<QGroupBox>("device_box").title(), "Devices found");
+        EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+        Click("_Search_Btn");
+        ASSERT_TRUE(Serve_Until([] { return ph_find_thread == 0; }));
+        Click("_Select_Btn");
+    });
+    EXPECT_EQ(m_user.Was_Shown(),
+              QStringList({Boxed("Still searching for devices. Please wait ..."), Boxed("Device list is empty.")}));
+}
+
 TEST_F(Wizard_Test, The_Search_Before_The_Window_Opens_Leaves_The_Interface_Alive_Too)
 {
     const Virtual_Phone phone;
@@ -149,6 +179,7 @@ TEST_F(Wizard_Test, The_Search_Before_The_Window_Opens_Leaves_The_Interface_Aliv
     QTimer::singleShot(400, qApp, [&] {
         EXPECT_FALSE(m_window->isVisible());
         EXPECT_EQ(ph_find_thread, 1);
+        EXPECT_NE(QGuiApplication::overrideCursor(), nullptr) << "nothing shows that the program is searching";
         m_calls.m_gate.Open();
     });
     Run([&] { EXPECT_EQ(ph_find_thread, 0); });
