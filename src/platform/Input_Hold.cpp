@@ -1,7 +1,11 @@
 #include "platform/Input_Hold.h"
 
+#include "platform/Waiting.h"
+
 #include <QApplication>
-#include <QEvent>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPlainTextEdit>
 
 namespace {
 
@@ -49,9 +53,36 @@ bool Belongs_To(const QWidget* widget, const QWidget* window)
     return false;
 }
 
+// A menu over a field, and a drag out of it, would outlive the hold.
+bool Is_Typing(QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::InputMethod:
+        return true;
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+        return static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
+    default:
+        return false;
+    }
+}
+
 } // namespace
 
-Input_Hold::Input_Hold(QWidget* window) : m_window(window)
+bool Takes_Text(const QWidget* widget)
+{
+    if (!widget || !widget->isEnabled())
+        return false;
+    if (const auto* edit = qobject_cast<const QPlainTextEdit*>(widget))
+        return !edit->isReadOnly();
+    const auto* line = qobject_cast<const QLineEdit*>(widget);
+    return line && !line->isReadOnly();
+}
+
+Input_Hold::Input_Hold(QWidget* window, Typing typing) : m_window(window), m_typing(typing)
 {
     qApp->installEventFilter(this);
 }
@@ -62,5 +93,14 @@ bool Input_Hold::eventFilter(QObject* watched, QEvent* event)
 {
     if (!Comes_From_The_User(event->type()))
         return false;
-    return m_window && Belongs_To(Widget_Of(watched), m_window);
+    const QWidget* widget = Widget_Of(watched);
+    if (m_typing == Typing::Served && Is_Typing(event)) {
+        // An area with text takes its clicks through its viewport.
+        if (Takes_Text(widget) || (widget && Takes_Text(qobject_cast<QPlainTextEdit*>(widget->parentWidget())))) {
+            if (event->type() == QEvent::KeyPress || event->type() == QEvent::InputMethod)
+                m_last_typed = Now_Seconds();
+            return false;
+        }
+    }
+    return m_window && Belongs_To(widget, m_window);
 }

@@ -78,16 +78,18 @@ void Sleep_On_Worker(double seconds, Flag flag)
     exit_signal.changed.wait_for(guard, std::chrono::duration<double>(seconds), [flag] { return Is_Over(flag); });
 }
 
-// Paints, timers and workers' calls are served meanwhile; what the user types or clicks waits.
-void Serve_On_Interface_Thread(double seconds, Flag flag)
+// Paints, timers and workers' calls are served meanwhile; what the user types or clicks waits, unless the flags say
+// otherwise.
+void Serve_On_Interface_Thread(double seconds, const std::function<bool()>& is_over,
+                               QEventLoop::ProcessEventsFlags flags = QEventLoop::ExcludeUserInputEvents)
 {
     const double end = Now_Seconds() + seconds;
     QTimer alarm;
     alarm.setTimerType(Qt::PreciseTimer);
     alarm.start(Whole_Milliseconds(seconds));
     Wake_Interface_Thread();
-    while (Now_Seconds() < end && !Is_Over(flag))
-        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
+    while (Now_Seconds() < end && !is_over())
+        QCoreApplication::processEvents(flags | QEventLoop::WaitForMoreEvents);
     Wake_Interface_Thread();
 }
 
@@ -96,7 +98,7 @@ void Wait_Real_Seconds(double seconds, Flag flag = nullptr)
     if (seconds <= 0 || Is_Over(flag))
         return;
     if (Is_Interface_Thread())
-        Serve_On_Interface_Thread(seconds, flag);
+        Serve_On_Interface_Thread(seconds, [flag] { return Is_Over(flag); });
     else
         Sleep_On_Worker(seconds, flag);
 }
@@ -139,6 +141,13 @@ double Paced_Read_Timeout(double seconds)
 void Wait_Seconds(double seconds)
 {
     Wait_Real_Seconds(Paced(seconds));
+}
+
+void Wait_Seconds_Serving_Input(double seconds, const std::function<bool()>& is_over)
+{
+    const auto ends = [&] { return Program_Is_Exiting() || is_over(); };
+    if (!ends())
+        Serve_On_Interface_Thread(Paced(seconds), ends, QEventLoop::AllEvents);
 }
 
 void Wait_Seconds_Unless(double seconds, const std::function<bool()>& is_over)

@@ -24,8 +24,12 @@ double Paced_Read_Timeout(double seconds);
 /// the interface thread goes on painting and serving workers, while user input is held back.
 void Wait_Seconds(double seconds);
 
-/// The same, but ends at once when is_over, asked every time slice of at most 50 ms, answers yes. For short waits for
-/// what nobody tells of: each slice wakes the thread. What is told of is a Stop_Flag.
+/// The same on the interface thread, while what the user types and clicks is served, too; ends at once when is_over,
+/// asked after everything that was served, answers yes.
+void Wait_Seconds_Serving_Input(double seconds, const std::function<bool()>& is_over);
+
+/// As Wait_Seconds, but ends at once when is_over, asked every time slice of at most 50 ms, answers yes. For short
+/// waits for what nobody tells of: each slice wakes the thread. What is told of is a Stop_Flag.
 void Wait_Seconds_Unless(double seconds, const std::function<bool()>& is_over);
 
 // An integer that threads share, 1 to ask for an end and 0 otherwise, and a wait that hears of it at once: it wakes

@@ -4,14 +4,22 @@
 #include "platform/Waiting.h"
 #include "sending/Composer_Rules.h"
 #include "sending/Notice_Reader.h"
+#include "support/Serve_Until.h"
 
 #include <QCheckBox>
+#include <QInputMethodEvent>
 #include <QLabel>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
 #include <gtest/gtest.h>
 
 namespace {
+
+const QPushButton& OK_Of(const Long_SMS_Dlg& dialog)
+{
+    return *dialog.findChild<QPushButton*>(QStringLiteral("OKPressed"));
+}
 
 class Long_SMS_Dlg_Test : public testing::Test
 {
@@ -51,7 +59,14 @@ TEST_F(Long_SMS_Dlg_Test, Whichever_Way_It_Is_Closed_It_Ends_With_One)
     const std::function<void(Long_SMS_Dlg&)> ways[] = {
         [](Long_SMS_Dlg& dialog) { QTest::mouseClick(dialog.findChild<QPushButton*>("OKPressed"), Qt::LeftButton); },
         [](Long_SMS_Dlg& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); },
-        [](Long_SMS_Dlg& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); },
+        [](Long_SMS_Dlg& dialog) {
+            EXPECT_TRUE(Serve_Until([&] { return OK_Of(dialog).isDefault(); }));
+            QTest::keyClick(&dialog, Qt::Key_Return);
+        },
+        [](Long_SMS_Dlg& dialog) {
+            EXPECT_TRUE(Serve_Until([&] { return OK_Of(dialog).isDefault(); }));
+            QTest::keyClick(dialog.focusWidget(), Qt::Key_Space);
+        },
         [](Long_SMS_Dlg& dialog) { dialog.close(); },
     };
     for (const auto& way : ways) {
@@ -62,7 +77,33 @@ TEST_F(Long_SMS_Dlg_Test, Whichever_Way_It_Is_Closed_It_Ends_With_One)
         Long_SMS_Dlg::defaultInstance()->Open_Dialog(&m_over, false);
         EXPECT_EQ(Long_SMS_Dlg::defaultInstance()->result(), 1);
     }
-    EXPECT_EQ(m_reader.m_texts.size(), 4);
+    EXPECT_EQ(m_reader.m_texts.size(), 5);
+}
+
+TEST_F(Long_SMS_Dlg_Test, In_Its_First_Moment_What_Is_Typed_Goes_Into_The_Field_And_Presses_Nothing)
+{
+    Set_Pace(1);
+    auto* field = new QPlainTextEdit(&m_over);
+    field->show();
+    field->setFocus();
+    m_reader.m_meanwhile = [&](Long_SMS_Dlg& dialog) {
+        for (const auto key : {Qt::Key_A, Qt::Key_Space, Qt::Key_Return, Qt::Key_Tab, Qt::Key_Enter, Qt::Key_B})
+            QTest::keyClick(&dialog, key);
+        QInputMethodEvent composed;
+        composed.setCommitString(QStringLiteral("\u00e9"));
+        EXPECT_TRUE(dialog.testAttribute(Qt::WA_InputMethodEnabled));
+        QCoreApplication::sendEvent(&dialog, &composed);
+        EXPECT_EQ(field->toPlainText(), QStringLiteral("a \n\nb\u00e9"));
+        EXPECT_TRUE(dialog.isVisible());
+        EXPECT_FALSE(OK_Of(dialog).hasFocus());
+        EXPECT_TRUE(Serve_Until([&] { return dialog.focusWidget() == &OK_Of(dialog); }));
+        EXPECT_FALSE(dialog.testAttribute(Qt::WA_InputMethodEnabled));
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_Space);
+        EXPECT_FALSE(dialog.isVisible());
+        EXPECT_EQ(field->toPlainText().size(), 6);
+    };
+    Long_SMS_Dlg::defaultInstance()->Open_Dialog(&m_over, false);
+    EXPECT_EQ(m_reader.m_texts.size(), 1);
 }
 
 TEST_F(Long_SMS_Dlg_Test, It_Opens_A_Second_After_It_Was_Asked_For)

@@ -1,0 +1,211 @@
+#include "gui/Open_Program.h"
+#include "platform/Waiting.h"
+#include "sending/Long_SMS_Dlg.h"
+#include "support/Typist.h"
+
+#include <QClipboard>
+#include <QMessageBox>
+
+namespace {
+
+const QString Before = QString(158, u'a');
+const QString Typed = QStringLiteral("the quick brown fox\njumps over the dog");
+constexpr double Within_The_Wait = 0.5; // in seconds
+
+QString Long_Counter(qsizetype length)
+{
+    return QStringLiteral("%1 Characters (Each Message will now consume 2 SMS)").arg(length);
+}
+
+// Somebody who types a message and does not look up at the limit, in each of the three places that count one.
+class Typing_On : public Open_Program
+{
+protected:
+    Typing_On() { Set_Pace(10); }
+    ~Typing_On() override { Set_Pace(1); }
+
+    using Steps = std::function<void(QWidget& window, QPlainTextEdit& area, QLabel& counter)>;
+
+    void In_The_Composer(const Steps& steps)
+    {
+        steps(*m_delegate, The<QPlainTextEdit>("_messageEdit"), The<QLabel>("_Msg_char_count"));
+    }
+
+    void In_A_Dialog(const char* name, const Steps& steps)
+    {
+        user.When_Opens(name, [&](QWidget& dialog) {
+            EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
+            steps(dialog, *dialog.findChild<QPlainTextEdit*>("m_msg_str"), *dialog.findChild<QLabel*>("m_st_msg_cnt"));
+            dialog.close();
+        });
+        Add(QStringLiteral("491701234567"));
+        if (qstrcmp(name, "Update_Num_SMS") == 0) {
+            Select_Rows({0});
+            m_delegate->doubleClickInTable();
+        } else {
+            Select_Rows({0});
+            Click("Update_Sel_Msgs_Btn");
+        }
+    }
+
+    /// Puts the text before the limit there, with the cursor behind it.
+    static void Begin_With(QPlainTextEdit& area, const QString& text)
+    {
+        area.setFocus();
+        area.insertPlainText(text);
+        EXPECT_TRUE(Serve_Until([&] { return area.hasFocus(); }));
+    }
+
+    /// Closes the notice by Return, once that is what Return does.
+    static void Close_By_Return(QWidget& notice)
+    {
+        const auto* ok = notice.findChild<QPushButton*>("OKPressed");
+        EXPECT_TRUE(Serve_Until([&] { return ok->hasFocus() && ok->isDefault(); }));
+        Press_Key(Qt::Key_Return, QStringLiteral("\r"));
+        EXPECT_TRUE(Serve_Until([&] { return !notice.isVisible(); }));
+    }
+
+    void Type_Past_The_Limit(QWidget& window, QPlainTextEdit& area, QLabel& counter)
+    {
+        Begin_With(area, Before);
+        bool is_over = false;
+        Typist typist(Typed);
+        user.When_Opens("Long_SMS_Dlg", [&](QWidget& notice) {
+            EXPECT_EQ(notice.parentWidget(), &window);
+            EXPECT_TRUE(notice.isModal());
+            EXPECT_FALSE(typist.Is_Done()) << "nothing was left to type once the notice was there";
+            EXPECT_TRUE(Serve_Until([&] { return typist.Is_Done(); }));
+            EXPECT_TRUE(notice.isVisible()) << "a key that was meant for the text closed it";
+            Close_By_Return(notice);
+            is_over = true;
+        });
+        ASSERT_TRUE(Serve_Until([&] { return is_over && typist.Is_Done(); }));
+        EXPECT_EQ(area.toPlainText(), Before + Typed);
+        EXPECT_EQ(counter.text(), Long_Counter(Before.size() + Typed.size()));
+        EXPECT_FALSE(Long_SMS_Dlg::defaultInstance()->isVisible());
+        while (area.document()->isUndoAvailable())
+            area.undo();
+        EXPECT_EQ(area.toPlainText(), QString());
+        EXPECT_EQ(counter.text(), QStringLiteral("0 Characters"));
+    }
+
+    void Click_In_That_Second(QPushButton& button)
+    {
+        QTimer::singleShot(static_cast<int>(1000 * Paced(Within_The_Wait)), &button, [&button] {
+            const QPoint middle = button.mapTo(button.window(), button.rect().center());
+            QTest::mouseClick(button.window()->windowHandle(), Qt::LeftButton, {}, middle);
+        });
+    }
+};
+
+} // namespace
+
+TEST_F(Typing_On, In_The_Composer_Every_Key_Arrives)
+{
+    In_The_Composer([this](auto& window, auto& area, auto& counter) { Type_Past_The_Limit(window, area, counter); });
+}
+
+TEST_F(Typing_On, In_The_Dialog_For_One_Item_Every_Key_Arrives)
+{
+    In_A_Dialog("Update_Num_SMS",
+                [this](auto& window, auto& area, auto& counter) { Type_Past_The_Limit(window, area, counter); });
+}
+
+TEST_F(Typing_On, In_The_Dialog_For_The_Selected_Items_Every_Key_Arrives)
+{
+    In_A_Dialog("Update_Sel_Num_SMS",
+                [this](auto& window, auto& area, auto& counter) { Type_Past_The_Limit(window, area, counter); });
+}
+
+TEST_F(Typing_On, What_Is_Pasted_Into_The_Text_Meanwhile_Is_Cut_And_Counted)
+{
+    auto& area = The<QPlainTextEdit>("_messageEdit");
+    Begin_With(area, Before);
+    QGuiApplication::clipboard()->setText(QString(2000, u'b'));
+    bool is_over = false;
+    user.When_Opens("Long_SMS_Dlg", [&](QWidget& notice) {
+        EXPECT_TRUE(Serve_Until([&] { return notice.isActiveWindow(); }));
+        Press_Key(Qt::Key_V, {}, Qt::ControlModifier);
+        EXPECT_TRUE(Serve_Until([&] { return area.toPlainText().size() == 1600; }));
+        Close_By_Return(notice);
+        is_over = true;
+    });
+    const Typist typist(QStringLiteral("xyz"));
+    ASSERT_TRUE(Serve_Until([&] { return is_over; }));
+    EXPECT_EQ(area.toPlainText(), Before + QStringLiteral("xyz") + QString(1439, u'b'));
+    EXPECT_EQ(The<QLabel>("_Msg_char_count").text(),
+              QStringLiteral("1600 Characters (Each Message will now consume 10 SMS)"));
+}
+
+TEST_F(Typing_On, The_Text_May_Have_Become_Short_Again)
+{
+    auto& area = The<QPlainTextEdit>("_messageEdit");
+    Begin_With(area, QString(160, u'a'));
+    user.When_Opens("Long_SMS_Dlg", [&](QWidget& notice) {
+        EXPECT_TRUE(Serve_Until([&] { return notice.isActiveWindow(); }));
+        for (int deleted = 0; deleted < 3; ++deleted)
+            Press_Key(Qt::Key_Backspace);
+        EXPECT_TRUE(Serve_Until([&] { return area.toPlainText().size() == 158; }));
+        Close_By_Return(notice);
+    });
+    const Typist typist(QStringLiteral("b"));
+    ASSERT_TRUE(Serve_Until([&] { return The<QLabel>("_Msg_char_count").text() == QStringLiteral("158 Characters"); }));
+    user.When_Opens("Long_SMS_Dlg", [&](QWidget& notice) { Close_By_Return(notice); });
+    Begin_With(area, QStringLiteral("ccc"));
+    EXPECT_EQ(The<QLabel>("_Msg_char_count").text(), Long_Counter(161)) << "told of again, since it was short";
+}
+
+TEST_F(Typing_On, Send_Pressed_In_That_Second_Does_Not_Go_Over_The_Notice)
+{
+    auto& area = The<QPlainTextEdit>("_messageEdit");
+    Begin_With(area, QString(160, u'a'));
+    bool is_over = false;
+    user.When_Opens("Long_SMS_Dlg", [&](QWidget& notice) {
+        EXPECT_EQ(sms_thread_var, 0);
+        Close_By_Return(notice);
+        is_over = true;
+    });
+    Click_In_That_Second(The<QPushButton>("_sent_btn"));
+    area.insertPlainText(QStringLiteral("b"));
+    EXPECT_TRUE(is_over);
+    EXPECT_EQ(sms_thread_var, 0);
+}
+
+TEST_F(Typing_On, OK_Pressed_In_That_Second_Leaves_The_Dialog_Open)
+{
+    In_A_Dialog("Update_Num_SMS", [this](QWidget& window, QPlainTextEdit& area, QLabel&) {
+        Begin_With(area, QString(160, u'a'));
+        user.When_Opens("Long_SMS_Dlg", [](QWidget& notice) { Close_By_Return(notice); });
+        Click_In_That_Second(*window.findChild<QPushButton*>("OKPressed"));
+        area.insertPlainText(QStringLiteral("b"));
+        EXPECT_TRUE(window.isVisible());
+        EXPECT_EQ(area.toPlainText().size(), 161);
+    });
+}
+
+TEST_F(Typing_On, A_Dialog_Closed_In_That_Second_Takes_The_Notice_Along)
+{
+    In_A_Dialog("Update_Num_SMS", [](QWidget& window, QPlainTextEdit& area, QLabel& counter) {
+        Begin_With(area, QString(160, u'a'));
+        QTimer::singleShot(static_cast<int>(1000 * Paced(Within_The_Wait)), &window, [&] { window.close(); });
+        area.insertPlainText(QStringLiteral("b"));
+        EXPECT_FALSE(window.isVisible());
+        EXPECT_FALSE(Long_SMS_Dlg::defaultInstance()->isVisible());
+        EXPECT_EQ(counter.text(), QStringLiteral("0 Characters"));
+    });
+}
+
+TEST_F(Typing_On, Leaving_Asked_For_In_That_Second_Is_Asked_About_And_The_Notice_Comes_Afterwards)
+{
+    user.Will_Press("No");
+    auto& area = The<QPlainTextEdit>("_messageEdit");
+    Begin_With(area, QString(160, u'a'));
+    bool is_told = false;
+    user.When_Opens("Long_SMS_Dlg", [&](QWidget& notice) {
+        Close_By_Return(notice);
+        is_told = true;
+    });
+    QTimer::singleShot(static_cast<int>(1000 * Paced(Within_The_Wait)), qApp, [this] { m_delegate->close(); });
+    area.insertPlainText(QStringLiteral("b"));
+    EXPECT_TRUE(is_told);
+}
