@@ -8,9 +8,9 @@ logs="$root/build/logs"
 
 build_packages=(
     g++ cmake ninja-build ccache
-    qt6-base-dev qt6-serialport-dev
+    qt6-base-dev qt6-serialport-dev libxcb1-dev
     libgtest-dev libgmock-dev
-    xvfb xauth fonts-dejavu-core
+    xvfb xauth openbox fonts-dejavu-core
 )
 fuzz_packages=(clang libclang-rt-14-dev)
 

@@ -8,6 +8,7 @@
 #include "app/shared/Shared_Instance.h"
 #include "app/shared/Window_Look.h"
 #include "device/Device_Paths.h"
+#include "platform/Asked_For_Focus.h"
 #include "platform/Interface_Thread.h"
 #include "platform/Single_Start.h"
 #include "platform/System_Log.h"
@@ -41,6 +42,7 @@ Program::Program(Command_Line command_line, Single_Start* single_start)
     : m_command_line(std::move(command_line)), m_single_start(single_start)
 {
     Apply_Application_Look(*qApp);
+    Pass_Over_Asked_For_Focus();
     // The toolkit's file panels would keep a file of where the user has been, and wait for its lock when a start that
     // was killed has left it. No file can be in such a place.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));

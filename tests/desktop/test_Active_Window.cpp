@@ -1,0 +1,122 @@
+#include "app/shared/Globals.h"
+#include "app/shared/Message_Boxes.h"
+#include "app/shared/PleaseWait_Modeless.h"
+#include "app/shared/Shared_Instance.h"
+#include "sending/Send_Modeless.h"
+#include "stores/Dialog_Over.h"
+#include "support/Serve_Until.h"
+#include "support/User.h"
+#include "support/Window_For_Tests.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QThread>
+#include <QVBoxLayout>
+#include <gtest/gtest.h>
+
+namespace {
+
+// CORVANE_OPENINGS=200 asks for more of each kind than the ordinary run has time for.
+int Openings()
+{
+    const int asked_for = qEnvironmentVariableIntValue("CORVANE_OPENINGS");
+    return asked_for > 0 ? asked_for : 12;
+}
+
+// A dialog over the main window, and what opens over the dialog: whenever that has gone, the keyboard belongs to the
+// dialog again.
+class Active_Window : public testing::Test
+{
+protected:
+    Active_Window()
+    {
+        m_dialog.setParent(&m_window, m_dialog.windowFlags());
+        m_dialog.setModal(true);
+        (new QVBoxLayout(&m_dialog))->addWidget(m_field);
+        m_dialog.resize(500, 300);
+        m_dialog.show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&m_dialog));
+    }
+    ~Active_Window() override { End_Shared_Instances(); }
+
+    /// Whether the window is the active one, and still is when the window manager has had time for a late word.
+    static ::testing::AssertionResult Is_Active_Again(const QWidget& window)
+    {
+        constexpr int late_word = 40; // milliseconds
+        Serve_Until([&] { return window.isActiveWindow(); }, 2);
+        QTest::qWait(late_word);
+        if (window.isActiveWindow() && QApplication::focusWidget())
+            return ::testing::AssertionSuccess();
+        const auto* active = QApplication::activeWindow();
+        return ::testing::AssertionFailure()
+               << "the active window is " << (active ? active->objectName().toStdString() : "none");
+    }
+
+    Window_For_Tests m_window;
+    QDialog m_dialog;
+    QLineEdit* m_field = new QLineEdit;
+};
+
+TEST_F(Active_Window, Comes_Back_After_A_Sheet_Of_Any_Length)
+{
+    PleaseWait_Modeless sheet;
+    for (int opening = 0; opening < Openings(); ++opening) {
+        for (const int work : {0, 1, 3, 7, 60}) { // milliseconds, which the work takes away from the events
+            sheet.Begin_Sheet(&m_dialog);
+            QThread::msleep(static_cast<unsigned long>(work));
+            sheet.End_Sheet();
+            ASSERT_TRUE(Is_Active_Again(m_dialog)) << "opening " << opening << ", " << work << " ms of work";
+        }
+    }
+    sheet.setParent(nullptr);
+}
+
+TEST_F(Active_Window, Comes_Back_After_A_Box)
+{
+    User user;
+    for (int opening = 0; opening < Openings(); ++opening) {
+        user.Will_Press("OK");
+        Show_MessageBox(QStringLiteral("Something is wrong."));
+        ASSERT_TRUE(Is_Active_Again(m_dialog)) << "opening " << opening;
+    }
+}
+
+TEST_F(Active_Window, Comes_Back_After_A_Dialog_Over_It)
+{
+    User user;
+    QDialog over;
+    over.setObjectName(QStringLiteral("Over"));
+    (new QVBoxLayout(&over))->addWidget(new QPushButton(QStringLiteral("Close")));
+    for (int opening = 0; opening < Openings(); ++opening) {
+        user.When_Opens("Over", [&](QWidget& window) {
+            if (opening % 2 == 1) { // every other one is read before it is closed
+                EXPECT_TRUE(Is_Active_Again(window));
+            }
+            window.close();
+        });
+        Run_Dialog_Over(over, &m_dialog);
+        ASSERT_TRUE(Is_Active_Again(m_dialog)) << "opening " << opening;
+    }
+    over.setParent(nullptr);
+}
+
+TEST_F(Active_Window, Comes_Back_After_The_Progress_Window)
+{
+    m_dialog.hide();
+    ASSERT_TRUE(Serve_Until([&] { return m_window.isActiveWindow(); }));
+    auto& progress = *Send_Modeless::defaultInstance();
+    QLineEdit field(&m_window);
+    field.show();
+    field.setFocus();
+    for (int opening = 0; opening < Openings(); ++opening) {
+        progress.Begin_Preparing(m_window, 1);
+        progress.Begin_Sending();
+        progress.End();
+        ASSERT_TRUE(Is_Active_Again(m_window)) << "opening " << opening;
+    }
+}
+
+} // namespace
