@@ -151,7 +151,7 @@ TEST_F(Typing_On, The_Text_May_Have_Become_Short_Again)
     const Typist typist(QStringLiteral("b"));
     ASSERT_TRUE(Serve_Until([&] { return The<QLabel>("_Msg_char_count").text() == QStringLiteral("158 Characters"); }));
     user.When_Opens("Long_SMS_Dlg", [&](QWidget& notice) { Close_By_Return(notice); });
-    Begin_With(area, QStringLiteral("ccc"));
+    area.insertPlainText(QStringLiteral("ccc"));
     EXPECT_EQ(The<QLabel>("_Msg_char_count").text(), Long_Counter(161)) << "told of again, since it was short";
 }
 
