@@ -94,7 +94,7 @@ std::shared_ptr<KVFileHandle> KVSerialPort::Open_With(int flags, bool exclusivel
     const std::lock_guard guard(m_line_lock);
     m_is_exclusive = exclusively;
     m_file_handle = std::move(handle);
-    m_answer_awaited = false;
+    m_answer_awaited_until = 0;
     m_line = std::make_shared<const Line>(descriptor);
     m_file_descriptor = descriptor;
     return m_file_handle;

@@ -58,7 +58,8 @@ private:
 /// background threads that hand data to a delegate. Held by shared_ptr: a background thread keeps its port alive until
 /// it ends, which it does when the port is closed, the line hangs up or the program exits. Any thread may use it, but
 /// only one at a time may exchange (write, then read). From the write of a command to the end of the read that follows,
-/// the background reader leaves the line's bytes alone. No call blocks for ever.
+/// the background reader leaves the line's bytes alone; where no read follows, for some seconds. No call blocks for
+/// ever.
 class KVSerialPort : public std::enable_shared_from_this<KVSerialPort>
 {
 public:
@@ -166,6 +167,8 @@ public:
     bool writeData(const QByteArray& data, KVSerialError* error = nullptr);
     bool writeString(const QString& string, KVText_Encoding usingEncoding, KVSerialError* error = nullptr);
     bool writeBytes(const char* bytes, qsizetype length, KVSerialError* error = nullptr);
+    /// No read follows for a while: what comes from now on, and what waits, is for the background reader.
+    void Await_No_Answer() { Await_Answer_Until(0); }
     /// Bytes that wait to be read, -1 when the port is closed or the system does not say.
     int bytesAvailable();
 
@@ -198,7 +201,7 @@ private:
     qsizetype Read_Into_Buffer(const Read_Ends& ends, KVSerialError& outcome);
     ssize_t Take_Bytes(const Line& line, char* bytes, size_t size, bool in_background);
     ssize_t Put_Bytes(const Line& line, const char* bytes, size_t size);
-    void Await_Answer(bool awaited);
+    void Await_Answer_Until(double moment);
 
     void Read_In_Background();
     bool Wait_For_Background_Data(const Line& line, QByteArray& data);
@@ -235,8 +238,8 @@ private:
     mutable std::recursive_mutex m_close_lock;
     std::mutex m_line_lock;             // held for each single read and write, and where the line is opened or let go
     std::shared_ptr<const Line> m_line; // the present opening, none while closed
-    bool m_answer_awaited = false;
-    int m_background_event; // wakes the background reader: closed, stopped, or no answer awaited any longer
+    double m_answer_awaited_until = 0;  // on the clock of Now_Seconds; in the past when no answer is awaited
+    int m_background_event;             // wakes the background reader: closed, stopped, or no answer awaited any longer
 
     std::atomic<bool> m_stop_write_in_background{false};
     std::atomic<int> m_background_writers{0};

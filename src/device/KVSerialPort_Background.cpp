@@ -64,18 +64,21 @@ bool KVSerialPort::Wait_For_Background_Data(const Line& line, QByteArray& data)
 {
     std::array<char, Buffer_Size> bytes;
     for (;;) {
-        bool is_awaited = false;
+        double time_to_answer = 0;
         {
             const std::lock_guard guard(m_line_lock);
             if (m_line.get() != &line)
                 return true;
             if (m_stop_read_in_background)
                 return false;
-            is_awaited = m_answer_awaited;
+            time_to_answer = std::min(m_answer_awaited_until - Now_Seconds(), Longest_Wait_For_Read());
         }
         // While an answer is awaited the line is not even looked at, or it would be found ready over and over.
-        const int watched = is_awaited ? -1 : line.Descriptor();
-        const Line_Event event = m_calls.Wait(watched, POLLIN, -1, m_background_event);
+        const bool is_awaited = time_to_answer > 0;
+        const Line_Event event = m_calls.Wait(is_awaited ? -1 : line.Descriptor(), POLLIN,
+                                              is_awaited ? time_to_answer : -1, m_background_event);
+        if (event == Line_Event::Timed_Out && is_awaited && !Program_Is_Exiting())
+            continue;
         if (event == Line_Event::Woken) {
             eventfd_t count = 0;
             eventfd_read(m_background_event, &count);

@@ -2,6 +2,8 @@
 
 #include "device/KVSerialPort.h"
 
+#include <algorithm>
+#include <limits>
 #include <sys/eventfd.h>
 #include <unistd.h>
 
@@ -36,17 +38,27 @@ struct KVSerialPort::Read_Ends
     char m_stop = 0;
 };
 
+/// Real seconds for which a read may be late. A unicode message in text mode is answered to the next message's first
+/// read, which comes 4 described seconds after the write (2 after the last part, 2 after the message) and one later for
+/// each number skipped on the way; an answer gets 5 seconds everywhere else. 10 are more than both, and too few for a
+/// talkative phone to fill a read's 4,096 octets unasked.
+inline double Longest_Wait_For_Read()
+{
+    constexpr double Described_Seconds = 10;
+    constexpr double Shortest_Wait = 1; // real seconds, so that a fast pace loses no answer
+    return std::max(Paced(Described_Seconds), Shortest_Wait);
+}
+
 /// Keeps the background reader off the line's bytes, from its making until its end; or, once it is told so, until the
-/// read that follows.
+/// read that follows, which has to come in time.
 class KVSerialPort::Awaited_Answer
 {
 public:
-    explicit Awaited_Answer(KVSerialPort& port) : m_port(port) { m_port.Await_Answer(true); }
-    ~Awaited_Answer()
+    explicit Awaited_Answer(KVSerialPort& port) : m_port(port)
     {
-        if (m_ends_here)
-            m_port.Await_Answer(false);
+        m_port.Await_Answer_Until(std::numeric_limits<double>::infinity());
     }
+    ~Awaited_Answer() { m_port.Await_Answer_Until(m_ends_here ? 0 : Now_Seconds() + Longest_Wait_For_Read()); }
     Awaited_Answer(const Awaited_Answer&) = delete;
     Awaited_Answer& operator=(const Awaited_Answer&) = delete;
 

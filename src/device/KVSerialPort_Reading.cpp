@@ -16,12 +16,13 @@ std::shared_ptr<const KVSerialPort::Line> KVSerialPort::Present_Line()
     return m_line;
 }
 
-// With an answer awaited the background reader takes no byte; it is woken when that is over.
-void KVSerialPort::Await_Answer(bool awaited)
+// With an answer awaited the background reader takes no byte. It is woken where that is over at once; otherwise it
+// looks at the clock itself.
+void KVSerialPort::Await_Answer_Until(double moment)
 {
     const std::lock_guard guard(m_line_lock);
-    m_answer_awaited = awaited;
-    if (!awaited)
+    m_answer_awaited_until = moment;
+    if (moment <= 0)
         eventfd_write(m_background_event, 1);
 }
 
@@ -34,7 +35,7 @@ ssize_t KVSerialPort::Take_Bytes(const Line& line, char* bytes, size_t size, boo
         errno = EBADF;
         return -1;
     }
-    if (in_background && m_answer_awaited) {
+    if (in_background && Now_Seconds() < m_answer_awaited_until) {
         errno = EAGAIN;
         return -1;
     }

@@ -195,8 +195,12 @@ void Send_Job::Pause_If_Due(int index)
     if (!m_order.choices.delayed_delivery || m_batch_count != m_delivery.batch_size)
         return;
     m_batch_count = 0;
-    if (index + 1 < m_order.recipients.Count())
-        Pause_Countdown(m_progress, Stop_SMS_Sending_Now).Pause(m_delivery.pause_in_seconds);
+    if (index + 1 == m_order.recipients.Count() || m_delivery.pause_in_seconds <= 0)
+        return;
+    // What the phone says by itself during a pause would otherwise be the beginning of its next answer.
+    if (const auto port = m_session.port())
+        port->Await_No_Answer();
+    Pause_Countdown(m_progress, Stop_SMS_Sending_Now).Pause(m_delivery.pause_in_seconds);
 }
 
 bool Send_Job::Skip_Item(int index, const QString& number)

@@ -150,6 +150,42 @@ TEST_F(Serial_Port_Background, From_A_Write_To_The_End_Of_Its_Read_The_Reader_Le
     EXPECT_TRUE(Serve_Until([&] { return m_listener.Heard() == "RING"; }));
 }
 
+TEST_F(Serial_Port_Background, A_Read_That_Comes_After_The_Longest_Described_Wait_Is_Still_First)
+{
+    Start_Reading();
+    Serve_For(0.05);
+    ASSERT_TRUE(m_port->writeData("AT\r"));
+    Serve_For(Paced(8)); // after the last part, after the message, and four skipped numbers
+    EXPECT_TRUE(m_listener.m_reads.empty());
+    EXPECT_EQ(m_port->readAndReturnError(), QByteArray("AT\r\r\nOK\r\n"));
+}
+
+TEST_F(Serial_Port_Background, An_Answer_That_No_Read_Follows_Goes_To_The_Reader_In_The_End)
+{
+    Start_Reading();
+    Serve_For(0.05);
+    const double written = Now_Seconds();
+    ASSERT_TRUE(m_port->writeData("AT\r"));
+    ASSERT_TRUE(Serve_Until([&] { return m_listener.Heard() == "AT\r\r\nOK\r\n"; }));
+    EXPECT_GE(Now_Seconds() - written, 1.0); // never sooner, however fast the pace
+    m_phone.Says("RING");
+    EXPECT_TRUE(Serve_Until([&] { return m_listener.Heard() == "AT\r\r\nOK\r\nRING"; }));
+    // The next exchange has the line for itself again.
+    ASSERT_TRUE(m_port->writeData("AT\r"));
+    Serve_For(0.1);
+    EXPECT_EQ(m_port->readAndReturnError(), QByteArray("AT\r\r\nOK\r\n"));
+}
+
+TEST_F(Serial_Port_Background, Told_That_No_Read_Follows_The_Reader_Has_The_Line_At_Once)
+{
+    Set_Pace(1);
+    Start_Reading();
+    Serve_For(0.05);
+    ASSERT_TRUE(m_port->writeData("AT\r"));
+    m_port->Await_No_Answer();
+    EXPECT_TRUE(Serve_Until([&] { return m_listener.Heard() == "AT\r\r\nOK\r\n"; }, 5));
+}
+
 TEST_F(Serial_Port_Background, While_An_Answer_Is_Awaited_The_Reader_Does_Not_Spin)
 {
     Watched_Calls calls;
