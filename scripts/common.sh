@@ -10,7 +10,7 @@ build_packages=(
     g++ cmake ninja-build ccache
     qt6-base-dev qt6-serialport-dev libxcb1-dev
     libgtest-dev libgmock-dev
-    xvfb xauth openbox fonts-dejavu-core
+    xvfb xauth openbox fonts-dejavu-core fonts-noto-core fonts-liberation fonts-cantarell
 )
 fuzz_packages=(clang libclang-rt-14-dev)
 

@@ -33,6 +33,7 @@ namespace {
 CorvaneAppDelegate* The_Delegate = nullptr;
 
 constexpr int Normal_Message_Index = 1;
+constexpr int Send_Button_Letters = 22;
 
 const QString Text_No_Data = QStringLiteral("Can not access Corvane Data file.");
 const QString Text_Exit = QStringLiteral("\nDo you really want to exit from 'Corvane'?");
@@ -64,7 +65,7 @@ CorvaneAppDelegate* CorvaneAppDelegate::defaultInstance()
 
 bool CorvaneAppDelegate::awakeFromNib()
 {
-    Apply_Window_Look(*this);
+    Apply_Window_Look(*this, Letters{.columns = 146, .lines = 44});
     QFont link_font = font();
     link_font.setBold(true);
     link_font.setUnderline(true);
@@ -72,6 +73,9 @@ bool CorvaneAppDelegate::awakeFromNib()
     m_ui->_NO_Device_Ticker->setCursor(Qt::OpenHandCursor);
     m_ui->_NO_Device_Ticker->setStyleSheet(QStringLiteral("QPushButton { color: #d00000; border: none; background: ") +
                                            Window_Background().name() + QStringLiteral("; padding: 4px; }"));
+    const QFontMetrics letters = fontMetrics();
+    m_ui->_sent_btn->setMinimumSize(letters.averageCharWidth() * Send_Button_Letters,
+                                    m_ui->_sent_btn->sizeHint().height() + letters.descent());
     // A device's name may be long: it is cut off rather than make the window grow with it.
     m_ui->_Device_Name_Ticker->ensurePolished();
     m_ui->_Device_Name_Ticker->setMinimumWidth(m_ui->_Device_Name_Ticker->sizeHint().width());

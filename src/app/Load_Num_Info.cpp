@@ -6,7 +6,7 @@
 Load_Num_Info::Load_Num_Info(QWidget* parent) : QDialog(parent), m_ui(std::make_unique<Ui::Load_Num_Info>())
 {
     m_ui->setupUi(this);
-    Apply_Window_Look(*this);
+    Apply_Window_Look(*this, Letters{.columns = 60});
     connect(m_ui->YESPressed, &QPushButton::clicked, this, &Load_Num_Info::YESPressed);
     connect(m_ui->NOPressed, &QPushButton::clicked, this, &Load_Num_Info::NOPressed);
     connect(m_ui->CancelPressed, &QPushButton::clicked, this, &Load_Num_Info::CancelPressed);

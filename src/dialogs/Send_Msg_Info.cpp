@@ -16,7 +16,7 @@ Send_Msg_Info::Send_Msg_Info(QWidget* parent)
       plz_wait_Window(std::make_unique<PleaseWait_Modeless>())
 {
     m_ui->setupUi(this);
-    Apply_Window_Look(*this);
+    Apply_Window_Look(*this, Letters{.columns = 68});
     connect(m_ui->_fill_msg_all, &QRadioButton::clicked, this, &Send_Msg_Info::Fill_To_ALL_Pressed);
     connect(m_ui->_fill_msg_blank, &QRadioButton::clicked, this, &Send_Msg_Info::Fill_To_Blank_Pressed);
     connect(m_ui->OKPressed, &QPushButton::clicked, this, &Send_Msg_Info::OKPressed);

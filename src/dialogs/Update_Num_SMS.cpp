@@ -23,7 +23,7 @@ constexpr char Excluded[] = "Entered number is in exclusion list.";
 Update_Num_SMS::Update_Num_SMS(QWidget* parent) : QDialog(parent), m_ui(std::make_unique<Ui::Update_Num_SMS>())
 {
     m_ui->setupUi(this);
-    Apply_Window_Look(*this);
+    Apply_Window_Look(*this, Letters{.columns = 66, .lines = 28});
     m_message = std::make_unique<Counted_Message>(*m_ui->m_msg_str, *m_ui->m_st_msg_cnt);
     connect(m_ui->m_num_str, &QLineEdit::textChanged, this, &Update_Num_SMS::controlTextDidChange);
     connect(m_ui->m_msg_str, &QPlainTextEdit::textChanged, this, &Update_Num_SMS::textDidChange);

@@ -37,7 +37,7 @@ Update_Sel_Num_SMS::Update_Sel_Num_SMS(QWidget* parent)
       plz_wait_Window(std::make_unique<PleaseWait_Modeless>())
 {
     m_ui->setupUi(this);
-    Apply_Window_Look(*this);
+    Apply_Window_Look(*this, Letters{.columns = 100, .lines = 28});
     m_rows = std::make_unique<Row_Table_Model>(
         std::vector<Row_Table_Model::Column>{{QStringLiteral("Number"), tr("Number")}},
         [this] { return numberOfRowsInTableView(); },

@@ -45,7 +45,7 @@ Exclusion_Wizard::Exclusion_Wizard(QWidget* parent)
       m_is_loading(std::make_shared<std::atomic<bool>>(false))
 {
     m_ui->setupUi(this);
-    Apply_Window_Look(*this);
+    Apply_Window_Look(*this, Letters{.columns = 120, .lines = 40});
     Update_Excl_Num_Window = std::make_unique<Update_Ex_Num>(*this, this);
     plz_wait_Window = std::make_unique<PleaseWait_Modeless>(this);
     awakeFromNib();

@@ -43,7 +43,7 @@ bool Wait_While_Text_Is_Typed(QWidget& over)
 Long_SMS_Dlg::Long_SMS_Dlg(QWidget* parent) : QDialog(parent), m_ui(std::make_unique<Ui::Long_SMS_Dlg>())
 {
     m_ui->setupUi(this);
-    Apply_Window_Look(*this);
+    Apply_Window_Look(*this, Letters{.columns = 68});
     connect(m_ui->OKPressed, &QPushButton::clicked, this, &Long_SMS_Dlg::OKPressed);
     m_first_moment.setSingleShot(true);
     connect(&m_first_moment, &QTimer::timeout, this, &Long_SMS_Dlg::End_First_Moment);
@@ -67,7 +67,6 @@ void Long_SMS_Dlg::Open_Dialog(QWidget* over, bool unicode)
         setParent(over, windowFlags());
     m_ui->_Unicode_SMS_Chk->setChecked(unicode);
     m_ui->_Msg_Val->setText(Composer_Rules::Long_SMS_Text(unicode));
-    adjustSize();
     Begin_First_Moment(*over);
     exec();
     End_First_Moment();

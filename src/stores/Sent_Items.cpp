@@ -27,7 +27,7 @@ Sent_Items::Sent_Items(QWidget* parent)
       m_ui(std::make_unique<Ui::Sent_Items>())
 {
     m_ui->setupUi(this);
-    Apply_Window_Look(*this);
+    Apply_Window_Look(*this, Letters{.columns = 120, .lines = 38});
     Set_Up_Table();
     QPalette palette = m_ui->_Mess_det_edit->palette();
     palette.setColor(QPalette::Base, Window_Background());

@@ -44,7 +44,7 @@ Templates::Templates(QWidget* parent)
       Update_m_st_msg_cnt(Update_temp_Window->findChild<QLabel*>(QStringLiteral("m_st_msg_cnt")))
 {
     m_ui->setupUi(this);
-    Apply_Window_Look(*this);
+    Apply_Window_Look(*this, Letters{.columns = 120, .lines = 36});
     Set_Up_Table();
     Update_temp_Window->setParent(this, Update_temp_Window->windowFlags()); // it goes with this window
     connect(m_ui->AddNew_Btn, &QPushButton::clicked, this, &Templates::AddNew_Btn);

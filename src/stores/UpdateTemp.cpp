@@ -28,7 +28,7 @@ QString As_Shown(const QString& text)
 UpdateTemp::UpdateTemp(QWidget* parent) : QDialog(parent), m_ui(std::make_unique<Ui::UpdateTemp>())
 {
     m_ui->setupUi(this);
-    Apply_Window_Look(*this);
+    Apply_Window_Look(*this, Letters{.columns = 70, .lines = 24});
     m_ui->m_templ_index->hide();
     m_ui->m_s_temp_str->hide();
     connect(m_ui->m_templ_msg_str, &QPlainTextEdit::textChanged, this, &UpdateTemp::textDidChange);

@@ -10,9 +10,6 @@
 #include "wizard/Connection_Facts_Finder.h"
 
 #include <QFontDatabase>
-#include <QScreen>
-#include <QScrollBar>
-#include <algorithm>
 
 namespace {
 constexpr int Done = 1;
@@ -27,7 +24,7 @@ Connection_Info::Connection_Info(QWidget* parent, Fact_Finder find_facts)
     : QDialog(parent), m_ui(std::make_unique<Ui::Connection_Info>()), m_find_facts(std::move(find_facts))
 {
     m_ui->setupUi(this);
-    Apply_Window_Look(*this);
+    Apply_Window_Look(*this, Letters{.columns = 92});
     connect(m_ui->Continue_Btn, &QPushButton::clicked, this, &Connection_Info::Continue_Btn);
 }
 
@@ -67,7 +64,6 @@ void Connection_Info::Show_Advice(const QList<Advice>& advice)
     for (const auto& piece : advice)
         m_ui->advice_layout->addWidget(Made_Advice_Row(piece));
     m_ui->advice_box->setVisible(!advice.isEmpty());
-    Fit_Height();
 }
 
 QWidget* Connection_Info::Made_Advice_Row(const Advice& advice)
@@ -94,19 +90,4 @@ QWidget* Connection_Info::Made_Advice_Row(const Advice& advice)
     command->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     layout->addWidget(command);
     return row;
-}
-
-// As high as the text needs at this width, as far as the screen has room; the rest scrolls. The scroll bar's width is
-// left aside: a bar that once stands there narrows the text and so keeps itself needed.
-void Connection_Info::Fit_Height()
-{
-    ensurePolished();
-    layout()->activate();
-    const QMargins margins = layout()->contentsMargins();
-    const int text_width =
-        width() - margins.left() - margins.right() - m_ui->scroller->verticalScrollBar()->sizeHint().width();
-    const int text_height = m_ui->page->layout()->totalHeightForWidth(text_width);
-    const int around = margins.top() + margins.bottom() + layout()->spacing() + m_ui->Continue_Btn->sizeHint().height();
-    const int room = screen()->availableGeometry().height() * 9 / 10;
-    resize(width(), std::min(text_height + around, room));
 }

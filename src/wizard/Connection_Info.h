@@ -29,15 +29,16 @@ public:
     /// Finds out what applies now, shows it and runs modally. The only end is 1.
     int exec() override;
 
+    /// Shows these in place of the pieces shown before.
+    void Show_Advice(const QList<Advice>& advice);
+
     void Continue_Btn();
 
     /// Escape and the close button: the same end.
     void reject() override;
 
 private:
-    void Show_Advice(const QList<Advice>& advice);
     QWidget* Made_Advice_Row(const Advice& advice);
-    void Fit_Height();
 
     const std::unique_ptr<Ui::Connection_Info> m_ui;
     const Fact_Finder m_find_facts;

@@ -28,6 +28,7 @@ constexpr char None_Selected[] = "Please select device from list.";
 constexpr char Custom_Smsc_Invalid[] = "Please enter a valid Custom SMSC number.";
 
 constexpr double Wait_Before_Opening_Seconds = 1.0;
+constexpr int Letters_Of_A_Name = 36; // of a device, always in sight
 
 // What a device says may be long: the field shows its beginning.
 void Show_Text(QLineEdit& field, const QString& text)
@@ -59,7 +60,7 @@ Phone_List_Wnd::Phone_List_Wnd(QWidget* parent, Port_Finder& finder, Serial_Call
       plz_wait_Window(std::make_unique<PleaseWait_Modeless>()), m_own_workers(std::make_shared<std::atomic<int>>(0))
 {
     m_ui->setupUi(this);
-    Apply_Window_Look(*this);
+    Apply_Window_Look(*this, Letters{.columns = 120, .lines = 40});
     Set_Up_Table();
     Connect_Controls();
     Custom_SMSC_Pressed();
@@ -88,6 +89,7 @@ void Phone_List_Wnd::Set_Up_Table()
     m_ui->idPortList->horizontalHeader()->setStretchLastSection(true);
     m_ui->idPortList->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_ui->idPortList->verticalHeader()->hide();
+    m_ui->idPortList->setMinimumWidth(m_ui->idPortList->fontMetrics().averageCharWidth() * Letters_Of_A_Name);
 }
 
 void Phone_List_Wnd::Connect_Controls()

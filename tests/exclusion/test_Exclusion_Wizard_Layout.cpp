@@ -12,20 +12,6 @@ namespace {
 
 const char* const Long_Name = "Customers of the northern region, without Scotland";
 
-// Whether a control has the room that its text needs, inside its parent.
-void Expect_Whole(const QWidget& control)
-{
-    const auto name = control.objectName().toStdString();
-    EXPECT_TRUE(control.parentWidget()->rect().contains(control.geometry())) << name;
-    const auto* label = qobject_cast<const QLabel*>(&control);
-    if (label && label->wordWrap()) {
-        EXPECT_GE(label->height(), label->heightForWidth(label->width())) << name;
-    } else if (label || qobject_cast<const QAbstractButton*>(&control)) {
-        EXPECT_GE(control.width(), control.sizeHint().width()) << name;
-    }
-    EXPECT_GE(control.height(), control.minimumSizeHint().height()) << name;
-}
-
 class Exclusion_Layout_Test : public Exclusion_Test
 {
 protected:
@@ -60,31 +46,6 @@ protected:
         return shown;
     }
 };
-
-TEST_F(Exclusion_Layout_Test, Nothing_Is_Cut_On_Any_Screen_At_Any_Size_Of_Window_And_Letters)
-{
-    const QFont plain = QApplication::font();
-    for (const double scale : {1.0, 1.5}) {
-        QFont font = plain;
-        font.setPointSizeF(plain.pointSizeF() * scale);
-        QApplication::setFont(font);
-        m_window = std::make_unique<Exclusion_Wizard>();
-        Run([&] {
-            On_Each_Screen([&](const char* screen) {
-                QApplication::processEvents();
-                for (const QSize size : {m_window->minimumSize(), QSize(1600, 1100)}) {
-                    m_window->resize(size);
-                    QApplication::processEvents();
-                    SCOPED_TRACE(std::string(screen) + " at " + std::to_string(scale) + ", " +
-                                 std::to_string(size.width()));
-                    for (const QWidget* control : Shown_Controls())
-                        Expect_Whole(*control);
-                }
-            });
-        });
-    }
-    QApplication::setFont(plain);
-}
 
 TEST_F(Exclusion_Layout_Test, Every_Control_Goes_By_The_Name_Of_Its_Field_And_Can_Be_Named_Aloud)
 {

@@ -16,6 +16,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QTableView>
 #include <QTest>
 #include <gmock/gmock.h>
@@ -24,16 +25,15 @@
 class Open_Program : public testing::Test
 {
 protected:
-    /// text_percent is the size of the desktop's text.
-    explicit Open_Program(int text_percent = 100)
+    /// The desktop's font, and the screen that the window opens on.
+    explicit Open_Program(const QFont& font = QApplication::font(), QScreen* screen = QApplication::primaryScreen())
     {
-        QFont font = m_font_before;
-        font.setPointSizeF(font.pointSizeF() * text_percent / 100);
         QApplication::setFont(font);
         Set_Pace(100);
         Apply_Application_Look(*qApp);
         m_delegate = std::make_unique<CorvaneAppDelegate>();
         EXPECT_TRUE(m_delegate->awakeFromNib());
+        m_delegate->move(screen->availableGeometry().topLeft());
         m_delegate->applicationDidFinishLaunching();
         EXPECT_TRUE(QTest::qWaitForWindowActive(m_delegate.get()));
     }
@@ -92,7 +92,7 @@ protected:
                                            QItemSelectionModel::Select | QItemSelectionModel::Rows);
     }
 
-    QFont m_font_before = QApplication::font();
+    const QFont m_font_before = QApplication::font();
     User user;
     std::unique_ptr<CorvaneAppDelegate> m_delegate;
 };

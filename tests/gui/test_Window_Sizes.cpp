@@ -1,158 +1,228 @@
-#include "app/Help_Wnd.h"
-#include "app/Load_Num_Info.h"
-#include "dialogs/Fill_Msg_In_List.h"
-#include "dialogs/Send_Msg_Info.h"
-#include "dialogs/Update_Num_SMS.h"
-#include "dialogs/Update_Sel_Num_SMS.h"
-#include "exclusion/Exclusion_Wizard.h"
+#include "gui/Every_Window.h"
 #include "gui/Open_Program.h"
-#include "sending/Long_SMS_Dlg.h"
-#include "sending/Send_Modeless.h"
-#include "stores/Export_Option.h"
-#include "stores/Open_Export_Log.h"
-#include "stores/Sent_Items.h"
-#include "stores/Templates.h"
-#include "stores/UpdateTemp.h"
-#include "wizard/Connection_Info.h"
-#include "wizard/Phone_List_Wnd.h"
 
 #include <QAbstractButton>
 #include <QDirIterator>
-#include <QGroupBox>
+#include <QFontDatabase>
 #include <QRegularExpression>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QWheelEvent>
+#include <map>
+#include <tuple>
 
-// Every window, with the desktop's text at 100, 125 and 150 per cent: nothing that is shown is smaller than its text
-// needs, nothing lies outside its window, and no two controls of one window answer to the same key.
-class Window_Sizes : public Open_Program, public testing::WithParamInterface<int>
+namespace {
+
+constexpr int Smallest_Points = 9;
+constexpr int Largest_Points = 12;
+
+/// A screen of support/screens.json: "desk" (1920 x 1080), "small" (1024 x 600) or "enlarged" (1366 x 768 at 150 %).
+QScreen* Screen_Called(const char* name)
 {
-protected:
-    Window_Sizes() : Open_Program(GetParam()) {}
-
-    void Show_Everything_In_The_Main_Window()
-    {
-        user.When_Opens(QStringLiteral("Long_SMS_Dlg"), [](QWidget& notice) { notice.close(); });
-        The<QPlainTextEdit>("_messageEdit").setPlainText(QString(1600, u'm'));
-        The<QTableView>("idExclusionTableView").show();
-        The<QCheckBox>("_Delayed_Delivry_Chk").click();
+    for (auto* screen : QApplication::screens()) {
+        if (screen->name() == QLatin1String(name))
+            return screen;
     }
+    qFatal("there is no screen %s", name);
+}
 
-    static void Expect_Nothing_Cut_Off(QWidget& window)
-    {
-        window.show();
-        QCoreApplication::processEvents();
-        const auto controls = window.findChildren<QWidget*>();
-        for (const QWidget* control : controls) {
-            if (!control->isVisible() || control->objectName().startsWith(QStringLiteral("qt_")) ||
-                control->window() != &window)
-                continue;
-            const bool shows_text = qobject_cast<const QAbstractButton*>(control) ||
-                                    qobject_cast<const QLabel*>(control) || qobject_cast<const QLineEdit*>(control) ||
-                                    qobject_cast<const QComboBox*>(control);
-            if (!shows_text || control->objectName().isEmpty())
-                continue;
-            const auto name = (window.objectName() + u'/' + control->objectName()).toStdString();
-            const QSize needed = control->minimumSizeHint();
+bool Shows_Text(const QWidget& control)
+{
+    return qobject_cast<const QAbstractButton*>(&control) || qobject_cast<const QLabel*>(&control) ||
+           qobject_cast<const QLineEdit*>(&control) || qobject_cast<const QComboBox*>(&control);
+}
+
+std::vector<QWidget*> Shown_Controls(QWidget& window)
+{
+    std::vector<QWidget*> shown;
+    const auto controls = window.findChildren<QWidget*>();
+    for (QWidget* control : controls) {
+        if (control->isVisible() && control->window() == &window && !control->objectName().isEmpty() &&
+            !control->objectName().startsWith(u"qt_"))
+            shown.push_back(control);
+    }
+    return shown;
+}
+
+QSize Needed_By(const QWidget& control)
+{
+    QSize needed = control.minimumSizeHint();
+    const auto* label = qobject_cast<const QLabel*>(&control);
+    if (label && label->wordWrap())
+        needed.setHeight(label->heightForWidth(label->width()));
+    return needed;
+}
+
+/// What a control stands in: the page that scrolls, or the window.
+const QWidget& Ground_Of(const QWidget& control)
+{
+    const auto* body = control.window()->findChild<QScrollArea*>("body");
+    return body && body->widget()->isAncestorOf(&control) ? *body->widget() : *control.window();
+}
+
+void Expect_Nothing_Cut_Off(QWidget& window)
+{
+    const auto controls = Shown_Controls(window);
+    for (const QWidget* control : controls) {
+        const auto name = control->objectName().toStdString();
+        if (Shows_Text(*control)) {
+            const QSize needed = Needed_By(*control);
             EXPECT_GE(control->width(), needed.width()) << name;
             EXPECT_GE(control->height(), needed.height()) << name;
-            const QRect place(control->mapTo(&window, QPoint()), control->size());
-            EXPECT_TRUE(window.rect().contains(place)) << name;
         }
-        Expect_Distinct_Mnemonics(window);
-        window.hide();
+        const auto& ground = Ground_Of(*control);
+        EXPECT_TRUE(ground.rect().contains(QRect(control->mapTo(&ground, QPoint()), control->size()))) << name;
+        for (const QWidget* other : controls) {
+            EXPECT_TRUE(other == control || other->parent() != control->parent() ||
+                        !control->geometry().intersects(other->geometry()))
+                << name << " and " << other->objectName().toStdString();
+        }
+    }
+}
+
+void Expect_Distinct_Mnemonics(QWidget& window)
+{
+    std::map<QString, QString> taken;
+    for (const QWidget* control : Shown_Controls(window)) {
+        const auto* button = qobject_cast<const QAbstractButton*>(control);
+        const auto* label = qobject_cast<const QLabel*>(control);
+        const QString text = button ? button->text() : label && label->buddy() ? label->text() : QString();
+        const QString key = QKeySequence::mnemonic(text).toString();
+        EXPECT_TRUE(key.isEmpty() || taken.emplace(key, control->objectName()).second)
+            << qPrintable(key) << " of " << qPrintable(control->objectName()) << " is also " << qPrintable(taken[key]);
+    }
+}
+
+/// The whole window is on its screen, and the body scrolls in one direction alone, and only where the screen has no
+/// more room.
+void Expect_On_Its_Screen(const QWidget& window)
+{
+    const QRect room = window.screen()->availableGeometry();
+    EXPECT_TRUE(room.contains(window.frameGeometry()));
+    const auto* body = window.findChild<QScrollArea*>("body");
+    if (!body)
+        return;
+    EXPECT_EQ(body->horizontalScrollBar()->maximum(), 0);
+    if (body->verticalScrollBar()->maximum() > 0) {
+        EXPECT_GE(window.frameGeometry().height(), room.height() - 3 * window.fontMetrics().lineSpacing());
+    }
+}
+
+void Expect_Focus_Comes_Into_Sight(QWidget& window)
+{
+    auto* body = window.findChild<QScrollArea*>("body");
+    if (!body || body->verticalScrollBar()->maximum() == 0)
+        return;
+    QApplication::setActiveWindow(&window);
+    for (QWidget* control : Shown_Controls(window)) {
+        if (control->focusPolicy() == Qt::NoFocus || !control->isEnabled() || !body->widget()->isAncestorOf(control))
+            continue;
+        const QWidget& page = *body->widget();
+        const bool is_low = control->mapTo(&page, QPoint()).y() > page.height() / 2;
+        body->verticalScrollBar()->setValue(is_low ? 0 : body->verticalScrollBar()->maximum());
+        window.setFocus();
+        control->setFocus();
+        const QRect place(control->mapTo(body->viewport(), QPoint()), control->size());
+        EXPECT_TRUE(body->viewport()->rect().contains(place) || place.height() > body->viewport()->height())
+            << control->objectName().toStdString();
+    }
+}
+
+} // namespace
+
+// Every window under the fonts that desktops come with: no text is cut, nothing lies outside its window or over
+// something else, its buttons are on the screen, and no two controls answer to the same key.
+class Window_Sizes : public testing::TestWithParam<std::tuple<const char*, const char*>>
+{
+protected:
+    struct Program : Open_Program
+    {
+        using Open_Program::m_delegate;
+        Program(const QFont& font, QScreen* screen) : Open_Program(font, screen) {}
+        void TestBody() override {}
+    };
+
+    // A window that grows lays out its contents anew, which may make it grow once more.
+    static void Settle()
+    {
+        for (int round = 0; round < 4; ++round)
+            QCoreApplication::processEvents();
     }
 
-    static void Expect_Distinct_Mnemonics(QWidget& window)
+    static void Look_At(QWidget& window, QScreen* screen)
     {
-        std::map<QString, QString> taken;
-        const auto take = [&](const QWidget* control, const QString& text) {
-            const QString key = QKeySequence::mnemonic(text).toString();
-            if (key.isEmpty() || !control->isVisible())
-                return;
-            EXPECT_TRUE(taken.emplace(key, control->objectName()).second)
-                << qPrintable(key) << " of " << qPrintable(control->objectName()) << " is also "
-                << qPrintable(taken[key]);
-        };
-        const auto buttons = window.findChildren<QAbstractButton*>();
-        for (const auto* button : buttons)
-            take(button, button->text());
-        const auto labels = window.findChildren<QLabel*>();
-        for (const auto* label : labels) {
-            if (label->buddy())
-                take(label, label->text());
+        window.move(screen->availableGeometry().topLeft());
+        window.show();
+        Settle();
+        Expect_Nothing_Cut_Off(window);
+        Expect_On_Its_Screen(window);
+        Expect_Focus_Comes_Into_Sight(window);
+        Expect_Distinct_Mnemonics(window);
+        for (const QSize size : {window.minimumSize(), screen->availableSize() - QSize(40, 80)}) {
+            window.resize(size);
+            Settle();
+            SCOPED_TRACE(testing::Message() << size.width() << " x " << size.height());
+            Expect_Nothing_Cut_Off(window);
         }
+        window.hide();
     }
 };
 
-TEST_P(Window_Sizes, Nothing_Is_Cut_Off_In_The_Main_Window)
+TEST_P(Window_Sizes, Nothing_Is_Cut_Off_And_The_Buttons_Are_On_The_Screen)
 {
-    Expect_Nothing_Cut_Off(*m_delegate);
-    m_delegate->resize(m_delegate->minimumSize());
-    Expect_Nothing_Cut_Off(*m_delegate);
+    const auto& [family, screen_name] = GetParam();
+    ASSERT_TRUE(QFontDatabase::families().contains(family)) << family << " is not installed";
+    QScreen* screen = Screen_Called(screen_name);
+    for (int points = Smallest_Points; points <= Largest_Points; ++points) {
+        const Program program(QFont(family, points), screen);
+        ASSERT_EQ(program.m_delegate->screen(), screen);
+        for (const auto& sight : Every_Window()) {
+            SCOPED_TRACE(testing::Message() << sight.what << ", " << points << " pt");
+            Look_At(sight.window(*program.m_delegate), screen);
+        }
+    }
 }
 
-TEST_P(Window_Sizes, Nothing_Is_Cut_Off_In_The_Main_Window_With_A_Long_Message_And_The_Excluded_Numbers)
+std::string Font_And_Screen(const testing::TestParamInfo<Window_Sizes::ParamType>& info)
 {
-    Show_Everything_In_The_Main_Window();
-    Expect_Nothing_Cut_Off(*m_delegate);
-    m_delegate->resize(m_delegate->minimumSize());
-    Expect_Nothing_Cut_Off(*m_delegate);
-    EXPECT_GE(The<QPlainTextEdit>("_messageEdit").height(), 3 * The<QWidget>("_messageEdit").fontMetrics().height());
+    const auto& [family, screen] = info.param;
+    return QString(family).replace(u' ', u'_').toStdString() + "_" + screen;
 }
 
-TEST_P(Window_Sizes, The_Main_Window_With_Everything_In_It_Finds_Room_On_A_Small_Screen)
+INSTANTIATE_TEST_SUITE_P(Under, Window_Sizes,
+                         testing::Combine(testing::Values("DejaVu Sans", "Noto Sans", "Liberation Sans", "Cantarell"),
+                                          testing::Values("desk", "small", "enlarged")),
+                         Font_And_Screen);
+
+class Small_Screen : public Open_Program
 {
-    constexpr QSize small_screen(1366, 768);
-    constexpr int title_bar = 36;
-    Show_Everything_In_The_Main_Window();
-    QCoreApplication::processEvents();
-    EXPECT_LE(m_delegate->minimumSize().width(), small_screen.width());
-    EXPECT_LE(m_delegate->minimumSize().height(), small_screen.height() - title_bar);
+protected:
+    Small_Screen() : Open_Program(QFont("Noto Sans", Largest_Points), Screen_Called("small")) {}
+};
+
+TEST_F(Small_Screen, The_Wheel_Changes_No_Choice_That_It_Passes)
+{
+    auto& body = The<QScrollArea>("body");
+    auto& box = The<QComboBox>("_Msg_TypeComboBox");
+    ASSERT_GT(body.verticalScrollBar()->maximum(), 0);
+    const int chosen = box.currentIndex();
+    const QPointF middle = box.rect().center();
+    QWheelEvent wheel(middle, box.mapToGlobal(middle), {}, QPoint(0, chosen ? 120 : -120), Qt::NoButton, {},
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&box, &wheel);
+    EXPECT_EQ(box.currentIndex(), chosen);
 }
 
-TEST_P(Window_Sizes, Nothing_Is_Cut_Off_In_The_Dialogs)
+TEST_F(Small_Screen, The_File_Panel_Is_On_It)
 {
-    Expect_Nothing_Cut_Off(*Connection_Info::defaultInstance());
-    Expect_Nothing_Cut_Off(*Phone_List_Wnd::defaultInstance());
-    Expect_Nothing_Cut_Off(*Long_SMS_Dlg::defaultInstance());
-    Expect_Nothing_Cut_Off(*Send_Modeless::defaultInstance());
-    Help_Wnd help(m_delegate.get());
-    Expect_Nothing_Cut_Off(help);
+    user.Will_Do([](QDialog* panel) {
+        QCoreApplication::processEvents();
+        const QRect frame = panel->frameGeometry();
+        EXPECT_TRUE(panel->screen()->availableGeometry().contains(frame));
+        panel->reject();
+    });
+    The<QPushButton>("Load_Number").click();
 }
-
-TEST_P(Window_Sizes, Nothing_Is_Cut_Off_In_The_Dialogs_Of_The_List)
-{
-    Load_Num_Info import_question(m_delegate.get());
-    Expect_Nothing_Cut_Off(import_question);
-    Expect_Nothing_Cut_Off(*Fill_Msg_In_List::defaultInstance());
-    Expect_Nothing_Cut_Off(*Send_Msg_Info::defaultInstance());
-    Expect_Nothing_Cut_Off(*Update_Num_SMS::defaultInstance());
-    Expect_Nothing_Cut_Off(*Update_Sel_Num_SMS::defaultInstance());
-}
-
-TEST_P(Window_Sizes, Nothing_Is_Cut_Off_In_The_Stores_And_Their_Exports)
-{
-    Expect_Nothing_Cut_Off(*Sent_Items::defaultInstance());
-    Expect_Nothing_Cut_Off(*Templates::defaultInstance());
-    Expect_Nothing_Cut_Off(*UpdateTemp::defaultInstance());
-    Expect_Nothing_Cut_Off(*Export_Option::defaultInstance());
-    Expect_Nothing_Cut_Off(*Open_Export_Log::defaultInstance());
-}
-
-TEST_P(Window_Sizes, Nothing_Is_Cut_Off_In_Any_Screen_Of_The_Exclusion_Wizard)
-{
-    auto& wizard = *Exclusion_Wizard::defaultInstance();
-    wizard.Show_Hide_First_Screen(false);
-    Expect_Nothing_Cut_Off(wizard);
-    wizard.AddNew_Btn();
-    Expect_Nothing_Cut_Off(wizard);
-    wizard.findChild<QLineEdit*>(QStringLiteral("m_ex_list_name_edit"))->setText(QString(50, u'm'));
-    wizard.Next_Btn();
-    Expect_Nothing_Cut_Off(wizard);
-    Expect_Nothing_Cut_Off(*wizard.findChild<QDialog*>(QStringLiteral("Update_Ex_Num")));
-}
-
-INSTANTIATE_TEST_SUITE_P(Text_At_Percent, Window_Sizes, testing::Values(100, 125, 150),
-                         [](const auto& parameter) { return std::to_string(parameter.param); });
 
 class Main_Window_Size : public Open_Program
 {

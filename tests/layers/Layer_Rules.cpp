@@ -303,6 +303,19 @@ Complaints Check_Sizes(const Source_Tree& tree)
     return complaints;
 }
 
+Complaints Check_Forms(const Source_Tree& tree)
+{
+    Complaints complaints;
+    for (const auto& [path, lines] : tree) {
+        for (std::size_t i = 0; path.ends_with(".ui") && i < lines.size(); ++i) {
+            if (lines[i].find("name=\"geometry\"") != std::string::npos ||
+                lines[i].find("name=\"minimumSize\"") != std::string::npos)
+                complaints.push_back(At(path, static_cast<int>(i) + 1, "gives a size that fits one font"));
+        }
+    }
+    return complaints;
+}
+
 Complaints Check_Doors(const Source_Tree& tree)
 {
     Complaints complaints;

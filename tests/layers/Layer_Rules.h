@@ -32,5 +32,8 @@ Complaints Check_Phone(const Source_Tree& tree);
 /// No source is longer than 700 lines.
 Complaints Check_Sizes(const Source_Tree& tree);
 
+/// No form gives a window or a control a size in pixels, which would fit one font and stand in for what its text needs.
+Complaints Check_Forms(const Source_Tree& tree);
+
 /// Sleeping, waiting, clocks, message boxes and file panels each have their one door.
 Complaints Check_Doors(const Source_Tree& tree);

@@ -57,6 +57,11 @@ TEST(Layers, No_Source_Is_Over_700_Lines)
     EXPECT_EQ(In_Lines(Check_Sizes(The_Checkout())), "");
 }
 
+TEST(Layers, No_Form_Gives_A_Size_In_Pixels)
+{
+    EXPECT_EQ(In_Lines(Check_Forms(The_Checkout())), "");
+}
+
 TEST(Layers, Time_And_Boxes_And_Panels_Have_One_Door)
 {
     EXPECT_EQ(In_Lines(Check_Doors(The_Checkout())), "");
@@ -173,6 +178,15 @@ TEST(Layer_Rules, Seven_Hundred_Lines_Are_Enough)
                            {"src/pdu/Longer.cpp", std::vector<std::string>(701, "x")},
                            {"src/pdu/Form.ui", std::vector<std::string>(2000, "x")}};
     EXPECT_THAT(Check_Sizes(tree), ElementsAre("src/pdu/Longer.cpp:701: goes on beyond 700 lines"));
+}
+
+TEST(Layer_Rules, A_Size_In_A_Form_Is_Named_With_File_And_Line)
+{
+    const Source_Tree tree{
+        {"src/pdu/Form.ui", {"<widget>", "<property name=\"geometry\"><rect>", "<property name=\"minimumSize\">"}},
+        {"src/pdu/Form.cpp", {"<property name=\"geometry\"><rect>"}}};
+    EXPECT_THAT(Check_Forms(tree), ElementsAre("src/pdu/Form.ui:2: gives a size that fits one font",
+                                               "src/pdu/Form.ui:3: gives a size that fits one font"));
 }
 
 TEST(Layer_Rules, A_Forbidden_Call_Is_Found_In_Each_Of_Its_Forms)

@@ -53,44 +53,6 @@ protected:
     }
 };
 
-// With the desktop's text at 100 and 150 per cent.
-class Store_Window_Sizes : public Stores_Test, public testing::WithParamInterface<int>
-{
-protected:
-    Store_Window_Sizes()
-    {
-        QFont font = m_font_before;
-        font.setPointSizeF(font.pointSizeF() * GetParam() / 100);
-        QApplication::setFont(font);
-    }
-    ~Store_Window_Sizes() override { QApplication::setFont(m_font_before); }
-
-    static void Expect_Nothing_Cut_Off(QWidget& window)
-    {
-        window.show();
-        QCoreApplication::processEvents();
-        std::map<QString, QString> keys;
-        for (const QWidget* control : window.findChildren<QWidget*>()) {
-            const auto* button = qobject_cast<const QAbstractButton*>(control);
-            const auto* label = qobject_cast<const QLabel*>(control);
-            if (!control->isVisible() || control->window() != &window || control->objectName().isEmpty() ||
-                control->objectName().startsWith(QStringLiteral("qt_")) || !(button || label))
-                continue;
-            const auto name = (window.objectName() + u'/' + control->objectName()).toStdString();
-            EXPECT_GE(control->width(), control->minimumSizeHint().width()) << name;
-            EXPECT_GE(control->height(), control->minimumSizeHint().height()) << name;
-            EXPECT_TRUE(window.rect().contains(QRect(control->mapTo(&window, QPoint()), control->size()))) << name;
-            const QString key = QKeySequence::mnemonic(button ? button->text() : label->text()).toString();
-            const bool is_taken = !key.isEmpty() && !keys.emplace(key, control->objectName()).second;
-            EXPECT_FALSE(is_taken) << name << " " << qPrintable(key);
-        }
-        window.hide();
-    }
-
-private:
-    QFont m_font_before = QApplication::font();
-};
-
 } // namespace
 
 TEST_F(Many_Records, The_Interface_Thread_Goes_On_With_Its_Events_While_They_Load_Shrink_And_Are_Written)
@@ -142,15 +104,3 @@ TEST_F(Stores_Test, The_Detail_View_And_The_Dialogs_Have_The_Colour_Of_The_Expor
          std::initializer_list<const QWidget*>{Export_Option::defaultInstance(), Open_Export_Log::defaultInstance()})
         EXPECT_EQ(dialog->palette().color(QPalette::Window), page) << qPrintable(dialog->objectName());
 }
-
-TEST_P(Store_Window_Sizes, Nothing_Is_Cut_Off_And_No_Two_Controls_Share_A_Key)
-{
-    Expect_Nothing_Cut_Off(*Sent_Items::defaultInstance());
-    Expect_Nothing_Cut_Off(*Templates::defaultInstance());
-    Expect_Nothing_Cut_Off(*UpdateTemp::defaultInstance());
-    Expect_Nothing_Cut_Off(*Export_Option::defaultInstance());
-    Expect_Nothing_Cut_Off(*Open_Export_Log::defaultInstance());
-}
-
-INSTANTIATE_TEST_SUITE_P(Text_At_Percent, Store_Window_Sizes, testing::Values(100, 150),
-                         [](const auto& parameter) { return std::to_string(parameter.param); });

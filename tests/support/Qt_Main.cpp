@@ -7,13 +7,28 @@
 #include <cstdio>
 #include <gmock/gmock.h>
 
+namespace {
+
+// What a desktop's settings would make of fonts and sizes is left outside.
+void See_The_Tests_Own_Fonts_And_Screens()
+{
+    for (const char* setting : {"QT_FONT_DPI", "QT_QPA_PLATFORMTHEME", "QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS",
+                                "QT_STYLE_OVERRIDE", "QT_USE_PHYSICAL_DPI"})
+        qunsetenv(setting);
+    qputenv("FONTCONFIG_FILE", CORVANE_TEST_FONTS);
+    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+    if (platform.isEmpty() || platform == "offscreen")
+        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" CORVANE_TEST_SCREENS);
+}
+
+} // namespace
+
 // The start of every test program with windows: an application on the offscreen platform, a data folder of its own that
 // is gone afterwards, and no worker left behind.
 int main(int argument_count, char** arguments)
 {
     testing::InitGoogleMock(&argument_count, arguments);
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    See_The_Tests_Own_Fonts_And_Screens();
     const QTemporaryDir data_home;
     if (!data_home.isValid()) {
         fprintf(stderr, "No temporary folder: %s\n", qPrintable(data_home.errorString()));

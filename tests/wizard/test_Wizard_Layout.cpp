@@ -19,20 +19,6 @@ const char* const Read_Only_Fields[] = {"_comport_edit",  "_port_det_edit", "_ma
                                         "_imei_edit",     "_imsi_edit",     "_battery_edit",     "_signal_edit",
                                         "_operator_edit", "_revision_edit", "_def_smsc_edit"};
 
-// Whether a control has the room that its text needs, inside its parent.
-void Expect_Whole(const QWidget& control)
-{
-    const auto name = control.objectName().toStdString();
-    EXPECT_TRUE(control.parentWidget()->rect().contains(control.geometry())) << name;
-    const auto* label = qobject_cast<const QLabel*>(&control);
-    if (label && label->wordWrap()) {
-        EXPECT_GE(label->height(), label->heightForWidth(label->width())) << name;
-    } else if (label || qobject_cast<const QAbstractButton*>(&control)) {
-        EXPECT_GE(control.width(), control.sizeHint().width()) << name;
-    }
-    EXPECT_GE(control.height(), control.minimumSizeHint().height()) << name;
-}
-
 TEST_F(Wizard_Test, Every_Control_Goes_By_The_Name_Of_Its_Field)
 {
     EXPECT_EQ(m_window->objectName(), "Phone_List_Wnd");
@@ -98,26 +84,6 @@ TEST_F(Wizard_Test, The_Tab_Key_Goes_From_The_Table_Through_The_Fields_To_The_Bu
         if (expected.contains(name))
             named.append(name);
     EXPECT_EQ(named, expected);
-}
-
-TEST_F(Wizard_Test, Nothing_Is_Cut_At_The_Smallest_The_First_And_A_Large_Size)
-{
-    const QString long_path = "/dev/serial/by-id/usb-" + QString(300, u'L') + "-if00-port0";
-    EXPECT_LE(m_window->minimumSizeHint().width(), m_window->minimumWidth());
-    EXPECT_LE(m_window->minimumSizeHint().height(), m_window->minimumHeight());
-    Run([&] {
-        m_window->Insert_port_in_List(long_path);
-        for (const QSize size : {m_window->minimumSize(), m_window->size(), QSize(1600, 1000)}) {
-            m_window->resize(size);
-            QApplication::processEvents();
-            ASSERT_EQ(m_window->size(), size) << "a long name must not make the window grow";
-            const auto controls = m_window->findChildren<QWidget*>(QRegularExpression("^_|_caption$|^intro$|_box$"));
-            EXPECT_EQ(controls.size(), 16 + 11 + 1 + 3);
-            for (const auto* control : controls)
-                Expect_Whole(*control);
-        }
-        EXPECT_GE(Table().height(), 300);
-    });
 }
 
 TEST_F(Wizard_Test, The_Background_Is_The_Programs_And_Opaque)

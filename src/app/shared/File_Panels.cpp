@@ -1,5 +1,7 @@
 #include "app/shared/File_Panels.h"
 
+#include "app/shared/Window_Fit.h"
+
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHeaderView>
@@ -15,7 +17,7 @@ public:
     explicit File_Panel(QWidget* over) : QFileDialog(over)
     {
         setOption(QFileDialog::DontUseNativeDialog);
-        resize(sizeHint().expandedTo(QSize(800, 520)));
+        Fit_Window(*this, Letters{.columns = 115, .lines = 34});
         if (auto* files = findChild<QTreeView*>(QStringLiteral("treeView"))) { // names and dates in full
             files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
             files->header()->setResizeContentsPrecision(0); // of what is in sight: a folder may be large

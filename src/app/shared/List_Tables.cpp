@@ -14,8 +14,18 @@ Invalid_Parameter::Invalid_Parameter(const char* condition)
 {
 }
 
+namespace {
+
+constexpr int Row_Padding = 10;
+constexpr int Rows_Always_In_Sight = 4; // and the headings, as high as a row
+constexpr int Letters_Always_In_Sight = 30;
+
+} // namespace
+
 void Prepare_List_Table(QTableView& table, Row_Table_Model& rows)
 {
+    const QFontMetrics letters = table.fontMetrics();
+    const int row_height = letters.height() + Row_Padding;
     table.setModel(&rows);
     table.setAlternatingRowColors(true);
     table.setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -26,12 +36,13 @@ void Prepare_List_Table(QTableView& table, Row_Table_Model& rows)
     table.setTabKeyNavigation(false); // Tab leaves the table
     table.setCornerButtonEnabled(false);
     table.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    table.verticalHeader()->setDefaultSectionSize(table.fontMetrics().height() + 10);
+    table.verticalHeader()->setDefaultSectionSize(row_height);
     table.verticalHeader()->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
     table.horizontalHeader()->setHighlightSections(false);
     table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     table.horizontalHeader()->setStretchLastSection(true);
-    table.setColumnWidth(0, table.fontMetrics().averageCharWidth() * 24);
+    table.setColumnWidth(0, letters.averageCharWidth() * 24);
+    table.setMinimumSize(letters.averageCharWidth() * Letters_Always_In_Sight, row_height * (Rows_Always_In_Sight + 1));
 }
 
 std::vector<int> Rows_Selected_In(const QTableView& table)

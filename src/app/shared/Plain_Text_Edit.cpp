@@ -7,6 +7,9 @@
 namespace {
 // A carriage return and a line feed together become one character.
 constexpr int Longest_Piece = 2 * Longest_Message;
+
+constexpr int Lines_Always_In_Sight = 5;
+constexpr int Letters_Always_In_Sight = 30;
 } // namespace
 
 QString Exact_Text(const QPlainTextEdit& edit)
@@ -34,6 +37,19 @@ bool Cut_Text(QPlainTextEdit& edit, int most)
     beyond.removeSelectedText();
     beyond.endEditBlock();
     return true;
+}
+
+QSize Plain_Text_Edit::sizeHint() const
+{
+    return minimumSizeHint();
+}
+
+QSize Plain_Text_Edit::minimumSizeHint() const
+{
+    const QFontMetrics letters = fontMetrics();
+    const int around = 2 * (frameWidth() + qRound(document()->documentMargin()));
+    return {letters.averageCharWidth() * Letters_Always_In_Sight + around,
+            letters.lineSpacing() * Lines_Always_In_Sight + around};
 }
 
 void Plain_Text_Edit::insertFromMimeData(const QMimeData* source)

@@ -26,6 +26,10 @@ class Plain_Text_Edit : public QPlainTextEdit
 public:
     using QPlainTextEdit::QPlainTextEdit;
 
+    /// Asks for some lines of its font, and takes whatever else there is.
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
 protected:
     void insertFromMimeData(const QMimeData* source) override;
 };

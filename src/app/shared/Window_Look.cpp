@@ -2,9 +2,7 @@
 
 #include <QApplication>
 #include <QColor>
-#include <QEvent>
 #include <QLabel>
-#include <QLayout>
 #include <QPalette>
 #include <QProxyStyle>
 #include <QWidget>
@@ -45,51 +43,6 @@ public:
     }
 };
 
-// Keeps a window at least as large as what it shows needs, whatever the size of the desktop's text. Layouts see to that
-// themselves but for texts that wrap: those need more height the narrower they are.
-class Size_Keeper : public QObject
-{
-public:
-    explicit Size_Keeper(QWidget& window) : QObject(&window), m_window(window), m_designed_minimum(window.minimumSize())
-    {
-        window.installEventFilter(this);
-    }
-
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        switch (event->type()) {
-        case QEvent::Show:
-        case QEvent::Resize:
-        case QEvent::LayoutRequest:
-            Keep();
-            break;
-        default:
-            break;
-        }
-        return false;
-    }
-
-private:
-    void Keep()
-    {
-        QLayout* layout = m_window.layout();
-        if (!layout || m_is_keeping)
-            return;
-        m_is_keeping = true;
-        QSize needed = layout->totalMinimumSize().expandedTo(m_designed_minimum);
-        const int width = std::max(m_window.width(), needed.width());
-        if (layout->hasHeightForWidth())
-            needed.setHeight(std::max(needed.height(), layout->totalMinimumHeightForWidth(width)));
-        if (m_window.minimumSize() != needed)
-            m_window.setMinimumSize(needed);
-        m_is_keeping = false;
-    }
-
-    QWidget& m_window;
-    QSize m_designed_minimum;
-    bool m_is_keeping = false;
-};
-
 // Complete, so that nothing of a dark desktop theme is left to put light text on the light background.
 QPalette Program_Palette()
 {
@@ -128,11 +81,11 @@ void Apply_Application_Look(QApplication& application)
     QApplication::setPalette(Program_Palette());
 }
 
-void Apply_Window_Look(QWidget& window)
+void Apply_Window_Look(QWidget& window, Letters first_size)
 {
     QPalette palette = window.palette();
     palette.setColor(QPalette::Window, Window_Background());
     window.setPalette(palette);
     window.setAutoFillBackground(true);
-    new Size_Keeper(window); // the window owns it
+    Fit_Window(window, first_size);
 }

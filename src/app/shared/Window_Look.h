@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/shared/Window_Fit.h"
+
 class QApplication;
 class QColor;
 class QWidget;
@@ -13,6 +15,6 @@ QColor Window_Background();
 /// Gives the application one style and one palette. Called once at start-up, before the first window.
 void Apply_Application_Look(QApplication& application);
 
-/// Gives a window the program's background, and keeps it large enough for what it shows. Called once for each window,
-/// after its layout is made.
-void Apply_Window_Look(QWidget& window);
+/// Gives a window the program's background, and sees to its size (Fit_Window). Called once for each window, after its
+/// layout is made.
+void Apply_Window_Look(QWidget& window, Letters first_size = {});

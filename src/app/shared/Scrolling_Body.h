@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QScrollArea>
+#include <vector>
+
+class QBoxLayout;
+
+// What a window shows above its row of buttons. Where the screen has room it stands there as if it were laid out in the
+// window itself; where it has not, what stands beside each other moves below each other, the whole scrolls, and the
+// buttons stay in sight. Part of its window; interface thread
+// only.
+class Scrolling_Body : public QScrollArea
+{
+    Q_OBJECT
+
+public:
+    /// Takes everything but the last row out of the column and stands there instead. A column that needs no body gets
+    /// none: one without a row of buttons, or one whose only content scrolls by itself.
+    static Scrolling_Body* Made_For(QBoxLayout& column);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+    /// Lays rows out as columns as long as they need more than this width.
+    void Fit_Into(int width);
+    /// The smallest size at which all of it is in sight; at least this wide.
+    QSize Whole_Size(int width) const;
+    /// The height that it would like to have at a width.
+    int Preferred_Height(int width) const;
+    /// The width that the scroll bar takes away.
+    int Bar_Width() const;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    explicit Scrolling_Body(QBoxLayout& column);
+    void Watch_Boxes();
+    void Bring_Into_Sight(const QWidget* control);
+
+    struct Row
+    {
+        QBoxLayout* layout; // the page owns it
+        int width = 0;      ///< that it needed when it last was a row
+    };
+
+    QBoxLayout* m_rows; // of the page, which owns it
+    std::vector<Row> m_foldable;
+};

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "app/CorvaneAppDelegate.h"
+
+#include <functional>
+#include <vector>
+
+// A window, and what to do for it to show the longest texts that it ever shows.
+struct Sight
+{
+    const char* what;
+    std::function<QWidget&(CorvaneAppDelegate&)> window;
+};
+
+/// Every window of the program, some of them more than once.
+const std::vector<Sight>& Every_Window();
