@@ -2,11 +2,64 @@
 
 #include "phone/Phone_Works.h"
 
+#include <algorithm>
+#include <mutex>
 #include <utility>
 
-Virtual_Phone::Virtual_Phone(Phone_Moods moods) : m_works(std::make_unique<Handset::Phone_Works>(moods)) {}
+using Handset::Phone_Works;
 
-Virtual_Phone::~Virtual_Phone() = default;
+namespace {
+
+// The phones of this process.
+struct Phone_Register
+{
+    std::mutex lock;
+    std::vector<std::shared_ptr<Phone_Works>> phones;
+};
+
+Phone_Register& The_Register()
+{
+    static Phone_Register phones;
+    return phones;
+}
+
+std::shared_ptr<Phone_Works> Phone_On(const std::string& path)
+{
+    auto& phones = The_Register();
+    const std::lock_guard guard(phones.lock);
+    const auto is_its_line = [&path](const std::shared_ptr<Phone_Works>& phone) {
+        const std::lock_guard works_guard(phone->m_lock);
+        return phone->m_line.Is_Open() && phone->m_line.Path() == path;
+    };
+    const auto found = std::find_if(phones.phones.begin(), phones.phones.end(), is_its_line);
+    return found == phones.phones.end() ? nullptr : *found;
+}
+
+std::uint64_t Said_By(Phone_Works& works, std::chrono::milliseconds within)
+{
+    const auto end = std::chrono::steady_clock::now() + within;
+    std::unique_lock guard(works.m_lock);
+    works.Serve();
+    works.m_changed.wait_until(guard, end, [&] { return !works.Says_Something_Before(end); });
+    works.Serve(); // what became due while the phone's own thread got no turn
+    return works.m_said;
+}
+
+} // namespace
+
+Virtual_Phone::Virtual_Phone(Phone_Moods moods) : m_works(std::make_shared<Phone_Works>(moods))
+{
+    auto& phones = The_Register();
+    const std::lock_guard guard(phones.lock);
+    phones.phones.push_back(m_works);
+}
+
+Virtual_Phone::~Virtual_Phone()
+{
+    auto& phones = The_Register();
+    const std::lock_guard guard(phones.lock);
+    std::erase(phones.phones, m_works);
+}
 
 std::string Virtual_Phone::Path() const
 {
@@ -54,11 +107,13 @@ bool Virtual_Phone::Is_Silent(int milliseconds) const
 
 std::uint64_t Virtual_Phone::Said(std::chrono::milliseconds within) const
 {
-    const auto end = std::chrono::steady_clock::now() + within;
-    std::unique_lock guard(m_works->m_lock);
-    m_works->Serve();
-    m_works->m_changed.wait_until(guard, end, [&] { return !m_works->Says_Something_Before(end); });
-    return m_works->m_said;
+    return Said_By(*m_works, within);
+}
+
+std::optional<std::uint64_t> Virtual_Phone::Said_On(const std::string& path, std::chrono::milliseconds within)
+{
+    const auto works = Phone_On(path);
+    return works ? std::optional(Said_By(*works, within)) : std::nullopt;
 }
 
 bool Virtual_Phone::Somebody_Is_There() const

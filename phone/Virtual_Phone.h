@@ -12,6 +12,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -53,6 +54,10 @@ public:
     // that is due later is not waited for.
     std::uint64_t Said(std::chrono::milliseconds within = {}) const;
 
+    // The same for the phone of this process whose line it is; nothing when there is none. What has come is heard and
+    // answered on the caller's thread, so that whoever wrote to the line does not depend on the phone's getting a turn.
+    static std::optional<std::uint64_t> Said_On(const std::string& path, std::chrono::milliseconds within = {});
+
     // Whether anybody has the line open.
     bool Somebody_Is_There() const;
 
@@ -86,5 +91,5 @@ public:
     void Set_Listeners(Listeners listeners);
 
 private:
-    std::unique_ptr<Handset::Phone_Works> m_works;
+    std::shared_ptr<Handset::Phone_Works> m_works;
 };

@@ -7,9 +7,11 @@
 #include "platform/Interface_Thread.h"
 #include "platform/Pace.h"
 #include "support/Log_Lines.h"
+#include "support/Own_Seconds.h"
 #include "support/Serve_Until.h"
 
 #include <gmock/gmock.h>
+#include <thread>
 
 /// At this pace a read time-out of a second lasts 50 ms.
 constexpr double Test_Pace = 20;
@@ -39,6 +41,14 @@ inline std::shared_ptr<KVSerialPort> Open_Port(const Virtual_Phone& phone, Seria
     EXPECT_TRUE(port->open()) << strerror(port->lastError());
     port->setReadTimeout(1.0);
     return port;
+}
+
+/// Waits until the background reader has read, and has left what it read for the interface thread, which does not serve
+/// events meanwhile.
+inline void Wait_Until_Posted(const KVSerialPort& port)
+{
+    while (port.numberOfReadInBackgroundThreads() > 0)
+        std::this_thread::yield();
 }
 
 /// Connects a session with the phone, as the send job and the wizard do.

@@ -74,74 +74,74 @@ int Watched_Calls::Open(const char* path, int flags)
         const std::lock_guard guard(m_lock);
         m_open_flags = flags;
     }
-    return action ? action(nullptr) : Serial_Calls::Open(path, flags);
+    return action ? action(nullptr) : Patient_Calls::Open(path, flags);
 }
 
 int Watched_Calls::Close(int descriptor)
 {
     Note("close");
-    return Serial_Calls::Close(descriptor);
+    return Patient_Calls::Close(descriptor);
 }
 
 int Watched_Calls::Get_Status_Flags(int descriptor)
 {
     const auto action = Note("F_GETFL");
-    return action ? action(nullptr) : Serial_Calls::Get_Status_Flags(descriptor);
+    return action ? action(nullptr) : Patient_Calls::Get_Status_Flags(descriptor);
 }
 
 int Watched_Calls::Set_Status_Flags(int descriptor, int flags)
 {
     const auto action = Note("F_SETFL");
-    return action ? action(&flags) : Serial_Calls::Set_Status_Flags(descriptor, flags);
+    return action ? action(&flags) : Patient_Calls::Set_Status_Flags(descriptor, flags);
 }
 
 int Watched_Calls::Lock_Exclusively(int descriptor)
 {
     const auto action = Note("flock");
-    return action ? action(nullptr) : Serial_Calls::Lock_Exclusively(descriptor);
+    return action ? action(nullptr) : Patient_Calls::Lock_Exclusively(descriptor);
 }
 
 int Watched_Calls::Control(int descriptor, unsigned long request, void* argument)
 {
     const auto action = Note(Name_Of(request));
-    return action ? action(argument) : Serial_Calls::Control(descriptor, request, argument);
+    return action ? action(argument) : Patient_Calls::Control(descriptor, request, argument);
 }
 
 int Watched_Calls::Get_Attributes(int descriptor, termios& attributes)
 {
     const auto action = Note("tcgetattr");
-    return action ? action(&attributes) : Serial_Calls::Get_Attributes(descriptor, attributes);
+    return action ? action(&attributes) : Patient_Calls::Get_Attributes(descriptor, attributes);
 }
 
 int Watched_Calls::Set_Attributes(int descriptor, const termios& attributes)
 {
     const auto action = Note("tcsetattr");
     termios copy = attributes;
-    return action ? action(&copy) : Serial_Calls::Set_Attributes(descriptor, attributes);
+    return action ? action(&copy) : Patient_Calls::Set_Attributes(descriptor, attributes);
 }
 
 int Watched_Calls::Flush(int descriptor, int queue)
 {
     const auto action = Note("tcflush");
-    return action ? action(&queue) : Serial_Calls::Flush(descriptor, queue);
+    return action ? action(&queue) : Patient_Calls::Flush(descriptor, queue);
 }
 
 int Watched_Calls::Send_Break(int descriptor)
 {
     const auto action = Note("tcsendbreak");
-    return action ? action(nullptr) : Serial_Calls::Send_Break(descriptor);
+    return action ? action(nullptr) : Patient_Calls::Send_Break(descriptor);
 }
 
 ssize_t Watched_Calls::Read(int descriptor, void* buffer, size_t size)
 {
     const auto action = Note("read");
-    return action ? action(buffer) : Serial_Calls::Read(descriptor, buffer, size);
+    return action ? action(buffer) : Patient_Calls::Read(descriptor, buffer, size);
 }
 
 ssize_t Watched_Calls::Write(int descriptor, const void* bytes, size_t size)
 {
     const auto action = Note("write");
-    return action ? action(nullptr) : Serial_Calls::Write(descriptor, bytes, size);
+    return action ? action(nullptr) : Patient_Calls::Write(descriptor, bytes, size);
 }
 
 Line_Event Watched_Calls::Wait(int descriptor, short events, double seconds, int wake_descriptor)
@@ -155,5 +155,5 @@ Line_Event Watched_Calls::Wait(int descriptor, short events, double seconds, int
             action = row->second;
     }
     return action ? static_cast<Line_Event>(action(nullptr))
-                  : Serial_Calls::Wait(descriptor, events, seconds, wake_descriptor);
+                  : Patient_Calls::Wait(descriptor, events, seconds, wake_descriptor);
 }

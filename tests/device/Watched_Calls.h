@@ -1,6 +1,6 @@
 #pragma once
 
-#include "device/Serial_Calls.h"
+#include "support/Patient_Calls.h"
 
 #include <atomic>
 #include <functional>
@@ -11,7 +11,7 @@
 
 /// The real system calls, with every step on the line noted by its name, and any of them made to fail or to answer
 /// something else. Waiting is no step, and only counted. Any thread.
-class Watched_Calls : public Serial_Calls
+class Watched_Calls : public Patient_Calls
 {
 public:
     using Action = std::function<int(void* argument)>;

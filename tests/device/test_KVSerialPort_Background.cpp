@@ -53,14 +53,23 @@ protected:
         EXPECT_TRUE(Serve_Until([&] { return Now_Seconds() > end; }));
     }
 
-    void Start_Reading()
+    void Begin_Reading()
     {
         m_port->setDelegate(&m_listener);
         m_port->readDataInBackground();
     }
 
+    /// Begins, and returns when the reader waits for the line.
+    void Start_Reading()
+    {
+        const int waits_before = m_calls.Waits();
+        Begin_Reading();
+        EXPECT_TRUE(Serve_Until([&] { return m_calls.Waits() > waits_before; }));
+    }
+
     Virtual_Phone m_phone;
-    std::shared_ptr<KVSerialPort> m_port = Open_Port(m_phone);
+    Watched_Calls m_calls;
+    std::shared_ptr<KVSerialPort> m_port = Open_Port(m_phone, m_calls);
     Listener m_listener;
 };
 
@@ -100,8 +109,7 @@ TEST_F(Serial_Port_Background, One_Call_Is_One_Read)
 TEST_F(Serial_Port_Background, A_Port_Closed_Meanwhile_Delivers_Empty_Data)
 {
     Start_Reading();
-    ASSERT_TRUE(Serve_Until([&] { return m_port->numberOfReadInBackgroundThreads() == 1; }));
-    Serve_For(0.05);
+    EXPECT_EQ(m_port->numberOfReadInBackgroundThreads(), 1);
     m_port->close();
     ASSERT_TRUE(Serve_Until([&] { return !m_listener.m_reads.empty(); }));
     EXPECT_EQ(m_listener.m_reads, Lines(""));
@@ -111,7 +119,7 @@ TEST_F(Serial_Port_Background, A_Port_Closed_Meanwhile_Delivers_Empty_Data)
 TEST_F(Serial_Port_Background, A_Port_Closed_Before_The_Read_Begins_Delivers_Nothing)
 {
     m_port->close();
-    Start_Reading();
+    Begin_Reading();
     EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
     Serve_For(0.02);
     EXPECT_TRUE(m_listener.m_reads.empty());
@@ -120,7 +128,6 @@ TEST_F(Serial_Port_Background, A_Port_Closed_Before_The_Read_Begins_Delivers_Not
 TEST_F(Serial_Port_Background, A_Hang_Up_Delivers_Empty_Data_Once_And_Ends_The_Reader)
 {
     Start_Reading();
-    Serve_For(0.05);
     m_phone.Hang_Up();
     ASSERT_TRUE(Serve_Until([&] { return !m_listener.m_reads.empty(); }));
     EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
@@ -130,7 +137,6 @@ TEST_F(Serial_Port_Background, A_Hang_Up_Delivers_Empty_Data_Once_And_Ends_The_R
 TEST_F(Serial_Port_Background, A_Reader_That_Is_Stopped_Ends_And_Leaves_The_Bytes)
 {
     Start_Reading();
-    Serve_For(0.05);
     m_port->stopReadInBackground();
     EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
     m_phone.Says("later");
@@ -141,9 +147,9 @@ TEST_F(Serial_Port_Background, A_Reader_That_Is_Stopped_Ends_And_Leaves_The_Byte
 TEST_F(Serial_Port_Background, From_A_Write_To_The_End_Of_Its_Read_The_Reader_Leaves_Bytes_Alone)
 {
     Start_Reading();
-    Serve_For(0.05);
     ASSERT_TRUE(m_port->writeData("AT\r"));
-    Serve_For(0.1); // the answer is there by now
+    ASSERT_TRUE(Serve_Until([&] { return m_port->bytesAvailable() == int(strlen("AT\r\r\nOK\r\n")); }));
+    Serve_For(0.02);
     EXPECT_TRUE(m_listener.m_reads.empty());
     EXPECT_EQ(m_port->readAndReturnError(), QByteArray("AT\r\r\nOK\r\n"));
     m_phone.Says("RING");
@@ -222,7 +228,7 @@ TEST_F(Serial_Port_Background, A_Delegate_That_Has_Gone_Is_Not_Called)
     m_port->setDelegate(listener.get());
     m_port->readDataInBackground();
     m_phone.Says("RING");
-    std::this_thread::sleep_for(std::chrono::milliseconds(50)); // posted by now, and not yet delivered
+    Wait_Until_Posted(*m_port);
     listener.reset();
     Serve_For(0.05);
     EXPECT_EQ(Workers_Running(), 0);
@@ -236,7 +242,7 @@ TEST_F(Serial_Port_Background, Data_That_Was_Posted_Keeps_Its_Port_Alive)
     own_port->setDelegate(&m_listener);
     own_port->readDataInBackground();
     m_phone.Says("RING");
-    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    Wait_Until_Posted(*own_port);
     own_port->close();
     own_port.reset();
     EXPECT_FALSE(own_watch.expired());
@@ -247,7 +253,6 @@ TEST_F(Serial_Port_Background, Data_That_Was_Posted_Keeps_Its_Port_Alive)
 TEST_F(Serial_Port_Background, A_Reader_Does_Not_Go_On_With_A_Line_That_Was_Opened_Anew)
 {
     Start_Reading();
-    Serve_For(0.05);
     m_port->close();
     ASSERT_TRUE(m_port->open());
     ASSERT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
@@ -260,7 +265,6 @@ TEST_F(Serial_Port_Background, A_Reader_Does_Not_Go_On_With_A_Line_That_Was_Open
 TEST_F(Serial_Port_Background, A_Reader_Ends_When_The_Program_Exits)
 {
     Start_Reading();
-    Serve_For(0.05);
     Begin_Program_Exit();
     Finish_Workers();
     EXPECT_EQ(Workers_Running(), 0);

@@ -18,8 +18,16 @@ protected:
             [&] { return m_port->bytesAvailable() >= static_cast<int>(std::min<size_t>(bytes.size(), 4095)); }));
     }
 
+    // For another thread: returns when a read waits for the line.
+    void Wait_For_A_Read() const
+    {
+        while (m_calls.Waits() == 0)
+            std::this_thread::yield();
+    }
+
     Virtual_Phone m_phone;
-    std::shared_ptr<KVSerialPort> m_port = Open_Port(m_phone);
+    Watched_Calls m_calls;
+    std::shared_ptr<KVSerialPort> m_port = Open_Port(m_phone, m_calls);
     KVSerialError m_error;
 };
 
@@ -29,9 +37,9 @@ TEST_F(Serial_Port_Reading, A_Read_Whose_Timeout_Was_Never_Set_Returns_Nothing_A
 {
     const auto fresh = std::make_shared<KVSerialPort>(m_port->bsdPath(), QString(), QString());
     ASSERT_TRUE(fresh->open());
-    const double start = Now_Seconds();
+    const Stopwatch watch;
     EXPECT_TRUE(fresh->readAndReturnError(&m_error).isNull());
-    EXPECT_LT(Now_Seconds() - start, 0.02);
+    EXPECT_LT(watch.Lasted_For_The_Thread(), 0.02);
     EXPECT_EQ(m_error.code, 100);
     EXPECT_EQ(m_error.bytesRead, 0u);
     EXPECT_STREQ(m_error.domain, KVSerialErrorDomain);
@@ -40,11 +48,10 @@ TEST_F(Serial_Port_Reading, A_Read_Whose_Timeout_Was_Never_Set_Returns_Nothing_A
 TEST_F(Serial_Port_Reading, A_Read_On_A_Quiet_Line_Lasts_The_Whole_Timeout)
 {
     m_port->setReadTimeout(4.0);
-    const double start = Now_Seconds();
+    const Stopwatch watch;
     EXPECT_TRUE(m_port->readStringUsingEncoding(KVText_Encoding::Utf8, &m_error).isNull());
-    const double lasted = Now_Seconds() - start;
-    EXPECT_GE(lasted, 4.0 / Test_Pace);
-    EXPECT_LT(lasted, 4.0 / Test_Pace + 0.5);
+    EXPECT_GE(watch.Lasted(), 4.0 / Test_Pace);
+    EXPECT_LT(watch.Lasted_For_The_Thread(), 4.0 / Test_Pace + 0.5);
     EXPECT_EQ(m_error.code, 100);
 }
 
@@ -53,7 +60,8 @@ TEST_F(Serial_Port_Reading, A_Read_Collects_What_Comes_Until_The_Timeout_Is_Over
     m_port->setReadTimeout(6.0);
     std::thread talker([&] {
         m_phone.Says("one ");
-        std::this_thread::sleep_for(std::chrono::milliseconds(60));
+        while (m_calls.Count("read") == 0)
+            std::this_thread::yield();
         m_phone.Says("two");
     });
     EXPECT_EQ(m_port->readStringUsingEncoding(KVText_Encoding::Utf8, &m_error), QStringLiteral("one two"));
@@ -153,7 +161,7 @@ TEST_F(Serial_Port_Reading, A_Hang_Up_During_A_Read_Ends_It_With_An_Error)
 {
     m_port->setReadTimeout(60 * Test_Pace);
     std::thread puller([&] {
-        std::this_thread::sleep_for(std::chrono::milliseconds(30));
+        Wait_For_A_Read();
         m_phone.Hang_Up();
     });
     const double start = Now_Seconds();
@@ -167,7 +175,7 @@ TEST_F(Serial_Port_Reading, A_Close_During_A_Read_Ends_It_With_An_Error)
 {
     m_port->setReadTimeout(60 * Test_Pace);
     std::thread closer([&] {
-        std::this_thread::sleep_for(std::chrono::milliseconds(30));
+        Wait_For_A_Read();
         m_port->close();
     });
     EXPECT_TRUE(m_port->readAndReturnError(&m_error).isNull());
@@ -179,8 +187,8 @@ TEST_F(Serial_Port_Reading, A_Close_During_A_Read_Ends_It_With_An_Error)
 TEST_F(Serial_Port_Reading, A_Read_Ends_At_Once_When_The_Program_Exits)
 {
     m_port->setReadTimeout(60 * Test_Pace);
-    std::thread ender([] {
-        std::this_thread::sleep_for(std::chrono::milliseconds(30));
+    std::thread ender([this] {
+        Wait_For_A_Read();
         Begin_Program_Exit();
     });
     const double start = Now_Seconds();

@@ -98,9 +98,11 @@ TEST_F(Serial_Port_Writing, A_Device_That_Takes_No_Bytes_Ends_The_Write_After_It
 TEST_F(Serial_Port_Writing, A_Close_Ends_A_Write_That_Waits_For_Room)
 {
     Virtual_Phone deaf_phone(Takes_No_Byte());
-    const auto port = Open_Port(deaf_phone);
+    Watched_Calls calls;
+    const auto port = Open_Port(deaf_phone, calls);
     std::thread closer([&] {
-        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+        while (calls.Waits() == 0)
+            std::this_thread::yield();
         port->close();
     });
     EXPECT_FALSE(port->writeData(QByteArray(1 << 20, 'x'), &m_error));

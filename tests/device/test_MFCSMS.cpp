@@ -169,11 +169,10 @@ TEST_F(Session, A_Silent_Device_Costs_Exactly_One_Read_Timeout)
     m_session.port()->setReadTimeout(4.0);
     m_session.Write_Command(No_Descriptor, "AT\r\n");
     m_session.setM_sLastResponse(QStringLiteral("old"));
-    const double start = Now_Seconds();
+    const Stopwatch watch;
     EXPECT_FALSE(m_session.Read_Command(No_Descriptor, "\r\nOK\r\n"));
-    const double lasted = Now_Seconds() - start;
-    EXPECT_GE(lasted, 4.0 / Test_Pace);
-    EXPECT_LT(lasted, 4.0 / Test_Pace + 0.5);
+    EXPECT_GE(watch.Lasted(), 4.0 / Test_Pace);
+    EXPECT_LT(watch.Lasted_For_The_Thread(), 4.0 / Test_Pace + 0.5);
     EXPECT_EQ(m_session.m_sLastResponse(), QString());
 }
 
@@ -227,9 +226,9 @@ TEST_F(Session, A_Device_That_Never_Stops_Talking_Ends_No_Exchange_Late)
 {
     m_phone.Set_Moods(Mood(&Phone_Moods::m_never_stops_talking));
     Connect(m_session, m_phone);
-    const double start = Now_Seconds();
+    const Stopwatch watch;
     m_session.Check_Connection(No_Descriptor);
-    EXPECT_LT(Now_Seconds() - start, 3.0);
+    EXPECT_LT(watch.Lasted_For_The_Thread(), 3.0);
 }
 
 TEST_F(Session, A_Device_That_Vanished_Fails_The_Write)
@@ -286,7 +285,7 @@ TEST_F(Session, A_Closed_Port_Is_Logged_Once_And_Not_Read_Again)
     Connect(m_session, m_phone);
     m_phone.Says("RING");
     ASSERT_TRUE(Serve_Until([&] { return m_log.Has("serialPortReadData ( RING )"); }));
-    std::this_thread::sleep_for(std::chrono::milliseconds(50)); // the next background read waits by now
+    ASSERT_TRUE(Serve_Until([&] { return m_calls.Waits() == 2; })); // the next background read waits
     m_session.port()->close();
     m_session.setPort(nullptr);
     EXPECT_EQ(m_session.port(), nullptr);
@@ -301,7 +300,7 @@ TEST_F(Session, Data_For_A_Session_That_Has_Gone_Is_Dropped)
         MFCSMS session;
         Connect(session, m_phone);
         m_phone.Says("RING");
-        std::this_thread::sleep_for(std::chrono::milliseconds(50)); // posted by now, and not yet delivered
+        Wait_Until_Posted(*session.port());
     }
     EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
     EXPECT_EQ(m_log.Joined().find("serialPortReadData"), std::string::npos);

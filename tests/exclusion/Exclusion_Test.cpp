@@ -59,17 +59,6 @@ QString Boxed(const char* text)
     return QString("\n") + text;
 }
 
-Heartbeat::Heartbeat() : m_last(Now_Seconds())
-{
-    m_timer.setTimerType(Qt::PreciseTimer);
-    connect(&m_timer, &QTimer::timeout, this, [this] {
-        const double now = Now_Seconds();
-        m_longest = std::max(m_longest, now - m_last);
-        m_last = now;
-    });
-    m_timer.start(5);
-}
-
 Exclusion_Test::Exclusion_Test()
 {
     Apply_Application_Look(*qApp);

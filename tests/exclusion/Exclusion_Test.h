@@ -1,6 +1,7 @@
 #pragma once
 
 #include "exclusion/Exclusion_Wizard.h"
+#include "support/Heartbeat.h"
 #include "support/Serve_Until.h"
 #include "support/User.h"
 #include "support/Window_For_Tests.h"
@@ -36,19 +37,6 @@ void Put_A_Folder_At(const QString& path);
 
 /// As the box shows it.
 QString Boxed(const char* text);
-
-// Measures the longest time for which the interface thread does not come back to its events, in seconds.
-class Heartbeat : public QObject
-{
-public:
-    Heartbeat();
-    double Longest_Gap() const { return m_longest; }
-
-private:
-    QTimer m_timer;
-    double m_last;
-    double m_longest = 0;
-};
 
 // The exclusion wizard on the offscreen screen, over a main window without controls, and a person who clicks in it.
 class Exclusion_Test : public testing::Test

@@ -2,6 +2,7 @@
 
 #include "app/shared/Plain_Text_Edit.h"
 #include "sending/Send_Modeless.h"
+#include "support/Patient_Calls.h"
 #include "wizard/Phone_List_Wnd.h"
 
 #include <QClipboard>
@@ -11,31 +12,15 @@
 #include <QWindow>
 #include <algorithm>
 #include <array>
-#include <cstdlib>
 #include <fcntl.h>
 #include <iostream>
 #include <unistd.h>
 
 namespace {
 
-// A pace of 25 makes a read of one second last 40 ms, one of 125 a read of five seconds.
-constexpr double Preparing_Pace = 25;
-constexpr double Sending_Pace = 125;
-
-#if defined(__SANITIZE_THREAD__) || defined(__SANITIZE_ADDRESS__)
-constexpr double Slowness_Of_Build = 3;
-#else
-constexpr double Slowness_Of_Build = 1;
-#endif
-
-// How many times as long as on an idle computer an answer may take: more where more wants to run than can.
-double Slowness()
-{
-    double load = 0;
-    const double cores = std::max(1U, std::thread::hardware_concurrency());
-    const double wanted = getloadavg(&load, 1) == 1 ? load / cores : 1;
-    return Slowness_Of_Build * std::clamp(wanted, 1.0, 10.0);
-}
+// Reads of one second last 20 ms at the first pace, and so do reads of five seconds at the second.
+constexpr double Preparing_Pace = 50;
+constexpr double Sending_Pace = 250;
 
 const QStringList& Numbers_Sent_To()
 {
@@ -106,7 +91,7 @@ Sending_Program::Sending_Program()
     Cus_SMS_Num_STR.clear();
     Stop_SMS_Sending_Now = 0;
     Get_A_Phone();
-    Send_Modeless::defaultInstance()->findChild<QPushButton*>(QStringLiteral("_stop_btn"))->installEventFilter(this);
+    qApp->installEventFilter(this);
 }
 
 Sending_Program::~Sending_Program()
@@ -125,16 +110,18 @@ Sending_Program::~Sending_Program()
 
 void Sending_Program::Slow_Down(double factor)
 {
-    const double slowness = Slowness();
-    m_preparing_pace = Preparing_Pace / slowness / factor;
-    m_sending_pace = Sending_Pace / slowness / factor;
+    m_preparing_pace = Preparing_Pace / factor;
+    m_sending_pace = Sending_Pace / factor;
     Set_Pace(m_preparing_pace);
 }
 
 // The first message is about to go out when the stop button can be pressed.
 bool Sending_Program::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::EnabledChange && static_cast<QPushButton*>(watched)->isEnabled())
+    if (event->type() == QEvent::Show && watched->objectName() == QStringLiteral("PleaseWait_Modeless"))
+        ++m_sheets;
+    if (event->type() == QEvent::EnabledChange && watched->objectName() == QStringLiteral("_stop_btn") &&
+        static_cast<QPushButton*>(watched)->isEnabled())
         Set_Pace(m_sending_pace);
     return false;
 }
@@ -323,10 +310,10 @@ void Sending_Program::Click_The_Phone()
 {
     auto& table = In_Wizard<QTableView>("idPortList");
     const QModelIndex row = Row_Of(QString::fromStdString(m_path));
+    m_sheets = 0;
     ASSERT_TRUE(row.isValid()) << "the wizard does not list " << m_path;
     Click_On(*table.viewport(), table.visualRect(row).center());
-    EXPECT_GT(Workers_Running(), 0) << "a click on the row starts no probe";
-    EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
+    EXPECT_TRUE(Serve_Until([this] { return m_sheets > 0 && Workers_Running() == 0; })) << "no probe comes to its end";
 }
 
 void Sending_Program::Click_In_Wizard(const char* button)
@@ -372,19 +359,17 @@ void Sending_Program::Expect_That_The_Wizard_Takes_The_Phone()
 // ---- What the tests hold in their own hands
 
 Cable_Puller::Cable_Puller(Virtual_Phone& phone, std::function<bool()> is_time)
-    : m_thread([&phone, is_time = std::move(is_time)](const std::stop_token& given_up) {
-          while (!given_up.stop_requested()) {
-              if (is_time()) {
-                  phone.Hang_Up();
-                  return;
-              }
-              phone.Is_Silent(20);
-          }
-      })
 {
+    The_Patient_Calls().Look_After_Each_Write([&phone, is_time = std::move(is_time)] {
+        if (!phone.Is_Hung_Up() && is_time())
+            phone.Hang_Up();
+    });
 }
 
-Cable_Puller::~Cable_Puller() = default;
+Cable_Puller::~Cable_Puller()
+{
+    The_Patient_Calls().Look_After_Each_Write({});
+}
 
 Held_Line::Held_Line(const std::string& path)
     : m_descriptor(::open(path.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC))

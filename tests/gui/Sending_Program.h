@@ -7,7 +7,6 @@
 
 #include <functional>
 #include <memory>
-#include <thread>
 
 class QMessageBox;
 
@@ -37,9 +36,8 @@ struct Way
 };
 
 // The open program and a phone on its line, used by clicks: a list of three recipients, the last with a long message,
-// is filled in and sent, or the wizard is visited. Afterwards nothing of a job or a visit may be left. The reads whose
-// answers are judged last 20 ms, and longer where the computer is busy or the build a slow one; those of the messages
-// themselves, where nothing but a list of character sets is judged, are as short.
+// is filled in and sent, or the wizard is visited. Afterwards nothing of a job or a visit may be left. Every read lasts
+// 20 ms.
 class Sending_Program : public Open_Program, public QObject
 {
 protected:
@@ -108,12 +106,14 @@ private:
     void Expect_Progress_As_It_Should_Be(const std::string& box);
     QModelIndex Row_Of(const QString& path);
 
+    int m_sheets = 0; // please-wait sheets shown since the last click on a device
     double m_preparing_pace;
     double m_sending_pace;
     std::string m_path; // of the device selected last
 };
 
-// Pulls the cable once the phone has come so far; looks whenever the phone hears something. Gives up when it goes.
+// Pulls the cable once the phone has come so far; looks after each write to it, before its answer is read. Gives up
+// when it goes.
 class Cable_Puller
 {
 public:
@@ -121,9 +121,6 @@ public:
     ~Cable_Puller();
     Cable_Puller(const Cable_Puller&) = delete;
     Cable_Puller& operator=(const Cable_Puller&) = delete;
-
-private:
-    std::jthread m_thread;
 };
 
 // An open descriptor of a phone's line in the test's own hand. While it is held, no other phone on this computer gets

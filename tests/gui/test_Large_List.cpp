@@ -1,7 +1,5 @@
 #include "gui/Open_Program.h"
-#include "platform/Waiting.h"
-
-#include <QTimer>
+#include "support/Heartbeat.h"
 
 // A million recipients in the real window: what is done with each of them must not keep the window from its events.
 class Large_List : public Open_Program
@@ -25,19 +23,10 @@ protected:
 
     Measured Measure_Click(const char* button)
     {
-        const double begin = Now_Seconds();
-        double last = begin;
-        double longest = 0;
-        const auto look = [&] {
-            longest = std::max(longest, Now_Seconds() - last);
-            last = Now_Seconds();
-        };
-        QTimer heartbeat;
-        QObject::connect(&heartbeat, &QTimer::timeout, look);
-        heartbeat.start(1);
+        Heartbeat heartbeat;
         Click(button);
-        look();
-        return {last - begin, longest};
+        const double longest_gap = heartbeat.Longest_Gap();
+        return {heartbeat.Whole(), longest_gap};
     }
 };
 

@@ -74,7 +74,6 @@ Line_Test::Line_Test(const Phone_Moods& moods, const Line_Way& way)
         Bear_With_A_Talker();
     Link();
     sel_port_bsd_str = Device();
-    m_calls.m_peer = &m_phone;
     m_window.m_choices.save_sent_items = m_window.m_choices.save_templates = true;
     m_window.m_choices.unicode = way.unicode;
     for (const auto& item : m_items)

@@ -7,6 +7,7 @@
 #include "sending/Composer.h"
 #include "sending/Composer_Rules.h"
 #include "sending/Notice_Reader.h"
+#include "support/Own_Seconds.h"
 
 #include <QCheckBox>
 #include <QClipboard>
@@ -171,9 +172,9 @@ TEST_F(Composer_Test, A_Huge_Paste_Leaves_Its_First_1600_Characters_And_Holds_Up
          {std::pair(QString(100000, u'a'), QString(1600, u'a')), std::pair(QString(1000000, u'b'), QString(1600, u'b')),
           std::pair(lines, expected_lines)}) {
         m_edit.selectAll();
-        const double begin = Now_Seconds();
+        const Stopwatch watch;
         Paste(pasted);
-        EXPECT_LT(Now_Seconds() - begin, 0.5);
+        EXPECT_LT(watch.Lasted_For_The_Thread(), 0.5);
         EXPECT_EQ(m_composer.Text(), kept);
         EXPECT_EQ(m_counter.text(), QStringLiteral("1600 Characters (Each Message will now consume 10 SMS)"));
     }
@@ -198,9 +199,9 @@ TEST_F(Composer_Test, Typing_At_The_End_Of_1600_Characters_Changes_Nothing_And_I
     m_composer.Set_Text(QString(1600, u'a'));
     m_composer.Refresh_Counter(false);
     Put_Cursor(1600);
-    const double begin = Now_Seconds();
+    const Stopwatch watch;
     Type(QString(100, u'b'));
-    EXPECT_LT((Now_Seconds() - begin) / 100, 0.05);
+    EXPECT_LT(watch.Lasted_For_The_Thread() / 100, 0.05);
     EXPECT_EQ(m_composer.Text(), QString(1600, u'a'));
     EXPECT_EQ(Cursor(), 1600);
     EXPECT_TRUE(m_notices.m_texts.isEmpty());

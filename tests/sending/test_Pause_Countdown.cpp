@@ -78,11 +78,10 @@ TEST_F(Pause_Countdown_Test, A_Whole_Hour_Begins_With_Its_Hour_And_Goes_On_Witho
 TEST_F(Pause_Countdown_Test, It_Lasts_Exactly_Its_Length)
 {
     Set_Pace(10);
-    const double begin = Now_Seconds();
+    const Stopwatch watch;
     Pause(10);
-    const double lasted = Now_Seconds() - begin;
-    EXPECT_GE(lasted, 1.0);
-    EXPECT_LT(lasted, 1.5);
+    EXPECT_GE(watch.Lasted(), 1.0);
+    EXPECT_LT(watch.Lasted_For_The_Thread(), 1.5);
 }
 
 TEST_F(Pause_Countdown_Test, Nothing_Is_Being_Sent_Meanwhile_And_The_Window_Says_So)

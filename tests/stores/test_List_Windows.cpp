@@ -3,41 +3,11 @@
 #include "stores/Store_Globals.h"
 #include "stores/Stores_Test.h"
 #include "stores/UpdateTemp.h"
+#include "support/Heartbeat.h"
 
-#include <QTimer>
 #include <map>
 
 namespace {
-
-// How long the interface thread was away from its events, at its longest, while something went on.
-class Heartbeat
-{
-public:
-    Heartbeat()
-    {
-        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { Beat(); });
-        m_timer.start(1);
-    }
-
-    double Longest_Gap()
-    {
-        Beat();
-        return m_longest;
-    }
-    double Whole() const { return Now_Seconds() - m_begin; }
-
-private:
-    void Beat()
-    {
-        m_longest = std::max(m_longest, Now_Seconds() - m_last);
-        m_last = Now_Seconds();
-    }
-
-    QTimer m_timer;
-    double m_begin = Now_Seconds();
-    double m_last = m_begin;
-    double m_longest = 0;
-};
 
 constexpr int Many = 200'000;
 

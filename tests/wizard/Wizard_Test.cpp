@@ -45,18 +45,7 @@ int Gated_Calls::Open(const char* path, int flags)
 {
     if (path == m_gated_path)
         m_gate.Wait_Here();
-    return Serial_Calls::Open(path, flags);
-}
-
-Heartbeat::Heartbeat() : m_last(Now_Seconds())
-{
-    m_timer.setTimerType(Qt::PreciseTimer);
-    connect(&m_timer, &QTimer::timeout, this, [this] {
-        const double now = Now_Seconds();
-        m_longest = std::max(m_longest, now - m_last);
-        m_last = now;
-    });
-    m_timer.start(5);
+    return Patient_Calls::Open(path, flags);
 }
 
 Wizard_Test::Wizard_Test()

@@ -2,8 +2,9 @@
 
 #include "device/Device_Paths.h"
 #include "device/Port_Finder.h"
-#include "device/Serial_Calls.h"
 #include "phone/Virtual_Phone.h"
+#include "support/Heartbeat.h"
+#include "support/Patient_Calls.h"
 #include "support/Serve_Until.h"
 #include "support/User.h"
 #include "wizard/Phone_List_Wnd.h"
@@ -41,26 +42,13 @@ public:
 };
 
 // The system's calls, but a chosen path is opened only once the gate is open.
-class Gated_Calls : public Serial_Calls
+class Gated_Calls : public Patient_Calls
 {
 public:
     int Open(const char* path, int flags) override;
 
     std::string m_gated_path;
     Gate m_gate;
-};
-
-// Measures the longest time for which the interface thread does not come back to its events, in seconds.
-class Heartbeat : public QObject
-{
-public:
-    Heartbeat();
-    double Longest_Gap() const { return m_longest; }
-
-private:
-    QTimer m_timer;
-    double m_last;
-    double m_longest = 0;
 };
 
 // A wizard on the offscreen screen, a person who clicks in it, and the phones that a test plugs in. The waits of the

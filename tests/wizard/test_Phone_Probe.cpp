@@ -5,6 +5,7 @@
 #include "platform/Interface_Thread.h"
 #include "platform/Pace.h"
 #include "platform/Waiting.h"
+#include "support/Own_Seconds.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -242,9 +243,9 @@ TEST_F(Phone_Probe_Test, The_Programs_Exit_Ends_A_Probe_At_Once)
     moods.m_silent = true;
     Virtual_Phone phone(moods);
     Begin_Program_Exit();
-    const double begin = Now_Seconds();
+    const Stopwatch watch;
     Read_Details(phone.Path());
-    EXPECT_LT(Now_Seconds() - begin, 0.9); // a single read would last one second
+    EXPECT_LT(watch.Lasted_For_The_Thread(), 0.9); // a single read would last one second
     Forget_Program_Exit();
 }
 

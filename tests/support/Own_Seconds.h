@@ -1,0 +1,33 @@
+#pragma once
+
+#include "platform/Waiting.h"
+
+#include <cstdio>
+
+/// The calling thread's own time, in seconds: as the clock's, less the time in which it wanted to run and a busy
+/// computer let others run. So what it says of the program does not depend on what else goes on. Only differences mean
+/// something, within one thread.
+inline double Own_Seconds()
+{
+    const double now = Now_Seconds();
+    unsigned long long ran = 0;
+    unsigned long long waited = 0; // for a turn, in nanoseconds
+    if (FILE* statistics = fopen("/proc/thread-self/schedstat", "re")) {
+        if (fscanf(statistics, "%llu %llu", &ran, &waited) != 2)
+            waited = 0; // this system does not tell: the clock counts
+        fclose(statistics);
+    }
+    return now - static_cast<double>(waited) * 1e-9;
+}
+
+/// Measures on one thread from its making on: a wait is too short by the clock, and too long by the thread's own time.
+class Stopwatch
+{
+public:
+    double Lasted() const { return Now_Seconds() - m_begin; }
+    double Lasted_For_The_Thread() const { return Own_Seconds() - m_own_begin; }
+
+private:
+    double m_begin = Now_Seconds();
+    double m_own_begin = Own_Seconds();
+};
