@@ -73,6 +73,7 @@ void Phone_Mind::Will_Answer(std::string_view command, std::string answer)
 void Phone_Mind::Plug_In()
 {
     m_settings.Plug_In();
+    m_kept_back = {};
     m_state = State::Command;
     m_line.clear();
     m_held_back.clear();
@@ -254,7 +255,10 @@ void Phone_Mind::Echo(std::string_view bytes)
 
 void Phone_Mind::Answer(std::string_view text, bool as_given)
 {
-    m_happenings.m_said.push_back({as_given ? std::string(text) : With_Line_Ends(text), m_moods.m_answer_delay_ms});
+    Utterance answer{as_given ? std::string(text) : With_Line_Ends(text), m_moods.m_answer_delay_ms};
+    if (m_moods.m_one_answer_behind)
+        std::swap(answer, m_kept_back);
+    m_happenings.m_said.push_back(std::move(answer));
     if (m_moods.m_unsolicited)
         m_happenings.m_said.push_back({Status_Line(), 0});
 }

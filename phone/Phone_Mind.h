@@ -94,6 +94,7 @@ private:
     bool m_is_too_long = false;
     bool m_skips_line_feed = false;
     std::string m_held_back;
+    Utterance m_kept_back; // the answer of a phone that is one behind
 
     int m_message_count = 0; // the k of "the k-th message"
     int m_announced = 0;     // TPDU octets that the current AT+CMGS announced

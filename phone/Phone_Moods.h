@@ -39,6 +39,7 @@ struct Phone_Moods
     bool m_prompt_without_blank = false; // "\r\n>" and no blank after it
     bool m_split_answers = false;        // every byte goes out in a write of its own
     int m_answer_delay_ms = 0;           // every answer (not the echo, not the prompt) comes this much later
+    bool m_one_answer_behind = false;    // keeps every answer back until it has heard what comes next
     bool m_unsolicited = false;          // RING, +CMTI and +CREG in turn after each answer
     bool m_cr_only = false;              // line ends are a CR alone
     bool m_garbage = false;              // every answer is noise: control characters and invalid UTF-8

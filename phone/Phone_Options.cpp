@@ -110,6 +110,8 @@ constexpr std::array Options = {
     Option{"--split-answers", "", "every byte goes out in a write of its own", Turn_On<&Phone_Moods::m_split_answers>},
     Option{"--answer-delay", "MS", "every answer comes this many milliseconds late",
            Set_Number<&Phone_Moods::m_answer_delay_ms>},
+    Option{"--one-answer-behind", "", "keep every answer back until the next command",
+           Turn_On<&Phone_Moods::m_one_answer_behind>},
     Option{"--unsolicited", "", "RING, +CMTI and +CREG lines between answers", Turn_On<&Phone_Moods::m_unsolicited>},
     Option{"--cr-only", "", "line ends are a carriage return alone", Turn_On<&Phone_Moods::m_cr_only>},
     Option{"--garbage", "", "answer with noise", Turn_On<&Phone_Moods::m_garbage>},

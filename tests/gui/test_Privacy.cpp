@@ -138,20 +138,36 @@ protected:
         auto environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("XDG_DATA_HOME"), m_home.path());
         m_corvane.setProcessEnvironment(environment);
-        m_corvane.start(QStringLiteral(CORVANE_BUILD_DIR "/corvane"), QStringList());
         Set_Data_Paths(m_home.path() + QStringLiteral("/corvane/Resources"));
+        // The first start makes the folders; one that goes on would clear up what is half written.
+        Start();
         EXPECT_TRUE(Serve_Until([] { return QFile::exists(Exclusion_Index_Path); }, 60));
+        Kill();
         EXPECT_TRUE(Sent_Item_Store::Append({QStringLiteral("111"), QStringLiteral("secret"), QString(), QString()}));
         EXPECT_TRUE(Template_Store::Append(QStringLiteral("secret")));
         EXPECT_TRUE(Exclusion_Files::Create_List_If_Missing(QStringLiteral("Staff")));
         EXPECT_TRUE(Exclusion_Files::Append_To_Index(QStringLiteral("Staff")));
         EXPECT_TRUE(Exclusion_Files::Write_Applied({QStringLiteral("Staff")}));
+        const QString socket = Private_Folder() + QStringLiteral("/Running.socket");
+        EXPECT_TRUE(QFile::remove(socket));
+        Start();
+        EXPECT_TRUE(Serve_Until([&] { return QFile::exists(socket); }, 60));
     }
     ~Data_Of_A_Running_Program() override
     {
-        m_corvane.kill();
-        m_corvane.waitForFinished();
+        Kill();
         umask(m_mask_before);
+    }
+
+    void Start()
+    {
+        m_corvane.start(QStringLiteral(CORVANE_BUILD_DIR "/corvane"), QStringList());
+        EXPECT_TRUE(m_corvane.waitForStarted(-1));
+    }
+    void Kill()
+    {
+        m_corvane.kill();
+        m_corvane.waitForFinished(-1);
     }
 
     QString Private_Folder() const { return m_home.filePath(QStringLiteral("corvane")); }

@@ -7,6 +7,7 @@
 
 #include <atomic>
 #include <chrono>
+#include <cstring>
 #include <string>
 #include <thread>
 
@@ -192,6 +193,19 @@ TEST(Phone_Moods, Split_Answers_Are_Whole_In_The_End)
     peer.Says("AT+CSQ\r");
     EXPECT_EQ(peer.Hears("OK\r\n"), "AT+CSQ\r\r\n+CSQ: 20,99\r\n\r\nOK\r\n");
     EXPECT_NE(Send_Hello(peer).find("+CMGS: 0"), std::string::npos);
+}
+
+TEST(Phone_Moods, An_Answer_Behind_Comes_With_The_Next_Command)
+{
+    Phone_Moods moods;
+    moods.m_one_answer_behind = true;
+    Virtual_Phone phone(moods);
+    Line_Peer peer(phone.Path());
+    peer.Says("AT+CSQ\r");
+    EXPECT_EQ(peer.Hears("\r"), "AT+CSQ\r");
+    EXPECT_EQ(phone.Said(), strlen("AT+CSQ\r")) << "nothing but the echo";
+    peer.Says("AT\r");
+    EXPECT_EQ(peer.Hears("OK\r\n"), "AT\r\r\n+CSQ: 20,99\r\n\r\nOK\r\n");
 }
 
 TEST(Phone_Moods, Delayed_Answers_Come_Late_And_Their_Echo_At_Once)

@@ -33,6 +33,7 @@ TEST(Phone_Options, Every_Switch_Turns_On_Its_Mood_Alone)
         {"--no-prompt", &Phone_Moods::m_no_prompt},
         {"--prompt-without-blank", &Phone_Moods::m_prompt_without_blank},
         {"--split-answers", &Phone_Moods::m_split_answers},
+        {"--one-answer-behind", &Phone_Moods::m_one_answer_behind},
         {"--unsolicited", &Phone_Moods::m_unsolicited},
         {"--cr-only", &Phone_Moods::m_cr_only},
         {"--garbage", &Phone_Moods::m_garbage},

@@ -1,5 +1,7 @@
 #include "support/User.h"
 
+#include "platform/Modal_Sheet.h"
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDialog>
@@ -178,7 +180,8 @@ private:
             return;
         }
         auto* dialog = qobject_cast<QDialog*>(&window);
-        if (!dialog || !dialog->isModal() || m_dialogs.empty())
+        const bool is_a_sheet = dynamic_cast<Modal_Sheet*>(&window) != nullptr; // which asks for nothing
+        if (!dialog || !dialog->isModal() || is_a_sheet || m_dialogs.empty())
             return;
         const auto handle = std::move(m_dialogs.front());
         m_dialogs.pop_front();
