@@ -98,7 +98,6 @@ TEST_F(Talkative_Phone_Test, What_It_Says_During_Many_Skipped_Numbers_Is_Logged_
 
 TEST_F(Talkative_Phone_Test, An_Answer_That_Nobody_Has_Read_Yet_Is_Found_By_The_Next_Read)
 {
-    m_calls.m_peer = &m_phone;
     Add(QStringLiteral("111"), Polish); // skipped: a second more before the read
     Add(QStringLiteral("222"), Polish.repeated(5));
     Add(QStringLiteral("333"), Polish);

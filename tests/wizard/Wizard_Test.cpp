@@ -12,6 +12,8 @@
 #include <QFile>
 #include <QTest>
 #include <QWindow>
+#include <fcntl.h>
+#include <unistd.h>
 
 void Gate::Open()
 {
@@ -28,6 +30,17 @@ void Gate::Wait_Here()
     ++m_waiting;
     m_changed.wait(guard, [this] { return m_is_open; });
     --m_waiting;
+}
+
+Kept_Number::Kept_Number(const Virtual_Phone& phone)
+    : m_descriptor(::open(phone.Path().c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC))
+{
+    EXPECT_NE(m_descriptor, -1);
+}
+
+Kept_Number::~Kept_Number()
+{
+    ::close(m_descriptor);
 }
 
 int Given_Paths::Find_Ports(Modem_Iterator& iterator) const

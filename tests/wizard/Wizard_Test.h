@@ -31,6 +31,20 @@ private:
     std::atomic<int> m_waiting{0};
 };
 
+// Keeps the number of a phone's line from other phones on this computer, so that once the phone has hung up its path
+// leads nowhere.
+class Kept_Number
+{
+public:
+    explicit Kept_Number(const Virtual_Phone& phone);
+    ~Kept_Number();
+    Kept_Number(const Kept_Number&) = delete;
+    Kept_Number& operator=(const Kept_Number&) = delete;
+
+private:
+    int m_descriptor;
+};
+
 // Finds the given paths and nothing that happens to be plugged into the computer that runs the tests.
 class Given_Paths : public Port_Finder
 {

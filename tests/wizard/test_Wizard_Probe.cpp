@@ -221,6 +221,7 @@ TEST_F(Wizard_Test, What_Is_Wrong_With_A_Device_Is_Told_Once_The_Sheet_Has_Gone)
     moods.m_silent = true;
     const Virtual_Phone silent(moods);
     Virtual_Phone gone;
+    const Kept_Number kept(gone);
     Plug_In(silent, gone);
     int boxes = 0;
     for (int told = 0; told < 2; ++told) {
@@ -243,6 +244,7 @@ TEST_F(Wizard_Test, What_Is_Wrong_With_A_Device_Is_Told_Once_The_Sheet_Has_Gone)
 TEST_F(Wizard_Test, A_Phone_That_Is_Gone_Since_The_Search_Cannot_Be_Opened)
 {
     Virtual_Phone phone;
+    const Kept_Number kept(phone);
     Plug_In(phone);
     m_user.Will_Press("OK");
     m_user.Will_Press("OK");
