@@ -5,6 +5,7 @@
 #include "app/Number_Import.h"
 #include "app/shared/Data_Paths.h"
 #include "app/shared/Globals.h"
+#include "app/shared/Key_Actions.h"
 #include "app/shared/Line_Edit_Limit.h"
 #include "app/shared/List_Tables.h"
 #include "app/shared/Message_Boxes.h"
@@ -93,6 +94,7 @@ bool CorvaneAppDelegate::awakeFromNib()
     for (auto* box : {m_ui->_delayed_msg_count_combo, m_ui->_delayed_time_combo}) {
         box->setCompleter(nullptr);
         box->setCurrentIndex(-1);
+        box->lineEdit()->setAccessibleName(box->accessibleName()); // where the keyboard is, when it is in the box
     }
     m_import = std::make_unique<Number_Import>(Number_Import::Target{
         [this](int count, int percent) { Show_Import_Progress(count, percent); },
@@ -136,6 +138,8 @@ void CorvaneAppDelegate::Connect_Controls()
     connect(m_ui->_Exclusion_Chk, &QCheckBox::clicked, this, &CorvaneAppDelegate::Exclusion_Chk);
     connect(m_ui->_Delayed_Delivry_Chk, &QCheckBox::clicked, this, &CorvaneAppDelegate::Delayed_Delivery_Chk);
     connect(m_ui->idTableView, &QTableView::doubleClicked, this, &CorvaneAppDelegate::doubleClickInTable);
+    Act_On_Keys(*m_ui->_numberEdit, Return_Keys, [this] { Add_Number(); });
+    Give_Table_Keys(*m_ui->idTableView, {[this] { doubleClickInTable(); }, [this] { Clear_Sel_Btn(); }});
 }
 
 void CorvaneAppDelegate::Give_Tables_Their_Models()

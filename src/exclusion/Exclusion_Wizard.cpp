@@ -2,6 +2,7 @@
 
 #include "app/basics/String_Helpers.h"
 #include "app/shared/Globals.h"
+#include "app/shared/Key_Actions.h"
 #include "app/shared/Line_Edit_Limit.h"
 #include "app/shared/List_Tables.h"
 #include "app/shared/Main_Window.h"
@@ -103,8 +104,17 @@ void Exclusion_Wizard::Connect_Controls()
     Connect_Other_Screens();
     for (QLineEdit* field : {m_ui->m_ex_list_name_edit, m_ui->m_loadnum_edit})
         connect(field, &QLineEdit::textChanged, this, [this, field] { controlTextDidChange(*field); });
-    connect(m_ui->m_loadnum_edit, &QLineEdit::returnPressed, this, &Exclusion_Wizard::Add_Number_Btn);
-    connect(m_ui->m_loadfile_edit, &QLineEdit::returnPressed, this, &Exclusion_Wizard::Load_File_Btn);
+    Act_On_Keys(*m_ui->m_loadnum_edit, Return_Keys, [this] { Add_Number_Btn(); });
+    Act_On_Keys(*m_ui->m_loadfile_edit, Return_Keys, [this] { Load_File_Btn(); });
+    Connect_Table_Keys();
+}
+
+void Exclusion_Wizard::Connect_Table_Keys()
+{
+    Give_Table_Keys(*m_ui->m_exclusion_list, {[this] { Update_Btn(); }, [this] { Delete_Btn(); }});
+    Give_Table_Keys(*m_ui->m_applied_axclusion_list,
+                    {[this] { doubleClickInTable(*m_ui->m_applied_axclusion_list); }, [this] { Remove_List_Btn(); }});
+    Give_Table_Keys(*m_ui->m_ex_num_list, {[this] { Update_Number_Btn(); }, [this] { Remove_Number_Btn(); }});
 }
 
 void Exclusion_Wizard::Connect_First_Screen()

@@ -120,6 +120,7 @@ private:
     void Connect_Controls();
     void Connect_First_Screen();
     void Connect_Other_Screens();
+    void Connect_Table_Keys();
     void Start_Loading();
     void Load_Thread();
     void End_Run();

@@ -1,5 +1,6 @@
 #include "stores/Sent_Items.h"
 
+#include "app/shared/Key_Actions.h"
 #include "app/shared/Shared_Instance.h"
 #include "app/shared/Window_Look.h"
 #include "platform/Row_Table_Model.h"
@@ -37,6 +38,7 @@ Sent_Items::Sent_Items(QWidget* parent)
     connect(m_ui->Clear_All_Btn, &QPushButton::clicked, this, &Sent_Items::Clear_All_Btn);
     connect(m_ui->Export_Btn, &QPushButton::clicked, this, &Sent_Items::Export_Btn);
     connect(m_ui->Cancel_Btn, &QPushButton::clicked, this, &Sent_Items::Cancel_Btn);
+    Give_Table_Keys(*m_ui->idSendList, {nullptr, [this] { Clear_Sel_Btn(); }});
     connect(m_ui->idSendList->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &Sent_Items::tableViewSelectionDidChange);
     SENT_WND = this;

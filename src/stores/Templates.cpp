@@ -1,6 +1,7 @@
 #include "stores/Templates.h"
 
 #include "app/shared/Globals.h"
+#include "app/shared/Key_Actions.h"
 #include "app/shared/List_Tables.h"
 #include "app/shared/Main_Window.h"
 #include "app/shared/Message_Boxes.h"
@@ -55,6 +56,7 @@ Templates::Templates(QWidget* parent)
     connect(m_ui->Export_Btn, &QPushButton::clicked, this, &Templates::Export_Btn);
     connect(m_ui->Cancel_Btn, &QPushButton::clicked, this, &Templates::Cancel_Btn);
     connect(m_ui->idTemplateList, &QTableView::doubleClicked, this, &Templates::doubleClickInTable);
+    Give_Table_Keys(*m_ui->idTemplateList, {[this] { Update_Btn(); }, [this] { Clear_Sel_Btn(); }});
     Template_Window = this;
 }
 

@@ -1,6 +1,7 @@
 #include "wizard/Phone_List_Wnd.h"
 
 #include "app/shared/Globals.h"
+#include "app/shared/Key_Actions.h"
 #include "app/shared/Line_Edit_Limit.h"
 #include "app/shared/Main_Window.h"
 #include "app/shared/Message_Boxes.h"
@@ -101,6 +102,11 @@ void Phone_List_Wnd::Connect_Controls()
     connect(m_ui->_cus_smsc_edit, &QLineEdit::textChanged, this, &Phone_List_Wnd::controlTextDidChange);
     connect(m_ui->idPortList->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &Phone_List_Wnd::tableViewSelectionDidChange);
+    Give_Table_Keys(*m_ui->idPortList, {});
+    Act_On_Keys(*m_ui->idPortList, Return_Keys, [this] {
+        if (m_ui->idPortList->selectionModel()->hasSelection())
+            Sel_Device_Pressed();
+    });
 }
 
 int Phone_List_Wnd::Open_Ph_List_Wnd()

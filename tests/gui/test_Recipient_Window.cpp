@@ -323,14 +323,6 @@ TEST_F(Recipient_Window, A_Redraw_Keeps_The_Selection)
     EXPECT_THAT(Rows_Selected_In(The<QTableView>("idTableView")), ElementsAre(1, 2));
 }
 
-TEST_F(Recipient_Window, Enter_In_The_Number_Field_Presses_No_Button)
-{
-    Type_Number(QStringLiteral("123"));
-    QTest::keyClick(&The<QLineEdit>("_numberEdit"), Qt::Key_Return);
-    EXPECT_EQ(m_delegate->Recipients().Count(), 0);
-    EXPECT_EQ(The<QLineEdit>("_numberEdit").text(), QStringLiteral("123"));
-}
-
 TEST_F(Recipient_Window, A_Link_Is_Blue_Underlined_And_Leads_Somewhere)
 {
     QLabel field;

@@ -44,6 +44,9 @@ bool Ask(const QString& text)
     box.setIcon(QMessageBox::Question);
     auto* yes = box.addButton(QStringLiteral("Yes"), QMessageBox::YesRole);
     auto* no = box.addButton(QStringLiteral("No"), QMessageBox::NoRole);
+    // Not by an ampersand in their texts, which are "Yes" and "No".
+    yes->setShortcut(QKeySequence(Qt::ALT | Qt::Key_Y));
+    no->setShortcut(QKeySequence(Qt::ALT | Qt::Key_N));
     box.setDefaultButton(yes);
     box.setEscapeButton(no);
     box.exec();
