@@ -11,6 +11,7 @@ build_packages=(
     qt6-base-dev qt6-serialport-dev libxcb1-dev
     libgtest-dev libgmock-dev
     xvfb xauth openbox fonts-dejavu-core fonts-noto-core fonts-liberation fonts-cantarell
+    dbus at-spi2-core gir1.2-atspi-2.0 python3-pyatspi
 )
 fuzz_packages=(clang libclang-rt-14-dev)
 

@@ -96,6 +96,7 @@ void Send_Modeless::Begin_Preparing(Main_Window& window, int total)
         m_ui->_current_send_msg->clear();
         m_ui->_tot_msg_cnt->setText(QString::number(total));
         m_ui->_curr_msg_cnt->setText(Preparing_Text());
+        Tell_State({});
         Show_Sending_Controls(false);
         if (!Program_Is_Exiting())
             Begin_Sheet(window.Window());
@@ -121,6 +122,7 @@ void Send_Modeless::Show_Item(int position, int total, const QString& number)
                                      QStringLiteral(" Message"));
         m_ui->_current_send_msg->setText(number);
         m_ui->_Curr_Progress->setValue(Activity_End);
+        Tell_State(number);
     };
     if (Is_Interface_Thread() || m_is_item_on_its_way.exchange(true))
         Run_On_Interface_Thread(show);
@@ -130,7 +132,10 @@ void Send_Modeless::Show_Item(int position, int total, const QString& number)
 
 void Send_Modeless::Show_Current(const QString& text)
 {
-    Run_On_Interface_Thread([&] { m_ui->_current_send_msg->setText(text); });
+    Run_On_Interface_Thread([&] {
+        m_ui->_current_send_msg->setText(text);
+        Tell_State(text);
+    });
 }
 
 void Send_Modeless::End()
@@ -152,7 +157,11 @@ void Send_Modeless::Begin_Pause()
 
 void Send_Modeless::Show_Pause(const QString& text)
 {
-    Run_On_Interface_Thread([&] { m_ui->_pause_timer->setText(text); });
+    Run_On_Interface_Thread([&] {
+        if (m_ui->_pause_timer->text().isEmpty())
+            Tell_State(text); // not again at every second
+        m_ui->_pause_timer->setText(text);
+    });
 }
 
 void Send_Modeless::End_Pause()
@@ -209,6 +218,14 @@ void Send_Modeless::Timer_Curr_Prg_Send_Modeless()
         Show_NSLog_Message(QString::fromLocal8Bit(failure.what()));
         Show_NSLog_Message(QStringLiteral("Timer curr prgs send modeless catch"));
     }
+}
+
+// To the eye the heading says where the job is and the labels under it what is being done; a screen reader is told all
+// of it by the heading's name, whose change it hears of.
+void Send_Modeless::Tell_State(const QString& detail)
+{
+    const QString heading = m_ui->_curr_msg_cnt->text();
+    m_ui->_curr_msg_cnt->setAccessibleName(detail.isEmpty() ? heading : heading + QStringLiteral(", ") + detail);
 }
 
 void Send_Modeless::Show_Sending_Controls(bool visible)

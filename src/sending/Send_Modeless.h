@@ -48,6 +48,7 @@ protected:
 private:
     void Make_Room_For_Texts();
     void Show_Stop_Asked_For(bool is_asked_for);
+    void Tell_State(const QString& detail);
     void Show_Sending_Controls(bool visible);
     void Show_Current_Item(bool visible);
 

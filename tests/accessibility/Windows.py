@@ -1,0 +1,226 @@
+#!/usr/bin/python3
+"""Opens every window of the program, with real contents, and complains about what a screen reader can not tell of it.
+
+    Windows.py PROGRAM"""
+
+import pyatspi
+
+import Session
+from Reader import Trouble, Window, begin, complaints_about, find_window, press_key, until, what_is_open
+
+F2 = 0xFFBF
+MESSAGE = "Rehearsal on Friday. " * 5  # one SMS, but two in Unicode
+NUMBERS = ["004479001", "004479002"]
+NO_DEVICE = "No Mobile Phone Device is selected."
+
+
+def fill(data_folder):
+    (data_folder / "SentItem.ZOVA").write_text("\a004479001\vSee you\a21/11/2026\v\n", encoding="utf-8")
+    (data_folder / "Templates.ZOVA").write_text("See you on Friday\nUntil then\n", encoding="utf-8")
+    (data_folder / "AppExclusion.ZOVA").write_text("Staff\n", encoding="utf-8")
+    (data_folder / "Exclusion/ExListIndex.ZOVA").write_text("Admin\nStaff\n", encoding="utf-8")
+    for name in ("Admin", "Staff"):
+        (data_folder / "Exclusion" / (name + ".ZOVA")).write_text("12345\n67890\n", encoding="utf-8")
+
+
+class Walk:
+    def __init__(self):
+        self.complaints = []
+        self.main = Window("Corvane")
+
+    def look(self, title, **expected):
+        """Reads a window that is about to open, and returns it."""
+        window = Window(title)
+        said = complaints_about(window, **expected)
+        self.complaints += said
+        return window
+
+    def dialog(self, button, title, leave_by, **expected):
+        """Opens a dialog from the main window, reads it and leaves it."""
+        self.main.press(button)
+        window = self.look(title, **expected)
+        window.press(leave_by)
+        window.await_end()
+
+    def box(self, text, button):
+        """Reads the box that is about to open, and answers it."""
+        thing = until(f"the box '{text}'", lambda: find_window("Corvane", text))
+        box = Window("Corvane", thing)
+        self.complaints += complaints_about(box)
+        box.press(button)
+        until(f"the box '{text}' to be closed", lambda: not find_window("Corvane", text))
+
+
+def read_the_main_window(walk):
+    main = walk.main
+    walk.complaints += complaints_about(main, reads=["Total Numbers : 0", "0 Characters", NO_DEVICE])
+    for number in NUMBERS:
+        main.write("Phone number", number)
+        main.press("Add")
+        until("the number to be added", lambda: main.text("Phone number") == "")
+    main.click("Delay: after")
+    until("the pauses", lambda: main.text("Messages before each pause"))
+    rows = [[number, ""] for number in NUMBERS]
+    walk.complaints += complaints_about(
+        main, reads=["Total Numbers : 2"], tables=[("Recipients", ["Number", "Message"], rows)],
+        fields=[("Messages before each pause", "15"), ("Length of each pause", " 2  Minutes")])
+    for name in ("Messages before each pause", "Length of each pause"):
+        if not main.has(name, pyatspi.ROLE_COMBO_BOX):
+            walk.complaints.append(f"window 'Corvane': no combo box is called '{name}' once it is filled")
+
+
+def read_the_dialogs_of_the_list(walk):
+    main = walk.main
+    main.select_row("Recipients", 0)
+    main.tab_to("Recipients", pyatspi.ROLE_TABLE)
+    press_key(F2)
+    editor = walk.look("Edit number and message", reads=["0 Characters"], fields=[("Phone number", NUMBERS[0])])
+    editor.press("Cancel")
+    editor.await_end()
+    main.write("Message", MESSAGE)
+    main.click("Send as Unicode")
+    notice = walk.look("Long message")
+    notice.press("OK")
+    notice.await_end()
+    walk.complaints += complaints_about(
+        main, reads=[f"{len(MESSAGE)} Characters (Each Message will now consume 2 SMS)"])
+    main.press("Clear All")
+    walk.box("\nThis option will clear the entire list contents. Are you sure you want to continue clearing the entire "
+             "list?", "No")
+    walk.dialog("Import ...", "Import numbers", "Cancel")
+    walk.dialog("Apply this\r\nmessage to\r\nlist items", "Fill message into list", "Cancel")
+    walk.dialog("Edit the\nmessages of\nselected items", "Edit selected messages", "Cancel",
+                reads=["Total Selected Numbers : 1", "0 Characters"],
+                tables=[("Selected numbers", ["Number"], [[NUMBERS[0]]])])
+    walk.dialog("Help", "Help", "OK")
+
+
+def read_the_stores(walk):
+    walk.main.press("Sent Items ...")
+    sent = walk.look("Sent Items", reads=["Total Items : 1"],
+                     tables=[("Sent messages", ["Number", "Message", "Date", "Status"],
+                              [["004479001", "See you", "21/11/2026", ""]])])
+    sent.select_row("Sent messages", 0)
+    until("the message in full", lambda: "See you" in sent.text("Selected message"))
+    sent.press("Export ...")
+    options = walk.look("Export")
+    options.press("Cancel")
+    options.await_end()
+    sent.press("Close")
+    sent.await_end()
+    walk.main.press("Templates ...")
+    rows = [["See you on Friday"], ["Until then"]]
+    templates = walk.look("Templates", reads=["Total Items : 2"], tables=[("Message templates", ["Template"], rows)])
+    templates.select_row("Message templates", 0)
+    templates.press("Edit ...")
+    editor = walk.look("Update Templates", reads=["17 Characters"],
+                       fields=[("Message of the template", "See you on Friday")])
+    editor.press("Cancel")
+    editor.await_end()
+    templates.press("Close")
+    templates.await_end()
+
+
+def read_the_exclusions(walk):
+    walk.main.press("Exclusion Lists ...")
+    title = "Exclusion List Wizard"
+    tables = [("Available exclusion lists", ["Available exclusion lists"], [["Admin"], ["Staff"]]),
+              ("Lists to exclude when sending SMS", ["Exclude when sending SMS"], [["Staff"]])]
+    wizard = Window(title)
+    until("the lists", lambda: wizard.table("Available exclusion lists")[1])
+    walk.look(title, tables=tables)
+    wizard.press("Add New ...")
+    wizard.the("Exclusion list name", pyatspi.ROLE_TEXT)
+    walk.look(title)
+    wizard.press("Back")
+    wizard.select_row("Available exclusion lists", 0)
+    wizard.press("Update ...")
+    wizard.the("Numbers of the list", pyatspi.ROLE_TABLE)
+    walk.look(title, reads=["Currently using exclusion list : Admin", "Total Numbers : 2"],
+              tables=[("Numbers of the list", ["Excluded number"], [["12345"], ["67890"]])])
+    wizard.select_row("Numbers of the list", 0)
+    wizard.press("Update ...")
+    editor = walk.look("Edit number", fields=[("Phone number", "12345")])
+    editor.press("Cancel")
+    editor.await_end()
+    wizard.press("Cancel")
+    wizard.await_end()
+
+
+def choose_the_phone(walk):
+    walk.main.press("Connection Wizard ...")
+    walk.look("Connect your mobile phone").press("Continue")
+    title = "Mobile Phone Connection Wizard"
+    wizard = Window(title)
+    rows = wizard.table("Devices found")[1]
+    name, path = next(row for row in rows if "demo-phone" in row[1])  # beside what this machine may have
+    wizard.select_row("Devices found", rows.index([name, path]))
+    until("the device's own number", lambda: wizard.text("IMEI"))
+    walk.look(title, tables=[("Devices found", ["Port", "Device path"], rows)],
+              fields=[("Port", name), ("Device path", path)])
+    until("the end of the probe", lambda: not find_window("Corvane", "Please wait ..."))
+    wizard.press("Select this device")
+    wizard.await_end()
+    walk.complaints += complaints_about(walk.main, reads=[name])
+
+
+class Announcements:
+    """What is announced while a job goes on: every name that changes."""
+
+    def __init__(self):
+        self.names = []
+        pyatspi.Registry.registerEventListener(self.hear, "object:property-change:accessible-name")
+
+    def hear(self, event):
+        if event.source:
+            self.names.append(event.source.name)
+
+    def missing(self, expected):
+        """The first of the expected ones that was not heard after those before it."""
+        heard = iter(self.names)
+        return next((name for name in expected if name not in heard), None)
+
+
+def send(walk):
+    main = walk.main
+    main.click("Delay: after")  # off, and on again with another batch
+    until("no pauses", lambda: not main.text("Messages before each pause"))
+    main.click("Delay: after")
+    until("the pauses", lambda: main.text("Messages before each pause"))
+    main.write("Messages before each pause", "1")
+    main.write("Length of each pause", "10 Seconds")
+    announcements = Announcements()
+    main.press("Send")
+    question = walk.look("Before sending")
+    question.press("Continue")
+    preparing = "Initializing mobile phone device to send sms ..."
+    until(preparing, lambda: find_window("Sending messages", preparing))
+    first, second = [f"{place} / 2 Message, {number}" for place, number in enumerate(NUMBERS, 1)]
+    until(first, lambda: find_window("Sending messages", first))
+    sending = walk.look("Sending messages", reads=["2", first, NUMBERS[0]])
+    if any(thing.name == "Working" and "Value" in pyatspi.listInterfaces(thing) for thing, _ in sending.all()):
+        walk.complaints.append("window 'Sending messages': the bar 'Working' tells percentages that mean nothing")
+    pausing = "1 / 2 Message, Pausing the process for 10 Seconds."
+    until(second, lambda: find_window("Sending messages", second))
+    walk.box("\nMessage Sending Process Completed.", "OK")
+    sending.await_end()
+    missing = announcements.missing([preparing, first, pausing, second])
+    if missing:
+        walk.complaints.append(f"'{missing}' was not announced; announced were {announcements.names}")
+
+
+def visit(data_folder, start):
+    fill(data_folder)
+    begin()
+    start()
+    walk = Walk()
+    try:
+        for step in (read_the_main_window, read_the_dialogs_of_the_list, read_the_stores, read_the_exclusions,
+                     choose_the_phone, send):
+            step(walk)
+    except Trouble as trouble:
+        walk.complaints.append(f"it could not {step.__name__.replace('_', ' ')}: {trouble}; open are {what_is_open()}")
+    return walk.complaints
+
+
+Session.run(visit)
