@@ -5,10 +5,8 @@
 #include "app/shared/Number_Rules.h"
 #include "exclusion/Number_File.h"
 #include "platform/Interface_Thread.h"
-#include "platform/Text_Files.h"
 #include "platform/Waiting.h"
 
-#include <QFileInfo>
 #include <algorithm>
 #include <exception>
 #include <optional>
@@ -42,13 +40,6 @@ bool Is_Passed_Over(QChar character)
     return character == u'\\' || character == u'{' || character == u'}' || character == u'-';
 }
 
-// A pipe or a device never ends; it is there, but there is nothing in it to import.
-bool Is_No_Regular_File(const QString& path)
-{
-    const QFileInfo file(path);
-    return file.exists() && !file.isFile();
-}
-
 } // namespace
 
 Number_Import::Number_Import(Target target) : m_target(std::move(target)) {}
@@ -74,17 +65,14 @@ void Number_Import::Load_NUM_Thread(Order order)
 
 void Number_Import::Load_Num_Func(Order& order) const
 {
-    QByteArray bytes;
-    if (!Is_No_Regular_File(order.path)) {
-        auto content = Read_File(order.path);
-        if (!content) {
-            Run_On_Interface_Thread(m_target.leave_unread);
-            return;
-        }
-        bytes = std::move(*content);
+    auto bytes = Bytes_Of_Number_File(order.path);
+    if (!bytes) {
+        Run_On_Interface_Thread(m_target.leave_unread);
+        return;
     }
     try {
-        Take_In_Lines(order, Text_Of_Number_File(order.path, std::exchange(bytes, {})));
+        const QString text = Text_Of_Number_File(order.path, std::exchange(*bytes, {})); // and the bytes are let go
+        Take_In_Lines(order, text);
     } catch (...) {
         Hand_Over(order.recipients);
         throw;

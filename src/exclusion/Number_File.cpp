@@ -3,9 +3,21 @@
 #include "platform/Rich_Text.h"
 #include "platform/Text_Files.h"
 
+#include <QFileInfo>
+
+std::optional<QByteArray> Bytes_Of_Number_File(const QString& path, qint64 largest)
+{
+    const QFileInfo file(path);
+    if (file.exists() && !file.isFile())
+        return QByteArray();
+    if (file.size() > largest && file.isReadable())
+        return QByteArray();
+    return Read_File(path);
+}
+
 QString Text_Of_Number_File(const QString& path)
 {
-    return Text_Of_Number_File(path, Read_File(path).value_or(QByteArray()));
+    return Text_Of_Number_File(path, Bytes_Of_Number_File(path).value_or(QByteArray()));
 }
 
 QString Text_Of_Number_File(const QString& path, const QByteArray& bytes)

@@ -54,4 +54,24 @@ TEST_F(Number_File_Test, What_Can_Not_Be_Read_Is_Empty)
     EXPECT_EQ(Text_Of_Number_File(m_data.Beside("pipe.txt")), "");
 }
 
+TEST_F(Number_File_Test, What_Is_There_And_No_List_Of_Numbers_Has_Not_A_Byte)
+{
+    Write_Bytes(m_data.Beside("a.txt"), "1\n22\n");
+    EXPECT_EQ(Bytes_Of_Number_File(m_data.Beside("a.txt"), 5), "1\n22\n");
+    EXPECT_EQ(Bytes_Of_Number_File(m_data.Beside("a.txt"), 4), "") << "too large";
+    ASSERT_TRUE(QDir().mkpath(m_data.Beside("folder.txt")));
+    EXPECT_EQ(Bytes_Of_Number_File(m_data.Beside("folder.txt")), "");
+    ASSERT_EQ(mkfifo(m_data.Beside("pipe.txt").toLocal8Bit().constData(), 0600), 0);
+    EXPECT_EQ(Bytes_Of_Number_File(m_data.Beside("pipe.txt")), "");
+    EXPECT_EQ(Bytes_Of_Number_File(m_data.Beside("missing.txt")), std::nullopt);
+}
+
+TEST_F(Number_File_Test, Of_Gigabytes_Not_One_Is_Read)
+{
+    Write_Bytes(m_data.Beside("huge.txt"), "1\n");
+    ASSERT_TRUE(QFile::resize(m_data.Beside("huge.txt"), Largest_Number_File + 1));
+    EXPECT_EQ(Text_Of_Number_File(m_data.Beside("huge.txt")), "");
+    EXPECT_EQ(Bytes_Of_Number_File(m_data.Beside("huge.txt")), "");
+}
+
 } // namespace

@@ -253,6 +253,15 @@ TEST_F(Import, Rich_Text_Gives_A_Number_For_Each_Paragraph)
     EXPECT_EQ(Numbers(), (QStringList{"00442079460000", "222", "333"}));
 }
 
+TEST_F(Import, A_Table_Of_Numbers_And_Names_Gives_Its_Numbers_And_What_Is_Hidden_None)
+{
+    Load("{\\rtf1\\ansi\\trowd\\cellx2000\\cellx4000\\intbl 111\\cell Ann\\cell\\row"
+         "\\trowd\\cellx2000\\cellx4000\\intbl Bob{\\v 999}\\cell +222\\cell\\row\\pard{\\v 888\\par}"
+         "{\\deleted 777\\par}333{\\*\\annotation 666}\\par}",
+         "numbers.rtf");
+    EXPECT_EQ(Numbers(), (QStringList{"111", "00222", "333"}));
+}
+
 // The panel lets nobody pick these; a file may change after it was picked.
 TEST_F(Import, A_File_That_Has_Gone_Leaves_The_Sheet_To_Be_Closed_By_Hand)
 {
@@ -299,6 +308,19 @@ TEST_F(Import, A_Folder_Is_No_File_Of_Numbers)
     m_delegate->Load_NUM_Thread(m_folder.path());
     ASSERT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
     EXPECT_EQ(user.Was_Shown(), QStringList{Nothing_Imported});
+}
+
+TEST_F(Import, Gigabytes_Are_Told_Like_Anything_That_Is_No_List_Of_Numbers)
+{
+    for (const char* name : {"huge.txt", "huge.rtf"}) {
+        const QString path = File(name, "111\n");
+        ASSERT_TRUE(QFile::resize(path, (qint64{5} << 30))); // it takes no room on the disk
+        user.Will_Press("OK");
+        m_delegate->Load_NUM_Thread(path);
+        ASSERT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
+        EXPECT_EQ(user.Was_Shown().last(), Nothing_Imported);
+        Expect_The_Window_Free();
+    }
 }
 
 TEST_F(Import, A_Hundred_Megabytes_On_One_Line_Are_Told_In_Time)
