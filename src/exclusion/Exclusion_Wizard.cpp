@@ -20,6 +20,7 @@
 #include "platform/Row_Table_Model.h"
 #include "ui_Exclusion_Wizard.h"
 
+#include <QCloseEvent>
 #include <QHeaderView>
 #include <QScopedValueRollback>
 #include <QScrollBar>
@@ -227,9 +228,35 @@ void Exclusion_Wizard::Cancel_2_Btn()
 
 void Exclusion_Wizard::reject()
 {
-    // While files are worked on, the window has to wait for it.
-    if (!m_is_working && !plz_wait_Window->isVisible())
+    if (Is_At_Work())
+        return;
+    if (m_ui->lists_panel->isHidden())
+        Back_Btn();
+    else
         Cancel_Btn();
+}
+
+void Exclusion_Wizard::closeEvent(QCloseEvent* event)
+{
+    event->ignore(); // whoever ends the run hides the window
+    if (Is_At_Work())
+        return;
+    if (Has_Unsaved_Numbers())
+        Back_Btn();
+    else
+        Cancel_Btn();
+}
+
+// While files are worked on, the window has to wait for it.
+bool Exclusion_Wizard::Is_At_Work() const
+{
+    return m_is_working || plz_wait_Window->isVisible();
+}
+
+// Those that Back asks about. The flag may be left from a list that has been saved, while none is shown.
+bool Exclusion_Wizard::Has_Unsaved_Numbers() const
+{
+    return m_steps.back_flag && !m_ui->m_ex_num_list->isHidden();
 }
 
 // ---------------------------------------------------------------------------------------------------- the three tables

@@ -102,7 +102,12 @@ public:
     void Show_Create_Modeless();
     void Hide_Destroy_Modeless();
 
-    void reject() override; ///< Escape and the close button: as Cancel
+    /// Escape: as Back, so that nothing typed goes without Back's question; as Cancel on the first screen.
+    void reject() override;
+
+protected:
+    /// The close button: as Back while there are numbers that Back asks about, otherwise as Cancel.
+    void closeEvent(QCloseEvent* event) override;
 
 private:
     class Shown_Sheet;
@@ -146,6 +151,8 @@ private:
     void Show_Number_Count(int count);
     void Take_Numbers(Excluded_Numbers numbers);
 
+    bool Is_At_Work() const;
+    bool Has_Unsaved_Numbers() const;
     QString Typed_Name() const;
     void Work_On_Worker(const std::function<void()>& work, Under under = Under::Nothing);
     static void Tell_And_Focus(const QString& text, QWidget& control);

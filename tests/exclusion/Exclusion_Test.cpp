@@ -80,7 +80,7 @@ void Exclusion_Test::Run(const std::function<void()>& steps)
         EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
         steps();
         if (m_window->isVisible())
-            m_window->reject();
+            m_window->Cancel_Btn();
     });
     m_window->Open_Exclusion_Wnd();
 }

@@ -1,5 +1,6 @@
 #include "app/shared/Globals.h"
 #include "app/shared/Shared_Instance.h"
+#include "exclusion/Exclusion_Files.h"
 #include "exclusion/Exclusion_Screens_Test.h"
 #include "platform/Interface_Thread.h"
 #include "platform/Pace.h"
@@ -10,6 +11,16 @@
 #include <QWindow>
 
 namespace {
+
+void Escape(const QWidget& window)
+{
+    QTest::keyClick(window.windowHandle(), Qt::Key_Escape);
+}
+
+void Close_Button(const QWidget& window)
+{
+    window.windowHandle()->close();
+}
 
 TEST_F(Exclusion_Screens_Test, Back_From_A_Name_Goes_To_The_First_Screen)
 {
@@ -126,26 +137,86 @@ TEST_F(Exclusion_Screens_Test, A_New_Name_Forgets_What_Was_Unsaved)
     });
 }
 
-TEST_F(Exclusion_Screens_Test, Every_Way_Of_Cancelling_Ends_The_Wizard_Without_A_Question)
+TEST_F(Exclusion_Screens_Test, Cancel_Ends_The_Wizard_Without_A_Question_Whatever_Is_Unsaved)
 {
-    const std::function<void()> ways[] = {
-        [this] { Click("m_cancel2_btn"); },
-        [this] { QTest::keyClick(m_window->windowHandle(), Qt::Key_Escape); },
-        [this] { m_window->windowHandle()->close(); },
-    };
-    for (const auto& way : ways) {
-        Run([&] {
-            Begin_New_List("Staff");
-            Add_Number("1");
-            way();
-            EXPECT_FALSE(m_window->isVisible());
-        });
-        EXPECT_EQ(m_window->result(), 0);
-        EXPECT_EQ(Workers_Running(), 0);
-    }
+    Run([&] {
+        Begin_New_List("Staff");
+        Add_Number("1");
+        Click("m_cancel2_btn");
+        EXPECT_FALSE(m_window->isVisible());
+    });
+    EXPECT_EQ(m_window->result(), 0);
+    EXPECT_EQ(Workers_Running(), 0);
     EXPECT_TRUE(m_user.Was_Shown().isEmpty());
     EXPECT_EQ(Bytes_Of(Exclusion_Index_Path), "");
     Run([&] { Expect_First_Screen(); });
+}
+
+TEST_F(Exclusion_Screens_Test, On_The_First_Screen_Escape_And_The_Close_Button_End_The_Wizard)
+{
+    for (const auto way : {Escape, Close_Button}) {
+        Run([&] {
+            Begin_New_List("Staff");
+            Add_Number("1");
+            Finish(); // after which the wizard still takes the numbers for unsaved
+            way(*m_window);
+            EXPECT_FALSE(m_window->isVisible());
+        });
+        EXPECT_EQ(m_window->result(), 0);
+        Exclusion_Files::Write_Index({});
+    }
+}
+
+TEST_F(Exclusion_Screens_Test, Escape_Asks_About_Unsaved_Numbers_As_Back_Does_And_Goes_Back)
+{
+    Make_List("Staff", "1\n");
+    Run([&] {
+        for (const char* focused : {"m_loadnum_edit", "m_loadfile_edit", "m_ex_num_list", "m_finish_btn"}) {
+            SCOPED_TRACE(focused);
+            Begin_New_List("Sales");
+            Add_Number("7");
+            Control(focused).setFocus();
+            Expect_Asked([&] { Escape(*m_window); }, Back_Question, "No");
+            EXPECT_EQ(Rows_Of(Numbers()), QStringList("7"));
+            EXPECT_EQ(Shown(), On_Numbers_Screen);
+            Expect_Asked([&] { Escape(*m_window); }, Back_Question, "Yes");
+            EXPECT_EQ(Shown(), On_Name_Screen);
+            Escape(*m_window);
+            Expect_First_Screen();
+        }
+        Edit_List(0);
+        Add_Number("8");
+        Expect_Asked([&] { Escape(*m_window); }, Back_Question, "Yes");
+        Expect_First_Screen();
+        Edit_List(0);
+        Escape(*m_window); // nothing is unsaved: no question
+        Expect_First_Screen();
+    });
+    EXPECT_EQ(Bytes_Of(Path_Of_List("Staff")), "1\n");
+}
+
+TEST_F(Exclusion_Screens_Test, The_Close_Button_Asks_About_Unsaved_Numbers_And_Otherwise_Closes)
+{
+    Make_List("Staff", "1\n");
+    Run([&] {
+        Edit_List(0);
+        Add_Number("8");
+        Expect_Asked([&] { Close_Button(*m_window); }, Back_Question, "No");
+        EXPECT_EQ(Shown(), On_Numbers_Screen);
+        EXPECT_EQ(Rows_Of(Numbers()), QStringList({"1", "8"}));
+        Expect_Asked([&] { Close_Button(*m_window); }, Back_Question, "Yes");
+        Expect_First_Screen();
+        Edit_List(0);
+        Close_Button(*m_window);
+        EXPECT_FALSE(m_window->isVisible());
+    });
+    EXPECT_EQ(m_window->result(), 0);
+    Run([&] {
+        Click("m_addnew_btn");
+        Type("m_ex_list_name_edit", "Sales");
+        Close_Button(*m_window);
+        EXPECT_FALSE(m_window->isVisible());
+    });
 }
 
 TEST_F(Exclusion_Screens_Test, The_Window_Is_There_Before_Its_Worker_Has_Waited)
