@@ -51,6 +51,7 @@ public:
     bool Check_Duplicate_Number(const QString& number) const override;
     bool Check_Exclusion_Number(const QString& number) const override;
     void Fill_Exclusion_Num_List() override;
+    Exclusion_Set Read_Applied_Exclusions() override;
     void Create_Exclusion_List(const QString& number);
     void Update_List_Count();
     void OnGetSelected();
@@ -133,6 +134,7 @@ private:
     void Show_Device_In_Ticker();
     void Remember_Composer_Text();
     void Remove_All_Recipients();
+    void Show_Exclusion_Trouble(const QString& text);
     void Show_List_Count(int count);
     void Show_Import_Progress(int count, int percent);
     void Take_Over_Imported(Recipient_List& recipients);

@@ -13,7 +13,6 @@
 #include "app/shared/Number_Rules.h"
 #include "app/shared/PleaseWait_Modeless.h"
 #include "dialogs/List_Dialogs.h"
-#include "exclusion/Exclusion_Files.h"
 #include "platform/Interface_Thread.h"
 #include "platform/Row_Table_Model.h"
 #include "platform/Waiting.h"
@@ -88,39 +87,6 @@ QString CorvaneAppDelegate::Num_Able_To_insert(const QString& number) const
 bool CorvaneAppDelegate::Check_Duplicate_Number(const QString& number) const
 {
     return nsListDataObject.Count_Of(number) > 0;
-}
-
-bool CorvaneAppDelegate::Check_Exclusion_Number(const QString& number) const
-{
-    return nsExclusionListDataObject.Count_Of(number) > 0;
-}
-
-void CorvaneAppDelegate::Create_Exclusion_List(const QString& number)
-{
-    const QString trimmed_number = Trim_Str(number);
-    if (trimmed_number.isEmpty())
-        return;
-    nsExclusionListDataObject.Append(trimmed_number);
-    m_exclusion_rows->Reload();
-}
-
-void CorvaneAppDelegate::Exclusion_Chk()
-{
-    m_ui->idExclusionTableView->setVisible(m_ui->_Exclusion_Chk->isChecked());
-    if (m_ui->_Exclusion_Chk->isChecked())
-        Fill_Exclusion_Num_List();
-}
-
-void CorvaneAppDelegate::Fill_Exclusion_Num_List()
-{
-    if (!m_ui->_Exclusion_Chk->isChecked())
-        return;
-    Check_Path_And_Create_Files();
-    Exclusion_Set exclusions; // the table shows the present ones until these are whole
-    Run_On_Worker([&] { exclusions = Exclusion_Files::Read_Applied_Numbers(); });
-    std::swap(nsExclusionListDataObject, exclusions);
-    m_exclusion_rows->Reload();
-    Run_On_Worker([&] { exclusions.Clear(); });
 }
 
 void CorvaneAppDelegate::Update_List_Count()
@@ -249,6 +215,7 @@ void CorvaneAppDelegate::Reset_Btn()
                       m_ui->_Save_Templates_Chk, m_ui->_Skip_Duplicate_Chk, m_ui->_Unicode_SMS_Chk})
         box->setChecked(false);
     m_ui->idExclusionTableView->hide();
+    Show_Exclusion_Trouble({});
     Delayed_Delivery_Chk();
     Update_List_Count();
     Focus(Field::Number);
@@ -267,8 +234,11 @@ void CorvaneAppDelegate::doubleClickInTable()
 void CorvaneAppDelegate::OnGetSelected()
 {
     const auto rows = Selected_Recipient_Rows();
-    if (!rows.empty())
-        Open_Edit_Dialog(*this, rows.front());
+    if (rows.empty())
+        return;
+    Open_Edit_Dialog(*this, rows.front());
+    if (!m_ui->_Exclusion_Chk->isChecked())
+        Show_Exclusion_Trouble({}); // the dialog's own box may have brought some up
 }
 
 void CorvaneAppDelegate::Fill_Msg_Btn()

@@ -27,6 +27,7 @@ Update_Num_SMS::Update_Num_SMS(QWidget* parent) : QDialog(parent), m_ui(std::mak
     m_message = std::make_unique<Counted_Message>(*m_ui->m_msg_str, *m_ui->m_st_msg_cnt);
     connect(m_ui->m_num_str, &QLineEdit::textChanged, this, &Update_Num_SMS::controlTextDidChange);
     connect(m_ui->m_msg_str, &QPlainTextEdit::textChanged, this, &Update_Num_SMS::textDidChange);
+    connect(m_ui->_Exclusion_Chk, &QCheckBox::clicked, this, &Update_Num_SMS::Exclusion_Chk);
     connect(m_ui->OKPressed, &QPushButton::clicked, this, &Update_Num_SMS::OKPressed);
     connect(m_ui->CancelPressed, &QPushButton::clicked, this, &Update_Num_SMS::CancelPressed);
 }
@@ -56,11 +57,22 @@ int Update_Num_SMS::Open_Dialog(Main_Window& window, int row)
     return Run_Over(window, *this);
 }
 
+// While the main window's own box is off its exclusion set is not kept up to date, and may never have been filled.
+void Update_Num_SMS::Exclusion_Chk()
+{
+    if (m_ui->_Exclusion_Chk->isChecked() && !m_window->Read_Send_Choices().exclusion)
+        m_applied_exclusions = m_window->Read_Applied_Exclusions();
+}
+
 void Update_Num_SMS::OKPressed()
 {
-    const auto judged = Judge_Edited_Number(m_ui->m_num_str->text(), m_ui->m_s_str->text(), m_window->Recipients(),
-                                            m_window->Exclusions(), m_ui->_Skip_Duplicate_Chk->isChecked(),
-                                            m_ui->_Exclusion_Chk->isChecked());
+    const auto judge = [this](const Exclusion_Set& exclusions) {
+        return Judge_Edited_Number(m_ui->m_num_str->text(), m_ui->m_s_str->text(), m_window->Recipients(), exclusions,
+                                   m_ui->_Skip_Duplicate_Chk->isChecked(), m_ui->_Exclusion_Chk->isChecked());
+    };
+    auto judged = judge(m_window->Exclusions());
+    if (judged.verdict == Edited_Number::Verdict::Accepted)
+        judged = judge(m_applied_exclusions);
     switch (judged.verdict) {
     case Edited_Number::Verdict::Not_Valid:
         Refuse(QLatin1String(Not_A_Number));
@@ -112,5 +124,6 @@ void Update_Num_SMS::End_With(int code)
     m_ui->m_s_str->clear();
     m_ui->m_s_indx_str->clear();
     m_message->Clear();
+    m_applied_exclusions.Clear();
     done(code);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/shared/Exclusion_Set.h"
 #include "dialogs/Counted_Message.h"
 
 #include <QDialog>
@@ -28,6 +29,7 @@ public:
     /// when the recipient was saved, 0 when the dialog was cancelled.
     int Open_Dialog(Main_Window& window, int row);
 
+    void Exclusion_Chk();
     void OKPressed();
     void CancelPressed();
     void controlTextDidChange();
@@ -41,5 +43,6 @@ private:
 
     const std::unique_ptr<Ui::Update_Num_SMS> m_ui;
     std::unique_ptr<Counted_Message> m_message;
-    Main_Window* m_window = nullptr; ///< the one that the dialog was last opened over
+    Exclusion_Set m_applied_exclusions; ///< what was read for the dialog's own check box
+    Main_Window* m_window = nullptr;    ///< the one that the dialog was last opened over
 };

@@ -1,6 +1,7 @@
 #include "exclusion/Exclusion_Files.h"
 
 #include "app/shared/Globals.h"
+#include "exclusion/Exclusion_Rules.h"
 #include "platform/Folders_And_Files.h"
 #include "platform/Text_Files.h"
 
@@ -11,23 +12,30 @@ namespace {
 
 constexpr unsigned Everything_Allowed = 0777;
 
-QString Read_Text(const QString& path)
+// Nothing when a file is there that can not be read or is no UTF-8; a missing one reads as empty.
+std::optional<QString> Usable_Text(const QString& path)
 {
     const File_Lock lock(path);
-    return Read_Utf8_File(path).value_or(QString());
+    auto text = Read_Utf8_File(path);
+    return text || !Is_Missing(path) ? text : QString();
 }
 
-QString Text_Of_List(const QString& list_name)
+QString Read_Text(const QString& path)
+{
+    return Usable_Text(path).value_or(QString());
+}
+
+bool Has_A_File(const QString& list_name)
 {
     const auto path = Exclusion_Files::List_Path(list_name);
-    return path ? Read_Text(*path) : QString();
+    return path && !Is_Missing(*path);
 }
 
 template <typename Take>
 void For_Each_Entry(const QString& text, const Take& take)
 {
     for (const QStringView piece : qTokenize(text, u'\n')) {
-        const QStringView entry = piece.trimmed();
+        const QStringView entry = Exclusion_Rules::Entry_In_Line(piece);
         if (!entry.isEmpty())
             take(entry.toString());
     }
@@ -40,13 +48,30 @@ QStringList Names_In(const QString& path)
     return names;
 }
 
+// A name with blanks around it is used as it stands, and so leads past the list that everybody sees by that name.
+void Add_Numbers_Of_List(const QString& name, Exclusion_Files::Applied_Numbers& applied)
+{
+    const QString seen_name = Exclusion_Rules::Entry_In_Line(name).toString();
+    const auto path = Exclusion_Files::List_Path(name);
+    const bool leads_past_it = seen_name != name && !Has_A_File(name) && Has_A_File(seen_name);
+    const auto text = path ? Usable_Text(*path) : QString();
+    if (text && !leads_past_it)
+        For_Each_Entry(*text, [&](const QString& number) { applied.numbers.Append(number); });
+    else if (!applied.unusable_lists.contains(seen_name))
+        applied.unusable_lists.append(seen_name);
+}
+
 bool Rewrite(const QString& path, const QByteArray& bytes)
 {
     const File_Lock lock(path);
     if (!Can_Be_Written(path))
         return false;
-    const auto until_now = Read_File(path);
-    return (!until_now || Keep_What_Is_No_Utf8(path, *until_now)) && Replace_File(path, bytes);
+    if (!Is_Missing(path)) {
+        const auto until_now = Read_File(path);
+        if (!until_now || !Keep_What_Is_No_Utf8(path, *until_now))
+            return false;
+    }
+    return Replace_File(path, bytes);
 }
 
 QByteArray Lines_Of(const QStringList& entries)
@@ -79,19 +104,22 @@ QStringList Exclusion_Files::Read_Applied()
 Excluded_Numbers Exclusion_Files::Read_List(const QString& list_name)
 {
     Excluded_Numbers numbers;
-    For_Each_Entry(Text_Of_List(list_name), [&](const QString& number) { numbers.Append(number); });
+    if (const auto path = List_Path(list_name))
+        For_Each_Entry(Read_Text(*path), [&](const QString& number) { numbers.Append(number); });
     return numbers;
 }
 
-Exclusion_Set Exclusion_Files::Read_Applied_Numbers()
+Exclusion_Files::Applied_Numbers Exclusion_Files::Read_Applied_Numbers()
 {
-    Exclusion_Set numbers;
-    const QString applied = Read_Text(Applied_Exclusion_Path);
-    for (const QStringView name : qTokenize(applied, u'\n')) {
+    Applied_Numbers applied;
+    const auto names = Usable_Text(Applied_Exclusion_Path);
+    applied.is_readable = names.has_value();
+    for (const QStringView line : qTokenize(names.value_or(QString()), u'\n')) {
+        const QString name = Exclusion_Rules::Without_Byte_Order_Mark(line).toString();
         if (!name.isEmpty())
-            For_Each_Entry(Text_Of_List(name.toString()), [&](const QString& number) { numbers.Append(number); });
+            Add_Numbers_Of_List(name, applied);
     }
-    return numbers;
+    return applied;
 }
 
 bool Exclusion_Files::Index_Exists()

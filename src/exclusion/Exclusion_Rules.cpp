@@ -25,7 +25,23 @@ bool Is_Left_Out(QChar character)
 
 QString Exclusion_Rules::List_Name(const QString& typed)
 {
-    return Decode_Utf8(Trim_Str(typed).toUtf8()).value_or(QString()); // as the files are decoded
+    const QString decoded = Decode_Utf8(typed.toUtf8()).value_or(QString()); // as the files are decoded
+    return Entry_In_Line(decoded).toString();
+}
+
+QStringView Exclusion_Rules::Without_Byte_Order_Mark(QStringView line)
+{
+    while (line.startsWith(QChar(QChar::ByteOrderMark)))
+        line = line.sliced(1);
+    return line;
+}
+
+QStringView Exclusion_Rules::Entry_In_Line(QStringView line)
+{
+    QStringView entry = line.trimmed();
+    while (entry.startsWith(QChar(QChar::ByteOrderMark)))
+        entry = Without_Byte_Order_Mark(entry).trimmed();
+    return entry;
 }
 
 Exclusion_Rules::Name_Verdict Exclusion_Rules::Judge_List_Name(const QString& name, const QStringList& existing_names)

@@ -26,6 +26,13 @@ enum class Name_Verdict
 /// A typed name as it will come back from its file: trimmed, and without half of a character that was cut in two.
 QString List_Name(const QString& typed);
 
+/// What a line of a list's file, of the index or of the applied names holds: the entry, trimmed and without the
+/// byte-order mark that some editors put at the front of a file, and that joining files brings to any line.
+QStringView Entry_In_Line(QStringView line);
+
+/// A line without the mark at its front, and otherwise as it stands.
+QStringView Without_Byte_Order_Mark(QStringView line);
+
 /// Judges a name as List_Name gives it, in the order of the verdicts.
 Name_Verdict Judge_List_Name(const QString& name, const QStringList& existing_names);
 

@@ -207,6 +207,42 @@ TEST_F(Update_Num_SMS_Test, An_Excluded_Number_Is_Refused_While_Exclusions_Are_H
     EXPECT_EQ(List()[1], QStringLiteral("777: two"));
 }
 
+TEST_F(Update_Num_SMS_Test, Its_Own_Exclusion_Box_Heeds_The_Applied_Lists_While_The_Main_Windows_Is_Off)
+{
+    m_window.m_applied_exclusions.Append(QStringLiteral("777"));
+    m_window.m_exclusions.Append(QStringLiteral("888")); // left from before that was switched off
+    m_user.Will_Press("OK");
+    m_user.Will_Press("OK");
+    Edit(1, [&](QWidget& dialog) {
+        EXPECT_EQ(m_window.m_exclusion_reads, 0);
+        In<QCheckBox>(dialog, "_Exclusion_Chk").click();
+        for (const char* number : {"777", "888"}) {
+            Type_Number(dialog, QLatin1String(number));
+            Click(dialog, "OKPressed");
+            EXPECT_EQ(m_user.Was_Shown().last(), Boxed(Excluded)) << number;
+        }
+        In<QCheckBox>(dialog, "_Exclusion_Chk").click();
+        Type_Number(dialog, "777");
+        Click(dialog, "OKPressed");
+    });
+    EXPECT_EQ(m_user.Was_Shown().size(), 2);
+    EXPECT_EQ(List()[1], QStringLiteral("777: two"));
+    EXPECT_EQ(m_window.m_exclusion_reads, 1);
+    EXPECT_EQ(m_window.m_exclusion_fills, 0);
+    EXPECT_EQ(m_window.m_exclusions.Count(), 1) << "the main window's set keeps what it held";
+}
+
+TEST_F(Update_Num_SMS_Test, The_Main_Windows_Exclusions_Will_Do_While_Its_Box_Is_On)
+{
+    m_window.m_choices.exclusion = true;
+    Edit(1, [](QWidget& dialog) {
+        In<QCheckBox>(dialog, "_Exclusion_Chk").click();
+        In<QCheckBox>(dialog, "_Exclusion_Chk").click();
+        Click(dialog, "CancelPressed");
+    });
+    EXPECT_EQ(m_window.m_exclusion_reads, 0);
+}
+
 TEST_F(Update_Num_SMS_Test, Duplicates_Are_Found_Before_Exclusions)
 {
     m_window.m_choices.exclusion = true;

@@ -58,7 +58,7 @@ TEST_F(Exclusion_Files_Test, Nothing_Outside_The_Folder_Is_Touched_Under_Any_Nam
         EXPECT_EQ(Exclusion_Files::Read_List(name).Count(), 0);
         Exclusion_Files::Delete_List(name);
         Write_Bytes(Applied_Exclusion_Path, name.toUtf8() + "\n");
-        EXPECT_EQ(Exclusion_Files::Read_Applied_Numbers().Count(), 0);
+        EXPECT_EQ(Exclusion_Files::Read_Applied_Numbers().numbers.Count(), 0);
     }
     EXPECT_EQ(Bytes_Of(outside), "1\n");
     EXPECT_EQ(Bytes_Of(Exclusion_Folder_Path + "/sub/x.ZOVA"), "2\n");
@@ -111,7 +111,7 @@ TEST_F(Exclusion_Files_Test, The_Golden_Files_Read_As_They_Were_Meant)
     EXPECT_EQ(Exclusion_Files::Read_Index(), names);
     EXPECT_EQ(Exclusion_Files::Read_Applied(), QStringList({"Customers", "Staff"}));
     EXPECT_EQ(Texts_Of(Exclusion_Files::Read_List("Staff")), QStringList({"00447700900123", "12345"}));
-    EXPECT_EQ(Texts_Of(Exclusion_Files::Read_Applied_Numbers()),
+    EXPECT_EQ(Texts_Of(Exclusion_Files::Read_Applied_Numbers().numbers),
               QStringList({"12345", "00491701234567", "00447700900123", "12345"}));
 
     EXPECT_TRUE(Exclusion_Files::Write_Index(Exclusion_Files::Read_Index()));
@@ -132,6 +132,63 @@ TEST_F(Exclusion_Files_Test, Entries_Are_Trimmed_And_Empty_Ones_Skipped)
     EXPECT_EQ(Texts_Of(Exclusion_Files::Read_List("a")), QStringList({"1", "2", "2"}));
 }
 
+TEST_F(Exclusion_Files_Test, A_Byte_Order_Mark_Is_No_Part_Of_A_Name_Or_A_Number)
+{
+    const QByteArray mark = "\xEF\xBB\xBF";
+    Make_List("a", mark + "1\r\n2\n" + mark + " 3\n"); // two files joined to one
+    Make_List("b", "4\n" + mark + "\n");
+    Write_Bytes(Exclusion_Index_Path, mark + "a\n" + mark + mark + "b\n" + mark);
+    Write_Bytes(Applied_Exclusion_Path, mark + "a\n" + mark + mark + "b\n" + mark);
+    EXPECT_EQ(Exclusion_Files::Read_Index(), QStringList({"a", "b"}));
+    EXPECT_EQ(Exclusion_Files::Read_Applied(), QStringList({"a", "b"}));
+    EXPECT_EQ(Texts_Of(Exclusion_Files::Read_List("a")), QStringList({"1", "2", "3"}));
+    const auto applied = Exclusion_Files::Read_Applied_Numbers();
+    EXPECT_EQ(Texts_Of(applied.numbers), QStringList({"1", "2", "3", "4"}));
+    EXPECT_EQ(applied.unusable_lists, QStringList());
+    EXPECT_TRUE(applied.is_readable);
+}
+
+TEST_F(Exclusion_Files_Test, An_Applied_List_That_Is_There_And_Excludes_Nobody_Is_Named_Once)
+{
+    Make_List("good", "1\n");
+    Make_List("bytes", "2\n\xFF\n");
+    Make_List("sixteen bit", QByteArray("\xFF\xFE\x31\0\n\0", 6));
+    Put_A_Folder_At(Path_Of_List("folder"));
+    ASSERT_TRUE(QFile::link(Path_Of_List("loop"), Path_Of_List("loop")));
+    Make_List("blank", "3\n");
+    Make_List("empty", "");
+    Write_Bytes(Applied_Exclusion_Path,
+                "good\nbytes\nsixteen bit\ngone\nfolder\nloop\nblank \n\nblank\r\na/b\nempty\nbytes\n");
+    const auto applied = Exclusion_Files::Read_Applied_Numbers();
+    EXPECT_EQ(Texts_Of(applied.numbers), QStringList("1"));
+    EXPECT_EQ(applied.unusable_lists, QStringList({"bytes", "sixteen bit", "folder", "loop", "blank"}));
+    EXPECT_TRUE(applied.is_readable);
+}
+
+TEST_F(Exclusion_Files_Test, Applied_Names_That_Can_Not_Be_Read_Are_Told_And_Missing_Ones_Are_Not)
+{
+    QFile::remove(Applied_Exclusion_Path);
+    EXPECT_TRUE(Exclusion_Files::Read_Applied_Numbers().is_readable);
+    Write_Bytes(Applied_Exclusion_Path, "Staff\n\xFF\n");
+    EXPECT_FALSE(Exclusion_Files::Read_Applied_Numbers().is_readable);
+    Put_A_Folder_At(Applied_Exclusion_Path);
+    EXPECT_FALSE(Exclusion_Files::Read_Applied_Numbers().is_readable);
+}
+
+TEST_F(Exclusion_Files_Test, A_File_That_Can_Not_Be_Read_At_All_Is_Not_Written_Over)
+{
+    for (const QString& path : {Exclusion_Index_Path, Applied_Exclusion_Path, Path_Of_List("Staff")}) {
+        Write_Bytes(path, "Staff\n");
+        ASSERT_TRUE(QFile::resize(path, (qint64{2} << 30) + 1)); // larger than what is ever read
+    }
+    EXPECT_EQ(Exclusion_Files::Read_List("Staff").Count(), 0);
+    EXPECT_FALSE(Exclusion_Files::Write_List("Staff", Numbers_Of({"1"})));
+    EXPECT_FALSE(Exclusion_Files::Write_Index({"New"}));
+    EXPECT_FALSE(Exclusion_Files::Write_Applied({"New"}));
+    for (const QString& path : {Exclusion_Index_Path, Applied_Exclusion_Path, Path_Of_List("Staff")})
+        EXPECT_EQ(QFileInfo(path).size(), (qint64{2} << 30) + 1);
+}
+
 TEST_F(Exclusion_Files_Test, What_Can_Not_Be_Read_Reads_As_Empty)
 {
     QFile::remove(Exclusion_Index_Path);
@@ -140,7 +197,7 @@ TEST_F(Exclusion_Files_Test, What_Can_Not_Be_Read_Reads_As_Empty)
     EXPECT_EQ(Exclusion_Files::Read_Index(), QStringList()) << "not UTF-8";
     Put_A_Folder_At(Applied_Exclusion_Path);
     EXPECT_EQ(Exclusion_Files::Read_Applied(), QStringList());
-    EXPECT_EQ(Exclusion_Files::Read_Applied_Numbers().Count(), 0);
+    EXPECT_EQ(Exclusion_Files::Read_Applied_Numbers().numbers.Count(), 0);
     ASSERT_EQ(mkfifo(Path_Of_List("pipe").toUtf8().constData(), 0600), 0);
     EXPECT_EQ(Exclusion_Files::Read_List("pipe").Count(), 0);
     ASSERT_TRUE(QFile::link(Path_Of_List("loop"), Path_Of_List("loop")));
@@ -178,7 +235,7 @@ TEST_F(Exclusion_Files_Test, A_Data_Folder_That_Has_Become_A_File_Takes_Nothing)
     EXPECT_FALSE(Exclusion_Files::Write_List("a", {}));
     EXPECT_FALSE(Exclusion_Files::Create_List_If_Missing("a"));
     EXPECT_EQ(Exclusion_Files::Read_Index(), QStringList());
-    EXPECT_EQ(Exclusion_Files::Read_Applied_Numbers().Count(), 0);
+    EXPECT_EQ(Exclusion_Files::Read_Applied_Numbers().numbers.Count(), 0);
 }
 
 TEST_F(Exclusion_Files_Test, A_Missing_List_Is_Made_Empty_And_An_Existing_One_Is_Left_As_It_Is)
@@ -214,7 +271,7 @@ TEST_F(Exclusion_Files_Test, Two_Applied_Lists_That_Share_A_Number_Give_It_Twice
     Make_List("a", "1\n2\n");
     Make_List("b", "2\n3\n");
     Write_Bytes(Applied_Exclusion_Path, "b\na\n");
-    const auto numbers = Exclusion_Files::Read_Applied_Numbers();
+    const auto numbers = Exclusion_Files::Read_Applied_Numbers().numbers;
     EXPECT_EQ(Texts_Of(numbers), QStringList({"2", "3", "1", "2"}));
     EXPECT_EQ(numbers.Count_Of("2"), 2);
 }
@@ -224,20 +281,20 @@ TEST_F(Exclusion_Files_Test, An_Applied_Name_Without_A_File_And_An_Empty_One_Con
     Make_List("a", "1\n");
     Write_Bytes(Path_Of_List(""), "666\n");
     Write_Bytes(Applied_Exclusion_Path, "gone\n\na\n");
-    EXPECT_EQ(Texts_Of(Exclusion_Files::Read_Applied_Numbers()), QStringList("1"));
+    EXPECT_EQ(Texts_Of(Exclusion_Files::Read_Applied_Numbers().numbers), QStringList("1"));
 }
 
 TEST_F(Exclusion_Files_Test, Applied_Numbers_Are_Trimmed_But_Applied_Names_Are_Not)
 {
     Make_List("a", "1\r\n 2 \r\n\r\n");
     Write_Bytes(Applied_Exclusion_Path, "a\n");
-    EXPECT_EQ(Texts_Of(Exclusion_Files::Read_Applied_Numbers()), QStringList({"1", "2"}));
+    EXPECT_EQ(Texts_Of(Exclusion_Files::Read_Applied_Numbers().numbers), QStringList({"1", "2"}));
     Write_Bytes(Applied_Exclusion_Path, "a\r\n a\na \n");
-    EXPECT_EQ(Exclusion_Files::Read_Applied_Numbers().Count(), 0);
+    EXPECT_EQ(Exclusion_Files::Read_Applied_Numbers().numbers.Count(), 0);
     Write_Bytes(Path_Of_List(" a"), "7\n");
-    EXPECT_EQ(Texts_Of(Exclusion_Files::Read_Applied_Numbers()), QStringList("7"));
+    EXPECT_EQ(Texts_Of(Exclusion_Files::Read_Applied_Numbers().numbers), QStringList("7"));
     Write_Bytes(Applied_Exclusion_Path, "a");
-    EXPECT_EQ(Exclusion_Files::Read_Applied_Numbers().Count(), 2) << "without a line end";
+    EXPECT_EQ(Exclusion_Files::Read_Applied_Numbers().numbers.Count(), 2) << "without a line end";
 }
 
 } // namespace

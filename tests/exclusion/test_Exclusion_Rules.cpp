@@ -54,11 +54,15 @@ TEST(Exclusion_Rules, Half_Of_A_Character_Is_Named_As_It_Comes_Back_From_Its_Fil
     EXPECT_EQ(Judged("a" + emoji.left(1), {half}), Name_Verdict::Exists);
 }
 
-TEST(Exclusion_Rules, A_Mark_At_The_Front_Of_A_Name_Is_Part_Of_It)
+TEST(Exclusion_Rules, A_Mark_At_The_Front_Of_A_Name_Goes_As_It_Does_When_Its_File_Is_Read)
 {
     const QString mark(QChar(QChar::ByteOrderMark));
-    EXPECT_EQ(List_Name(mark + "Staff"), mark + "Staff");
-    EXPECT_EQ(Judged(mark + "Staff", {"Staff"}), Name_Verdict::Accepted);
+    EXPECT_EQ(List_Name(mark + "Staff"), "Staff");
+    EXPECT_EQ(List_Name(" " + mark + " " + mark + "Sta" + mark + "ff "), "Sta" + mark + "ff");
+    EXPECT_EQ(List_Name(mark), "");
+    EXPECT_EQ(Judged(mark + "Staff", {"Staff"}), Name_Verdict::Exists);
+    EXPECT_EQ(Entry_In_Line(mark + " 7\r"), u"7");
+    EXPECT_EQ(Without_Byte_Order_Mark(mark + " 7 "), u" 7 ") << "and otherwise as it stands";
 }
 
 TEST(Exclusion_Rules, A_Typed_Number_Is_Normalised_And_Judged)

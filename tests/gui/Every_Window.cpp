@@ -1,5 +1,6 @@
 #include "gui/Every_Window.h"
 
+#include "app/Exclusion_Trouble.h"
 #include "app/Help_Wnd.h"
 #include "app/Load_Num_Info.h"
 #include "app/shared/PleaseWait_Modeless.h"
@@ -7,6 +8,7 @@
 #include "dialogs/Send_Msg_Info.h"
 #include "dialogs/Update_Num_SMS.h"
 #include "dialogs/Update_Sel_Num_SMS.h"
+#include "exclusion/Exclusion_Files.h"
 #include "exclusion/Exclusion_Wizard.h"
 #include "sending/Composer_Rules.h"
 #include "sending/Long_SMS_Dlg.h"
@@ -49,6 +51,10 @@ QWidget& Main_Window_With_Everything(CorvaneAppDelegate& main)
     Set_Label(main, "_Msg_char_count", Longest_Count);
     Set_Label(main, "_gsm_list_count", "Total Numbers : 1000000");
     Set_Label(main, "_Device_Name_Ticker", "usb-Sierra_Wireless_EM7455-if03");
+    Exclusion_Files::Applied_Numbers applied;
+    applied.unusable_lists = QStringList(5, QString(50, u'W'));
+    Set_Label(main, "_Exclusion_Trouble", Exclusion_Trouble(applied));
+    In<QLabel>(main, "_Exclusion_Trouble").show();
     return main;
 }
 

@@ -46,6 +46,11 @@ public:
         if (m_when_exclusions_fill)
             m_when_exclusions_fill();
     }
+    Exclusion_Set Read_Applied_Exclusions() override
+    {
+        ++m_exclusion_reads;
+        return m_applied_exclusions;
+    }
     bool Check_Ph_Number(const QString& number, bool test_flag) const override
     {
         return Number_Rules::Check_Ph_Number(number, test_flag);
@@ -83,12 +88,14 @@ public:
 
     Recipient_List m_recipients;
     Exclusion_Set m_exclusions;
+    Exclusion_Set m_applied_exclusions; ///< what the lists hold
     Send_Choices m_choices;
     QString m_previous_message;
     std::vector<Field> m_focused;
     std::vector<int> m_selected_rows;
     int m_redisplays = 0;
     int m_exclusion_fills = 0;
+    int m_exclusion_reads = 0;
     std::function<void()> m_when_exclusions_fill;
     int m_selection_start = 0; ///< of the composer's selection
     int m_selection_length = 0;

@@ -58,6 +58,9 @@ public:
     virtual std::vector<int> Selected_Recipient_Rows() const = 0;
     /// Rebuilds the exclusion set from the applied lists, when the exclusion check box is on; otherwise does nothing.
     virtual void Fill_Exclusion_Num_List() = 0;
+    /// The numbers of the applied lists as they are now, whatever the exclusion check box says. The exclusion set keeps
+    /// whatever it holds.
+    virtual Exclusion_Set Read_Applied_Exclusions() = 0;
 
     /// Answers yes for an invalid number; see Number_Rules.
     virtual bool Check_Ph_Number(const QString& number, bool test_flag) const = 0;

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QString>
+
+namespace Exclusion_Files {
+struct Applied_Numbers;
+}
+
+/// What the user should know of applied exclusion lists that exclude nobody, in one sentence; an empty text when all is
+/// well. Long names, and many of them, are cut short.
+QString Exclusion_Trouble(const Exclusion_Files::Applied_Numbers& applied);
