@@ -164,8 +164,7 @@ void CorvaneAppDelegate::Clear_Sel_Btn()
     Recipient_List list = nsListDataObject; // the table shows the present one until this one is whole
     Run_On_Worker([&] { list.Remove_Rows(rows); });
     std::swap(nsListDataObject, list);
-    Redisplay_Recipients();
-    m_ui->idTableView->selectRow(0);
+    Reload_And_Select_First(*m_ui->idTableView, *m_recipient_rows);
     Update_List_Count();
     Let_Go_Of(list);
     Hide_Destroy_Modeless();

@@ -1,7 +1,5 @@
 #include "platform/Row_Table_Model.h"
 
-#include "platform/One_Line.h"
-
 Row_Table_Model::Row_Table_Model(std::vector<Column> columns, Row_Counter count_rows, Cell_Reader read_cell,
                                  QObject* parent)
     : QAbstractTableModel(parent), m_columns(std::move(columns)), m_count_rows(std::move(count_rows)),
@@ -40,15 +38,9 @@ QVariant Row_Table_Model::data(const QModelIndex& index, int role) const
     if (!index.isValid() || index.row() >= m_count_rows())
         return {};
     const auto& column = m_columns[static_cast<std::size_t>(index.column())];
-    switch (role) {
-    case Qt::DisplayRole: {
-        // One line a row: a long message with line breaks is cut by the view, not laid out in full.
-        constexpr int Longest_Cell = 400;
-        return On_One_Line(m_read_cell(column.identifier, index.row()).left(Longest_Cell));
-    }
-    default:
-        return {};
-    }
+    if (role == Qt::DisplayRole)
+        return m_read_cell(column.identifier, index.row());
+    return {};
 }
 
 QVariant Row_Table_Model::headerData(int section, Qt::Orientation orientation, int role) const

@@ -7,6 +7,7 @@
 #include "app/shared/Message_Boxes.h"
 #include "app/shared/PleaseWait_Modeless.h"
 #include "app/shared/Shared_Instance.h"
+#include "app/shared/Whole_Text_Delegate.h"
 #include "app/shared/Window_Look.h"
 #include "platform/Input_Hold.h"
 #include "platform/Interface_Thread.h"
@@ -85,6 +86,7 @@ void Phone_List_Wnd::Set_Up_Table()
         [this] { return nsPortListData.Count(); },
         [this](const QString& identifier, int row) { return nsPortListData.Value(identifier, row); });
     m_ui->idPortList->setModel(m_table_model.get());
+    m_ui->idPortList->setItemDelegate(new Whole_Text_Delegate(m_ui->idPortList));
     m_ui->idPortList->verticalScrollBar()->setObjectName(QStringLiteral("idPortListsclview"));
     m_ui->idPortList->horizontalHeader()->setHighlightSections(false);
     m_ui->idPortList->horizontalHeader()->setStretchLastSection(true);

@@ -111,11 +111,11 @@ void Exclusion_Test::Select(QTableView& table, const std::vector<int>& rows)
                                        QItemSelectionModel::Select | QItemSelectionModel::Rows);
 }
 
-void Exclusion_Test::Click(const char* name) const
+void Exclusion_Test::Click(const char* name, Qt::KeyboardModifiers keys) const
 {
     QWidget& control = Control(name);
     ASSERT_TRUE(control.isVisible()) << name;
-    QTest::mouseClick(m_window->windowHandle(), Qt::LeftButton, {},
+    QTest::mouseClick(m_window->windowHandle(), Qt::LeftButton, keys,
                       control.mapTo(m_window.get(), control.rect().center()));
 }
 

@@ -68,7 +68,7 @@ protected:
     static void Select(QTableView& table, const std::vector<int>& rows);
 
     // What the person does, as events of the window system, which modal windows hold back.
-    void Click(const char* name) const;
+    void Click(const char* name, Qt::KeyboardModifiers keys = {}) const;
     void Click_Row(const QTableView& table, int row, Qt::KeyboardModifiers keys = {}) const;
     void Double_Click_Row(const QTableView& table, int row, Qt::KeyboardModifiers keys = {}) const;
 

@@ -77,6 +77,7 @@ TEST_F(Exclusion_Screens_Test, A_Double_Click_Edits_And_With_Several_Selected_It
         Click_Row(Applied(), 0);
         Expect_Told([&] { Double_Click_Row(Applied(), 1, Qt::ControlModifier); },
                     "Please select only one record to update.", "m_applied_axclusion_list");
+        Click_Row(Available(), 1);
         Double_Click_Row(Available(), 1);
         EXPECT_EQ(Shown(), On_Numbers_Screen);
         EXPECT_EQ(Rows_Of(Numbers()), QStringList({"2", "3"}));
@@ -84,11 +85,58 @@ TEST_F(Exclusion_Screens_Test, A_Double_Click_Edits_And_With_Several_Selected_It
         Expect_Told([&] { Double_Click_Row(Numbers(), 1, Qt::ControlModifier); },
                     "Please select only one record to update.", "m_ex_num_list");
         Click("m_back_btn");
+        Click_Row(Applied(), 1);
         Double_Click_Row(Applied(), 1);
         EXPECT_EQ(Shown(), On_Numbers_Screen);
         EXPECT_EQ(Rows_Of(Numbers()), QStringList("1"));
         EXPECT_EQ(Label("m_st_curr_use_ex_list"), "Currently using exclusion list : Admin");
     });
+}
+
+TEST_F(Exclusion_Screens_Test, A_Double_Click_On_One_Of_Several_Selected_Rows_Says_So_In_Each_Table)
+{
+    Make_List("Admin", "1\n");
+    Make_List("Staff", "2\n3\n");
+    Write_Bytes(Applied_Exclusion_Path, "Staff\nAdmin\n");
+    Run([&] {
+        const auto expect_refusal = [&](QTableView& table, const char* name) {
+            Select(table, {0, 1});
+            Click_Row(table, 1, Qt::ShiftModifier);
+            Expect_Told([&] { Double_Click_Row(table, 0); }, "Please select only one record to update.", name);
+            EXPECT_EQ(Selected_In(table), (std::vector<int>{0, 1}));
+        };
+        expect_refusal(Available(), "m_exclusion_list");
+        expect_refusal(Applied(), "m_applied_axclusion_list");
+        EXPECT_EQ(Shown(), On_First_Screen);
+        Click_Row(Available(), 1);
+        Click("m_update_btn");
+        expect_refusal(Numbers(), "m_ex_num_list");
+    });
+}
+
+TEST_F(Exclusion_Screens_Test, After_A_Removal_Row_0_Alone_Is_Selected_Whatever_Keys_Are_Held)
+{
+    Make_List("Staff", "1\n2\n3\n4\n5\n");
+    for (const Qt::KeyboardModifier key : {Qt::ControlModifier, Qt::ShiftModifier}) {
+        Write_Bytes(Applied_Exclusion_Path, "1\n2\n3\n4\n5\n");
+        const auto remove_two = [&](QTableView& table, const char* button) {
+            Click_Row(table, 1);
+            Click_Row(table, 3, Qt::ControlModifier);
+            EXPECT_EQ(Selected_In(table), (std::vector<int>{1, 3}));
+            QTest::keyPress(&table, key == Qt::ShiftModifier ? Qt::Key_Shift : Qt::Key_Control, key);
+            Click(button, key);
+            EXPECT_EQ(QGuiApplication::keyboardModifiers(), key);
+            EXPECT_EQ(Rows_Of(table), (QStringList{"1", "3", "5"}));
+            EXPECT_EQ(Selected_In(table), std::vector<int>{0});
+            QTest::keyRelease(&table, key == Qt::ShiftModifier ? Qt::Key_Shift : Qt::Key_Control);
+        };
+        Run([&] {
+            remove_two(Applied(), "m_dellist_btn");
+            Click_Row(Available(), 0);
+            Click("m_update_btn");
+            remove_two(Numbers(), "m_del_num_btn");
+        });
+    }
 }
 
 TEST_F(Exclusion_Screens_Test, Update_Makes_A_Missing_File_But_A_Double_Click_On_An_Applied_List_Does_Not)

@@ -10,6 +10,21 @@ using testing::IsEmpty;
 
 class Recipient_Window : public Open_Program
 {
+protected:
+    QPoint Middle_Of(int row)
+    {
+        const auto& table = The<QTableView>("idTableView");
+        return table.visualRect(table.model()->index(row, 0)).center();
+    }
+    void Click_Row(int row, Qt::MouseButton button = Qt::LeftButton, Qt::KeyboardModifiers keys = {})
+    {
+        QTest::mouseClick(The<QTableView>("idTableView").viewport(), button, keys, Middle_Of(row));
+    }
+    void Double_Click_Row(int row, Qt::MouseButton button = Qt::LeftButton)
+    {
+        Click_Row(row, button);
+        QTest::mouseDClick(The<QTableView>("idTableView").viewport(), button, {}, Middle_Of(row));
+    }
 };
 
 TEST_F(Recipient_Window, A_Plus_Becomes_Two_Zeros_And_Dashes_Are_Left_Out)
@@ -261,6 +276,43 @@ TEST_F(Recipient_Window, Double_Click_On_Several_Selected_Rows_Asks_For_One)
     user.Will_Press(QStringLiteral("OK"));
     m_delegate->doubleClickInTable();
     EXPECT_THAT(user.Was_Shown(), ElementsAre(QStringLiteral("\nPlease select only one record to update.")));
+}
+
+TEST_F(Recipient_Window, A_Double_Click_On_One_Of_Several_Selected_Rows_Asks_For_One)
+{
+    for (const char* number : {"1", "2", "3"})
+        Add(QLatin1String(number));
+    Select_Rows({0, 1});
+    user.Will_Press(QStringLiteral("OK"));
+    Double_Click_Row(1);
+    EXPECT_THAT(user.Was_Shown(), ElementsAre(QStringLiteral("\nPlease select only one record to update.")));
+    EXPECT_THAT(m_delegate->Selected_Recipient_Rows(), ElementsAre(0, 1));
+    Click_Row(2);
+    user.When_Opens("Update_Num_SMS", [](QWidget& dialog) {
+        EXPECT_EQ(dialog.findChild<QLineEdit*>(QStringLiteral("m_num_str"))->text(), QStringLiteral("3"));
+        dialog.close();
+    });
+    Double_Click_Row(2, Qt::RightButton);
+    Double_Click_Row(2);
+}
+
+TEST_F(Recipient_Window, After_A_Delete_Row_0_Alone_Is_Selected_Whatever_Keys_Are_Held)
+{
+    for (const Qt::KeyboardModifier key : {Qt::ControlModifier, Qt::ShiftModifier}) {
+        Click("Reset_Btn");
+        for (const char* number : {"1", "2", "3", "4", "5"})
+            Add(QLatin1String(number));
+        Click_Row(1);
+        Click_Row(3, Qt::LeftButton, Qt::ControlModifier);
+        EXPECT_THAT(m_delegate->Selected_Recipient_Rows(), ElementsAre(1, 3));
+        auto& table = The<QTableView>("idTableView");
+        QTest::keyPress(&table, key == Qt::ShiftModifier ? Qt::Key_Shift : Qt::Key_Control, key);
+        QTest::mouseClick(&The<QPushButton>("Clear_Sel_Btn"), Qt::LeftButton, key);
+        EXPECT_EQ(QGuiApplication::keyboardModifiers(), key);
+        EXPECT_THAT(Numbers(), ElementsAre(QStringLiteral("1"), QStringLiteral("3"), QStringLiteral("5")));
+        EXPECT_THAT(m_delegate->Selected_Recipient_Rows(), ElementsAre(0));
+        QTest::keyRelease(&table, key == Qt::ShiftModifier ? Qt::Key_Shift : Qt::Key_Control);
+    }
 }
 
 TEST_F(Recipient_Window, Blank_Messages_Are_Seen_Only_When_Nothing_Is_Written_Anywhere)

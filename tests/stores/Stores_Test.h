@@ -18,6 +18,7 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QStyledItemDelegate>
 #include <QTableView>
 #include <QTest>
 #include <functional>
@@ -98,12 +99,12 @@ protected:
             rows.append(index.row());
         return rows;
     }
-    /// The cells of one column, from the top.
+    /// What the cells of one column are painted with, from the top.
     QStringList Shown(int column = 0) const
     {
         QStringList cells;
         for (int row = 0; row < Table().model()->rowCount(); ++row)
-            cells.append(Table().model()->index(row, column).data().toString());
+            cells.append(Painted(Table().model()->index(row, column)));
         return cells;
     }
     void Double_Click(int row, Qt::KeyboardModifiers modifiers = {}) const
@@ -133,6 +134,11 @@ protected:
     QWidget* m_visited = nullptr;
 
 private:
+    QString Painted(const QModelIndex& cell) const
+    {
+        const auto* delegate = qobject_cast<const QStyledItemDelegate*>(Table().itemDelegate());
+        return delegate->displayText(cell.data(), QLocale());
+    }
     void Expect_Visit(List_Window& window, const std::function<void()>& visit)
     {
         m_visited = &window;

@@ -1,5 +1,7 @@
 #include "app/shared/List_Tables.h"
 
+#include "app/shared/Double_Clicks.h"
+#include "app/shared/Whole_Text_Delegate.h"
 #include "platform/Row_Table_Model.h"
 
 #include <QHeaderView>
@@ -43,6 +45,17 @@ void Prepare_List_Table(QTableView& table, Row_Table_Model& rows)
     table.horizontalHeader()->setStretchLastSection(true);
     table.setColumnWidth(0, letters.averageCharWidth() * 24);
     table.setMinimumSize(letters.averageCharWidth() * Letters_Always_In_Sight, row_height * (Rows_Always_In_Sight + 1));
+    table.setItemDelegate(new Whole_Text_Delegate(&table));
+    new Double_Clicks(table);
+}
+
+void Select_Alone(QTableView& table, int row)
+{
+    // With many selected at a time the table would ask the keyboard whether to add the row to those.
+    const auto mode = table.selectionMode();
+    table.setSelectionMode(QAbstractItemView::SingleSelection);
+    table.selectRow(row);
+    table.setSelectionMode(mode);
 }
 
 std::vector<int> Rows_Selected_In(const QTableView& table)
@@ -68,7 +81,7 @@ void Reload_And_Select_First(QTableView& table, Row_Table_Model& rows)
     }
     table.viewport()->update();
     if (rows.rowCount() > 0)
-        table.selectRow(0);
+        Select_Alone(table, 0);
     else
         Q_EMIT selection.selectionChanged({}, {});
 }

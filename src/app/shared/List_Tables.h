@@ -15,11 +15,15 @@ public:
     explicit Invalid_Parameter(const char* condition);
 };
 
-/// Striped, with headings, rows selected whole and many at a time, nothing edited in place, made for a million rows.
+/// Striped, with headings, rows selected whole and many at a time, nothing edited in place, made for a million rows of
+/// texts of any length. See Whole_Text_Delegate for what is painted, and Double_Clicks for what a double click is.
 void Prepare_List_Table(QTableView& table, Row_Table_Model& rows);
 
 /// The selected rows in ascending order.
 std::vector<int> Rows_Selected_In(const QTableView& table);
+
+/// Selects a row and no other, whatever keys are held down.
+void Select_Alone(QTableView& table, int row);
 
 /// Takes rows that were removed from the list out of the table and leaves row 0 alone selected, if there is one. What
 /// listens to the selection hears of it once, when all is done.
