@@ -22,11 +22,12 @@ public:
     /// Runs the dialog over a window. Returns 1 for OK and 0 for Cancel.
     int Open_Dialog(QWidget* over);
 
-    void OKPressed(); ///< opens the file when the check box is on
+    void OKPressed(); ///< opens the file when the check box is on; stays and says so when nothing opens it
     void CancelPressed();
     void reject() override;
 
 private:
+    void Tell_It_Stays_Closed();
     void End(int code);
 
     std::unique_ptr<Ui::Open_Export_Log> m_ui;

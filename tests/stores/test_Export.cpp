@@ -231,6 +231,31 @@ TEST_F(Export_Test, The_File_Stays_Closed_When_The_Box_Is_Not_Ticked_Or_The_Offe
     EXPECT_TRUE(m_desktop.m_opened.isEmpty());
 }
 
+TEST_F(Export_Test, A_File_That_Nothing_Opens_Is_Told_Of_In_The_Dialog)
+{
+    Export_File_Path = m_folder.Path("list.txt");
+    QDesktopServices::setUrlHandler(QStringLiteral("file"), &m_desktop, "No_Program");
+    for (const bool tries_again : {false, true}) {
+        m_user.When_Opens("Open_Export_Log", [&](QWidget& dialog) {
+            auto& notice = In<QLabel>(dialog, "_notice");
+            EXPECT_FALSE(notice.isVisible());
+            Click_In(dialog, "OKPressed");
+            EXPECT_TRUE(dialog.isVisible());
+            EXPECT_TRUE(notice.isVisible());
+            EXPECT_TRUE(notice.text().startsWith(QStringLiteral("The file could not be opened")));
+            In<QCheckBox>(dialog, "Open_File_Chk").setChecked(tries_again);
+            if (tries_again)
+                QDesktopServices::setUrlHandler(QStringLiteral("file"), &m_desktop, "Open");
+            Click_In(dialog, "OKPressed");
+            EXPECT_FALSE(dialog.isVisible());
+            EXPECT_TRUE(In<QCheckBox>(dialog, "Open_File_Chk").isChecked());
+        });
+        EXPECT_EQ(Open_Export_Log::defaultInstance()->Open_Dialog(&m_window), 1);
+        EXPECT_EQ(m_desktop.m_opened.size(), tries_again ? 1 : 0);
+    }
+    EXPECT_TRUE(m_user.Was_Shown().isEmpty());
+}
+
 TEST_F(Export_Test, No_Dialog_Opens_Once_The_Program_Exits)
 {
     Begin_Program_Exit();
