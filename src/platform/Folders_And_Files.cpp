@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <cerrno>
+#include <cstdio>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -42,6 +43,20 @@ bool Make_Empty_File_If_Missing(const QString& path, unsigned permissions)
         return QFileInfo(path).isFile();
     const bool is_done = Are_Set_Or_Not_To_Be_Had(fchmod(descriptor, permissions));
     return close(descriptor) == 0 && is_done;
+}
+
+bool Move_Beside(const QString& path, const QString& name)
+{
+    constexpr int Most_Names = 1000;
+    const auto is_taken = [](const QString& free_name) {
+        struct stat found = {};
+        return lstat(QFile::encodeName(free_name).constData(), &found) == 0;
+    };
+    QString free_name = name;
+    for (int number = 2; is_taken(free_name) && number <= Most_Names; ++number)
+        free_name = name + QStringLiteral(".%1").arg(number);
+    return !is_taken(free_name) &&
+           rename(QFile::encodeName(path).constData(), QFile::encodeName(free_name).constData()) == 0;
 }
 
 bool Set_Permissions(const QString& path, unsigned permissions)

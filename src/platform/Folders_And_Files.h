@@ -11,6 +11,10 @@ bool Make_Folder_If_Missing(const QString& path, unsigned permissions);
 /// Makes an empty file when nothing stands at the path. Returns whether a file stands there then.
 bool Make_Empty_File_If_Missing(const QString& path, unsigned permissions);
 
+/// Moves whatever stands at the path, without opening it, to a name beside it that is free: the one given, or that with
+/// a number. Returns whether the path is free then.
+bool Move_Beside(const QString& path, const QString& name);
+
 /// Gives a file or folder the permissions of a mode word such as 0700. Returns whether that worked, or can not be had
 /// there: on a file system without permissions, or where another account owns it. Whether it can be used tells its use.
 bool Set_Permissions(const QString& path, unsigned permissions);

@@ -7,6 +7,7 @@
 #include "app/shared/Main_Window.h"
 #include "app/shared/Message_Boxes.h"
 #include "app/shared/PleaseWait_Modeless.h"
+#include "app/shared/Window_Look.h"
 #include "platform/Input_Hold.h"
 #include "platform/Interface_Thread.h"
 #include "platform/Row_Table_Model.h"
@@ -18,6 +19,7 @@
 
 #include <QItemSelectionModel>
 #include <QLabel>
+#include <QPlainTextEdit>
 #include <QScopedValueRollback>
 #include <QTableView>
 #include <algorithm>
@@ -74,6 +76,13 @@ void List_Window::Set_Up_List(QTableView& table, std::unique_ptr<Row_Table_Model
     Prepare_List_Table(table, *m_rows);
 }
 
+void List_Window::Set_Up_Detail(QPlainTextEdit& detail)
+{
+    QPalette palette = detail.palette();
+    palette.setColor(QPalette::Base, Window_Background());
+    detail.setPalette(palette);
+}
+
 // ----------------------------------------------------------------------------------------- opening and loading
 
 int List_Window::Open_Window()
@@ -104,6 +113,7 @@ void List_Window::Begin_Load()
     m_is_loading = true;
     m_is_whole = false;
     m_is_left = false;
+    List_Will_Load();
     m_input_hold = std::make_unique<Input_Hold>(this);
     *m_is_load_running = true;
     Start_Worker("load list", [this, is_running = m_is_load_running] {
@@ -121,6 +131,7 @@ void List_Window::Load_Thread()
     const std::shared_ptr<void> ended(nullptr, [this](void*) { Run_On_Interface_Thread([this] { End_Load(); }); });
     LoadItems();
     Run_On_Interface_Thread([this] {
+        List_Was_Loaded();
         ListreloadData();
         m_is_whole = true;
     });
@@ -224,8 +235,10 @@ void List_Window::reject()
 
 void List_Window::Write_List()
 {
+    bool is_written = false;
     if (m_is_whole)
-        Work_Under_Sheet(Rewriting());
+        Work_Under_Sheet([&, rewrite = Rewriting()] { is_written = rewrite(); });
+    List_Was_Written(is_written);
 }
 
 // ------------------------------------------------------------------------------------------------- the export

@@ -11,6 +11,7 @@
 class Input_Hold;
 class PleaseWait_Modeless;
 class QLabel;
+class QPlainTextEdit;
 class QTableView;
 class Row_Table_Model;
 
@@ -56,6 +57,8 @@ protected:
 
     List_Window(QWidget* parent, const Texts& texts);
 
+    /// Gives a view that shows a row in full the look that the window's background has.
+    static void Set_Up_Detail(QPlainTextEdit& detail);
     /// Called by the window once its controls are made.
     void Set_Up_List(QTableView& table, std::unique_ptr<Row_Table_Model> rows, QLabel& count);
 
@@ -92,8 +95,11 @@ protected:
     virtual void Remove_Rows(const std::vector<int>& rows) = 0;
     virtual void Remove_All_Rows() = 0;
     virtual void List_Became_Empty() {}
-    virtual std::function<void()> Rewriting() = 0; ///< what a worker does to write the list back
-    virtual void Clear_File() = 0;                 ///< on a worker
+    virtual std::function<bool()> Rewriting() = 0; ///< what a worker does to write the list back; whether that worked
+    virtual void List_Will_Load() {}
+    virtual void List_Was_Loaded() {} ///< the whole list is in, and not yet in the table
+    virtual void List_Was_Written(bool /*is_written*/) {}
+    virtual void Clear_File() = 0; ///< on a worker
     virtual void Forget_File() = 0;
     virtual Export_Content Content_To_Export(int mode) const = 0;
 

@@ -18,6 +18,14 @@ namespace {
 // anything.
 constexpr int Longest_Shown = 10'000;
 
+QString As_Far_As_Shown(const QString& value)
+{
+    if (value.size() <= Longest_Shown)
+        return value;
+    return value.left(Longest_Shown) + QChar(0x2026) + u'\n' +
+           Sent_Items::tr("[ The first %1 of %2 characters ]").arg(Longest_Shown).arg(value.size());
+}
+
 } // namespace
 
 Sent_Items::Sent_Items(QWidget* parent)
@@ -30,9 +38,7 @@ Sent_Items::Sent_Items(QWidget* parent)
     m_ui->setupUi(this);
     Apply_Window_Look(*this, Letters{.columns = 120, .lines = 38});
     Set_Up_Table();
-    QPalette palette = m_ui->_Mess_det_edit->palette();
-    palette.setColor(QPalette::Base, Window_Background());
-    m_ui->_Mess_det_edit->setPalette(palette);
+    Set_Up_Detail(*m_ui->_Mess_det_edit);
     m_ui->_Mess_det_edit->setTabStopDistance(m_ui->_Mess_det_edit->fontMetrics().averageCharWidth() * 12);
     connect(m_ui->Clear_Sel_Btn, &QPushButton::clicked, this, &Sent_Items::Clear_Sel_Btn);
     connect(m_ui->Clear_All_Btn, &QPushButton::clicked, this, &Sent_Items::Clear_All_Btn);
@@ -110,9 +116,9 @@ void Sent_Items::tableViewSelectionDidChange()
         return;
     Prev_Index = static_cast<unsigned>(row);
     const Sent_Item item = nsSendListData.at(row);
-    m_ui->_Mess_det_edit->setPlainText(QStringLiteral("Number\t: ") + item.Number.left(Longest_Shown) +
-                                       QStringLiteral("\r\n\r\nMessage\t: ") + item.Message.left(Longest_Shown) +
-                                       QStringLiteral("\r\n\r\nDate:\t ") + item.Date.left(Longest_Shown));
+    m_ui->_Mess_det_edit->setPlainText(QStringLiteral("Number\t: ") + As_Far_As_Shown(item.Number) +
+                                       QStringLiteral("\r\n\r\nMessage\t: ") + As_Far_As_Shown(item.Message) +
+                                       QStringLiteral("\r\n\r\nDate:\t ") + As_Far_As_Shown(item.Date));
 }
 
 void Sent_Items::List_Became_Empty()

@@ -46,8 +46,11 @@ Store_File::Store_File(QString path) : m_path(std::move(path)) {}
 QByteArray Store_File::Load_Bytes()
 {
     const File_Lock lock(m_path);
-    m_loaded = Read_File(m_path).value_or(QByteArray());
-    return Is_Valid_Utf8(m_loaded) ? m_loaded : QByteArray();
+    const auto bytes = Read_File(m_path);
+    m_is_out_of_reach = !bytes && !Is_Missing(m_path);
+    m_loaded = bytes.value_or(QByteArray());
+    m_is_utf_8 = Is_Valid_Utf8(m_loaded);
+    return m_is_utf_8 ? m_loaded : QByteArray();
 }
 
 QString Store_File::Load()
@@ -83,6 +86,12 @@ bool Store_File::Rewrite(const QByteArray& lines)
     return true;
 }
 
+bool Store_File::Put_Aside() const
+{
+    const File_Lock lock(m_path);
+    return m_is_out_of_reach && !Read_File(m_path) && Move_Beside(m_path, Kept_Path(m_path));
+}
+
 bool Store_File::Clear()
 {
     const File_Lock lock(m_path);
@@ -92,4 +101,6 @@ bool Store_File::Clear()
 void Store_File::Forget()
 {
     m_loaded.clear();
+    m_is_out_of_reach = false;
+    m_is_utf_8 = true;
 }

@@ -26,7 +26,14 @@ public:
     /// replaced stays as it is, and the answer is false.
     bool Rewrite(const QByteArray& lines);
 
-    /// The same without any lines, but only when there is a file.
+    /// Moves what could not be read at the last load, and still can not be, out of the way: a file without permission,
+    /// a folder, a pipe. It is kept beside under a name of its own. Returns whether the path is free now.
+    bool Put_Aside() const;
+
+    /// Whether something that could not be read, or was no UTF-8, stood at the path at the last load.
+    bool Was_Unreadable() const { return m_is_out_of_reach || !m_is_utf_8; }
+
+    /// Rewrite without any lines, but only when there is a file.
     bool Clear();
 
     /// Lets go of what Load remembers. A rewrite without a load before it keeps everything there is.
@@ -35,4 +42,6 @@ public:
 private:
     QString m_path;
     QByteArray m_loaded;
+    bool m_is_out_of_reach = false; // whether something stood there that could not be read
+    bool m_is_utf_8 = true;
 };

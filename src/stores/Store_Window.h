@@ -69,12 +69,14 @@ protected:
 
     void Remove_All_Rows() override { Put_In_Place(m_list, {}); }
 
-    std::function<void()> Rewriting() override
+    std::function<bool()> Rewriting() override
     {
-        return [this, list = m_list] { m_store.Rewrite(list); };
+        return [this, list = m_list] { return m_store.Rewrite(list); };
     }
     void Clear_File() override { m_store.Clear(); }
     void Forget_File() override { m_store.Forget(); }
+
+    const Store& The_Store() const { return m_store; }
 
 private:
     void Publish(List loaded)

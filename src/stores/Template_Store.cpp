@@ -81,7 +81,8 @@ QList<Template_Item> Template_Store::Load_List(qsizetype early_count,
 
 bool Template_Store::Rewrite(const QList<Template_Item>& templates)
 {
-    return m_file.Rewrite(Template_Format::Lines(templates));
+    const QByteArray lines = Template_Format::Lines(templates);
+    return m_file.Rewrite(lines) || (!templates.isEmpty() && m_file.Put_Aside() && m_file.Rewrite(lines));
 }
 
 bool Template_Store::Clear()

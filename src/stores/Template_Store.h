@@ -30,7 +30,11 @@ public:
     QList<Template_Item> Load_List(qsizetype early_count,
                                    const std::function<void(const QList<Template_Item>&)>& early);
 
-    /// Writes the templates back. See Store_File for what stays.
+    /// Whether the file that the last load found holds something that could not be read.
+    bool Was_Unreadable() const { return m_file.Was_Unreadable(); }
+
+    /// Writes the templates back. See Store_File for what stays. What can not be read at all is put aside before, where
+    /// there are templates that would be lost otherwise.
     bool Rewrite(const QList<Template_Item>& templates);
     bool Clear();
     void Forget();

@@ -16,10 +16,15 @@
 #include "stores/UpdateTemp.h"
 #include "ui_Templates.h"
 
+#include <QFileInfo>
+#include <QItemSelectionModel>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QScrollBar>
+#include <QSet>
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace {
 
@@ -45,8 +50,10 @@ Templates::Templates(QWidget* parent)
       Update_m_st_msg_cnt(Update_temp_Window->findChild<QLabel*>(QStringLiteral("m_st_msg_cnt")))
 {
     m_ui->setupUi(this);
-    Apply_Window_Look(*this, Letters{.columns = 120, .lines = 36});
+    Apply_Window_Look(*this, Letters{.columns = 120, .lines = 40});
     Set_Up_Table();
+    Set_Up_Detail(*m_ui->_templ_det_edit);
+    m_ui->_notice->hide();
     Update_temp_Window->setParent(this, Update_temp_Window->windowFlags()); // it goes with this window
     connect(m_ui->AddNew_Btn, &QPushButton::clicked, this, &Templates::AddNew_Btn);
     connect(m_ui->Update_Btn, &QPushButton::clicked, this, &Templates::Update_Btn);
@@ -57,6 +64,8 @@ Templates::Templates(QWidget* parent)
     connect(m_ui->Cancel_Btn, &QPushButton::clicked, this, &Templates::Cancel_Btn);
     connect(m_ui->idTemplateList, &QTableView::doubleClicked, this, &Templates::doubleClickInTable);
     Give_Table_Keys(*m_ui->idTemplateList, {[this] { Update_Btn(); }, [this] { Clear_Sel_Btn(); }});
+    connect(m_ui->idTemplateList->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &Templates::Show_Selected);
     Template_Window = this;
 }
 
@@ -100,6 +109,7 @@ void Templates::Replace_Template(int row, const QString& text)
 {
     if (row >= 0 && row < Count())
         nsTemplateListData[row].Message = As_Stored(text);
+    Show_Selected();
 }
 
 bool Templates::Check_Duplicate_Template(const QString& text) const
@@ -117,6 +127,72 @@ QString Templates::tableView(const QTableView* table, const QString& objectValue
 {
     return Value_In(table, objectValueForTableColumn, pRowIndex,
                     "pRowIndex >= 0 && pRowIndex < [nsTemplateListData count]");
+}
+
+void Templates::Show_Selected()
+{
+    const int row = First_Selected_Row();
+    m_ui->_templ_det_edit->setPlainText(row >= 0 && row < Count() ? nsTemplateListData.at(row).Message : QString());
+}
+
+void Templates::List_Became_Empty()
+{
+    m_ui->_templ_det_edit->clear();
+}
+
+// ------------------------------------------------------------------------------- what could not be read or written
+
+void Templates::LoadItems()
+{
+    const QFileInfo folder(QFileInfo(Templates_Path).path());
+    m_can_be_saved = folder.isDir() && folder.isWritable();
+    Store_Window::LoadItems();
+}
+
+void Templates::List_Will_Load()
+{
+    m_loaded.clear();
+    m_shows_unsaved = false;
+}
+
+void Templates::List_Was_Loaded()
+{
+    m_loaded = nsTemplateListData;
+    for (const Template_Item& item : std::as_const(m_unsaved)) {
+        if (!Check_Duplicate_Template(item.Message))
+            Create_Template_List(item.Message);
+    }
+    m_shows_unsaved = true;
+    Show_Notice();
+}
+
+void Templates::List_Was_Written(bool is_written)
+{
+    if (m_shows_unsaved)
+        m_unsaved.clear(); // what the person left of them is in the list
+    if (is_written)
+        return;
+    QSet<QString> loaded;
+    for (const Template_Item& item : std::as_const(m_loaded))
+        loaded.insert(item.Message);
+    std::copy_if(nsTemplateListData.cbegin(), nsTemplateListData.cend(), std::back_inserter(m_unsaved),
+                 [&](const Template_Item& item) { return !loaded.contains(item.Message); });
+}
+
+void Templates::Show_Notice()
+{
+    QStringList notices;
+    if (!m_unsaved.isEmpty())
+        notices += tr("Templates that could not be saved the last time are in the list again. They are saved when this "
+                      "window closes.");
+    if (The_Store().Was_Unreadable())
+        notices += tr("The templates stored so far can not be read. They are kept in a file of their own when this "
+                      "list is saved.");
+    if (!m_can_be_saved)
+        notices += tr("Changes can not be saved at present: the folder %1 can not be written to.")
+                       .arg(QFileInfo(Templates_Path).path());
+    m_ui->_notice->setText(notices.join(u'\n'));
+    m_ui->_notice->setVisible(!notices.isEmpty());
 }
 
 // ------------------------------------------------------------------------------------------- adding and editing

@@ -47,14 +47,25 @@ public:
     QString tableView(const QTableView* table, const QString& objectValueForTableColumn, int pRowIndex) const;
 
 protected:
+    void LoadItems() override;
+    void List_Became_Empty() override;
+    void List_Will_Load() override;
+    void List_Was_Loaded() override;
+    void List_Was_Written(bool is_written) override;
     Export_Content Content_To_Export(int mode) const override;
 
 private:
     void Set_Up_Table();
+    void Show_Selected();
+    void Show_Notice();
     bool May_Be_Used(const QString& text);
 
     const std::unique_ptr<Ui::Templates> m_ui;
     QList<Template_Item> nsTemplateListData;
+    QList<Template_Item> m_loaded;  // as the file had them when the window opened
+    bool m_can_be_saved = true;     // as far as could be told then
+    bool m_shows_unsaved = false;   // whether the list has come in with what could not be written before
+    QList<Template_Item> m_unsaved; // what was entered and could not be written when the window was last closed
 
     // The editing dialog and its controls.
     UpdateTemp* Update_temp_Window;

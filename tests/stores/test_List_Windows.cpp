@@ -59,6 +59,28 @@ TEST_F(Stores_Test, A_Window_Opens_After_One_Second)
     }
 }
 
+TEST_F(Stores_Test, After_A_Delete_Row_0_Alone_Is_Selected_Whatever_Keys_Are_Held)
+{
+    for (const Qt::KeyboardModifier key : {Qt::ControlModifier, Qt::ShiftModifier}) {
+        const auto delete_two = [&] {
+            for (const int row : {1, 3})
+                QTest::mouseClick(Table().viewport(), Qt::LeftButton, row == 1 ? Qt::NoModifier : Qt::ControlModifier,
+                                  Table().visualRect(Table().model()->index(row, 0)).center());
+            EXPECT_EQ(Selected(), (QList<int>{1, 3}));
+            QTest::keyPress(&Table(), key == Qt::ShiftModifier ? Qt::Key_Shift : Qt::Key_Control, key);
+            QTest::mouseClick(&The<QPushButton>("Clear_Sel_Btn"), Qt::LeftButton, key);
+            EXPECT_EQ(QGuiApplication::keyboardModifiers(), key);
+            EXPECT_EQ(Shown(), (QStringList{"1", "3", "5"}));
+            EXPECT_EQ(Selected(), QList<int>{0});
+            QTest::keyRelease(&Table(), key == Qt::ShiftModifier ? Qt::Key_Shift : Qt::Key_Control);
+        };
+        Put(Sent_Item_Path, "\a1\vm\ad\v\n\a2\vm\ad\v\n\a3\vm\ad\v\n\a4\vm\ad\v\n\a5\vm\ad\v\n");
+        Visit_Sent_Items(delete_two);
+        Put(Templates_Path, "1\n2\n3\n4\n5\n");
+        Visit_Templates(delete_two);
+    }
+}
+
 TEST_F(Stores_Test, A_Window_That_Is_Open_Does_Not_Open_Once_More)
 {
     Visit_Sent_Items([] { Sent_Items::defaultInstance()->Open_Sent_Item_Wnd(); });

@@ -35,11 +35,11 @@ protected:
         Fail_If(m_fails_to_clear);
         Sent_Items::Clear_File();
     }
-    std::function<void()> Rewriting() override
+    std::function<bool()> Rewriting() override
     {
         return [this, rewrite = Sent_Items::Rewriting()] {
             Fail_If(m_fails_to_rewrite);
-            rewrite();
+            return rewrite();
         };
     }
     Export_Content Content_To_Export(int mode) const override

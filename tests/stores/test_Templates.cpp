@@ -81,6 +81,30 @@ TEST_F(Templates_Test, The_File_Is_Shown_And_Written_Again_On_Close)
     EXPECT_EQ(Stored(), Golden("Templates.ZOVA"));
 }
 
+TEST_F(Templates_Test, The_Selected_Template_Is_Shown_In_Full)
+{
+    const QString long_text = QStringLiteral("first\n") + QString(1500, u'x') + QStringLiteral("\nlast");
+    Put(Templates_Path, "short\n" + QString(long_text).replace(u"\n"_qs, u"|AP*|DX/"_qs).toUtf8() + '\n');
+    Visit_Templates([&] {
+        const auto& detail = The<QPlainTextEdit>("_templ_det_edit");
+        EXPECT_TRUE(detail.isReadOnly());
+        EXPECT_EQ(detail.toPlainText(), QString());
+        Select(1);
+        EXPECT_EQ(detail.toPlainText(), long_text);
+        EXPECT_EQ(Table().model()->index(1, 0).data().toString(), long_text);
+        m_user.When_Opens("UpdateTemp", [](QWidget& dialog) {
+            In<QPlainTextEdit>(dialog, "m_templ_msg_str").setPlainText(QStringLiteral("changed"));
+            Click_In(dialog, "OKPressed");
+        });
+        Click("Update_Btn");
+        EXPECT_EQ(detail.toPlainText(), QStringLiteral("changed"));
+        Click("Clear_Sel_Btn");
+        EXPECT_EQ(detail.toPlainText(), QStringLiteral("short"));
+        Click("Clear_Sel_Btn");
+        EXPECT_EQ(detail.toPlainText(), QString());
+    });
+}
+
 TEST_F(Templates_Test, Duplicates_In_The_File_Collapse_On_Load_And_Close)
 {
     Put(Templates_Path, "a\nb\na\n b \n\n");
@@ -410,6 +434,19 @@ TEST_F(Templates_Test, A_Double_Click_With_Several_Selected_Is_Refused)
         Table().setCurrentIndex(Table().model()->index(0, 0));
         Double_Click(2, Qt::ShiftModifier);
         Expect_Focus_On_Table();
+    });
+    EXPECT_EQ(m_user.Was_Shown(), QStringList{Select_One});
+}
+
+TEST_F(Templates_Test, A_Double_Click_On_One_Of_Several_Selected_Is_Refused_And_They_Stay_Selected)
+{
+    Put(Templates_Path, "a\nb\nc\n");
+    m_user.Will_Press("OK");
+    Visit_Templates([this] {
+        Select(0, 1);
+        Double_Click(1);
+        Expect_Focus_On_Table();
+        EXPECT_EQ(Selected(), (QList<int>{0, 1}));
     });
     EXPECT_EQ(m_user.Was_Shown(), QStringList{Select_One});
 }
