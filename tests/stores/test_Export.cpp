@@ -12,14 +12,17 @@
 
 namespace {
 
-// Stands for the desktop, which would start a program for the file.
+// Stands for the desktop, which would start a program for the file, if it has one.
 class Desktop : public QObject
 {
     Q_OBJECT
 
 public:
-    Desktop() { QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "Open"); }
+    Desktop() { Has_A_Program(); }
     ~Desktop() override { QDesktopServices::unsetUrlHandler(QStringLiteral("file")); }
+
+    void Has_A_Program() { QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "Open"); }
+    void Has_No_Program() { QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "Nothing"); } // no such slot
 
     QList<QUrl> m_opened;
 
@@ -231,29 +234,48 @@ TEST_F(Export_Test, The_File_Stays_Closed_When_The_Box_Is_Not_Ticked_Or_The_Offe
     EXPECT_TRUE(m_desktop.m_opened.isEmpty());
 }
 
-TEST_F(Export_Test, A_File_That_Nothing_Opens_Is_Told_Of_In_The_Dialog)
+TEST_F(Export_Test, A_File_That_Nothing_Opens_Is_Told_Of_In_The_Dialog_Which_Closes_All_The_Same)
 {
-    Export_File_Path = m_folder.Path("list.txt");
-    QDesktopServices::setUrlHandler(QStringLiteral("file"), &m_desktop, "No_Program");
-    for (const bool tries_again : {false, true}) {
-        m_user.When_Opens("Open_Export_Log", [&](QWidget& dialog) {
-            auto& notice = In<QLabel>(dialog, "_notice");
+    const QList<std::pair<std::function<void(QWidget&)>, int>> ways_out = {
+        {[](QWidget& dialog) { Click_In(dialog, "OKPressed"); }, 1},
+        {[](QWidget& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); }, 1},
+        {[](QWidget& dialog) { Click_In(dialog, "CancelPressed"); }, 0},
+        {[](QWidget& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); }, 0},
+        {[](QWidget& dialog) { dialog.close(); }, 0},
+    };
+    m_desktop.Has_No_Program();
+    for (const auto& [leave, code] : ways_out) {
+        m_user.When_Opens("Open_Export_Log", [leave = leave](QWidget& dialog) {
+            const auto& box = In<QCheckBox>(dialog, "Open_File_Chk");
+            const auto& notice = In<QLabel>(dialog, "_notice");
+            EXPECT_TRUE(box.isChecked());
             EXPECT_FALSE(notice.isVisible());
             Click_In(dialog, "OKPressed");
             EXPECT_TRUE(dialog.isVisible());
+            EXPECT_FALSE(box.isChecked());
             EXPECT_TRUE(notice.isVisible());
             EXPECT_TRUE(notice.text().startsWith(QStringLiteral("The file could not be opened")));
-            In<QCheckBox>(dialog, "Open_File_Chk").setChecked(tries_again);
-            if (tries_again)
-                QDesktopServices::setUrlHandler(QStringLiteral("file"), &m_desktop, "Open");
-            Click_In(dialog, "OKPressed");
+            leave(dialog);
             EXPECT_FALSE(dialog.isVisible());
-            EXPECT_TRUE(In<QCheckBox>(dialog, "Open_File_Chk").isChecked());
         });
-        EXPECT_EQ(Open_Export_Log::defaultInstance()->Open_Dialog(&m_window), 1);
-        EXPECT_EQ(m_desktop.m_opened.size(), tries_again ? 1 : 0);
+        EXPECT_EQ(Open_Export_Log::defaultInstance()->Open_Dialog(&m_window), code);
     }
     EXPECT_TRUE(m_user.Was_Shown().isEmpty());
+}
+
+TEST_F(Export_Test, A_File_That_Nothing_Opened_Can_Be_Tried_Once_More)
+{
+    Export_File_Path = m_folder.Path("list.txt");
+    m_desktop.Has_No_Program();
+    m_user.When_Opens("Open_Export_Log", [this](QWidget& dialog) {
+        Click_In(dialog, "OKPressed");
+        m_desktop.Has_A_Program();
+        In<QCheckBox>(dialog, "Open_File_Chk").click();
+        Click_In(dialog, "OKPressed");
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    EXPECT_EQ(Open_Export_Log::defaultInstance()->Open_Dialog(&m_window), 1);
+    EXPECT_EQ(m_desktop.m_opened, QList{QUrl::fromLocalFile(Export_File_Path)});
 }
 
 TEST_F(Export_Test, No_Dialog_Opens_Once_The_Program_Exits)
