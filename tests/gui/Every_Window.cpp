@@ -109,10 +109,29 @@ QWidget& Edit_Of_The_Selected(CorvaneAppDelegate& /*main*/)
     return window;
 }
 
+QWidget& Templates_With_Notices(CorvaneAppDelegate& /*main*/)
+{
+    auto& window = *Templates::defaultInstance();
+    In<QLabel>(window, "_notice").show();
+    Set_Label(window, "_notice",
+              "Templates that could not be saved the last time are in the list again. They are saved when this window "
+              "closes.\nThe templates stored so far can not be read. They are kept in a file of their own when this "
+              "list is saved.\nChanges can not be saved at present: the folder "
+              "/home/somebody/.local/share/corvane/Resources/CORVANE_DATA can not be written to.");
+    return window;
+}
+
 QWidget& Template_Editor(CorvaneAppDelegate& /*main*/)
 {
     auto& window = *UpdateTemp::defaultInstance();
     Set_Label(window, "m_st_msg_cnt", "1600 Characters");
+    return window;
+}
+
+QWidget& Export_That_Nothing_Opens(CorvaneAppDelegate& /*main*/)
+{
+    auto& window = *Open_Export_Log::defaultInstance();
+    In<QLabel>(window, "_notice").show();
     return window;
 }
 
@@ -171,9 +190,11 @@ const std::vector<Sight>& Every_Window()
         {"edit of the selected", Edit_Of_The_Selected},
         {"sent items", Shared<Sent_Items>},
         {"templates", Shared<Templates>},
+        {"templates with notices", Templates_With_Notices},
         {"template editor", Template_Editor},
         {"export option", Shared<Export_Option>},
         {"export done", Shared<Open_Export_Log>},
+        {"export that nothing opens", Export_That_Nothing_Opens},
         {"exclusion lists", Exclusion_Lists},
         {"name of an exclusion list", Exclusion_Name},
         {"numbers of an exclusion list", Exclusion_Numbers},
