@@ -7,7 +7,7 @@
 namespace {
 
 constexpr qsizetype Longest_Shown_Name = 20;
-constexpr qsizetype Most_Shown = 24; // characters of all names together: two lines of text, however large it is
+constexpr qsizetype Most_Shown = 24; // characters of all names together: they share a line with other words
 
 QString Told(const char* text)
 {
@@ -38,17 +38,17 @@ QStringList Shown_Names(const QStringList& names)
 QString Exclusion_Trouble(const Exclusion_Files::Applied_Numbers& applied)
 {
     if (!applied.is_readable)
-        return Told("The file that says which exclusion lists are applied can not be read: no number is excluded.");
+        return Told("The file that says which exclusion lists are applied\ncan not be read: no number is excluded.");
     const QStringList& names = applied.unusable_lists;
     if (names.isEmpty())
         return {};
     if (names.size() == 1)
-        return Told("The exclusion list %1 can not be used: its numbers are not excluded.")
+        return Told("The exclusion list %1\ncan not be used: its numbers are not excluded.")
             .arg(Shown_Name(names.first()));
     const QStringList shown = Shown_Names(names);
     const QString which = shown.join(QStringLiteral(", "));
     if (names.size() == shown.size())
-        return Told("The exclusion lists %1 can not be used: their numbers are not excluded.").arg(which);
-    return Told("The exclusion lists %1 and %2 more can not be used: their numbers are not excluded.")
+        return Told("The exclusion lists %1\ncan not be used: their numbers are not excluded.").arg(which);
+    return Told("The exclusion lists %1 and %2 more\ncan not be used: their numbers are not excluded.")
         .arg(which, QString::number(names.size() - shown.size()));
 }

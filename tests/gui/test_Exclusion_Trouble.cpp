@@ -10,7 +10,7 @@ using testing::ElementsAre;
 namespace {
 
 const QString Staff_Is_Unusable =
-    QStringLiteral("The exclusion list \"Staff\" can not be used: its numbers are not excluded.");
+    QStringLiteral("The exclusion list \"Staff\"\ncan not be used: its numbers are not excluded.");
 
 void Write(const QString& path, const QByteArray& bytes)
 {
@@ -157,11 +157,11 @@ TEST(Exclusion_Trouble_Text, Names_What_Can_Not_Be_Used_And_Keeps_It_Short)
     EXPECT_EQ(Exclusion_Trouble(applied), QString());
     applied.unusable_lists = {"%1", "<b>Sales</b>"};
     EXPECT_EQ(Exclusion_Trouble(applied),
-              "The exclusion lists \"%1\", \"<b>Sales</b>\" can not be used: their numbers are not excluded.");
+              "The exclusion lists \"%1\", \"<b>Sales</b>\"\ncan not be used: their numbers are not excluded.");
     applied.unusable_lists = {QString(21, 'w'), QString(20, 'w'), "last"};
     EXPECT_EQ(Exclusion_Trouble(applied), "The exclusion lists \"" + QString(19, 'w') + QChar(u'\u2026') +
-                                              "\" and 2 more can not be used: their numbers are not excluded.");
+                                              "\" and 2 more\ncan not be used: their numbers are not excluded.");
     applied.is_readable = false;
     EXPECT_EQ(Exclusion_Trouble(applied),
-              "The file that says which exclusion lists are applied can not be read: no number is excluded.");
+              "The file that says which exclusion lists are applied\ncan not be read: no number is excluded.");
 }
