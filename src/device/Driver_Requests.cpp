@@ -1,5 +1,6 @@
 #include "device/Driver_Requests.h"
 
+#include "platform/Leaving_Wait.h"
 #include "platform/Pace.h"
 
 #include <algorithm>
@@ -52,11 +53,16 @@ bool Is_Claimed_Exclusively(Serial_Calls& calls, int descriptor)
     return calls.Control(descriptor, TIOCGEXCL, &is_claimed) == 0 && is_claimed != 0;
 }
 
+double Seconds_To_Drain()
+{
+    return std::max(Drain_Seconds, Shortest_Drain * Pace());
+}
+
 int Drain_With_An_End(Serial_Calls& calls, int descriptor)
 {
     int waiting = 0;
     int result = 0;
-    Wait_Seconds_Unless(std::max(Drain_Seconds, Shortest_Drain * Pace()), [&] {
+    Wait_Seconds_Also_In_Leaving(Seconds_To_Drain(), [&] {
         result = calls.Control(descriptor, TIOCOUTQ, &waiting);
         return result == -1 || waiting == 0;
     });

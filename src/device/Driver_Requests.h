@@ -17,6 +17,10 @@ void Release_Exclusive_Use(Serial_Calls& calls, int descriptor);
 /// Whether somebody claims the line for himself. Privileged users can open it even so.
 bool Is_Claimed_Exclusively(Serial_Calls& calls, int descriptor);
 
-/// Waits until the driver has sent what was written, 2 seconds at pace 1 at the most, and throws away what is left
-/// then. Returns 0, or -1 and errno: ETIMEDOUT for bytes thrown away.
+/// How long a device may take for the last bytes: 2 seconds at pace 1.
+double Seconds_To_Drain();
+
+/// Waits until the driver has sent what was written, Seconds_To_Drain at the most, and throws away what is left then.
+/// The program's exit does not cut it short: a message that was written counts as sent. Returns 0, or -1 and errno:
+/// ETIMEDOUT for bytes thrown away.
 int Drain_With_An_End(Serial_Calls& calls, int descriptor);

@@ -167,6 +167,9 @@ public:
     bool writeData(const QByteArray& data, KVSerialError* error = nullptr);
     bool writeString(const QString& string, KVText_Encoding usingEncoding, KVSerialError* error = nullptr);
     bool writeBytes(const char* bytes, qsizetype length, KVSerialError* error = nullptr);
+    /// The last word to a device, for which the program's exit waits as well: 2 seconds at pace 1 at the most. Where
+    /// there is no room for it even then, what waits to go out is thrown away.
+    bool writeInLeaving(const QByteArray& data);
     /// No read follows for a while: what comes from now on, and what waits, is for the background reader.
     void Await_No_Answer() { Await_Answer_Until(0); }
     /// Bytes that wait to be read, -1 when the port is closed or the system does not say.

@@ -1,8 +1,10 @@
 #include "device/KVSerialPort.h"
 
 #include "device/Bounded_Write.h"
+#include "device/Driver_Requests.h"
 #include "device/KVSerialPort_Line.h"
 #include "device/Non_Blocking_Transfer.h"
+#include "platform/Leaving_Wait.h"
 
 #include <cerrno>
 
@@ -41,6 +43,25 @@ bool KVSerialPort::writeBytes(const char* bytes, qsizetype length, KVSerialError
     if (error)
         *error = outcome;
     return outcome.code == KVSerial_Ended_Normally;
+}
+
+bool KVSerialPort::writeInLeaving(const QByteArray& data)
+{
+    const auto line = Present_Line();
+    if (!line)
+        return false;
+    qsizetype written = 0;
+    bool has_gone = false;
+    Wait_Seconds_Also_In_Leaving(Seconds_To_Drain(), [&] {
+        const ssize_t now = Put_Bytes(*line, data.constData() + written, static_cast<size_t>(data.size() - written));
+        if (now > 0)
+            written += now;
+        has_gone = now == 0 || (now < 0 && errno != EAGAIN && errno != EINTR);
+        return has_gone || written == data.size();
+    });
+    if (!has_gone && written < data.size())
+        flushInput(false, true);
+    return written == data.size();
 }
 
 bool KVSerialPort::writeData(const QByteArray& data, KVSerialError* error)

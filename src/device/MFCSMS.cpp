@@ -42,6 +42,7 @@ void MFCSMS::initPort(const QString& path)
     }
     const auto made = std::make_shared<KVSerialPort>(path, path, QStringLiteral("IOModemSerialStream"), m_calls);
     setPort(made);
+    m_message_is_begun = false;
     made->setDelegate(this);
     if (!made->open()) {
         Show_NSLog_Message(Port_Log_Line(path, "NOT OPEN"));

@@ -58,6 +58,13 @@ public:
     bool Read_Command(int descriptor, const QByteArray& response_str);
     bool Check_Connection(int descriptor);
 
+    // A message on the line: the phone takes whatever comes between the two for its text.
+    bool Begin_Message(int descriptor, const QByteArray& command_str); ///< writes the command that asks for a prompt
+    bool End_Message(int descriptor);                                  ///< writes the terminator
+    /// On the way out of the program: calls off a message that was begun and not ended, so that the phone does not wait
+    /// for the rest of it.
+    void Call_Off_Message();
+
     /// The last answer without white space at its ends; after an exception during a read, the exception's reason.
     QString m_sLastResponse() const;
     void setM_sLastResponse(const QString& response);
@@ -108,6 +115,7 @@ private:
     std::recursive_mutex m_close_lock;
     std::shared_ptr<KVSerialPort> m_port;
     QString m_last_response;
+    std::atomic<bool> m_message_is_begun{false};
     std::set<int> m_descriptors; // opened by OpenSerialPort and not yet closed
     mutable std::mutex m_fields_lock;
 };

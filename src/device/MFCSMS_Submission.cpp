@@ -71,11 +71,11 @@ private:
 
     bool Submit(const QString& pdu, const char* label)
     {
-        if (!m_session.Write_Command(m_descriptor, "AT+CMGS=" + QByteArray::number(m_length) + "\r\n"))
+        if (!m_session.Begin_Message(m_descriptor, "AT+CMGS=" + QByteArray::number(m_length) + "\r\n"))
             return false;
         m_session.Read_Command(m_descriptor, Expect_Prompt);
         if (!m_session.Write_Command(m_descriptor, MFCSMS::NString_To_Command_Char(pdu)) ||
-            !m_session.Write_Command(m_descriptor, Terminator))
+            !m_session.End_Message(m_descriptor))
             return false;
         m_session.Read_Command(m_descriptor, Expect_Ok);
         Show_NSLog_Message(QString::fromLatin1(label));
@@ -94,6 +94,27 @@ private:
 };
 
 } // namespace
+
+bool MFCSMS::Begin_Message(int descriptor, const QByteArray& command_str)
+{
+    m_message_is_begun = true; // also by half a command: nobody knows what of it arrives
+    return Write_Command(descriptor, command_str);
+}
+
+bool MFCSMS::End_Message(int descriptor)
+{
+    const bool is_written = Write_Command(descriptor, Terminator);
+    if (is_written)
+        m_message_is_begun = false;
+    return is_written;
+}
+
+void MFCSMS::Call_Off_Message()
+{
+    const auto line_port = port();
+    if (m_message_is_begun.exchange(false) && line_port)
+        line_port->writeInLeaving(Cancel);
+}
 
 void Log_Part(int part, int parts)
 {

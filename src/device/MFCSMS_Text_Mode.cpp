@@ -61,7 +61,7 @@ private:
 
     bool Submit_7_Bit(const QString& body)
     {
-        if (!Ask_For_Prompt() || !Write_Body(Harmless_Body(body)) || !Write(Terminator))
+        if (!Ask_For_Prompt() || !Write_Body(Harmless_Body(body)) || !m_session.End_Message(m_descriptor))
             return false;
         m_session.Read_Command(m_descriptor, Expect_Ok);
         return true;
@@ -81,7 +81,7 @@ private:
         if (!Ask(m_is_flash ? "AT+CSMP=17,255,0,24\r\n" : "AT+CSMP=17,255,0,8\r\n") || !Ask_For_Prompt())
             return false;
         const QString line_body = takes_hex || takes_ucs2 ? m_encoder.EncodeUserData_16_bit(body) : Harmless_Body(body);
-        return Write_Body(line_body) && Write(Terminator);
+        return Write_Body(line_body) && m_session.End_Message(m_descriptor);
     }
 
     bool Set_Service_Centre()
@@ -92,7 +92,7 @@ private:
 
     bool Ask_For_Prompt()
     {
-        if (!Write("AT+CMGS=\"" + MFCSMS::NString_To_Command_Char(m_number) + "\"\r\n"))
+        if (!m_session.Begin_Message(m_descriptor, "AT+CMGS=\"" + MFCSMS::NString_To_Command_Char(m_number) + "\"\r\n"))
             return false;
         m_session.Read_Command(m_descriptor, Expect_Prompt);
         return true;

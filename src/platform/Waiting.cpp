@@ -1,6 +1,7 @@
 #include "platform/Waiting.h"
 
 #include "platform/Interface_Thread.h"
+#include "platform/Leaving_Wait.h"
 #include "platform/Pace.h"
 
 #include <QCoreApplication>
@@ -158,6 +159,21 @@ void Wait_Seconds_Unless(double seconds, const std::function<bool()>& is_over)
         if (left <= 0)
             return;
         Wait_Real_Seconds(std::min(left, Slice_Seconds));
+    }
+}
+
+void Wait_Seconds_Also_In_Leaving(double seconds, const std::function<bool()>& is_over)
+{
+    constexpr int Slice_Milliseconds = 10;
+    const double end = Now_Seconds() + Paced(seconds);
+    while (!is_over() && Now_Seconds() < end) {
+        if (!Program_Is_Exiting()) {
+            Wait_Real_Seconds(std::min(end - Now_Seconds(), Slice_Seconds));
+            continue;
+        }
+        if (Is_Interface_Thread())
+            QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+        poll(nullptr, 0, Slice_Milliseconds);
     }
 }
 

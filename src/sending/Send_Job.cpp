@@ -274,6 +274,8 @@ void Send_Job::Close_Handle()
 void Send_Job::Close_Port()
 {
     if (const auto port = m_session.port()) {
+        if (Program_Is_Exiting()) // the reads and writes of the message ended wherever they were
+            m_session.Call_Off_Message();
         port->close();
         m_session.setPort(nullptr);
     }

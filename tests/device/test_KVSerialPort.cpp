@@ -204,6 +204,29 @@ TEST_F(Serial_Port, A_Close_Does_Not_Wait_For_Bytes_That_The_Device_Never_Takes)
     EXPECT_EQ(m_calls.Count("close"), 1);
 }
 
+TEST_F(Serial_Port, A_Close_On_The_Way_Out_Waits_For_What_Was_Written_As_Well)
+{
+    for (const bool takes_all : {true, false}) {
+        const auto port = Make_Port();
+        ASSERT_TRUE(port->open());
+        const int flushes = m_calls.Count("tcflush");
+        const int closes = m_calls.Count("close");
+        int left = 20;
+        m_calls.Will_Do("TIOCOUTQ", [&](void* waiting) {
+            *static_cast<int*>(waiting) = takes_all ? --left : 100;
+            return 0;
+        });
+        Begin_Program_Exit();
+        const double start = Now_Seconds();
+        port->close();
+        Forget_Program_Exit();
+        EXPECT_LT(Now_Seconds() - start, 2.0);
+        EXPECT_EQ(m_calls.Count("tcflush") - flushes, takes_all ? 0 : 1);
+        EXPECT_EQ(m_calls.Count("close") - closes, 1);
+        EXPECT_EQ(left, takes_all ? 0 : 20);
+    }
+}
+
 TEST_F(Serial_Port, What_Comes_Back_To_A_Port_While_It_Closes_Finds_It_Closed)
 {
     const auto port = Make_Port();

@@ -3,6 +3,7 @@
 #include "device/Bounded_Write.h"
 
 #include <fcntl.h>
+#include <poll.h>
 #include <thread>
 
 namespace {
@@ -32,6 +33,53 @@ TEST_F(Serial_Port_Writing, A_Text_Goes_Out_Whole)
     EXPECT_EQ(m_error.bytesWritten, 8u);
     ASSERT_TRUE(Serve_Until([&] { return m_phone.Heard_Bytes().size() == 8; }));
     EXPECT_EQ(m_phone.Heard(), Lines("AT+GMI"));
+}
+
+// Whoever reads slowly at the other end gets all that was written, and the last word after it.
+TEST_F(Serial_Port_Writing, The_Last_Word_Waits_For_Room_On_The_Way_Out)
+{
+    Phone_Moods moods;
+    moods.m_stop_reading_after = 0;
+    m_phone.Set_Moods(moods);
+    Set_Pace(1);
+    const int descriptor = m_port->fileDescriptor();
+    fcntl(descriptor, F_SETFL, fcntl(descriptor, F_GETFL) | O_NONBLOCK);
+    const std::string octets(1000, '7');
+    std::size_t written = 0;
+    for (ssize_t now = 0; (now = ::write(descriptor, octets.data(), octets.size())) > 0;)
+        written += static_cast<std::size_t>(now);
+    std::thread slow_reader([this] {
+        Wait_For_Descriptor(-1, POLLIN, 0.3);
+        m_phone.Set_Moods({});
+    });
+    Begin_Program_Exit();
+    const double begin = Now_Seconds();
+    const bool is_written = m_port->writeInLeaving("\x1B");
+    m_port->close();
+    EXPECT_LT(Now_Seconds() - begin, 4);
+    Forget_Program_Exit();
+    slow_reader.join();
+    EXPECT_TRUE(is_written);
+    ASSERT_TRUE(Serve_Until([&] { return m_phone.Heard_Bytes().size() == written + 1; }));
+    EXPECT_EQ(m_phone.Heard_Bytes().back(), '\x1B');
+}
+
+TEST_F(Serial_Port_Writing, A_Device_That_Takes_Nothing_Is_Left_After_Two_Seconds)
+{
+    Virtual_Phone phone(Takes_No_Byte());
+    const auto port = Open_Port(phone, m_calls);
+    const int descriptor = port->fileDescriptor();
+    fcntl(descriptor, F_SETFL, fcntl(descriptor, F_GETFL) | O_NONBLOCK);
+    const std::string octets(1000, '7');
+    while (::write(descriptor, octets.data(), octets.size()) > 0) {
+    }
+    Begin_Program_Exit();
+    const double begin = Now_Seconds();
+    EXPECT_FALSE(port->writeInLeaving("\x1B"));
+    port->close();
+    EXPECT_GE(Now_Seconds() - begin, 2.0 / Test_Pace);
+    EXPECT_LT(Now_Seconds() - begin, 3);
+    Forget_Program_Exit();
 }
 
 TEST_F(Serial_Port_Writing, The_Encoding_Decides_What_Goes_Out)

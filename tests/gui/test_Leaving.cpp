@@ -34,6 +34,25 @@ protected:
         Click("_sent_btn");
     }
 
+    /// Sends, and asks to leave while the window still can be closed. The user says yes when it is time.
+    void Leave_By_The_Question_When(const std::function<bool()>& is_time)
+    {
+        user.Will_Leave_It_Open();
+        m_leave = [] {
+            const auto windows = QApplication::topLevelWidgets();
+            for (auto* window : windows) {
+                if (auto* box = qobject_cast<QMessageBox*>(window))
+                    box->defaultButton()->click();
+            }
+        };
+        Leave_When([&] { return is_time() && A_Box_Is_Open(); },
+                   [this] {
+                       Press_Send();
+                       m_program->Delegate().close();
+                   });
+        m_leave = [this] { m_program->Leave(); };
+    }
+
     void Open_Wizard()
     {
         user.When_Opens(QStringLiteral("Connection_Info"), [](QWidget& window) { Click_In(window, "Continue_Btn"); });
@@ -152,20 +171,28 @@ TEST_F(Leaving, With_The_Stop_Question_Open)
 TEST_F(Leaving, By_The_Close_Button_Between_Send_And_The_Progress_Window)
 {
     Set_Pace(5);
-    user.Will_Leave_It_Open();
-    m_leave = [] {
-        const auto windows = QApplication::topLevelWidgets();
-        for (auto* window : windows) {
-            if (auto* box = qobject_cast<QMessageBox*>(window))
-                box->defaultButton()->click();
-        }
-    };
-    Leave_When([] { return Is_Shown("Send_Modeless")() && A_Box_Is_Open(); },
-               [this] {
-                   Press_Send();
-                   m_program->Delegate().close();
-               });
+    Leave_By_The_Question_When(Is_Shown("Send_Modeless"));
     EXPECT_THAT(user.Was_Shown(), ElementsAre(QStringLiteral("\nDo you really want to exit from 'Corvane'?")));
+}
+
+// The phone has shown its prompt and takes whatever comes for the message, the questions of the next start as well.
+TEST_F(Leaving, At_The_Prompt_Leaves_A_Phone_That_Answers_The_Next_Start)
+{
+    const auto* stop = Send_Modeless::defaultInstance()->findChild<QPushButton*>(QStringLiteral("_stop_btn"));
+    Leave_By_The_Question_When([&] {
+        if (stop->isEnabled())
+            Set_Pace(1); // time to answer while the job waits for the prompt
+        const auto heard = m_phone.Heard();
+        return !heard.empty() && heard.back().find("AT+CMGS=") == 0;
+    });
+    EXPECT_THAT(m_phone.Inbox(), IsEmpty());
+    Forget_Program_Exit();
+    Set_Pace(10);
+    Start();
+    user.Will_Leave_It_Open();
+    Leave_When(A_Box_Is_Open, [this] { Press_Send(); });
+    EXPECT_EQ(user.Was_Shown().last().toStdString(), Box::Completed);
+    EXPECT_EQ(m_phone.Inbox().size(), 3U);
 }
 
 TEST_F(Leaving, With_The_Connection_Screen_Open)

@@ -1,0 +1,7 @@
+#pragma once
+
+#include <functional>
+
+/// Waits as Wait_Seconds_Unless does, but the program's exit does not end it: for the little that leaving itself has to
+/// wait for.
+void Wait_Seconds_Also_In_Leaving(double seconds, const std::function<bool()>& is_over);
