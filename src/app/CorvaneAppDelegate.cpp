@@ -336,6 +336,13 @@ void CorvaneAppDelegate::Hide_Destroy_Modeless()
     m_please_wait->End_Sheet();
 }
 
+// The please-wait sheet, until what this returns has gone, whichever way that is.
+std::shared_ptr<void> CorvaneAppDelegate::Please_Wait()
+{
+    Show_Create_Modeless();
+    return {this, [this](void*) { Hide_Destroy_Modeless(); }};
+}
+
 void CorvaneAppDelegate::Focus(Field field)
 {
     switch (field) {

@@ -133,6 +133,7 @@ private:
     void Give_Tables_Their_Models();
     void Show_Device_In_Ticker();
     void Remember_Composer_Text();
+    std::shared_ptr<void> Please_Wait();
     void Remove_All_Recipients();
     void Show_Exclusion_Trouble(const QString& text);
     void Show_List_Count(int count);

@@ -160,14 +160,15 @@ void CorvaneAppDelegate::Clear_Sel_Btn()
         Tell_And_Focus(Text_None_Selected, Field::Recipient_Table);
         return;
     }
-    Show_Create_Modeless();
-    Recipient_List list = nsListDataObject; // the table shows the present one until this one is whole
-    Run_On_Worker([&] { list.Remove_Rows(rows); });
-    std::swap(nsListDataObject, list);
-    Reload_And_Select_First(*m_ui->idTableView, *m_recipient_rows);
-    Update_List_Count();
-    Let_Go_Of(list);
-    Hide_Destroy_Modeless();
+    {
+        const auto sheet = Please_Wait();
+        Recipient_List list = nsListDataObject; // the table shows the present one until this one is whole
+        Run_On_Worker([&] { list.Remove_Rows(rows); });
+        std::swap(nsListDataObject, list);
+        Reload_And_Select_First(*m_ui->idTableView, *m_recipient_rows);
+        Update_List_Count();
+        Let_Go_Of(list);
+    }
     if (nsListDataObject.Count() == 0) {
         m_ui->_numberEdit->clear();
         Focus(Field::Number);
@@ -190,14 +191,10 @@ void CorvaneAppDelegate::Clear_All_Btn()
     }
     if (!Show_YES_NO_MessageBox(Text_Clear_All))
         return;
-    Show_Create_Modeless();
-    Recipient_List list = std::exchange(nsListDataObject, Recipient_List());
-    Redisplay_Recipients();
-    Update_List_Count();
+    const auto sheet = Please_Wait();
+    Remove_All_Recipients();
     m_ui->_numberEdit->clear();
     Focus(Field::Number);
-    Let_Go_Of(list);
-    Hide_Destroy_Modeless();
 }
 
 void CorvaneAppDelegate::Reset_Btn()
@@ -345,7 +342,7 @@ void CorvaneAppDelegate::Export_Btn()
     const auto path = Ask_For_File_To_Save(this, QStringLiteral("txt"));
     if (!path)
         return;
-    Show_Create_Modeless();
+    auto sheet = Please_Wait();
     Export_File_Path = With_Extension(*path, QStringLiteral("txt"));
     bool is_written = false;
     try {
@@ -354,7 +351,7 @@ void CorvaneAppDelegate::Export_Btn()
     } catch (const std::exception& failure) {
         Show_NSLog_Message(QString::fromLocal8Bit(failure.what()));
     }
-    Hide_Destroy_Modeless();
+    sheet.reset();
     if (!is_written) {
         Show_MessageBox(Text_File_Error);
         return;

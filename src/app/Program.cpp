@@ -9,6 +9,7 @@
 #include "app/shared/Window_Look.h"
 #include "device/Device_Paths.h"
 #include "platform/Asked_For_Focus.h"
+#include "platform/Guarded_Application.h"
 #include "platform/Interface_Thread.h"
 #include "platform/Single_Start.h"
 #include "platform/System_Log.h"
@@ -20,6 +21,9 @@
 #include <cstdio>
 
 namespace {
+
+constexpr char Something_Broke[] =
+    "The last action has ended early because of an unexpected error. Please look what has been done, and try again.";
 
 void Bring_Up(QWidget& window)
 {
@@ -43,6 +47,7 @@ Program::Program(Command_Line command_line, Single_Start* single_start)
 {
     Apply_Application_Look(*qApp);
     Pass_Over_Asked_For_Focus();
+    Guarded_Application::When_Something_Breaks([] { Show_MessageBox(tr(Something_Broke)); });
     // The toolkit's file panels would keep a file of where the user has been, and wait for its lock when a start that
     // was killed has left it. No file can be in such a place.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));

@@ -1,10 +1,10 @@
 #include "app/Command_Line.h"
 #include "app/Program.h"
 #include "app/shared/Data_Paths.h"
+#include "platform/Guarded_Application.h"
 #include "platform/Pace.h"
 #include "platform/Single_Start.h"
 
-#include <QApplication>
 #include <QFileInfo>
 #include <cstdio>
 
@@ -55,7 +55,7 @@ int main(int argc, char** argv)
         return Say_And_End(QStringLiteral("corvane: the program is running already, but does not answer."), 1);
     }
 
-    QApplication application(argc, argv);
+    Guarded_Application application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("corvane"));
     QApplication::setApplicationDisplayName(QStringLiteral("Corvane"));
     QApplication::setApplicationVersion(QStringLiteral(CORVANE_VERSION));

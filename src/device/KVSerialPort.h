@@ -179,7 +179,8 @@ public:
     void waitForInput(QObject* target, std::function<void()> selector);
 
     void setDelegate(KVSerialPortDelegate* delegate);
-    /// Starts one background read when the delegate wants its data; the delegate starts the next.
+    /// Starts one background read when the delegate wants its data; the delegate starts the next. Where the system
+    /// refuses a thread for it, the next write or read tries again.
     void readDataInBackground();
     void stopReadInBackground();
     void writeDataInBackground(const QByteArray& data);
@@ -206,6 +207,7 @@ private:
     ssize_t Put_Bytes(const Line& line, const char* bytes, size_t size);
     void Await_Answer_Until(double moment);
 
+    void Start_Missing_Reader();
     void Read_In_Background();
     bool Wait_For_Background_Data(const Line& line, QByteArray& data);
     void Deliver_Read(const QByteArray& data);
@@ -247,5 +249,6 @@ private:
     std::atomic<bool> m_stop_write_in_background{false};
     std::atomic<int> m_background_writers{0};
     std::atomic<bool> m_stop_read_in_background{false};
+    std::atomic<bool> m_reader_is_missing{false}; // for want of a thread
     std::atomic<int> m_background_readers{0};
 };

@@ -3,6 +3,7 @@
 #include "device/Bounded_Write.h"
 #include "device/KVSerialPort_Line.h"
 #include "platform/Interface_Thread.h"
+#include "platform/Thread_Shortage.h"
 
 #include <QCoreApplication>
 #include <QPointer>
@@ -30,10 +31,19 @@ void KVSerialPort::readDataInBackground()
             return;
     }
     ++m_background_readers;
-    Start_Worker("port reader", [self = shared_from_this()] {
-        self->Read_In_Background();
-        --self->m_background_readers;
-    });
+    if (Start_Worker_If_Possible("port reader", [self = shared_from_this()] {
+            self->Read_In_Background();
+            --self->m_background_readers;
+        }))
+        return;
+    --m_background_readers;
+    m_reader_is_missing = true;
+}
+
+void KVSerialPort::Start_Missing_Reader()
+{
+    if (m_reader_is_missing.exchange(false))
+        readDataInBackground();
 }
 
 void KVSerialPort::stopReadInBackground()
@@ -105,7 +115,7 @@ void KVSerialPort::Deliver_Read(const QByteArray& data)
 
 void KVSerialPort::waitForInput(QObject* target, std::function<void()> selector)
 {
-    Start_Worker("port input", [self = shared_from_this(), target = QPointer<QObject>(target), selector] {
+    Start_Worker_If_Possible("port input", [self = shared_from_this(), target = QPointer<QObject>(target), selector] {
         const auto line = self->Present_Line();
         if (!line || self->m_calls.Wait(line->Descriptor(), POLLIN, -1, line->Is_Over()) != Line_Event::Ready)
             return;

@@ -20,10 +20,13 @@ std::shared_ptr<const KVSerialPort::Line> KVSerialPort::Present_Line()
 // looks at the clock itself.
 void KVSerialPort::Await_Answer_Until(double moment)
 {
-    const std::lock_guard guard(m_line_lock);
-    m_answer_awaited_until = moment;
-    if (moment <= 0)
-        eventfd_write(m_background_event, 1);
+    {
+        const std::lock_guard guard(m_line_lock);
+        m_answer_awaited_until = moment;
+        if (moment <= 0)
+            eventfd_write(m_background_event, 1);
+    }
+    Start_Missing_Reader();
 }
 
 // The only place that takes bytes off the line. EAGAIN: none for this caller now, since the line was found ready

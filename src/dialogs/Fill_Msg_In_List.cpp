@@ -84,13 +84,13 @@ void Fill_Msg_In_List::OKPressed()
     const Fill_Rules::Choice choice = Choice();
     if (!Is_Meant(choice))
         return;
-    Show_Create_Modeless();
+    auto sheet = Please_Wait(*this);
     const QString message = Message_IS;
     const auto selected_rows = choice == Choice::Selected ? m_window->Selected_Recipient_Rows() : std::vector<int>();
     Change_Recipients(*m_window, [&](Recipient_List& recipients) {
         recipients.Set_Messages(Fill_Rules::Rows_To_Fill(recipients, choice, selected_rows), message);
     });
-    Hide_Destroy_Modeless();
+    sheet.reset();
     End_With(1);
 }
 

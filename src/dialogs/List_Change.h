@@ -3,6 +3,7 @@
 #include "app/shared/Recipient_List.h"
 
 #include <functional>
+#include <memory>
 
 class Main_Window;
 class QDialog;
@@ -15,3 +16,11 @@ void Change_Recipients(Main_Window& window, const std::function<void(Recipient_L
 
 /// Runs a dialog over the main window until it ends, and returns its code; not at all, with 0, once the program exits.
 int Run_Over(Main_Window& window, QDialog& dialog);
+
+/// The please-wait sheet of a dialog, until what this returns has gone, whichever way that is.
+template <typename Dialog>
+std::shared_ptr<void> Please_Wait(Dialog& dialog)
+{
+    dialog.Show_Create_Modeless();
+    return {&dialog, [&dialog](void* /*unused*/) { dialog.Hide_Destroy_Modeless(); }};
+}

@@ -58,13 +58,13 @@ void Send_Msg_Info::Fill_To_Blank_Pressed()
 
 void Send_Msg_Info::OKPressed()
 {
-    Show_Create_Modeless();
+    auto sheet = Please_Wait(*this);
     const auto choice = m_ui->_fill_msg_blank->isChecked() ? Fill_Rules::Choice::Blank : Fill_Rules::Choice::All;
     const QString message = Message_IS;
     Change_Recipients(*m_window, [&](Recipient_List& recipients) {
         recipients.Set_Messages(Fill_Rules::Rows_To_Fill(recipients, choice, {}), message);
     });
-    Hide_Destroy_Modeless();
+    sheet.reset();
     End_With(Filled);
 }
 

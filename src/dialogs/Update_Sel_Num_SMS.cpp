@@ -12,6 +12,7 @@
 #include "platform/Input_Hold.h"
 #include "platform/Interface_Thread.h"
 #include "platform/Row_Table_Model.h"
+#include "platform/Thread_Shortage.h"
 #include "platform/Waiting.h"
 #include "ui_Update_Sel_Num_SMS.h"
 
@@ -143,14 +144,13 @@ void Update_Sel_Num_SMS::End_Load()
     m_rows->Reload();
     m_input_hold.reset();
     m_is_loading = false;
-    m_is_loading.notify_all();
     if (m_is_left)
         CancelPressed();
 }
 
 void Update_Sel_Num_SMS::Wait_For_Load()
 {
-    Run_On_Worker([this] { m_is_loading.wait(true); });
+    Await_Worker([this] { return !m_is_loading; });
 }
 
 int Update_Sel_Num_SMS::numberOfRowsInTableView() const
@@ -176,13 +176,13 @@ void Update_Sel_Num_SMS::OKPressed()
     }
     if (!Show_YES_NO_MessageBox(QLatin1String(Question)))
         return;
-    Show_Create_Modeless();
+    auto sheet = Please_Wait(*this);
     const auto selected_rows = m_window->Selected_Recipient_Rows();
     Change_Recipients(*m_window, [&](Recipient_List& recipients) {
         recipients.Set_Messages(Fill_Rules::Rows_To_Fill(recipients, Fill_Rules::Choice::Selected, selected_rows),
                                 message);
     });
-    Hide_Destroy_Modeless();
+    sheet.reset();
     End_With(1);
 }
 

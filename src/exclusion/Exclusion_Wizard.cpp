@@ -18,6 +18,7 @@
 #include "platform/Input_Hold.h"
 #include "platform/Interface_Thread.h"
 #include "platform/Row_Table_Model.h"
+#include "platform/Thread_Shortage.h"
 #include "ui_Exclusion_Wizard.h"
 
 #include <QCloseEvent>
@@ -170,10 +171,7 @@ void Exclusion_Wizard::Start_Loading()
     *m_is_loading = true;
     m_input_hold = std::make_unique<Input_Hold>(this);
     Start_Worker("load exclusion", [this, is_loading = m_is_loading] {
-        const std::shared_ptr<void> counted_out(nullptr, [&](void*) {
-            *is_loading = false;
-            is_loading->notify_all();
-        });
+        const std::shared_ptr<void> counted_out(nullptr, [&](void*) { *is_loading = false; });
         Load_Thread();
     });
 }
@@ -211,7 +209,8 @@ void Exclusion_Wizard::LoadItems()
 void Exclusion_Wizard::End_Run()
 {
     m_is_over = 1;
-    Run_On_Worker([this] { m_is_loading->wait(true); });
+    if (*m_is_loading)
+        Await_Worker([is_loading = m_is_loading] { return !*is_loading; });
     m_input_hold.reset();
     plz_wait_Window->End_Sheet();
 }

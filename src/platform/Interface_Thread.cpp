@@ -1,6 +1,7 @@
 #include "platform/Interface_Thread.h"
 
 #include "platform/System_Log.h"
+#include "platform/Thread_Shortage.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -15,12 +16,14 @@
 #include <memory>
 #include <mutex>
 #include <pthread.h>
+#include <system_error>
 #include <thread>
 
 namespace {
 
 struct Worker
 {
+    std::function<void()> work;
     std::thread thread;
     std::atomic<bool> has_ended{false};
 };
@@ -137,6 +140,48 @@ void Do_The_Work(const std::function<void()>& work)
     }
 }
 
+// No thread is given back where the system refuses one. What is to run on it must not be lost by that.
+std::thread Thread_For(const char* name, void (*run)(void*), void* what)
+{
+    try {
+        return std::thread(run, what);
+    } catch (const std::system_error& refusal) {
+        Write_System_Log(QStringLiteral("No thread for ") + QLatin1String(name) + QStringLiteral(": ") +
+                         QString::fromLocal8Bit(refusal.what()));
+        return {};
+    }
+}
+
+void Run_Worker(void* what)
+{
+    auto* worker = static_cast<Worker*>(what);
+    Do_The_Work(worker->work);
+    worker->work = nullptr; // what the work holds is let go before it counts as ended
+    worker->has_ended = true;
+    Wake_Interface_Thread();
+}
+
+void Join_Ended_Workers();
+
+// Takes the work only where there is a thread for it.
+bool Hand_To_Worker(const char* name, std::function<void()>& work)
+{
+    Join_Ended_Workers();
+    auto& workers = The_Register();
+    const std::lock_guard guard(workers.lock);
+    workers.workers.push_back(std::make_shared<Worker>());
+    auto& worker = *workers.workers.back();
+    worker.work.swap(work);
+    worker.thread = Thread_For(name, Run_Worker, &worker);
+    if (worker.thread.joinable()) {
+        pthread_setname_np(worker.thread.native_handle(), name);
+        return true;
+    }
+    worker.work.swap(work);
+    workers.workers.pop_back();
+    return false;
+}
+
 void Serve_Until(const std::atomic<bool>& is_done, QEventLoop::ProcessEventsFlags flags)
 {
     Wake_Interface_Thread();
@@ -214,7 +259,7 @@ void Run_On_Worker(const std::function<void()>& work, User_Input input)
     }
     std::atomic<bool> is_done{false};
     std::exception_ptr failure;
-    std::thread worker([&] {
+    std::function<void()> to_do = [&] {
         try {
             work();
         } catch (...) {
@@ -222,7 +267,13 @@ void Run_On_Worker(const std::function<void()>& work, User_Input input)
         }
         is_done = true;
         Wake_Interface_Thread();
-    });
+    };
+    std::thread worker = Thread_For(
+        "work behind a window", [](void* what) { (*static_cast<std::function<void()>*>(what))(); }, &to_do);
+    if (!worker.joinable()) {
+        work();
+        return;
+    }
     Serve_Until(is_done, input == User_Input::Served ? QEventLoop::AllEvents : QEventLoop::ExcludeUserInputEvents);
     worker.join();
     if (failure)
@@ -231,18 +282,21 @@ void Run_On_Worker(const std::function<void()>& work, User_Input input)
 
 void Start_Worker(const char* name, std::function<void()> work)
 {
-    Join_Ended_Workers();
-    auto worker = std::make_shared<Worker>();
-    auto& workers = The_Register();
-    const std::lock_guard guard(workers.lock);
-    worker->thread = std::thread([worker = worker.get(), work = std::move(work)]() mutable {
+    if (!Hand_To_Worker(name, work))
         Do_The_Work(work);
-        work = nullptr; // what the work holds is let go before it counts as ended
-        worker->has_ended = true;
-        Wake_Interface_Thread();
-    });
-    pthread_setname_np(worker->thread.native_handle(), name);
-    workers.workers.push_back(std::move(worker));
+}
+
+bool Start_Worker_If_Possible(const char* name, std::function<void()> work)
+{
+    return Hand_To_Worker(name, work);
+}
+
+void Await_Worker(const std::function<bool()>& has_ended)
+{
+    Wake_Interface_Thread();
+    while (!has_ended())
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
+    Wake_Interface_Thread();
 }
 
 int Workers_Running()

@@ -14,6 +14,7 @@
 #include <string>
 #include <string_view>
 #include <syslog.h>
+#include <system_error>
 #include <thread>
 #include <unistd.h>
 #include <utility>
@@ -54,8 +55,7 @@ public:
     Log_Writer()
     {
         openlog("corvane", LOG_PID, LOG_USER);
-        m_thread = std::thread([this] { Write_Lines(); });
-        pthread_setname_np(m_thread.native_handle(), "log");
+        Start_Thread();
     }
 
     void Put(QStringView line)
@@ -73,6 +73,8 @@ public:
                 m_lines.append(printable.constData(), static_cast<std::size_t>(printable.size()) + 1); // and its "\0"
             }
             ++m_waiting;
+            if (!m_thread.joinable())
+                Start_Thread();
         }
         if (is_first)
             m_changed.notify_one();
@@ -81,6 +83,8 @@ public:
     void Flush()
     {
         std::unique_lock guard(m_lock);
+        if (!m_thread.joinable())
+            Start_Thread();
         m_written.wait_for(guard, std::chrono::seconds(1), [this] { return m_waiting == 0; });
     }
 
@@ -94,6 +98,10 @@ public:
         m_is_ending = true;
         guard.unlock();
         m_changed.notify_one();
+        if (!m_thread.joinable()) {
+            Write_Batch(m_lines, isatty(STDERR_FILENO) == 1);
+            return;
+        }
         if (is_stuck)
             m_thread.detach();
         else
@@ -101,6 +109,16 @@ public:
     }
 
 private:
+    // Where the system refuses a thread the lines wait, and the next line tries again.
+    void Start_Thread()
+    {
+        try {
+            m_thread = std::thread([this] { Write_Lines(); });
+            pthread_setname_np(m_thread.native_handle(), "log");
+        } catch (const std::system_error&) { // NOLINT(bugprone-empty-catch): there is nobody to tell
+        }
+    }
+
     void Write_Lines()
     {
         const bool has_terminal = isatty(STDERR_FILENO) == 1;

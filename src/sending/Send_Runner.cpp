@@ -3,28 +3,58 @@
 #include "app/basics/Log_Line.h"
 #include "app/shared/Globals.h"
 #include "app/shared/Main_Window.h"
+#include "app/shared/Message_Boxes.h"
 #include "platform/Interface_Thread.h"
+#include "platform/Thread_Shortage.h"
 #include "sending/Send_Job.h"
 
 #include <exception>
 #include <memory>
+
+namespace {
+
+// Nothing is described for these two: a job that breaks says so all the same.
+const QString& Not_Started_Text()
+{
+    static const auto text = QStringLiteral("The messages could not be sent, because the computer is too busy to start "
+                                            "another task. Please close other programs and try again.");
+    return text;
+}
+
+const QString& Broken_Off_Text()
+{
+    static const auto text = QStringLiteral("Sending has ended early because of an unexpected error. The sent items "
+                                            "show which messages were sent.");
+    return text;
+}
+
+} // namespace
 
 // The right to send. It is taken at the press and not by the thread that the press starts, so that two quick presses
 // start one job; it is given back, with the main window's input, wherever it ends.
 class Send_Runner::Claim
 {
 public:
-    explicit Claim(Main_Window& window) : m_window(window) { m_window.Hold_Input(); }
+    explicit Claim(Main_Window& window) : m_window(window)
+    {
+        int idle = 0;
+        m_is_mine = sms_thread_var.compare_exchange_strong(idle, 1);
+    }
     ~Claim()
     {
+        if (!m_is_mine)
+            return;
         Run_On_Interface_Thread([this] { m_window.Release_Input(); });
         sms_thread_var = 0;
     }
+    bool Is_Mine() const { return m_is_mine; }
+    void Hold_Input() { m_window.Hold_Input(); }
     Claim(const Claim&) = delete;
     Claim& operator=(const Claim&) = delete;
 
 private:
     Main_Window& m_window;
+    bool m_is_mine = false;
 };
 
 Send_Runner::Send_Runner(Main_Window& window, MFCSMS& session, Send_Progress& progress)
@@ -34,19 +64,22 @@ Send_Runner::Send_Runner(Main_Window& window, MFCSMS& session, Send_Progress& pr
 
 void Send_Runner::Send_SMS_Btn()
 {
-    int idle = 0;
-    if (!sms_thread_var.compare_exchange_strong(idle, 1))
+    auto claim = std::make_shared<Claim>(m_window);
+    if (!claim->Is_Mine())
         return;
-    const auto claim = std::make_shared<Claim>(m_window);
-    try {
-        Start_Worker("send job", [this, claim] { Send_SMS_Thread(); });
-    } catch (const std::exception& failure) {
-        Show_NSLog_Message(QStringLiteral("The send job could not be started: ") +
-                           QString::fromLocal8Bit(failure.what()));
-    }
+    claim->Hold_Input();
+    const bool is_started = Start_Worker_If_Possible("send job", [this, claim] { Send_SMS_Thread(); });
+    claim.reset();
+    if (!is_started)
+        Show_MessageBox(Not_Started_Text());
 }
 
 void Send_Runner::Send_SMS_Thread()
 {
-    Send_Job(m_window, m_session, m_progress).Send_SMS_Func();
+    try {
+        Send_Job(m_window, m_session, m_progress).Send_SMS_Func();
+    } catch (const std::exception& failure) {
+        Show_NSLog_Message(QStringLiteral("The send job ended early: ") + QString::fromLocal8Bit(failure.what()));
+        Show_MessageBox(Broken_Off_Text());
+    }
 }

@@ -11,6 +11,7 @@
 #include "platform/Input_Hold.h"
 #include "platform/Interface_Thread.h"
 #include "platform/Row_Table_Model.h"
+#include "platform/Thread_Shortage.h"
 #include "platform/Waiting.h"
 #include "stores/Export_Format.h"
 #include "stores/Export_Option.h"
@@ -117,10 +118,7 @@ void List_Window::Begin_Load()
     m_input_hold = std::make_unique<Input_Hold>(this);
     *m_is_load_running = true;
     Start_Worker("load list", [this, is_running = m_is_load_running] {
-        const std::shared_ptr<void> ended(nullptr, [&](void*) {
-            *is_running = false;
-            is_running->notify_all();
-        });
+        const std::shared_ptr<void> ended(nullptr, [&](void*) { *is_running = false; });
         Load_Thread();
     });
 }
@@ -153,7 +151,7 @@ void List_Window::End_Load()
 void List_Window::Await_Load()
 {
     if (*m_is_load_running)
-        Run_On_Worker([is_running = m_is_load_running] { is_running->wait(true); });
+        Await_Worker([is_running = m_is_load_running] { return !*is_running; });
 }
 
 void List_Window::Begin_Anew()

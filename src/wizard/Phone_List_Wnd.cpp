@@ -12,6 +12,7 @@
 #include "platform/Input_Hold.h"
 #include "platform/Interface_Thread.h"
 #include "platform/Row_Table_Model.h"
+#include "platform/Thread_Shortage.h"
 #include "platform/Waiting.h"
 #include "ui_Phone_List_Wnd.h"
 #include "wizard/Custom_Smsc_Rules.h"
@@ -145,10 +146,21 @@ void Phone_List_Wnd::Find_Ph_List()
 {
     Run_On_Interface_Thread([this] { Empty_For_Search(); });
     Run_On_Worker([this] {
-        const std::lock_guard turn(m_device_turn);
+        const auto turn = Device_Turn();
         Search_Phones(mfc_sms_obj, *this);
     });
     Run_On_Interface_Thread([this] { m_ui->idPortList->verticalScrollBar()->setValue(0); });
+}
+
+// Whoever has the device may be in need of the interface thread: that one serves while it waits for its turn.
+std::unique_lock<std::mutex> Phone_List_Wnd::Device_Turn()
+{
+    std::unique_lock turn(m_device_turn, std::defer_lock);
+    if (Is_Interface_Thread())
+        Await_Worker([&turn] { return turn.try_lock(); });
+    else
+        turn.lock();
+    return turn;
 }
 
 void Phone_List_Wnd::Empty_For_Search()
@@ -235,7 +247,7 @@ void Phone_List_Wnd::Empty_Details()
 
 void Phone_List_Wnd::Find_Ph_Value_Thread()
 {
-    const std::lock_guard turn(m_device_turn);
+    const auto turn = Device_Turn();
     Run_On_Interface_Thread([] { Cus_SMS_Num_STR.clear(); });
     QString fault;
     {
@@ -352,7 +364,7 @@ bool Phone_List_Wnd::Check_Picked_Device(const QString& path)
     bool is_fit = false;
     Run_On_Worker(
         [&] {
-            const std::lock_guard turn(m_device_turn);
+            const auto turn = Device_Turn();
             is_fit = Phone_Probe(mfc_sms_obj, *this).Check_For_Sending(path, centre);
         },
         User_Input::Served);
@@ -379,10 +391,7 @@ void Phone_List_Wnd::Start_Own_Worker(const char* name, Step work)
 {
     ++*m_own_workers;
     Start_Worker(name, [this, work, own_workers = m_own_workers] {
-        const std::shared_ptr<void> counted_out(nullptr, [&](void*) {
-            --*own_workers;
-            own_workers->notify_all();
-        });
+        const std::shared_ptr<void> counted_out(nullptr, [&](void*) { --*own_workers; });
         (this->*work)();
     });
 }
@@ -390,11 +399,8 @@ void Phone_List_Wnd::Start_Own_Worker(const char* name, Step work)
 // Nothing is left running behind a closed window, and nothing open. The workers are served while they are waited for.
 void Phone_List_Wnd::End_Run()
 {
-    Run_On_Worker([this] {
-        for (int running = *m_own_workers; running > 0; running = *m_own_workers)
-            m_own_workers->wait(running);
-        Phone_Probe::Let_Go_Of_Port(mfc_sms_obj);
-    });
+    Await_Worker([own_workers = m_own_workers] { return *own_workers == 0; });
+    Run_On_Worker([this] { Phone_Probe::Let_Go_Of_Port(mfc_sms_obj); });
     port.Close();
     m_input_hold.reset();
     plz_wait_Window->End_Sheet();

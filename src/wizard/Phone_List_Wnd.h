@@ -85,6 +85,7 @@ private:
     bool Check_Picked_Device(const QString& path);
 
     void Start_Own_Worker(const char* name, Step work);
+    std::unique_lock<std::mutex> Device_Turn();
     void End_Run();
 
     const std::unique_ptr<Ui::Phone_List_Wnd> m_ui;
@@ -98,7 +99,6 @@ private:
     std::unique_ptr<Input_Hold> m_input_hold; // from a click on a row until the sheet stands over the window
     bool m_is_selecting = false;
     bool m_is_searching_shown = false;
-    std::mutex
-        m_device_turn; // one search, probe or check at a time has the session; never taken by the interface thread
+    std::mutex m_device_turn;                        // one search, probe or check at a time has the session
     std::shared_ptr<std::atomic<int>> m_own_workers; // outlives the window in the worker that counts itself out
 };

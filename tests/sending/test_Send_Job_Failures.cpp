@@ -227,7 +227,7 @@ TEST_F(Send_Failure_Test, An_Exception_In_Text_Mode_Counts_As_Handled)
     EXPECT_EQ(m_user.Was_Shown(), QStringList{Completed});
 }
 
-TEST_F(Send_Failure_Test, An_Exception_Outside_A_Submission_Leaves_Everything_Tidy)
+TEST_F(Send_Failure_Test, An_Exception_Outside_A_Submission_Is_Told_And_Leaves_Everything_Tidy)
 {
     std::mutex lock;
     QStringList lines;
@@ -237,11 +237,14 @@ TEST_F(Send_Failure_Test, An_Exception_Outside_A_Submission_Leaves_Everything_Ti
     });
     for (const char* command : {"AT\r\n", "AT+CMGF=?", "AT+CSMS=0"}) {
         Before_Write(command, 1, Raise);
+        m_user.Will_Press("OK");
         Send();
     }
     Set_Log_Listener({});
-    EXPECT_EQ(lines.count(QStringLiteral("A worker ended early: the line broke")), 3);
-    EXPECT_EQ(m_user.Was_Shown(), QStringList{});
+    EXPECT_EQ(lines.count(QStringLiteral("The send job ended early: the line broke")), 3);
+    EXPECT_EQ(m_user.Was_Shown(),
+              QStringList(3, QStringLiteral("\nSending has ended early because of an unexpected error. The sent items "
+                                            "show which messages were sent.")));
 }
 
 } // namespace

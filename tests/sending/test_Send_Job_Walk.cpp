@@ -243,8 +243,9 @@ std::vector<Send_Job_Walk::Way_Out> Send_Job_Walk::Ways_Out()
          "4 / 4 222"},
         {"an exception while preparing",
          [](Walk& walk) { walk.Before_Write("AT+CSMS=0", 1, Raise); },
-         {},
-         {},
+         {"OK"},
+         {QStringLiteral("\nSending has ended early because of an unexpected error. The sent items show which messages "
+                         "were sent.")},
          {},
          "timer on"},
         {"the offer taken",

@@ -1,8 +1,8 @@
+#include "platform/Guarded_Application.h"
 #include "platform/Interface_Thread.h"
 #include "platform/Waiting.h"
 #include "support/User.h"
 
-#include <QApplication>
 #include <QTemporaryDir>
 #include <cstdio>
 #include <gmock/gmock.h>
@@ -36,7 +36,7 @@ int main(int argument_count, char** arguments)
     }
     qputenv("XDG_DATA_HOME", data_home.path().toUtf8());
 
-    QApplication application(argument_count, arguments);
+    Guarded_Application application(argument_count, arguments);
     QApplication::setQuitOnLastWindowClosed(false);
     Fail_On_Boxes_Without_A_User();
     const int result = RUN_ALL_TESTS();

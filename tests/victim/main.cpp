@@ -1,7 +1,7 @@
 #include "app/shared/Window_Look.h"
+#include "platform/Guarded_Application.h"
 #include "victim/Steps.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QWidget>
 #include <cstdio>
@@ -96,7 +96,7 @@ int main(int argument_count, char** arguments)
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     qInstallMessageHandler(Print_What_Is_Serious);
-    QApplication application(argument_count, arguments);
+    Guarded_Application application(argument_count, arguments);
     QApplication::setApplicationName(QStringLiteral("corvane"));
     Apply_Application_Look(application);
     QWidget().ensurePolished(); // so that every child finds the fonts read
