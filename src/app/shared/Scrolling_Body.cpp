@@ -29,8 +29,8 @@ void Move_First_Row(QBoxLayout& from, QBoxLayout& to)
     const int stretch = from.stretch(0);
     QLayoutItem* row = from.takeAt(0);
     if (QWidget* widget = row->widget()) {
+        delete row; // before the next item: a widget lets only one at a time know that its size has changed
         to.addWidget(widget, stretch);
-        delete row;
     } else if (QLayout* layout = row->layout()) {
         to.addLayout(layout, stretch);
     } else {
