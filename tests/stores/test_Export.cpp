@@ -244,17 +244,22 @@ TEST_F(Export_Test, A_File_That_Nothing_Opens_Is_Told_Of_In_The_Dialog_Which_Clo
         {[](QWidget& dialog) { dialog.close(); }, 0},
     };
     m_desktop.Has_No_Program();
+    QSize size;
     for (const auto& [leave, code] : ways_out) {
-        m_user.When_Opens("Open_Export_Log", [leave = leave](QWidget& dialog) {
+        m_user.When_Opens("Open_Export_Log", [&size, leave = leave](QWidget& dialog) {
             const auto& box = In<QCheckBox>(dialog, "Open_File_Chk");
             const auto& notice = In<QLabel>(dialog, "_notice");
             EXPECT_TRUE(box.isChecked());
             EXPECT_FALSE(notice.isVisible());
+            if (size.isEmpty())
+                size = dialog.size();
+            EXPECT_EQ(dialog.size(), size) << "no room is left of the last line";
             Click_In(dialog, "OKPressed");
             EXPECT_TRUE(dialog.isVisible());
             EXPECT_FALSE(box.isChecked());
             EXPECT_TRUE(notice.isVisible());
             EXPECT_TRUE(notice.text().startsWith(QStringLiteral("The file could not be opened")));
+            EXPECT_TRUE(Serve_Until([&] { return dialog.height() > size.height(); })) << "the line has its own room";
             leave(dialog);
             EXPECT_FALSE(dialog.isVisible());
         });
