@@ -1,5 +1,7 @@
 #include "platform/Folders_And_Files.h"
 
+#include "platform/Descriptor.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -7,7 +9,6 @@
 #include <cstdio>
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace {
 
@@ -37,12 +38,11 @@ bool Make_Folder_If_Missing(const QString& path, unsigned permissions)
 bool Make_Empty_File_If_Missing(const QString& path, unsigned permissions)
 {
     // O_EXCL: a file that another start makes at the same moment is never emptied.
-    const int descriptor =
-        open(QFile::encodeName(path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, permissions);
-    if (descriptor < 0)
+    Descriptor file(open(QFile::encodeName(path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, permissions));
+    if (!file.Is_Open())
         return QFileInfo(path).isFile();
-    const bool is_done = Are_Set_Or_Not_To_Be_Had(fchmod(descriptor, permissions));
-    return close(descriptor) == 0 && is_done;
+    const bool is_done = Are_Set_Or_Not_To_Be_Had(fchmod(file.Number(), permissions));
+    return file.Close() && is_done;
 }
 
 bool Move_Beside(const QString& path, const QString& name)

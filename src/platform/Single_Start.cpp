@@ -35,25 +35,18 @@ sockaddr_un Socket_Address(int folder)
     return address;
 }
 
-void Close(int& descriptor)
-{
-    if (descriptor >= 0)
-        close(descriptor);
-    descriptor = -1;
-}
-
-int New_Socket()
+Descriptor New_Socket()
 {
     // Never blocks: not in connect either, when the queue of a program that hangs is full.
-    return socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+    return Descriptor(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
 }
 
 // Gives a lock back in words, because a child that is just being started may hold the open file for a moment longer.
-void Give_Back(int& descriptor)
+void Give_Back(Descriptor& locked)
 {
-    if (descriptor >= 0)
-        flock(descriptor, LOCK_UN);
-    Close(descriptor);
+    if (locked.Is_Open())
+        flock(locked.Number(), LOCK_UN);
+    locked.Close();
 }
 
 void Log_Failure(const char* what)
@@ -62,9 +55,9 @@ void Log_Failure(const char* what)
 }
 
 // Takes the lock unless another program has it.
-bool Is_Taken_By_Another(int descriptor)
+bool Is_Taken_By_Another(const Descriptor& lock)
 {
-    if (descriptor < 0 || flock(descriptor, LOCK_EX | LOCK_NB) == 0)
+    if (!lock.Is_Open() || flock(lock.Number(), LOCK_EX | LOCK_NB) == 0)
         return false;
     if (errno == EWOULDBLOCK)
         return true;
@@ -80,7 +73,7 @@ Single_Start::~Single_Start()
 {
     Stop_Listening();
     Give_Back(m_lock_file);
-    Give_Back(m_folder_descriptor);
+    Give_Back(m_open_folder);
 }
 
 Single_Start::Outcome Single_Start::Begin(double patience)
@@ -108,15 +101,15 @@ bool Single_Start::Open_Folder()
     if (!Make_Folder_If_Missing(m_folder, Only_The_User))
         return false;
     Set_Permissions(m_folder, Only_The_User);
-    m_folder_descriptor = open(QFile::encodeName(m_folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    return m_folder_descriptor >= 0;
+    m_open_folder = Descriptor(open(QFile::encodeName(m_folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    return m_open_folder.Is_Open();
 }
 
 void Single_Start::Open_Lock_File()
 {
     constexpr int flags = O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY;
-    m_lock_file = openat(m_folder_descriptor, Lock_Name, O_RDWR | O_CREAT | flags, 0600);
-    if (m_lock_file < 0)
+    m_lock_file = Descriptor(openat(m_open_folder.Number(), Lock_Name, O_RDWR | O_CREAT | flags, 0600));
+    if (!m_lock_file.Is_Open())
         Log_Failure("no lock file"); // the folder's own lock is left
 }
 
@@ -124,77 +117,78 @@ void Single_Start::Open_Lock_File()
 // must not keep the program from starting.
 bool Single_Start::Take_Locks()
 {
-    if (Is_Taken_By_Another(m_folder_descriptor))
+    if (Is_Taken_By_Another(m_open_folder))
         return false;
     if (!Is_Taken_By_Another(m_lock_file))
         return true;
-    flock(m_folder_descriptor, LOCK_UN);
+    flock(m_open_folder.Number(), LOCK_UN);
     return false;
 }
 
 bool Single_Start::Is_Alone() const
 {
     // To take a lock again that one has is granted.
-    const int locks[] = {m_folder_descriptor, m_lock_file};
-    return std::all_of(std::begin(locks), std::end(locks),
-                       [](int lock) { return lock >= 0 && flock(lock, LOCK_EX | LOCK_NB) == 0; });
+    const Descriptor* locks[] = {&m_open_folder, &m_lock_file};
+    return std::all_of(std::begin(locks), std::end(locks), [](const Descriptor* lock) {
+        return lock->Is_Open() && flock(lock->Number(), LOCK_EX | LOCK_NB) == 0;
+    });
 }
 
 void Single_Start::Listen()
 {
-    const sockaddr_un address = Socket_Address(m_folder_descriptor);
+    const sockaddr_un address = Socket_Address(m_open_folder.Number());
     m_listener = New_Socket();
     // Whoever holds the lock owns the socket's name: what stands there was left by a program that was killed.
-    unlinkat(m_folder_descriptor, Socket_Name, 0);
-    if (m_listener >= 0 && fchmod(m_listener, 0600) == 0 &&
-        bind(m_listener, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0 &&
-        listen(m_listener, Longest_Queue) == 0)
+    unlinkat(m_open_folder.Number(), Socket_Name, 0);
+    if (m_listener.Is_Open() && fchmod(m_listener.Number(), 0600) == 0 &&
+        bind(m_listener.Number(), reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0 &&
+        listen(m_listener.Number(), Longest_Queue) == 0)
         return;
     Log_Failure("no socket"); // the lock alone keeps further starts away
-    Close(m_listener);
+    m_listener.Close();
 }
 
 // Returns whether the program that holds the lock has answered. Waits for that until end, but not for a program that
 // does not listen.
 bool Single_Start::Ask_The_First(double end)
 {
-    const sockaddr_un address = Socket_Address(m_folder_descriptor);
-    int question = New_Socket();
+    const sockaddr_un address = Socket_Address(m_open_folder.Number());
+    const Descriptor question = New_Socket();
     bool is_answered = false;
-    if (question >= 0 && connect(question, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0) {
-        Wait_For_Descriptor(question, POLLIN, std::max(0.0, end - Now_Seconds()));
+    if (question.Is_Open() &&
+        connect(question.Number(), reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0) {
+        Wait_For_Descriptor(question.Number(), POLLIN, std::max(0.0, end - Now_Seconds()));
         char answer = 0;
-        is_answered = recv(question, &answer, 1, 0) == 1;
+        is_answered = recv(question.Number(), &answer, 1, 0) == 1;
     }
-    Close(question);
     return is_answered;
 }
 
 void Single_Start::When_Asked(std::function<void()> come_to_the_front)
 {
     m_come_to_the_front = std::move(come_to_the_front);
-    if (m_listener < 0)
+    if (!m_listener.Is_Open())
         return;
-    m_notifier = std::make_unique<QSocketNotifier>(m_listener, QSocketNotifier::Read);
+    m_notifier = std::make_unique<QSocketNotifier>(m_listener.Number(), QSocketNotifier::Read);
     QObject::connect(m_notifier.get(), &QSocketNotifier::activated, m_notifier.get(), [this] { Answer(); });
 }
 
 void Single_Start::Answer()
 {
-    int asking = accept4(m_listener, nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK);
-    if (asking < 0)
+    Descriptor asking(accept4(m_listener.Number(), nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK));
+    if (!asking.Is_Open())
         return;
     // Answered first: what is asked of the window system may take its time. Nothing is read from whoever asks.
-    send(asking, "!", 1, MSG_NOSIGNAL);
-    Close(asking);
+    send(asking.Number(), "!", 1, MSG_NOSIGNAL);
+    asking.Close();
     m_come_to_the_front();
 }
 
 void Single_Start::Stop_Listening()
 {
     m_notifier.reset();
-    if (m_listener < 0)
+    if (!m_listener.Is_Open())
         return;
-    unlinkat(m_folder_descriptor, Socket_Name, 0);
-    Close(m_listener);
+    unlinkat(m_open_folder.Number(), Socket_Name, 0);
+    m_listener.Close();
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Descriptor.h"
+
 #include <QByteArray>
 #include <QString>
 #include <functional>
@@ -52,9 +54,9 @@ private:
     void Answer();
 
     QString m_folder;
-    int m_folder_descriptor = -1;
-    int m_lock_file = -1;
-    int m_listener = -1;
+    Descriptor m_open_folder;
+    Descriptor m_lock_file;
+    Descriptor m_listener;
     std::unique_ptr<QSocketNotifier> m_notifier;
     std::function<void()> m_come_to_the_front;
 };

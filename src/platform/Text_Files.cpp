@@ -1,6 +1,7 @@
 #include "platform/Text_Files.h"
 
-#include <QDir>
+#include "platform/Descriptor.h"
+
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
@@ -8,13 +9,9 @@
 #include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
-#include <map>
-#include <memory>
-#include <mutex>
 #include <new>
 #include <sys/stat.h>
 #include <unistd.h>
-#include <utility>
 
 namespace {
 
@@ -31,41 +28,10 @@ QByteArray Native_Name(const QString& path)
     return path.contains(QChar::Null) ? QByteArray() : QFile::encodeName(path);
 }
 
-/// The system's answer to a call that a signal may have cut off.
-template <typename Call>
-auto Uninterrupted(Call call)
+Descriptor Open(const QByteArray& name, int flags, mode_t permissions = 0)
 {
-    auto result = call();
-    while (result == -1 && errno == EINTR)
-        result = call();
-    return result;
+    return Descriptor(Uninterrupted([&] { return open(name.constData(), flags | Open_Flags, permissions); }));
 }
-
-/// An open file, closed when it goes out of scope.
-class Descriptor
-{
-public:
-    Descriptor(const QByteArray& name, int flags, mode_t permissions = 0)
-        : m_descriptor(Uninterrupted([&] { return open(name.constData(), flags | Open_Flags, permissions); }))
-    {
-    }
-    ~Descriptor() { Close(); }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-
-    bool Is_Open() const { return m_descriptor >= 0; }
-    int Number() const { return m_descriptor; }
-
-    /// Never tried twice: whatever close() says, the number may already be another file's.
-    bool Close()
-    {
-        const int descriptor = std::exchange(m_descriptor, -1);
-        return descriptor < 0 || close(descriptor) == 0;
-    }
-
-private:
-    int m_descriptor;
-};
 
 /// The size of the regular file that is open; nothing for whatever else a path can lead to.
 std::optional<off_t> Regular_Size(const Descriptor& file)
@@ -118,7 +84,7 @@ bool Give_Permissions(const Descriptor& file)
 bool Write_Replacement(const QByteArray& name, const QByteArray& bytes)
 {
     unlink(name.constData()); // left by a replacement that was killed
-    Descriptor file(name, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, Data_File_Permissions);
+    Descriptor file = Open(name, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, Data_File_Permissions);
     return file.Is_Open() && Give_Permissions(file) && Write_All(file, bytes) && Sync(file) && file.Close();
 }
 
@@ -138,7 +104,7 @@ public:
         if (!Can_Be_Left_Half_Done(size, bytes))
             return;
         m_name = Native_Name(Append_Note_Path(path));
-        Descriptor file(m_name, O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW, 0600);
+        Descriptor file = Open(m_name, O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW, 0600);
         if (!Regular_Size(file) || !Write_All(file, QByteArray::number(qint64{size}) + '\n' + bytes))
             Remove();
     }
@@ -167,7 +133,7 @@ public:
             return false;
         if (added->isEmpty() || added->size() == bytes.size() || !bytes.startsWith(*added))
             return true;
-        return Cut(Descriptor(Native_Name(path), O_WRONLY), size);
+        return Cut(Open(Native_Name(path), O_WRONLY), size);
     }
 
 private:
@@ -175,7 +141,7 @@ private:
     /// the file is there and can not be read.
     static std::optional<QByteArray> Read_From(const QString& path, off_t first, qsizetype at_most)
     {
-        const Descriptor file(Native_Name(path), O_RDONLY);
+        const Descriptor file = Open(Native_Name(path), O_RDONLY);
         if (!file.Is_Open() && errno == ENOENT)
             return QByteArray();
         if (!Regular_Size(file) || lseek(file.Number(), first, SEEK_SET) != first)
@@ -189,71 +155,14 @@ private:
     QByteArray m_name;
 };
 
-/// One name for a file, whichever way its folder is written. The file itself may be missing.
-QString Lock_Key(const QString& path)
-{
-    if (path.contains(QChar::Null))
-        return path; // no file can have this name
-    const QFileInfo file(path);
-    const QString folder = QFileInfo(file.absolutePath()).canonicalFilePath();
-    return (folder.isEmpty() ? QDir::cleanPath(file.absolutePath()) : folder) + QLatin1Char('/') + file.fileName();
-}
-
 } // namespace
-
-/// One file's mutex, and the list of all that somebody holds or waits for.
-struct File_Lock::Entry
-{
-    std::recursive_mutex mutex;
-    int users = 0;
-
-    static Entry* Of(const QString& key)
-    {
-        const std::lock_guard guard(All_Mutex());
-        std::unique_ptr<Entry>& entry = All()[key];
-        if (!entry)
-            entry = std::make_unique<Entry>();
-        ++entry->users;
-        return entry.get();
-    }
-
-    static void Let_Go(const Entry* entry)
-    {
-        const std::lock_guard guard(All_Mutex());
-        std::erase_if(All(), [&](auto& each) { return each.second.get() == entry && --each.second->users == 0; });
-    }
-
-private:
-    static std::mutex& All_Mutex()
-    {
-        static std::mutex mutex;
-        return mutex;
-    }
-
-    static std::map<QString, std::unique_ptr<Entry>>& All()
-    {
-        static std::map<QString, std::unique_ptr<Entry>> entries;
-        return entries;
-    }
-};
-
-File_Lock::File_Lock(const QString& path) : m_entry(Entry::Of(Lock_Key(path)))
-{
-    m_entry->mutex.lock();
-}
-
-File_Lock::~File_Lock()
-{
-    m_entry->mutex.unlock();
-    Entry::Let_Go(m_entry);
-}
 
 std::optional<QByteArray> Read_File(const QString& path)
 {
     const QByteArray name = Native_Name(path);
     if (!Is_Regular_Or_Missing(name))
         return std::nullopt;
-    const Descriptor file(name, O_RDONLY);
+    const Descriptor file = Open(name, O_RDONLY);
     const std::optional<off_t> size = Regular_Size(file);
     if (!size || *size > Largest_Read)
         return std::nullopt;
@@ -307,7 +216,7 @@ bool Append_To_File(const QString& path, const QByteArray& bytes)
     if (!Is_Regular_Or_Missing(name))
         return false;
     const bool is_new = access(name.constData(), F_OK) != 0 && errno == ENOENT;
-    Descriptor file(name, O_WRONLY | O_APPEND | O_CREAT, Data_File_Permissions);
+    Descriptor file = Open(name, O_WRONLY | O_APPEND | O_CREAT, Data_File_Permissions);
     const std::optional<off_t> size = Regular_Size(file);
     if (!size || (is_new && !Give_Permissions(file)))
         return false;
@@ -316,7 +225,7 @@ bool Append_To_File(const QString& path, const QByteArray& bytes)
     bool is_whole = is_written || Cut(file, *size);
     const bool is_closed = file.Close();
     if (is_written && !is_closed)
-        is_whole = Cut(Descriptor(name, O_WRONLY), *size); // a file on a server may refuse its bytes as late as this
+        is_whole = Cut(Open(name, O_WRONLY), *size); // a file on a server may refuse its bytes as late as this
     if (is_whole)
         note.Remove();
     return is_written && is_closed;
@@ -334,7 +243,7 @@ bool Replace_File(const QString& path, const QByteArray& bytes)
         return false;
     }
     // The new file stands from here on, whether or not its folder can be synced.
-    const Descriptor folder(Native_Name(QFileInfo(path).path()), O_RDONLY | O_DIRECTORY);
+    const Descriptor folder = Open(Native_Name(QFileInfo(path).path()), O_RDONLY | O_DIRECTORY);
     if (folder.Is_Open())
         Sync(folder);
     return true;
@@ -400,7 +309,7 @@ bool Write_File_In_Pieces(const QString& path, const std::function<std::optional
     if (!Is_Regular_Or_Missing(name))
         return false;
     // Emptied only when it is known to be a file.
-    Descriptor file(name, O_WRONLY | O_CREAT, 0666);
+    Descriptor file = Open(name, O_WRONLY | O_CREAT, 0666);
     if (!Regular_Size(file) || !Cut(file, 0))
         return false;
     while (const std::optional<QByteArray> piece = next_piece()) {

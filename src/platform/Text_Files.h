@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/File_Lock.h"
+
 #include <QByteArray>
 #include <QString>
 #include <functional>
@@ -7,21 +9,6 @@
 
 // Reading, appending to and replacing files of text, in a way that a crash, a full disk or a kill leaves no half of
 // anything behind. May be called from any thread.
-
-/// Holds a file's lock for as long as it lives: whoever loads, appends to or rewrites a data file does it under the
-/// lock of that path. One lock a path for the whole process; a thread that holds it may take it again.
-class File_Lock
-{
-public:
-    explicit File_Lock(const QString& path);
-    ~File_Lock();
-    File_Lock(const File_Lock&) = delete;
-    File_Lock& operator=(const File_Lock&) = delete;
-
-private:
-    struct Entry;
-    Entry* m_entry;
-};
 
 /// The whole of a regular file, up to where it ends while it is read. Nothing when it is missing, is no regular file (a
 /// folder, a pipe, a device: those never end), is larger than 2 GiB or can not be read. Opening disturbs no pipe or
