@@ -1,13 +1,13 @@
 #include "Measured_Program.h"
 
-#include "app/shared/Globals.h"
-#include "app/shared/Shared_Instance.h"
-#include "app/shared/Window_Look.h"
-#include "exclusion/Exclusion_Files.h"
+#include "device/Stop_Flag.h"
 #include "platform/Interface_Thread.h"
 #include "platform/Pace.h"
 #include "platform/Text_Files.h"
 #include "platform/Waiting.h"
+#include "records/Exclusion_Files.h"
+#include "toolkit/Shared_Instance.h"
+#include "toolkit/Window_Look.h"
 
 #include <QCheckBox>
 #include <QFile>

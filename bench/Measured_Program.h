@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/CorvaneAppDelegate.h"
+#include "windows/main/CorvaneAppDelegate.h"
 
 #include <QApplication>
 #include <QTimer>

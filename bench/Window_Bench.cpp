@@ -4,10 +4,10 @@
 #include "Measured_Program.h"
 #include "app/Command_Line.h"
 #include "app/Program.h"
-#include "app/shared/Data_Paths.h"
 #include "platform/Single_Start.h"
 #include "platform/Waiting.h"
-#include "stores/Sent_Items.h"
+#include "records/Data_Paths.h"
+#include "windows/stores/Sent_Items.h"
 
 #include <QFileInfo>
 #include <QItemSelectionModel>

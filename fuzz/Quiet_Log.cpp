@@ -1,5 +1,5 @@
-#include "app/basics/Log_Line.h"
 #include "fuzz/Fuzz_Input.h"
+#include "platform/Log_Line.h"
 #include "platform/System_Log.h"
 
 // Stands in for the program's log: what would be logged is brought into its printable form, checked and dropped.

@@ -1,8 +1,8 @@
-#include "app/basics/String_Helpers.h"
+#include "engine/Composer_Rules.h"
+#include "engine/Delayed_Delivery.h"
 #include "fuzz/Fuzz_Input.h"
 #include "platform/Pace.h"
-#include "sending/Composer_Rules.h"
-#include "sending/Delayed_Delivery.h"
+#include "platform/String_Helpers.h"
 
 #include <cmath>
 

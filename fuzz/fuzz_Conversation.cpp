@@ -1,7 +1,7 @@
-#include "app/shared/Number_Rules.h"
 #include "device/MFCSMS.h"
 #include "fuzz/Fuzz_Input.h"
 #include "fuzz/Scripted_Line.h"
+#include "list/Number_Rules.h"
 #include "phone/Phone_Mind.h"
 
 #include <algorithm>

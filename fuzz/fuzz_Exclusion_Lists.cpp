@@ -1,9 +1,9 @@
-#include "app/shared/Globals.h"
-#include "app/shared/Number_Rules.h"
-#include "exclusion/Exclusion_Files.h"
-#include "exclusion/Exclusion_Rules.h"
 #include "fuzz/Fuzz_Input.h"
+#include "list/Exclusion_Rules.h"
+#include "list/Number_Rules.h"
 #include "platform/Text_Files.h"
+#include "records/Data_Paths.h"
+#include "records/Exclusion_Files.h"
 
 #include <QTemporaryDir>
 

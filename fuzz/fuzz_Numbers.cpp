@@ -1,11 +1,11 @@
-#include "app/Number_Acceptance.h"
-#include "app/Number_Import.h"
-#include "app/shared/Number_Rules.h"
-#include "dialogs/Edited_Number.h"
-#include "exclusion/Exclusion_Rules.h"
-#include "exclusion/Number_File.h"
 #include "fuzz/Fuzz_Input.h"
-#include "wizard/Custom_Smsc_Rules.h"
+#include "list/Custom_Smsc_Rules.h"
+#include "list/Edited_Number.h"
+#include "list/Exclusion_Rules.h"
+#include "list/Number_Acceptance.h"
+#include "list/Number_File.h"
+#include "list/Number_Import.h"
+#include "list/Number_Rules.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 #include "fuzz/Fuzz_Input.h"
 #include "platform/Text_Files.h"
-#include "stores/Sent_Item_Format.h"
-#include "stores/Sent_Item_List.h"
-#include "stores/Stored_Text.h"
+#include "records/Sent_Item_Format.h"
+#include "records/Sent_Item_List.h"
+#include "records/Stored_Text.h"
 
 namespace {
 

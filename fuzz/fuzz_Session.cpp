@@ -1,8 +1,8 @@
-#include "app/shared/Number_Rules.h"
 #include "device/MFCSMS.h"
 #include "fuzz/Fuzz_Input.h"
 #include "fuzz/Scripted_Line.h"
-#include "wizard/Custom_Smsc_Rules.h"
+#include "list/Custom_Smsc_Rules.h"
+#include "list/Number_Rules.h"
 
 #include <algorithm>
 #include <utility>

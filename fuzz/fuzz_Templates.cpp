@@ -1,7 +1,7 @@
 #include "fuzz/Fuzz_Input.h"
 #include "platform/Text_Files.h"
-#include "stores/Stored_Text.h"
-#include "stores/Template_Format.h"
+#include "records/Stored_Text.h"
+#include "records/Template_Format.h"
 
 namespace {
 

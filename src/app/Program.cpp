@@ -1,20 +1,20 @@
 #include "app/Program.h"
 
-#include "app/CorvaneAppDelegate.h"
 #include "app/Demo_Phone.h"
-#include "app/shared/Data_Paths.h"
-#include "app/shared/Globals.h"
-#include "app/shared/Message_Boxes.h"
-#include "app/shared/Shared_Instance.h"
-#include "app/shared/Window_Look.h"
 #include "device/Device_Paths.h"
-#include "platform/Asked_For_Focus.h"
-#include "platform/Guarded_Application.h"
+#include "device/Stop_Flag.h"
 #include "platform/Interface_Thread.h"
 #include "platform/Single_Start.h"
 #include "platform/System_Log.h"
 #include "platform/Text_Files.h"
 #include "platform/Waiting.h"
+#include "records/Data_Paths.h"
+#include "toolkit/Asked_For_Focus.h"
+#include "toolkit/Guarded_Application.h"
+#include "toolkit/Message_Boxes.h"
+#include "toolkit/Shared_Instance.h"
+#include "toolkit/Window_Look.h"
+#include "windows/main/CorvaneAppDelegate.h"
 
 #include <QApplication>
 #include <QSettings>

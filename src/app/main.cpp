@@ -1,9 +1,9 @@
 #include "app/Command_Line.h"
 #include "app/Program.h"
-#include "app/shared/Data_Paths.h"
-#include "platform/Guarded_Application.h"
 #include "platform/Pace.h"
 #include "platform/Single_Start.h"
+#include "records/Data_Paths.h"
+#include "toolkit/Guarded_Application.h"
 
 #include <QFileInfo>
 #include <cstdio>

@@ -1,7 +1,7 @@
 #include "device/Answer_Cleaning.h"
 
-#include "app/basics/String_Helpers.h"
 #include "pdu/PDU.h"
+#include "platform/String_Helpers.h"
 
 #include <algorithm>
 #include <limits>

@@ -1,6 +1,6 @@
 #include "device/Device_Log.h"
 
-#include "app/basics/Log_Line.h"
+#include "platform/Log_Line.h"
 
 #include <QFile>
 #include <system_error>

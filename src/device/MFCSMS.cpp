@@ -1,8 +1,8 @@
 #include "device/MFCSMS.h"
 
-#include "app/basics/Log_Line.h"
-#include "app/basics/String_Helpers.h"
 #include "device/Printable_Text.h"
+#include "platform/Log_Line.h"
+#include "platform/String_Helpers.h"
 
 std::atomic<MFCSMS*> mfc_sms_instance{nullptr};
 

@@ -1,10 +1,10 @@
-#include "app/basics/Log_Line.h"
 #include "device/Bounded_Write.h"
 #include "device/Device_Log.h"
 #include "device/Driver_Requests.h"
 #include "device/Line_Speeds.h"
 #include "device/MFCSMS.h"
 #include "device/Non_Blocking_Transfer.h"
+#include "platform/Log_Line.h"
 
 #include <cerrno>
 #include <fcntl.h>

@@ -1,6 +1,6 @@
-#include "app/basics/Log_Line.h"
 #include "device/Device_Log.h"
 #include "device/MFCSMS.h"
+#include "platform/Log_Line.h"
 
 #include <QFile>
 #include <cerrno>

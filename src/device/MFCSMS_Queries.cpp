@@ -1,8 +1,8 @@
-#include "app/basics/Log_Line.h"
-#include "app/basics/String_Helpers.h"
 #include "device/Answer_Cleaning.h"
 #include "device/MFCSMS.h"
 #include "device/Submission_Steps.h"
+#include "platform/Log_Line.h"
+#include "platform/String_Helpers.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
-#include "app/basics/Log_Line.h"
-#include "app/basics/String_Helpers.h"
 #include "device/MFCSMS.h"
 #include "device/Stop_Flag.h"
 #include "device/Submission_Rules.h"
 #include "device/Submission_Steps.h"
 #include "pdu/PDU.h"
+#include "platform/Log_Line.h"
+#include "platform/String_Helpers.h"
 
 namespace {
 

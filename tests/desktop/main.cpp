@@ -1,8 +1,8 @@
 #include "desktop/Desktop.h"
-#include "platform/Asked_For_Focus.h"
 #include "platform/Interface_Thread.h"
 #include "platform/Waiting.h"
 #include "support/User.h"
+#include "toolkit/Asked_For_Focus.h"
 
 #include <QApplication>
 #include <cstdio>

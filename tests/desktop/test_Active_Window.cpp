@@ -1,12 +1,11 @@
-#include "app/shared/Globals.h"
-#include "app/shared/Message_Boxes.h"
-#include "app/shared/PleaseWait_Modeless.h"
-#include "app/shared/Shared_Instance.h"
-#include "sending/Send_Modeless.h"
-#include "stores/Dialog_Over.h"
 #include "support/Serve_Until.h"
 #include "support/User.h"
 #include "support/Window_For_Tests.h"
+#include "toolkit/Dialog_Over.h"
+#include "toolkit/Message_Boxes.h"
+#include "toolkit/PleaseWait_Modeless.h"
+#include "toolkit/Shared_Instance.h"
+#include "windows/main/Send_Modeless.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -114,7 +113,7 @@ TEST_F(Active_Window, Comes_Back_After_The_Progress_Window)
     field.show();
     field.setFocus();
     for (int opening = 0; opening < Openings(); ++opening) {
-        progress.Begin_Preparing(m_window, 1);
+        progress.Begin_Preparing(1);
         progress.Begin_Sending();
         progress.End();
         ASSERT_TRUE(Is_Active_Again(m_window)) << "opening " << opening;

@@ -1,4 +1,5 @@
 #include "device/Device_Test.h"
+#include "device/Stop_Flag.h"
 
 #include <thread>
 

@@ -1,6 +1,9 @@
 #pragma once
 
 #include "app/Program.h"
+#include "device/Chosen_Device.h"
+#include "doctor/Phone_Search.h"
+#include "engine/Job_State.h"
 #include "gui/Sending_Program.h"
 #include "platform/Waiting.h"
 

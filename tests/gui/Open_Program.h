@@ -1,13 +1,13 @@
 #pragma once
 
-#include "app/CorvaneAppDelegate.h"
-#include "app/shared/Globals.h"
-#include "app/shared/Shared_Instance.h"
-#include "app/shared/Window_Look.h"
+#include "device/Stop_Flag.h"
 #include "platform/Interface_Thread.h"
 #include "platform/Pace.h"
 #include "support/Serve_Until.h"
 #include "support/User.h"
+#include "toolkit/Shared_Instance.h"
+#include "toolkit/Window_Look.h"
+#include "windows/main/CorvaneAppDelegate.h"
 
 #include <QApplication>
 #include <QCheckBox>

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "app/shared/Data_Paths.h"
+#include "device/Chosen_Device.h"
 #include "gui/Leaving_Program.h"
+#include "records/Data_Paths.h"
 
 #include <QFile>
 #include <QFileDialog>

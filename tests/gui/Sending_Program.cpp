@@ -1,9 +1,13 @@
 #include "gui/Sending_Program.h"
 
-#include "app/shared/Plain_Text_Edit.h"
-#include "sending/Send_Modeless.h"
+#include "device/Chosen_Device.h"
+#include "device/Stop_Flag.h"
+#include "doctor/Phone_Search.h"
+#include "engine/Job_State.h"
 #include "support/Patient_Calls.h"
-#include "wizard/Phone_List_Wnd.h"
+#include "toolkit/Plain_Text_Edit.h"
+#include "windows/main/Send_Modeless.h"
+#include "windows/phone/Phone_List_Wnd.h"
 
 #include <QClipboard>
 #include <QDir>

@@ -1,5 +1,5 @@
-#include "app/Contact_Export.h"
 #include "gui/Open_Program.h"
+#include "records/Contact_Export.h"
 #include "support/Opened_Files.h"
 
 #include <QDesktopServices>

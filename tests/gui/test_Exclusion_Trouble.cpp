@@ -1,7 +1,8 @@
-#include "app/Exclusion_Trouble.h"
-#include "exclusion/Exclusion_Files.h"
-#include "exclusion/Exclusion_Wizard.h"
 #include "gui/Sending_Program.h"
+#include "records/Data_Paths.h"
+#include "records/Exclusion_Files.h"
+#include "records/Exclusion_Trouble.h"
+#include "windows/exclusion/Exclusion_Wizard.h"
 
 #include <QFile>
 

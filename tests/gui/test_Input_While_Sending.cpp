@@ -1,5 +1,6 @@
+#include "engine/Job_State.h"
 #include "gui/Sending_Program.h"
-#include "sending/Send_Modeless.h"
+#include "windows/main/Send_Modeless.h"
 
 #include <QWindow>
 

@@ -1,6 +1,7 @@
+#include "device/Chosen_Device.h"
 #include "gui/Leaving_Program.h"
-#include "sending/Send_Modeless.h"
-#include "wizard/Phone_List_Wnd.h"
+#include "windows/main/Send_Modeless.h"
+#include "windows/phone/Phone_List_Wnd.h"
 
 #include <QMessageBox>
 
@@ -37,7 +38,7 @@ protected:
     /// Sends, and asks to leave while the window still can be closed. The user says yes when it is time.
     void Leave_By_The_Question_When(const std::function<bool()>& is_time)
     {
-        user.Will_Leave_It_Open();
+        user.Will_Leave_The_Others_Open();
         m_leave = [] {
             const auto windows = QApplication::topLevelWidgets();
             for (auto* window : windows) {

@@ -1,5 +1,7 @@
-#include "exclusion/Exclusion_Wizard.h"
+#include "device/Chosen_Device.h"
+#include "engine/Job_State.h"
 #include "gui/Leaving_Program.h"
+#include "windows/exclusion/Exclusion_Wizard.h"
 
 #include <QFile>
 #include <QFileDialog>

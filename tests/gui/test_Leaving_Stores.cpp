@@ -1,5 +1,6 @@
 #include "gui/Leaving_Program.h"
 #include "platform/Text_Files.h"
+#include "records/Data_Paths.h"
 
 #include <QFile>
 #include <QFileDialog>

@@ -1,12 +1,12 @@
-#include "app/shared/Data_Paths.h"
-#include "app/shared/Message_Boxes.h"
-#include "exclusion/Exclusion_Files.h"
 #include "gui/Sending_Program.h"
-#include "sending/Send_Modeless.h"
-#include "stores/Sent_Item_Store.h"
-#include "stores/Template_Store.h"
+#include "records/Data_Paths.h"
+#include "records/Exclusion_Files.h"
+#include "records/Sent_Item_Store.h"
+#include "records/Template_Store.h"
 #include "support/Opened_Files.h"
-#include "wizard/Phone_List_Wnd.h"
+#include "toolkit/Message_Boxes.h"
+#include "windows/main/Send_Modeless.h"
+#include "windows/phone/Phone_List_Wnd.h"
 
 #include <QDesktopServices>
 #include <QFile>

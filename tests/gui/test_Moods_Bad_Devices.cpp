@@ -1,3 +1,5 @@
+#include "device/Chosen_Device.h"
+#include "engine/Job_State.h"
 #include "gui/Sending_Program.h"
 
 #include <QMessageBox>

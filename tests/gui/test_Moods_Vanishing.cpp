@@ -1,6 +1,8 @@
+#include "device/Chosen_Device.h"
+#include "engine/Job_State.h"
 #include "gui/Sending_Program.h"
 
-#include "sending/Send_Modeless.h"
+#include "windows/main/Send_Modeless.h"
 
 // A phone whose cable is pulled, at every step of a job and of a visit to the wizard. Each command line heard is a
 // step; whatever the phone answered to it is lost with the line.

@@ -1,3 +1,4 @@
+#include "device/Chosen_Device.h"
 #include "gui/Sending_Program.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
-#include "app/Load_Num_Info.h"
-#include "app/Number_Import.h"
-#include "app/shared/Number_Rules.h"
 #include "gui/Open_Program.h"
+#include "list/Number_Import.h"
+#include "list/Number_Rules.h"
 #include "platform/Waiting.h"
+#include "windows/main/Load_Num_Info.h"
 
 #include <QFile>
 #include <QFileDialog>

@@ -1,9 +1,9 @@
-#include "app/shared/Data_Paths.h"
-#include "exclusion/Exclusion_Files.h"
 #include "gui/Open_Program.h"
 #include "platform/Folders_And_Files.h"
-#include "stores/Sent_Item_Store.h"
-#include "stores/Template_Store.h"
+#include "records/Data_Paths.h"
+#include "records/Exclusion_Files.h"
+#include "records/Sent_Item_Store.h"
+#include "records/Template_Store.h"
 #include "support/Opened_Files.h"
 
 #include <QDesktopServices>

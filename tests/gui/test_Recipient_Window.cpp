@@ -1,7 +1,7 @@
-#include "app/Hyperlink.h"
-#include "app/List_Cells.h"
-#include "app/shared/List_Tables.h"
 #include "gui/Open_Program.h"
+#include "toolkit/List_Tables.h"
+#include "windows/main/Hyperlink.h"
+#include "windows/main/List_Cells.h"
 
 #include <QHeaderView>
 

@@ -1,9 +1,12 @@
-#include "app/shared/Data_Paths.h"
-#include "exclusion/Exclusion_Files.h"
+#include "device/Chosen_Device.h"
+#include "doctor/Phone_Search.h"
+#include "engine/Job_State.h"
 #include "gui/Sending_Program.h"
 #include "platform/Text_Files.h"
+#include "records/Data_Paths.h"
+#include "records/Exclusion_Files.h"
 #include "support/Refused_Threads.h"
-#include "wizard/Phone_List_Wnd.h"
+#include "windows/phone/Phone_List_Wnd.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -32,7 +35,7 @@ protected:
                 const Refused_Threads refused(first, later);
                 work();
                 asked_for = std::min(Most, refused.Asked_For());
-                EXPECT_EQ(Workers_Running(), 0);
+                Await_Workers(); // one that has done its work may still be on its way out
                 Expect_That_All_Is_Quiet();
             }
         }

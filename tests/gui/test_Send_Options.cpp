@@ -1,4 +1,6 @@
+#include "device/Chosen_Device.h"
 #include "gui/Open_Program.h"
+#include "records/Data_Paths.h"
 
 #include <QFile>
 #include <QTimer>

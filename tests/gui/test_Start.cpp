@@ -1,6 +1,7 @@
-#include "app/shared/Data_Paths.h"
 #include "gui/Open_Program.h"
 #include "platform/Waiting.h"
+#include "records/Data_Paths.h"
+#include "toolkit/Main_Window.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,7 +1,8 @@
 #include "gui/Open_Program.h"
 #include "platform/Text_Files.h"
-#include "stores/Store_Globals.h"
-#include "stores/Templates.h"
+#include "records/Data_Paths.h"
+#include "windows/stores/Store_Globals.h"
+#include "windows/stores/Templates.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 #include "app/Program.h"
-#include "app/shared/Data_Paths.h"
 #include "gui/Open_Program.h"
 #include "platform/Single_Start.h"
 #include "platform/Waiting.h"
+#include "records/Data_Paths.h"
 
 #include <QDir>
 #include <QDirIterator>

@@ -1,7 +1,8 @@
+#include "engine/Job_State.h"
 #include "gui/Open_Program.h"
 #include "platform/Waiting.h"
-#include "sending/Long_SMS_Dlg.h"
 #include "support/Typist.h"
+#include "windows/main/Long_SMS_Dlg.h"
 
 #include <QClipboard>
 #include <QMessageBox>

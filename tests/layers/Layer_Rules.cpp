@@ -29,7 +29,9 @@ const Room* Find_Room(const std::string& folder)
 
 std::string Library_Of(const std::string& folder)
 {
-    return "corvane_" + folder.substr(folder.rfind('/') + 1);
+    std::string name = "corvane_" + folder;
+    std::replace(name.begin(), name.end(), '/', '_');
+    return name;
 }
 
 // What a build makes of a file beside the one that includes it: ui_Name.h of Name.ui, Name.moc of Name.cpp.
@@ -182,8 +184,8 @@ const std::vector<Door>& Doors()
           "gettimeofday", "clock_gettime"},
          "src/platform/Waiting."},
         {Calls_Free_Function, {"time"}, "src/platform/Waiting."},
-        {Names, {"QMessageBox"}, "src/app/shared/Message_Boxes.cpp"},
-        {Names, {"QFileDialog"}, "src/app/shared/File_Panels.cpp"},
+        {Names, {"QMessageBox"}, "src/toolkit/Message_Boxes.cpp"},
+        {Names, {"QFileDialog"}, "src/toolkit/File_Panels.cpp"},
     };
     return Table;
 }
@@ -193,20 +195,22 @@ const std::vector<Door>& Doors()
 const std::vector<Room>& Rooms()
 {
     static const std::vector<Room> Table{
-        {"platform", {}},
-        {"app/basics", {"platform"}},
-        {"pdu", {}},
-        {"device", {"platform", "app/basics", "pdu"}},
-        {"app/shared", {"platform", "app/basics", "pdu", "device"}},
-        {"exclusion", {"platform", "app/basics", "pdu", "device", "app/shared"}},
-        {"stores", {"platform", "app/basics", "pdu", "device", "app/shared", "exclusion"}},
-        {"dialogs", {"platform", "app/basics", "pdu", "device", "app/shared", "exclusion", "stores"}},
-        {"wizard", {"platform", "app/basics", "pdu", "device", "app/shared", "exclusion", "stores", "dialogs"}},
-        {"sending",
-         {"platform", "app/basics", "pdu", "device", "app/shared", "exclusion", "stores", "dialogs", "wizard"}},
-        {"app",
-         {"platform", "app/basics", "pdu", "device", "app/shared", "exclusion", "stores", "dialogs", "wizard",
-          "sending"}},
+        {"platform", {}, Room::Core},
+        {"pdu", {}, Room::Core},
+        {"list", {"platform"}, Room::Core},
+        {"records", {"platform", "list"}, Room::Core},
+        {"device", {"platform", "pdu"}, Room::Core},
+        {"engine", {"platform", "list", "records", "device"}, Room::Core},
+        {"doctor", {"platform", "device"}, Room::Core},
+        {"toolkit", {"platform", "list", "engine"}},
+        {"windows/list", {"platform", "list", "engine", "toolkit"}},
+        {"windows/stores", {"platform", "records", "toolkit"}},
+        {"windows/exclusion", {"platform", "list", "records", "toolkit"}},
+        {"windows/phone", {"platform", "list", "device", "doctor", "toolkit"}},
+        {"windows/main",
+         {"platform", "list", "records", "device", "engine", "toolkit", "windows/list", "windows/stores",
+          "windows/exclusion", "windows/phone"}},
+        {"app", {"platform", "records", "device", "toolkit", "windows/main"}},
     };
     return Table;
 }
@@ -264,6 +268,27 @@ Complaints Check_Links(const Source_Tree& tree)
             const std::string other = Room_Of(target);
             if (tree.contains(target) && other != room && !Holds(links[room], Library_Of(other)))
                 complaints.push_back(At(path, include.line, room + " includes " + other + " but does not link it"));
+        }
+    }
+    return complaints;
+}
+
+Complaints Check_Core(const Source_Tree& tree)
+{
+    Complaints complaints;
+    for (const auto& [path, lines] : tree) {
+        const Room* room = Find_Room(Room_Of(path));
+        if (!room || room->floor != Room::Core)
+            continue;
+        for (const Include& include : Is_Cpp(path) ? Includes_Of(lines) : std::vector<Include>()) {
+            if (include.path.starts_with("QtGui") || include.path.starts_with("QtWidgets"))
+                complaints.push_back(At(path, include.line, room->folder + " must not include " + include.path));
+        }
+        for (std::size_t i = 0; path.ends_with("/CMakeLists.txt") && i < lines.size(); ++i) {
+            for (const std::string drawing : {"WIDGETS", "Qt6::Gui", "Qt6::Widgets"}) {
+                if (lines[i].substr(0, lines[i].find('#')).find(drawing) != std::string::npos)
+                    complaints.push_back(At(path, static_cast<int>(i) + 1, room->folder + " must not link " + drawing));
+            }
         }
     }
     return complaints;

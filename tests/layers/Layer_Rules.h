@@ -11,6 +11,11 @@ struct Room
 {
     std::string folder;
     std::vector<std::string> may_include;
+    enum Floor
+    {
+        Window,
+        Core ///< knows nothing that draws: neither the toolkit's Gui nor its Widgets
+    } floor = Window;
 };
 const std::vector<Room>& Rooms();
 
@@ -22,6 +27,9 @@ Complaints Check_Rooms(const Source_Tree& tree);
 
 /// Every room's library links only what the room may include, and all that it does include.
 Complaints Check_Links(const Source_Tree& tree);
+
+/// No room of the core links or includes what draws.
+Complaints Check_Core(const Source_Tree& tree);
 
 /// No file of src/ or phone/ includes itself, directly or round a corner.
 Complaints Check_Circles(const Source_Tree& tree);

@@ -28,7 +28,7 @@ std::string In_Lines(const Complaints& complaints)
 TEST(Layers, The_Checkout_Was_Read)
 {
     EXPECT_TRUE(The_Checkout().contains("src/platform/Waiting.cpp"));
-    EXPECT_TRUE(The_Checkout().contains("src/app/shared/PleaseWait_Modeless.ui"));
+    EXPECT_TRUE(The_Checkout().contains("src/toolkit/PleaseWait_Modeless.ui"));
     EXPECT_TRUE(The_Checkout().contains("tests/layers/test_Layers.cpp"));
 }
 
@@ -40,6 +40,11 @@ TEST(Layers, Every_Room_Includes_Only_What_It_May)
 TEST(Layers, Every_Room_Links_Only_What_It_May_And_All_It_Includes)
 {
     EXPECT_EQ(In_Lines(Check_Links(The_Checkout())), "");
+}
+
+TEST(Layers, The_Core_Knows_Nothing_That_Draws)
+{
+    EXPECT_EQ(In_Lines(Check_Core(The_Checkout())), "");
 }
 
 TEST(Layers, No_File_Includes_Itself_Round_A_Corner)
@@ -78,14 +83,16 @@ TEST(Layer_Rules, The_Table_Goes_Upwards_Only)
         below.push_back(room.folder);
     }
     EXPECT_THAT(Rooms().front().may_include, IsEmpty());
-    EXPECT_EQ(below, (std::vector<std::string>{"platform", "app/basics", "pdu", "device", "app/shared", "exclusion",
-                                               "stores", "dialogs", "wizard", "sending", "app"}));
+    EXPECT_EQ(below, (std::vector<std::string>{"platform", "pdu", "list", "records", "device", "engine", "doctor",
+                                               "toolkit", "windows/list", "windows/stores", "windows/exclusion",
+                                               "windows/phone", "windows/main", "app"}));
 }
 
 TEST(Layer_Rules, The_Deepest_Room_Counts)
 {
-    EXPECT_EQ(Room_Of("src/app/shared/Globals.h"), "app/shared");
-    EXPECT_EQ(Room_Of("src/app/Start.cpp"), "app");
+    EXPECT_EQ(Room_Of("src/windows/list/Update.h"), "windows/list");
+    EXPECT_EQ(Room_Of("src/list/Update.h"), "list");
+    EXPECT_EQ(Room_Of("src/windows/Start.cpp"), "");
     EXPECT_EQ(Room_Of("src/apple/Pie.cpp"), "");
     EXPECT_EQ(Room_Of("phone/Line.cpp"), "");
 }
@@ -95,7 +102,7 @@ TEST(Layer_Rules, An_Include_That_Runs_Uphill_Is_Named_With_File_And_Line)
     const Source_Tree tree{{"src/pdu/A.h", {"#pragma once", "#include \"device/B.h\""}},
                            {"src/device/B.h", {"#include \"pdu/A.h\"", "#include <platform/C.h>"}},
                            {"src/platform/C.h", {"#include <app/Top.h>"}},
-                           {"src/app/Top.h", {"#include \"pdu/A.h\"", "#include <vector>"}}};
+                           {"src/app/Top.h", {"#include \"platform/C.h\"", "#include <vector>"}}};
     EXPECT_THAT(Check_Rooms(tree), ElementsAre("src/pdu/A.h:2: pdu must not include device/B.h",
                                                "src/platform/C.h:1: platform must not include app/Top.h"));
 }
@@ -115,24 +122,38 @@ TEST(Layer_Rules, An_Include_Must_Name_A_File_From_The_Top_Of_The_Sources)
 
 TEST(Layer_Rules, What_The_Build_Makes_Is_Made_From_A_Neighbour)
 {
-    const Source_Tree tree{{"src/wizard/W.ui", {"<ui/>"}},
-                           {"src/wizard/W.cpp", {"#include \"ui_W.h\"", "#include \"W.moc\"", "#include \"ui_X.h\""}},
-                           {"src/sending/S.cpp", {"#include \"ui_W.h\"", "#include \"W.moc\""}}};
-    EXPECT_THAT(Check_Rooms(tree), ElementsAre("src/sending/S.cpp:1: \"ui_W.h\" is no file of src/",
-                                               "src/sending/S.cpp:2: \"W.moc\" is no file of src/",
-                                               "src/wizard/W.cpp:3: \"ui_X.h\" is no file of src/"));
+    const Source_Tree tree{
+        {"src/windows/phone/W.ui", {"<ui/>"}},
+        {"src/windows/phone/W.cpp", {"#include \"ui_W.h\"", "#include \"W.moc\"", "#include \"ui_X.h\""}},
+        {"src/windows/main/S.cpp", {"#include \"ui_W.h\"", "#include \"W.moc\""}}};
+    EXPECT_THAT(Check_Rooms(tree), ElementsAre("src/windows/main/S.cpp:1: \"ui_W.h\" is no file of src/",
+                                               "src/windows/main/S.cpp:2: \"W.moc\" is no file of src/",
+                                               "src/windows/phone/W.cpp:3: \"ui_X.h\" is no file of src/"));
 }
 
 TEST(Layer_Rules, A_Room_Links_What_It_Includes_And_Nothing_Above_It)
 {
     const Source_Tree tree{
-        {"src/platform/CMakeLists.txt", {"corvane_room(platform WIDGETS)"}},
-        {"src/app/basics/CMakeLists.txt", {"corvane_room(basics # LINKS corvane_platform", " LINKS corvane_shared)"}},
+        {"src/platform/CMakeLists.txt", {"corvane_room(platform)"}},
+        {"src/list/CMakeLists.txt", {"corvane_room(list # LINKS corvane_platform", " LINKS corvane_windows_list)"}},
         {"src/platform/P.h", {}},
-        {"src/app/basics/B.cpp", {"#include \"platform/P.h\""}}};
-    EXPECT_THAT(Check_Links(tree),
-                ElementsAre("src/app/basics/CMakeLists.txt:1: app/basics must not link corvane_shared",
-                            "src/app/basics/B.cpp:1: app/basics includes platform but does not link it"));
+        {"src/list/L.cpp", {"#include \"platform/P.h\""}}};
+    EXPECT_THAT(Check_Links(tree), ElementsAre("src/list/CMakeLists.txt:1: list must not link corvane_windows_list",
+                                               "src/list/L.cpp:1: list includes platform but does not link it"));
+}
+
+TEST(Layer_Rules, A_Room_Of_The_Core_Links_Nothing_That_Draws)
+{
+    const Source_Tree tree{
+        {"src/platform/CMakeLists.txt", {"corvane_room(platform WIDGETS)"}},
+        {"src/pdu/CMakeLists.txt", {"corvane_room(pdu)", "target_link_libraries(corvane_pdu PRIVATE Qt6::Gui)"}},
+        {"src/list/CMakeLists.txt", {"corvane_room(list LINKS corvane_platform) # no WIDGETS, no Qt6::Gui"}},
+        {"src/toolkit/CMakeLists.txt", {"corvane_room(toolkit WIDGETS)"}},
+        {"src/list/L.cpp", {"#include <QtGui/QColor>", "#include <QString>"}},
+        {"src/toolkit/T.cpp", {"#include <QtWidgets>"}}};
+    EXPECT_THAT(Check_Core(tree), ElementsAre("src/list/L.cpp:1: list must not include QtGui/QColor",
+                                              "src/pdu/CMakeLists.txt:2: pdu must not link Qt6::Gui",
+                                              "src/platform/CMakeLists.txt:1: platform must not link WIDGETS"));
 }
 
 TEST(Layer_Rules, A_Circle_Is_Found_However_Long)
@@ -209,17 +230,17 @@ TEST(Layer_Rules, A_Forbidden_Call_Is_Found_In_Each_Of_Its_Forms)
         "auto now = time(nullptr);",
     };
     for (const auto& line : forbidden) {
-        const Source_Tree tree{{"src/sending/S.cpp", {"", line}}};
+        const Source_Tree tree{{"src/windows/main/S.cpp", {"", line}}};
         const auto complaints = Check_Doors(tree);
         ASSERT_EQ(complaints.size(), 1U) << line << "\n" << In_Lines(complaints);
-        EXPECT_THAT(complaints[0], testing::StartsWith("src/sending/S.cpp:2: ")) << line;
+        EXPECT_THAT(complaints[0], testing::StartsWith("src/windows/main/S.cpp:2: ")) << line;
     }
 }
 
 TEST(Layer_Rules, What_Only_Looks_Like_A_Forbidden_Call_Is_None)
 {
     const Source_Tree tree{
-        {"src/sending/S.cpp",
+        {"src/windows/main/S.cpp",
          {"// sleep(1) would hold everything up", "/* QMessageBox", "QFileDialog */ int a;",
           "const char* text = \"select(1) \\\" sleep(1)\";", "model->select(index);", "selection.select(index);",
           "Rows::select(index);", "int big = 1'000'000; // poll(", "auto raw = R\"x(sleep(1)", "usleep(1) )\" )x\";",
@@ -231,12 +252,11 @@ TEST(Layer_Rules, Each_Door_Is_Open_To_Its_Own_Place_Only)
 {
     const Source_Tree tree{{"src/platform/Waiting.cpp", {"sleep(1);", "QDate::currentDate();"}},
                            {"src/platform/Other.cpp", {"sleep(1);", "QDate::currentDate();"}},
-                           {"src/app/shared/Message_Boxes.cpp", {"QMessageBox box;", "QFileDialog panel;"}},
-                           {"src/app/shared/File_Panels.cpp", {"QMessageBox box;", "QFileDialog panel;"}},
+                           {"src/toolkit/Message_Boxes.cpp", {"QMessageBox box;", "QFileDialog panel;"}},
+                           {"src/toolkit/File_Panels.cpp", {"QMessageBox box;", "QFileDialog panel;"}},
                            {"tests/support/User.cpp", {"QMessageBox box;", "sleep(1);"}}};
-    EXPECT_THAT(
-        Check_Doors(tree),
-        ElementsAre("src/app/shared/File_Panels.cpp:1: QMessageBox belongs into src/app/shared/Message_Boxes.cpp",
-                    "src/app/shared/Message_Boxes.cpp:2: QFileDialog belongs into src/app/shared/File_Panels.cpp",
-                    "src/platform/Other.cpp:2: currentDate belongs into src/platform/Waiting."));
+    EXPECT_THAT(Check_Doors(tree),
+                ElementsAre("src/platform/Other.cpp:2: currentDate belongs into src/platform/Waiting.",
+                            "src/toolkit/File_Panels.cpp:1: QMessageBox belongs into src/toolkit/Message_Boxes.cpp",
+                            "src/toolkit/Message_Boxes.cpp:2: QFileDialog belongs into src/toolkit/File_Panels.cpp"));
 }

@@ -1,6 +1,6 @@
 #include "long/Wizard_Oracle.h"
 
-#include "sending/Expected_Session.h"
+#include "windows/main/Expected_Session.h"
 
 #include <array>
 

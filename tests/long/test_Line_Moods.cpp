@@ -1,6 +1,6 @@
 // Every mood of the virtual phone in every way to send, and every two of them together. What must come of each is
 // worked out by Expected_Outcome.
-#include "sending/Line_Test.h"
+#include "windows/main/Line_Test.h"
 
 static const bool Singles_Registered = Register_Combinations("Line_Moods", Single_Moods());
 static const bool Pairs_Registered = Register_Combinations("Line_Moods", Pairs_Of_Moods());

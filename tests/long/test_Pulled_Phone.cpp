@@ -1,5 +1,5 @@
 // A phone whose cable is pulled around each write of a job, in either mode and alphabet, and that is plugged in again.
-#include "sending/Pulled_Phone.h"
+#include "windows/main/Pulled_Phone.h"
 
 static bool Register_All_Pulls()
 {

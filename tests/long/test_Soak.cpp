@@ -1,6 +1,7 @@
-#include "app/shared/Data_Paths.h"
+#include "engine/Job_State.h"
 #include "platform/Waiting.h"
-#include "sending/Sending_Test.h"
+#include "records/Data_Paths.h"
+#include "windows/main/Sending_Test.h"
 
 #include <QDir>
 #include <QFile>
@@ -43,8 +44,6 @@ protected:
 
     Soak()
     {
-        Set_Data_Paths(m_folder.path());
-        Check_Path_And_Create_Files();
         Set_Pace(1000);
         m_progress.m_at_step = [this](const QString& step) {
             const QString position = step.section(QStringLiteral(" / "), 0, 0);
@@ -111,7 +110,7 @@ protected:
             Add(number, message);
             const bool is_excluded = number.endsWith(u'7');
             if (is_excluded && m_window.m_exclusions.Count_Of(number) == 0)
-                m_window.m_exclusions.Append(number);
+                Exclude(number);
             const bool is_repeated = numbers.contains(number);
             numbers.insert(number);
             if (is_excluded || is_repeated)
@@ -148,26 +147,18 @@ protected:
         ASSERT_EQ(inbox.size(), expected.inbox.size());
         for (std::size_t message = 0; message < inbox.size(); ++message)
             ASSERT_EQ(inbox[message].m_number + ": " + inbox[message].m_text, expected.inbox[message]) << message;
-        EXPECT_EQ(Content(Sent_Item_Path), expected.records);
-        EXPECT_EQ(Content(Templates_Path), expected.templates);
+        EXPECT_EQ(Bytes_Of(Sent_Item_Path), expected.records);
+        EXPECT_EQ(Bytes_Of(Templates_Path), expected.templates);
         EXPECT_EQ(m_progress.Steps().count(QStringLiteral("pause")), (expected.handled - 1) / 500);
         m_progress.Forget_Steps();
         m_phone.Forget();
         m_calls.Forget_Writes();
         m_window.m_recipients.Clear();
-        m_window.m_exclusions.Clear();
+        Exclude_Nobody();
         for (const auto& path : {Sent_Item_Path, Templates_Path})
             ASSERT_TRUE(QFile::resize(path, 0));
     }
 
-    static QByteArray Content(const QString& path)
-    {
-        QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        return file.readAll();
-    }
-
-    QTemporaryDir m_folder;
     std::mt19937 m_random{20261120};
 };
 

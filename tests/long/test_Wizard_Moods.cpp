@@ -1,8 +1,8 @@
 // What the wizard tells of a phone in each mood, and in every two of them: at the click on its row and at Select, with
 // the phone's own service centre and with a custom one.
+#include "doctor/Phone_Probe.h"
 #include "long/Wizard_Oracle.h"
-#include "sending/Line_Test.h"
-#include "wizard/Phone_Probe.h"
+#include "windows/main/Line_Test.h"
 
 #include <cstring>
 

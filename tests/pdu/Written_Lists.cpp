@@ -62,7 +62,7 @@ Written_Lists Lists_In_The_Guide()
 
 Written_Lists Lists_In_The_Help_Window()
 {
-    QXmlStreamReader reader(Source("src/app/Help_Wnd.ui"));
+    QXmlStreamReader reader(Source("src/windows/main/Help_Wnd.ui"));
     QString html;
     while (html.isEmpty() && reader.readNext() != QXmlStreamReader::EndDocument && !reader.hasError()) {
         if (reader.isStartElement() && reader.attributes().value(u"name"_s) == u"html"_s &&

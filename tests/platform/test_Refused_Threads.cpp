@@ -1,4 +1,3 @@
-#include "platform/Guarded_Application.h"
 #include "platform/Interface_Thread.h"
 #include "platform/System_Log.h"
 #include "platform/Thread_Shortage.h"
@@ -6,6 +5,7 @@
 #include "support/Log_Lines.h"
 #include "support/Refused_Threads.h"
 #include "support/Serve_Until.h"
+#include "toolkit/Guarded_Application.h"
 
 #include <QPushButton>
 #include <QTest>

@@ -1,7 +1,7 @@
-#include "platform/Guarded_Application.h"
 #include "platform/Interface_Thread.h"
 #include "platform/Waiting.h"
 #include "support/User.h"
+#include "toolkit/Guarded_Application.h"
 
 #include <QTemporaryDir>
 #include <cstdio>

@@ -1,6 +1,6 @@
 #include "support/User.h"
 
-#include "platform/Modal_Sheet.h"
+#include "toolkit/Modal_Sheet.h"
 
 #include <QAbstractButton>
 #include <QApplication>

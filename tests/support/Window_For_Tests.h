@@ -1,12 +1,11 @@
 #pragma once
 
-#include "app/shared/Globals.h"
-#include "app/shared/Main_Window.h"
-#include "app/shared/Number_Rules.h"
-#include "platform/Input_Hold.h"
+#include "list/Number_Rules.h"
+#include "records/Exclusion_Files.h"
+#include "toolkit/Input_Hold.h"
+#include "toolkit/Main_Window.h"
 
 #include <QWidget>
-#include <functional>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -40,11 +39,11 @@ public:
     }
     void Redisplay_Recipients() override { ++m_redisplays; }
     std::vector<int> Selected_Recipient_Rows() const override { return m_selected_rows; }
-    void Fill_Exclusion_Num_List() override
+    void Fill_Exclusion_Num_List() override { ++m_exclusion_fills; }
+    void Take_Exclusions(const Exclusion_Files::Applied_Numbers& applied) override
     {
-        ++m_exclusion_fills;
-        if (m_when_exclusions_fill)
-            m_when_exclusions_fill();
+        ++m_exclusions_taken;
+        m_exclusions = applied.numbers;
     }
     Exclusion_Set Read_Applied_Exclusions() override
     {
@@ -96,7 +95,7 @@ public:
     int m_redisplays = 0;
     int m_exclusion_fills = 0;
     int m_exclusion_reads = 0;
-    std::function<void()> m_when_exclusions_fill;
+    int m_exclusions_taken = 0;
     int m_selection_start = 0; ///< of the composer's selection
     int m_selection_length = 0;
 

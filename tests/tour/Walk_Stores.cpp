@@ -1,4 +1,4 @@
-#include "app/shared/Globals.h"
+#include "records/Data_Paths.h"
 #include "tour/Story.h"
 #include "tour/Visitor.h"
 #include "tour/Walk.h"

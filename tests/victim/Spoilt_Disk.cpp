@@ -1,6 +1,6 @@
 #include "victim/Spoilt_Disk.h"
 
-#include "app/shared/Globals.h"
+#include "records/Data_Paths.h"
 
 #include <QDir>
 #include <QDirIterator>

@@ -1,15 +1,16 @@
 #include "victim/Steps.h"
 
-#include "app/CorvaneAppDelegate.h"
 #include "app/Program.h"
-#include "app/shared/Data_Paths.h"
-#include "app/shared/Globals.h"
+#include "device/Chosen_Device.h"
+#include "engine/Job_State.h"
 #include "platform/Interface_Thread.h"
 #include "platform/Pace.h"
 #include "platform/Single_Start.h"
+#include "records/Data_Paths.h"
 #include "support/Serve_Until.h"
 #include "victim/Person.h"
 #include "victim/Spoilt_Disk.h"
+#include "windows/main/CorvaneAppDelegate.h"
 
 #include <QApplication>
 #include <QCheckBox>

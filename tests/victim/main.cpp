@@ -1,5 +1,5 @@
-#include "app/shared/Window_Look.h"
-#include "platform/Guarded_Application.h"
+#include "toolkit/Guarded_Application.h"
+#include "toolkit/Window_Look.h"
 #include "victim/Steps.h"
 
 #include <QDir>

@@ -1,8 +1,0 @@
-#include "app/basics/Log_Line.h"
-
-#include "platform/System_Log.h"
-
-void Show_NSLog_Message(QStringView text)
-{
-    Write_System_Log(text);
-}

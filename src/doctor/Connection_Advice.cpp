@@ -1,0 +1,80 @@
+#include "doctor/Connection_Advice.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("Connection_Advice", text);
+}
+
+// A path is one word, which no window can break: a long one shows its beginning and its end.
+QString Short_Path(const QString& path)
+{
+    constexpr int Longest = 48;
+    constexpr int Kept_At_Each_End = 22;
+    if (path.size() <= Longest)
+        return path;
+    return path.left(Kept_At_Each_End) + QStringLiteral(" \u2026 ") + path.right(Kept_At_Each_End);
+}
+
+QString Joined(const QStringList& paths)
+{
+    return paths.join(QStringLiteral(", "));
+}
+
+} // namespace
+
+QList<Advice> Connection_Advice::For(const Connection_Facts& facts)
+{
+    QList<Advice> advice;
+    if (facts.ports_found == 0)
+        advice.append(On_No_Port());
+    advice.append(On_Barred_Ports(facts.barred_ports));
+    if (facts.modem_manager_runs)
+        advice.append(On_Modem_Manager());
+    return advice;
+}
+
+Advice Connection_Advice::On_No_Port()
+{
+    return {
+        tr("No phone or modem was found on USB or Bluetooth. Switch it on and connect it as described above; it may "
+           "take some seconds until it appears. A modem on a serial socket of the computer itself is offered all the "
+           "same, as ttyS0 or another ttyS, where your account may open it."),
+        {}};
+}
+
+// One advice a group, in the order in which the groups come up, so that one command serves all its ports.
+QList<Advice> Connection_Advice::On_Barred_Ports(const QList<Connection_Facts::Barred_Port>& ports)
+{
+    QStringList groups;
+    for (const auto& port : ports)
+        if (!groups.contains(port.group))
+            groups.append(port.group);
+
+    QList<Advice> advice;
+    for (const auto& group : groups) {
+        QStringList paths;
+        for (const auto& port : ports)
+            if (port.group == group)
+                paths.append(Short_Path(port.path));
+        const QString begin = tr("Your account may not open ") + Joined(paths) + QStringLiteral(". ");
+        if (group.isEmpty())
+            advice.append({begin + tr("Only the system's administrator can allow it."), {}});
+        else
+            advice.append({begin + tr("Members of this group may: ") + group +
+                               tr(". Join it with this command, then log out and in again:"),
+                           QStringLiteral("sudo usermod -aG ") + group + QStringLiteral(" $USER")});
+    }
+    return advice;
+}
+
+Advice Connection_Advice::On_Modem_Manager()
+{
+    return {
+        tr("The service ModemManager is running and may hold the device's port. If the device is not found or does not "
+           "answer, stop the service until the next start of the computer:"),
+        QStringLiteral("sudo systemctl stop ModemManager")};
+}

@@ -1,0 +1,56 @@
+#include "engine/Composer_Rules.h"
+
+#include "platform/String_Helpers.h"
+
+#include <algorithm>
+
+namespace Composer_Rules {
+
+int Single_SMS_Limit(bool unicode)
+{
+    return unicode ? Single_Unicode_SMS_Characters : Single_SMS_Characters;
+}
+
+int SMS_Count(int length, bool unicode)
+{
+    const int limit = Single_SMS_Limit(unicode);
+    return length / limit + (length % limit > 0 ? 1 : 0);
+}
+
+QString Cut_To_Limit(const QString& message)
+{
+    return message.left(Most_Characters);
+}
+
+QString Characters_Text(int length)
+{
+    return QString::number(length) + QStringLiteral(" Characters");
+}
+
+Counter Long_SMS_Calculation(int length, const QString& msg_char_value, bool unicode, bool open_dlg)
+{
+    const int characters = std::min(length, Most_Characters);
+    if (characters <= Single_SMS_Limit(unicode))
+        return {Characters_Text(characters), false};
+    const bool was_long_already = Find_Str(msg_char_value, QStringLiteral("SMS"));
+    const QString text = Characters_Text(characters) + QStringLiteral(" (Each Message will now consume ") +
+                         QString::number(SMS_Count(characters, unicode)) + QStringLiteral(" SMS)");
+    return {text, open_dlg && !was_long_already};
+}
+
+QString Long_SMS_Text(bool unicode)
+{
+    if (unicode)
+        return QStringLiteral(
+            "Your current message is exceeding the typical Unicode SMS (non-English text SMS) Length of 70 "
+            "Characters. Messages of more than 70 characters will be delivered in multiple messages of 70 "
+            "characters to each recipient.\n\nEither shorten the length of your existing text message or "
+            "click OK to continue anyway by delivering each message in multiple parts of 70 characters.");
+    return QStringLiteral(
+        "Your current message is exceeding the typical SMS Length of 160 Characters. Messages of more than "
+        "160 characters will be delivered in multiple messages of 160 characters to each recipient.\n\n"
+        "Either shorten the length of your existing text message or click OK to continue anyway by "
+        "delivering each message in multiple parts of 160 characters.");
+}
+
+} // namespace Composer_Rules

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+
+// What the main window's controls say at the moment a send job begins, copied once so that the job never reads a
+// widget.
+struct Send_Choices
+{
+    QString number_text;   ///< what still stands in the number field, as typed
+    QString composer_text; ///< raw, at most 1600 characters
+    QString batch_size;    ///< the two delayed-delivery boxes, as shown
+    QString pause_choice;
+    bool delayed_delivery = false;
+    bool exclusion = false;
+    bool skip_duplicates = false;
+    bool save_sent_items = false;
+    bool save_templates = false;
+    bool unicode = false;
+    bool flash = false;
+};

@@ -1,0 +1,11 @@
+#include "engine/Send_Order.h"
+
+Skip_Reason Reason_To_Skip(const Send_Order& order, int index)
+{
+    const QString number = order.recipients.At(index).Number;
+    if (order.choices.exclusion && order.exclusions.Count_Of(number) > 0)
+        return Skip_Reason::Excluded;
+    if (order.choices.skip_duplicates && order.recipients.First_Index_Of(number) < index)
+        return Skip_Reason::Repeated;
+    return Skip_Reason::None;
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "engine/Send_Choices.h"
+#include "list/Exclusion_Set.h"
+#include "list/Recipient_List.h"
+
+#include <QString>
+
+// Everything a send job works from, put together before it starts. A value; what the
+// user does later changes nothing in it.
+struct Send_Order
+{
+    QString device_path;
+    QString service_centre; ///< empty for the device's own
+    Send_Choices choices;
+    Recipient_List recipients;
+    Exclusion_Set exclusions; ///< as they were read last; the job reads them anew when they are to be heeded
+};
+
+enum class Skip_Reason
+{
+    None,
+    Excluded, ///< the exclusion option is on and the number is in the exclusion set
+    Repeated  ///< duplicates are skipped and an earlier item has the same number
+};
+
+/// Why the item at an index is not sent. Constant time.
+Skip_Reason Reason_To_Skip(const Send_Order& order, int index);

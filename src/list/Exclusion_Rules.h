@@ -1,0 +1,75 @@
+#pragma once
+
+#include "list/Excluded_Numbers.h"
+
+#include <QString>
+#include <QStringList>
+#include <QStringView>
+#include <functional>
+#include <vector>
+
+// What an exclusion list may be called, which numbers it takes in, and what applying and deleting lists does to the
+// names. Functions on values; any thread.
+namespace Exclusion_Rules {
+
+inline constexpr int Longest_Name = 50; ///< characters of a list's name
+
+enum class Name_Verdict
+{
+    Accepted,
+    Empty,
+    Forbidden_Sequence, ///< holds \/:*?"<>| in one piece; any one of these characters alone is fine
+    Name_Of_Index,      ///< would have the index's file
+    Exists
+};
+
+/// A typed name as it will come back from its file: trimmed, and without half of a character that was cut in two.
+QString List_Name(const QString& typed);
+
+/// What a line of a list's file, of the index or of the applied names holds: the entry, trimmed and without the
+/// byte-order mark that some editors put at the front of a file, and that joining files brings to any line.
+QStringView Entry_In_Line(QStringView line);
+
+/// A line without the mark at its front, and otherwise as it stands.
+QStringView Without_Byte_Order_Mark(QStringView line);
+
+/// Judges a name as List_Name gives it, in the order of the verdicts.
+Name_Verdict Judge_List_Name(const QString& name, const QStringList& existing_names);
+
+struct Judged_Number
+{
+    enum class Verdict
+    {
+        Accepted,
+        Not_Valid,
+        Exists
+    };
+
+    Verdict verdict = Verdict::Not_Valid;
+    QString number; ///< as it is stored; empty when it is not accepted
+};
+
+/// Judges a number that was typed or edited.
+Judged_Number Judge_Number(const QString& typed, const Excluded_Numbers& numbers);
+
+/// The number on a line of a file, as it is stored: without "\", "{", "}" and "-". An empty text when it is none. A
+/// line may be of any length.
+QString Number_In_Line(QStringView line);
+
+/// Takes in the number of each line that holds one and is not there yet; returns how many. progress is told, now and
+/// then, how many numbers there are by then.
+int Add_Numbers_Of_Text(const QString& text, Excluded_Numbers& numbers, const std::function<void(int)>& progress);
+
+/// The chosen names that are not applied yet, in their order and each once.
+QStringList Not_Yet_Applied(const QStringList& chosen, const QStringList& applied);
+
+/// The names at the rows.
+QStringList Names_At(const QStringList& names, const std::vector<int>& rows);
+
+/// Takes the rows, sorted and distinct, out of a list of names.
+void Remove_Rows(QStringList& names, const std::vector<int>& rows);
+
+/// Takes one entry, the last, out of the applied names for each name deleted.
+void Remove_Deleted(QStringList& applied, const QStringList& deleted);
+
+} // namespace Exclusion_Rules

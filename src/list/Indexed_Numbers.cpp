@@ -1,0 +1,141 @@
+#include "list/Indexed_Numbers.h"
+
+#include <algorithm>
+
+QString Indexed_Numbers::At(int index) const
+{
+    return m_texts.Text_Of(m_numbers.at(static_cast<std::size_t>(index)));
+}
+
+// Room is made before anything is changed: where memory runs out, the list stays as it was.
+void Indexed_Numbers::Append(const Packed_Number& number)
+{
+    Make_Room_In_Index();
+    m_numbers.push_back(number);
+    Add_To_Index(Count() - 1);
+}
+
+void Indexed_Numbers::Replace(int index, const QString& number)
+{
+    Packed_Number& present = m_numbers.at(static_cast<std::size_t>(index));
+    const Packed_Number packed = m_texts.Pack(number);
+    if (present == packed)
+        return;
+    Make_Room_In_Index();
+    Remove_From_Index(index);
+    present = packed;
+    Add_To_Index(index);
+}
+
+void Indexed_Numbers::Remove_Rows(const std::vector<int>& rows)
+{
+    if (rows.empty())
+        return;
+    Remove_Rows_From(m_numbers, rows);
+    Rebuild_Index();
+}
+
+Indexed_Numbers::Entry Indexed_Numbers::Look_Up(const QString& number) const
+{
+    const auto packed = m_texts.Packed(number);
+    return packed ? Look_Up(*packed) : Entry();
+}
+
+Indexed_Numbers::Entry Indexed_Numbers::Look_Up(const Packed_Number& number) const
+{
+    return m_slots.empty() ? Entry() : m_slots[Slot_Of(number, number.Hash(m_seed))].entry;
+}
+
+void Indexed_Numbers::Fetch(const Packed_Number& number) const
+{
+    if (!m_slots.empty())
+        __builtin_prefetch(&m_slots[Home_Of(number.Hash(m_seed))]);
+}
+
+// ------------------------------------------------------------------------------------------------------- the index
+
+// Linear probing; the number of slots is a power of two and at most two thirds of them are used, so a free one ends
+// every search.
+std::size_t Indexed_Numbers::Slot_Of(const Packed_Number& number, std::uint32_t hash) const
+{
+    std::size_t slot = Home_Of(hash);
+    while (m_slots[slot].entry.count > 0 &&
+           (m_slots[slot].hash != hash || Number_At(m_slots[slot].entry.first_row) != number))
+        slot = Next(slot);
+    return slot;
+}
+
+void Indexed_Numbers::Make_Room_In_Index()
+{
+    if ((m_used_slots + 1) * 3 > m_slots.size() * 2)
+        Grow_Index();
+}
+
+void Indexed_Numbers::Add_To_Index(int row)
+{
+    const std::uint32_t hash = Number_At(row).Hash(m_seed);
+    Slot& slot = m_slots[Slot_Of(Number_At(row), hash)];
+    if (slot.entry.count++ == 0) {
+        slot.entry.first_row = row;
+        slot.hash = hash;
+        ++m_used_slots;
+    } else {
+        slot.entry.first_row = std::min(slot.entry.first_row, row);
+    }
+}
+
+void Indexed_Numbers::Remove_From_Index(int row)
+{
+    const Packed_Number& number = Number_At(row);
+    const std::size_t slot = Slot_Of(number, number.Hash(m_seed));
+    Entry& entry = m_slots[slot].entry;
+    if (--entry.count == 0) {
+        Free(slot);
+        --m_used_slots;
+    } else if (entry.first_row == row) {
+        const auto next = std::find(m_numbers.begin() + row + 1, m_numbers.end(), number);
+        entry.first_row = static_cast<int>(next - m_numbers.begin());
+    }
+}
+
+// Those behind it that are not at home move up, so that no search ends too early.
+void Indexed_Numbers::Free(std::size_t slot)
+{
+    const std::size_t mask = m_slots.size() - 1;
+    for (std::size_t next = Next(slot); m_slots[next].entry.count > 0; next = Next(next)) {
+        const std::size_t away_from_home = (next - Home_Of(m_slots[next].hash)) & mask;
+        if (away_from_home >= ((next - slot) & mask)) {
+            m_slots[slot] = m_slots[next];
+            slot = next;
+        }
+    }
+    m_slots[slot] = {};
+}
+
+void Indexed_Numbers::Grow_Index()
+{
+    constexpr std::size_t Fewest_Slots = 64;
+    std::vector<Slot> old_slots(std::max(Fewest_Slots, m_slots.size() * 2));
+    old_slots.swap(m_slots);
+    for (const Slot& old : old_slots) {
+        if (old.entry.count == 0)
+            continue;
+        std::size_t slot = Home_Of(old.hash);
+        while (m_slots[slot].entry.count > 0)
+            slot = Next(slot);
+        m_slots[slot] = old;
+    }
+}
+
+void Indexed_Numbers::Rebuild_Index()
+{
+    constexpr std::size_t Rows_Ahead = 16;
+    std::vector<Slot>().swap(m_slots);
+    m_used_slots = 0;
+    for (std::size_t row = 0; row < m_numbers.size(); ++row) {
+        if (row + Rows_Ahead < m_numbers.size())
+            Fetch(m_numbers[row + Rows_Ahead]);
+        Make_Room_In_Index();
+        Add_To_Index(static_cast<int>(row));
+    }
+}

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "list/Packed_Number.h"
+
+#include <QHashFunctions>
+#include <deque>
+#include <vector>
+
+// A list of numbers that finds its rows by the number's exact text in constant time. Made for a million: a number takes
+// twelve bytes, and twelve more with its share of free room in the index. What the lists of the program are made of;
+// each follows its list's thread.
+class Indexed_Numbers
+{
+public:
+    struct Entry
+    {
+        int first_row = -1; ///< the first row with the number; -1 when there is none
+        int count = 0;      ///< how many rows have it
+    };
+
+    int Count() const { return static_cast<int>(m_numbers.size()); }
+    /// The number at an index from 0 to Count() - 1.
+    QString At(int index) const;
+
+    /// Takes a number in at the end, one that is there already too; all of it, or nothing where memory runs out.
+    void Append(const QString& number) { Append(m_texts.Pack(number)); }
+    /// The same for a number of digits alone.
+    void Append(const Packed_Number& number);
+    /// Puts another number in the place of the one at an index from 0 to Count() - 1. Constant time, but when the
+    /// number is the first of several: the next one is looked for in the list then.
+    void Replace(int index, const QString& number);
+    /// Removes the rows of a sorted list of distinct indexes in one pass.
+    void Remove_Rows(const std::vector<int>& rows);
+
+    Entry Look_Up(const QString& number) const;
+    /// The same for a number of digits alone.
+    Entry Look_Up(const Packed_Number& number) const;
+    /// Brings what a look-up of the number will read first into the processor's cache. Whoever looks up many does this
+    /// for the next ones, since each would otherwise wait for the memory in turn.
+    void Fetch(const Packed_Number& number) const;
+
+private:
+    struct Slot
+    {
+        Entry entry;
+        std::uint32_t hash = 0; // tells almost every other number without a look at its row
+    };
+
+    const Packed_Number& Number_At(int row) const { return m_numbers[static_cast<std::size_t>(row)]; }
+    std::size_t Slot_Of(const Packed_Number& number, std::uint32_t hash) const;
+    std::size_t Home_Of(std::uint32_t hash) const { return hash & (m_slots.size() - 1); }
+    std::size_t Next(std::size_t slot) const { return (slot + 1) & (m_slots.size() - 1); }
+    void Make_Room_In_Index();
+    void Add_To_Index(int row);
+    void Remove_From_Index(int row);
+    void Free(std::size_t slot);
+    void Grow_Index();
+    void Rebuild_Index();
+
+    std::deque<Packed_Number> m_numbers;
+    Number_Texts m_texts;
+    std::vector<Slot> m_slots;
+    std::size_t m_used_slots = 0;
+    std::uint64_t m_seed = QHashSeed::globalSeed();
+};
+
+/// Removes the rows of a sorted list of distinct indexes from a list, in one pass.
+template <typename Row>
+void Remove_Rows_From(std::deque<Row>& list, const std::vector<int>& rows)
+{
+    if (rows.empty() || static_cast<std::size_t>(rows.front()) >= list.size())
+        return;
+    auto next_removed = rows.begin();
+    auto kept = list.begin() + rows.front();
+    int number = rows.front();
+    for (auto row = kept; row != list.end(); ++row, ++number) {
+        if (next_removed != rows.end() && *next_removed == number)
+            ++next_removed;
+        else
+            *kept++ = std::move(*row);
+    }
+    list.erase(kept, list.end());
+}

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "list/Exclusion_Set.h"
+#include "list/Recipient_List.h"
+
+#include <QString>
+#include <functional>
+#include <vector>
+
+// Reads a file of phone numbers, one in each line, and adds those that may join to a list of recipients: all on a
+// worker, on a list of its own, which is handed over whole. Owned by the main window; started on the interface thread,
+// where everything handed over arrives, too.
+class Number_Import
+{
+public:
+    // What to import, and what it meets: taken once, when the import begins.
+    struct Order
+    {
+        QString path;
+        Recipient_List recipients; ///< those that are there already
+        Exclusion_Set exclusions;
+        QString message; ///< what every imported number gets
+        bool skip_duplicates = false;
+        bool heed_exclusions = false;
+    };
+
+    // What the import needs of the main window; each is called on the interface thread.
+    struct Target
+    {
+        /// Tells how many recipients there are by now, and how much of the file that makes.
+        std::function<void(int count, int percent)> show_progress;
+        /// Takes over the recipients: when the first of them are to be shown, and when no more will come. What is left
+        /// in the argument is let go on the worker.
+        std::function<void(Recipient_List& recipients)> take_over;
+        /// The file could not be opened or read: nothing was taken in.
+        std::function<void()> leave_unread;
+        /// All lines were taken in.
+        std::function<void()> finish;
+        /// The import ended early, by an exception that is in the log; what was taken in stays.
+        std::function<void()> break_off;
+    };
+
+    /// The first recipients are shown when there are exactly so many.
+    static constexpr int First_Shown = 10;
+
+    explicit Number_Import(Target target);
+
+    /// Starts reading on a worker of its own and returns.
+    void Load_NUM_Thread(Order order);
+
+    /// A line as it goes to the number rules: without "\", "{", "}" and "-", trimmed; empty when it is longer than any
+    /// number.
+    static QString Cleaned_Line(QStringView line);
+
+    /// The number of a line, cleaned and normalised; empty when there is none in it.
+    static Packed_Number Number_In_Line(QStringView line);
+
+private:
+    void Load_Num_Func(Order& order) const;
+    void Take_In_Lines(Order& order, const QString& text) const;
+    void Take_In(Order& order, const std::vector<Packed_Number>& numbers) const;
+    void Hand_Over(Recipient_List& recipients) const;
+
+    Target m_target;
+};

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "list/Indexed_Numbers.h"
+
+#include <QSharedData>
+#include <QSharedDataPointer>
+#include <QString>
+#include <deque>
+#include <vector>
+
+// One recipient: the normalised number, never empty, and the message kept exactly as given.
+struct Recipient
+{
+    QString Number;
+    QString Message;
+
+    /// The value under a table column's identifier, "Number" or "Message"; an empty text for any other.
+    QString Value(QStringView identifier) const;
+};
+
+// The ordered list of recipients: the order of insertion is the order of sending. Made for a million rows: a number is
+// kept packed, and a message given to many of them once. A copy costs nothing until one of the two changes, which is
+// how a worker takes its snapshot. The list itself is owned by the main window and belongs to the interface thread.
+class Recipient_List
+{
+public:
+    Recipient_List();
+
+    int Count() const;
+    /// The recipient at an index from 0 to Count() - 1.
+    Recipient At(int index) const;
+    /// The message alone of the recipient at an index from 0 to Count() - 1.
+    const QString& Message_At(int index) const;
+    void Append(const QString& number, const QString& message);
+    /// The same for a number of digits alone.
+    void Append(const Packed_Number& number, const QString& message);
+    /// Puts another recipient in the place of the one at an index from 0 to Count() - 1.
+    void Replace(int index, const QString& number, const QString& message);
+    /// Gives the recipients at the indexes, each from 0 to Count() - 1, one message; each keeps its number.
+    void Set_Messages(const std::vector<int>& rows, const QString& message);
+    /// Removes the rows of a sorted list of distinct indexes in one pass.
+    void Remove_Rows(const std::vector<int>& rows);
+    void Clear();
+
+    /// The first index with exactly this number, -1 when there is none. Constant time.
+    int First_Index_Of(const QString& number) const;
+    /// How many recipients have exactly this number. Constant time.
+    int Count_Of(const QString& number) const;
+    /// The same for a number of digits alone.
+    int Count_Of(const Packed_Number& number) const;
+    /// Tells of a number that Count_Of will soon be asked for; see Indexed_Numbers.
+    void Fetch(const Packed_Number& number) const { m_body->numbers.Fetch(number); }
+
+private:
+    struct Body : QSharedData
+    {
+        Indexed_Numbers numbers;
+        std::deque<QString> messages; ///< as many
+
+        template <typename Number>
+        void Append(const Number& number, const QString& message);
+    };
+
+    QSharedDataPointer<Body> m_body;
+};

@@ -1,0 +1,3 @@
+#include "toolkit/Main_Window.h"
+
+Main_Window* Main_App_wnd = nullptr;

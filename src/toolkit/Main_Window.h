@@ -1,0 +1,83 @@
+#pragma once
+
+#include "engine/Send_Choices.h"
+#include "list/Exclusion_Set.h"
+#include "list/Recipient_List.h"
+
+#include <QString>
+#include <vector>
+
+class QWidget;
+
+namespace Exclusion_Files {
+struct Applied_Numbers;
+}
+
+// The main window as the rooms below it see it: dialogs and the send job call back through this class and never know
+// the real one. Owned by the program's start; every operation belongs to the interface thread.
+class Main_Window
+{
+public:
+    enum class Field
+    {
+        Number,
+        Composer,
+        Recipient_Table,
+        Batch_Size,
+        Pause_Choice
+    };
+
+    virtual ~Main_Window() = default;
+
+    /// The window itself, to put dialogs over.
+    virtual QWidget* Window() = 0;
+    virtual void Focus(Field field) = 0;
+
+    virtual const Recipient_List& Recipients() const = 0;
+    virtual const Exclusion_Set& Exclusions() const = 0;
+    /// Puts a changed copy in the list's place and redraws the recipient table. Whoever changes many recipients changes
+    /// a copy on a worker, since the list itself belongs to the interface thread.
+    virtual void Replace_Recipients(Recipient_List recipients) = 0;
+    /// Puts one changed recipient in its place and redraws the recipient table; costs the same however long the list.
+    virtual void Replace_Recipient(int row, const QString& number, const QString& message) = 0;
+    /// Redraws the recipient table from the list.
+    virtual void Redisplay_Recipients() = 0;
+    /// The rows selected in the recipient table, in ascending order.
+    virtual std::vector<int> Selected_Recipient_Rows() const = 0;
+    /// Rebuilds the exclusion set from the applied lists, when the exclusion check box is on; otherwise does nothing.
+    virtual void Fill_Exclusion_Num_List() = 0;
+    /// Takes what was read of the applied lists for the exclusion set, and tells of lists that can not be used.
+    virtual void Take_Exclusions(const Exclusion_Files::Applied_Numbers& applied) = 0;
+    /// The numbers of the applied lists as they are now, whatever the exclusion check box says. The exclusion set keeps
+    /// whatever it holds.
+    virtual Exclusion_Set Read_Applied_Exclusions() = 0;
+
+    /// Answers yes for an invalid number; see Number_Rules.
+    virtual bool Check_Ph_Number(const QString& number, bool test_flag) const = 0;
+    virtual bool Check_Duplicate_Number(const QString& number) const = 0;
+    virtual bool Check_Exclusion_Number(const QString& number) const = 0;
+    /// Whether no recipient has a message and the composer is empty as well.
+    virtual bool Blank_Msg_Chk() const = 0;
+
+    virtual Send_Choices Read_Send_Choices() const = 0;
+
+    /// The counter text for a message of a length; runs the long-message dialog first when that is allowed and due.
+    virtual QString Long_SMS_Calculation(int length, const QString& msg_char_value, bool open_dlg) = 0;
+    /// How many characters the composer holds, and how many of them are selected.
+    virtual int Composer_Length() const = 0;
+    virtual int Composer_Selection_Length() const = 0;
+    /// Puts a text in the place of the composer's selection, or at its cursor, cuts the whole to 1600 characters and
+    /// counts it anew, with the long-message dialog when it is due.
+    virtual void Use_In_Composer(const QString& text) = 0;
+    /// Puts a text in the composer's place, cut to 1600 characters; no dialog opens and the counter stays as it is.
+    virtual void Set_Composer_Text(const QString& text) = 0;
+    /// The composer text that was last taken into the list, or last offered before sending.
+    virtual QString Previous_Composer_Message() const = 0;
+    virtual void Set_Previous_Composer_Message(const QString& message) = 0;
+
+    /// From now on, until released, clicks and keys in the main window are dropped.
+    virtual void Hold_Input() = 0;
+    virtual void Release_Input() = 0;
+};
+
+extern Main_Window* Main_App_wnd; ///< the main window, through which dialogs call back; set at start-up

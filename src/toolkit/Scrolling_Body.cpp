@@ -1,0 +1,145 @@
+#include "toolkit/Scrolling_Body.h"
+
+#include <QApplication>
+#include <QBoxLayout>
+#include <QComboBox>
+#include <QEvent>
+#include <QScrollBar>
+#include <algorithm>
+
+namespace {
+
+// The scroll area asks its page for the height that it prefers and would scroll earlier than there is need to.
+class Page : public QWidget
+{
+public:
+    int heightForWidth(int width) const override { return layout()->totalMinimumHeightForWidth(width); }
+};
+
+bool Needs_A_Body(QBoxLayout& column)
+{
+    const int rows = column.count();
+    if (rows < 2 || !column.itemAt(rows - 1)->layout() || column.sizeConstraint() == QLayout::SetFixedSize)
+        return false;
+    return rows > 2 || !qobject_cast<QAbstractScrollArea*>(column.itemAt(0)->widget());
+}
+
+void Move_First_Row(QBoxLayout& from, QBoxLayout& to)
+{
+    const int stretch = from.stretch(0);
+    QLayoutItem* row = from.takeAt(0);
+    if (QWidget* widget = row->widget()) {
+        delete row; // before the next item: a widget lets only one at a time know that its size has changed
+        to.addWidget(widget, stretch);
+    } else if (QLayout* layout = row->layout()) {
+        to.addLayout(layout, stretch);
+    } else {
+        to.addItem(row);
+        to.setStretch(to.count() - 1, stretch);
+    }
+}
+
+} // namespace
+
+Scrolling_Body* Scrolling_Body::Made_For(QBoxLayout& column)
+{
+    return Needs_A_Body(column) ? new Scrolling_Body(column) : nullptr; // the column's window owns it
+}
+
+Scrolling_Body::Scrolling_Body(QBoxLayout& column) : QScrollArea(column.parentWidget())
+{
+    setObjectName(QStringLiteral("body"));
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+    setWidgetResizable(true);
+    auto* page = new Page;
+    setWidget(page);
+    page->setAutoFillBackground(false);
+    viewport()->setAutoFillBackground(false);
+    m_rows = new QVBoxLayout(page);
+    m_rows->setContentsMargins(0, 0, 0, 0);
+    m_rows->setSpacing(column.spacing());
+    while (column.count() > 1)
+        Move_First_Row(column, *m_rows);
+    column.insertWidget(0, this, 1);
+    for (int i = 0; i < m_rows->count(); ++i) {
+        auto* row = qobject_cast<QBoxLayout*>(m_rows->itemAt(i)->layout());
+        if (row && row->direction() == QBoxLayout::LeftToRight)
+            m_foldable.push_back({row});
+    }
+    Watch_Boxes();
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { Bring_Into_Sight(now); });
+}
+
+QSize Scrolling_Body::sizeHint() const
+{
+    const int width = m_rows->totalSizeHint().width();
+    return {width, Preferred_Height(width)};
+}
+
+// No height of its own: the window sees to that, which alone knows its screen.
+QSize Scrolling_Body::minimumSizeHint() const
+{
+    return {m_rows->totalMinimumSize().width(), 0};
+}
+
+void Scrolling_Body::Fit_Into(int width)
+{
+    for (auto& [row, row_width] : m_foldable) {
+        const bool is_row = row->direction() == QBoxLayout::LeftToRight;
+        if (is_row)
+            row_width = row->minimumSize().width();
+        if (is_row != (row_width <= width))
+            row->setDirection(is_row ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    }
+}
+
+QSize Scrolling_Body::Whole_Size(int width) const
+{
+    QSize whole = m_rows->totalMinimumSize();
+    whole.setWidth(std::max(whole.width(), width));
+    if (m_rows->hasHeightForWidth())
+        whole.setHeight(std::max(whole.height(), m_rows->totalMinimumHeightForWidth(whole.width())));
+    return whole;
+}
+
+int Scrolling_Body::Preferred_Height(int width) const
+{
+    return m_rows->hasHeightForWidth() ? m_rows->totalHeightForWidth(width) : m_rows->totalSizeHint().height();
+}
+
+int Scrolling_Body::Bar_Width() const
+{
+    return verticalScrollBar()->sizeHint().width();
+}
+
+bool Scrolling_Body::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == widget()) {
+        if (event->type() == QEvent::LayoutRequest)
+            updateGeometry(); // what is around remembers the sizes that were asked for
+    } else if (event->type() == QEvent::Wheel && !static_cast<QWidget*>(watched)->hasFocus()) {
+        // Whoever turns the wheel to scroll is not to change a choice that the pointer happens to pass.
+        event->ignore(); // so it goes on to what is around the box
+        return true;
+    }
+    return QScrollArea::eventFilter(watched, event);
+}
+
+void Scrolling_Body::Watch_Boxes()
+{
+    const auto boxes = findChildren<QComboBox*>();
+    for (auto* box : boxes) {
+        box->setFocusPolicy(Qt::StrongFocus); // the wheel gives it no focus, either
+        box->installEventFilter(this);
+    }
+}
+
+// All of it, where the scroll area would be content with a text area's cursor.
+void Scrolling_Body::Bring_Into_Sight(const QWidget* control)
+{
+    if (!control || !widget()->isAncestorOf(control))
+        return;
+    const QRect place(control->mapTo(widget(), QPoint()), control->size());
+    ensureVisible(place.center().x(), place.center().y(), place.width() / 2 + 1, place.height() / 2 + 1);
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "toolkit/Window_Fit.h"
+
+class QApplication;
+class QColor;
+class QWidget;
+
+// How every window of the program looks: one background, and text that can be read on it whatever the desktop's theme
+// is.
+
+/// Red 241/255, green 244/255, blue 250/255.
+QColor Window_Background();
+
+/// Gives the application one style and one palette. Called once at start-up, before the first window.
+void Apply_Application_Look(QApplication& application);
+
+/// Gives a window the program's background, and sees to its size (Fit_Window). Called once for each window, after its
+/// layout is made.
+void Apply_Window_Look(QWidget& window, Letters first_size = {});

@@ -1,0 +1,150 @@
+#include "windows/list/Fill_Msg_In_List.h"
+
+#include "engine/Job_State.h"
+#include "platform/Interface_Thread.h"
+#include "toolkit/Main_Window.h"
+#include "toolkit/Message_Boxes.h"
+#include "toolkit/PleaseWait_Modeless.h"
+#include "toolkit/Shared_Instance.h"
+#include "toolkit/Window_Look.h"
+#include "ui_Fill_Msg_In_List.h"
+#include "windows/list/List_Change.h"
+
+using Fill_Rules::Choice;
+
+namespace {
+
+constexpr char Question_All[] =
+    "This action will copy the message of composer box to all numbers in the list.\n\nDo you want to continue?";
+constexpr char Question_Selected[] = "This action will copy the message of composer box to the selected numbers in the "
+                                     "list. The messages of rest of the "
+                                     "numbers remain unchanged.\n\nDo you want to continue?";
+constexpr char Question_Blank[] =
+    "This action will copy the message of composer box to the blank list items. The messages of rest of the numbers "
+    "remain unchanged.\n\nDo you want to continue?";
+constexpr char None_Selected[] = "Please select at least one record from the phone numbers-messages list to continue.";
+constexpr char None_Blank[] = "There is no blank message in the phone numbers-messages list.";
+
+bool Has_Blank_Message(const Main_Window& window)
+{
+    bool has_blank = false;
+    Run_On_Worker([&, recipients = window.Recipients()] { has_blank = Fill_Rules::Has_Blank_Message(recipients); });
+    return has_blank;
+}
+
+} // namespace
+
+Fill_Msg_In_List::Fill_Msg_In_List(QWidget* parent)
+    : QDialog(parent), m_ui(std::make_unique<Ui::Fill_Msg_In_List>()),
+      plz_wait_Window(std::make_unique<PleaseWait_Modeless>())
+{
+    m_ui->setupUi(this);
+    Apply_Window_Look(*this);
+    connect(m_ui->_fill_msg_all, &QRadioButton::clicked, this, &Fill_Msg_In_List::Fill_To_ALL_Pressed);
+    connect(m_ui->_fill_msg_selected, &QRadioButton::clicked, this, &Fill_Msg_In_List::Fill_To_Selected_Pressed);
+    connect(m_ui->_fill_msg_blank, &QRadioButton::clicked, this, &Fill_Msg_In_List::Fill_To_Blank_Pressed);
+    connect(m_ui->OKPressed, &QPushButton::clicked, this, &Fill_Msg_In_List::OKPressed);
+    connect(m_ui->CancelPressed, &QPushButton::clicked, this, &Fill_Msg_In_List::CancelPressed);
+}
+
+Fill_Msg_In_List::~Fill_Msg_In_List() = default;
+
+Fill_Msg_In_List* Fill_Msg_In_List::defaultInstance()
+{
+    return Shared_Instance<Fill_Msg_In_List>::Get();
+}
+
+int Fill_Msg_In_List::Open_Dialog(Main_Window& window)
+{
+    m_window = &window;
+    Fill_To_ALL_Pressed();
+    m_ui->_fill_msg_all->setFocus();
+    return Run_Over(window, *this);
+}
+
+// The radio buttons exclude each other: one that is switched on switches the others off.
+
+void Fill_Msg_In_List::Fill_To_ALL_Pressed()
+{
+    m_ui->_fill_msg_all->setChecked(true);
+}
+
+void Fill_Msg_In_List::Fill_To_Selected_Pressed()
+{
+    m_ui->_fill_msg_selected->setChecked(true);
+}
+
+void Fill_Msg_In_List::Fill_To_Blank_Pressed()
+{
+    m_ui->_fill_msg_blank->setChecked(true);
+}
+
+void Fill_Msg_In_List::OKPressed()
+{
+    const Fill_Rules::Choice choice = Choice();
+    if (!Is_Meant(choice))
+        return;
+    auto sheet = Please_Wait(*this);
+    const QString message = Message_IS;
+    const auto selected_rows = choice == Choice::Selected ? m_window->Selected_Recipient_Rows() : std::vector<int>();
+    Change_Recipients(*m_window, [&](Recipient_List& recipients) {
+        recipients.Set_Messages(Fill_Rules::Rows_To_Fill(recipients, choice, selected_rows), message);
+    });
+    sheet.reset();
+    End_With(1);
+}
+
+void Fill_Msg_In_List::CancelPressed()
+{
+    End_With(0);
+}
+
+void Fill_Msg_In_List::reject()
+{
+    CancelPressed();
+}
+
+void Fill_Msg_In_List::Show_Create_Modeless()
+{
+    plz_wait_Window->Begin_Sheet(this);
+}
+
+void Fill_Msg_In_List::Hide_Destroy_Modeless()
+{
+    plz_wait_Window->End_Sheet();
+}
+
+Fill_Rules::Choice Fill_Msg_In_List::Choice() const
+{
+    if (m_ui->_fill_msg_selected->isChecked())
+        return Choice::Selected;
+    return m_ui->_fill_msg_blank->isChecked() ? Choice::Blank : Choice::All;
+}
+
+// Tells the user when there is nothing to fill, and asks otherwise.
+bool Fill_Msg_In_List::Is_Meant(Fill_Rules::Choice choice) const
+{
+    switch (choice) {
+    case Choice::Selected:
+        if (m_window->Selected_Recipient_Rows().empty()) {
+            Show_MessageBox(QLatin1String(None_Selected));
+            return false;
+        }
+        return Show_YES_NO_MessageBox(QLatin1String(Question_Selected));
+    case Choice::Blank:
+        if (!Has_Blank_Message(*m_window)) {
+            Show_MessageBox(QLatin1String(None_Blank));
+            return false;
+        }
+        return Show_YES_NO_MessageBox(QLatin1String(Question_Blank));
+    case Choice::All:
+        break;
+    }
+    return Show_YES_NO_MessageBox(QLatin1String(Question_All));
+}
+
+void Fill_Msg_In_List::End_With(int code)
+{
+    Fill_To_ALL_Pressed();
+    done(code);
+}

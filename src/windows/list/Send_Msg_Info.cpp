@@ -1,0 +1,101 @@
+#include "windows/list/Send_Msg_Info.h"
+
+#include "engine/Job_State.h"
+#include "list/Fill_Rules.h"
+#include "toolkit/Main_Window.h"
+#include "toolkit/PleaseWait_Modeless.h"
+#include "toolkit/Shared_Instance.h"
+#include "toolkit/Window_Look.h"
+#include "ui_Send_Msg_Info.h"
+#include "windows/list/List_Change.h"
+
+#include <QPointer>
+
+Send_Msg_Info::Send_Msg_Info(QWidget* parent)
+    : QDialog(parent), m_ui(std::make_unique<Ui::Send_Msg_Info>()),
+      plz_wait_Window(std::make_unique<PleaseWait_Modeless>())
+{
+    m_ui->setupUi(this);
+    Apply_Window_Look(*this, Letters{.columns = 68});
+    connect(m_ui->_fill_msg_all, &QRadioButton::clicked, this, &Send_Msg_Info::Fill_To_ALL_Pressed);
+    connect(m_ui->_fill_msg_blank, &QRadioButton::clicked, this, &Send_Msg_Info::Fill_To_Blank_Pressed);
+    connect(m_ui->OKPressed, &QPushButton::clicked, this, &Send_Msg_Info::OKPressed);
+    connect(m_ui->ContinuePressed, &QPushButton::clicked, this, &Send_Msg_Info::ContinuePressed);
+    connect(m_ui->CancelPressed, &QPushButton::clicked, this, &Send_Msg_Info::CancelPressed);
+}
+
+Send_Msg_Info::~Send_Msg_Info() = default;
+
+Send_Msg_Info* Send_Msg_Info::defaultInstance()
+{
+    return Shared_Instance<Send_Msg_Info>::Get();
+}
+
+int Send_Msg_Info::Open_Dialog(Main_Window& window)
+{
+    m_window = &window;
+    m_code = Cancelled; // an event loop that ends without an answer must not send
+    Fill_To_ALL_Pressed();
+    m_ui->explanation->setText(
+        Message_IS.isEmpty()
+            ? tr("The composer is empty. If you copy it to all numbers, every message in the list becomes blank.")
+            : tr("The message in the composer is not yet in the list. You can copy it there before the list is sent."));
+    m_ui->_fill_msg_all->setFocus();
+    const QPointer<Send_Msg_Info> still_there(this);
+    Run_Over(window, *this);
+    return still_there ? m_code : Cancelled;
+}
+
+void Send_Msg_Info::Fill_To_ALL_Pressed()
+{
+    m_ui->_fill_msg_all->setChecked(true);
+}
+
+void Send_Msg_Info::Fill_To_Blank_Pressed()
+{
+    m_ui->_fill_msg_blank->setChecked(true);
+}
+
+void Send_Msg_Info::OKPressed()
+{
+    auto sheet = Please_Wait(*this);
+    const auto choice = m_ui->_fill_msg_blank->isChecked() ? Fill_Rules::Choice::Blank : Fill_Rules::Choice::All;
+    const QString message = Message_IS;
+    Change_Recipients(*m_window, [&](Recipient_List& recipients) {
+        recipients.Set_Messages(Fill_Rules::Rows_To_Fill(recipients, choice, {}), message);
+    });
+    sheet.reset();
+    End_With(Filled);
+}
+
+void Send_Msg_Info::ContinuePressed()
+{
+    End_With(Send_As_It_Is);
+}
+
+void Send_Msg_Info::CancelPressed()
+{
+    End_With(Cancelled);
+}
+
+void Send_Msg_Info::reject()
+{
+    CancelPressed();
+}
+
+void Send_Msg_Info::Show_Create_Modeless()
+{
+    plz_wait_Window->Begin_Sheet(this);
+}
+
+void Send_Msg_Info::Hide_Destroy_Modeless()
+{
+    plz_wait_Window->End_Sheet();
+}
+
+void Send_Msg_Info::End_With(int code)
+{
+    Fill_To_ALL_Pressed();
+    m_code = code;
+    done(code);
+}

@@ -1,0 +1,129 @@
+#include "windows/list/Update_Num_SMS.h"
+
+#include "list/Edited_Number.h"
+#include "list/Number_Rules.h"
+#include "toolkit/Line_Edit_Limit.h"
+#include "toolkit/Main_Window.h"
+#include "toolkit/Message_Boxes.h"
+#include "toolkit/Shared_Instance.h"
+#include "toolkit/Window_Look.h"
+#include "ui_Update_Num_SMS.h"
+#include "windows/list/List_Change.h"
+
+#include <QSignalBlocker>
+
+namespace {
+
+constexpr char Not_A_Number[] = "Please enter a valid phone number.";
+constexpr char Exists[] = "Entered number already exists.";
+constexpr char Excluded[] = "Entered number is in exclusion list.";
+
+} // namespace
+
+Update_Num_SMS::Update_Num_SMS(QWidget* parent) : QDialog(parent), m_ui(std::make_unique<Ui::Update_Num_SMS>())
+{
+    m_ui->setupUi(this);
+    Apply_Window_Look(*this, Letters{.columns = 66, .lines = 28});
+    m_message = std::make_unique<Counted_Message>(*m_ui->m_msg_str, *m_ui->m_st_msg_cnt);
+    connect(m_ui->m_num_str, &QLineEdit::textChanged, this, &Update_Num_SMS::controlTextDidChange);
+    connect(m_ui->m_msg_str, &QPlainTextEdit::textChanged, this, &Update_Num_SMS::textDidChange);
+    connect(m_ui->_Exclusion_Chk, &QCheckBox::clicked, this, &Update_Num_SMS::Exclusion_Chk);
+    connect(m_ui->OKPressed, &QPushButton::clicked, this, &Update_Num_SMS::OKPressed);
+    connect(m_ui->CancelPressed, &QPushButton::clicked, this, &Update_Num_SMS::CancelPressed);
+}
+
+Update_Num_SMS::~Update_Num_SMS() = default;
+
+Update_Num_SMS* Update_Num_SMS::defaultInstance()
+{
+    return Shared_Instance<Update_Num_SMS>::Get();
+}
+
+int Update_Num_SMS::Open_Dialog(Main_Window& window, int row)
+{
+    m_window = &window;
+    const Recipient recipient = window.Recipients().At(row);
+    {
+        const QSignalBlocker muted(*m_ui->m_num_str); // a number that stands there is not cut, only a typed one
+        m_ui->m_num_str->setText(recipient.Number);
+    }
+    m_ui->m_s_str->setText(recipient.Number);
+    m_ui->m_s_indx_str->setText(QString::number(row));
+    m_message->Show(recipient.Message, window);
+    const Send_Choices choices = window.Read_Send_Choices();
+    m_ui->_Exclusion_Chk->setChecked(choices.exclusion);
+    m_ui->_Skip_Duplicate_Chk->setChecked(choices.skip_duplicates);
+    m_ui->m_num_str->setFocus();
+    return Run_Over(window, *this);
+}
+
+// While the main window's own box is off its exclusion set is not kept up to date, and may never have been filled.
+void Update_Num_SMS::Exclusion_Chk()
+{
+    if (m_ui->_Exclusion_Chk->isChecked() && !m_window->Read_Send_Choices().exclusion)
+        m_applied_exclusions = m_window->Read_Applied_Exclusions();
+}
+
+void Update_Num_SMS::OKPressed()
+{
+    const auto judge = [this](const Exclusion_Set& exclusions) {
+        return Judge_Edited_Number(m_ui->m_num_str->text(), m_ui->m_s_str->text(), m_window->Recipients(), exclusions,
+                                   m_ui->_Skip_Duplicate_Chk->isChecked(), m_ui->_Exclusion_Chk->isChecked());
+    };
+    auto judged = judge(m_window->Exclusions());
+    if (judged.verdict == Edited_Number::Verdict::Accepted)
+        judged = judge(m_applied_exclusions);
+    switch (judged.verdict) {
+    case Edited_Number::Verdict::Not_Valid:
+        Refuse(QLatin1String(Not_A_Number));
+        return;
+    case Edited_Number::Verdict::Duplicate:
+        Refuse(QLatin1String(Exists));
+        return;
+    case Edited_Number::Verdict::Excluded:
+        Refuse(QLatin1String(Excluded));
+        return;
+    case Edited_Number::Verdict::Accepted:
+        break;
+    }
+    const QString message = m_message->Text();
+    const int row = m_ui->m_s_indx_str->text().toInt();
+    m_window->Replace_Recipient(row, judged.number, message);
+    End_With(1);
+}
+
+void Update_Num_SMS::CancelPressed()
+{
+    End_With(0);
+}
+
+void Update_Num_SMS::reject()
+{
+    CancelPressed();
+}
+
+void Update_Num_SMS::controlTextDidChange()
+{
+    Cut_Line(*m_ui->m_num_str, Number_Rules::Longest_Number);
+}
+
+void Update_Num_SMS::textDidChange()
+{
+    m_message->textDidChange(*m_window);
+}
+
+void Update_Num_SMS::Refuse(const QString& text)
+{
+    Show_MessageBox(text);
+    m_ui->m_num_str->setFocus();
+}
+
+void Update_Num_SMS::End_With(int code)
+{
+    m_ui->m_num_str->clear();
+    m_ui->m_s_str->clear();
+    m_ui->m_s_indx_str->clear();
+    m_message->Clear();
+    m_applied_exclusions.Clear();
+    done(code);
+}

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "list/Exclusion_Set.h"
+#include "windows/list/Counted_Message.h"
+
+#include <QDialog>
+#include <memory>
+
+class Main_Window;
+
+namespace Ui {
+class Update_Num_SMS;
+}
+
+// Edits one recipient: the number, by the rules for a typed one, and the message. Its two check boxes are its own: they
+// begin as the main window's and are never written back. The shared instance belongs to Shared_Instance, or to the main
+// window once it was put over it; interface thread.
+class Update_Num_SMS : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit Update_Num_SMS(QWidget* parent = nullptr);
+    ~Update_Num_SMS() override;
+
+    static Update_Num_SMS* defaultInstance();
+
+    /// Runs the dialog over the main window, for the recipient at an index that the list has, until it ends. Returns 1
+    /// when the recipient was saved, 0 when the dialog was cancelled.
+    int Open_Dialog(Main_Window& window, int row);
+
+    void Exclusion_Chk();
+    void OKPressed();
+    void CancelPressed();
+    void controlTextDidChange();
+    void textDidChange();
+
+    void reject() override; ///< Escape and the close button: as Cancel
+
+private:
+    void Refuse(const QString& text);
+    void End_With(int code);
+
+    const std::unique_ptr<Ui::Update_Num_SMS> m_ui;
+    std::unique_ptr<Counted_Message> m_message;
+    Exclusion_Set m_applied_exclusions; ///< what was read for the dialog's own check box
+    Main_Window* m_window = nullptr;    ///< the one that the dialog was last opened over
+};

@@ -1,0 +1,221 @@
+#include "windows/list/Update_Sel_Num_SMS.h"
+
+#include "list/Fill_Rules.h"
+#include "platform/Interface_Thread.h"
+#include "platform/String_Helpers.h"
+#include "platform/Thread_Shortage.h"
+#include "platform/Waiting.h"
+#include "toolkit/Input_Hold.h"
+#include "toolkit/List_Tables.h"
+#include "toolkit/Main_Window.h"
+#include "toolkit/Message_Boxes.h"
+#include "toolkit/PleaseWait_Modeless.h"
+#include "toolkit/Row_Table_Model.h"
+#include "toolkit/Shared_Instance.h"
+#include "toolkit/Window_Look.h"
+#include "ui_Update_Sel_Num_SMS.h"
+#include "windows/list/List_Change.h"
+
+#include <utility>
+
+Update_Sel_Num_SMS* Up_Sel_Num_SMS = nullptr;
+
+namespace {
+
+constexpr char No_Message[] = "Please enter some text message.";
+constexpr char Question[] =
+    "This action will copy the above message to the selected numbers in the list. The messages of rest of the numbers "
+    "remain unchanged.\n\nDo you want to continue?";
+
+constexpr double Wait_Before_Opening_Seconds = 1.0;
+constexpr std::size_t Redisplay_Count = 10; // the count at which the label reloads the table, once
+constexpr std::size_t Largest_Batch = 5000;
+
+} // namespace
+
+Update_Sel_Num_SMS::Update_Sel_Num_SMS(QWidget* parent)
+    : QDialog(parent), m_ui(std::make_unique<Ui::Update_Sel_Num_SMS>()),
+      plz_wait_Window(std::make_unique<PleaseWait_Modeless>())
+{
+    m_ui->setupUi(this);
+    Apply_Window_Look(*this, Letters{.columns = 100, .lines = 28});
+    m_rows = std::make_unique<Row_Table_Model>(
+        std::vector<Row_Table_Model::Column>{{QStringLiteral("Number"), tr("Number")}},
+        [this] { return numberOfRowsInTableView(); },
+        [this](const QString& identifier, int row) { return tableView(identifier, row); });
+    Prepare_List_Table(*m_ui->List_View, *m_rows);
+    m_message = std::make_unique<Counted_Message>(*m_ui->m_msg_str, *m_ui->m_st_msg_cnt);
+    connect(m_ui->m_msg_str, &QPlainTextEdit::textChanged, this, &Update_Sel_Num_SMS::textDidChange);
+    connect(m_ui->OKPressed, &QPushButton::clicked, this, &Update_Sel_Num_SMS::OKPressed);
+    connect(m_ui->CancelPressed, &QPushButton::clicked, this, &Update_Sel_Num_SMS::CancelPressed);
+}
+
+Update_Sel_Num_SMS::~Update_Sel_Num_SMS()
+{
+    if (Up_Sel_Num_SMS == this)
+        Up_Sel_Num_SMS = nullptr;
+}
+
+Update_Sel_Num_SMS* Update_Sel_Num_SMS::defaultInstance()
+{
+    Up_Sel_Num_SMS = Shared_Instance<Update_Sel_Num_SMS>::Get();
+    return Up_Sel_Num_SMS;
+}
+
+int Update_Sel_Num_SMS::Open_Dialog(Main_Window& window)
+{
+    m_window = &window;
+    m_message->Clear();
+    m_is_left = false;
+    m_is_loading = true;
+    m_input_hold = std::make_unique<Input_Hold>(this);
+    Start_Worker("load selected", [this] { Load_Thread(); });
+    Wait_Seconds(Wait_Before_Opening_Seconds);
+    m_ui->m_msg_str->setFocus();
+    const int code = Run_Over(window, *this);
+    Wait_For_Load();
+    return code;
+}
+
+// -------------------------------------------------------------------------------------------------------- the load
+
+void Update_Sel_Num_SMS::Load_Thread()
+{
+    // Whichever way the load ends, the dialog goes on.
+    const std::unique_ptr<Update_Sel_Num_SMS, void (*)(Update_Sel_Num_SMS*)> ended_load(
+        this, [](Update_Sel_Num_SMS* dialog) { Run_On_Interface_Thread([=] { dialog->End_Load(); }); });
+    LoadItems();
+}
+
+void Update_Sel_Num_SMS::LoadItems()
+{
+    Recipient_List recipients;
+    std::vector<int> selected_rows;
+    std::deque<QString> rows_before; // let go here, since there may be a million of them
+    Run_On_Interface_Thread([&] {
+        rows_before.swap(List_data_Object);
+        Update_num_Count();
+        m_rows->Reload();
+        recipients = m_window->Recipients();
+        selected_rows = m_window->Selected_Recipient_Rows();
+    });
+    m_loaded.clear();
+    m_loaded_in_all = 0;
+    for (const int row : Fill_Rules::Rows_To_Fill(recipients, Fill_Rules::Choice::Selected, selected_rows)) {
+        if (Program_Is_Exiting())
+            return;
+        Create_Number_List(recipients.At(row).Number);
+    }
+    Publish_Loaded();
+}
+
+void Update_Sel_Num_SMS::Create_Number_List(const QString& number)
+{
+    const QString trimmed_number = Trim_Str(number);
+    if (trimmed_number.isEmpty())
+        return;
+    m_loaded.push_back(trimmed_number);
+    ++m_loaded_in_all;
+    if (m_loaded_in_all == Redisplay_Count || m_loaded.size() == Largest_Batch)
+        Publish_Loaded();
+}
+
+void Update_Sel_Num_SMS::Publish_Loaded()
+{
+    if (m_loaded.empty())
+        return;
+    Run_On_Interface_Thread([this] {
+        for (QString& number : m_loaded)
+            List_data_Object.push_back(std::move(number));
+        Update_num_Count();
+    });
+    m_loaded.clear();
+}
+
+void Update_Sel_Num_SMS::Update_num_Count()
+{
+    m_ui->m_st_num_cnt->setText(QStringLiteral("Total Selected Numbers : ") + QString::number(List_data_Object.size()));
+    if (List_data_Object.size() == Redisplay_Count)
+        m_rows->Reload();
+}
+
+void Update_Sel_Num_SMS::End_Load()
+{
+    m_rows->Reload();
+    m_input_hold.reset();
+    m_is_loading = false;
+    if (m_is_left)
+        CancelPressed();
+}
+
+void Update_Sel_Num_SMS::Wait_For_Load()
+{
+    Await_Worker([this] { return !m_is_loading; });
+}
+
+int Update_Sel_Num_SMS::numberOfRowsInTableView() const
+{
+    return static_cast<int>(List_data_Object.size());
+}
+
+QString Update_Sel_Num_SMS::tableView(const QString& objectValueForTableColumn, int row) const
+{
+    const bool has_value = objectValueForTableColumn == u"Number" && row >= 0 && row < numberOfRowsInTableView();
+    return has_value ? List_data_Object[static_cast<std::size_t>(row)] : QString();
+}
+
+// --------------------------------------------------------------------------------------------------------- the user
+
+void Update_Sel_Num_SMS::OKPressed()
+{
+    const QString message = m_message->Text();
+    if (message.isEmpty()) {
+        Show_MessageBox(QLatin1String(No_Message));
+        m_ui->m_msg_str->setFocus();
+        return;
+    }
+    if (!Show_YES_NO_MessageBox(QLatin1String(Question)))
+        return;
+    auto sheet = Please_Wait(*this);
+    const auto selected_rows = m_window->Selected_Recipient_Rows();
+    Change_Recipients(*m_window, [&](Recipient_List& recipients) {
+        recipients.Set_Messages(Fill_Rules::Rows_To_Fill(recipients, Fill_Rules::Choice::Selected, selected_rows),
+                                message);
+    });
+    sheet.reset();
+    End_With(1);
+}
+
+void Update_Sel_Num_SMS::CancelPressed()
+{
+    End_With(0);
+}
+
+void Update_Sel_Num_SMS::reject()
+{
+    if (m_is_loading)
+        m_is_left = true;
+    else
+        CancelPressed();
+}
+
+void Update_Sel_Num_SMS::textDidChange()
+{
+    m_message->textDidChange(*m_window);
+}
+
+void Update_Sel_Num_SMS::Show_Create_Modeless()
+{
+    plz_wait_Window->Begin_Sheet(this);
+}
+
+void Update_Sel_Num_SMS::Hide_Destroy_Modeless()
+{
+    plz_wait_Window->End_Sheet();
+}
+
+void Update_Sel_Num_SMS::End_With(int code)
+{
+    m_message->Clear();
+    done(code);
+}

@@ -1,0 +1,77 @@
+#pragma once
+
+#include "windows/list/Counted_Message.h"
+
+#include <QDialog>
+#include <atomic>
+#include <deque>
+#include <memory>
+#include <vector>
+
+class Input_Hold;
+class Main_Window;
+class PleaseWait_Modeless;
+class Row_Table_Model;
+
+namespace Ui {
+class Update_Sel_Num_SMS;
+}
+
+// Gives the recipients selected in the main table one new message, after it has shown their numbers. The shared
+// instance belongs to Shared_Instance, or to the main window once it was put over it. A window of the interface thread:
+// the numbers are loaded by a worker, in batches, and Open_Dialog returns only after that worker has ended its load.
+class Update_Sel_Num_SMS : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit Update_Sel_Num_SMS(QWidget* parent = nullptr);
+    ~Update_Sel_Num_SMS() override;
+
+    static Update_Sel_Num_SMS* defaultInstance();
+
+    /// Starts loading the selected numbers, waits one second and runs the dialog over the main window until it ends.
+    /// Input is taken once the whole list is in. Returns 1 when the message was copied, 0 when the dialog was
+    /// cancelled.
+    int Open_Dialog(Main_Window& window);
+
+    void OKPressed();
+    void CancelPressed();
+    void textDidChange();
+    void Update_num_Count();
+    void Show_Create_Modeless();
+    void Hide_Destroy_Modeless();
+
+    int numberOfRowsInTableView() const;
+    /// The value of a row under a column's identifier; an empty text where there is none.
+    QString tableView(const QString& objectValueForTableColumn, int row) const;
+
+    void reject() override; ///< Escape and the close button: as Cancel, once the whole list is in
+
+private:
+    // Of the worker.
+    void Load_Thread();
+    void LoadItems();
+    void Create_Number_List(const QString& number);
+    void Publish_Loaded();
+
+    void End_Load();
+    void Wait_For_Load();
+    void End_With(int code);
+
+    const std::unique_ptr<Ui::Update_Sel_Num_SMS> m_ui;
+    std::unique_ptr<PleaseWait_Modeless> plz_wait_Window;
+    std::unique_ptr<Counted_Message> m_message;
+    std::deque<QString> List_data_Object; // the rows, each its value under "Number"
+    std::unique_ptr<Row_Table_Model> m_rows;
+    Main_Window* m_window = nullptr; ///< the one that the dialog was last opened over
+
+    std::unique_ptr<Input_Hold> m_input_hold; // until the load has ended
+    std::atomic<bool> m_is_loading{false};
+    bool m_is_left = false;        // closed while the load ran, which ends the dialog after it
+    std::vector<QString> m_loaded; // what the worker has found and not yet published
+    std::size_t m_loaded_in_all = 0;
+};
+
+/// The shared instance; null while there is none.
+extern Update_Sel_Num_SMS* Up_Sel_Num_SMS;

@@ -1,0 +1,372 @@
+#include "windows/main/CorvaneAppDelegate.h"
+
+#include "device/Chosen_Device.h"
+#include "engine/Delayed_Delivery.h"
+#include "list/Number_Import.h"
+#include "list/Number_Rules.h"
+#include "platform/Interface_Thread.h"
+#include "records/Data_Paths.h"
+#include "records/Template_Store.h"
+#include "toolkit/Key_Actions.h"
+#include "toolkit/Line_Edit_Limit.h"
+#include "toolkit/List_Tables.h"
+#include "toolkit/Main_Window.h"
+#include "toolkit/Message_Boxes.h"
+#include "toolkit/PleaseWait_Modeless.h"
+#include "toolkit/Row_Table_Model.h"
+#include "toolkit/Window_Look.h"
+#include "ui_CorvaneAppDelegate.h"
+#include "windows/exclusion/Exclusion_Wizard.h"
+#include "windows/main/Composer.h"
+#include "windows/main/Help_Wnd.h"
+#include "windows/main/List_Cells.h"
+#include "windows/main/Send_Modeless.h"
+#include "windows/main/Send_Runner.h"
+#include "windows/phone/Connection_Info.h"
+#include "windows/phone/Phone_List_Wnd.h"
+#include "windows/stores/Sent_Items.h"
+#include "windows/stores/Templates.h"
+
+#include <QCloseEvent>
+#include <utility>
+
+namespace {
+
+CorvaneAppDelegate* The_Delegate = nullptr;
+
+constexpr int Normal_Message_Index = 1;
+constexpr int Send_Button_Letters = 22;
+
+const QString Text_No_Data = QStringLiteral("Can not access Corvane Data file.");
+const QString Text_Exit = QStringLiteral("\nDo you really want to exit from 'Corvane'?");
+const QString Text_No_Device = QStringLiteral("No Mobile Phone Device is selected.");
+
+} // namespace
+
+CorvaneAppDelegate::CorvaneAppDelegate()
+    : m_ui(std::make_unique<Ui::CorvaneAppDelegate>()), mfc_sms_obj(std::make_unique<MFCSMS>())
+{
+    The_Delegate = this;
+    m_ui->setupUi(this);
+    setCentralWidget(m_ui->panel);
+    m_composer = std::make_unique<Composer>(m_ui->_messageEdit, m_ui->_Msg_char_count, m_ui->_Unicode_SMS_Chk);
+    m_please_wait = new PleaseWait_Modeless(this);
+    Connect_Controls();
+}
+
+CorvaneAppDelegate::~CorvaneAppDelegate()
+{
+    The_Delegate = nullptr;
+    Main_App_wnd = nullptr;
+}
+
+CorvaneAppDelegate* CorvaneAppDelegate::defaultInstance()
+{
+    return The_Delegate;
+}
+
+bool CorvaneAppDelegate::awakeFromNib()
+{
+    Apply_Window_Look(*this, Letters{.columns = 146, .lines = 44});
+    QFont link_font = font();
+    link_font.setBold(true);
+    link_font.setUnderline(true);
+    m_ui->_NO_Device_Ticker->setFont(link_font);
+    m_ui->_NO_Device_Ticker->setCursor(Qt::OpenHandCursor);
+    m_ui->_NO_Device_Ticker->setStyleSheet(QStringLiteral("QPushButton { color: #d00000; border: none; background: ") +
+                                           Window_Background().name() + QStringLiteral("; padding: 4px; }"));
+    const QFontMetrics letters = fontMetrics();
+    m_ui->_sent_btn->setMinimumSize(letters.averageCharWidth() * Send_Button_Letters,
+                                    m_ui->_sent_btn->sizeHint().height() + letters.descent());
+    // A device's name may be long: it is cut off rather than make the window grow with it.
+    m_ui->_Device_Name_Ticker->ensurePolished();
+    m_ui->_Device_Name_Ticker->setMinimumWidth(m_ui->_Device_Name_Ticker->sizeHint().width());
+    Give_Tables_Their_Models();
+    Set_Data_Paths(Default_Resource_Path());
+    if (!Create_Resource_Folder()) {
+        Show_MessageBox(Text_No_Data);
+        return false;
+    }
+    m_ui->_Msg_TypeComboBox->setCurrentIndex(Normal_Message_Index);
+    Check_Path_And_Create_Files();
+    m_ui->Fill_Msg_Btn->setText(QStringLiteral("Apply this\r\nmessage to\r\nlist items"));
+    m_ui->_delayed_msg_count_combo->addItems(Delayed_Delivery::Batch_Sizes());
+    m_ui->_delayed_time_combo->addItems(Delayed_Delivery::Pause_Choices());
+    for (auto* box : {m_ui->_delayed_msg_count_combo, m_ui->_delayed_time_combo}) {
+        box->setCompleter(nullptr);
+        box->setCurrentIndex(-1);
+        box->lineEdit()->setAccessibleName(box->accessibleName()); // where the keyboard is, when it is in the box
+    }
+    m_import = std::make_unique<Number_Import>(Number_Import::Target{
+        [this](int count, int percent) { Show_Import_Progress(count, percent); },
+        [this](Recipient_List& recipients) { Take_Over_Imported(recipients); }, [this] { Leave_Import_Unread(); },
+        [this] { Finish_Import(); }, [this] { End_Import(); }});
+    m_send_runner = std::make_unique<Send_Runner>(*this, *mfc_sms_obj, *Send_Modeless::defaultInstance());
+    Main_App_wnd = this;
+    Show_Device_In_Ticker();
+    return true;
+}
+
+void CorvaneAppDelegate::applicationDidFinishLaunching()
+{
+    show();
+    raise();
+    activateWindow();
+    Focus(Field::Number);
+}
+
+void CorvaneAppDelegate::Connect_Controls()
+{
+    connect(m_ui->_numberEdit, &QLineEdit::textChanged, this, &CorvaneAppDelegate::controlTextDidChange);
+    connect(m_ui->Add_Number, &QPushButton::clicked, this, &CorvaneAppDelegate::Add_Number);
+    connect(m_ui->Clear_Sel_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::Clear_Sel_Btn);
+    connect(m_ui->Clear_All_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::Clear_All_Btn);
+    connect(m_ui->Reset_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::Reset_Btn);
+    connect(m_ui->Help_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::Help_Btn);
+    connect(m_ui->Exit_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::Exit_Btn);
+    connect(m_ui->_sent_btn, &QPushButton::clicked, this, &CorvaneAppDelegate::Send_SMS_Btn);
+    connect(m_ui->_NO_Device_Ticker, &QPushButton::clicked, this, &CorvaneAppDelegate::No_Device_Ticker_Click);
+    connect(m_ui->Search_All_Modem, &QPushButton::clicked, this, &CorvaneAppDelegate::Search_All_Modem);
+    connect(m_ui->_messageEdit, &QPlainTextEdit::textChanged, this, &CorvaneAppDelegate::textDidChange);
+    connect(m_ui->_Unicode_SMS_Chk, &QCheckBox::clicked, this, &CorvaneAppDelegate::Unicode_Chk);
+    connect(m_ui->Load_Number, &QPushButton::clicked, this, &CorvaneAppDelegate::Load_Number);
+    connect(m_ui->Export_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::Export_Btn);
+    connect(m_ui->Fill_Msg_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::Fill_Msg_Btn);
+    connect(m_ui->Update_Sel_Msgs_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::Update_Sel_Msgs_Btn);
+    connect(m_ui->Sent_Item_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::Sent_Item_Btn);
+    connect(m_ui->View_Templates_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::View_Templates_Btn);
+    connect(m_ui->View_ExclusionWizrd_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::View_ExclusionWizrd_Btn);
+    connect(m_ui->_Exclusion_Chk, &QCheckBox::clicked, this, &CorvaneAppDelegate::Exclusion_Chk);
+    connect(m_ui->_Delayed_Delivry_Chk, &QCheckBox::clicked, this, &CorvaneAppDelegate::Delayed_Delivery_Chk);
+    connect(m_ui->idTableView, &QTableView::doubleClicked, this, &CorvaneAppDelegate::doubleClickInTable);
+    Act_On_Keys(*m_ui->_numberEdit, Return_Keys, [this] { Add_Number(); });
+    Give_Table_Keys(*m_ui->idTableView, {[this] { doubleClickInTable(); }, [this] { Clear_Sel_Btn(); }});
+}
+
+void CorvaneAppDelegate::Give_Tables_Their_Models()
+{
+    const auto rows_of = [this](QTableView* table, std::vector<Row_Table_Model::Column> columns) {
+        return new Row_Table_Model(
+            std::move(columns), [this, table] { return numberOfRowsInTableView(table); },
+            [this, table](const QString& identifier, int row) { return tableView(table, identifier, row); }, this);
+    };
+    m_recipient_rows = rows_of(m_ui->idTableView,
+                               {{QStringLiteral("Number"), tr("Number")}, {QStringLiteral("Message"), tr("Message")}});
+    m_exclusion_rows = rows_of(m_ui->idExclusionTableView, {{QStringLiteral("Number"), tr("Excluded number")}});
+    Prepare_List_Table(*m_ui->idTableView, *m_recipient_rows);
+    Prepare_List_Table(*m_ui->idExclusionTableView, *m_exclusion_rows);
+}
+
+void CorvaneAppDelegate::windowWillClose()
+{
+    Exit_App();
+}
+
+void CorvaneAppDelegate::Exit_Btn()
+{
+    Exit_App();
+}
+
+void CorvaneAppDelegate::Exit_App()
+{
+    if (Show_YES_NO_MessageBox(Text_Exit))
+        Q_EMIT Exit_Wanted();
+}
+
+void CorvaneAppDelegate::closeEvent(QCloseEvent* event)
+{
+    event->ignore(); // the window goes when the program does, and that is for Exit_App to ask
+    windowWillClose();
+}
+
+void CorvaneAppDelegate::Check_Path_And_Create_Files()
+{
+    ::Check_Path_And_Create_Files();
+}
+
+// ---- The composer
+
+void CorvaneAppDelegate::textDidChange()
+{
+    m_composer->textDidChange();
+}
+
+void CorvaneAppDelegate::Unicode_Chk()
+{
+    m_composer->Unicode_Chk();
+}
+
+QString CorvaneAppDelegate::Long_SMS_Calculation(int length, const QString& msg_char_value, bool open_dlg)
+{
+    return m_composer->Long_SMS_Calculation(length, msg_char_value, open_dlg);
+}
+
+int CorvaneAppDelegate::Composer_Length() const
+{
+    return m_composer->Length();
+}
+
+int CorvaneAppDelegate::Composer_Selection_Length() const
+{
+    return m_composer->Selection_Length();
+}
+
+void CorvaneAppDelegate::Use_In_Composer(const QString& text)
+{
+    m_composer->Use_Text(text);
+}
+
+void CorvaneAppDelegate::Set_Composer_Text(const QString& text)
+{
+    m_composer->Set_Text(text);
+}
+
+// ---- Sending
+
+void CorvaneAppDelegate::Delayed_Delivery_Chk()
+{
+    const bool is_on = m_ui->_Delayed_Delivry_Chk->isChecked();
+    for (auto* box : {m_ui->_delayed_msg_count_combo, m_ui->_delayed_time_combo}) {
+        box->setEnabled(is_on);
+        box->setCurrentIndex(-1);
+        box->clearEditText();
+    }
+    if (!is_on)
+        return;
+    m_ui->_delayed_time_combo->setCurrentIndex(Delayed_Delivery::Preselected_Pause_Choice);
+    m_ui->_delayed_msg_count_combo->setCurrentIndex(Delayed_Delivery::Preselected_Batch_Size);
+}
+
+void CorvaneAppDelegate::Send_SMS_Btn()
+{
+    m_send_runner->Send_SMS_Btn();
+}
+
+Send_Choices CorvaneAppDelegate::Read_Send_Choices() const
+{
+    Send_Choices choices;
+    choices.number_text = m_ui->_numberEdit->text();
+    choices.composer_text = m_composer->Text();
+    choices.batch_size = m_ui->_delayed_msg_count_combo->currentText();
+    choices.pause_choice = m_ui->_delayed_time_combo->currentText();
+    choices.delayed_delivery = m_ui->_Delayed_Delivry_Chk->isChecked();
+    choices.exclusion = m_ui->_Exclusion_Chk->isChecked();
+    choices.skip_duplicates = m_ui->_Skip_Duplicate_Chk->isChecked();
+    choices.save_sent_items = m_ui->_Save_Sent_Item_Chk->isChecked();
+    choices.save_templates = m_ui->_Save_Templates_Chk->isChecked();
+    choices.unicode = m_ui->_Unicode_SMS_Chk->isChecked();
+    choices.flash = m_ui->_Msg_TypeComboBox->currentText() == QStringLiteral("Notification");
+    return choices;
+}
+
+void CorvaneAppDelegate::Hold_Input()
+{
+    m_input_hold = std::make_unique<Input_Hold>(this);
+}
+
+void CorvaneAppDelegate::Release_Input()
+{
+    m_input_hold.reset();
+}
+
+// ---- The device and its ticker
+
+void CorvaneAppDelegate::No_Device_Ticker_Click()
+{
+    Search_All_Modem();
+}
+
+void CorvaneAppDelegate::Search_All_Modem()
+{
+    sel_port_name_str.clear();
+    sel_port_bsd_str.clear();
+    m_ui->_Device_Name_Ticker->setText(Text_No_Device);
+    Connection_Info::defaultInstance()->exec();
+    m_ui->_NO_Device_Ticker->hide();
+    Phone_List_Wnd::defaultInstance()->Open_Ph_List_Wnd();
+    Show_Device_In_Ticker();
+}
+
+void CorvaneAppDelegate::Show_Device_In_Ticker()
+{
+    const bool has_device = !sel_port_name_str.isEmpty();
+    m_ui->_Device_Name_Ticker->setText(has_device ? sel_port_name_str : Text_No_Device);
+    m_ui->_NO_Device_Ticker->setVisible(!has_device);
+}
+
+// ---- The other windows
+
+void CorvaneAppDelegate::Sent_Item_Btn()
+{
+    Sent_Items::defaultInstance()->Open_Sent_Item_Wnd();
+}
+
+void CorvaneAppDelegate::View_Templates_Btn()
+{
+    Templates::defaultInstance()->Open_Template_Wnd();
+}
+
+void CorvaneAppDelegate::View_ExclusionWizrd_Btn()
+{
+    Exclusion_Wizard::defaultInstance()->Open_Exclusion_Wnd();
+}
+
+bool CorvaneAppDelegate::Check_Duplicate_Template(const QString& text) const
+{
+    bool is_there = false;
+    Run_On_Worker([&] { is_there = Template_Store::Contains(text); });
+    return is_there;
+}
+
+void CorvaneAppDelegate::Help_Btn()
+{
+    Help_Wnd help(this);
+    help.exec();
+}
+
+// ---- Shared services
+
+void CorvaneAppDelegate::Show_Create_Modeless()
+{
+    m_please_wait->Show_Progress(-1);
+    m_please_wait->Begin_Sheet(this);
+}
+
+void CorvaneAppDelegate::Hide_Destroy_Modeless()
+{
+    m_please_wait->End_Sheet();
+}
+
+// The please-wait sheet, until what this returns has gone, whichever way that is.
+std::shared_ptr<void> CorvaneAppDelegate::Please_Wait()
+{
+    Show_Create_Modeless();
+    return {this, [this](void*) { Hide_Destroy_Modeless(); }};
+}
+
+void CorvaneAppDelegate::Focus(Field field)
+{
+    switch (field) {
+    case Field::Number:
+        m_ui->_numberEdit->setFocus();
+        break;
+    case Field::Composer:
+        m_ui->_messageEdit->setFocus();
+        break;
+    case Field::Recipient_Table:
+        m_ui->idTableView->setFocus();
+        break;
+    case Field::Batch_Size:
+        m_ui->_delayed_msg_count_combo->setFocus();
+        break;
+    case Field::Pause_Choice:
+        m_ui->_delayed_time_combo->setFocus();
+        break;
+    }
+}
+
+void CorvaneAppDelegate::Tell_And_Focus(const QString& text, Field field)
+{
+    Show_MessageBox(text);
+    Focus(field);
+}

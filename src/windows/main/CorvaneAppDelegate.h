@@ -1,0 +1,161 @@
+#pragma once
+
+#include "device/MFCSMS.h"
+#include "toolkit/Input_Hold.h"
+#include "toolkit/Main_Window.h"
+
+#include <QMainWindow>
+#include <memory>
+#include <vector>
+
+class Composer;
+class Number_Import;
+class PleaseWait_Modeless;
+class QTableView;
+class Row_Table_Model;
+class Send_Modeless;
+class Send_Runner;
+
+namespace Ui {
+class CorvaneAppDelegate;
+}
+
+// The main window's controller: it owns the recipient list, the exclusion set and the modem session, and carries every
+// operation of the main window by its own name, each handing on to the class that does the work. One instance, owned by
+// the program's start; everything here belongs to the interface thread.
+class CorvaneAppDelegate : public QMainWindow, public Main_Window
+{
+    Q_OBJECT
+
+public:
+    CorvaneAppDelegate();
+    ~CorvaneAppDelegate() override;
+
+    /// The one instance; null before it is made and after it has gone.
+    static CorvaneAppDelegate* defaultInstance();
+
+    // Start and end
+    /// Builds the start state. Returns false, after telling the user, when the resource folder can not be had.
+    bool awakeFromNib();
+    void applicationDidFinishLaunching();
+    void windowWillClose();
+    void Exit_App();
+    void Check_Path_And_Create_Files();
+
+    // The recipient list and the number rules
+    void Create_Num_Msg_List(const QString& number, const QString& message_val);
+    /// Answers yes for an INVALID number; see Number_Rules.
+    bool Check_Ph_Number(const QString& number, bool test_flag) const override;
+    /// The normalised number, or an empty text when it may not be inserted.
+    QString Num_Able_To_insert(const QString& number) const;
+    bool Check_Duplicate_Number(const QString& number) const override;
+    bool Check_Exclusion_Number(const QString& number) const override;
+    void Fill_Exclusion_Num_List() override;
+    void Take_Exclusions(const Exclusion_Files::Applied_Numbers& applied) override;
+    Exclusion_Set Read_Applied_Exclusions() override;
+    void Create_Exclusion_List(const QString& number);
+    void Update_List_Count();
+    void OnGetSelected();
+
+    // Import
+    /// Starts the import of a file. The main window takes no input until it has ended.
+    void Load_NUM_Thread(const QString& path);
+
+    // The stores
+    /// Whether the templates' file holds a template with exactly this text.
+    bool Check_Duplicate_Template(const QString& text) const;
+
+    bool Blank_Msg_Chk() const override;
+    int numberOfRowsInTableView(const QTableView* table) const;
+    /// The value of a row under a column's identifier; an empty text for a row outside the list.
+    QString tableView(const QTableView* table, const QString& objectValueForTableColumn, int row) const;
+
+    // The composer
+    QString Long_SMS_Calculation(int length, const QString& msg_char_value, bool open_dlg) override;
+    int Composer_Length() const override;
+    int Composer_Selection_Length() const override;
+    void Use_In_Composer(const QString& text) override;
+    void Set_Composer_Text(const QString& text) override;
+
+    // The device and its ticker
+    void Search_All_Modem();
+    void Show_Create_Modeless();
+    void Hide_Destroy_Modeless();
+
+    // Main_Window
+    QWidget* Window() override { return this; }
+    void Focus(Field field) override;
+    const Recipient_List& Recipients() const override { return nsListDataObject; }
+    const Exclusion_Set& Exclusions() const override { return nsExclusionListDataObject; }
+    void Replace_Recipients(Recipient_List recipients) override;
+    void Replace_Recipient(int row, const QString& number, const QString& message) override;
+    void Redisplay_Recipients() override;
+    std::vector<int> Selected_Recipient_Rows() const override;
+    Send_Choices Read_Send_Choices() const override;
+    QString Previous_Composer_Message() const override { return prev_composer_msg; }
+    void Set_Previous_Composer_Message(const QString& message) override { prev_composer_msg = message; }
+    void Hold_Input() override;
+    void Release_Input() override;
+
+    MFCSMS& Session() { return *mfc_sms_obj; }
+
+public Q_SLOTS:
+    void Add_Number();
+    void Clear_Sel_Btn();
+    void Clear_All_Btn();
+    void Reset_Btn();
+    void doubleClickInTable();
+    void Load_Number();
+    void Export_Btn();
+    void Fill_Msg_Btn();
+    void Update_Sel_Msgs_Btn();
+    void Exclusion_Chk();
+    void controlTextDidChange();
+    void textDidChange();
+    void Unicode_Chk();
+    void Send_SMS_Btn();
+    void No_Device_Ticker_Click();
+    void Delayed_Delivery_Chk();
+    void Sent_Item_Btn();
+    void View_Templates_Btn();
+    void View_ExclusionWizrd_Btn();
+    void Help_Btn();
+    void Exit_Btn();
+
+Q_SIGNALS:
+    /// The user wants to leave, and has said so.
+    void Exit_Wanted();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void Connect_Controls();
+    void Give_Tables_Their_Models();
+    void Show_Device_In_Ticker();
+    void Remember_Composer_Text();
+    std::shared_ptr<void> Please_Wait();
+    void Remove_All_Recipients();
+    void Show_Exclusion_Trouble(const QString& text);
+    void Show_List_Count(int count);
+    void Show_Import_Progress(int count, int percent);
+    void Take_Over_Imported(Recipient_List& recipients);
+    void Leave_Import_Unread();
+    void Finish_Import();
+    void End_Import();
+    void Tell_And_Focus(const QString& text, Field field);
+
+    std::unique_ptr<Ui::CorvaneAppDelegate> m_ui;
+    std::unique_ptr<MFCSMS> mfc_sms_obj;
+    Recipient_List nsListDataObject;
+    Exclusion_Set nsExclusionListDataObject;
+    QString prev_composer_msg;
+    int prev_list_item = 0; // recipients before the import
+    Row_Table_Model* m_recipient_rows = nullptr;
+    Row_Table_Model* m_exclusion_rows = nullptr;
+    std::unique_ptr<Composer> m_composer;
+    std::unique_ptr<Send_Runner> m_send_runner;
+    std::unique_ptr<Number_Import> m_import;
+    PleaseWait_Modeless* m_please_wait = nullptr;
+    std::unique_ptr<Input_Hold> m_input_hold;
+};

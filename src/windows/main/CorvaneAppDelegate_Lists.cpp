@@ -1,0 +1,367 @@
+#include "list/Number_Acceptance.h"
+#include "list/Number_Import.h"
+#include "list/Number_Rules.h"
+#include "platform/Interface_Thread.h"
+#include "platform/Log_Line.h"
+#include "platform/String_Helpers.h"
+#include "platform/Waiting.h"
+#include "records/Contact_Export.h"
+#include "toolkit/File_Panels.h"
+#include "toolkit/Line_Edit_Limit.h"
+#include "toolkit/List_Tables.h"
+#include "toolkit/Message_Boxes.h"
+#include "toolkit/PleaseWait_Modeless.h"
+#include "toolkit/Row_Table_Model.h"
+#include "ui_CorvaneAppDelegate.h"
+#include "windows/list/List_Dialogs.h"
+#include "windows/main/Composer.h"
+#include "windows/main/CorvaneAppDelegate.h"
+#include "windows/main/List_Cells.h"
+#include "windows/main/Load_Num_Info.h"
+#include "windows/stores/Open_Export_Log.h"
+#include "windows/stores/Store_Globals.h"
+
+#include <exception>
+#include <utility>
+
+// The recipient list and the number rules: what fills the list, changes it, and takes it in and out of the program.
+
+namespace {
+
+// Reaching exactly this many recipients redraws the table from the count itself.
+constexpr int Redisplay_Count = Number_Import::First_Shown;
+constexpr int Normal_Message_Index = 1;
+
+const QString Text_Not_A_Number = QStringLiteral("Please enter a valid phone number.");
+const QString Text_Exists = QStringLiteral("Entered number already exists.");
+const QString Text_Excluded = QStringLiteral("Entered number is in exclusion list.");
+const QString Text_List_Empty = QStringLiteral("Phone numbers-Messages list is empty.");
+const QString Text_None_Selected =
+    QStringLiteral("Please select at least one record from the phone numbers-messages list to continue.");
+const QString Text_Select_One = QStringLiteral("Please select only one record to update.");
+const QString Text_Clear_All =
+    QStringLiteral("\nThis option will clear the entire list contents. Are you sure you want to "
+                   "continue clearing the entire list?");
+const QString Text_File_Error = QStringLiteral("Error in file accessing.");
+const QString Text_Nothing_Imported =
+    QStringLiteral("Either file is corrupted or selected file contains invalid characters.\n\nOR\n\nRecipient number "
+                   "is skipped because of using 'Skip Dulicate Numbers' or 'Exclusion List' option.");
+
+// To let go of a million recipients takes its time, like everything that is done with each of them.
+void Let_Go_Of(Recipient_List& list)
+{
+    Run_On_Worker([&] { list.Clear(); });
+}
+
+} // namespace
+
+void CorvaneAppDelegate::Create_Num_Msg_List(const QString& number, const QString& message_val)
+{
+    const QString trimmed_number = Trim_Str(number);
+    if (trimmed_number.isEmpty())
+        return;
+    nsListDataObject.Append(trimmed_number, message_val);
+    Update_List_Count();
+    Remember_Composer_Text();
+}
+
+// The first composer text that an item was made with is the remembered one; later ones do not replace it here.
+void CorvaneAppDelegate::Remember_Composer_Text()
+{
+    if (prev_composer_msg.isEmpty())
+        prev_composer_msg = m_composer->Text();
+}
+
+bool CorvaneAppDelegate::Check_Ph_Number(const QString& number, bool test_flag) const
+{
+    return Number_Rules::Check_Ph_Number(number, test_flag);
+}
+
+QString CorvaneAppDelegate::Num_Able_To_insert(const QString& number) const
+{
+    const auto judged = Judge_Number(number, nsListDataObject, nsExclusionListDataObject,
+                                     m_ui->_Skip_Duplicate_Chk->isChecked(), m_ui->_Exclusion_Chk->isChecked());
+    return judged.verdict == Number_Acceptance::Verdict::Accepted ? judged.number : QString();
+}
+
+bool CorvaneAppDelegate::Check_Duplicate_Number(const QString& number) const
+{
+    return nsListDataObject.Count_Of(number) > 0;
+}
+
+void CorvaneAppDelegate::Update_List_Count()
+{
+    Show_List_Count(nsListDataObject.Count());
+    if (nsListDataObject.Count() == Redisplay_Count)
+        Redisplay_Recipients();
+}
+
+void CorvaneAppDelegate::Show_List_Count(int count)
+{
+    m_ui->_gsm_list_count->setText(QStringLiteral("Total Numbers : ") + QString::number(count));
+}
+
+bool CorvaneAppDelegate::Blank_Msg_Chk() const
+{
+    for (int index = 0; index < nsListDataObject.Count(); ++index) {
+        if (!nsListDataObject.Message_At(index).isEmpty())
+            return false;
+    }
+    return m_composer->Text().isEmpty();
+}
+
+int CorvaneAppDelegate::numberOfRowsInTableView(const QTableView* table) const
+{
+    return table == m_ui->idTableView ? nsListDataObject.Count() : nsExclusionListDataObject.Count();
+}
+
+QString CorvaneAppDelegate::tableView(const QTableView* table, const QString& objectValueForTableColumn, int row) const
+{
+    try {
+        if (table == m_ui->idTableView)
+            return Recipient_Cell(nsListDataObject, objectValueForTableColumn, row);
+        return Exclusion_Cell(nsExclusionListDataObject, objectValueForTableColumn, row);
+    } catch (const Invalid_Parameter&) {
+        return {};
+    }
+}
+
+void CorvaneAppDelegate::Add_Number()
+{
+    const auto judged = Judge_Number(m_ui->_numberEdit->text(), nsListDataObject, nsExclusionListDataObject,
+                                     m_ui->_Skip_Duplicate_Chk->isChecked(), m_ui->_Exclusion_Chk->isChecked());
+    switch (judged.verdict) {
+    case Number_Acceptance::Verdict::Not_Valid:
+        Show_MessageBox(Text_Not_A_Number);
+        break;
+    case Number_Acceptance::Verdict::Duplicate:
+        Show_MessageBox(Text_Exists);
+        break;
+    case Number_Acceptance::Verdict::Excluded:
+        Show_MessageBox(Text_Excluded);
+        break;
+    case Number_Acceptance::Verdict::Accepted:
+        Create_Num_Msg_List(judged.number, m_composer->Text());
+        Redisplay_Recipients();
+        m_ui->_numberEdit->clear();
+        break;
+    }
+    Focus(Field::Number);
+}
+
+void CorvaneAppDelegate::Clear_Sel_Btn()
+{
+    if (nsListDataObject.Count() == 0) {
+        Tell_And_Focus(Text_List_Empty, Field::Recipient_Table);
+        return;
+    }
+    const auto rows = Selected_Recipient_Rows();
+    if (rows.empty()) {
+        Tell_And_Focus(Text_None_Selected, Field::Recipient_Table);
+        return;
+    }
+    {
+        const auto sheet = Please_Wait();
+        Recipient_List list = nsListDataObject; // the table shows the present one until this one is whole
+        Run_On_Worker([&] { list.Remove_Rows(rows); });
+        std::swap(nsListDataObject, list);
+        Reload_And_Select_First(*m_ui->idTableView, *m_recipient_rows);
+        Update_List_Count();
+        Let_Go_Of(list);
+    }
+    if (nsListDataObject.Count() == 0) {
+        m_ui->_numberEdit->clear();
+        Focus(Field::Number);
+    }
+}
+
+void CorvaneAppDelegate::Remove_All_Recipients()
+{
+    Recipient_List list = std::exchange(nsListDataObject, Recipient_List());
+    Redisplay_Recipients();
+    Update_List_Count();
+    Let_Go_Of(list);
+}
+
+void CorvaneAppDelegate::Clear_All_Btn()
+{
+    if (nsListDataObject.Count() == 0) {
+        Show_MessageBox(Text_List_Empty);
+        return;
+    }
+    if (!Show_YES_NO_MessageBox(Text_Clear_All))
+        return;
+    const auto sheet = Please_Wait();
+    Remove_All_Recipients();
+    m_ui->_numberEdit->clear();
+    Focus(Field::Number);
+}
+
+void CorvaneAppDelegate::Reset_Btn()
+{
+    prev_composer_msg.clear();
+    m_ui->_numberEdit->clear();
+    m_composer->Clear();
+    Recipient_List list = std::exchange(nsListDataObject, Recipient_List());
+    Redisplay_Recipients();
+    Update_List_Count();
+    m_ui->_Msg_char_count->setText(QStringLiteral("0 Characters"));
+    m_ui->_Msg_TypeComboBox->setCurrentIndex(Normal_Message_Index);
+    for (auto* box : {m_ui->_Delayed_Delivry_Chk, m_ui->_Exclusion_Chk, m_ui->_Save_Sent_Item_Chk,
+                      m_ui->_Save_Templates_Chk, m_ui->_Skip_Duplicate_Chk, m_ui->_Unicode_SMS_Chk})
+        box->setChecked(false);
+    m_ui->idExclusionTableView->hide();
+    Show_Exclusion_Trouble({});
+    Delayed_Delivery_Chk();
+    Update_List_Count();
+    Focus(Field::Number);
+    Let_Go_Of(list);
+}
+
+void CorvaneAppDelegate::doubleClickInTable()
+{
+    const auto rows = Selected_Recipient_Rows();
+    if (rows.size() > 1)
+        Show_MessageBox(Text_Select_One);
+    else if (!rows.empty())
+        OnGetSelected();
+}
+
+void CorvaneAppDelegate::OnGetSelected()
+{
+    const auto rows = Selected_Recipient_Rows();
+    if (rows.empty())
+        return;
+    Open_Edit_Dialog(*this, rows.front());
+    if (!m_ui->_Exclusion_Chk->isChecked())
+        Show_Exclusion_Trouble({}); // the dialog's own box may have brought some up
+}
+
+void CorvaneAppDelegate::Fill_Msg_Btn()
+{
+    Open_Fill_Dialog(*this);
+}
+
+void CorvaneAppDelegate::Update_Sel_Msgs_Btn()
+{
+    Open_Update_Selected(*this);
+}
+
+std::vector<int> CorvaneAppDelegate::Selected_Recipient_Rows() const
+{
+    return Rows_Selected_In(*m_ui->idTableView);
+}
+
+void CorvaneAppDelegate::Replace_Recipients(Recipient_List recipients)
+{
+    std::swap(nsListDataObject, recipients);
+    Redisplay_Recipients();
+    Let_Go_Of(recipients);
+}
+
+void CorvaneAppDelegate::Replace_Recipient(int row, const QString& number, const QString& message)
+{
+    nsListDataObject.Replace(row, number, message);
+    Redisplay_Recipients();
+}
+
+void CorvaneAppDelegate::Redisplay_Recipients()
+{
+    m_recipient_rows->Reload();
+}
+
+// ---- Import and export
+
+void CorvaneAppDelegate::Load_Number()
+{
+    m_ui->_numberEdit->clear();
+    if (nsListDataObject.Count() > 0) {
+        const int answer = Load_Num_Info(this).exec();
+        if (Program_Is_Exiting() || (answer != Load_Num_Info::Remove_Numbers && answer != Load_Num_Info::Keep_Numbers))
+            return; // leaving ends the dialog as well
+        if (answer == Load_Num_Info::Remove_Numbers)
+            Remove_All_Recipients();
+    }
+    if (const auto path = Ask_For_File_To_Open(this))
+        Load_NUM_Thread(*path);
+}
+
+void CorvaneAppDelegate::Load_NUM_Thread(const QString& path)
+{
+    prev_list_item = nsListDataObject.Count();
+    m_ui->_sent_btn->setEnabled(false);
+    Show_Create_Modeless();
+    m_import->Load_NUM_Thread({path, nsListDataObject, nsExclusionListDataObject, m_composer->Text(),
+                               m_ui->_Skip_Duplicate_Chk->isChecked(), m_ui->_Exclusion_Chk->isChecked()});
+}
+
+// What broke off an import is in the log; the recipients that had come by then stay.
+void CorvaneAppDelegate::End_Import()
+{
+    Hide_Destroy_Modeless();
+    Redisplay_Recipients();
+    m_ui->_sent_btn->setEnabled(true);
+}
+
+void CorvaneAppDelegate::Show_Import_Progress(int count, int percent)
+{
+    Show_List_Count(count);
+    m_please_wait->Show_Progress(percent);
+}
+
+void CorvaneAppDelegate::Take_Over_Imported(Recipient_List& recipients)
+{
+    std::swap(nsListDataObject, recipients);
+    if (nsListDataObject.Count() != prev_list_item)
+        Remember_Composer_Text();
+    Update_List_Count();
+}
+
+void CorvaneAppDelegate::Leave_Import_Unread()
+{
+    Redisplay_Recipients();
+    m_ui->_sent_btn->setEnabled(true);
+    m_please_wait->Let_Go(); // nothing is told: the sheet stays, and the user closes it
+}
+
+void CorvaneAppDelegate::Finish_Import()
+{
+    Hide_Destroy_Modeless();
+    Redisplay_Recipients();
+    if (nsListDataObject.Count() == 0 || nsListDataObject.Count() == prev_list_item)
+        Show_MessageBox(Text_Nothing_Imported);
+    End_Import();
+}
+
+void CorvaneAppDelegate::Export_Btn()
+{
+    if (nsListDataObject.Count() == 0) {
+        Tell_And_Focus(Text_List_Empty, Field::Number);
+        return;
+    }
+    const auto path = Ask_For_File_To_Save(this, QStringLiteral("txt"));
+    if (!path)
+        return;
+    auto sheet = Please_Wait();
+    Export_File_Path = With_Extension(*path, QStringLiteral("txt"));
+    bool is_written = false;
+    try {
+        Run_On_Worker(
+            [&, path = Export_File_Path, list = nsListDataObject] { is_written = Write_Contact_List(path, list); });
+    } catch (const std::exception& failure) {
+        Show_NSLog_Message(QString::fromLocal8Bit(failure.what()));
+    }
+    sheet.reset();
+    if (!is_written) {
+        Show_MessageBox(Text_File_Error);
+        return;
+    }
+    raise();
+    activateWindow();
+    Open_Export_Log::defaultInstance()->Open_Dialog(this);
+}
+
+void CorvaneAppDelegate::controlTextDidChange()
+{
+    Cut_Line(*m_ui->_numberEdit, Number_Rules::Longest_Number);
+}

@@ -1,0 +1,21 @@
+#include "windows/main/Hyperlink.h"
+
+#include <QLabel>
+
+QString hyperlinkFromString(const QString& text, const QString& url)
+{
+    return QStringLiteral("<a href=\"") + url.toHtmlEscaped() +
+           QStringLiteral("\"><span style=\"color:#0000ff; text-decoration:underline;\">") + text.toHtmlEscaped() +
+           QStringLiteral("</span></a>");
+}
+
+void setHyperlinkWithTextField(QLabel& text_field)
+{
+    text_field.setTextFormat(Qt::RichText);
+    text_field.setText(
+        hyperlinkFromString(QStringLiteral("No Mobile Phone Device is selected. Click here to start Mobile Phone "
+                                           "Connection Wizard."),
+                            QStringLiteral("corvane:connection-wizard")));
+    text_field.setTextInteractionFlags(Qt::TextBrowserInteraction);
+    text_field.setCursor(Qt::OpenHandCursor);
+}

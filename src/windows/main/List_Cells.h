@@ -1,0 +1,13 @@
+#pragma once
+
+#include "list/Exclusion_Set.h"
+#include "list/Recipient_List.h"
+
+#include <QString>
+
+// What the tables of the main window ask of their lists.
+
+/// The value of a recipient under a column's identifier. Throws Invalid_Parameter for a row outside the list.
+QString Recipient_Cell(const Recipient_List& nsListDataObject, const QString& identifier, int pRowIndex);
+/// The same for the exclusion set.
+QString Exclusion_Cell(const Exclusion_Set& nsExclusionListDataObject, const QString& identifier, int pRowIndex);

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "engine/Send_Progress.h"
+#include "toolkit/Modal_Sheet.h"
+
+#include <QTimer>
+#include <atomic>
+#include <functional>
+#include <memory>
+
+namespace Ui {
+class Send_Modeless;
+}
+
+// The progress window of a send job, a sheet over the main window. The one shared instance belongs to the interface
+// thread like every window; what it does as a Send_Progress may be called from the job's thread and hops over here.
+class Send_Modeless : public Modal_Sheet, public Send_Progress
+{
+    Q_OBJECT
+
+public:
+    explicit Send_Modeless(QWidget* parent = nullptr);
+    ~Send_Modeless() override;
+
+    static Send_Modeless* defaultInstance();
+
+    /// Over the main window, which is given its input back: from then on this keeps it away.
+    void Begin_Preparing(int total) override;
+    void Begin_Sending() override;
+    void Show_Item(int position, int total, const QString& number) override;
+    void Show_Current(const QString& text) override;
+    /// Hides the window. A stop question that is still open counts as answered No.
+    void End() override;
+    void Begin_Pause() override;
+    void Show_Pause(const QString& text) override;
+    void End_Pause() override;
+    void startTimerThread() override;
+    void Stop_Timers() override;
+
+    /// The stop button, and the window's close button: asks, and on Yes sets Stop_SMS_Sending_Now. From then on until
+    /// the next job the button tells so and can not be pressed.
+    void Stop_Sending_Pressed();
+    /// One step of the activity bar, every half second: onwards by 20, and from 100 to the start.
+    void Timer_Curr_Prg_Send_Modeless();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void Make_Room_For_Texts();
+    void Show_Stop_Asked_For(bool is_asked_for);
+    void Tell_State(const QString& detail);
+    void Show_Sending_Controls(bool visible);
+    void Show_Current_Item(bool visible);
+
+    std::unique_ptr<Ui::Send_Modeless> m_ui;
+    QString m_stop_caption; // as it is before it was pressed
+    QTimer msend_modTimer{this};
+    std::atomic<bool> m_is_item_on_its_way{false}; // to the interface thread, which has not shown it yet
+};

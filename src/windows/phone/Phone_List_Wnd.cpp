@@ -1,0 +1,407 @@
+#include "windows/phone/Phone_List_Wnd.h"
+
+#include "device/Chosen_Device.h"
+#include "doctor/Phone_Search.h"
+#include "list/Custom_Smsc_Rules.h"
+#include "platform/Interface_Thread.h"
+#include "platform/Thread_Shortage.h"
+#include "platform/Waiting.h"
+#include "toolkit/Input_Hold.h"
+#include "toolkit/Key_Actions.h"
+#include "toolkit/Line_Edit_Limit.h"
+#include "toolkit/Main_Window.h"
+#include "toolkit/Message_Boxes.h"
+#include "toolkit/PleaseWait_Modeless.h"
+#include "toolkit/Row_Table_Model.h"
+#include "toolkit/Shared_Instance.h"
+#include "toolkit/Whole_Text_Delegate.h"
+#include "toolkit/Window_Look.h"
+#include "ui_Phone_List_Wnd.h"
+
+#include <QApplication>
+#include <QHeaderView>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+
+namespace {
+
+constexpr char List_Is_Empty[] = "Device list is empty.";
+constexpr char Still_Searching[] = "Still searching for devices. Please wait ...";
+constexpr char None_Selected[] = "Please select device from list.";
+constexpr char Custom_Smsc_Invalid[] = "Please enter a valid Custom SMSC number.";
+
+constexpr double Wait_Before_Opening_Seconds = 1.0;
+constexpr int Letters_Of_A_Name = 36; // of a device, always in sight
+
+// What a device says may be long: the field shows its beginning.
+void Show_Text(QLineEdit& field, const QString& text)
+{
+    field.setText(text);
+    field.setCursorPosition(0);
+}
+
+} // namespace
+
+// Sets ph_find_thread while a search runs, and ends the search in the window on every way out.
+class Phone_List_Wnd::Search_Run
+{
+public:
+    explicit Search_Run(Phone_List_Wnd& window) : m_window(window) { ph_find_thread = 1; }
+    ~Search_Run()
+    {
+        Run_On_Interface_Thread([this] { m_window.End_Search(); });
+    }
+    Search_Run(const Search_Run&) = delete;
+    Search_Run& operator=(const Search_Run&) = delete;
+
+private:
+    Phone_List_Wnd& m_window;
+};
+
+Phone_List_Wnd::Phone_List_Wnd(QWidget* parent, Port_Finder& finder, Serial_Calls& calls)
+    : QDialog(parent), m_ui(std::make_unique<Ui::Phone_List_Wnd>()), mfc_sms_obj(calls, finder),
+      plz_wait_Window(std::make_unique<PleaseWait_Modeless>()), m_own_workers(std::make_shared<std::atomic<int>>(0))
+{
+    m_ui->setupUi(this);
+    Apply_Window_Look(*this, Letters{.columns = 120, .lines = 40});
+    Set_Up_Table();
+    Connect_Controls();
+    Custom_SMSC_Pressed();
+}
+
+Phone_List_Wnd::~Phone_List_Wnd()
+{
+    End_Run();
+}
+
+Phone_List_Wnd* Phone_List_Wnd::defaultInstance()
+{
+    return Shared_Instance<Phone_List_Wnd>::Get();
+}
+
+void Phone_List_Wnd::Set_Up_Table()
+{
+    m_table_model = std::make_unique<Row_Table_Model>(
+        std::vector<Row_Table_Model::Column>{{QStringLiteral("COM_PORT"), tr("Port")},
+                                             {QStringLiteral("PORT_DETAL"), tr("Device path")}},
+        [this] { return nsPortListData.Count(); },
+        [this](const QString& identifier, int row) { return nsPortListData.Value(identifier, row); });
+    m_ui->idPortList->setModel(m_table_model.get());
+    m_ui->idPortList->setItemDelegate(new Whole_Text_Delegate(m_ui->idPortList));
+    m_ui->idPortList->verticalScrollBar()->setObjectName(QStringLiteral("idPortListsclview"));
+    m_ui->idPortList->horizontalHeader()->setHighlightSections(false);
+    m_ui->idPortList->horizontalHeader()->setStretchLastSection(true);
+    m_ui->idPortList->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    m_ui->idPortList->verticalHeader()->hide();
+    m_ui->idPortList->setMinimumWidth(m_ui->idPortList->fontMetrics().averageCharWidth() * Letters_Of_A_Name);
+}
+
+void Phone_List_Wnd::Connect_Controls()
+{
+    connect(m_ui->_Search_Btn, &QPushButton::clicked, this, &Phone_List_Wnd::Search_dev_Pressed);
+    connect(m_ui->_Select_Btn, &QPushButton::clicked, this, &Phone_List_Wnd::Sel_Device_Pressed);
+    connect(m_ui->_Cancel_Btn, &QPushButton::clicked, this, &Phone_List_Wnd::ContinueOfflinePressed);
+    connect(m_ui->_cus_smsc_chk, &QCheckBox::toggled, this, &Phone_List_Wnd::Custom_SMSC_Pressed);
+    connect(m_ui->_cus_smsc_edit, &QLineEdit::textChanged, this, &Phone_List_Wnd::controlTextDidChange);
+    connect(m_ui->idPortList->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &Phone_List_Wnd::tableViewSelectionDidChange);
+    Give_Table_Keys(*m_ui->idPortList, {});
+    Act_On_Keys(*m_ui->idPortList, Return_Keys, [this] {
+        if (m_ui->idPortList->selectionModel()->hasSelection())
+            Sel_Device_Pressed();
+    });
+}
+
+int Phone_List_Wnd::Open_Ph_List_Wnd()
+{
+    if (Main_App_wnd && parentWidget() != Main_App_wnd->Window())
+        setParent(Main_App_wnd->Window(), windowFlags());
+    {
+        const Search_Run search(*this);
+        Find_Ph_List();
+    }
+    Wait_Seconds(Wait_Before_Opening_Seconds);
+    const int result = Program_Is_Exiting() ? Rejected : exec();
+    hide();
+    End_Run();
+    return result;
+}
+
+// ------------------------------------------------------------------------------------------------------ the search
+
+void Phone_List_Wnd::Search_dev_Pressed()
+{
+    // The flag is set here already, so that a second press finds it before the worker has begun.
+    if (ph_find_thread.exchange(1) != 1)
+        Start_Own_Worker("find phones", &Phone_List_Wnd::Find_Ph_Thread);
+}
+
+void Phone_List_Wnd::Find_Ph_Thread()
+{
+    const Search_Run search(*this);
+    Find_Ph_List();
+}
+
+void Phone_List_Wnd::Find_Ph_List()
+{
+    Run_On_Interface_Thread([this] { Empty_For_Search(); });
+    Run_On_Worker([this] {
+        const auto turn = Device_Turn();
+        Search_Phones(mfc_sms_obj, *this);
+    });
+    Run_On_Interface_Thread([this] { m_ui->idPortList->verticalScrollBar()->setValue(0); });
+}
+
+// Whoever has the device may be in need of the interface thread: that one serves while it waits for its turn.
+std::unique_lock<std::mutex> Phone_List_Wnd::Device_Turn()
+{
+    std::unique_lock turn(m_device_turn, std::defer_lock);
+    if (Is_Interface_Thread())
+        Await_Worker([&turn] { return turn.try_lock(); });
+    else
+        turn.lock();
+    return turn;
+}
+
+void Phone_List_Wnd::Empty_For_Search()
+{
+    Show_Searching(true);
+    Prev_Index = Phone_List::No_Row;
+    nsPortListData.Clear();
+    m_table_model->Reload();
+    m_ui->idPortList->setFocus();
+    m_ui->_comport_edit->clear();
+    m_ui->_port_det_edit->clear();
+    Empty_Details();
+}
+
+void Phone_List_Wnd::Insert_port_in_List(const QString& path)
+{
+    Run_On_Interface_Thread([&] { Create_Port_List(Phone_List::Display_Name(path), path, {}, {}); });
+}
+
+void Phone_List_Wnd::Create_Port_List(const QString& name, const QString& Port_Det, const QString& Port_stat,
+                                      const QString& Port_IMEI)
+{
+    if (nsPortListData.Create_Port_List(name, Port_Det, Port_stat, Port_IMEI))
+        m_table_model->Reload();
+}
+
+void Phone_List_Wnd::End_Search()
+{
+    // A row clicked during the search was passed over; it must not stay highlighted, or a click on it would be no
+    // change.
+    m_ui->idPortList->selectionModel()->clear();
+    Show_Searching(false);
+    ph_find_thread = 0;
+}
+
+// The list fills while the search goes on, and stays empty for as long as the first devices keep it waiting.
+void Phone_List_Wnd::Show_Searching(bool is_searching)
+{
+    if (is_searching == m_is_searching_shown)
+        return;
+    m_is_searching_shown = is_searching;
+    m_ui->device_box->setTitle(is_searching ? tr("Searching for devices ...") : tr("Devices found"));
+    if (is_searching)
+        QApplication::setOverrideCursor(Qt::BusyCursor); // for the search before the window opens, too
+    else
+        QApplication::restoreOverrideCursor();
+}
+
+// ------------------------------------------------------------------------------------------------------- the probe
+
+void Phone_List_Wnd::tableViewSelectionDidChange()
+{
+    if (ph_find_thread == 1)
+        return;
+    const auto selected = m_ui->idPortList->selectionModel()->selectedRows();
+    if (selected.isEmpty()) {
+        if (nsPortListData.Is_Row(Prev_Index))
+            m_ui->idPortList->selectRow(static_cast<int>(Prev_Index));
+        return;
+    }
+    const auto index = static_cast<unsigned>(selected.first().row());
+    if (index == Prev_Index)
+        return;
+    Prev_Index = index;
+    Show_Picked_Row();
+    Empty_Details();
+    m_input_hold = std::make_unique<Input_Hold>(this);
+    Start_Own_Worker("probe phone", &Phone_List_Wnd::Find_Ph_Value_Thread);
+}
+
+void Phone_List_Wnd::Show_Picked_Row()
+{
+    Show_Text(*m_ui->_comport_edit, nsPortListData.Name(Prev_Index));
+    Show_Text(*m_ui->_port_det_edit, nsPortListData.Path(Prev_Index));
+}
+
+void Phone_List_Wnd::Empty_Details()
+{
+    for (int value = 0; value < Phone_Value_Count; ++value)
+        Set_Phone_Value(static_cast<Phone_Value>(value), {});
+    m_ui->_cus_smsc_edit->clear();
+    m_ui->_cus_smsc_chk->setChecked(false);
+}
+
+void Phone_List_Wnd::Find_Ph_Value_Thread()
+{
+    const auto turn = Device_Turn();
+    Run_On_Interface_Thread([] { Cus_SMS_Num_STR.clear(); });
+    QString fault;
+    {
+        const Shown_Sheet sheet(*this);
+        fault = OnGetSelected();
+        Run_On_Interface_Thread([this] { port.Close(); });
+    }
+    // Nobody is asked to wait while there is something to read.
+    if (!fault.isEmpty())
+        Tell_About_Device(fault);
+}
+
+QString Phone_List_Wnd::OnGetSelected()
+{
+    QString path;
+    Run_On_Interface_Thread([&] {
+        if (!nsPortListData.Is_Row(Prev_Index))
+            return;
+        Show_Picked_Row();
+        path = nsPortListData.Path(Prev_Index);
+    });
+    return path.isEmpty() ? QString() : Phone_Probe(mfc_sms_obj, *this).Read_Details(path);
+}
+
+void Phone_List_Wnd::Set_Phone_Value(Phone_Value value, const QString& text)
+{
+    Run_On_Interface_Thread([&] {
+        // A copy of the window's own: the text is a worker's.
+        if (auto* field = findChild<QLineEdit*>(QLatin1String(Phone_Value_Field(value))))
+            Show_Text(*field, QString(text.constData(), text.size()));
+    });
+}
+
+void Phone_List_Wnd::Show_Create_Modeless()
+{
+    Run_On_Interface_Thread([this] {
+        if (isVisible())
+            plz_wait_Window->Begin_Sheet(this);
+        m_input_hold.reset();
+    });
+}
+
+void Phone_List_Wnd::Hide_Destroy_Modeless()
+{
+    Run_On_Interface_Thread([this] { plz_wait_Window->End_Sheet(); });
+}
+
+void Phone_List_Wnd::Tell_About_Device(const QString& text)
+{
+    // A window that was left meanwhile has nobody to tell it to.
+    Run_On_Interface_Thread([&] {
+        if (isVisible())
+            Show_MessageBox(text);
+    });
+}
+
+// -------------------------------------------------------------------------------------------- selecting the device
+
+void Phone_List_Wnd::Custom_SMSC_Pressed()
+{
+    const bool is_custom = m_ui->_cus_smsc_chk->isChecked();
+    m_ui->_def_smsc_edit->setEnabled(!is_custom);
+    m_ui->_cus_smsc_edit->setEnabled(is_custom);
+}
+
+void Phone_List_Wnd::controlTextDidChange()
+{
+    Cut_Line(*m_ui->_cus_smsc_edit, Custom_Smsc_Rules::Longest_Typed);
+}
+
+void Phone_List_Wnd::Sel_Device_Pressed()
+{
+    Phone_Selected_Func();
+}
+
+void Phone_List_Wnd::Phone_Selected_Func()
+{
+    if (m_is_selecting || !May_Be_Selected())
+        return;
+    Show_Picked_Row();
+    const QString name = nsPortListData.Name(Prev_Index);
+    const QString path = nsPortListData.Path(Prev_Index);
+    if (!Check_Picked_Device(path))
+        return;
+    sel_port_name_str = name;
+    sel_port_bsd_str = path;
+    Cus_SMS_Num_STR = m_ui->_cus_smsc_chk->isChecked() ? m_ui->_cus_smsc_edit->text() : QString();
+    done(Accepted);
+}
+
+bool Phone_List_Wnd::May_Be_Selected()
+{
+    if (!nsPortListData.Is_Row(Prev_Index)) {
+        const char* empty = ph_find_thread == 1 ? Still_Searching : List_Is_Empty;
+        Show_MessageBox(nsPortListData.Count() == 0 ? empty : None_Selected);
+        m_ui->idPortList->setFocus();
+        return false;
+    }
+    if (m_ui->_cus_smsc_chk->isChecked() && !Custom_Smsc_Rules::Is_Valid(m_ui->_cus_smsc_edit->text())) {
+        Show_MessageBox(Custom_Smsc_Invalid);
+        m_ui->_cus_smsc_edit->setFocus();
+        return false;
+    }
+    return true;
+}
+
+bool Phone_List_Wnd::Check_Picked_Device(const QString& path)
+{
+    const Chosen_Centre centre{m_ui->_cus_smsc_chk->isChecked(), m_ui->_def_smsc_edit->text(),
+                               m_ui->_cus_smsc_edit->text()};
+    const QScopedValueRollback selecting(m_is_selecting, true);
+    // The window stays as it is until the check has ended: until its sheet is up, clicks and keys are dropped.
+    const Input_Hold input_hold(this);
+    bool is_fit = false;
+    Run_On_Worker(
+        [&] {
+            const auto turn = Device_Turn();
+            is_fit = Phone_Probe(mfc_sms_obj, *this).Check_For_Sending(path, centre);
+        },
+        User_Input::Served);
+    return is_fit;
+}
+
+void Phone_List_Wnd::ContinueOfflinePressed()
+{
+    sel_port_name_str.clear();
+    sel_port_bsd_str.clear();
+    done(Rejected);
+}
+
+void Phone_List_Wnd::reject()
+{
+    // While a device is being talked to, the window has to wait for it.
+    if (!m_is_selecting && !plz_wait_Window->isVisible())
+        ContinueOfflinePressed();
+}
+
+// ------------------------------------------------------------------------------------------------------ the workers
+
+void Phone_List_Wnd::Start_Own_Worker(const char* name, Step work)
+{
+    ++*m_own_workers;
+    Start_Worker(name, [this, work, own_workers = m_own_workers] {
+        const std::shared_ptr<void> counted_out(nullptr, [&](void*) { --*own_workers; });
+        (this->*work)();
+    });
+}
+
+// Nothing is left running behind a closed window, and nothing open. The workers are served while they are waited for.
+void Phone_List_Wnd::End_Run()
+{
+    Await_Worker([own_workers = m_own_workers] { return *own_workers == 0; });
+    Run_On_Worker([this] { Phone_Probe::Let_Go_Of_Port(mfc_sms_obj); });
+    port.Close();
+    m_input_hold.reset();
+    plz_wait_Window->End_Sheet();
+}

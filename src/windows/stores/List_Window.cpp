@@ -1,0 +1,311 @@
+#include "windows/stores/List_Window.h"
+
+#include "platform/Interface_Thread.h"
+#include "platform/Log_Line.h"
+#include "platform/Thread_Shortage.h"
+#include "platform/Waiting.h"
+#include "records/Export_Format.h"
+#include "toolkit/File_Panels.h"
+#include "toolkit/Input_Hold.h"
+#include "toolkit/List_Tables.h"
+#include "toolkit/Main_Window.h"
+#include "toolkit/Message_Boxes.h"
+#include "toolkit/PleaseWait_Modeless.h"
+#include "toolkit/Row_Table_Model.h"
+#include "toolkit/Window_Look.h"
+#include "windows/stores/Export_Option.h"
+#include "windows/stores/Open_Export_Log.h"
+#include "windows/stores/Store_Globals.h"
+
+#include <QItemSelectionModel>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QScopedValueRollback>
+#include <QTableView>
+#include <algorithm>
+
+namespace {
+
+constexpr char Clear_All_Question[] = "\nThis option will clear the entire list contents. Are you sure you want to "
+                                      "continue clearing the entire list?";
+constexpr char File_Error[] = "Error in file accessing.";
+
+constexpr double Wait_Before_Opening_Seconds = 1.0;
+
+// Does a step and returns whether it came to its end. One that fails, for want of memory above all, must not take the
+// window with it: nothing may be thrown out of what a button does.
+bool Succeeds(const std::function<void()>& step)
+{
+    try {
+        step();
+        return true;
+    } catch (const std::exception& failure) {
+        Show_NSLog_Message(QString::fromLocal8Bit(failure.what()));
+        return false;
+    }
+}
+
+} // namespace
+
+// The please-wait sheet over the window, for as long as this lives.
+class List_Window::Sheet
+{
+public:
+    explicit Sheet(List_Window& window) : m_window(window) { m_window.Show_Create_Modeless(); }
+    ~Sheet() { m_window.Hide_Destroy_Modeless(); }
+    Sheet(const Sheet&) = delete;
+    Sheet& operator=(const Sheet&) = delete;
+
+private:
+    List_Window& m_window;
+};
+
+List_Window::List_Window(QWidget* parent, const Texts& texts)
+    : QDialog(parent), m_texts(texts), plz_wait_Window(std::make_unique<PleaseWait_Modeless>()),
+      m_is_load_running(std::make_shared<std::atomic<bool>>(false))
+{
+}
+
+List_Window::~List_Window() = default;
+
+void List_Window::Set_Up_List(QTableView& table, std::unique_ptr<Row_Table_Model> rows, QLabel& count)
+{
+    m_table = &table;
+    m_count = &count;
+    m_rows = std::move(rows);
+    Prepare_List_Table(table, *m_rows);
+}
+
+void List_Window::Set_Up_Detail(QPlainTextEdit& detail)
+{
+    QPalette palette = detail.palette();
+    palette.setColor(QPalette::Base, Window_Background());
+    detail.setPalette(palette);
+}
+
+// ----------------------------------------------------------------------------------------- opening and loading
+
+int List_Window::Open_Window()
+{
+    if (m_is_open)
+        return 0;
+    const QScopedValueRollback open(m_is_open, true);
+    if (Main_App_wnd && parentWidget() != Main_App_wnd->Window())
+        setParent(Main_App_wnd->Window(), windowFlags());
+    Begin_Load();
+    Wait_Seconds(Wait_Before_Opening_Seconds);
+    int code = 0;
+    if (!Program_Is_Exiting()) {
+        Table().setFocus();
+        Post_To_Interface_Thread(this, [this] {
+            if (m_is_loading && isVisible())
+                Show_Create_Modeless();
+        });
+        code = exec();
+        hide(); // left standing by an exit of the program
+    }
+    Await_Load();
+    return code;
+}
+
+void List_Window::Begin_Load()
+{
+    m_is_loading = true;
+    m_is_whole = false;
+    m_is_left = false;
+    List_Will_Load();
+    m_input_hold = std::make_unique<Input_Hold>(this);
+    *m_is_load_running = true;
+    Start_Worker("load list", [this, is_running = m_is_load_running] {
+        const std::shared_ptr<void> ended(nullptr, [&](void*) { *is_running = false; });
+        Load_Thread();
+    });
+}
+
+void List_Window::Load_Thread()
+{
+    // Whichever way the load ends, the window goes on.
+    const std::shared_ptr<void> ended(nullptr, [this](void*) { Run_On_Interface_Thread([this] { End_Load(); }); });
+    LoadItems();
+    Run_On_Interface_Thread([this] {
+        List_Was_Loaded();
+        ListreloadData();
+        m_is_whole = true;
+    });
+}
+
+void List_Window::End_Load()
+{
+    m_is_loading = false;
+    if (!m_is_whole) { // half a list would pass for the whole
+        Begin_Anew();
+        Update_Count();
+    }
+    Hide_Destroy_Modeless();
+    m_input_hold.reset();
+    if (m_is_left)
+        Post_To_Interface_Thread(this, [this] { Cancel_Btn(); });
+}
+
+void List_Window::Await_Load()
+{
+    if (*m_is_load_running)
+        Await_Worker([is_running = m_is_load_running] { return !*is_running; });
+}
+
+void List_Window::Begin_Anew()
+{
+    Prev_Index = No_Index;
+    Remove_All_Rows();
+    ListreloadData();
+    List_Became_Empty();
+}
+
+void List_Window::ListreloadData()
+{
+    Rows().Reload();
+    Table().viewport()->update();
+}
+
+void List_Window::Update_Count()
+{
+    m_count->setText(QStringLiteral("Total Items : ") + QString::number(Count()));
+    if (Count() == Early_Reload_Count)
+        ListreloadData();
+}
+
+// ------------------------------------------------------------------------------------------------ the buttons
+
+void List_Window::Clear_Sel_Btn()
+{
+    if (Count() == 0) {
+        Tell(m_texts.empty_at_clear_selected);
+        return;
+    }
+    const auto selected = Rows_Selected_In(Table());
+    if (selected.empty()) {
+        Tell(m_texts.none_selected);
+        return;
+    }
+    const Sheet sheet(*this);
+    if (!Succeeds([&] { Remove_Rows(selected); }))
+        return;
+    Reload_And_Select_First(Table(), Rows());
+    Update_Count();
+    if (Count() == 0)
+        List_Became_Empty();
+}
+
+void List_Window::Clear_All_Btn()
+{
+    if (Count() == 0) {
+        Tell(m_texts.empty_at_clear_all);
+        return;
+    }
+    if (!Show_YES_NO_MessageBox(QLatin1String(Clear_All_Question)))
+        return;
+    const Sheet sheet(*this);
+    Succeeds([this] { Run_On_Worker([this] { Clear_File(); }, User_Input::Served); });
+    Remove_All_Rows();
+    ListreloadData();
+    Update_Count();
+    List_Became_Empty();
+}
+
+void List_Window::Cancel_Btn()
+{
+    if (m_is_closing)
+        return;
+    const QScopedValueRollback closing(m_is_closing, true);
+    Write_List();
+    Forget_File();
+    done(0);
+}
+
+void List_Window::reject()
+{
+    if (m_is_loading)
+        m_is_left = true;
+    else if (!plz_wait_Window->isVisible())
+        Cancel_Btn();
+}
+
+void List_Window::Write_List()
+{
+    bool is_written = false;
+    if (m_is_whole)
+        Work_Under_Sheet([&, rewrite = Rewriting()] { is_written = rewrite(); });
+    List_Was_Written(is_written);
+}
+
+// ------------------------------------------------------------------------------------------------- the export
+
+void List_Window::Export_Btn()
+{
+    if (Count() == 0) {
+        Tell(m_texts.empty_at_export);
+        return;
+    }
+    raise();
+    activateWindow();
+    SENT_EXPORT_MODE = Export_Format::Text_Mode;
+    if (Export_Option::defaultInstance()->Open_Dialog(this) != 1)
+        return;
+    const QString extension = Export_Format::Extension(SENT_EXPORT_MODE);
+    const auto chosen = Ask_For_File_To_Save(this, extension);
+    if (chosen && (SENT_EXPORT_MODE == Export_Format::Text_Mode || SENT_EXPORT_MODE == Export_Format::Html_Mode))
+        Write_Export_To(With_Extension(*chosen, extension));
+}
+
+void List_Window::Write_Export_To(const QString& path)
+{
+    Export_File_Path = path;
+    bool is_written = false;
+    Work_Under_Sheet([&, content = Content_To_Export(SENT_EXPORT_MODE)] { is_written = Write_Export(path, content); });
+    if (!is_written) {
+        Show_MessageBox(QLatin1String(File_Error));
+        return;
+    }
+    raise();
+    activateWindow();
+    Open_Export_Log::defaultInstance()->Open_Dialog(this);
+}
+
+// --------------------------------------------------------------------------------------------------- in common
+
+void List_Window::Tell(const char* text)
+{
+    Show_MessageBox(QLatin1String(text));
+    Table().setFocus();
+}
+
+int List_Window::First_Selected_Row() const
+{
+    int first = -1;
+    const auto ranges = Table().selectionModel()->selection();
+    for (const auto& range : ranges)
+        first = first < 0 ? range.top() : std::min(first, range.top());
+    return first;
+}
+
+void List_Window::Work_Under_Sheet(const std::function<void()>& work)
+{
+    const Sheet sheet(*this);
+    // The sheet is what keeps input away from the window.
+    Succeeds([&] { Run_On_Worker(work, User_Input::Served); });
+}
+
+void List_Window::Show_Create_Modeless()
+{
+    plz_wait_Window->Begin_Sheet(this);
+}
+
+void List_Window::Hide_Destroy_Modeless()
+{
+    plz_wait_Window->End_Sheet();
+}
+
+int List_Window::numberOfRowsInTableView(const QTableView* table) const
+{
+    return table == m_table ? Count() : 0;
+}

@@ -1,0 +1,134 @@
+#include "windows/stores/Sent_Items.h"
+
+#include "records/Export_Format.h"
+#include "records/Sent_Item_Format.h"
+#include "toolkit/Key_Actions.h"
+#include "toolkit/Row_Table_Model.h"
+#include "toolkit/Shared_Instance.h"
+#include "toolkit/Window_Look.h"
+#include "ui_Sent_Items.h"
+#include "windows/stores/Store_Globals.h"
+
+#include <QHeaderView>
+#include <QScrollBar>
+
+namespace {
+
+// As much of a value as can be laid out at once. A message is never longer than 1600 characters, but the file may hold
+// anything.
+constexpr int Longest_Shown = 10'000;
+
+QString As_Far_As_Shown(const QString& value)
+{
+    if (value.size() <= Longest_Shown)
+        return value;
+    return value.left(Longest_Shown) + QChar(0x2026) + u'\n' +
+           Sent_Items::tr("[ The first %1 of %2 characters ]").arg(Longest_Shown).arg(value.size());
+}
+
+} // namespace
+
+Sent_Items::Sent_Items(QWidget* parent)
+    : Store_Window(parent,
+                   {"Sent items list is empty.", "Sent items list is empty.", "Sent items list is empty.",
+                    "Please select at least one record from the sent items list to continue."},
+                   nsSendListData),
+      m_ui(std::make_unique<Ui::Sent_Items>())
+{
+    m_ui->setupUi(this);
+    Apply_Window_Look(*this, Letters{.columns = 120, .lines = 38});
+    Set_Up_Table();
+    Set_Up_Detail(*m_ui->_Mess_det_edit);
+    m_ui->_Mess_det_edit->setTabStopDistance(m_ui->_Mess_det_edit->fontMetrics().averageCharWidth() * 12);
+    connect(m_ui->Clear_Sel_Btn, &QPushButton::clicked, this, &Sent_Items::Clear_Sel_Btn);
+    connect(m_ui->Clear_All_Btn, &QPushButton::clicked, this, &Sent_Items::Clear_All_Btn);
+    connect(m_ui->Export_Btn, &QPushButton::clicked, this, &Sent_Items::Export_Btn);
+    connect(m_ui->Cancel_Btn, &QPushButton::clicked, this, &Sent_Items::Cancel_Btn);
+    Give_Table_Keys(*m_ui->idSendList, {nullptr, [this] { Clear_Sel_Btn(); }});
+    connect(m_ui->idSendList->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &Sent_Items::tableViewSelectionDidChange);
+    SENT_WND = this;
+}
+
+Sent_Items::~Sent_Items()
+{
+    Await_Load();
+    if (SENT_WND == this)
+        SENT_WND = nullptr;
+}
+
+Sent_Items* Sent_Items::defaultInstance()
+{
+    return Shared_Instance<Sent_Items>::Get();
+}
+
+void Sent_Items::Set_Up_Table()
+{
+    const auto* table = m_ui->idSendList;
+    std::vector<Row_Table_Model::Column> columns{{QStringLiteral("Number"), tr("Number")},
+                                                 {QStringLiteral("Message"), tr("Message")},
+                                                 {QStringLiteral("Date"), tr("Date")},
+                                                 {QStringLiteral("Status"), tr("Status")}};
+    Set_Up_List(*m_ui->idSendList,
+                std::make_unique<Row_Table_Model>(
+                    std::move(columns), [this, table] { return numberOfRowsInTableView(table); },
+                    [this, table](const QString& identifier, int row) { return tableView(table, identifier, row); }),
+                *m_ui->_sent_list_count);
+    const int letter = table->fontMetrics().averageCharWidth();
+    auto* header = m_ui->idSendList->horizontalHeader();
+    header->setStretchLastSection(false);
+    header->setSectionResizeMode(1, QHeaderView::Stretch); // the message takes what room there is
+    m_ui->idSendList->setColumnWidth(2, letter * 14);
+    m_ui->idSendList->setColumnWidth(3, letter * 14);
+    m_ui->idSendList->verticalScrollBar()->setObjectName(QStringLiteral("idSendListsclview"));
+}
+
+void Sent_Items::Open_Sent_Item_Wnd()
+{
+    Open_Window();
+}
+
+// ---------------------------------------------------------------------------------------------------- the list
+
+void Sent_Items::Create_Sent_Item_List(const QString& number, const QString& Message_str, const QString& Date_str,
+                                       const QString& Status_str)
+{
+    Add(Sent_Item_Format::Record(number, Message_str, Date_str, Status_str));
+}
+
+void Sent_Items::Update_Send_List_Count()
+{
+    Update_Count();
+}
+
+QString Sent_Items::tableView(const QTableView* table, const QString& objectValueForTableColumn, int pRowIndex) const
+{
+    return Value_In(table, objectValueForTableColumn, pRowIndex,
+                    "pRowIndex >= 0 && pRowIndex < [nsSendListData count]");
+}
+
+// ------------------------------------------------------------------------------------------- the selected record
+
+void Sent_Items::tableViewSelectionDidChange()
+{
+    const int row = First_Selected_Row();
+    if (row < 0 || row >= Count() || static_cast<unsigned>(row) == Prev_Index)
+        return;
+    Prev_Index = static_cast<unsigned>(row);
+    const Sent_Item item = nsSendListData.at(row);
+    m_ui->_Mess_det_edit->setPlainText(QStringLiteral("Number\t: ") + As_Far_As_Shown(item.Number) +
+                                       QStringLiteral("\r\n\r\nMessage\t: ") + As_Far_As_Shown(item.Message) +
+                                       QStringLiteral("\r\n\r\nDate:\t ") + As_Far_As_Shown(item.Date));
+}
+
+void Sent_Items::List_Became_Empty()
+{
+    m_ui->_Mess_det_edit->clear();
+}
+
+// -------------------------------------------------------------------------------------------------- the export
+
+Export_Content Sent_Items::Content_To_Export(int mode) const
+{
+    return Content(mode, Export_Format::Sent_Items_Header(mode), Export_Format::Sent_Item_Piece);
+}

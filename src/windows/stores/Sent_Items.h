@@ -1,0 +1,45 @@
+#pragma once
+
+#include "records/Sent_Item_List.h"
+#include "records/Sent_Item_Store.h"
+#include "windows/stores/Store_Window.h"
+
+namespace Ui {
+class Sent_Items;
+}
+
+// The window of the sent items: shows the file as a table and the selected record in full, deletes records and exports
+// them. The shared instance belongs to Shared_Instance, or to the main window once it was put over it; interface
+// thread.
+class Sent_Items : public Store_Window<Sent_Item_List, Sent_Item_Store>
+{
+    Q_OBJECT
+
+public:
+    explicit Sent_Items(QWidget* parent = nullptr);
+    ~Sent_Items() override;
+
+    static Sent_Items* defaultInstance();
+
+    /// Loads the file and runs the window until it is closed.
+    void Open_Sent_Item_Wnd();
+
+    /// Adds a record at the list's end, its number trimmed; nothing when the number is blank.
+    void Create_Sent_Item_List(const QString& number, const QString& Message_str, const QString& Date_str,
+                               const QString& Status_str);
+    void Update_Send_List_Count();
+    void tableViewSelectionDidChange();
+
+    /// The value of a record under a column's identifier. Throws Invalid_Parameter for a row outside the list.
+    QString tableView(const QTableView* table, const QString& objectValueForTableColumn, int pRowIndex) const;
+
+protected:
+    void List_Became_Empty() override;
+    Export_Content Content_To_Export(int mode) const override;
+
+private:
+    void Set_Up_Table();
+
+    const std::unique_ptr<Ui::Sent_Items> m_ui;
+    Sent_Item_List nsSendListData;
+};

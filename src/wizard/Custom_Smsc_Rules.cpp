@@ -1,8 +1,0 @@
-#include "wizard/Custom_Smsc_Rules.h"
-
-#include "app/shared/Number_Rules.h"
-
-bool Custom_Smsc_Rules::Is_Valid(const QString& typed)
-{
-    return !Number_Rules::Normalised_Number(typed).isEmpty();
-}

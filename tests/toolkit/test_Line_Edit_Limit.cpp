@@ -1,0 +1,84 @@
+#include "platform/Waiting.h"
+#include "toolkit/Line_Edit_Limit.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QLineEdit>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace {
+
+class Line_Edit_Limit : public testing::Test
+{
+protected:
+    Line_Edit_Limit()
+    {
+        QObject::connect(&m_field, &QLineEdit::textChanged, &m_field, [this] { Cut_Line(m_field, 20); });
+        m_field.show();
+        m_field.setFocus();
+    }
+
+    void Paste(const QString& text)
+    {
+        QGuiApplication::clipboard()->setText(text);
+        QTest::keySequence(&m_field, QKeySequence::Paste);
+    }
+
+    QLineEdit m_field;
+};
+
+TEST_F(Line_Edit_Limit, A_Paste_Of_25_Characters_Leaves_Its_First_20)
+{
+    Paste(QStringLiteral("1234567890123456789012345"));
+    EXPECT_EQ(m_field.text(), QStringLiteral("12345678901234567890"));
+    EXPECT_EQ(m_field.cursorPosition(), 20);
+}
+
+TEST_F(Line_Edit_Limit, Twenty_Characters_Stay_And_The_21st_Does_Not)
+{
+    QTest::keyClicks(&m_field, QStringLiteral("12345678901234567890"));
+    EXPECT_EQ(m_field.text(), QStringLiteral("12345678901234567890"));
+    QTest::keyClicks(&m_field, QStringLiteral("x"));
+    EXPECT_EQ(m_field.text(), QStringLiteral("12345678901234567890"));
+}
+
+TEST_F(Line_Edit_Limit, The_Result_Is_Cut_And_Not_The_Pasted_Piece_And_The_Cursor_Stays)
+{
+    m_field.setText(QStringLiteral("abcdefghijklmnopqrst"));
+    m_field.setCursorPosition(2);
+    Paste(QStringLiteral("123"));
+    EXPECT_EQ(m_field.text(), QStringLiteral("ab123cdefghijklmnopq"));
+    EXPECT_EQ(m_field.cursorPosition(), 5);
+}
+
+TEST_F(Line_Edit_Limit, Line_Breaks_Become_Blanks)
+{
+    Paste(QStringLiteral("1\n2\r\n3\r4\u20285\u20296"));
+    EXPECT_EQ(m_field.text(), QStringLiteral("1 2 3 4 5 6"));
+    EXPECT_EQ(m_field.cursorPosition(), 11);
+}
+
+TEST_F(Line_Edit_Limit, A_Text_Set_By_The_Program_Is_Kept_Within_As_Well)
+{
+    m_field.setText(QString(30, u'1'));
+    EXPECT_EQ(m_field.text(), QString(20, u'1'));
+}
+
+TEST_F(Line_Edit_Limit, A_Megabyte_Is_Taken_In_Without_Trouble)
+{
+    const double begin = Now_Seconds();
+    Paste(QString(1024 * 1024, u'7'));
+    EXPECT_EQ(m_field.text(), QString(20, u'7'));
+    Paste(QString(1024 * 1024, u'\n'));
+    EXPECT_EQ(m_field.text(), QString(20, u'7'));
+    EXPECT_LT(Now_Seconds() - begin, 60) << "seconds; a slow machine under a sanitizer takes ten";
+}
+
+TEST_F(Line_Edit_Limit, Units_Are_Counted_And_Not_Characters)
+{
+    Paste(QString(19, u'1') + QStringLiteral("\U0001F600"));
+    EXPECT_EQ(m_field.text(), QString(19, u'1') + QChar(0xD83D));
+}
+
+} // namespace

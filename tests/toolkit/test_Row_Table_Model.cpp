@@ -1,0 +1,159 @@
+#include "toolkit/Row_Table_Model.h"
+
+#include <QAbstractItemModelTester>
+#include <QItemSelectionModel>
+#include <QPixmap>
+#include <QSignalSpy>
+#include <QTableView>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace {
+
+class Row_Table : public testing::Test
+{
+protected:
+    QString Shown(int row, int column) const { return m_model.index(row, column).data().toString(); }
+
+    int m_rows = 0;
+    int m_reads = 0;
+    std::function<QString(const QString&, int)> m_cell = [](const QString& identifier, int row) {
+        return identifier + QLatin1Char(' ') + QString::number(row);
+    };
+    Row_Table_Model m_model{{{QStringLiteral("Number"), QStringLiteral("Phone number")},
+                             {QStringLiteral("Message"), QStringLiteral("Text")}},
+                            [this] { return m_rows; },
+                            [this](const QString& identifier, int row) {
+                                ++m_reads;
+                                return m_cell(identifier, row);
+                            }};
+};
+
+QList<int> Rows_Of(const QModelIndexList& indexes)
+{
+    QList<int> rows;
+    for (const auto& index : indexes)
+        rows += index.row();
+    std::sort(rows.begin(), rows.end());
+    return rows;
+}
+
+} // namespace
+
+TEST_F(Row_Table, A_Cell_Shows_The_Value_Under_Its_Columns_Identifier)
+{
+    m_rows = 3;
+    m_model.Reload();
+    EXPECT_EQ(m_model.rowCount(), 3);
+    EXPECT_EQ(m_model.columnCount(), 2);
+    EXPECT_EQ(Shown(2, 0), QLatin1String("Number 2"));
+    EXPECT_EQ(Shown(0, 1), QLatin1String("Message 0"));
+    EXPECT_FALSE(m_model.data(m_model.index(0, 0), Qt::DecorationRole).isValid());
+    EXPECT_FALSE(m_model.data({}, Qt::DisplayRole).isValid());
+    EXPECT_EQ(m_model.rowCount(m_model.index(0, 0)), 0);
+    EXPECT_EQ(m_model.columnCount(m_model.index(0, 0)), 0);
+}
+
+TEST_F(Row_Table, Cells_Cannot_Be_Edited_In_Place)
+{
+    m_rows = 1;
+    m_model.Reload();
+    EXPECT_FALSE(m_model.flags(m_model.index(0, 0)).testFlag(Qt::ItemIsEditable));
+    EXPECT_FALSE(m_model.setData(m_model.index(0, 0), QStringLiteral("other")));
+    EXPECT_EQ(Shown(0, 0), QLatin1String("Number 0"));
+}
+
+TEST_F(Row_Table, Headings_Are_Titles_And_Row_Numbers_From_1)
+{
+    EXPECT_EQ(m_model.headerData(0, Qt::Horizontal, Qt::DisplayRole).toString(), QLatin1String("Phone number"));
+    EXPECT_EQ(m_model.headerData(1, Qt::Horizontal, Qt::DisplayRole).toString(), QLatin1String("Text"));
+    EXPECT_EQ(m_model.headerData(2, Qt::Horizontal, Qt::DisplayRole).toString(), QString());
+    EXPECT_EQ(m_model.headerData(0, Qt::Vertical, Qt::DisplayRole).toInt(), 1);
+    EXPECT_FALSE(m_model.headerData(0, Qt::Horizontal, Qt::FontRole).isValid());
+}
+
+TEST_F(Row_Table, A_Long_Message_With_Line_Breaks_Is_Given_Whole)
+{
+    const QString message =
+        QStringLiteral("a\r\nb\rc\vd") + QChar(QChar::LineSeparator) + QStringLiteral("e\n") + QString(1'000'000, u'x');
+    m_rows = 1;
+    m_cell = [&](const QString&, int) { return message; };
+    m_model.Reload();
+    EXPECT_EQ(Shown(0, 0), message);
+}
+
+TEST_F(Row_Table, What_The_Table_Shows_Changes_At_A_Reload_Only)
+{
+    m_rows = 3;
+    EXPECT_EQ(m_model.rowCount(), 0);
+    m_model.Reload();
+    m_rows = 1;
+    EXPECT_EQ(m_model.rowCount(), 3);
+    EXPECT_EQ(Shown(0, 0), QLatin1String("Number 0"));
+    m_reads = 0;
+    EXPECT_EQ(Shown(2, 0), QString()) << "a row that has gone";
+    EXPECT_EQ(m_reads, 0) << "is not even asked for";
+    m_model.Reload();
+    EXPECT_EQ(m_model.rowCount(), 1);
+}
+
+TEST_F(Row_Table, A_Reload_Tells_Views_The_Truth)
+{
+    const QAbstractItemModelTester tester(&m_model, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    QSignalSpy inserted(&m_model, &QAbstractItemModel::rowsInserted);
+    QSignalSpy removed(&m_model, &QAbstractItemModel::rowsRemoved);
+    QSignalSpy changed(&m_model, &QAbstractItemModel::dataChanged);
+    for (const int rows : {0, 5, 5, 2, 9, 0}) {
+        m_rows = rows;
+        m_model.Reload();
+        EXPECT_EQ(m_model.rowCount(), rows);
+    }
+    EXPECT_EQ(inserted.size(), 2);
+    EXPECT_EQ(removed.size(), 2);
+    EXPECT_EQ(changed.size(), 4);
+    EXPECT_EQ(changed[2][1].toModelIndex().column(), 1);
+}
+
+TEST_F(Row_Table, A_Reload_Keeps_The_Selection_Of_Rows_That_Still_Exist)
+{
+    m_rows = 10;
+    m_model.Reload();
+    QTableView view;
+    view.setSelectionBehavior(QAbstractItemView::SelectRows);
+    view.setModel(&m_model);
+    QSignalSpy resets(&m_model, &QAbstractItemModel::modelReset);
+    for (const int row : {1, 4, 8})
+        view.selectionModel()->select(m_model.index(row, 0), QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    m_rows = 20;
+    m_model.Reload();
+    EXPECT_EQ(Rows_Of(view.selectionModel()->selectedRows()), (QList<int>{1, 4, 8}));
+    m_rows = 5;
+    m_model.Reload();
+    EXPECT_EQ(Rows_Of(view.selectionModel()->selectedRows()), (QList<int>{1, 4}));
+    EXPECT_EQ(resets.size(), 0);
+}
+
+TEST_F(Row_Table, A_Million_Rows_Are_Served_On_Demand)
+{
+    QTableView view;
+    view.setModel(&m_model);
+    view.resize(800, 600);
+    view.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&view));
+    m_rows = 1'000'000;
+    m_model.Reload();
+    view.grab();
+    EXPECT_GT(m_reads, 0);
+    EXPECT_LT(m_reads, 2000) << "cells asked for to draw the first page";
+    m_reads = 0;
+    view.scrollToBottom();
+    view.grab();
+    EXPECT_GT(m_reads, 0);
+    EXPECT_LT(m_reads, 2000) << "cells asked for to draw the last page";
+    EXPECT_EQ(Shown(999'999, 0), QLatin1String("Number 999999"));
+    view.selectAll();
+    m_reads = 0;
+    m_model.Reload();
+    EXPECT_EQ(m_reads, 0) << "a reload asks for nothing itself";
+    EXPECT_TRUE(view.selectionModel()->isRowSelected(999'999));
+}

@@ -1,0 +1,131 @@
+#include "toolkit/Message_Boxes.h"
+#include "toolkit/PleaseWait_Modeless.h"
+#include "toolkit/Window_Look.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QProgressBar>
+#include <QTest>
+#include <QVBoxLayout>
+#include <cmath>
+#include <gtest/gtest.h>
+
+namespace {
+
+// WCAG 2.1: relative luminance, and the contrast of two colours.
+double Luminance(const QColor& colour)
+{
+    const auto linear = [](double part) {
+        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
+}
+
+double Contrast(const QColor& first, const QColor& second)
+{
+    const double a = Luminance(first);
+    const double b = Luminance(second);
+    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+}
+
+struct Pair
+{
+    const char* name;
+    QPalette::ColorRole text;
+    QPalette::ColorRole ground;
+};
+
+const Pair Pairs[]{{"labels", QPalette::WindowText, QPalette::Window},
+                   {"fields", QPalette::Text, QPalette::Base},
+                   {"striped rows", QPalette::Text, QPalette::AlternateBase},
+                   {"buttons", QPalette::ButtonText, QPalette::Button},
+                   {"selections", QPalette::HighlightedText, QPalette::Highlight},
+                   {"tool tips", QPalette::ToolTipText, QPalette::ToolTipBase},
+                   {"links", QPalette::Link, QPalette::Window},
+                   {"links in fields", QPalette::Link, QPalette::Base}};
+
+class Window_Look_In_The_Dark : public testing::Test
+{
+protected:
+    Window_Look_In_The_Dark()
+    {
+        QPalette dark(QColor(0x20, 0x20, 0x20));
+        for (int role = 0; role < QPalette::NColorRoles; ++role)
+            dark.setColor(static_cast<QPalette::ColorRole>(role), QColor(0x20, 0x20, 0x20));
+        for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::PlaceholderText,
+                                QPalette::ToolTipText, QPalette::HighlightedText})
+            dark.setColor(role, Qt::white);
+        QApplication::setPalette(dark);
+        Apply_Application_Look(*qApp);
+    }
+};
+
+} // namespace
+
+TEST_F(Window_Look_In_The_Dark, The_Background_Is_The_Given_One)
+{
+    EXPECT_EQ(Window_Background().name(), QLatin1String("#f1f4fa"));
+    QWidget window;
+    QPalette odd;
+    odd.setColor(QPalette::Window, Qt::black);
+    window.setPalette(odd);
+    Apply_Window_Look(window);
+    window.resize(40, 40);
+    EXPECT_EQ(window.grab().toImage().pixelColor(20, 20).name(), QLatin1String("#f1f4fa"));
+}
+
+TEST_F(Window_Look_In_The_Dark, Texts_Stand_Out_From_Their_Ground)
+{
+    const QPalette palette = QApplication::palette();
+    for (const auto& pair : Pairs) {
+        for (const auto group : {QPalette::Active, QPalette::Inactive})
+            EXPECT_GE(Contrast(palette.color(group, pair.text), palette.color(group, pair.ground)), 4.5) << pair.name;
+    }
+}
+
+TEST_F(Window_Look_In_The_Dark, What_Is_Switched_Off_Is_Fainter_But_Can_Still_Be_Read)
+{
+    const QPalette palette = QApplication::palette();
+    for (const auto& pair : Pairs) {
+        const double contrast =
+            Contrast(palette.color(QPalette::Disabled, pair.text), palette.color(QPalette::Disabled, pair.ground));
+        EXPECT_GE(contrast, 2.5) << pair.name;
+    }
+    EXPECT_GE(Contrast(palette.color(QPalette::PlaceholderText), palette.color(QPalette::Base)), 2.5);
+}
+
+TEST_F(Window_Look_In_The_Dark, A_Label_Is_Drawn_Dark_On_Light)
+{
+    QWidget window;
+    Apply_Window_Look(window);
+    auto* layout = new QVBoxLayout(&window);
+    layout->addWidget(new QLabel(QStringLiteral("MMMMMMMM")));
+    const QImage picture = window.grab().toImage();
+    double darkest = 1;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x)
+            darkest = std::min(darkest, Luminance(picture.pixelColor(x, y)));
+    }
+    EXPECT_LT(darkest, 0.1);
+    EXPECT_EQ(picture.pixelColor(0, 0).name(), QLatin1String("#f1f4fa"));
+}
+
+TEST_F(Window_Look_In_The_Dark, The_Please_Wait_Sheet_Says_So_And_Cannot_Be_Dismissed)
+{
+    QWidget window;
+    window.resize(600, 400);
+    window.show();
+    PleaseWait_Modeless sheet(&window);
+    EXPECT_EQ(sheet.objectName(), QLatin1String("PleaseWait_Modeless"));
+    sheet.Begin_Sheet(&window);
+    EXPECT_TRUE(sheet.isVisible());
+    ASSERT_NE(sheet.findChild<QLabel*>(), nullptr);
+    EXPECT_EQ(sheet.findChild<QLabel*>()->text(), QLatin1String("Please wait ..."));
+    ASSERT_NE(sheet.findChild<QProgressBar*>(), nullptr);
+    EXPECT_FALSE(sheet.findChild<QProgressBar*>()->accessibleName().isEmpty());
+    EXPECT_EQ(sheet.grab().toImage().pixelColor(2, 2).name(), QLatin1String("#f1f4fa"));
+    QTest::keyClick(&sheet, Qt::Key_Escape);
+    EXPECT_TRUE(sheet.isVisible());
+    sheet.End_Sheet();
+    EXPECT_FALSE(sheet.isVisible());
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "windows/main/Long_SMS_Dlg.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QStringList>
+#include <QTimer>
+#include <functional>
+
+// Reads every long-message notice that opens, does with it what the test wants, and presses its OK.
+class Notice_Reader : public QObject
+{
+public:
+    Notice_Reader() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (auto* dialog = qobject_cast<Long_SMS_Dlg*>(watched); dialog && event->type() == QEvent::Show) {
+            m_texts.append(dialog->findChild<QLabel*>(QStringLiteral("_Msg_Val"))->text());
+            QTimer::singleShot(0, dialog, [this, dialog] {
+                if (m_meanwhile)
+                    m_meanwhile(*dialog);
+                if (dialog->isVisible())
+                    dialog->findChild<QPushButton*>(QStringLiteral("OKPressed"))->click();
+            });
+        }
+        return false;
+    }
+
+    QStringList m_texts;
+    std::function<void(Long_SMS_Dlg&)> m_meanwhile;
+};

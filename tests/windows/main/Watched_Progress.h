@@ -1,0 +1,95 @@
+#pragma once
+
+#include "engine/Send_Progress.h"
+
+#include <QStringList>
+#include <functional>
+#include <mutex>
+
+// Passes a job's steps on to the real progress window and keeps them as lines of text. What a test wants to happen at a
+// step is called on the job's thread, after the step.
+class Watched_Progress : public Send_Progress
+{
+public:
+    explicit Watched_Progress(Send_Progress& progress) : m_progress(progress) {}
+
+    void Begin_Preparing(int total) override
+    {
+        m_progress.Begin_Preparing(total);
+        Note(QStringLiteral("preparing ") + QString::number(total));
+    }
+    void Begin_Sending() override
+    {
+        m_progress.Begin_Sending();
+        Note(QStringLiteral("sending"));
+    }
+    void Show_Item(int position, int total, const QString& number) override
+    {
+        m_progress.Show_Item(position, total, number);
+        Note(QString::number(position) + QStringLiteral(" / ") + QString::number(total) + u' ' + number);
+    }
+    void Show_Current(const QString& text) override
+    {
+        m_progress.Show_Current(text);
+        Note(text);
+    }
+    void End() override
+    {
+        m_progress.End();
+        Note(QStringLiteral("end"));
+    }
+    void Begin_Pause() override
+    {
+        m_progress.Begin_Pause();
+        Note(QStringLiteral("pause"));
+    }
+    void Show_Pause(const QString& text) override
+    {
+        m_progress.Show_Pause(text);
+        Note(text);
+    }
+    void End_Pause() override
+    {
+        m_progress.End_Pause();
+        Note(QStringLiteral("pause over"));
+    }
+    void startTimerThread() override
+    {
+        m_progress.startTimerThread();
+        Note(QStringLiteral("timer on"));
+    }
+    void Stop_Timers() override
+    {
+        m_progress.Stop_Timers();
+        Note(QStringLiteral("timer off"));
+    }
+
+    void Forget_Steps()
+    {
+        const std::lock_guard guard(m_lock);
+        m_steps.clear();
+    }
+
+    QStringList Steps() const
+    {
+        const std::lock_guard guard(m_lock);
+        return m_steps;
+    }
+
+    std::function<void(const QString&)> m_at_step; // set before the job starts
+
+private:
+    void Note(const QString& step)
+    {
+        {
+            const std::lock_guard guard(m_lock);
+            m_steps.append(step);
+        }
+        if (m_at_step)
+            m_at_step(step);
+    }
+
+    Send_Progress& m_progress;
+    mutable std::mutex m_lock;
+    QStringList m_steps;
+};

@@ -1,0 +1,190 @@
+#include "device/Stop_Flag.h"
+#include "engine/Job_State.h"
+#include "windows/main/Sending_Test.h"
+
+#include <QTest>
+
+namespace {
+
+class Send_Runner_Test : public Sending_Test
+{
+protected:
+    Send_Runner_Test()
+    {
+        for (const char* number : {"111", "222", "333"})
+            Add(QLatin1String(number));
+    }
+
+    void At_Step(const QString& awaited, const std::function<void()>& happens)
+    {
+        m_progress.m_at_step = [=](const QString& step) {
+            if (step == awaited)
+                happens();
+        };
+    }
+};
+
+TEST_F(Send_Runner_Test, Two_Quick_Presses_Start_One_Job)
+{
+    m_runner.Send_SMS_Btn();
+    m_runner.Send_SMS_Btn();
+    EXPECT_EQ(Workers_Running(), 1);
+    EXPECT_EQ(sms_thread_var, 1);
+    m_user.Will_Press("OK");
+    Wait_For_The_End();
+    EXPECT_EQ(m_phone.Inbox().size(), 3U);
+}
+
+TEST_F(Send_Runner_Test, Pressing_Send_While_A_Job_Runs_Does_Nothing)
+{
+    At_Step(QStringLiteral("2 / 3 222"), [this] {
+        Run_On_Interface_Thread([this] {
+            const int running = Workers_Running();
+            m_runner.Send_SMS_Btn();
+            EXPECT_EQ(Workers_Running(), running);
+            EXPECT_FALSE(m_window.Is_Held());
+        });
+    });
+    m_user.Will_Press("OK");
+    Send();
+    EXPECT_EQ(m_phone.Inbox().size(), 3U);
+}
+
+TEST_F(Send_Runner_Test, The_Window_Takes_No_Input_Until_The_Progress_Window_Stands_Over_It)
+{
+    At_Step(QStringLiteral("timer on"), [this] {
+        Run_On_Interface_Thread([this] {
+            EXPECT_TRUE(Progress_Window().isVisible());
+            EXPECT_EQ(QApplication::activeModalWidget(), &Progress_Window());
+            EXPECT_FALSE(m_window.Is_Held());
+        });
+    });
+    m_runner.Send_SMS_Btn();
+    EXPECT_TRUE(m_window.Is_Held());
+    m_user.Will_Press("OK");
+    Wait_For_The_End();
+}
+
+TEST_F(Send_Runner_Test, A_Check_That_Fails_Gives_The_Window_Its_Input_Back)
+{
+    m_window.m_recipients.Clear();
+    m_user.Will_Handle([this](QMessageBox& box) {
+        EXPECT_TRUE(m_window.Is_Held());
+        box.accept();
+    });
+    Send();
+    EXPECT_EQ(m_user.Was_Shown(), QStringList{QStringLiteral("\nPhone numbers-Messages list is empty.")});
+    EXPECT_TRUE(m_phone.Heard().empty());
+}
+
+TEST_F(Send_Runner_Test, A_Stop_Is_Seen_Before_The_Next_Item_And_Ends_Without_A_Message)
+{
+    At_Step(QStringLiteral("2 / 3 222"), [] { Press_Stop(); });
+    m_user.Will_Press("Yes");
+    Send();
+    EXPECT_EQ(Received(), (QStringList{"111: Hello", "222: Hello"}));
+    EXPECT_EQ(m_user.Was_Shown(), QStringList{Stop_Sending});
+    EXPECT_EQ(Stop_SMS_Sending_Now, 1);
+}
+
+TEST_F(Send_Runner_Test, A_Stop_That_Is_Not_Meant_Changes_Nothing)
+{
+    At_Step(QStringLiteral("1 / 3 111"), [] { Press_Stop(); });
+    m_user.Will_Press("No");
+    m_user.Will_Press("OK");
+    Send();
+    EXPECT_EQ(m_phone.Inbox().size(), 3U);
+    EXPECT_EQ(m_user.Was_Shown(), (QStringList{Stop_Sending, Completed}));
+}
+
+TEST_F(Send_Runner_Test, A_Stop_Is_Seen_Between_The_Parts_Of_A_Long_Message)
+{
+    m_window.m_recipients.Clear();
+    Add(QStringLiteral("111"), QString(400, u'a'));
+    Add(QStringLiteral("222"));
+    m_calls.m_before_write = [](const QByteArray& bytes) {
+        if (bytes.startsWith("AT+CMGS="))
+            Press_Stop();
+    };
+    m_user.Will_Press("Yes");
+    Send();
+    EXPECT_EQ(m_phone.Parts().size(), 1U);
+    EXPECT_EQ(Received(), QStringList{});
+    EXPECT_EQ(m_user.Was_Shown(), QStringList{Stop_Sending});
+}
+
+TEST_F(Send_Runner_Test, A_Stop_During_A_Skipped_Item_Ends_The_Job)
+{
+    Exclude(QStringLiteral("111"));
+    m_window.m_choices.exclusion = true;
+    At_Step(QStringLiteral("111 is Excluded."), [] { Stop_SMS_Sending_Now = 1; });
+    Send();
+    EXPECT_EQ(Received(), QStringList{});
+    EXPECT_EQ(m_user.Was_Shown(), QStringList{});
+}
+
+TEST_F(Send_Runner_Test, A_Stop_Question_Still_Open_At_The_End_Counts_As_No)
+{
+    At_Step(QStringLiteral("3 / 3 333"), [] { Open_Stop_Question(); });
+    m_user.Will_Leave_It_Open();
+    m_user.Will_Press("OK");
+    Send();
+    EXPECT_EQ(m_user.Was_Shown(), (QStringList{Stop_Sending, Completed}));
+    EXPECT_EQ(Stop_SMS_Sending_Now, 0);
+}
+
+TEST_F(Send_Runner_Test, A_Connection_Error_Above_An_Open_Stop_Question_Ends_The_Job_All_The_Same)
+{
+    auto moods = m_phone.Moods();
+    moods.m_hang_up_at = 2;
+    m_phone.Set_Moods(moods);
+    At_Step(QStringLiteral("2 / 3 222"), [] { Open_Stop_Question(); });
+    m_user.Will_Leave_It_Open();
+    m_user.Will_Press("OK");
+    Send();
+    EXPECT_EQ(m_user.Was_Shown(), (QStringList{Stop_Sending, Connection_Error}));
+}
+
+TEST_F(Send_Runner_Test, Exit_During_A_Job_Ends_It_In_An_Orderly_Way_And_Without_A_Box)
+{
+    for (const QString& step :
+         {QStringLiteral("preparing 3"), QStringLiteral("timer on"), QStringLiteral("sending"),
+          QStringLiteral("1 / 3 111"), QStringLiteral("3 / 3 333"), QStringLiteral("timer off")}) {
+        At_Step(step, [] { Begin_Program_Exit(); });
+        m_runner.Send_SMS_Btn();
+        ASSERT_TRUE(Serve_Until([] { return Program_Is_Exiting(); }));
+        const double begin = Now_Seconds();
+        Finish_Workers();
+        EXPECT_LT(Now_Seconds() - begin, 5.0);
+        Expect_Everything_Tidy();
+        Forget_Program_Exit();
+    }
+    EXPECT_EQ(m_user.Was_Shown(), QStringList{});
+}
+
+TEST_F(Send_Runner_Test, Exit_With_An_Open_Stop_Question_Does_Not_Hang)
+{
+    At_Step(QStringLiteral("1 / 3 111"), [] { Open_Stop_Question(); });
+    m_user.Will_Handle([](QMessageBox& box) {
+        Begin_Program_Exit();
+        Finish_Workers();
+        EXPECT_FALSE(box.isVisible());
+    });
+    Send();
+    EXPECT_EQ(m_user.Was_Shown(), QStringList{Stop_Sending});
+}
+
+TEST_F(Send_Runner_Test, A_Million_Recipients_Cost_The_Job_No_Time_To_Begin)
+{
+    m_window.m_recipients.Clear();
+    const auto message = QStringLiteral("Hello");
+    for (int row = 0; row < 1000000; ++row)
+        Add(QString::number(row), message);
+    At_Step(QStringLiteral("1 / 1000000 0"), [] { Stop_SMS_Sending_Now = 1; });
+    const double begin = Now_Seconds();
+    Send();
+    EXPECT_LT(Now_Seconds() - begin, 10.0);
+    EXPECT_EQ(m_phone.Inbox().size(), 1U);
+}
+
+} // namespace

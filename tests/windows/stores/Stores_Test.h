@@ -1,0 +1,153 @@
+#pragma once
+
+#include "platform/Interface_Thread.h"
+#include "platform/Pace.h"
+#include "platform/Waiting.h"
+#include "records/Store_Files.h"
+#include "support/Serve_Until.h"
+#include "support/User.h"
+#include "support/Window_For_Tests.h"
+#include "toolkit/Shared_Instance.h"
+#include "toolkit/Window_Look.h"
+#include "windows/stores/Sent_Items.h"
+#include "windows/stores/Templates.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QItemSelectionModel>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QStyledItemDelegate>
+#include <QTableView>
+#include <QTest>
+#include <functional>
+
+// A data folder, a main window, and the person who opens the windows of the stores.
+class Stores_Test : public testing::Test
+{
+protected:
+    Stores_Test()
+    {
+        Set_Pace(100);
+        Apply_Application_Look(*qApp);
+    }
+
+    ~Stores_Test() override
+    {
+        Finish_Workers();
+        Forget_Program_Exit();
+        End_Shared_Instances();
+        Set_Pace(1);
+    }
+
+    /// Opens the window and returns when it is closed; meanwhile, once the whole list is in, the person does the visit.
+    /// What the visit leaves open is closed with the window's own button.
+    void Visit_Sent_Items(const std::function<void()>& visit) { Visit(*Sent_Items::defaultInstance(), visit); }
+    void Visit(Sent_Items& window, const std::function<void()>& visit)
+    {
+        Expect_Visit(window, visit);
+        window.Open_Sent_Item_Wnd();
+    }
+    int Visit_Templates(const std::function<void()>& visit)
+    {
+        Expect_Visit(*Templates::defaultInstance(), visit);
+        return Templates::defaultInstance()->Open_Template_Wnd();
+    }
+
+    template <typename Control>
+    static Control& In(const QWidget& window, const char* name)
+    {
+        auto* control = window.findChild<Control*>(QLatin1String(name));
+        if (!control)
+            qFatal("there is no %s in %s", name, qPrintable(window.objectName()));
+        return *control;
+    }
+
+    /// What the window of the present visit holds.
+    template <typename Control>
+    Control& The(const char* name) const
+    {
+        return In<Control>(*m_visited, name);
+    }
+
+    static void Click_In(QWidget& window, const char* button)
+    {
+        In<QPushButton>(window, button).setFocus();
+        QTest::mouseClick(&In<QPushButton>(window, button), Qt::LeftButton);
+    }
+    void Click(const char* button) const { Click_In(*m_visited, button); }
+
+    QTableView& Table() const { return *m_visited->findChild<QTableView*>(); }
+    void Select(int first, int last) const
+    {
+        const auto* model = Table().model();
+        Table().selectionModel()->select(
+            QItemSelection(model->index(first, 0), model->index(last, model->columnCount() - 1)),
+            QItemSelectionModel::ClearAndSelect);
+    }
+    void Select(int row) const { Select(row, row); }
+    void Select_Also(int row) const
+    {
+        Table().selectionModel()->select(Table().model()->index(row, 0),
+                                         QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    }
+    QList<int> Selected() const
+    {
+        QList<int> rows;
+        for (const auto& index : Table().selectionModel()->selectedRows())
+            rows.append(index.row());
+        return rows;
+    }
+    /// What the cells of one column are painted with, from the top.
+    QStringList Shown(int column = 0) const
+    {
+        QStringList cells;
+        for (int row = 0; row < Table().model()->rowCount(); ++row)
+            cells.append(Painted(Table().model()->index(row, column)));
+        return cells;
+    }
+    void Double_Click(int row, Qt::KeyboardModifiers modifiers = {}) const
+    {
+        const QPoint place = Table().visualRect(Table().model()->index(row, 0)).center();
+        QTest::mouseClick(Table().viewport(), Qt::LeftButton, modifiers, place);
+        QTest::mouseDClick(Table().viewport(), Qt::LeftButton, modifiers, place);
+    }
+
+    void Expect_Focus_On_Table() const { EXPECT_EQ(m_visited->focusWidget(), &Table()); }
+
+    /// The person picks this path in the panel that opens next.
+    void Will_Save_As(const QString& path)
+    {
+        m_user.Will_Do([path](QDialog* dialog) {
+            auto* panel = qobject_cast<QFileDialog*>(dialog);
+            EXPECT_NE(panel, nullptr) << qPrintable(dialog->objectName());
+            if (panel)
+                panel->selectFile(path);
+            dialog->accept();
+        });
+    }
+
+    Data_Folder m_folder;
+    User m_user;
+    Window_For_Tests m_window;
+    QWidget* m_visited = nullptr;
+
+private:
+    QString Painted(const QModelIndex& cell) const
+    {
+        const auto* delegate = qobject_cast<const QStyledItemDelegate*>(Table().itemDelegate());
+        return delegate->displayText(cell.data(), QLocale());
+    }
+    void Expect_Visit(List_Window& window, const std::function<void()>& visit)
+    {
+        m_visited = &window;
+        m_user.When_Opens(window.objectName(), [&window, visit](QWidget&) {
+            EXPECT_TRUE(Serve_Until([&] { return !window.Is_Loading(); }));
+            visit();
+            if (window.isVisible())
+                Click_In(window, "Cancel_Btn");
+            EXPECT_FALSE(window.isVisible());
+        });
+    }
+};
