@@ -148,7 +148,7 @@ bool Measured_Program::eventFilter(QObject* watched, QEvent* event)
 
 void Measured_Program::Apply_Exclusions(const QString& path)
 {
-    Excluded_Numbers numbers;
+    Number_List numbers;
     const auto lines = Read_File(path).value_or(QByteArray()).split('\n');
     for (const auto& line : lines) {
         if (!line.isEmpty())

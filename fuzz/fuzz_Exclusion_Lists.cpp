@@ -1,5 +1,6 @@
 #include "fuzz/Fuzz_Input.h"
 #include "list/Exclusion_Rules.h"
+#include "list/Number_File.h"
 #include "list/Number_Rules.h"
 #include "platform/Text_Files.h"
 #include "records/Data_Paths.h"
@@ -27,16 +28,16 @@ QString Number_By_The_Rule(QString line)
     return Number_Rules::Normalised_Number(line);
 }
 
-Excluded_Numbers Check_Numbers(const QString& text)
+Number_List Check_Numbers(const QString& text)
 {
-    Excluded_Numbers numbers;
+    Number_List numbers;
     const int added = Exclusion_Rules::Add_Numbers_Of_Text(text, numbers, [](int) {});
     MUST(added == numbers.Count());
     MUST(Exclusion_Rules::Add_Numbers_Of_Text(text, numbers, [](int) {}) == 0);
     int row = 0;
-    Excluded_Numbers again;
+    Number_List again;
     for (const QString& line : text.split(u'\n')) {
-        const QString number = Exclusion_Rules::Number_In_Line(line);
+        const QString number = Number_Texts().Text_Of(Number_In_Line(line));
         MUST(number == Number_By_The_Rule(line));
         if (number.isEmpty() || again.Contains(number))
             continue;
@@ -47,7 +48,7 @@ Excluded_Numbers Check_Numbers(const QString& text)
     return numbers;
 }
 
-void Check_List_File(const QString& typed_name, const Excluded_Numbers& numbers)
+void Check_List_File(const QString& typed_name, const Number_List& numbers)
 {
     const QString name = Exclusion_Rules::List_Name(typed_name).left(Exclusion_Rules::Longest_Name);
     if (Exclusion_Rules::Judge_List_Name(name, {}) != Exclusion_Rules::Name_Verdict::Accepted)
@@ -58,7 +59,7 @@ void Check_List_File(const QString& typed_name, const Excluded_Numbers& numbers)
     if (!Exclusion_Files::Create_List_If_Missing(name))
         return;
     if (Exclusion_Files::Write_List(name, numbers)) {
-        const Excluded_Numbers stored = Exclusion_Files::Read_List(name);
+        const Number_List stored = Exclusion_Files::Read_List(name);
         MUST(stored.Count() == numbers.Count());
         for (int row = 0; row < numbers.Count(); ++row)
             MUST(stored.At(row) == numbers.At(row));
@@ -91,7 +92,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const unsigned kind = input.Octet() % 8;
     const QString name = input.Text();
     const QByteArray document = input.Document();
-    const Excluded_Numbers numbers = Check_Numbers(Fuzz_Input::Text_Of(document));
+    const Number_List numbers = Check_Numbers(Fuzz_Input::Text_Of(document));
     if (kind == 1)
         Check_List_File(name, numbers);
     else if (kind == 2 && document.size() < 4096)

@@ -1,10 +1,7 @@
 #include "fuzz/Fuzz_Input.h"
 #include "list/Custom_Smsc_Rules.h"
-#include "list/Edited_Number.h"
-#include "list/Exclusion_Rules.h"
-#include "list/Number_Acceptance.h"
 #include "list/Number_File.h"
-#include "list/Number_Import.h"
+#include "list/Number_Judge.h"
 #include "list/Number_Rules.h"
 
 #include <algorithm>
@@ -26,35 +23,29 @@ void Check_Rules(const QString& typed, const QString& other, unsigned choices)
     MUST(Custom_Smsc_Rules::Is_Valid(typed) == !number.isEmpty());
     MUST(Number_Rules::Check_Ph_Number(typed, true) <= Number_Rules::Check_Ph_Number(typed, false));
 
-    Recipient_List recipients;
-    Exclusion_Set exclusions;
+    Number_List present;
+    Number_List excluded;
     const QString before = Number_Rules::Normalised_Number(other);
     if ((choices & 1) != 0 && !before.isEmpty())
-        recipients.Append(before, {});
+        present.Append(before);
     if ((choices & 2) != 0)
-        exclusions.Append(before);
-    const bool heed_duplicates = (choices & 4) != 0;
-    const bool heed_exclusions = (choices & 8) != 0;
-    const auto accepted = Judge_Number(typed, recipients, exclusions, heed_duplicates, heed_exclusions);
-    MUST(accepted.number == number);
-    MUST((accepted.verdict == Number_Acceptance::Verdict::Not_Valid) == number.isEmpty());
-    const auto edited = Judge_Edited_Number(typed, before, recipients, exclusions, heed_duplicates, heed_exclusions);
-    MUST(typed == before || edited.number == number);
-    MUST(typed == before || static_cast<int>(edited.verdict == Edited_Number::Verdict::Accepted) ==
-                                static_cast<int>(accepted.verdict == Number_Acceptance::Verdict::Accepted));
+        excluded.Append(before);
+    const Number_Terms terms{(choices & 4) != 0 ? &present : nullptr, (choices & 8) != 0 ? &excluded : nullptr};
+    const auto judged = Judge_Number(typed, terms);
+    MUST(judged.number == number);
+    MUST((judged.verdict == Number_Verdict::Not_Valid) == number.isEmpty());
+    if (const auto packed = Packed_Number::Of(number); packed && !number.isEmpty())
+        MUST(Judge_Valid_Number(*packed, terms) == judged.verdict);
+    const auto edited = Judge_Edited_Number(typed, before, terms);
+    MUST(edited.verdict == (typed == before ? Number_Verdict::Accepted : judged.verdict));
+    MUST(edited.number == (typed == before ? typed : number));
 }
 
-// The two ways a file's line takes, into the recipient list and into an exclusion list, are of one mind.
 void Check_File(const QString& path, const QByteArray& bytes)
 {
     const QString text = Text_Of_Number_File(path, bytes);
-    const Number_Texts texts;
-    for (const QString& line : text.split(u'\n')) {
-        const QString number = Number_Rules::Normalised_Number(Number_Import::Cleaned_Line(line));
-        Check_Number(number);
-        MUST(number == Exclusion_Rules::Number_In_Line(line));
-        MUST(number == texts.Text_Of(Number_Import::Number_In_Line(line)));
-    }
+    for (const QString& line : text.split(u'\n'))
+        Check_Number(Number_Texts().Text_Of(Number_In_Line(line)));
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "engine/Send_Choices.h"
-#include "list/Exclusion_Set.h"
+#include "list/Number_List.h"
 #include "list/Recipient_List.h"
 
 #include <QString>
@@ -14,7 +14,7 @@ struct Send_Order
     QString service_centre; ///< empty for the device's own
     Send_Choices choices;
     Recipient_List recipients;
-    Exclusion_Set exclusions; ///< as they were read last; the job reads them anew when they are to be heeded
+    Number_List exclusions; ///< as they were read last; the job reads them anew when they are to be heeded
 };
 
 enum class Skip_Reason

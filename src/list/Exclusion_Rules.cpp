@@ -1,6 +1,6 @@
 #include "list/Exclusion_Rules.h"
 
-#include "list/Number_Rules.h"
+#include "list/Number_File.h"
 #include "platform/String_Helpers.h"
 #include "platform/Text_Files.h"
 
@@ -15,11 +15,6 @@ const QString Forbidden_Sequence = QStringLiteral("\\/:*?\"<>|");
 const QString Name_Of_Index = QStringLiteral("ExListIndex");
 
 constexpr int Numbers_Between_Reports = 20000;
-
-bool Is_Left_Out(QChar character)
-{
-    return character == u'\\' || character == u'{' || character == u'}' || character == u'-';
-}
 
 } // namespace
 
@@ -55,37 +50,13 @@ Exclusion_Rules::Name_Verdict Exclusion_Rules::Judge_List_Name(const QString& na
     return existing_names.contains(name) ? Name_Verdict::Exists : Name_Verdict::Accepted;
 }
 
-Exclusion_Rules::Judged_Number Exclusion_Rules::Judge_Number(const QString& typed, const Excluded_Numbers& numbers)
-{
-    const QString number = Number_Rules::Normalised_Number(typed);
-    if (number.isEmpty())
-        return {Judged_Number::Verdict::Not_Valid, {}};
-    if (numbers.Contains(number))
-        return {Judged_Number::Verdict::Exists, {}};
-    return {Judged_Number::Verdict::Accepted, number};
-}
-
-QString Exclusion_Rules::Number_In_Line(QStringView line)
-{
-    QString kept;
-    for (const QChar character : line) {
-        if (Is_Left_Out(character))
-            continue;
-        if (kept.size() <= Number_Rules::Longest_Number && !(kept.isEmpty() && character.isSpace()))
-            kept += character;
-        else if (!character.isSpace())
-            return {}; // longer than any number, however it is trimmed
-    }
-    return Number_Rules::Normalised_Number(kept);
-}
-
-int Exclusion_Rules::Add_Numbers_Of_Text(const QString& text, Excluded_Numbers& numbers,
+int Exclusion_Rules::Add_Numbers_Of_Text(const QString& text, Number_List& numbers,
                                          const std::function<void(int)>& progress)
 {
     int added = 0;
     for (const QStringView line : qTokenize(text, u'\n')) {
-        const QString number = Number_In_Line(line);
-        if (number.isEmpty() || numbers.Contains(number))
+        const Packed_Number number = Number_In_Line(line);
+        if (number.Is_Empty() || numbers.Contains(number))
             continue;
         numbers.Append(number);
         if (++added % Numbers_Between_Reports == 0)

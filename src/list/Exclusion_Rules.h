@@ -1,6 +1,6 @@
 #pragma once
 
-#include "list/Excluded_Numbers.h"
+#include "list/Number_List.h"
 
 #include <QString>
 #include <QStringList>
@@ -36,29 +36,9 @@ QStringView Without_Byte_Order_Mark(QStringView line);
 /// Judges a name as List_Name gives it, in the order of the verdicts.
 Name_Verdict Judge_List_Name(const QString& name, const QStringList& existing_names);
 
-struct Judged_Number
-{
-    enum class Verdict
-    {
-        Accepted,
-        Not_Valid,
-        Exists
-    };
-
-    Verdict verdict = Verdict::Not_Valid;
-    QString number; ///< as it is stored; empty when it is not accepted
-};
-
-/// Judges a number that was typed or edited.
-Judged_Number Judge_Number(const QString& typed, const Excluded_Numbers& numbers);
-
-/// The number on a line of a file, as it is stored: without "\", "{", "}" and "-". An empty text when it is none. A
-/// line may be of any length.
-QString Number_In_Line(QStringView line);
-
 /// Takes in the number of each line that holds one and is not there yet; returns how many. progress is told, now and
 /// then, how many numbers there are by then.
-int Add_Numbers_Of_Text(const QString& text, Excluded_Numbers& numbers, const std::function<void(int)>& progress);
+int Add_Numbers_Of_Text(const QString& text, Number_List& numbers, const std::function<void(int)>& progress);
 
 /// The chosen names that are not applied yet, in their order and each once.
 QStringList Not_Yet_Applied(const QStringList& chosen, const QStringList& applied);

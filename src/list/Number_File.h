@@ -1,5 +1,7 @@
 #pragma once
 
+#include "list/Packed_Number.h"
+
 #include <QByteArray>
 #include <QString>
 #include <optional>
@@ -18,3 +20,7 @@ QString Text_Of_Number_File(const QString& path);
 
 /// The same, of bytes that were read from the path already.
 QString Text_Of_Number_File(const QString& path, const QByteArray& bytes);
+
+/// The number on a line of such a text, normalised, without "\", "{", "}" and "-"; an empty one when there is none. A
+/// line may be of any length.
+Packed_Number Number_In_Line(QStringView line);

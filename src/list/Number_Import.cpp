@@ -1,15 +1,13 @@
 #include "list/Number_Import.h"
 
 #include "list/Number_File.h"
-#include "list/Number_Rules.h"
+#include "list/Number_Judge.h"
 #include "platform/Interface_Thread.h"
 #include "platform/Log_Line.h"
-#include "platform/String_Helpers.h"
 #include "platform/Waiting.h"
 
 #include <algorithm>
 #include <exception>
-#include <optional>
 #include <utility>
 
 namespace {
@@ -17,28 +15,6 @@ namespace {
 constexpr std::size_t Lines_In_Batch = 64; // enough for their look-ups to overlap, and few enough to stay in the cache
 constexpr qsizetype Longest_Logged = 1000; // of a line, in characters
 constexpr double Seconds_Between_Reports = 0.02;
-
-// The number of a line as they are mostly written: digits, perhaps with a leading "+" and with "-" between them.
-// Nothing when the line has anything else to it, which is for the rules to judge.
-std::optional<Packed_Number> Number_In_Plain_Line(QStringView line)
-{
-    Packed_Number number;
-    bool fits = true;
-    for (const QChar character : line.endsWith(u'\r') ? line.chopped(1) : line) {
-        if (character >= u'0' && character <= u'9')
-            fits = fits && number.Add_Digit(character.unicode());
-        else if (character == u'+' && number.Is_Empty())
-            fits = number.Add_Digit(u'0') && number.Add_Digit(u'0');
-        else if (character != u'-')
-            return std::nullopt;
-    }
-    return fits ? number : Packed_Number();
-}
-
-bool Is_Passed_Over(QChar character)
-{
-    return character == u'\\' || character == u'{' || character == u'}' || character == u'-';
-}
 
 } // namespace
 
@@ -81,25 +57,6 @@ void Number_Import::Load_Num_Func(Order& order) const
     Run_On_Interface_Thread(m_target.finish);
 }
 
-QString Number_Import::Cleaned_Line(QStringView line)
-{
-    QString cleaned;
-    cleaned.reserve(line.size());
-    for (const QChar character : line) {
-        if (!Is_Passed_Over(character))
-            cleaned.append(character);
-    }
-    cleaned = Trim_Str(cleaned);
-    return cleaned.size() <= Number_Rules::Longest_Number ? cleaned : QString(); // no rule lets a longer one in
-}
-
-Packed_Number Number_Import::Number_In_Line(QStringView line)
-{
-    if (const auto number = Number_In_Plain_Line(line))
-        return *number;
-    return Packed_Number::Of(Number_Rules::Normalised_Number(Cleaned_Line(line))).value_or(Packed_Number());
-}
-
 void Number_Import::Take_In_Lines(Order& order, const QString& text) const
 {
     std::vector<Packed_Number> numbers;
@@ -110,7 +67,7 @@ void Number_Import::Take_In_Lines(Order& order, const QString& text) const
         const QStringView line = QStringView(text).mid(begin, end - begin);
         Show_NSLog_Message(line.left(Longest_Logged));
         numbers.push_back(Number_In_Line(line));
-        order.recipients.Fetch(numbers.back());
+        order.recipients.Numbers().Fetch(numbers.back());
         order.exclusions.Fetch(numbers.back());
         begin = end + 1;
         if (numbers.size() < Lines_In_Batch && begin <= text.size())
@@ -127,9 +84,10 @@ void Number_Import::Take_In_Lines(Order& order, const QString& text) const
 
 void Number_Import::Take_In(Order& order, const std::vector<Packed_Number>& numbers) const
 {
+    const Number_Terms terms{order.skip_duplicates ? &order.recipients.Numbers() : nullptr,
+                             order.heed_exclusions ? &order.exclusions : nullptr};
     for (const Packed_Number& number : numbers) {
-        if (number.Is_Empty() || (order.skip_duplicates && order.recipients.Count_Of(number) > 0) ||
-            (order.heed_exclusions && order.exclusions.Count_Of(number) > 0))
+        if (number.Is_Empty() || Judge_Valid_Number(number, terms) != Number_Verdict::Accepted)
             continue;
         order.recipients.Append(number, order.message);
         if (order.recipients.Count() == First_Shown) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "list/Exclusion_Set.h"
+#include "list/Number_List.h"
 #include "list/Recipient_List.h"
 
 #include <QString>
@@ -18,7 +18,7 @@ public:
     {
         QString path;
         Recipient_List recipients; ///< those that are there already
-        Exclusion_Set exclusions;
+        Number_List exclusions;
         QString message; ///< what every imported number gets
         bool skip_duplicates = false;
         bool heed_exclusions = false;
@@ -47,13 +47,6 @@ public:
 
     /// Starts reading on a worker of its own and returns.
     void Load_NUM_Thread(Order order);
-
-    /// A line as it goes to the number rules: without "\", "{", "}" and "-", trimmed; empty when it is longer than any
-    /// number.
-    static QString Cleaned_Line(QStringView line);
-
-    /// The number of a line, cleaned and normalised; empty when there is none in it.
-    static Packed_Number Number_In_Line(QStringView line);
 
 private:
     void Load_Num_Func(Order& order) const;

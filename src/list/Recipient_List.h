@@ -1,9 +1,7 @@
 #pragma once
 
-#include "list/Indexed_Numbers.h"
+#include "list/Number_List.h"
 
-#include <QSharedData>
-#include <QSharedDataPointer>
 #include <QString>
 #include <deque>
 #include <vector>
@@ -26,7 +24,9 @@ class Recipient_List
 public:
     Recipient_List();
 
-    int Count() const;
+    int Count() const { return m_numbers.Count(); }
+    /// The numbers alone, in the same order.
+    const Number_List& Numbers() const { return m_numbers; }
     /// The recipient at an index from 0 to Count() - 1.
     Recipient At(int index) const;
     /// The message alone of the recipient at an index from 0 to Count() - 1.
@@ -42,24 +42,15 @@ public:
     void Remove_Rows(const std::vector<int>& rows);
     void Clear();
 
-    /// The first index with exactly this number, -1 when there is none. Constant time.
-    int First_Index_Of(const QString& number) const;
-    /// How many recipients have exactly this number. Constant time.
-    int Count_Of(const QString& number) const;
-    /// The same for a number of digits alone.
-    int Count_Of(const Packed_Number& number) const;
-    /// Tells of a number that Count_Of will soon be asked for; see Indexed_Numbers.
-    void Fetch(const Packed_Number& number) const { m_body->numbers.Fetch(number); }
-
 private:
-    struct Body : QSharedData
+    struct Messages : QSharedData
     {
-        Indexed_Numbers numbers;
-        std::deque<QString> messages; ///< as many
-
-        template <typename Number>
-        void Append(const Number& number, const QString& message);
+        std::deque<QString> texts;
     };
 
-    QSharedDataPointer<Body> m_body;
+    template <typename Number>
+    void Append_Number(const Number& number, const QString& message);
+
+    Number_List m_numbers;
+    QSharedDataPointer<Messages> m_messages; // as many
 };

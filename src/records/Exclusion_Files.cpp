@@ -101,9 +101,9 @@ QStringList Exclusion_Files::Read_Applied()
     return Names_In(Applied_Exclusion_Path);
 }
 
-Excluded_Numbers Exclusion_Files::Read_List(const QString& list_name)
+Number_List Exclusion_Files::Read_List(const QString& list_name)
 {
-    Excluded_Numbers numbers;
+    Number_List numbers;
     if (const auto path = List_Path(list_name))
         For_Each_Entry(Read_Text(*path), [&](const QString& number) { numbers.Append(number); });
     return numbers;
@@ -143,7 +143,7 @@ bool Exclusion_Files::Write_Applied(const QStringList& list_names)
     return Rewrite(Applied_Exclusion_Path, Lines_Of(list_names));
 }
 
-bool Exclusion_Files::Write_List(const QString& list_name, const Excluded_Numbers& numbers)
+bool Exclusion_Files::Write_List(const QString& list_name, const Number_List& numbers)
 {
     const auto path = List_Path(list_name);
     if (!path)

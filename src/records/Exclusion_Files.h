@@ -1,7 +1,6 @@
 #pragma once
 
-#include "list/Excluded_Numbers.h"
-#include "list/Exclusion_Set.h"
+#include "list/Number_List.h"
 
 #include <QString>
 #include <QStringList>
@@ -20,7 +19,7 @@ std::optional<QString> List_Path(const QString& list_name);
 /// What the applied lists hold together.
 struct Applied_Numbers
 {
-    Exclusion_Set numbers;      ///< one list after the other, repeats included
+    Number_List numbers;        ///< one list after the other, repeats included
     QStringList unusable_lists; ///< those that are there, and of which nothing is in the numbers; each once
     bool is_readable = true;    ///< whether it could be read which lists are applied
 };
@@ -28,7 +27,7 @@ struct Applied_Numbers
 /// The entries of a file, each trimmed, without the empty ones.
 QStringList Read_Index();
 QStringList Read_Applied();
-Excluded_Numbers Read_List(const QString& list_name);
+Number_List Read_List(const QString& list_name);
 
 /// The numbers of every applied list, for the main window. Other than everywhere else the applied names are used
 /// untrimmed. An applied list without a file is nothing to speak of.
@@ -42,7 +41,7 @@ bool Index_Exists();
 bool Append_To_Index(const QString& list_name);
 bool Write_Index(const QStringList& list_names);
 bool Write_Applied(const QStringList& list_names);
-bool Write_List(const QString& list_name, const Excluded_Numbers& numbers);
+bool Write_List(const QString& list_name, const Number_List& numbers);
 /// Sees to it that a list has a file that can be written to; a missing one is made empty.
 bool Create_List_If_Missing(const QString& list_name);
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "engine/Send_Choices.h"
-#include "list/Exclusion_Set.h"
+#include "list/Number_List.h"
 #include "list/Recipient_List.h"
 
 #include <QString>
@@ -34,7 +34,7 @@ public:
     virtual void Focus(Field field) = 0;
 
     virtual const Recipient_List& Recipients() const = 0;
-    virtual const Exclusion_Set& Exclusions() const = 0;
+    virtual const Number_List& Exclusions() const = 0;
     /// Puts a changed copy in the list's place and redraws the recipient table. Whoever changes many recipients changes
     /// a copy on a worker, since the list itself belongs to the interface thread.
     virtual void Replace_Recipients(Recipient_List recipients) = 0;
@@ -50,7 +50,7 @@ public:
     virtual void Take_Exclusions(const Exclusion_Files::Applied_Numbers& applied) = 0;
     /// The numbers of the applied lists as they are now, whatever the exclusion check box says. The exclusion set keeps
     /// whatever it holds.
-    virtual Exclusion_Set Read_Applied_Exclusions() = 0;
+    virtual Number_List Read_Applied_Exclusions() = 0;
 
     /// Answers yes for an invalid number; see Number_Rules.
     virtual bool Check_Ph_Number(const QString& number, bool test_flag) const = 0;

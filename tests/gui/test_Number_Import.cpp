@@ -1,13 +1,11 @@
 #include "gui/Open_Program.h"
 #include "list/Number_Import.h"
-#include "list/Number_Rules.h"
 #include "platform/Waiting.h"
 #include "windows/main/Load_Num_Info.h"
 
 #include <QFile>
 #include <QFileDialog>
 #include <QProgressBar>
-#include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <algorithm>
 #include <stdexcept>
@@ -437,28 +435,4 @@ TEST(Number_Import_Test, Hands_Over_Every_Number_And_Tells_How_Far_It_Has_Come)
     ASSERT_FALSE(imported.percents.isEmpty());
     EXPECT_TRUE(std::is_sorted(imported.percents.begin(), imported.percents.end()));
     EXPECT_EQ(imported.percents.last(), 100);
-}
-
-TEST(Number_Import_Test, The_Quick_Look_At_A_Line_Is_Of_One_Mind_With_The_Rules)
-{
-    const QString characters = QStringLiteral("0123456789+-\r \\{},a\t") + QChar(0x0661) + QChar(QChar::Nbsp);
-    QRandomGenerator random(31);
-    int numbers = 0;
-    const auto expect_one_mind = [&](const QString& line) {
-        const QString number = Number_Rules::Normalised_Number(Number_Import::Cleaned_Line(line));
-        ASSERT_EQ(Number_Texts().Text_Of(Number_Import::Number_In_Line(line)), number) << line.toStdString();
-        numbers += number.isEmpty() ? 0 : 1;
-    };
-    for (int round = 0; round < 200'000; ++round) {
-        QString line;
-        const int length = random.bounded(25);
-        const int variety = random.bounded(3) == 0 ? static_cast<int>(characters.size()) : 12 + random.bounded(2);
-        for (int i = 0; i < length; ++i)
-            line.append(characters[random.bounded(4) == 0 ? random.bounded(variety) : random.bounded(10)]);
-        expect_one_mind(line);
-        expect_one_mind(QLatin1String("+") + line);
-        expect_one_mind(line + QLatin1String("\r"));
-        ASSERT_FALSE(testing::Test::HasFatalFailure());
-    }
-    EXPECT_GT(numbers, 50'000);
 }

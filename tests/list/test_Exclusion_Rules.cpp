@@ -65,94 +65,9 @@ TEST(Exclusion_Rules, A_Mark_At_The_Front_Of_A_Name_Goes_As_It_Does_When_Its_Fil
     EXPECT_EQ(Without_Byte_Order_Mark(mark + " 7 "), u" 7 ") << "and otherwise as it stands";
 }
 
-TEST(Exclusion_Rules, A_Typed_Number_Is_Normalised_And_Judged)
-{
-    using Verdict = Judged_Number::Verdict;
-    Excluded_Numbers numbers;
-    numbers.Append("00447700");
-    numbers.Append("123");
-    const struct
-    {
-        const char* typed;
-        Verdict verdict;
-        const char* number;
-    } cases[] = {
-        {"+44-7701 ", Verdict::Accepted, "00447701"},
-        {"447700", Verdict::Accepted, "447700"},
-        {"12345678901234567890", Verdict::Accepted, "12345678901234567890"},
-        {"+123456789012345678", Verdict::Accepted, "00123456789012345678"},
-        {"+1234567890123456789", Verdict::Not_Valid, ""},
-        {"123456789012345678901", Verdict::Not_Valid, ""},
-        {"", Verdict::Not_Valid, ""},
-        {" - ", Verdict::Not_Valid, ""},
-        {"44+1", Verdict::Not_Valid, ""},
-        {"++44", Verdict::Not_Valid, ""},
-        {"12 34", Verdict::Not_Valid, ""},
-        {"12,34", Verdict::Not_Valid, ""},
-        {"12a", Verdict::Not_Valid, ""},
-        {"+447700", Verdict::Exists, ""},
-        {"1-2-3", Verdict::Exists, ""},
-    };
-    for (const auto& each : cases) {
-        const auto judged = Judge_Number(each.typed, numbers);
-        EXPECT_EQ(judged.verdict, each.verdict) << each.typed;
-        EXPECT_EQ(judged.number, each.number) << each.typed;
-    }
-}
-
-TEST(Exclusion_Rules, A_Line_Of_A_File_Loses_Braces_Backslashes_And_Dashes)
-{
-    const struct
-    {
-        QString line;
-        QString number;
-    } cases[] = {
-        {"+44-7700-900123", "00447700900123"},
-        {"{\\123}\r", "123"},
-        {" { 123 } ", "123"},
-        {"\\{}-", ""},
-        {"12{3", "123"},
-        {"-{+}-49-12", "004912"},
-        {"1 2", ""},
-        {"1{ }2", ""},
-        {"12345678901234567890", "12345678901234567890"},
-        {"123456789012345678901", ""},
-        {"1-2-3-4-5-6-7-8-9-0-1-2-3-4-5-6-7-8-9-0-", "12345678901234567890"},
-        {"name", ""},
-        {"", ""},
-        {QString(1000, u' ') + "123" + QString(1000, u'\t') + "}", "123"},
-        {"123" + QString(1000, u' ') + "4", ""},
-        {QString(100000, u'-') + "5", "5"},
-    };
-    for (const auto& each : cases)
-        EXPECT_EQ(Number_In_Line(each.line), each.number) << each.line.left(60).toStdString();
-}
-
-TEST(Exclusion_Rules, Every_Short_Line_Gives_What_The_Steps_Done_One_By_One_Give)
-{
-    const QString characters = "1+- {a\r";
-    const auto step_by_step = [](QString line) {
-        for (const char character : {'\\', '{', '}', '-'})
-            line.remove(QLatin1Char(character));
-        line = line.trimmed();
-        if (line.startsWith('+'))
-            line.replace(0, 1, "00");
-        const bool is_number = std::all_of(line.begin(), line.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
-        return is_number && line.size() <= 20 ? line : QString();
-    };
-    for (int code = 0; code < 7 * 7 * 7 * 7 * 7; ++code) {
-        QString line;
-        for (int left = code, place = 0; place < 5; ++place, left /= 7)
-            line += characters.at(left % 7);
-        ASSERT_EQ(Number_In_Line(line), step_by_step(line)) << line.toStdString();
-        const QString long_line = line + "123456789012345" + line;
-        ASSERT_EQ(Number_In_Line(long_line), step_by_step(long_line)) << long_line.toStdString();
-    }
-}
-
 TEST(Exclusion_Rules, A_Text_Adds_Each_New_Number_Once_And_Skips_The_Rest)
 {
-    Excluded_Numbers numbers;
+    Number_List numbers;
     numbers.Append("1");
     const int added = Add_Numbers_Of_Text("1\n2\r\n\nname\n2\n+3\n003\n4", numbers, [](int) {});
     EXPECT_EQ(added, 3);
@@ -168,7 +83,7 @@ TEST(Exclusion_Rules, Progress_Is_Told_In_Batches)
     QString text;
     for (int number = 0; number < 50000; ++number)
         text += QString::number(number) + "\n";
-    Excluded_Numbers numbers;
+    Number_List numbers;
     std::vector<int> told;
     EXPECT_EQ(Add_Numbers_Of_Text(text, numbers, [&](int count) { told.push_back(count); }), 50000);
     EXPECT_EQ(told, (std::vector<int>{20000, 40000}));

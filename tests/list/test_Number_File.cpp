@@ -1,7 +1,10 @@
 #include "list/Number_File.h"
+#include "list/Number_Rules.h"
 #include "support/Files.h"
 
+#include <QRandomGenerator>
 #include <QTemporaryDir>
+#include <algorithm>
 #include <sys/stat.h>
 
 namespace {
@@ -72,6 +75,88 @@ TEST_F(Number_File_Test, Of_Gigabytes_Not_One_Is_Read)
     ASSERT_TRUE(QFile::resize(m_folder.filePath("huge.txt"), Largest_Number_File + 1));
     EXPECT_EQ(Text_Of_Number_File(m_folder.filePath("huge.txt")), "");
     EXPECT_EQ(Bytes_Of_Number_File(m_folder.filePath("huge.txt")), "");
+}
+
+QString Number_On(const QString& line)
+{
+    return Number_Texts().Text_Of(Number_In_Line(line));
+}
+
+TEST(Number_In_Line, A_Line_Of_A_File_Loses_Braces_Backslashes_And_Dashes)
+{
+    const struct
+    {
+        QString line;
+        QString number;
+    } cases[] = {
+        {"+44-7700-900123", "00447700900123"},
+        {"{\\123}\r", "123"},
+        {" { 123 } ", "123"},
+        {"\\{}-", ""},
+        {"12{3", "123"},
+        {"-{+}-49-12", "004912"},
+        {"1 2", ""},
+        {"1{ }2", ""},
+        {"12345678901234567890", "12345678901234567890"},
+        {"123456789012345678901", ""},
+        {"1-2-3-4-5-6-7-8-9-0-1-2-3-4-5-6-7-8-9-0-", "12345678901234567890"},
+        {"name", ""},
+        {"", ""},
+        {QString(1000, u' ') + "123" + QString(1000, u'\t') + "}", "123"},
+        {"123" + QString(1000, u' ') + "4", ""},
+        {QString(100000, u'-') + "5", "5"},
+    };
+    for (const auto& each : cases)
+        EXPECT_EQ(Number_On(each.line), each.number) << each.line.left(60).toStdString();
+}
+
+TEST(Number_In_Line, Every_Short_Line_Gives_What_The_Steps_Done_One_By_One_Give)
+{
+    const QString characters = "1+- {a\r";
+    const auto step_by_step = [](QString line) {
+        for (const char character : {'\\', '{', '}', '-'})
+            line.remove(QLatin1Char(character));
+        line = line.trimmed();
+        if (line.startsWith('+'))
+            line.replace(0, 1, "00");
+        const bool is_number = std::all_of(line.begin(), line.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
+        return is_number && line.size() <= 20 ? line : QString();
+    };
+    for (int code = 0; code < 7 * 7 * 7 * 7 * 7; ++code) {
+        QString line;
+        for (int left = code, place = 0; place < 5; ++place, left /= 7)
+            line += characters.at(left % 7);
+        ASSERT_EQ(Number_On(line), step_by_step(line)) << line.toStdString();
+        const QString long_line = line + "123456789012345" + line;
+        ASSERT_EQ(Number_On(long_line), step_by_step(long_line)) << long_line.toStdString();
+    }
+}
+
+TEST(Number_In_Line, The_Quick_Look_At_A_Line_Is_Of_One_Mind_With_The_Rules)
+{
+    const QString characters = QStringLiteral("0123456789+-\r \\{},a\t") + QChar(0x0661) + QChar(QChar::Nbsp);
+    QRandomGenerator random(31);
+    int numbers = 0;
+    const auto expect_one_mind = [&](const QString& line) {
+        QString cleaned = line;
+        for (const QChar passed_over : {u'\\', u'{', u'}'})
+            cleaned.remove(passed_over);
+        const QString number = Number_Rules::Normalised_Number(cleaned);
+        ASSERT_EQ(Number_On(line), number) << line.toStdString();
+        numbers += number.isEmpty() ? 0 : 1;
+    };
+    for (int round = 0; round < 200'000; ++round) {
+        QString line;
+        const int length = random.bounded(25);
+        const int variety = random.bounded(3) == 0 ? static_cast<int>(characters.size()) : 12 + random.bounded(2);
+        for (int i = 0; i < length; ++i)
+            line.append(characters[random.bounded(4) == 0 ? random.bounded(variety) : random.bounded(10)]);
+        expect_one_mind(line);
+        expect_one_mind(QLatin1String("+") + line);
+        expect_one_mind(line + QLatin1String("\r"));
+        ASSERT_FALSE(testing::Test::HasFatalFailure());
+    }
+    EXPECT_GT(numbers, 50'000);
 }
 
 } // namespace

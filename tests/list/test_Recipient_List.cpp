@@ -57,8 +57,8 @@ void Expect_The_Same(const Recipient_List& list, const Scanned_List& scanned)
     }
     for (int i = 0; i < 60; ++i) {
         const QString number = Number_Of(i);
-        ASSERT_EQ(list.First_Index_Of(number), scanned.First_Index_Of(number)) << i;
-        ASSERT_EQ(list.Count_Of(number), scanned.Count_Of(number)) << i;
+        ASSERT_EQ(list.Numbers().First_Index_Of(number), scanned.First_Index_Of(number)) << i;
+        ASSERT_EQ(list.Numbers().Count_Of(number), scanned.Count_Of(number)) << i;
     }
 }
 
@@ -84,9 +84,9 @@ TEST(Recipient_List, It_Starts_Empty)
 {
     const Recipient_List list;
     EXPECT_EQ(list.Count(), 0);
-    EXPECT_EQ(list.First_Index_Of(QStringLiteral("1")), -1);
-    EXPECT_EQ(list.First_Index_Of({}), -1);
-    EXPECT_EQ(list.Count_Of(QStringLiteral("1")), 0);
+    EXPECT_EQ(list.Numbers().First_Index_Of(QStringLiteral("1")), -1);
+    EXPECT_EQ(list.Numbers().First_Index_Of({}), -1);
+    EXPECT_EQ(list.Numbers().Count_Of(QStringLiteral("1")), 0);
 }
 
 TEST(Recipient_List, Insertion_Order_Is_Kept_And_Messages_Stay_Exactly_As_Given)
@@ -120,24 +120,24 @@ TEST(Recipient_List, A_Row_Outside_The_List_Is_An_Error)
 TEST(Recipient_List, Look_Ups_Are_By_Exact_Text)
 {
     const Recipient_List list = List_Of({"004912", "+4912", "1", "01", "4912"});
-    EXPECT_EQ(list.First_Index_Of(QStringLiteral("+4912")), 1);
-    EXPECT_EQ(list.First_Index_Of(QStringLiteral("004912")), 0);
-    EXPECT_EQ(list.First_Index_Of(QStringLiteral("4912")), 4);
-    EXPECT_EQ(list.First_Index_Of(QStringLiteral("491")), -1);
-    EXPECT_EQ(list.First_Index_Of(QStringLiteral(" 1")), -1);
+    EXPECT_EQ(list.Numbers().First_Index_Of(QStringLiteral("+4912")), 1);
+    EXPECT_EQ(list.Numbers().First_Index_Of(QStringLiteral("004912")), 0);
+    EXPECT_EQ(list.Numbers().First_Index_Of(QStringLiteral("4912")), 4);
+    EXPECT_EQ(list.Numbers().First_Index_Of(QStringLiteral("491")), -1);
+    EXPECT_EQ(list.Numbers().First_Index_Of(QStringLiteral(" 1")), -1);
 }
 
 TEST(Recipient_List, Of_Repeated_Numbers_The_First_Is_Found_And_All_Are_Counted)
 {
     Recipient_List list = List_Of({"5", "7", "5", "9", "7", "5"});
-    EXPECT_EQ(list.First_Index_Of(QStringLiteral("5")), 0);
-    EXPECT_EQ(list.Count_Of(QStringLiteral("5")), 3);
-    EXPECT_EQ(list.First_Index_Of(QStringLiteral("7")), 1);
+    EXPECT_EQ(list.Numbers().First_Index_Of(QStringLiteral("5")), 0);
+    EXPECT_EQ(list.Numbers().Count_Of(QStringLiteral("5")), 3);
+    EXPECT_EQ(list.Numbers().First_Index_Of(QStringLiteral("7")), 1);
     list.Remove_Rows({0, 1});
-    EXPECT_EQ(list.First_Index_Of(QStringLiteral("5")), 0);
-    EXPECT_EQ(list.Count_Of(QStringLiteral("5")), 2);
-    EXPECT_EQ(list.First_Index_Of(QStringLiteral("7")), 2);
-    EXPECT_EQ(list.Count_Of(QStringLiteral("7")), 1);
+    EXPECT_EQ(list.Numbers().First_Index_Of(QStringLiteral("5")), 0);
+    EXPECT_EQ(list.Numbers().Count_Of(QStringLiteral("5")), 2);
+    EXPECT_EQ(list.Numbers().First_Index_Of(QStringLiteral("7")), 2);
+    EXPECT_EQ(list.Numbers().Count_Of(QStringLiteral("7")), 1);
 }
 
 TEST(Recipient_List, Rows_Are_Removed_Wherever_They_Stand)
@@ -162,14 +162,14 @@ TEST(Recipient_List, A_Replaced_Number_Is_Found_In_Its_New_Place_Alone)
     list.Replace(0, QStringLiteral("9"), QStringLiteral("new"));
     EXPECT_EQ(Numbers_Of(list), QLatin1String("9 7 5 9 5"));
     EXPECT_EQ(list.At(0).Message, QLatin1String("new"));
-    EXPECT_EQ(list.First_Index_Of(QStringLiteral("5")), 2);
-    EXPECT_EQ(list.Count_Of(QStringLiteral("5")), 2);
-    EXPECT_EQ(list.First_Index_Of(QStringLiteral("9")), 0);
-    EXPECT_EQ(list.Count_Of(QStringLiteral("9")), 2);
+    EXPECT_EQ(list.Numbers().First_Index_Of(QStringLiteral("5")), 2);
+    EXPECT_EQ(list.Numbers().Count_Of(QStringLiteral("5")), 2);
+    EXPECT_EQ(list.Numbers().First_Index_Of(QStringLiteral("9")), 0);
+    EXPECT_EQ(list.Numbers().Count_Of(QStringLiteral("9")), 2);
     list.Replace(1, QStringLiteral("8"), {});
-    EXPECT_EQ(list.First_Index_Of(QStringLiteral("7")), -1);
-    EXPECT_EQ(list.Count_Of(QStringLiteral("7")), 0);
-    EXPECT_EQ(list.First_Index_Of(QStringLiteral("8")), 1);
+    EXPECT_EQ(list.Numbers().First_Index_Of(QStringLiteral("7")), -1);
+    EXPECT_EQ(list.Numbers().Count_Of(QStringLiteral("7")), 0);
+    EXPECT_EQ(list.Numbers().First_Index_Of(QStringLiteral("8")), 1);
 }
 
 TEST(Recipient_List, It_Agrees_With_Plain_Scans_Whatever_Is_Done_To_It)
@@ -219,8 +219,8 @@ TEST(Recipient_List, A_Copy_Is_A_Snapshot)
     list.Remove_Rows({0});
     EXPECT_EQ(Numbers_Of(snapshot), QLatin1String("1 2 3"));
     EXPECT_EQ(Numbers_Of(list), QLatin1String("2 3 4"));
-    EXPECT_EQ(snapshot.First_Index_Of(QStringLiteral("1")), 0);
-    EXPECT_EQ(list.First_Index_Of(QStringLiteral("1")), -1);
+    EXPECT_EQ(snapshot.Numbers().First_Index_Of(QStringLiteral("1")), 0);
+    EXPECT_EQ(list.Numbers().First_Index_Of(QStringLiteral("1")), -1);
     list.Clear();
     EXPECT_EQ(snapshot.Count(), 3);
 }
@@ -234,7 +234,10 @@ TEST(Recipient_List, A_Worker_Reads_Its_Snapshot_While_The_List_Changes)
     std::thread worker([snapshot = list, &wrong] {
         for (int round = 0; round < 20; ++round) {
             for (int i = 0; i < 1000; ++i)
-                wrong += snapshot.First_Index_Of(QString::number(i)) == i && snapshot.At(i).Message.size() == 4 ? 0 : 1;
+                wrong +=
+                    snapshot.Numbers().First_Index_Of(QString::number(i)) == i && snapshot.At(i).Message.size() == 4
+                        ? 0
+                        : 1;
         }
     });
     for (int i = 0; i < 200; ++i) {
@@ -255,14 +258,14 @@ TEST(Recipient_List, A_Million_Look_Ups_And_The_Removal_Of_Half_Take_No_Scan)
         list.Append(QString::number(i), QStringLiteral("text"));
     int wrong = 0;
     for (int i = 0; i < Size; ++i)
-        wrong += list.First_Index_Of(QString::number(i)) == i ? 0 : 1;
+        wrong += list.Numbers().First_Index_Of(QString::number(i)) == i ? 0 : 1;
     std::vector<int> every_second;
     for (int i = 0; i < Size; i += 2)
         every_second.push_back(i);
     list.Remove_Rows(every_second);
     EXPECT_EQ(wrong, 0);
     EXPECT_EQ(list.Count(), Size / 2);
-    EXPECT_EQ(list.First_Index_Of(QStringLiteral("999999")), Size / 2 - 1);
+    EXPECT_EQ(list.Numbers().First_Index_Of(QStringLiteral("999999")), Size / 2 - 1);
     // Scans would take half a million million steps: hours. This allows for a slow machine under a sanitizer.
     EXPECT_LT(Now_Seconds() - start, 120);
 }
@@ -298,7 +301,7 @@ rlim_t Address_Space_In_Use()
     }
     bool is_whole = appended > 1000 && list.Count() == appended;
     for (int row = 0; row < appended && is_whole; ++row)
-        is_whole = list.At(row).Message == message && list.First_Index_Of(QString::number(row)) == row;
+        is_whole = list.At(row).Message == message && list.Numbers().First_Index_Of(QString::number(row)) == row;
     std::_Exit(is_whole ? 0 : 1);
 }
 

@@ -17,9 +17,9 @@ QStringList Texts_Of(const auto& numbers)
     return texts;
 }
 
-Excluded_Numbers Numbers_Of(const QStringList& texts)
+Number_List Numbers_Of(const QStringList& texts)
 {
-    Excluded_Numbers numbers;
+    Number_List numbers;
     for (const QString& text : texts)
         numbers.Append(text);
     return numbers;

@@ -26,7 +26,7 @@ public:
     QWidget* Window() override { return this; }
     void Focus(Field field) override { m_focused.push_back(field); }
     const Recipient_List& Recipients() const override { return m_recipients; }
-    const Exclusion_Set& Exclusions() const override { return m_exclusions; }
+    const Number_List& Exclusions() const override { return m_exclusions; }
     void Replace_Recipients(Recipient_List recipients) override
     {
         m_recipients = std::move(recipients);
@@ -45,7 +45,7 @@ public:
         ++m_exclusions_taken;
         m_exclusions = applied.numbers;
     }
-    Exclusion_Set Read_Applied_Exclusions() override
+    Number_List Read_Applied_Exclusions() override
     {
         ++m_exclusion_reads;
         return m_applied_exclusions;
@@ -54,7 +54,10 @@ public:
     {
         return Number_Rules::Check_Ph_Number(number, test_flag);
     }
-    bool Check_Duplicate_Number(const QString& number) const override { return m_recipients.Count_Of(number) > 0; }
+    bool Check_Duplicate_Number(const QString& number) const override
+    {
+        return m_recipients.Numbers().Count_Of(number) > 0;
+    }
     bool Check_Exclusion_Number(const QString& number) const override { return m_exclusions.Count_Of(number) > 0; }
     bool Blank_Msg_Chk() const override
     {
@@ -86,8 +89,8 @@ public:
     bool Is_Held() const { return m_input_hold != nullptr; }
 
     Recipient_List m_recipients;
-    Exclusion_Set m_exclusions;
-    Exclusion_Set m_applied_exclusions; ///< what the lists hold
+    Number_List m_exclusions;
+    Number_List m_applied_exclusions; ///< what the lists hold
     Send_Choices m_choices;
     QString m_previous_message;
     std::vector<Field> m_focused;

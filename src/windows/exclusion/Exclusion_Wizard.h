@@ -1,6 +1,6 @@
 #pragma once
 
-#include "list/Excluded_Numbers.h"
+#include "list/Number_List.h"
 #include "platform/Waiting.h"
 #include "windows/exclusion/Edited_Numbers.h"
 #include "windows/exclusion/Exclusion_Steps.h"
@@ -149,7 +149,7 @@ private:
     // The numbers
     std::vector<int> Selected_Numbers();
     void Show_Number_Count(int count);
-    void Take_Numbers(Excluded_Numbers numbers);
+    void Take_Numbers(Number_List numbers);
 
     bool Is_At_Work() const;
     bool Has_Unsaved_Numbers() const;
@@ -163,7 +163,7 @@ private:
     std::unique_ptr<PleaseWait_Modeless> plz_wait_Window;
     QStringList m_exclusion_list_Data;           // the names of all lists
     QStringList m_applied_axclusion_list_Data;   // the names of the applied lists
-    Excluded_Numbers m_ex_num_list_Data;         // the numbers of the list being made or edited
+    Number_List m_ex_num_list_Data;              // the numbers of the list being made or edited
     Row_Table_Model* m_available_rows = nullptr; // each belongs to the window
     Row_Table_Model* m_applied_rows = nullptr;
     Row_Table_Model* m_number_rows = nullptr;

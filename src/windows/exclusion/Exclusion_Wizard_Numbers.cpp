@@ -2,6 +2,7 @@
 
 #include "list/Exclusion_Rules.h"
 #include "list/Number_File.h"
+#include "list/Number_Judge.h"
 #include "platform/Interface_Thread.h"
 #include "platform/Log_Line.h"
 #include "platform/String_Helpers.h"
@@ -51,7 +52,7 @@ void Exclusion_Wizard::Update_Exclusion_Num_Count()
 }
 
 // Puts other numbers in the place of the present ones.
-void Exclusion_Wizard::Take_Numbers(Excluded_Numbers numbers)
+void Exclusion_Wizard::Take_Numbers(Number_List numbers)
 {
     std::swap(m_ex_num_list_Data, numbers);
     m_number_rows->Reload();
@@ -79,7 +80,7 @@ void Exclusion_Wizard::Replace_Number(int row, const QString& number)
 {
     if (row < 0 || row >= m_ex_num_list_Data.Count())
         return;
-    Excluded_Numbers numbers = m_ex_num_list_Data; // the table shows the present ones until these are whole
+    Number_List numbers = m_ex_num_list_Data; // the table shows the present ones until these are whole
     Work_On_Worker([&] { numbers.Replace(row, number); });
     std::swap(m_ex_num_list_Data, numbers);
     m_number_rows->Reload();
@@ -92,7 +93,7 @@ void Exclusion_Wizard::Continue_With_Edited_List()
     {
         const Shown_Sheet sheet(*this);
         Take_Numbers({});
-        Excluded_Numbers numbers;
+        Number_List numbers;
         Work_On_Worker([&] { numbers = Exclusion_Files::Read_List(m_exlist_name_str); }, Under::The_Sheet);
         Take_Numbers(std::move(numbers));
         Prev_Index = static_cast<unsigned>(m_ex_num_list_Data.Count());
@@ -133,7 +134,7 @@ void Exclusion_Wizard::Load_File_Btn()
         return;
     }
     const Shown_Sheet sheet(*this);
-    Excluded_Numbers numbers = m_ex_num_list_Data;
+    Number_List numbers = m_ex_num_list_Data;
     int added = 0;
     const auto show_progress = [this](int count) { Run_On_Interface_Thread([&] { Show_Number_Count(count); }); };
     try {
@@ -157,21 +158,22 @@ void Exclusion_Wizard::Load_File_Btn()
 
 void Exclusion_Wizard::Add_Number_Btn()
 {
-    using Verdict = Exclusion_Rules::Judged_Number::Verdict;
     m_ex_num_str = m_ui->m_loadnum_edit->text();
-    const auto judged = Exclusion_Rules::Judge_Number(m_ex_num_str, m_ex_num_list_Data);
+    const auto judged = Judge_Number(m_ex_num_str, {&m_ex_num_list_Data, nullptr});
     switch (judged.verdict) {
-    case Verdict::Not_Valid:
+    case Number_Verdict::Not_Valid:
         Tell_And_Focus(Exclusion_Texts::Number_Not_Valid, *m_ui->m_loadnum_edit);
         break;
-    case Verdict::Exists:
+    case Number_Verdict::Repeated:
         Tell_And_Focus(Exclusion_Texts::Number_Exists, *m_ui->m_loadnum_edit);
         break;
-    case Verdict::Accepted:
+    case Number_Verdict::Accepted:
         m_steps.back_flag = true;
         Create_Ex_Num_List(judged.number);
         m_ui->m_loadnum_edit->clear();
         m_ui->m_loadnum_edit->setFocus();
+        break;
+    case Number_Verdict::Excluded: // by what is applied: it may join a list all the same, and is not asked for
         break;
     }
 }
@@ -214,7 +216,7 @@ void Exclusion_Wizard::Remove_Number_Btn()
     if (rows.empty())
         return;
     const Shown_Sheet sheet(*this);
-    Excluded_Numbers numbers = m_ex_num_list_Data; // the table shows the present ones until these are whole
+    Number_List numbers = m_ex_num_list_Data; // the table shows the present ones until these are whole
     Work_On_Worker([&] { numbers.Remove_Rows(rows); }, Under::The_Sheet);
     std::swap(m_ex_num_list_Data, numbers);
     Reload_And_Select_First(*m_ui->m_ex_num_list, *m_number_rows);

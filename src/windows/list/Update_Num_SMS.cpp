@@ -1,6 +1,6 @@
 #include "windows/list/Update_Num_SMS.h"
 
-#include "list/Edited_Number.h"
+#include "list/Number_Judge.h"
 #include "list/Number_Rules.h"
 #include "toolkit/Line_Edit_Limit.h"
 #include "toolkit/Main_Window.h"
@@ -66,24 +66,26 @@ void Update_Num_SMS::Exclusion_Chk()
 
 void Update_Num_SMS::OKPressed()
 {
-    const auto judge = [this](const Exclusion_Set& exclusions) {
-        return Judge_Edited_Number(m_ui->m_num_str->text(), m_ui->m_s_str->text(), m_window->Recipients(), exclusions,
-                                   m_ui->_Skip_Duplicate_Chk->isChecked(), m_ui->_Exclusion_Chk->isChecked());
+    const auto judge = [this](const Number_List& exclusions) {
+        return Judge_Edited_Number(
+            m_ui->m_num_str->text(), m_ui->m_s_str->text(),
+            {m_ui->_Skip_Duplicate_Chk->isChecked() ? &m_window->Recipients().Numbers() : nullptr,
+             m_ui->_Exclusion_Chk->isChecked() ? &exclusions : nullptr});
     };
     auto judged = judge(m_window->Exclusions());
-    if (judged.verdict == Edited_Number::Verdict::Accepted)
+    if (judged.verdict == Number_Verdict::Accepted)
         judged = judge(m_applied_exclusions);
     switch (judged.verdict) {
-    case Edited_Number::Verdict::Not_Valid:
+    case Number_Verdict::Not_Valid:
         Refuse(QLatin1String(Not_A_Number));
         return;
-    case Edited_Number::Verdict::Duplicate:
+    case Number_Verdict::Repeated:
         Refuse(QLatin1String(Exists));
         return;
-    case Edited_Number::Verdict::Excluded:
+    case Number_Verdict::Excluded:
         Refuse(QLatin1String(Excluded));
         return;
-    case Edited_Number::Verdict::Accepted:
+    case Number_Verdict::Accepted:
         break;
     }
     const QString message = m_message->Text();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "list/Exclusion_Set.h"
+#include "list/Number_List.h"
 #include "windows/list/Counted_Message.h"
 
 #include <QDialog>
@@ -43,6 +43,6 @@ private:
 
     const std::unique_ptr<Ui::Update_Num_SMS> m_ui;
     std::unique_ptr<Counted_Message> m_message;
-    Exclusion_Set m_applied_exclusions; ///< what was read for the dialog's own check box
-    Main_Window* m_window = nullptr;    ///< the one that the dialog was last opened over
+    Number_List m_applied_exclusions; ///< what was read for the dialog's own check box
+    Main_Window* m_window = nullptr;  ///< the one that the dialog was last opened over
 };

@@ -10,6 +10,7 @@
 
 class Composer;
 class Number_Import;
+struct Number_Terms;
 class PleaseWait_Modeless;
 class QTableView;
 class Row_Table_Model;
@@ -52,7 +53,7 @@ public:
     bool Check_Exclusion_Number(const QString& number) const override;
     void Fill_Exclusion_Num_List() override;
     void Take_Exclusions(const Exclusion_Files::Applied_Numbers& applied) override;
-    Exclusion_Set Read_Applied_Exclusions() override;
+    Number_List Read_Applied_Exclusions() override;
     void Create_Exclusion_List(const QString& number);
     void Update_List_Count();
     void OnGetSelected();
@@ -86,7 +87,7 @@ public:
     QWidget* Window() override { return this; }
     void Focus(Field field) override;
     const Recipient_List& Recipients() const override { return nsListDataObject; }
-    const Exclusion_Set& Exclusions() const override { return nsExclusionListDataObject; }
+    const Number_List& Exclusions() const override { return nsExclusionListDataObject; }
     void Replace_Recipients(Recipient_List recipients) override;
     void Replace_Recipient(int row, const QString& number, const QString& message) override;
     void Redisplay_Recipients() override;
@@ -135,6 +136,7 @@ private:
     void Show_Device_In_Ticker();
     void Remember_Composer_Text();
     std::shared_ptr<void> Please_Wait();
+    Number_Terms Terms_For_New_Numbers() const;
     void Remove_All_Recipients();
     void Show_Exclusion_Trouble(const QString& text);
     void Show_List_Count(int count);
@@ -148,7 +150,7 @@ private:
     std::unique_ptr<Ui::CorvaneAppDelegate> m_ui;
     std::unique_ptr<MFCSMS> mfc_sms_obj;
     Recipient_List nsListDataObject;
-    Exclusion_Set nsExclusionListDataObject;
+    Number_List nsExclusionListDataObject;
     QString prev_composer_msg;
     int prev_list_item = 0; // recipients before the import
     Row_Table_Model* m_recipient_rows = nullptr;

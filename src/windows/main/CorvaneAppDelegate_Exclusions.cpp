@@ -13,7 +13,7 @@
 
 bool CorvaneAppDelegate::Check_Exclusion_Number(const QString& number) const
 {
-    return nsExclusionListDataObject.Count_Of(number) > 0;
+    return nsExclusionListDataObject.Contains(number);
 }
 
 void CorvaneAppDelegate::Create_Exclusion_List(const QString& number)
@@ -54,13 +54,13 @@ void CorvaneAppDelegate::Fill_Exclusion_Num_List()
 
 void CorvaneAppDelegate::Take_Exclusions(const Exclusion_Files::Applied_Numbers& applied)
 {
-    Exclusion_Set before = std::exchange(nsExclusionListDataObject, applied.numbers);
+    Number_List before = std::exchange(nsExclusionListDataObject, applied.numbers);
     m_exclusion_rows->Reload();
     Show_Exclusion_Trouble(Exclusion_Trouble(applied));
     Run_On_Worker([&] { before.Clear(); }); // maybe a million
 }
 
-Exclusion_Set CorvaneAppDelegate::Read_Applied_Exclusions()
+Number_List CorvaneAppDelegate::Read_Applied_Exclusions()
 {
     const auto applied = Applied_Numbers_Of_Files();
     Show_Exclusion_Trouble(Exclusion_Trouble(applied));

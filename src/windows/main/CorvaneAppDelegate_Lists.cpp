@@ -1,5 +1,5 @@
-#include "list/Number_Acceptance.h"
 #include "list/Number_Import.h"
+#include "list/Number_Judge.h"
 #include "list/Number_Rules.h"
 #include "platform/Interface_Thread.h"
 #include "platform/Log_Line.h"
@@ -77,16 +77,21 @@ bool CorvaneAppDelegate::Check_Ph_Number(const QString& number, bool test_flag) 
     return Number_Rules::Check_Ph_Number(number, test_flag);
 }
 
+Number_Terms CorvaneAppDelegate::Terms_For_New_Numbers() const
+{
+    return {m_ui->_Skip_Duplicate_Chk->isChecked() ? &nsListDataObject.Numbers() : nullptr,
+            m_ui->_Exclusion_Chk->isChecked() ? &nsExclusionListDataObject : nullptr};
+}
+
 QString CorvaneAppDelegate::Num_Able_To_insert(const QString& number) const
 {
-    const auto judged = Judge_Number(number, nsListDataObject, nsExclusionListDataObject,
-                                     m_ui->_Skip_Duplicate_Chk->isChecked(), m_ui->_Exclusion_Chk->isChecked());
-    return judged.verdict == Number_Acceptance::Verdict::Accepted ? judged.number : QString();
+    const auto judged = Judge_Number(number, Terms_For_New_Numbers());
+    return judged.verdict == Number_Verdict::Accepted ? judged.number : QString();
 }
 
 bool CorvaneAppDelegate::Check_Duplicate_Number(const QString& number) const
 {
-    return nsListDataObject.Count_Of(number) > 0;
+    return nsListDataObject.Numbers().Contains(number);
 }
 
 void CorvaneAppDelegate::Update_List_Count()
@@ -128,19 +133,18 @@ QString CorvaneAppDelegate::tableView(const QTableView* table, const QString& ob
 
 void CorvaneAppDelegate::Add_Number()
 {
-    const auto judged = Judge_Number(m_ui->_numberEdit->text(), nsListDataObject, nsExclusionListDataObject,
-                                     m_ui->_Skip_Duplicate_Chk->isChecked(), m_ui->_Exclusion_Chk->isChecked());
+    const auto judged = Judge_Number(m_ui->_numberEdit->text(), Terms_For_New_Numbers());
     switch (judged.verdict) {
-    case Number_Acceptance::Verdict::Not_Valid:
+    case Number_Verdict::Not_Valid:
         Show_MessageBox(Text_Not_A_Number);
         break;
-    case Number_Acceptance::Verdict::Duplicate:
+    case Number_Verdict::Repeated:
         Show_MessageBox(Text_Exists);
         break;
-    case Number_Acceptance::Verdict::Excluded:
+    case Number_Verdict::Excluded:
         Show_MessageBox(Text_Excluded);
         break;
-    case Number_Acceptance::Verdict::Accepted:
+    case Number_Verdict::Accepted:
         Create_Num_Msg_List(judged.number, m_composer->Text());
         Redisplay_Recipients();
         m_ui->_numberEdit->clear();

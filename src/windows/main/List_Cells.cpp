@@ -9,7 +9,7 @@ QString Recipient_Cell(const Recipient_List& nsListDataObject, const QString& id
     return nsListDataObject.At(pRowIndex).Value(identifier);
 }
 
-QString Exclusion_Cell(const Exclusion_Set& nsExclusionListDataObject, const QString& identifier, int pRowIndex)
+QString Exclusion_Cell(const Number_List& nsExclusionListDataObject, const QString& identifier, int pRowIndex)
 {
     if (pRowIndex < 0 || pRowIndex >= nsExclusionListDataObject.Count())
         throw Invalid_Parameter("pRowIndex >= 0 && pRowIndex < [nsExclusionListDataObject count]");

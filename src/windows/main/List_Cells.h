@@ -1,6 +1,6 @@
 #pragma once
 
-#include "list/Exclusion_Set.h"
+#include "list/Number_List.h"
 #include "list/Recipient_List.h"
 
 #include <QString>
@@ -10,4 +10,4 @@
 /// The value of a recipient under a column's identifier. Throws Invalid_Parameter for a row outside the list.
 QString Recipient_Cell(const Recipient_List& nsListDataObject, const QString& identifier, int pRowIndex);
 /// The same for the exclusion set.
-QString Exclusion_Cell(const Exclusion_Set& nsExclusionListDataObject, const QString& identifier, int pRowIndex);
+QString Exclusion_Cell(const Number_List& nsExclusionListDataObject, const QString& identifier, int pRowIndex);

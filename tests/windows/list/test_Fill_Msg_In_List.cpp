@@ -260,7 +260,7 @@ TEST_F(Fill_Msg_In_List_Test, Two_Hundred_Thousand_Recipients_Are_Filled_While_T
     for (int row = 0; row < Many; ++row)
         filled += m_window.m_recipients.At(row).Message == QStringLiteral("new") ? 1 : 0;
     EXPECT_EQ(filled, Many);
-    EXPECT_EQ(m_window.m_recipients.First_Index_Of(QStringLiteral("10000199999")), Many - 1);
+    EXPECT_EQ(m_window.m_recipients.Numbers().First_Index_Of(QStringLiteral("10000199999")), Many - 1);
 }
 
 TEST_F(Fill_Msg_In_List_Test, Once_The_Program_Is_Exiting_It_Does_Not_Open)

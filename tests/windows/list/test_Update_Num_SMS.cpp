@@ -141,8 +141,8 @@ TEST_F(Update_Num_SMS_Test, A_Changed_Number_Is_Saved_Normalised_In_The_Same_Pla
     });
     EXPECT_EQ(List(), (QStringList{"111: one", "0044207946: two", "333: three"}));
     EXPECT_EQ(Update_Num_SMS::defaultInstance()->result(), 1);
-    EXPECT_EQ(m_window.m_recipients.First_Index_Of(QStringLiteral("0044207946")), 1);
-    EXPECT_EQ(m_window.m_recipients.Count_Of(QStringLiteral("12345")), 0);
+    EXPECT_EQ(m_window.m_recipients.Numbers().First_Index_Of(QStringLiteral("0044207946")), 1);
+    EXPECT_EQ(m_window.m_recipients.Numbers().Count_Of(QStringLiteral("12345")), 0);
     EXPECT_GT(m_window.m_redisplays, 0);
 }
 
@@ -382,7 +382,7 @@ TEST_F(Update_Num_SMS_Test, Saving_One_Of_Many_Recipients_Leaves_The_Others_Wher
     });
     EXPECT_EQ(&std::as_const(m_window.m_recipients).Message_At(0), first) << "a copy of a million takes its time";
     EXPECT_EQ(m_window.m_recipients.At(Many).Number, QStringLiteral("777"));
-    EXPECT_EQ(m_window.m_recipients.First_Index_Of(QStringLiteral("777")), Many);
+    EXPECT_EQ(m_window.m_recipients.Numbers().First_Index_Of(QStringLiteral("777")), Many);
 }
 
 TEST_F(Update_Num_SMS_Test, It_Has_The_Programs_Background_And_One_Shared_Instance)

@@ -1,0 +1,14 @@
+#include "list/Number_Judge.h"
+
+#include "list/Number_Rules.h"
+
+Judged_Number Judge_Number(const QString& typed, const Number_Terms& terms)
+{
+    const QString number = Number_Rules::Normalised_Number(typed);
+    return {number.isEmpty() ? Number_Verdict::Not_Valid : Judge_Valid_Number(number, terms), number};
+}
+
+Judged_Number Judge_Edited_Number(const QString& typed, const QString& number_before, const Number_Terms& terms)
+{
+    return typed == number_before ? Judged_Number{Number_Verdict::Accepted, typed} : Judge_Number(typed, terms);
+}
