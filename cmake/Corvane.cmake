@@ -40,11 +40,11 @@ corvane_precompiled(corvane_pch_widgets Qt6::Widgets
   <QApplication> <QByteArray> <QDateTime> <QHash> <QObject> <QString> <QStringList> <QtWidgets> <atomic> <functional>
   <memory> <mutex> <string> <thread> <vector>)
 
-# corvane_room(<name> [WIDGETS] [LINKS <library>...])
+# corvane_room(<name> [PLAIN | WIDGETS] [LINKS <library>...])
 # One static library for each room, made of the sources in the room's own folder and linked to exactly what the room may
-# include. Includes are written from src/ on, so that every #include names the room it reaches into.
+# include; a plain one knows no Qt. Includes are written from src/ on, so that every #include names the room it reaches into.
 function(corvane_room name)
-  cmake_parse_arguments(ROOM "WIDGETS" "" "LINKS" ${ARGN})
+  cmake_parse_arguments(ROOM "PLAIN;WIDGETS" "" "LINKS" ${ARGN})
   file(GLOB room_sources CONFIGURE_DEPENDS *.cpp *.h *.ui)
   list(FILTER room_sources EXCLUDE REGEX "/main\\.cpp$") # belongs to the program, not to the room
   if(NOT room_sources)
@@ -54,6 +54,10 @@ function(corvane_room name)
   endif()
   add_library(corvane_${name} STATIC ${room_sources})
   target_include_directories(corvane_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+  if(ROOM_PLAIN)
+    target_link_libraries(corvane_${name} PUBLIC ${ROOM_LINKS} PRIVATE corvane_options)
+    return()
+  endif()
   if(ROOM_WIDGETS)
     set(qt_library Qt6::Widgets)
     set(pch corvane_pch_widgets)

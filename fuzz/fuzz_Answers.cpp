@@ -3,7 +3,7 @@
 #include "device/Printable_Text.h"
 #include "device/Submission_Rules.h"
 #include "fuzz/Fuzz_Input.h"
-#include "phone/Unicode_Text.h"
+#include "handset/Unicode_Text.h"
 #include "platform/Text_Files.h"
 
 #include <QRegularExpression>

@@ -1,7 +1,7 @@
 #include "device/Submission_Rules.h"
 #include "fuzz/Fuzz_Input.h"
+#include "handset/Submit_Decoder.h"
 #include "pdu/PDU.h"
-#include "phone/Submit_Decoder.h"
 
 #include <algorithm>
 #include <vector>

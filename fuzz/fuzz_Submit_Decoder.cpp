@@ -1,7 +1,7 @@
 #include "fuzz/Fuzz_Input.h"
-#include "phone/Message_Joiner.h"
-#include "phone/Submit_Decoder.h"
-#include "phone/Unicode_Text.h"
+#include "handset/Message_Joiner.h"
+#include "handset/Submit_Decoder.h"
+#include "handset/Unicode_Text.h"
 
 #include <QByteArray>
 #include <span>

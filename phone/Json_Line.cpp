@@ -1,6 +1,6 @@
 #include "phone/Json_Line.h"
 
-#include "phone/Unicode_Text.h"
+#include "handset/Unicode_Text.h"
 
 namespace Handset {
 

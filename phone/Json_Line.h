@@ -1,7 +1,7 @@
 // One JSON object on one line (RFC 8259), for what the phone prints. Pure.
 #pragma once
 
-#include "phone/Handset_Message.h"
+#include "handset/Handset_Message.h"
 
 #include <string>
 #include <string_view>

@@ -2,7 +2,7 @@
 // manner can be tested as a value. Owned by Virtual_Phone, which calls it under its lock.
 #pragma once
 
-#include "phone/Message_Joiner.h"
+#include "handset/Message_Joiner.h"
 #include "phone/Phone_Manners.h"
 #include "phone/Phone_Moods.h"
 #include "phone/Phone_Settings.h"

@@ -1,7 +1,7 @@
 #include "phone/Phone_Options.h"
 
+#include "handset/Unicode_Text.h"
 #include "phone/Phone_Settings.h"
-#include "phone/Unicode_Text.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 #include "phone/Phone_Settings.h"
 
-#include "phone/Unicode_Text.h"
+#include "handset/Unicode_Text.h"
 
 #include <algorithm>
 

@@ -3,9 +3,9 @@
 // came reads it first.
 #pragma once
 
+#include "handset/Handset_Message.h"
 #include "phone/Answer_Queue.h"
 #include "phone/Descriptor.h"
-#include "phone/Handset_Message.h"
 #include "phone/Phone_Mind.h"
 #include "phone/Pty_Line.h"
 #include "phone/Virtual_Phone.h"

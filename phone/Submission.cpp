@@ -1,7 +1,7 @@
 #include "phone/Submission.h"
 
-#include "phone/Gsm_Alphabet.h"
-#include "phone/Unicode_Text.h"
+#include "handset/Gsm_Alphabet.h"
+#include "handset/Unicode_Text.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 // From what stood behind the prompt of AT+CMGS to a part as a handset shows it (3GPP TS 27.005 3.5.1 and 4.3). Pure.
 #pragma once
 
-#include "phone/Message_Joiner.h"
+#include "handset/Message_Joiner.h"
 #include "phone/Phone_Settings.h"
 
 #include <optional>

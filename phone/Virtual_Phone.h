@@ -3,7 +3,7 @@
 // destructor. Every function may be called from any thread.
 #pragma once
 
-#include "phone/Handset_Message.h"
+#include "handset/Handset_Message.h"
 #include "phone/Lines.h"
 #include "phone/Phone_Moods.h"
 

@@ -196,6 +196,7 @@ const std::vector<Room>& Rooms()
 {
     static const std::vector<Room> Table{
         {"platform", {}, Room::Core},
+        {"handset", {}, Room::Core},
         {"pdu", {}, Room::Core},
         {"list", {"platform"}, Room::Core},
         {"records", {"platform", "list"}, Room::Core},
@@ -303,11 +304,17 @@ Complaints Check_Phone(const Source_Tree& tree)
 {
     Complaints complaints;
     for (const auto& [path, lines] : tree) {
-        if (!path.starts_with("phone/") || !Is_Cpp(path))
+        const std::string room = path.starts_with("phone/") ? "phone" : Room_Of(path) == "handset" ? "handset" : "";
+        if (room.empty() || !Is_Cpp(path))
             continue;
         for (const Include& include : Includes_Of(lines)) {
+            const bool is_of_handset = include.path.starts_with("handset/");
             if (!include.is_quoted && Is_Of_Qt(include.path))
-                complaints.push_back(At(path, include.line, "phone must not include Qt's " + include.path));
+                complaints.push_back(At(path, include.line, room + " must not include Qt's " + include.path));
+            else if (is_of_handset && !tree.contains("src/" + include.path))
+                complaints.push_back(At(path, include.line, "\"" + include.path + "\" is no file"));
+            else if (room == "handset" || is_of_handset)
+                continue; // Check_Rooms has the rest
             else if (tree.contains("src/" + include.path) || tree.contains("tests/" + include.path) ||
                      (include.is_quoted && !include.path.starts_with("phone/")))
                 complaints.push_back(At(path, include.line, "phone must not include " + include.path));

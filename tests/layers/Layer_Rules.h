@@ -34,7 +34,7 @@ Complaints Check_Core(const Source_Tree& tree);
 /// No file of src/ or phone/ includes itself, directly or round a corner.
 Complaints Check_Circles(const Source_Tree& tree);
 
-/// The virtual phone shares nothing with src/, and knows neither tests/ nor Qt.
+/// The virtual phone shares src/handset with the program and nothing else, and knows no tests; neither knows Qt.
 Complaints Check_Phone(const Source_Tree& tree);
 
 /// No source is longer than 700 lines.

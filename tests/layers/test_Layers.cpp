@@ -52,7 +52,7 @@ TEST(Layers, No_File_Includes_Itself_Round_A_Corner)
     EXPECT_EQ(In_Lines(Check_Circles(The_Checkout())), "");
 }
 
-TEST(Layers, The_Phone_Shares_Nothing_With_The_Program)
+TEST(Layers, The_Phone_Shares_Nothing_But_The_Handset_With_The_Program)
 {
     EXPECT_EQ(In_Lines(Check_Phone(The_Checkout())), "");
 }
@@ -83,9 +83,9 @@ TEST(Layer_Rules, The_Table_Goes_Upwards_Only)
         below.push_back(room.folder);
     }
     EXPECT_THAT(Rooms().front().may_include, IsEmpty());
-    EXPECT_EQ(below, (std::vector<std::string>{"platform", "pdu", "list", "records", "device", "engine", "doctor",
-                                               "toolkit", "windows/list", "windows/stores", "windows/exclusion",
-                                               "windows/phone", "windows/main", "app"}));
+    EXPECT_EQ(below, (std::vector<std::string>{"platform", "handset", "pdu", "list", "records", "device", "engine",
+                                               "doctor", "toolkit", "windows/list", "windows/stores",
+                                               "windows/exclusion", "windows/phone", "windows/main", "app"}));
 }
 
 TEST(Layer_Rules, The_Deepest_Room_Counts)
@@ -178,19 +178,23 @@ TEST(Layer_Rules, Two_Ways_To_One_File_Are_No_Circle)
 TEST(Layer_Rules, The_Phone_Knows_Neither_Sources_Nor_Tests_Nor_Qt)
 {
     const Source_Tree tree{{"src/pdu/PDU.h", {}},
+                           {"src/handset/Text.h", {"#include <QString>", "#include <vector>"}},
                            {"tests/support/User.h", {}},
                            {"phone/Line.h", {}},
                            {"phone/Line.cpp",
                             {"#include \"phone/Line.h\"", "#include <string>", "#include \"pdu/PDU.h\"",
                              "#include <QString>", "#include <QtCore/qglobal.h>", "#include \"support/User.h\"",
-                             "#include \"../src/pdu/PDU.h\"", "#include \"phone/Gone.h\"", "#include <qstring.h>"}}};
+                             "#include \"../src/pdu/PDU.h\"", "#include \"phone/Gone.h\"", "#include <qstring.h>",
+                             "#include \"handset/Text.h\"", "#include \"handset/Gone.h\""}}};
     EXPECT_THAT(Check_Phone(tree), ElementsAre("phone/Line.cpp:3: phone must not include pdu/PDU.h",
                                                "phone/Line.cpp:4: phone must not include Qt's QString",
                                                "phone/Line.cpp:5: phone must not include Qt's QtCore/qglobal.h",
                                                "phone/Line.cpp:6: phone must not include support/User.h",
                                                "phone/Line.cpp:7: phone must not include ../src/pdu/PDU.h",
                                                "phone/Line.cpp:8: \"phone/Gone.h\" is no file",
-                                               "phone/Line.cpp:9: phone must not include Qt's qstring.h"));
+                                               "phone/Line.cpp:9: phone must not include Qt's qstring.h",
+                                               "phone/Line.cpp:11: \"handset/Gone.h\" is no file",
+                                               "src/handset/Text.h:1: handset must not include Qt's QString"));
 }
 
 TEST(Layer_Rules, Seven_Hundred_Lines_Are_Enough)

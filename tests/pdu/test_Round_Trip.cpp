@@ -6,9 +6,9 @@
 #include "Text_Printing.h"
 #include "Written_Lists.h"
 #include "device/Submission_Rules.h"
+#include "handset/Gsm_Alphabet.h"
+#include "handset/Submit_Decoder.h"
 #include "pdu/PDU.h"
-#include "phone/Gsm_Alphabet.h"
-#include "phone/Submit_Decoder.h"
 
 // What people type, encoded here, and what a handset shows of it, decoded by the phone from the standards alone.
 

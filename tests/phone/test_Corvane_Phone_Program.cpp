@@ -1,7 +1,7 @@
 // corvane-phone as a program: started as a child, its output read, ended by signal or by its input.
 #include "phone/Line_Peer.h"
 #include "phone/Lines.h"
-#include "phone/Strict_Json.h"
+#include "support/Strict_Json.h"
 
 #include <gtest/gtest.h>
 

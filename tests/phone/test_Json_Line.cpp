@@ -1,5 +1,5 @@
 #include "phone/Json_Line.h"
-#include "phone/Strict_Json.h"
+#include "support/Strict_Json.h"
 
 #include <gtest/gtest.h>
 

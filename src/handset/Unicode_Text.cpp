@@ -1,4 +1,4 @@
-#include "phone/Unicode_Text.h"
+#include "handset/Unicode_Text.h"
 
 #include <array>
 

@@ -1,6 +1,6 @@
-#include "phone/Submit_Vectors.h"
+#include "handset/Submit_Vectors.h"
 
-#include "phone/Strict_Json.h"
+#include "support/Strict_Json.h"
 
 #include <fstream>
 #include <iterator>

@@ -1,8 +1,8 @@
-#include "phone/Submit_Decoder.h"
+#include "handset/Submit_Decoder.h"
 
-#include "phone/Gsm_Alphabet.h"
-#include "phone/Octet_Cursor.h"
-#include "phone/Unicode_Text.h"
+#include "handset/Gsm_Alphabet.h"
+#include "handset/Octet_Cursor.h"
+#include "handset/Unicode_Text.h"
 
 namespace Handset {
 

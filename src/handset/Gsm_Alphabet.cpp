@@ -1,6 +1,6 @@
-#include "phone/Gsm_Alphabet.h"
+#include "handset/Gsm_Alphabet.h"
 
-#include "phone/Unicode_Text.h"
+#include "handset/Unicode_Text.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
-#include "phone/Coding_Scheme.h"
+#include "handset/Coding_Scheme.h"
 
-#include "phone/Gsm_Alphabet.h"
-#include "phone/Unicode_Text.h"
+#include "handset/Gsm_Alphabet.h"
+#include "handset/Unicode_Text.h"
 
 namespace Handset {
 

@@ -2,7 +2,7 @@
 // Pure: one function a field, a bounded cursor, an error value with its reason for every frame that is not well formed.
 #pragma once
 
-#include "phone/Coding_Scheme.h"
+#include "handset/Coding_Scheme.h"
 
 #include <cstddef>
 #include <cstdint>

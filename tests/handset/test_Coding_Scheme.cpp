@@ -1,4 +1,4 @@
-#include "phone/Coding_Scheme.h"
+#include "handset/Coding_Scheme.h"
 
 #include <gtest/gtest.h>
 

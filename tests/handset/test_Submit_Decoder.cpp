@@ -1,5 +1,5 @@
-#include "phone/Submit_Decoder.h"
-#include "phone/Submit_Vectors.h"
+#include "handset/Submit_Decoder.h"
+#include "handset/Submit_Vectors.h"
 
 #include <gtest/gtest.h>
 

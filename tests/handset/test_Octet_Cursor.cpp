@@ -1,4 +1,4 @@
-#include "phone/Octet_Cursor.h"
+#include "handset/Octet_Cursor.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "phone/Gsm_Alphabet.h"
-#include "phone/Unicode_Text.h"
+#include "handset/Gsm_Alphabet.h"
+#include "handset/Unicode_Text.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include "phone/Strict_Json.h"
+#include "support/Strict_Json.h"
 
-#include "phone/Unicode_Text.h"
+#include "handset/Unicode_Text.h"
 
 #include <charconv>
 #include <stdexcept>

@@ -1,4 +1,4 @@
-#include "phone/Message_Joiner.h"
+#include "handset/Message_Joiner.h"
 
 #include <algorithm>
 

@@ -3,9 +3,9 @@
 // differs from the one held begins a new message, and what was held of the old one is dropped.
 #pragma once
 
-#include "phone/Coding_Scheme.h"
-#include "phone/Handset_Message.h"
-#include "phone/Submit_Decoder.h"
+#include "handset/Coding_Scheme.h"
+#include "handset/Handset_Message.h"
+#include "handset/Submit_Decoder.h"
 
 #include <compare>
 #include <cstdint>
