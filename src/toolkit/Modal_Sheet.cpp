@@ -1,6 +1,7 @@
 #include "toolkit/Modal_Sheet.h"
 
 #include "platform/Interface_Thread.h"
+#include "toolkit/Dialog_Over.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
@@ -18,8 +19,7 @@ void Modal_Sheet::Begin_Sheet(QWidget* over)
         m_is_let_go = false;
         Become(Qt::WindowModal, m_sheet_flags);
     }
-    if (parentWidget() != over)
-        setParent(over, windowFlags()); // which hides it
+    Put_Over(*this, over);
     if (!isVisible())
         setAttribute(Qt::WA_Moved, false); // a dialog that nobody has moved is put in the middle of its window
     show();

@@ -4,9 +4,8 @@
 #include "list/Number_Rules.h"
 #include "platform/Interface_Thread.h"
 #include "platform/String_Helpers.h"
-#include "platform/Thread_Shortage.h"
 #include "records/Exclusion_Files.h"
-#include "toolkit/Input_Hold.h"
+#include "toolkit/Dialog_Over.h"
 #include "toolkit/Key_Actions.h"
 #include "toolkit/Line_Edit_Limit.h"
 #include "toolkit/List_Tables.h"
@@ -16,6 +15,7 @@
 #include "toolkit/Row_Table_Model.h"
 #include "toolkit/Shared_Instance.h"
 #include "toolkit/Window_Look.h"
+#include "toolkit/Window_Work.h"
 #include "ui_Exclusion_Wizard.h"
 #include "windows/exclusion/Exclusion_Texts.h"
 #include "windows/exclusion/Update_Ex_Num.h"
@@ -42,14 +42,13 @@ const QString Key_Number = QStringLiteral("Exclusion_Num_List");
 
 } // namespace
 
-Exclusion_Wizard::Exclusion_Wizard(QWidget* parent)
-    : QDialog(parent), m_ui(std::make_unique<Ui::Exclusion_Wizard>()),
-      m_is_loading(std::make_shared<std::atomic<bool>>(false))
+Exclusion_Wizard::Exclusion_Wizard(QWidget* parent) : QDialog(parent), m_ui(std::make_unique<Ui::Exclusion_Wizard>())
 {
     m_ui->setupUi(this);
     Apply_Window_Look(*this, Letters{.columns = 120, .lines = 40});
     Update_Excl_Num_Window = std::make_unique<Update_Ex_Num>(*this, this);
     plz_wait_Window = std::make_unique<PleaseWait_Modeless>(this);
+    m_work = std::make_unique<Window_Work>(*this, *plz_wait_Window);
     awakeFromNib();
 }
 
@@ -150,8 +149,7 @@ void Exclusion_Wizard::Open_Exclusion_Wnd()
 {
     if (isVisible() || Program_Is_Exiting())
         return;
-    if (Main_App_wnd && parentWidget() != Main_App_wnd->Window())
-        setParent(Main_App_wnd->Window(), windowFlags());
+    Put_Over_Main_Window(*this);
     Begin_On_First_Screen();
     Show_Hide_Add_Screen_1(true);
     Show_Hide_Finish_Screen(true);
@@ -167,12 +165,8 @@ void Exclusion_Wizard::Open_Exclusion_Wnd()
 void Exclusion_Wizard::Start_Loading()
 {
     m_is_over = 0;
-    *m_is_loading = true;
-    m_input_hold = std::make_unique<Input_Hold>(this);
-    Start_Worker("load exclusion", [this, is_loading = m_is_loading] {
-        const std::shared_ptr<void> counted_out(nullptr, [&](void*) { *is_loading = false; });
-        Load_Thread();
-    });
+    m_work->Hold_Input();
+    m_work->Start("load exclusion", [this] { Load_Thread(); });
 }
 
 void Exclusion_Wizard::Load_Thread()
@@ -200,7 +194,7 @@ void Exclusion_Wizard::LoadItems()
         m_ui->m_applied_axclusion_list->clearSelection();
         m_available_rows->Reload();
         m_applied_rows->Reload();
-        m_input_hold.reset();
+        m_work->Release_Input();
     });
 }
 
@@ -208,10 +202,7 @@ void Exclusion_Wizard::LoadItems()
 void Exclusion_Wizard::End_Run()
 {
     m_is_over = 1;
-    if (*m_is_loading)
-        Await_Worker([is_loading = m_is_loading] { return !*is_loading; });
-    m_input_hold.reset();
-    plz_wait_Window->End_Sheet();
+    m_work->End();
 }
 
 void Exclusion_Wizard::Cancel_Btn()
@@ -248,7 +239,7 @@ void Exclusion_Wizard::closeEvent(QCloseEvent* event)
 // While files are worked on, the window has to wait for it.
 bool Exclusion_Wizard::Is_At_Work() const
 {
-    return m_is_working || plz_wait_Window->isVisible();
+    return m_is_working || m_work->Is_Sheet_Shown();
 }
 
 // Those that Back asks about. The flag may be left from a list that has been saved, while none is shown.
@@ -317,13 +308,12 @@ void Exclusion_Wizard::controlTextDidChange(QLineEdit& field)
 
 void Exclusion_Wizard::Show_Create_Modeless()
 {
-    if (isVisible())
-        plz_wait_Window->Begin_Sheet(this);
+    m_work->Show_Sheet();
 }
 
 void Exclusion_Wizard::Hide_Destroy_Modeless()
 {
-    plz_wait_Window->End_Sheet();
+    m_work->Hide_Sheet();
 }
 
 // The sheet is what keeps the user's clicks away; without one they wait until the work is done.

@@ -7,18 +7,17 @@
 
 #include <QDialog>
 #include <QStringList>
-#include <atomic>
 #include <functional>
 #include <memory>
 #include <vector>
 
 class Exclusion_Wizard;
-class Input_Hold;
 class PleaseWait_Modeless;
 class QLineEdit;
 class QTableView;
 class Row_Table_Model;
 class Update_Ex_Num;
+class Window_Work;
 
 namespace Ui {
 class Exclusion_Wizard;
@@ -110,8 +109,6 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    class Shown_Sheet;
-
     enum class Under
     {
         Nothing,
@@ -173,8 +170,7 @@ private:
     QString m_exlist_path_str;
     QString m_ex_num_str;
 
-    std::unique_ptr<Input_Hold> m_input_hold; // until the lists are in
     bool m_is_working = false;
-    Stop_Flag m_is_over;                             // the window has been closed
-    std::shared_ptr<std::atomic<bool>> m_is_loading; // outlives the window in the worker that clears it
+    Stop_Flag m_is_over;                 // the window has been closed
+    std::unique_ptr<Window_Work> m_work; // the load, until whose end the window takes no input
 };

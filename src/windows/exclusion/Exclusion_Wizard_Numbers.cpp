@@ -10,6 +10,7 @@
 #include "toolkit/File_Panels.h"
 #include "toolkit/List_Tables.h"
 #include "toolkit/Row_Table_Model.h"
+#include "toolkit/Window_Work.h"
 #include "ui_Exclusion_Wizard.h"
 #include "windows/exclusion/Exclusion_Texts.h"
 #include "windows/exclusion/Update_Ex_Num.h"
@@ -25,19 +26,6 @@ constexpr int Reload_Count = 10;    // reaching exactly this many numbers reload
 constexpr int Many_Numbers = 10000; // to let go of so many takes its time
 
 } // namespace
-
-// Shows the please-wait sheet and takes it down on every way out.
-class Exclusion_Wizard::Shown_Sheet
-{
-public:
-    explicit Shown_Sheet(Exclusion_Wizard& wizard) : m_wizard(wizard) { m_wizard.Show_Create_Modeless(); }
-    ~Shown_Sheet() { m_wizard.Hide_Destroy_Modeless(); }
-    Shown_Sheet(const Shown_Sheet&) = delete;
-    Shown_Sheet& operator=(const Shown_Sheet&) = delete;
-
-private:
-    Exclusion_Wizard& m_wizard;
-};
 
 void Exclusion_Wizard::Show_Number_Count(int count)
 {
@@ -91,7 +79,7 @@ void Exclusion_Wizard::Continue_With_Edited_List()
 {
     m_exlist_name_str = Typed_Name();
     {
-        const Shown_Sheet sheet(*this);
+        const auto sheet = m_work->Sheet();
         Take_Numbers({});
         Number_List numbers;
         Work_On_Worker([&] { numbers = Exclusion_Files::Read_List(m_exlist_name_str); }, Under::The_Sheet);
@@ -133,7 +121,7 @@ void Exclusion_Wizard::Load_File_Btn()
         Tell_And_Focus(Exclusion_Texts::Not_A_File, *m_ui->m_loadfile_edit);
         return;
     }
-    const Shown_Sheet sheet(*this);
+    const auto sheet = m_work->Sheet();
     Number_List numbers = m_ex_num_list_Data;
     int added = 0;
     const auto show_progress = [this](int count) { Run_On_Interface_Thread([&] { Show_Number_Count(count); }); };
@@ -215,7 +203,7 @@ void Exclusion_Wizard::Remove_Number_Btn()
     const auto rows = Selected_Numbers();
     if (rows.empty())
         return;
-    const Shown_Sheet sheet(*this);
+    const auto sheet = m_work->Sheet();
     Number_List numbers = m_ex_num_list_Data; // the table shows the present ones until these are whole
     Work_On_Worker([&] { numbers.Remove_Rows(rows); }, Under::The_Sheet);
     std::swap(m_ex_num_list_Data, numbers);

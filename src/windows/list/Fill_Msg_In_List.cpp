@@ -2,6 +2,7 @@
 
 #include "engine/Job_State.h"
 #include "platform/Interface_Thread.h"
+#include "toolkit/Dialog_Over.h"
 #include "toolkit/Main_Window.h"
 #include "toolkit/Message_Boxes.h"
 #include "toolkit/PleaseWait_Modeless.h"
@@ -36,7 +37,7 @@ bool Has_Blank_Message(const Main_Window& window)
 
 Fill_Msg_In_List::Fill_Msg_In_List(QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::Fill_Msg_In_List>()),
-      plz_wait_Window(std::make_unique<PleaseWait_Modeless>())
+      plz_wait_Window(std::make_unique<PleaseWait_Modeless>()), m_work(*this, *plz_wait_Window)
 {
     m_ui->setupUi(this);
     Apply_Window_Look(*this);
@@ -59,7 +60,7 @@ int Fill_Msg_In_List::Open_Dialog(Main_Window& window)
     m_window = &window;
     Fill_To_ALL_Pressed();
     m_ui->_fill_msg_all->setFocus();
-    return Run_Over(window, *this);
+    return Run_Dialog_Over(*this, window.Window());
 }
 
 // The radio buttons exclude each other: one that is switched on switches the others off.
@@ -84,7 +85,7 @@ void Fill_Msg_In_List::OKPressed()
     const Fill_Rules::Choice choice = Choice();
     if (!Is_Meant(choice))
         return;
-    auto sheet = Please_Wait(*this);
+    auto sheet = m_work.Sheet();
     const QString message = Message_IS;
     const auto selected_rows = choice == Choice::Selected ? m_window->Selected_Recipient_Rows() : std::vector<int>();
     Change_Recipients(*m_window, [&](Recipient_List& recipients) {
@@ -106,12 +107,12 @@ void Fill_Msg_In_List::reject()
 
 void Fill_Msg_In_List::Show_Create_Modeless()
 {
-    plz_wait_Window->Begin_Sheet(this);
+    m_work.Show_Sheet();
 }
 
 void Fill_Msg_In_List::Hide_Destroy_Modeless()
 {
-    plz_wait_Window->End_Sheet();
+    m_work.Hide_Sheet();
 }
 
 Fill_Rules::Choice Fill_Msg_In_List::Choice() const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "list/Fill_Rules.h"
+#include "toolkit/Window_Work.h"
 
 #include <QDialog>
 #include <memory>
@@ -44,5 +45,6 @@ private:
 
     const std::unique_ptr<Ui::Fill_Msg_In_List> m_ui;
     std::unique_ptr<PleaseWait_Modeless> plz_wait_Window;
+    Window_Work m_work;
     Main_Window* m_window = nullptr; ///< the one that the dialog was last opened over
 };

@@ -2,6 +2,7 @@
 
 #include "engine/Job_State.h"
 #include "list/Fill_Rules.h"
+#include "toolkit/Dialog_Over.h"
 #include "toolkit/Main_Window.h"
 #include "toolkit/PleaseWait_Modeless.h"
 #include "toolkit/Shared_Instance.h"
@@ -13,7 +14,7 @@
 
 Send_Msg_Info::Send_Msg_Info(QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::Send_Msg_Info>()),
-      plz_wait_Window(std::make_unique<PleaseWait_Modeless>())
+      plz_wait_Window(std::make_unique<PleaseWait_Modeless>()), m_work(*this, *plz_wait_Window)
 {
     m_ui->setupUi(this);
     Apply_Window_Look(*this, Letters{.columns = 68});
@@ -42,7 +43,7 @@ int Send_Msg_Info::Open_Dialog(Main_Window& window)
             : tr("The message in the composer is not yet in the list. You can copy it there before the list is sent."));
     m_ui->_fill_msg_all->setFocus();
     const QPointer<Send_Msg_Info> still_there(this);
-    Run_Over(window, *this);
+    Run_Dialog_Over(*this, window.Window());
     return still_there ? m_code : Cancelled;
 }
 
@@ -58,7 +59,7 @@ void Send_Msg_Info::Fill_To_Blank_Pressed()
 
 void Send_Msg_Info::OKPressed()
 {
-    auto sheet = Please_Wait(*this);
+    auto sheet = m_work.Sheet();
     const auto choice = m_ui->_fill_msg_blank->isChecked() ? Fill_Rules::Choice::Blank : Fill_Rules::Choice::All;
     const QString message = Message_IS;
     Change_Recipients(*m_window, [&](Recipient_List& recipients) {
@@ -85,12 +86,12 @@ void Send_Msg_Info::reject()
 
 void Send_Msg_Info::Show_Create_Modeless()
 {
-    plz_wait_Window->Begin_Sheet(this);
+    m_work.Show_Sheet();
 }
 
 void Send_Msg_Info::Hide_Destroy_Modeless()
 {
-    plz_wait_Window->End_Sheet();
+    m_work.Hide_Sheet();
 }
 
 void Send_Msg_Info::End_With(int code)

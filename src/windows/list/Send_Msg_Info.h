@@ -1,5 +1,7 @@
 #pragma once
 
+#include "toolkit/Window_Work.h"
+
 #include <QDialog>
 #include <memory>
 
@@ -45,6 +47,7 @@ private:
 
     const std::unique_ptr<Ui::Send_Msg_Info> m_ui;
     std::unique_ptr<PleaseWait_Modeless> plz_wait_Window;
+    Window_Work m_work;
     Main_Window* m_window = nullptr; ///< the one that the dialog was last opened over
     int m_code = Cancelled;
 };

@@ -2,6 +2,7 @@
 
 #include "list/Number_Judge.h"
 #include "list/Number_Rules.h"
+#include "toolkit/Dialog_Over.h"
 #include "toolkit/Line_Edit_Limit.h"
 #include "toolkit/Main_Window.h"
 #include "toolkit/Message_Boxes.h"
@@ -54,7 +55,7 @@ int Update_Num_SMS::Open_Dialog(Main_Window& window, int row)
     m_ui->_Exclusion_Chk->setChecked(choices.exclusion);
     m_ui->_Skip_Duplicate_Chk->setChecked(choices.skip_duplicates);
     m_ui->m_num_str->setFocus();
-    return Run_Over(window, *this);
+    return Run_Dialog_Over(*this, window.Window());
 }
 
 // While the main window's own box is off its exclusion set is not kept up to date, and may never have been filled.

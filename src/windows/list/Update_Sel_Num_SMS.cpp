@@ -3,9 +3,8 @@
 #include "list/Fill_Rules.h"
 #include "platform/Interface_Thread.h"
 #include "platform/String_Helpers.h"
-#include "platform/Thread_Shortage.h"
 #include "platform/Waiting.h"
-#include "toolkit/Input_Hold.h"
+#include "toolkit/Dialog_Over.h"
 #include "toolkit/List_Tables.h"
 #include "toolkit/Main_Window.h"
 #include "toolkit/Message_Boxes.h"
@@ -35,7 +34,7 @@ constexpr std::size_t Largest_Batch = 5000;
 
 Update_Sel_Num_SMS::Update_Sel_Num_SMS(QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::Update_Sel_Num_SMS>()),
-      plz_wait_Window(std::make_unique<PleaseWait_Modeless>())
+      plz_wait_Window(std::make_unique<PleaseWait_Modeless>()), m_work(*this, *plz_wait_Window)
 {
     m_ui->setupUi(this);
     Apply_Window_Look(*this, Letters{.columns = 100, .lines = 28});
@@ -68,12 +67,12 @@ int Update_Sel_Num_SMS::Open_Dialog(Main_Window& window)
     m_message->Clear();
     m_is_left = false;
     m_is_loading = true;
-    m_input_hold = std::make_unique<Input_Hold>(this);
-    Start_Worker("load selected", [this] { Load_Thread(); });
+    m_work.Hold_Input();
+    m_work.Start("load selected", [this] { Load_Thread(); });
     Wait_Seconds(Wait_Before_Opening_Seconds);
     m_ui->m_msg_str->setFocus();
-    const int code = Run_Over(window, *this);
-    Wait_For_Load();
+    const int code = Run_Dialog_Over(*this, window.Window());
+    m_work.Await();
     return code;
 }
 
@@ -142,15 +141,10 @@ void Update_Sel_Num_SMS::Update_num_Count()
 void Update_Sel_Num_SMS::End_Load()
 {
     m_rows->Reload();
-    m_input_hold.reset();
+    m_work.Release_Input();
     m_is_loading = false;
     if (m_is_left)
         CancelPressed();
-}
-
-void Update_Sel_Num_SMS::Wait_For_Load()
-{
-    Await_Worker([this] { return !m_is_loading; });
 }
 
 int Update_Sel_Num_SMS::numberOfRowsInTableView() const
@@ -176,7 +170,7 @@ void Update_Sel_Num_SMS::OKPressed()
     }
     if (!Show_YES_NO_MessageBox(QLatin1String(Question)))
         return;
-    auto sheet = Please_Wait(*this);
+    auto sheet = m_work.Sheet();
     const auto selected_rows = m_window->Selected_Recipient_Rows();
     Change_Recipients(*m_window, [&](Recipient_List& recipients) {
         recipients.Set_Messages(Fill_Rules::Rows_To_Fill(recipients, Fill_Rules::Choice::Selected, selected_rows),
@@ -206,12 +200,12 @@ void Update_Sel_Num_SMS::textDidChange()
 
 void Update_Sel_Num_SMS::Show_Create_Modeless()
 {
-    plz_wait_Window->Begin_Sheet(this);
+    m_work.Show_Sheet();
 }
 
 void Update_Sel_Num_SMS::Hide_Destroy_Modeless()
 {
-    plz_wait_Window->End_Sheet();
+    m_work.Hide_Sheet();
 }
 
 void Update_Sel_Num_SMS::End_With(int code)

@@ -1,14 +1,13 @@
 #pragma once
 
+#include "toolkit/Window_Work.h"
 #include "windows/list/Counted_Message.h"
 
 #include <QDialog>
-#include <atomic>
 #include <deque>
 #include <memory>
 #include <vector>
 
-class Input_Hold;
 class Main_Window;
 class PleaseWait_Modeless;
 class Row_Table_Model;
@@ -56,7 +55,6 @@ private:
     void Publish_Loaded();
 
     void End_Load();
-    void Wait_For_Load();
     void End_With(int code);
 
     const std::unique_ptr<Ui::Update_Sel_Num_SMS> m_ui;
@@ -66,8 +64,8 @@ private:
     std::unique_ptr<Row_Table_Model> m_rows;
     Main_Window* m_window = nullptr; ///< the one that the dialog was last opened over
 
-    std::unique_ptr<Input_Hold> m_input_hold; // until the load has ended
-    std::atomic<bool> m_is_loading{false};
+    Window_Work m_work; // the load, until whose end the dialog takes no input
+    bool m_is_loading = false;
     bool m_is_left = false;        // closed while the load ran, which ends the dialog after it
     std::vector<QString> m_loaded; // what the worker has found and not yet published
     std::size_t m_loaded_in_all = 0;

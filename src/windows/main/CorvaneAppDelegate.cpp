@@ -15,6 +15,7 @@
 #include "toolkit/PleaseWait_Modeless.h"
 #include "toolkit/Row_Table_Model.h"
 #include "toolkit/Window_Look.h"
+#include "toolkit/Window_Work.h"
 #include "ui_CorvaneAppDelegate.h"
 #include "windows/exclusion/Exclusion_Wizard.h"
 #include "windows/main/Composer.h"
@@ -51,6 +52,7 @@ CorvaneAppDelegate::CorvaneAppDelegate()
     setCentralWidget(m_ui->panel);
     m_composer = std::make_unique<Composer>(m_ui->_messageEdit, m_ui->_Msg_char_count, m_ui->_Unicode_SMS_Chk);
     m_please_wait = new PleaseWait_Modeless(this);
+    m_work = std::make_unique<Window_Work>(*this, *m_please_wait);
     Connect_Controls();
 }
 
@@ -261,12 +263,12 @@ Send_Choices CorvaneAppDelegate::Read_Send_Choices() const
 
 void CorvaneAppDelegate::Hold_Input()
 {
-    m_input_hold = std::make_unique<Input_Hold>(this);
+    m_work->Hold_Input();
 }
 
 void CorvaneAppDelegate::Release_Input()
 {
-    m_input_hold.reset();
+    m_work->Release_Input();
 }
 
 // ---- The device and its ticker
@@ -328,20 +330,12 @@ void CorvaneAppDelegate::Help_Btn()
 
 void CorvaneAppDelegate::Show_Create_Modeless()
 {
-    m_please_wait->Show_Progress(-1);
-    m_please_wait->Begin_Sheet(this);
+    m_work->Show_Sheet();
 }
 
 void CorvaneAppDelegate::Hide_Destroy_Modeless()
 {
-    m_please_wait->End_Sheet();
-}
-
-// The please-wait sheet, until what this returns has gone, whichever way that is.
-std::shared_ptr<void> CorvaneAppDelegate::Please_Wait()
-{
-    Show_Create_Modeless();
-    return {this, [this](void*) { Hide_Destroy_Modeless(); }};
+    m_work->Hide_Sheet();
 }
 
 void CorvaneAppDelegate::Focus(Field field)

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "device/MFCSMS.h"
-#include "toolkit/Input_Hold.h"
 #include "toolkit/Main_Window.h"
 
 #include <QMainWindow>
@@ -16,6 +15,7 @@ class QTableView;
 class Row_Table_Model;
 class Send_Modeless;
 class Send_Runner;
+class Window_Work;
 
 namespace Ui {
 class CorvaneAppDelegate;
@@ -135,7 +135,6 @@ private:
     void Give_Tables_Their_Models();
     void Show_Device_In_Ticker();
     void Remember_Composer_Text();
-    std::shared_ptr<void> Please_Wait();
     Number_Terms Terms_For_New_Numbers() const;
     void Remove_All_Recipients();
     void Show_Exclusion_Trouble(const QString& text);
@@ -159,5 +158,5 @@ private:
     std::unique_ptr<Send_Runner> m_send_runner;
     std::unique_ptr<Number_Import> m_import;
     PleaseWait_Modeless* m_please_wait = nullptr;
-    std::unique_ptr<Input_Hold> m_input_hold;
+    std::unique_ptr<Window_Work> m_work;
 };

@@ -12,6 +12,7 @@
 #include "toolkit/Message_Boxes.h"
 #include "toolkit/PleaseWait_Modeless.h"
 #include "toolkit/Row_Table_Model.h"
+#include "toolkit/Window_Work.h"
 #include "ui_CorvaneAppDelegate.h"
 #include "windows/list/List_Dialogs.h"
 #include "windows/main/Composer.h"
@@ -165,7 +166,7 @@ void CorvaneAppDelegate::Clear_Sel_Btn()
         return;
     }
     {
-        const auto sheet = Please_Wait();
+        const auto sheet = m_work->Sheet();
         Recipient_List list = nsListDataObject; // the table shows the present one until this one is whole
         Run_On_Worker([&] { list.Remove_Rows(rows); });
         std::swap(nsListDataObject, list);
@@ -195,7 +196,7 @@ void CorvaneAppDelegate::Clear_All_Btn()
     }
     if (!Show_YES_NO_MessageBox(Text_Clear_All))
         return;
-    const auto sheet = Please_Wait();
+    const auto sheet = m_work->Sheet();
     Remove_All_Recipients();
     m_ui->_numberEdit->clear();
     Focus(Field::Number);
@@ -346,7 +347,7 @@ void CorvaneAppDelegate::Export_Btn()
     const auto path = Ask_For_File_To_Save(this, QStringLiteral("txt"));
     if (!path)
         return;
-    auto sheet = Please_Wait();
+    auto sheet = m_work->Sheet();
     Export_File_Path = With_Extension(*path, QStringLiteral("txt"));
     bool is_written = false;
     try {

@@ -2,6 +2,7 @@
 
 #include "engine/Composer_Rules.h"
 #include "platform/Waiting.h"
+#include "toolkit/Dialog_Over.h"
 #include "toolkit/Input_Hold.h"
 #include "toolkit/Shared_Instance.h"
 #include "toolkit/Window_Look.h"
@@ -63,8 +64,7 @@ void Long_SMS_Dlg::Open_Dialog(QWidget* over, bool unicode)
     const QScopedValueRollback is_open(m_is_open, true);
     if (!Wait_While_Text_Is_Typed(*over) || Program_Is_Exiting())
         return;
-    if (parentWidget() != over)
-        setParent(over, windowFlags());
+    Put_Over(*this, over);
     m_ui->_Unicode_SMS_Chk->setChecked(unicode);
     m_ui->_Msg_Val->setText(Composer_Rules::Long_SMS_Text(unicode));
     Begin_First_Moment(*over);

@@ -3,7 +3,7 @@
 #include "doctor/Connection_Facts_Finder.h"
 #include "platform/Interface_Thread.h"
 #include "platform/Waiting.h"
-#include "toolkit/Main_Window.h"
+#include "toolkit/Dialog_Over.h"
 #include "toolkit/Shared_Instance.h"
 #include "toolkit/Window_Look.h"
 #include "ui_Connection_Info.h"
@@ -36,8 +36,7 @@ Connection_Info* Connection_Info::defaultInstance()
 
 int Connection_Info::exec()
 {
-    if (Main_App_wnd && parentWidget() != Main_App_wnd->Window())
-        setParent(Main_App_wnd->Window(), windowFlags());
+    Put_Over_Main_Window(*this);
     Connection_Facts facts;
     Run_On_Worker([&] { facts = m_find_facts(); });
     Show_Advice(Connection_Advice::For(facts));

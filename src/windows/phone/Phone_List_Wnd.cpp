@@ -6,10 +6,10 @@
 #include "platform/Interface_Thread.h"
 #include "platform/Thread_Shortage.h"
 #include "platform/Waiting.h"
+#include "toolkit/Dialog_Over.h"
 #include "toolkit/Input_Hold.h"
 #include "toolkit/Key_Actions.h"
 #include "toolkit/Line_Edit_Limit.h"
-#include "toolkit/Main_Window.h"
 #include "toolkit/Message_Boxes.h"
 #include "toolkit/PleaseWait_Modeless.h"
 #include "toolkit/Row_Table_Model.h"
@@ -60,7 +60,7 @@ private:
 
 Phone_List_Wnd::Phone_List_Wnd(QWidget* parent, Port_Finder& finder, Serial_Calls& calls)
     : QDialog(parent), m_ui(std::make_unique<Ui::Phone_List_Wnd>()), mfc_sms_obj(calls, finder),
-      plz_wait_Window(std::make_unique<PleaseWait_Modeless>()), m_own_workers(std::make_shared<std::atomic<int>>(0))
+      plz_wait_Window(std::make_unique<PleaseWait_Modeless>()), m_work(*this, *plz_wait_Window)
 {
     m_ui->setupUi(this);
     Apply_Window_Look(*this, Letters{.columns = 120, .lines = 40});
@@ -114,8 +114,7 @@ void Phone_List_Wnd::Connect_Controls()
 
 int Phone_List_Wnd::Open_Ph_List_Wnd()
 {
-    if (Main_App_wnd && parentWidget() != Main_App_wnd->Window())
-        setParent(Main_App_wnd->Window(), windowFlags());
+    Put_Over_Main_Window(*this);
     {
         const Search_Run search(*this);
         Find_Ph_List();
@@ -133,7 +132,7 @@ void Phone_List_Wnd::Search_dev_Pressed()
 {
     // The flag is set here already, so that a second press finds it before the worker has begun.
     if (ph_find_thread.exchange(1) != 1)
-        Start_Own_Worker("find phones", &Phone_List_Wnd::Find_Ph_Thread);
+        m_work.Start("find phones", [this] { Find_Ph_Thread(); });
 }
 
 void Phone_List_Wnd::Find_Ph_Thread()
@@ -227,8 +226,8 @@ void Phone_List_Wnd::tableViewSelectionDidChange()
     Prev_Index = index;
     Show_Picked_Row();
     Empty_Details();
-    m_input_hold = std::make_unique<Input_Hold>(this);
-    Start_Own_Worker("probe phone", &Phone_List_Wnd::Find_Ph_Value_Thread);
+    m_work.Hold_Input();
+    m_work.Start("probe phone", [this] { Find_Ph_Value_Thread(); });
 }
 
 void Phone_List_Wnd::Show_Picked_Row()
@@ -284,15 +283,14 @@ void Phone_List_Wnd::Set_Phone_Value(Phone_Value value, const QString& text)
 void Phone_List_Wnd::Show_Create_Modeless()
 {
     Run_On_Interface_Thread([this] {
-        if (isVisible())
-            plz_wait_Window->Begin_Sheet(this);
-        m_input_hold.reset();
+        m_work.Show_Sheet();
+        m_work.Release_Input();
     });
 }
 
 void Phone_List_Wnd::Hide_Destroy_Modeless()
 {
-    Run_On_Interface_Thread([this] { plz_wait_Window->End_Sheet(); });
+    Run_On_Interface_Thread([this] { m_work.Hide_Sheet(); });
 }
 
 void Phone_List_Wnd::Tell_About_Device(const QString& text)
@@ -381,27 +379,17 @@ void Phone_List_Wnd::ContinueOfflinePressed()
 void Phone_List_Wnd::reject()
 {
     // While a device is being talked to, the window has to wait for it.
-    if (!m_is_selecting && !plz_wait_Window->isVisible())
+    if (!m_is_selecting && !m_work.Is_Sheet_Shown())
         ContinueOfflinePressed();
 }
 
 // ------------------------------------------------------------------------------------------------------ the workers
 
-void Phone_List_Wnd::Start_Own_Worker(const char* name, Step work)
-{
-    ++*m_own_workers;
-    Start_Worker(name, [this, work, own_workers = m_own_workers] {
-        const std::shared_ptr<void> counted_out(nullptr, [&](void*) { --*own_workers; });
-        (this->*work)();
-    });
-}
-
 // Nothing is left running behind a closed window, and nothing open. The workers are served while they are waited for.
 void Phone_List_Wnd::End_Run()
 {
-    Await_Worker([own_workers = m_own_workers] { return *own_workers == 0; });
+    m_work.Await();
     Run_On_Worker([this] { Phone_Probe::Let_Go_Of_Port(mfc_sms_obj); });
     port.Close();
-    m_input_hold.reset();
-    plz_wait_Window->End_Sheet();
+    m_work.End();
 }

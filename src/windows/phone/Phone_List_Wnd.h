@@ -4,14 +4,13 @@
 #include "device/MFCSMS.h"
 #include "doctor/Phone_List.h"
 #include "doctor/Phone_Probe.h"
+#include "toolkit/Window_Work.h"
 #include "windows/phone/Wizard_Port_Slot.h"
 
 #include <QDialog>
-#include <atomic>
 #include <memory>
 #include <mutex>
 
-class Input_Hold;
 class PleaseWait_Modeless;
 class Row_Table_Model;
 
@@ -61,7 +60,6 @@ public:
     void reject() override;
 
 private:
-    using Step = void (Phone_List_Wnd::*)();
     class Search_Run;
 
     void Set_Up_Table();
@@ -84,7 +82,6 @@ private:
     bool May_Be_Selected();
     bool Check_Picked_Device(const QString& path);
 
-    void Start_Own_Worker(const char* name, Step work);
     std::unique_lock<std::mutex> Device_Turn();
     void End_Run();
 
@@ -96,9 +93,8 @@ private:
     std::unique_ptr<PleaseWait_Modeless> plz_wait_Window;
     Wizard_Port_Slot port;
 
-    std::unique_ptr<Input_Hold> m_input_hold; // from a click on a row until the sheet stands over the window
+    Window_Work m_work; // takes no input from a click on a row until the sheet stands over the window
     bool m_is_selecting = false;
     bool m_is_searching_shown = false;
-    std::mutex m_device_turn;                        // one search, probe or check at a time has the session
-    std::shared_ptr<std::atomic<int>> m_own_workers; // outlives the window in the worker that counts itself out
+    std::mutex m_device_turn; // one search, probe or check at a time has the session
 };

@@ -2,13 +2,11 @@
 
 #include "platform/Interface_Thread.h"
 #include "platform/Log_Line.h"
-#include "platform/Thread_Shortage.h"
 #include "platform/Waiting.h"
 #include "records/Export_Format.h"
+#include "toolkit/Dialog_Over.h"
 #include "toolkit/File_Panels.h"
-#include "toolkit/Input_Hold.h"
 #include "toolkit/List_Tables.h"
-#include "toolkit/Main_Window.h"
 #include "toolkit/Message_Boxes.h"
 #include "toolkit/PleaseWait_Modeless.h"
 #include "toolkit/Row_Table_Model.h"
@@ -47,22 +45,9 @@ bool Succeeds(const std::function<void()>& step)
 
 } // namespace
 
-// The please-wait sheet over the window, for as long as this lives.
-class List_Window::Sheet
-{
-public:
-    explicit Sheet(List_Window& window) : m_window(window) { m_window.Show_Create_Modeless(); }
-    ~Sheet() { m_window.Hide_Destroy_Modeless(); }
-    Sheet(const Sheet&) = delete;
-    Sheet& operator=(const Sheet&) = delete;
-
-private:
-    List_Window& m_window;
-};
-
 List_Window::List_Window(QWidget* parent, const Texts& texts)
     : QDialog(parent), m_texts(texts), plz_wait_Window(std::make_unique<PleaseWait_Modeless>()),
-      m_is_load_running(std::make_shared<std::atomic<bool>>(false))
+      m_work(*this, *plz_wait_Window)
 {
 }
 
@@ -90,15 +75,14 @@ int List_Window::Open_Window()
     if (m_is_open)
         return 0;
     const QScopedValueRollback open(m_is_open, true);
-    if (Main_App_wnd && parentWidget() != Main_App_wnd->Window())
-        setParent(Main_App_wnd->Window(), windowFlags());
+    Put_Over_Main_Window(*this);
     Begin_Load();
     Wait_Seconds(Wait_Before_Opening_Seconds);
     int code = 0;
     if (!Program_Is_Exiting()) {
         Table().setFocus();
         Post_To_Interface_Thread(this, [this] {
-            if (m_is_loading && isVisible())
+            if (m_is_loading)
                 Show_Create_Modeless();
         });
         code = exec();
@@ -114,12 +98,8 @@ void List_Window::Begin_Load()
     m_is_whole = false;
     m_is_left = false;
     List_Will_Load();
-    m_input_hold = std::make_unique<Input_Hold>(this);
-    *m_is_load_running = true;
-    Start_Worker("load list", [this, is_running = m_is_load_running] {
-        const std::shared_ptr<void> ended(nullptr, [&](void*) { *is_running = false; });
-        Load_Thread();
-    });
+    m_work.Hold_Input();
+    m_work.Start("load list", [this] { Load_Thread(); });
 }
 
 void List_Window::Load_Thread()
@@ -142,15 +122,14 @@ void List_Window::End_Load()
         Update_Count();
     }
     Hide_Destroy_Modeless();
-    m_input_hold.reset();
+    m_work.Release_Input();
     if (m_is_left)
         Post_To_Interface_Thread(this, [this] { Cancel_Btn(); });
 }
 
 void List_Window::Await_Load()
 {
-    if (*m_is_load_running)
-        Await_Worker([is_running = m_is_load_running] { return !*is_running; });
+    m_work.Await();
 }
 
 void List_Window::Begin_Anew()
@@ -187,7 +166,7 @@ void List_Window::Clear_Sel_Btn()
         Tell(m_texts.none_selected);
         return;
     }
-    const Sheet sheet(*this);
+    const auto sheet = m_work.Sheet();
     if (!Succeeds([&] { Remove_Rows(selected); }))
         return;
     Reload_And_Select_First(Table(), Rows());
@@ -204,7 +183,7 @@ void List_Window::Clear_All_Btn()
     }
     if (!Show_YES_NO_MessageBox(QLatin1String(Clear_All_Question)))
         return;
-    const Sheet sheet(*this);
+    const auto sheet = m_work.Sheet();
     Succeeds([this] { Run_On_Worker([this] { Clear_File(); }, User_Input::Served); });
     Remove_All_Rows();
     ListreloadData();
@@ -226,7 +205,7 @@ void List_Window::reject()
 {
     if (m_is_loading)
         m_is_left = true;
-    else if (!plz_wait_Window->isVisible())
+    else if (!m_work.Is_Sheet_Shown())
         Cancel_Btn();
 }
 
@@ -290,19 +269,19 @@ int List_Window::First_Selected_Row() const
 
 void List_Window::Work_Under_Sheet(const std::function<void()>& work)
 {
-    const Sheet sheet(*this);
+    const auto sheet = m_work.Sheet();
     // The sheet is what keeps input away from the window.
     Succeeds([&] { Run_On_Worker(work, User_Input::Served); });
 }
 
 void List_Window::Show_Create_Modeless()
 {
-    plz_wait_Window->Begin_Sheet(this);
+    m_work.Show_Sheet();
 }
 
 void List_Window::Hide_Destroy_Modeless()
 {
-    plz_wait_Window->End_Sheet();
+    m_work.Hide_Sheet();
 }
 
 int List_Window::numberOfRowsInTableView(const QTableView* table) const

@@ -1,14 +1,13 @@
 #pragma once
 
 #include "records/Export_Writer.h"
+#include "toolkit/Window_Work.h"
 
 #include <QDialog>
-#include <atomic>
 #include <functional>
 #include <memory>
 #include <vector>
 
-class Input_Hold;
 class PleaseWait_Modeless;
 class QLabel;
 class QPlainTextEdit;
@@ -106,8 +105,6 @@ protected:
     unsigned Prev_Index = No_Index; ///< the row last shown in full, since the load
 
 private:
-    class Sheet;
-
     void Begin_Load();
     void End_Load();
     void Write_Export_To(const QString& path);
@@ -117,10 +114,7 @@ private:
     QLabel* m_count = nullptr;
     std::unique_ptr<Row_Table_Model> m_rows;
     std::unique_ptr<PleaseWait_Modeless> plz_wait_Window;
-    std::unique_ptr<Input_Hold> m_input_hold; // until the load has ended
-
-    // A load may end after its window's last moment: what it is waited for by outlives the window.
-    std::shared_ptr<std::atomic<bool>> m_is_load_running;
+    Window_Work m_work; // the load, until whose end the window takes no input
     bool m_is_open = false;
     bool m_is_loading = false;
     bool m_is_whole = false; // whether the whole list is in
