@@ -9,6 +9,7 @@
 #include "platform/Text_Files.h"
 #include "platform/Waiting.h"
 #include "records/Data_Paths.h"
+#include "texts/Texts.h"
 #include "toolkit/Asked_For_Focus.h"
 #include "toolkit/Guarded_Application.h"
 #include "toolkit/Message_Boxes.h"
@@ -21,9 +22,6 @@
 #include <cstdio>
 
 namespace {
-
-constexpr char Something_Broke[] =
-    "The last action has ended early because of an unexpected error. Please look what has been done, and try again.";
 
 void Bring_Up(QWidget& window)
 {
@@ -47,7 +45,7 @@ Program::Program(Command_Line command_line, Single_Start* single_start)
 {
     Apply_Application_Look(*qApp);
     Pass_Over_Asked_For_Focus();
-    Guarded_Application::When_Something_Breaks([] { Show_MessageBox(tr(Something_Broke)); });
+    Guarded_Application::When_Something_Breaks([] { Show_MessageBox(Texts::Main::Something_Broke); });
     // The toolkit's file panels would keep a file of where the user has been, and wait for its lock when a start that
     // was killed has left it. No file can be in such a place.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));

@@ -1,17 +1,11 @@
 #include "doctor/Phone_Probe.h"
 
 #include "device/MFCSMS.h"
+#include "texts/Texts.h"
 
 #include <QFile>
 
 namespace {
-
-constexpr char Could_Not_Open[] = "Selected device is not working properly.\nCould not open modem.\n";
-constexpr char Not_Working[] = "Selected device is not working properly.";
-constexpr char Default_Smsc_Blank[] = "Default SMSC No. details should not be blanked.";
-constexpr char Custom_Smsc_Blank[] = "Custom SMSC No. details should not be blanked.";
-constexpr char No_Sending[] =
-    "Selected device do not provide a modem in the computer or the modem does not support SMS sending command.";
 
 constexpr double Read_Timeout_Seconds = 1.0;
 
@@ -40,10 +34,10 @@ QString Phone_Probe::Read_Details(const QString& path)
 {
     const int handle = m_session.OpenSerialPort(QFile::encodeName(path));
     if (handle == -1)
-        return Could_Not_Open;
+        return Texts::Phone::Could_Not_Open;
     const Port_Let_Go_At_End port_end(m_session);
     if (!Connect(handle, path))
-        return Not_Working;
+        return Texts::Phone::Not_Working;
     m_session.Read_Ph_Values(handle, m_display);
     return {};
 }
@@ -60,7 +54,7 @@ QString Phone_Probe::Find_Fault(const QString& path, const Chosen_Centre& centre
 {
     const int handle = m_session.OpenSerialPort(QFile::encodeName(path));
     if (handle == -1)
-        return Could_Not_Open;
+        return Texts::Phone::Could_Not_Open;
     const Shown_Sheet sheet(m_display);
     return Find_Fault_When_Open(handle, path, centre);
 }
@@ -69,14 +63,14 @@ QString Phone_Probe::Find_Fault_When_Open(int handle, const QString& path, const
 {
     if (!Connect(handle, path)) {
         Let_Go_Of_Port(m_session);
-        return Not_Working;
+        return Texts::Phone::Not_Working;
     }
     if (!centre.is_custom && centre.default_smsc.isEmpty())
-        return Default_Smsc_Blank;
+        return Texts::Phone::Default_Smsc_Blank;
     if (centre.is_custom && centre.custom_smsc.isEmpty())
-        return Custom_Smsc_Blank;
+        return Texts::Phone::Custom_Smsc_Blank;
     if (!m_session.Check_Msg_Sending_Supported(handle))
-        return No_Sending;
+        return Texts::Phone::No_Sending;
     m_session.More_SMS_Comnd(handle);
     Let_Go_Of_Port(m_session);
     return {};

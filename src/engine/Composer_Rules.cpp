@@ -1,6 +1,7 @@
 #include "engine/Composer_Rules.h"
 
 #include "platform/String_Helpers.h"
+#include "texts/Texts.h"
 
 #include <algorithm>
 
@@ -40,17 +41,7 @@ Counter Long_SMS_Calculation(int length, const QString& msg_char_value, bool uni
 
 QString Long_SMS_Text(bool unicode)
 {
-    if (unicode)
-        return QStringLiteral(
-            "Your current message is exceeding the typical Unicode SMS (non-English text SMS) Length of 70 "
-            "Characters. Messages of more than 70 characters will be delivered in multiple messages of 70 "
-            "characters to each recipient.\n\nEither shorten the length of your existing text message or "
-            "click OK to continue anyway by delivering each message in multiple parts of 70 characters.");
-    return QStringLiteral(
-        "Your current message is exceeding the typical SMS Length of 160 Characters. Messages of more than "
-        "160 characters will be delivered in multiple messages of 160 characters to each recipient.\n\n"
-        "Either shorten the length of your existing text message or click OK to continue anyway by "
-        "delivering each message in multiple parts of 160 characters.");
+    return unicode ? Texts::Long_Message::Unicode : Texts::Long_Message::Plain;
 }
 
 } // namespace Composer_Rules

@@ -11,6 +11,7 @@
 #include "records/Exclusion_Files.h"
 #include "records/Sent_Item_Store.h"
 #include "records/Template_Store.h"
+#include "texts/Texts.h"
 
 #include <exception>
 #include <utility>
@@ -23,20 +24,6 @@ constexpr double Seconds_After_Message = 2;
 constexpr double Seconds_After_Skipped = 1;
 constexpr int Pdu_Mode = 1;
 constexpr int Text_Mode = 2;
-
-const QString& Does_Not_Open_Text()
-{
-    static const auto text = QStringLiteral(
-        "\nSelected device is not working properly. Please use Mobile Phone Connection Wizard for finding "
-        "device or establishing connection.");
-    return text;
-}
-
-const QString& No_Modem_Text()
-{
-    static const auto text = QStringLiteral("Selected device is not working properly.Could not initialize modem.\n");
-    return text;
-}
 
 } // namespace
 
@@ -59,14 +46,14 @@ void Send_Job::Send_SMS_Func()
 void Send_Job::Run()
 {
     if (!The_Device_Opens()) {
-        m_listener.Tell(Does_Not_Open_Text());
+        m_listener.Tell(Texts::Sending::Does_Not_Open);
         return;
     }
     Reload_Exclusions();
     m_progress.Begin_Preparing(m_order.recipients.Count());
     m_progress.startTimerThread();
     if (!Connect()) {
-        m_listener.Tell(No_Modem_Text());
+        m_listener.Tell(Texts::Sending::No_Modem);
         return;
     }
     Prepare_Device();
@@ -161,7 +148,7 @@ bool Send_Job::Send_Item(int index)
         return true;
     case Outcome::Failed:
         m_has_error = true;
-        m_listener.Tell(QStringLiteral("Device Connection Error!"));
+        m_listener.Tell(Texts::Sending::Connection_Error);
         return false;
     case Outcome::Broken_Off:
         break;
@@ -195,8 +182,7 @@ bool Send_Job::Skip_Item(int index, const QString& number)
     const Skip_Reason reason = Reason_To_Skip(m_order, index);
     if (reason == Skip_Reason::None)
         return false;
-    const auto note =
-        reason == Skip_Reason::Excluded ? QStringLiteral(" is Excluded.") : QStringLiteral(" is Skipped.");
+    const QString note = reason == Skip_Reason::Excluded ? Texts::Sending::Is_Excluded : Texts::Sending::Is_Skipped;
     m_progress.Show_Current(number + note);
     Wait_Seconds(Seconds_After_Skipped);
     return true;
@@ -237,14 +223,14 @@ void Send_Job::Finish()
 {
     if (m_mode == 0) {
         m_has_error = true;
-        m_listener.Tell(No_Modem_Text());
+        m_listener.Tell(Texts::Sending::No_Modem);
     }
     m_progress.Stop_Timers();
     m_progress.End();
     if (m_order.recipients.Count() == 0)
         m_has_error = true;
     if (m_stop == 0 && !m_has_error)
-        m_listener.Tell(QStringLiteral("Message Sending Process Completed."));
+        m_listener.Tell(Texts::Sending::Completed);
 }
 
 void Send_Job::Set_Read_Timeout(double seconds)

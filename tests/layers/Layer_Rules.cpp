@@ -196,22 +196,23 @@ const std::vector<Room>& Rooms()
 {
     static const std::vector<Room> Table{
         {"platform", {}, Room::Core},
+        {"texts", {}, Room::Core},
         {"handset", {}, Room::Core},
         {"pdu", {}, Room::Core},
         {"list", {"platform"}, Room::Core},
         {"records", {"platform", "list"}, Room::Core},
         {"device", {"platform", "pdu"}, Room::Core},
-        {"engine", {"platform", "list", "records", "device"}, Room::Core},
-        {"doctor", {"platform", "device"}, Room::Core},
+        {"engine", {"platform", "texts", "list", "records", "device"}, Room::Core},
+        {"doctor", {"platform", "texts", "device"}, Room::Core},
         {"toolkit", {"platform", "list", "engine"}},
-        {"windows/list", {"platform", "list", "engine", "toolkit"}},
-        {"windows/stores", {"platform", "records", "toolkit"}},
-        {"windows/exclusion", {"platform", "list", "records", "toolkit"}},
-        {"windows/phone", {"platform", "list", "device", "doctor", "toolkit"}},
+        {"windows/list", {"platform", "texts", "list", "engine", "toolkit"}},
+        {"windows/stores", {"platform", "texts", "records", "toolkit"}},
+        {"windows/exclusion", {"platform", "texts", "list", "records", "toolkit"}},
+        {"windows/phone", {"platform", "texts", "list", "device", "doctor", "toolkit"}},
         {"windows/main",
-         {"platform", "list", "records", "device", "engine", "toolkit", "windows/list", "windows/stores",
+         {"platform", "texts", "list", "records", "device", "engine", "toolkit", "windows/list", "windows/stores",
           "windows/exclusion", "windows/phone"}},
-        {"app", {"platform", "records", "device", "toolkit", "windows/main"}},
+        {"app", {"platform", "texts", "records", "device", "toolkit", "windows/main"}},
     };
     return Table;
 }

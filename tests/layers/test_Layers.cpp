@@ -83,8 +83,8 @@ TEST(Layer_Rules, The_Table_Goes_Upwards_Only)
         below.push_back(room.folder);
     }
     EXPECT_THAT(Rooms().front().may_include, IsEmpty());
-    EXPECT_EQ(below, (std::vector<std::string>{"platform", "handset", "pdu", "list", "records", "device", "engine",
-                                               "doctor", "toolkit", "windows/list", "windows/stores",
+    EXPECT_EQ(below, (std::vector<std::string>{"platform", "texts", "handset", "pdu", "list", "records", "device",
+                                               "engine", "doctor", "toolkit", "windows/list", "windows/stores",
                                                "windows/exclusion", "windows/phone", "windows/main", "app"}));
 }
 

@@ -5,6 +5,7 @@
 #include "platform/Interface_Thread.h"
 #include "platform/String_Helpers.h"
 #include "records/Exclusion_Files.h"
+#include "texts/Texts.h"
 #include "toolkit/Dialog_Over.h"
 #include "toolkit/Key_Actions.h"
 #include "toolkit/Line_Edit_Limit.h"
@@ -17,7 +18,6 @@
 #include "toolkit/Window_Look.h"
 #include "toolkit/Window_Work.h"
 #include "ui_Exclusion_Wizard.h"
-#include "windows/exclusion/Exclusion_Texts.h"
 #include "windows/exclusion/Update_Ex_Num.h"
 
 #include <QCloseEvent>
@@ -74,7 +74,7 @@ void Exclusion_Wizard::awakeFromNib()
     Connect_Controls();
     Show_Hide_Add_Screen_1(true);
     Show_Hide_Finish_Screen(true);
-    Show_Info(Exclusion_Texts::message_info1);
+    Show_Info(Texts::Exclusion::message_info1);
     Exclusion_wnd = this;
 }
 
@@ -153,7 +153,7 @@ void Exclusion_Wizard::Open_Exclusion_Wnd()
     Begin_On_First_Screen();
     Show_Hide_Add_Screen_1(true);
     Show_Hide_Finish_Screen(true);
-    Show_Info(Exclusion_Texts::message_info1);
+    Show_Info(Texts::Exclusion::message_info1);
     Show_Hide_First_Screen(false);
     m_ui->m_finish_btn->hide();
     m_ui->m_exclusion_list->setFocus();
@@ -290,7 +290,7 @@ void Exclusion_Wizard::Create_Exclude_List(const QString& name)
 void Exclusion_Wizard::doubleClickInTable(QTableView& table)
 {
     if (Rows_Selected_In(table).size() > 1)
-        Tell_And_Focus(Exclusion_Texts::Select_Only_One, table);
+        Tell_And_Focus(Texts::Select_Only_One, table);
     else if (&table == m_ui->m_exclusion_list)
         OnUpdate();
     else if (&table == m_ui->m_applied_axclusion_list)

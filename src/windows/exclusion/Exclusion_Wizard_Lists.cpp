@@ -4,11 +4,11 @@
 #include "platform/String_Helpers.h"
 #include "records/Data_Paths.h"
 #include "records/Exclusion_Files.h"
+#include "texts/Texts.h"
 #include "toolkit/List_Tables.h"
 #include "toolkit/Message_Boxes.h"
 #include "toolkit/Row_Table_Model.h"
 #include "ui_Exclusion_Wizard.h"
-#include "windows/exclusion/Exclusion_Texts.h"
 
 // The lists: applying, deleting, making and saving them.
 
@@ -26,17 +26,17 @@ std::vector<int> Exclusion_Wizard::Rows_With_A_Name(QTableView& table, const QSt
 void Exclusion_Wizard::Add_List_Btn()
 {
     if (m_exclusion_list_Data.isEmpty()) {
-        Tell_And_Focus(Exclusion_Texts::None_Available, *m_ui->m_exclusion_list);
+        Tell_And_Focus(Texts::Exclusion::None_Available, *m_ui->m_exclusion_list);
         return;
     }
     const auto rows =
-        Rows_With_A_Name(*m_ui->m_exclusion_list, m_exclusion_list_Data, Exclusion_Texts::None_Available_Selected);
+        Rows_With_A_Name(*m_ui->m_exclusion_list, m_exclusion_list_Data, Texts::Exclusion::None_Available_Selected);
     if (rows.empty())
         return;
     const auto names = Exclusion_Rules::Not_Yet_Applied(Exclusion_Rules::Names_At(m_exclusion_list_Data, rows),
                                                         m_applied_axclusion_list_Data);
     if (names.isEmpty())
-        Tell_And_Focus(Exclusion_Texts::Selected_In_Use, *m_ui->m_exclusion_list);
+        Tell_And_Focus(Texts::Exclusion::Selected_In_Use, *m_ui->m_exclusion_list);
     else
         Apply_Lists(names);
 }
@@ -44,12 +44,12 @@ void Exclusion_Wizard::Add_List_Btn()
 void Exclusion_Wizard::Add_All_List_Btn()
 {
     if (m_exclusion_list_Data.isEmpty()) {
-        Tell_And_Focus(Exclusion_Texts::None_Available, *m_ui->m_exclusion_list);
+        Tell_And_Focus(Texts::Exclusion::None_Available, *m_ui->m_exclusion_list);
         return;
     }
     const auto names = Exclusion_Rules::Not_Yet_Applied(m_exclusion_list_Data, m_applied_axclusion_list_Data);
     if (names.isEmpty())
-        Tell_And_Focus(Exclusion_Texts::All_In_Use, *m_ui->m_exclusion_list);
+        Tell_And_Focus(Texts::Exclusion::All_In_Use, *m_ui->m_exclusion_list);
     else
         Apply_Lists(names);
 }
@@ -64,11 +64,11 @@ void Exclusion_Wizard::Apply_Lists(const QStringList& names)
 void Exclusion_Wizard::Remove_List_Btn()
 {
     if (m_applied_axclusion_list_Data.isEmpty()) {
-        Tell_And_Focus(Exclusion_Texts::None_Applied, *m_ui->m_applied_axclusion_list);
+        Tell_And_Focus(Texts::Exclusion::None_Applied, *m_ui->m_applied_axclusion_list);
         return;
     }
     const auto rows = Rows_With_A_Name(*m_ui->m_applied_axclusion_list, m_applied_axclusion_list_Data,
-                                       Exclusion_Texts::None_Applied_Selected);
+                                       Texts::Exclusion::None_Applied_Selected);
     if (rows.empty())
         return;
     Exclusion_Rules::Remove_Rows(m_applied_axclusion_list_Data, rows);
@@ -80,7 +80,7 @@ void Exclusion_Wizard::Remove_List_Btn()
 void Exclusion_Wizard::Remove_All_List_Btn()
 {
     if (m_applied_axclusion_list_Data.isEmpty()) {
-        Tell_And_Focus(Exclusion_Texts::None_Applied, *m_ui->m_applied_axclusion_list);
+        Tell_And_Focus(Texts::Exclusion::None_Applied, *m_ui->m_applied_axclusion_list);
         return;
     }
     m_applied_axclusion_list_Data.clear();
@@ -90,7 +90,7 @@ void Exclusion_Wizard::Remove_All_List_Btn()
 
 void Exclusion_Wizard::Save_Applied_Btn()
 {
-    if (Show_YES_NO_MessageBox(Exclusion_Texts::Ask_To_Continue))
+    if (Show_YES_NO_MessageBox(Texts::Exclusion::Ask_To_Continue))
         Save_Applied_List();
 }
 
@@ -99,7 +99,7 @@ void Exclusion_Wizard::Save_Applied_List()
     bool is_written = false;
     Work_On_Worker([&] { is_written = Exclusion_Files::Write_Applied(m_applied_axclusion_list_Data); });
     if (!is_written) {
-        Show_MessageBox(Exclusion_Texts::File_Error);
+        Show_MessageBox(Texts::File_Error);
         return;
     }
     m_steps.update_app_ex = false;
@@ -113,25 +113,25 @@ void Exclusion_Wizard::Update_Btn()
 
 void Exclusion_Wizard::OnUpdate()
 {
-    Begin_Editing_Selected(*m_ui->m_exclusion_list, m_exclusion_list_Data, Exclusion_Texts::None_Available,
-                           Exclusion_Texts::None_Available_Selected);
+    Begin_Editing_Selected(*m_ui->m_exclusion_list, m_exclusion_list_Data, Texts::Exclusion::None_Available,
+                           Texts::Exclusion::None_Available_Selected);
 }
 
 void Exclusion_Wizard::Update_By_Applied_List()
 {
     Begin_Editing_Selected(*m_ui->m_applied_axclusion_list, m_applied_axclusion_list_Data,
-                           Exclusion_Texts::None_Applied, Exclusion_Texts::None_Applied_Selected);
+                           Texts::Exclusion::None_Applied, Texts::Exclusion::None_Applied_Selected);
 }
 
 void Exclusion_Wizard::Delete_Btn()
 {
     if (m_exclusion_list_Data.isEmpty()) {
-        Tell_And_Focus(Exclusion_Texts::None_Available, *m_ui->m_exclusion_list);
+        Tell_And_Focus(Texts::Exclusion::None_Available, *m_ui->m_exclusion_list);
         return;
     }
     const auto rows =
-        Rows_With_A_Name(*m_ui->m_exclusion_list, m_exclusion_list_Data, Exclusion_Texts::None_Available_Selected);
-    if (!rows.empty() && Show_YES_NO_MessageBox(Exclusion_Texts::Ask_To_Delete))
+        Rows_With_A_Name(*m_ui->m_exclusion_list, m_exclusion_list_Data, Texts::Exclusion::None_Available_Selected);
+    if (!rows.empty() && Show_YES_NO_MessageBox(Texts::Exclusion::Ask_To_Delete))
         Delete_Lists(rows);
 }
 
@@ -155,11 +155,11 @@ void Exclusion_Wizard::Delete_Lists(const std::vector<int>& rows)
         is_applied_written = Exclusion_Files::Write_Applied(m_applied_axclusion_list_Data);
     });
     if (!is_index_written)
-        Show_MessageBox(Exclusion_Texts::File_Error);
+        Show_MessageBox(Texts::File_Error);
     if (is_applied_written)
         Refill_Main_Window();
     else
-        Show_MessageBox(Exclusion_Texts::File_Error);
+        Show_MessageBox(Texts::File_Error);
 }
 
 void Exclusion_Wizard::Create_List()
@@ -176,7 +176,7 @@ void Exclusion_Wizard::Create_List()
     });
     for (const bool is_written : {is_index_written, is_list_written}) {
         if (!is_written)
-            Show_MessageBox(Exclusion_Texts::File_Error);
+            Show_MessageBox(Texts::File_Error);
     }
     Create_Avail_List(name);
     Take_Numbers({});
@@ -192,7 +192,7 @@ void Exclusion_Wizard::Save_Edited_List()
             is_written = Exclusion_Files::Write_List(name, m_ex_num_list_Data);
     });
     if (!is_written)
-        Show_MessageBox(Exclusion_Texts::File_Error);
+        Show_MessageBox(Texts::File_Error);
     Take_Numbers({});
     Refill_Main_Window();
 }

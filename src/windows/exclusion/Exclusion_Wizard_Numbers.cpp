@@ -7,12 +7,12 @@
 #include "platform/Log_Line.h"
 #include "platform/String_Helpers.h"
 #include "records/Exclusion_Files.h"
+#include "texts/Texts.h"
 #include "toolkit/File_Panels.h"
 #include "toolkit/List_Tables.h"
 #include "toolkit/Row_Table_Model.h"
 #include "toolkit/Window_Work.h"
 #include "ui_Exclusion_Wizard.h"
-#include "windows/exclusion/Exclusion_Texts.h"
 #include "windows/exclusion/Update_Ex_Num.h"
 
 #include <QFileInfo>
@@ -29,7 +29,7 @@ constexpr int Many_Numbers = 10000; // to let go of so many takes its time
 
 void Exclusion_Wizard::Show_Number_Count(int count)
 {
-    m_ui->m_st_num_count->setText(Exclusion_Texts::Total_Numbers + QString::number(count));
+    m_ui->m_st_num_count->setText(Texts::Total_Numbers + QString::number(count));
 }
 
 void Exclusion_Wizard::Update_Exclusion_Num_Count()
@@ -118,7 +118,7 @@ void Exclusion_Wizard::Load_File_Btn()
     bool is_file = false;
     Work_On_Worker([&] { is_file = QFileInfo(m_exlist_path_str).isFile(); }); // a pipe or a device would never end
     if (!is_file) {
-        Tell_And_Focus(Exclusion_Texts::Not_A_File, *m_ui->m_loadfile_edit);
+        Tell_And_Focus(Texts::Exclusion::Not_A_File, *m_ui->m_loadfile_edit);
         return;
     }
     const auto sheet = m_work->Sheet();
@@ -150,10 +150,10 @@ void Exclusion_Wizard::Add_Number_Btn()
     const auto judged = Judge_Number(m_ex_num_str, {&m_ex_num_list_Data, nullptr});
     switch (judged.verdict) {
     case Number_Verdict::Not_Valid:
-        Tell_And_Focus(Exclusion_Texts::Number_Not_Valid, *m_ui->m_loadnum_edit);
+        Tell_And_Focus(Texts::Not_A_Number, *m_ui->m_loadnum_edit);
         break;
     case Number_Verdict::Repeated:
-        Tell_And_Focus(Exclusion_Texts::Number_Exists, *m_ui->m_loadnum_edit);
+        Tell_And_Focus(Texts::Number_Exists, *m_ui->m_loadnum_edit);
         break;
     case Number_Verdict::Accepted:
         m_steps.back_flag = true;
@@ -170,12 +170,12 @@ void Exclusion_Wizard::Add_Number_Btn()
 std::vector<int> Exclusion_Wizard::Selected_Numbers()
 {
     if (m_ex_num_list_Data.Count() == 0) {
-        Tell_And_Focus(Exclusion_Texts::No_Numbers, *m_ui->m_ex_num_list);
+        Tell_And_Focus(Texts::Exclusion::No_Numbers, *m_ui->m_ex_num_list);
         return {};
     }
     auto rows = Rows_Selected_In(*m_ui->m_ex_num_list);
     if (rows.empty())
-        Tell_And_Focus(Exclusion_Texts::No_Number_Selected, *m_ui->m_ex_num_list);
+        Tell_And_Focus(Texts::Exclusion::No_Number_Selected, *m_ui->m_ex_num_list);
     return rows;
 }
 
@@ -183,7 +183,7 @@ void Exclusion_Wizard::Update_Number_Btn()
 {
     const auto rows = Selected_Numbers();
     if (rows.size() > 1)
-        Tell_And_Focus(Exclusion_Texts::Select_Only_One, *m_ui->m_ex_num_list);
+        Tell_And_Focus(Texts::Select_Only_One, *m_ui->m_ex_num_list);
     else if (!rows.empty())
         OnGetSelected();
 }

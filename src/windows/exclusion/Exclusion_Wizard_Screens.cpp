@@ -2,9 +2,9 @@
 
 #include "list/Exclusion_Rules.h"
 #include "records/Exclusion_Files.h"
+#include "texts/Texts.h"
 #include "toolkit/Message_Boxes.h"
 #include "ui_Exclusion_Wizard.h"
-#include "windows/exclusion/Exclusion_Texts.h"
 
 #include <QSignalBlocker>
 
@@ -74,7 +74,7 @@ void Exclusion_Wizard::Show_Info(const QString& text)
 
 void Exclusion_Wizard::Show_Numbers_Screen()
 {
-    m_ui->m_st_curr_use_ex_list->setText(Exclusion_Texts::Current_List + m_exlist_name_str);
+    m_ui->m_st_curr_use_ex_list->setText(Texts::Exclusion::Current_List + m_exlist_name_str);
     Show_Hide_Add_Screen_2(true);
     Show_Hide_Finish_Screen(false);
     m_ui->m_loadfile_edit->setFocus();
@@ -84,7 +84,7 @@ void Exclusion_Wizard::Return_To_First_Screen()
 {
     Show_Hide_Finish_Screen(true);
     Show_Hide_Add_Screen_1(true);
-    Show_Info(Exclusion_Texts::message_info1);
+    Show_Info(Texts::Exclusion::message_info1);
     Show_Hide_First_Screen(false);
     m_ui->m_exclusion_list->setFocus();
 }
@@ -94,7 +94,7 @@ void Exclusion_Wizard::AddNew_Btn()
     for (QLineEdit* field : {m_ui->m_ex_list_name_edit, m_ui->m_loadnum_edit, m_ui->m_loadfile_edit})
         field->clear();
     Show_Hide_First_Screen(true);
-    Show_Info(Exclusion_Texts::message_info2);
+    Show_Info(Texts::Exclusion::message_info2);
     Show_Hide_Add_Screen_1(false);
     m_ui->m_next_btn->setEnabled(true);
     m_ui->m_finish_btn->hide();
@@ -118,7 +118,7 @@ void Exclusion_Wizard::Begin_Editing_Selected(QTableView& table, const QStringLi
     if (rows.empty())
         return;
     if (rows.size() > 1) {
-        Tell_And_Focus(Exclusion_Texts::Select_Only_One, table);
+        Tell_And_Focus(Texts::Select_Only_One, table);
         return;
     }
     const QString name = names.value(rows.front());
@@ -126,7 +126,7 @@ void Exclusion_Wizard::Begin_Editing_Selected(QTableView& table, const QStringLi
         bool is_there = false;
         Work_On_Worker([&] { is_there = Exclusion_Files::Create_List_If_Missing(name); });
         if (!is_there) {
-            Tell_And_Focus(Exclusion_Texts::File_Error, table);
+            Tell_And_Focus(Texts::File_Error, table);
             return;
         }
     }
@@ -137,7 +137,7 @@ void Exclusion_Wizard::Begin_Editing_Selected(QTableView& table, const QStringLi
         m_ui->m_ex_list_name_edit->setText(name);
     }
     Show_Hide_First_Screen(true);
-    Show_Info(Exclusion_Texts::message_info1);
+    Show_Info(Texts::Exclusion::message_info1);
     Show_Hide_Add_Screen_1(false);
     m_ui->m_next_btn->setEnabled(true);
     m_ui->m_finish_btn->hide();
@@ -167,16 +167,16 @@ bool Exclusion_Wizard::Continue_With_New_Name()
     m_exlist_name_str = Typed_Name();
     switch (Exclusion_Rules::Judge_List_Name(m_exlist_name_str, m_exclusion_list_Data)) {
     case Name_Verdict::Empty:
-        Tell_And_Focus(Exclusion_Texts::Name_Missing, *m_ui->m_ex_list_name_edit);
+        Tell_And_Focus(Texts::Exclusion::Name_Missing, *m_ui->m_ex_list_name_edit);
         return false;
     case Name_Verdict::Forbidden_Sequence:
-        Tell_And_Focus(Exclusion_Texts::Name_Not_Valid, *m_ui->m_ex_list_name_edit);
+        Tell_And_Focus(Texts::Exclusion::Name_Not_Valid, *m_ui->m_ex_list_name_edit);
         return false;
     case Name_Verdict::Name_Of_Index:
-        Tell_And_Focus(Exclusion_Texts::Name_Not_Free, *m_ui->m_ex_list_name_edit);
+        Tell_And_Focus(Texts::Exclusion::Name_Not_Free, *m_ui->m_ex_list_name_edit);
         return false;
     case Name_Verdict::Exists:
-        Show_MessageBox(Exclusion_Texts::Name_Exists);
+        Show_MessageBox(Texts::Exclusion::Name_Exists);
         // To the file field it goes, which this screen hides: nothing that is shown keeps the focus.
         if (QWidget* focused = focusWidget())
             focused->clearFocus();
@@ -194,13 +194,13 @@ bool Exclusion_Wizard::Continue_With_New_Name()
 void Exclusion_Wizard::Finish_Btn()
 {
     if (m_ex_num_list_Data.Count() == 0) {
-        Tell_And_Focus(Exclusion_Texts::No_Numbers, *m_ui->m_ex_num_list);
+        Tell_And_Focus(Texts::Exclusion::No_Numbers, *m_ui->m_ex_num_list);
         return;
     }
     const bool is_new = m_steps.Has_Numbers_Of_New_List();
     if (!is_new && !m_steps.Has_Numbers_Of_Edited_List())
         return;
-    if (!Show_YES_NO_MessageBox(Exclusion_Texts::Ask_To_Continue))
+    if (!Show_YES_NO_MessageBox(Texts::Exclusion::Ask_To_Continue))
         return;
     if (is_new)
         Create_List();
@@ -214,7 +214,7 @@ void Exclusion_Wizard::Finish_Btn()
 void Exclusion_Wizard::Back_Btn()
 {
     using Screen = Exclusion_Steps::Screen;
-    const Screen screen = m_steps.Go_Back([] { return Show_YES_NO_MessageBox(Exclusion_Texts::Ask_To_Go_Back); });
+    const Screen screen = m_steps.Go_Back([] { return Show_YES_NO_MessageBox(Texts::Exclusion::Ask_To_Go_Back); });
     switch (screen) {
     case Screen::As_It_Is:
         break;
@@ -223,7 +223,7 @@ void Exclusion_Wizard::Back_Btn()
         break;
     case Screen::Name_Of_New:
     case Screen::Name_Of_Edited:
-        Show_Info(screen == Screen::Name_Of_New ? Exclusion_Texts::message_info2 : Exclusion_Texts::message_info1);
+        Show_Info(screen == Screen::Name_Of_New ? Texts::Exclusion::message_info2 : Texts::Exclusion::message_info1);
         Show_Hide_Finish_Screen(true);
         Show_Hide_Add_Screen_2(false);
         m_ui->m_ex_list_name_edit->setFocus();

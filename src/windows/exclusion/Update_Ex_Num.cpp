@@ -1,12 +1,12 @@
 #include "windows/exclusion/Update_Ex_Num.h"
 
 #include "list/Number_Rules.h"
+#include "texts/Texts.h"
 #include "toolkit/Line_Edit_Limit.h"
 #include "toolkit/Message_Boxes.h"
 #include "toolkit/Window_Look.h"
 #include "ui_Update_Ex_Num.h"
 #include "windows/exclusion/Edited_Numbers.h"
-#include "windows/exclusion/Exclusion_Texts.h"
 
 #include <QSignalBlocker>
 
@@ -45,11 +45,11 @@ void Update_Ex_Num::OKPressed()
     }
     const QString number = Number_Rules::Normalised_Number(m_ui->m_ex_num_str->text());
     if (number.isEmpty()) {
-        Tell_About_Field(Exclusion_Texts::Number_Not_Valid);
+        Tell_About_Field(Texts::Not_A_Number);
         return;
     }
     if (m_numbers.Skip_Duplicate_Number(number)) {
-        Tell_About_Field(Exclusion_Texts::Number_Exists);
+        Tell_About_Field(Texts::Number_Exists);
         return;
     }
     m_numbers.Replace_Number(m_ui->m_ex_num_index->text().toInt(), number);

@@ -2,6 +2,7 @@
 
 #include "engine/Job_State.h"
 #include "platform/Interface_Thread.h"
+#include "texts/Texts.h"
 #include "toolkit/Dialog_Over.h"
 #include "toolkit/Main_Window.h"
 #include "toolkit/Message_Boxes.h"
@@ -14,17 +15,6 @@
 using Fill_Rules::Choice;
 
 namespace {
-
-constexpr char Question_All[] =
-    "This action will copy the message of composer box to all numbers in the list.\n\nDo you want to continue?";
-constexpr char Question_Selected[] = "This action will copy the message of composer box to the selected numbers in the "
-                                     "list. The messages of rest of the "
-                                     "numbers remain unchanged.\n\nDo you want to continue?";
-constexpr char Question_Blank[] =
-    "This action will copy the message of composer box to the blank list items. The messages of rest of the numbers "
-    "remain unchanged.\n\nDo you want to continue?";
-constexpr char None_Selected[] = "Please select at least one record from the phone numbers-messages list to continue.";
-constexpr char None_Blank[] = "There is no blank message in the phone numbers-messages list.";
 
 bool Has_Blank_Message(const Main_Window& window)
 {
@@ -128,20 +118,20 @@ bool Fill_Msg_In_List::Is_Meant(Fill_Rules::Choice choice) const
     switch (choice) {
     case Choice::Selected:
         if (m_window->Selected_Recipient_Rows().empty()) {
-            Show_MessageBox(QLatin1String(None_Selected));
+            Show_MessageBox(Texts::Main::None_Selected);
             return false;
         }
-        return Show_YES_NO_MessageBox(QLatin1String(Question_Selected));
+        return Show_YES_NO_MessageBox(Texts::Fill::Selected);
     case Choice::Blank:
         if (!Has_Blank_Message(*m_window)) {
-            Show_MessageBox(QLatin1String(None_Blank));
+            Show_MessageBox(Texts::Fill::None_Blank);
             return false;
         }
-        return Show_YES_NO_MessageBox(QLatin1String(Question_Blank));
+        return Show_YES_NO_MessageBox(Texts::Fill::Blank);
     case Choice::All:
         break;
     }
-    return Show_YES_NO_MessageBox(QLatin1String(Question_All));
+    return Show_YES_NO_MessageBox(Texts::Fill::All);
 }
 
 void Fill_Msg_In_List::End_With(int code)

@@ -1,6 +1,7 @@
 #include "windows/list/List_Dialogs.h"
 
 #include "engine/Job_State.h"
+#include "texts/Texts.h"
 #include "toolkit/Main_Window.h"
 #include "toolkit/Message_Boxes.h"
 #include "toolkit/Plain_Text_Edit.h"
@@ -11,13 +12,9 @@
 
 namespace {
 
-constexpr char List_Empty[] = "Phone numbers-Messages list is empty.";
-constexpr char None_Selected[] = "Please select at least one record from the phone numbers-messages list to continue.";
-constexpr char No_Message[] = "Please enter some text message.";
-
-void Refuse(Main_Window& window, const char* text, Main_Window::Field field)
+void Refuse(Main_Window& window, const QString& text, Main_Window::Field field)
 {
-    Show_MessageBox(QLatin1String(text));
+    Show_MessageBox(text);
     window.Focus(field);
 }
 
@@ -26,12 +23,12 @@ void Refuse(Main_Window& window, const char* text, Main_Window::Field field)
 void Open_Fill_Dialog(Main_Window& window)
 {
     if (window.Recipients().Count() == 0) {
-        Refuse(window, List_Empty, Main_Window::Field::Number);
+        Refuse(window, Texts::Main::List_Empty, Main_Window::Field::Number);
         return;
     }
     Message_IS = window.Read_Send_Choices().composer_text;
     if (Message_IS.isEmpty()) {
-        Refuse(window, No_Message, Main_Window::Field::Composer);
+        Refuse(window, Texts::Message_Missing, Main_Window::Field::Composer);
         return;
     }
     if (Message_IS.size() > Longest_Message) {
@@ -47,9 +44,9 @@ void Open_Fill_Dialog(Main_Window& window)
 void Open_Update_Selected(Main_Window& window)
 {
     if (window.Recipients().Count() == 0)
-        Show_MessageBox(QLatin1String(List_Empty));
+        Show_MessageBox(Texts::Main::List_Empty);
     else if (window.Selected_Recipient_Rows().empty())
-        Show_MessageBox(QLatin1String(None_Selected));
+        Show_MessageBox(Texts::Main::None_Selected);
     else
         Update_Sel_Num_SMS::defaultInstance()->Open_Dialog(window);
 }

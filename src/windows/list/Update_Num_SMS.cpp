@@ -2,6 +2,7 @@
 
 #include "list/Number_Judge.h"
 #include "list/Number_Rules.h"
+#include "texts/Texts.h"
 #include "toolkit/Dialog_Over.h"
 #include "toolkit/Line_Edit_Limit.h"
 #include "toolkit/Main_Window.h"
@@ -12,14 +13,6 @@
 #include "windows/list/List_Change.h"
 
 #include <QSignalBlocker>
-
-namespace {
-
-constexpr char Not_A_Number[] = "Please enter a valid phone number.";
-constexpr char Exists[] = "Entered number already exists.";
-constexpr char Excluded[] = "Entered number is in exclusion list.";
-
-} // namespace
 
 Update_Num_SMS::Update_Num_SMS(QWidget* parent) : QDialog(parent), m_ui(std::make_unique<Ui::Update_Num_SMS>())
 {
@@ -78,13 +71,13 @@ void Update_Num_SMS::OKPressed()
         judged = judge(m_applied_exclusions);
     switch (judged.verdict) {
     case Number_Verdict::Not_Valid:
-        Refuse(QLatin1String(Not_A_Number));
+        Refuse(Texts::Not_A_Number);
         return;
     case Number_Verdict::Repeated:
-        Refuse(QLatin1String(Exists));
+        Refuse(Texts::Number_Exists);
         return;
     case Number_Verdict::Excluded:
-        Refuse(QLatin1String(Excluded));
+        Refuse(Texts::Number_Excluded);
         return;
     case Number_Verdict::Accepted:
         break;

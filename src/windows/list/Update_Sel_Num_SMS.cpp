@@ -4,6 +4,7 @@
 #include "platform/Interface_Thread.h"
 #include "platform/String_Helpers.h"
 #include "platform/Waiting.h"
+#include "texts/Texts.h"
 #include "toolkit/Dialog_Over.h"
 #include "toolkit/List_Tables.h"
 #include "toolkit/Main_Window.h"
@@ -20,11 +21,6 @@
 Update_Sel_Num_SMS* Up_Sel_Num_SMS = nullptr;
 
 namespace {
-
-constexpr char No_Message[] = "Please enter some text message.";
-constexpr char Question[] =
-    "This action will copy the above message to the selected numbers in the list. The messages of rest of the numbers "
-    "remain unchanged.\n\nDo you want to continue?";
 
 constexpr double Wait_Before_Opening_Seconds = 1.0;
 constexpr std::size_t Redisplay_Count = 10; // the count at which the label reloads the table, once
@@ -133,7 +129,7 @@ void Update_Sel_Num_SMS::Publish_Loaded()
 
 void Update_Sel_Num_SMS::Update_num_Count()
 {
-    m_ui->m_st_num_cnt->setText(QStringLiteral("Total Selected Numbers : ") + QString::number(List_data_Object.size()));
+    m_ui->m_st_num_cnt->setText(Texts::Fill::Selected_Numbers + QString::number(List_data_Object.size()));
     if (List_data_Object.size() == Redisplay_Count)
         m_rows->Reload();
 }
@@ -164,11 +160,11 @@ void Update_Sel_Num_SMS::OKPressed()
 {
     const QString message = m_message->Text();
     if (message.isEmpty()) {
-        Show_MessageBox(QLatin1String(No_Message));
+        Show_MessageBox(Texts::Message_Missing);
         m_ui->m_msg_str->setFocus();
         return;
     }
-    if (!Show_YES_NO_MessageBox(QLatin1String(Question)))
+    if (!Show_YES_NO_MessageBox(Texts::Fill::Typed_Message))
         return;
     auto sheet = m_work.Sheet();
     const auto selected_rows = m_window->Selected_Recipient_Rows();

@@ -7,6 +7,7 @@
 #include "platform/Interface_Thread.h"
 #include "records/Data_Paths.h"
 #include "records/Template_Store.h"
+#include "texts/Texts.h"
 #include "toolkit/Key_Actions.h"
 #include "toolkit/Line_Edit_Limit.h"
 #include "toolkit/List_Tables.h"
@@ -37,10 +38,6 @@ CorvaneAppDelegate* The_Delegate = nullptr;
 
 constexpr int Normal_Message_Index = 1;
 constexpr int Send_Button_Letters = 22;
-
-const QString Text_No_Data = QStringLiteral("Can not access Corvane Data file.");
-const QString Text_Exit = QStringLiteral("\nDo you really want to exit from 'Corvane'?");
-const QString Text_No_Device = QStringLiteral("No Mobile Phone Device is selected.");
 
 } // namespace
 
@@ -86,9 +83,11 @@ bool CorvaneAppDelegate::awakeFromNib()
     Give_Tables_Their_Models();
     Set_Data_Paths(Default_Resource_Path());
     if (!Create_Resource_Folder()) {
-        Show_MessageBox(Text_No_Data);
+        Show_MessageBox(Texts::Main::No_Data);
         return false;
     }
+    for (int type = 0; type < m_ui->_Msg_TypeComboBox->count(); ++type)
+        m_ui->_Msg_TypeComboBox->setItemData(type, type != Normal_Message_Index); // whether it is sent as flash
     m_ui->_Msg_TypeComboBox->setCurrentIndex(Normal_Message_Index);
     Check_Path_And_Create_Files();
     m_ui->Fill_Msg_Btn->setText(QStringLiteral("Apply this\r\nmessage to\r\nlist items"));
@@ -171,7 +170,7 @@ void CorvaneAppDelegate::Exit_Btn()
 
 void CorvaneAppDelegate::Exit_App()
 {
-    if (Show_YES_NO_MessageBox(Text_Exit))
+    if (Show_YES_NO_MessageBox(Texts::Main::Exit))
         Q_EMIT Exit_Wanted();
 }
 
@@ -257,7 +256,7 @@ Send_Choices CorvaneAppDelegate::Read_Send_Choices() const
     choices.save_sent_items = m_ui->_Save_Sent_Item_Chk->isChecked();
     choices.save_templates = m_ui->_Save_Templates_Chk->isChecked();
     choices.unicode = m_ui->_Unicode_SMS_Chk->isChecked();
-    choices.flash = m_ui->_Msg_TypeComboBox->currentText() == QStringLiteral("Notification");
+    choices.flash = m_ui->_Msg_TypeComboBox->currentData().toBool();
     return choices;
 }
 
@@ -282,7 +281,7 @@ void CorvaneAppDelegate::Search_All_Modem()
 {
     sel_port_name_str.clear();
     sel_port_bsd_str.clear();
-    m_ui->_Device_Name_Ticker->setText(Text_No_Device);
+    m_ui->_Device_Name_Ticker->setText(Texts::Main::No_Device);
     Connection_Info::defaultInstance()->exec();
     m_ui->_NO_Device_Ticker->hide();
     Phone_List_Wnd::defaultInstance()->Open_Ph_List_Wnd();
@@ -292,7 +291,7 @@ void CorvaneAppDelegate::Search_All_Modem()
 void CorvaneAppDelegate::Show_Device_In_Ticker()
 {
     const bool has_device = !sel_port_name_str.isEmpty();
-    m_ui->_Device_Name_Ticker->setText(has_device ? sel_port_name_str : Text_No_Device);
+    m_ui->_Device_Name_Ticker->setText(has_device ? sel_port_name_str : Texts::Main::No_Device);
     m_ui->_NO_Device_Ticker->setVisible(!has_device);
 }
 

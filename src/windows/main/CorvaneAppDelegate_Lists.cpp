@@ -6,6 +6,7 @@
 #include "platform/String_Helpers.h"
 #include "platform/Waiting.h"
 #include "records/Contact_Export.h"
+#include "texts/Texts.h"
 #include "toolkit/File_Panels.h"
 #include "toolkit/Line_Edit_Limit.h"
 #include "toolkit/List_Tables.h"
@@ -32,21 +33,6 @@ namespace {
 // Reaching exactly this many recipients redraws the table from the count itself.
 constexpr int Redisplay_Count = Number_Import::First_Shown;
 constexpr int Normal_Message_Index = 1;
-
-const QString Text_Not_A_Number = QStringLiteral("Please enter a valid phone number.");
-const QString Text_Exists = QStringLiteral("Entered number already exists.");
-const QString Text_Excluded = QStringLiteral("Entered number is in exclusion list.");
-const QString Text_List_Empty = QStringLiteral("Phone numbers-Messages list is empty.");
-const QString Text_None_Selected =
-    QStringLiteral("Please select at least one record from the phone numbers-messages list to continue.");
-const QString Text_Select_One = QStringLiteral("Please select only one record to update.");
-const QString Text_Clear_All =
-    QStringLiteral("\nThis option will clear the entire list contents. Are you sure you want to "
-                   "continue clearing the entire list?");
-const QString Text_File_Error = QStringLiteral("Error in file accessing.");
-const QString Text_Nothing_Imported =
-    QStringLiteral("Either file is corrupted or selected file contains invalid characters.\n\nOR\n\nRecipient number "
-                   "is skipped because of using 'Skip Dulicate Numbers' or 'Exclusion List' option.");
 
 // To let go of a million recipients takes its time, like everything that is done with each of them.
 void Let_Go_Of(Recipient_List& list)
@@ -104,7 +90,7 @@ void CorvaneAppDelegate::Update_List_Count()
 
 void CorvaneAppDelegate::Show_List_Count(int count)
 {
-    m_ui->_gsm_list_count->setText(QStringLiteral("Total Numbers : ") + QString::number(count));
+    m_ui->_gsm_list_count->setText(Texts::Total_Numbers + QString::number(count));
 }
 
 bool CorvaneAppDelegate::Blank_Msg_Chk() const
@@ -137,13 +123,13 @@ void CorvaneAppDelegate::Add_Number()
     const auto judged = Judge_Number(m_ui->_numberEdit->text(), Terms_For_New_Numbers());
     switch (judged.verdict) {
     case Number_Verdict::Not_Valid:
-        Show_MessageBox(Text_Not_A_Number);
+        Show_MessageBox(Texts::Not_A_Number);
         break;
     case Number_Verdict::Repeated:
-        Show_MessageBox(Text_Exists);
+        Show_MessageBox(Texts::Number_Exists);
         break;
     case Number_Verdict::Excluded:
-        Show_MessageBox(Text_Excluded);
+        Show_MessageBox(Texts::Number_Excluded);
         break;
     case Number_Verdict::Accepted:
         Create_Num_Msg_List(judged.number, m_composer->Text());
@@ -157,12 +143,12 @@ void CorvaneAppDelegate::Add_Number()
 void CorvaneAppDelegate::Clear_Sel_Btn()
 {
     if (nsListDataObject.Count() == 0) {
-        Tell_And_Focus(Text_List_Empty, Field::Recipient_Table);
+        Tell_And_Focus(Texts::Main::List_Empty, Field::Recipient_Table);
         return;
     }
     const auto rows = Selected_Recipient_Rows();
     if (rows.empty()) {
-        Tell_And_Focus(Text_None_Selected, Field::Recipient_Table);
+        Tell_And_Focus(Texts::Main::None_Selected, Field::Recipient_Table);
         return;
     }
     {
@@ -191,10 +177,10 @@ void CorvaneAppDelegate::Remove_All_Recipients()
 void CorvaneAppDelegate::Clear_All_Btn()
 {
     if (nsListDataObject.Count() == 0) {
-        Show_MessageBox(Text_List_Empty);
+        Show_MessageBox(Texts::Main::List_Empty);
         return;
     }
-    if (!Show_YES_NO_MessageBox(Text_Clear_All))
+    if (!Show_YES_NO_MessageBox(Texts::Clear_All))
         return;
     const auto sheet = m_work->Sheet();
     Remove_All_Recipients();
@@ -227,7 +213,7 @@ void CorvaneAppDelegate::doubleClickInTable()
 {
     const auto rows = Selected_Recipient_Rows();
     if (rows.size() > 1)
-        Show_MessageBox(Text_Select_One);
+        Show_MessageBox(Texts::Select_Only_One);
     else if (!rows.empty())
         OnGetSelected();
 }
@@ -334,14 +320,14 @@ void CorvaneAppDelegate::Finish_Import()
     Hide_Destroy_Modeless();
     Redisplay_Recipients();
     if (nsListDataObject.Count() == 0 || nsListDataObject.Count() == prev_list_item)
-        Show_MessageBox(Text_Nothing_Imported);
+        Show_MessageBox(Texts::Main::Nothing_Imported);
     End_Import();
 }
 
 void CorvaneAppDelegate::Export_Btn()
 {
     if (nsListDataObject.Count() == 0) {
-        Tell_And_Focus(Text_List_Empty, Field::Number);
+        Tell_And_Focus(Texts::Main::List_Empty, Field::Number);
         return;
     }
     const auto path = Ask_For_File_To_Save(this, QStringLiteral("txt"));
@@ -358,7 +344,7 @@ void CorvaneAppDelegate::Export_Btn()
     }
     sheet.reset();
     if (!is_written) {
-        Show_MessageBox(Text_File_Error);
+        Show_MessageBox(Texts::File_Error);
         return;
     }
     raise();

@@ -5,6 +5,7 @@
 #include "platform/Log_Line.h"
 #include "platform/String_Helpers.h"
 #include "platform/Waiting.h"
+#include "texts/Texts.h"
 #include "toolkit/Main_Window.h"
 #include "toolkit/Message_Boxes.h"
 #include "windows/list/List_Dialogs.h"
@@ -18,24 +19,6 @@ namespace {
 constexpr int List_Was_Filled = 1;
 constexpr int Send_List_As_It_Is = 0;
 
-const QString& No_Device_Text()
-{
-    static const auto text =
-        QStringLiteral("Either Mobile Device is not connected properly or No Mobile Phone Device is "
-                       "selected.\n\nPlease use Mobile Phone Connection Wizard for finding device or "
-                       "establishing connection.");
-    return text;
-}
-
-const QString& Blank_Messages_Question()
-{
-    static const auto text =
-        QStringLiteral("\nYou have composed no text message yet for any of the contacts in the entire "
-                       "list. This action will send blank message to all the contacts in list.\n\n"
-                       "Are you sure you want to continue?");
-    return text;
-}
-
 // Tells why nothing is sent, and puts the focus where that can be mended. Answers no, for the check that failed.
 bool Refuse(Main_Window& window, const QString& text, Main_Window::Field field)
 {
@@ -48,27 +31,26 @@ bool A_Device_Is_Selected()
 {
     if (!sel_port_bsd_str.isEmpty())
         return true;
-    Show_MessageBox(No_Device_Text());
+    Show_MessageBox(Texts::Sending::No_Device);
     return false;
 }
 
 bool No_Number_Is_Left_Over(Main_Window& window, const Send_Choices& choices)
 {
     return Trim_Str(choices.number_text).isEmpty() ||
-           Refuse(window, QStringLiteral("Please insert entered number to the list."), Main_Window::Field::Number);
+           Refuse(window, Texts::Sending::Number_Left_Over, Main_Window::Field::Number);
 }
 
 bool The_List_Has_Items(Main_Window& window)
 {
-    return window.Recipients().Count() > 0 ||
-           Refuse(window, QStringLiteral("Phone numbers-Messages list is empty."), Main_Window::Field::Number);
+    return window.Recipients().Count() > 0 || Refuse(window, Texts::Main::List_Empty, Main_Window::Field::Number);
 }
 
 bool Delayed_Delivery_Is_Complete(Main_Window& window, const Send_Choices& choices)
 {
     if (!choices.delayed_delivery)
         return true;
-    const auto text = QStringLiteral("No values have been selected in 'Delayed Delivery Options'.");
+    const QString text = Texts::Sending::No_Delivery_Values;
     if (Trim_Str(choices.batch_size).isEmpty())
         return Refuse(window, text, Main_Window::Field::Batch_Size);
     return !Trim_Str(choices.pause_choice).isEmpty() || Refuse(window, text, Main_Window::Field::Pause_Choice);
@@ -76,7 +58,7 @@ bool Delayed_Delivery_Is_Complete(Main_Window& window, const Send_Choices& choic
 
 bool Blank_Messages_Are_Meant(Main_Window& window)
 {
-    return !window.Blank_Msg_Chk() || Show_YES_NO_MessageBox(Blank_Messages_Question());
+    return !window.Blank_Msg_Chk() || Show_YES_NO_MessageBox(Texts::Sending::Blank_Messages);
 }
 
 bool Ask_About_Composer_Text(Main_Window& window)

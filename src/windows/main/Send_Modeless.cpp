@@ -4,6 +4,7 @@
 #include "platform/Interface_Thread.h"
 #include "platform/Log_Line.h"
 #include "platform/Waiting.h"
+#include "texts/Texts.h"
 #include "toolkit/Main_Window.h"
 #include "toolkit/Message_Boxes.h"
 #include "toolkit/Shared_Instance.h"
@@ -20,20 +21,6 @@ namespace {
 constexpr double Activity_Seconds = 0.5;
 constexpr int Activity_End = 100;
 constexpr int Activity_Step = 20;
-
-const QString& Stop_Question()
-{
-    static const auto text =
-        QStringLiteral("\nTerminating the current process will stop sending text messages to the remaining contact. "
-                       "Are you sure you want to continue?");
-    return text;
-}
-
-const QString& Preparing_Text()
-{
-    static const auto text = QStringLiteral("Initializing mobile phone device to send sms ...");
-    return text;
-}
 
 void Keep_Room_When_Hidden(QWidget& widget)
 {
@@ -75,8 +62,8 @@ void Send_Modeless::Make_Room_For_Texts()
     QFont heading = m_ui->_curr_msg_cnt->font();
     heading.setBold(true);
     m_ui->_curr_msg_cnt->setFont(heading);
-    Keep_Room_For(*m_ui->_curr_msg_cnt, Preparing_Text());
-    Keep_Room_For(*m_ui->_current_send_msg, QString(20, u'0') + QStringLiteral(" is Excluded."));
+    Keep_Room_For(*m_ui->_curr_msg_cnt, Texts::Sending::Preparing);
+    Keep_Room_For(*m_ui->_current_send_msg, QString(20, u'0') + Texts::Sending::Is_Excluded);
     Keep_Room_For(*m_ui->_pause_timer, QStringLiteral("Pausing the process for 1 Hour 59 Minute 59 Seconds."));
     for (QWidget* widget : {static_cast<QWidget*>(m_ui->_current_send_label),
                             static_cast<QWidget*>(m_ui->_current_send_msg), static_cast<QWidget*>(m_ui->_Tot_Progress)})
@@ -95,7 +82,7 @@ void Send_Modeless::Begin_Preparing(int total)
         m_ui->_pause_timer->clear();
         m_ui->_current_send_msg->clear();
         m_ui->_tot_msg_cnt->setText(QString::number(total));
-        m_ui->_curr_msg_cnt->setText(Preparing_Text());
+        m_ui->_curr_msg_cnt->setText(Texts::Sending::Preparing);
         Tell_State({});
         Show_Sending_Controls(false);
         if (!Program_Is_Exiting())
@@ -120,7 +107,7 @@ void Send_Modeless::Show_Item(int position, int total, const QString& number)
         m_is_item_on_its_way = false;
         m_ui->_Tot_Progress->setValue(position);
         m_ui->_curr_msg_cnt->setText(QString::number(position) + QStringLiteral(" / ") + QString::number(total) +
-                                     QStringLiteral(" Message"));
+                                     Texts::Sending::Of_Messages);
         m_ui->_current_send_msg->setText(number);
         m_ui->_Curr_Progress->setValue(Activity_End);
         Tell_State(number);
@@ -189,7 +176,7 @@ void Send_Modeless::Stop_Timers()
 
 void Send_Modeless::Stop_Sending_Pressed()
 {
-    if (!Show_YES_NO_MessageBox(Stop_Question()))
+    if (!Show_YES_NO_MessageBox(Texts::Sending::Stop))
         return;
     Stop_SMS_Sending_Now = 1;
     Show_Stop_Asked_For(true);

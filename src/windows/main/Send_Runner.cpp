@@ -6,6 +6,7 @@
 #include "platform/Interface_Thread.h"
 #include "platform/Log_Line.h"
 #include "platform/Thread_Shortage.h"
+#include "texts/Texts.h"
 #include "toolkit/Main_Window.h"
 #include "toolkit/Message_Boxes.h"
 #include "windows/main/Send_Checks.h"
@@ -13,25 +14,6 @@
 #include <exception>
 #include <memory>
 #include <utility>
-
-namespace {
-
-// Nothing is described for these two: a job that breaks says so all the same.
-const QString& Not_Started_Text()
-{
-    static const auto text = QStringLiteral("The messages could not be sent, because the computer is too busy to start "
-                                            "another task. Please close other programs and try again.");
-    return text;
-}
-
-const QString& Broken_Off_Text()
-{
-    static const auto text = QStringLiteral("Sending has ended early because of an unexpected error. The sent items "
-                                            "show which messages were sent.");
-    return text;
-}
-
-} // namespace
 
 // The right to send. It is taken at the press and not by the thread that the press starts, so that two quick presses
 // start one job; it is given back, with the main window's input, wherever it ends.
@@ -77,7 +59,7 @@ void Send_Runner::Send_SMS_Btn()
         "send job", [this, claim, order = std::move(*order)]() mutable { Send_SMS_Thread(std::move(order)); });
     claim.reset();
     if (!is_started)
-        Show_MessageBox(Not_Started_Text());
+        Show_MessageBox(Texts::Sending::Not_Started);
 }
 
 void Send_Runner::Send_SMS_Thread(Send_Order order)
@@ -86,7 +68,7 @@ void Send_Runner::Send_SMS_Thread(Send_Order order)
         Send_Job(std::move(order), m_session, m_progress, *this, Stop_SMS_Sending_Now).Send_SMS_Func();
     } catch (const std::exception& failure) {
         Show_NSLog_Message(QStringLiteral("The send job ended early: ") + QString::fromLocal8Bit(failure.what()));
-        Show_MessageBox(Broken_Off_Text());
+        Show_MessageBox(Texts::Sending::Broken_Off);
     }
 }
 

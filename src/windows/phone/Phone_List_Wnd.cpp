@@ -6,6 +6,7 @@
 #include "platform/Interface_Thread.h"
 #include "platform/Thread_Shortage.h"
 #include "platform/Waiting.h"
+#include "texts/Texts.h"
 #include "toolkit/Dialog_Over.h"
 #include "toolkit/Input_Hold.h"
 #include "toolkit/Key_Actions.h"
@@ -24,11 +25,6 @@
 #include <QScrollBar>
 
 namespace {
-
-constexpr char List_Is_Empty[] = "Device list is empty.";
-constexpr char Still_Searching[] = "Still searching for devices. Please wait ...";
-constexpr char None_Selected[] = "Please select device from list.";
-constexpr char Custom_Smsc_Invalid[] = "Please enter a valid Custom SMSC number.";
 
 constexpr double Wait_Before_Opening_Seconds = 1.0;
 constexpr int Letters_Of_A_Name = 36; // of a device, always in sight
@@ -339,13 +335,13 @@ void Phone_List_Wnd::Phone_Selected_Func()
 bool Phone_List_Wnd::May_Be_Selected()
 {
     if (!nsPortListData.Is_Row(Prev_Index)) {
-        const char* empty = ph_find_thread == 1 ? Still_Searching : List_Is_Empty;
-        Show_MessageBox(nsPortListData.Count() == 0 ? empty : None_Selected);
+        const auto& empty = ph_find_thread == 1 ? Texts::Phone::Still_Searching : Texts::Phone::List_Empty;
+        Show_MessageBox(nsPortListData.Count() == 0 ? empty : Texts::Phone::None_Selected);
         m_ui->idPortList->setFocus();
         return false;
     }
     if (m_ui->_cus_smsc_chk->isChecked() && !Custom_Smsc_Rules::Is_Valid(m_ui->_cus_smsc_edit->text())) {
-        Show_MessageBox(Custom_Smsc_Invalid);
+        Show_MessageBox(Texts::Phone::Custom_Smsc_Invalid);
         m_ui->_cus_smsc_edit->setFocus();
         return false;
     }

@@ -4,6 +4,7 @@
 #include "platform/Log_Line.h"
 #include "platform/Waiting.h"
 #include "records/Export_Format.h"
+#include "texts/Texts.h"
 #include "toolkit/Dialog_Over.h"
 #include "toolkit/File_Panels.h"
 #include "toolkit/List_Tables.h"
@@ -24,10 +25,6 @@
 
 namespace {
 
-constexpr char Clear_All_Question[] = "\nThis option will clear the entire list contents. Are you sure you want to "
-                                      "continue clearing the entire list?";
-constexpr char File_Error[] = "Error in file accessing.";
-
 constexpr double Wait_Before_Opening_Seconds = 1.0;
 
 // Does a step and returns whether it came to its end. One that fails, for want of memory above all, must not take the
@@ -45,8 +42,8 @@ bool Succeeds(const std::function<void()>& step)
 
 } // namespace
 
-List_Window::List_Window(QWidget* parent, const Texts& texts)
-    : QDialog(parent), m_texts(texts), plz_wait_Window(std::make_unique<PleaseWait_Modeless>()),
+List_Window::List_Window(QWidget* parent, const Words& words)
+    : QDialog(parent), m_words(words), plz_wait_Window(std::make_unique<PleaseWait_Modeless>()),
       m_work(*this, *plz_wait_Window)
 {
 }
@@ -148,7 +145,7 @@ void List_Window::ListreloadData()
 
 void List_Window::Update_Count()
 {
-    m_count->setText(QStringLiteral("Total Items : ") + QString::number(Count()));
+    m_count->setText(Texts::Stores::Total_Items + QString::number(Count()));
     if (Count() == Early_Reload_Count)
         ListreloadData();
 }
@@ -158,12 +155,12 @@ void List_Window::Update_Count()
 void List_Window::Clear_Sel_Btn()
 {
     if (Count() == 0) {
-        Tell(m_texts.empty_at_clear_selected);
+        Tell(m_words.empty_at_clear_selected);
         return;
     }
     const auto selected = Rows_Selected_In(Table());
     if (selected.empty()) {
-        Tell(m_texts.none_selected);
+        Tell(m_words.none_selected);
         return;
     }
     const auto sheet = m_work.Sheet();
@@ -178,10 +175,10 @@ void List_Window::Clear_Sel_Btn()
 void List_Window::Clear_All_Btn()
 {
     if (Count() == 0) {
-        Tell(m_texts.empty_at_clear_all);
+        Tell(m_words.empty_at_clear_all);
         return;
     }
-    if (!Show_YES_NO_MessageBox(QLatin1String(Clear_All_Question)))
+    if (!Show_YES_NO_MessageBox(Texts::Clear_All))
         return;
     const auto sheet = m_work.Sheet();
     Succeeds([this] { Run_On_Worker([this] { Clear_File(); }, User_Input::Served); });
@@ -222,7 +219,7 @@ void List_Window::Write_List()
 void List_Window::Export_Btn()
 {
     if (Count() == 0) {
-        Tell(m_texts.empty_at_export);
+        Tell(m_words.empty_at_export);
         return;
     }
     raise();
@@ -242,7 +239,7 @@ void List_Window::Write_Export_To(const QString& path)
     bool is_written = false;
     Work_Under_Sheet([&, content = Content_To_Export(SENT_EXPORT_MODE)] { is_written = Write_Export(path, content); });
     if (!is_written) {
-        Show_MessageBox(QLatin1String(File_Error));
+        Show_MessageBox(Texts::File_Error);
         return;
     }
     raise();
@@ -252,9 +249,9 @@ void List_Window::Write_Export_To(const QString& path)
 
 // --------------------------------------------------------------------------------------------------- in common
 
-void List_Window::Tell(const char* text)
+void List_Window::Tell(const QString& text)
 {
-    Show_MessageBox(QLatin1String(text));
+    Show_MessageBox(text);
     Table().setFocus();
 }
 

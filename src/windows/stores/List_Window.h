@@ -1,6 +1,7 @@
 #pragma once
 
 #include "records/Export_Writer.h"
+#include "texts/Fixed_Text.h"
 #include "toolkit/Window_Work.h"
 
 #include <QDialog>
@@ -46,15 +47,15 @@ protected:
     static constexpr int Early_Reload_Count = 10; ///< at which the count label reloads the table, once
 
     /// What the window says.
-    struct Texts
+    struct Words
     {
-        const char* empty_at_clear_selected;
-        const char* empty_at_clear_all;
-        const char* empty_at_export;
-        const char* none_selected;
+        Fixed_Text empty_at_clear_selected;
+        Fixed_Text empty_at_clear_all;
+        Fixed_Text empty_at_export;
+        Fixed_Text none_selected;
     };
 
-    List_Window(QWidget* parent, const Texts& texts);
+    List_Window(QWidget* parent, const Words& words);
 
     /// Gives a view that shows a row in full the look that the window's background has.
     static void Set_Up_Detail(QPlainTextEdit& detail);
@@ -69,7 +70,7 @@ protected:
 
     QTableView& Table() const { return *m_table; }
     Row_Table_Model& Rows() const { return *m_rows; }
-    const Texts& Said() const { return m_texts; }
+    const Words& Said() const { return m_words; }
 
     /// Shows how many rows the list has. At exactly ten it reloads the table as well.
     void Update_Count();
@@ -77,7 +78,7 @@ protected:
     void Begin_Anew();
 
     /// Tells the text and puts the focus back on the table.
-    void Tell(const char* text);
+    void Tell(const QString& text);
     /// The first selected row, or -1.
     int First_Selected_Row() const;
 
@@ -109,7 +110,7 @@ private:
     void End_Load();
     void Write_Export_To(const QString& path);
 
-    const Texts m_texts;
+    const Words m_words;
     QTableView* m_table = nullptr;
     QLabel* m_count = nullptr;
     std::unique_ptr<Row_Table_Model> m_rows;

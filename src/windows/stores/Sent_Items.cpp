@@ -2,6 +2,7 @@
 
 #include "records/Export_Format.h"
 #include "records/Sent_Item_Format.h"
+#include "texts/Texts.h"
 #include "toolkit/Key_Actions.h"
 #include "toolkit/Row_Table_Model.h"
 #include "toolkit/Shared_Instance.h"
@@ -30,8 +31,8 @@ QString As_Far_As_Shown(const QString& value)
 
 Sent_Items::Sent_Items(QWidget* parent)
     : Store_Window(parent,
-                   {"Sent items list is empty.", "Sent items list is empty.", "Sent items list is empty.",
-                    "Please select at least one record from the sent items list to continue."},
+                   {Texts::Stores::Sent_Items_Empty, Texts::Stores::Sent_Items_Empty, Texts::Stores::Sent_Items_Empty,
+                    Texts::Stores::No_Sent_Item_Selected},
                    nsSendListData),
       m_ui(std::make_unique<Ui::Sent_Items>())
 {

@@ -19,7 +19,7 @@ class Store_Window : public List_Window
 protected:
     using Row = std::decay_t<decltype(std::declval<const List&>().at(0))>;
 
-    Store_Window(QWidget* parent, const Texts& texts, List& list) : List_Window(parent, texts), m_list(list) {}
+    Store_Window(QWidget* parent, const Words& words, List& list) : List_Window(parent, words), m_list(list) {}
 
     /// Adds a row at the list's end, if there is one.
     void Add(std::optional<Row> row)

@@ -4,6 +4,7 @@
 #include "records/Export_Format.h"
 #include "records/Stored_Text.h"
 #include "records/Template_Format.h"
+#include "texts/Texts.h"
 #include "toolkit/Dialog_Over.h"
 #include "toolkit/Key_Actions.h"
 #include "toolkit/List_Tables.h"
@@ -26,22 +27,10 @@
 #include <iterator>
 #include <utility>
 
-namespace {
-
-constexpr char Empty_At_Update[] = "Templates number list is empty.";
-constexpr char Empty_At_Use[] = "Templates list is empty.";
-constexpr char Select_One[] = "Please select only one record to update.";
-// The quotation marks do not pair up; that is how the text reads.
-constexpr char Too_Long_Question[] =
-    "Maximum characters limit is 1600.\r\n\r\nPress 'Yes to continue to composer window and it will show first 1600 "
-    "characters of your message otherwise press 'No''";
-
-} // namespace
-
 Templates::Templates(QWidget* parent)
     : Store_Window(parent,
-                   {"Templates list is empty.", "Templates items list is empty.", "Templates list is empty.",
-                    "Please select at least one record from the templates list to continue."},
+                   {Texts::Stores::Templates_Empty, Texts::Stores::Templates_Empty_At_Clear_All,
+                    Texts::Stores::Templates_Empty, Texts::Stores::No_Template_Selected},
                    nsTemplateListData),
       m_ui(std::make_unique<Ui::Templates>()), Update_temp_Window(UpdateTemp::defaultInstance()),
       Update_m_templ_msg_str(Update_temp_Window->findChild<QPlainTextEdit*>(QStringLiteral("m_templ_msg_str"))),
@@ -208,7 +197,7 @@ void Templates::Update_Btn()
 {
     const int row = First_Selected_Row();
     if (Count() == 0)
-        Tell(Empty_At_Update);
+        Tell(Texts::Stores::Templates_Empty_At_Update);
     else if (row < 0 || nsTemplateListData.at(row).Message.trimmed().isEmpty())
         Tell(Said().none_selected);
     else
@@ -218,7 +207,7 @@ void Templates::Update_Btn()
 void Templates::doubleClickInTable()
 {
     if (Rows_Selected_In(Table()).size() > 1)
-        Tell(Select_One);
+        Tell(Texts::Select_Only_One);
     else
         OnGetSelected();
 }
@@ -243,12 +232,12 @@ void Templates::OnGetSelected()
 void Templates::Use_template_Btn()
 {
     if (Count() == 0) {
-        Tell(Empty_At_Use);
+        Tell(Texts::Stores::Templates_Empty);
         return;
     }
     const auto selected = Rows_Selected_In(Table());
     if (selected.size() != 1) {
-        Tell(selected.empty() ? Said().none_selected : Select_One);
+        Tell(selected.empty() ? Said().none_selected : Texts::Select_Only_One);
         return;
     }
     const QString text = nsTemplateListData.at(selected.front()).Message;
@@ -263,7 +252,7 @@ void Templates::Use_template_Btn()
 bool Templates::May_Be_Used(const QString& text)
 {
     const auto length = Main_App_wnd->Composer_Length() + text.size() - Main_App_wnd->Composer_Selection_Length();
-    return length <= Template_Format::Most_Characters || Show_YES_NO_MessageBox(QLatin1String(Too_Long_Question));
+    return length <= Template_Format::Most_Characters || Show_YES_NO_MessageBox(Texts::Stores::Template_Too_Long);
 }
 
 // ---------------------------------------------------------------------------------------- the file and the export

@@ -2,6 +2,7 @@
 
 #include "platform/String_Helpers.h"
 #include "records/Template_Format.h"
+#include "texts/Texts.h"
 #include "toolkit/Message_Boxes.h"
 #include "toolkit/Plain_Text_Edit.h"
 #include "toolkit/Shared_Instance.h"
@@ -11,9 +12,6 @@
 #include "windows/stores/Templates.h"
 
 namespace {
-
-constexpr char Nothing_Typed[] = "Please type template message.";
-constexpr char Exists_Already[] = "Entered template already exists.";
 
 // What a text area makes of a text: it has only one kind of line break.
 QString As_Shown(const QString& text)
@@ -58,13 +56,13 @@ void UpdateTemp::OKPressed()
     const QString text =
         Trim_Str(Left_Str_substringToIndex(is_unchanged ? before : typed, Template_Format::Most_Characters));
     if (text.isEmpty()) {
-        Refuse(Nothing_Typed);
+        Refuse(Texts::Stores::Template_Missing);
         return;
     }
     if (!Template_Window)
         return;
     if (!is_unchanged && Template_Window->Check_Duplicate_Template(text)) {
-        Refuse(Exists_Already);
+        Refuse(Texts::Stores::Template_Exists);
         return;
     }
     if (is_update)
@@ -85,9 +83,9 @@ void UpdateTemp::reject()
     CancelPressed();
 }
 
-void UpdateTemp::Refuse(const char* text)
+void UpdateTemp::Refuse(const QString& text)
 {
-    Show_MessageBox(QLatin1String(text));
+    Show_MessageBox(text);
     m_ui->m_templ_msg_str->setFocus();
 }
 

@@ -26,7 +26,7 @@ public:
     void reject() override; ///< Escape and the close button: as Cancel
 
 private:
-    void Refuse(const char* text);
+    void Refuse(const QString& text);
     void End_With(int code);
 
     const std::unique_ptr<Ui::UpdateTemp> m_ui;
