@@ -387,7 +387,7 @@ struct Imported
     Recipient_List recipients;
     QStringList events;
     QList<int> percents;
-    std::function<void()> when_told; ///< of progress
+    std::function<void(int numbers)> when_told; ///< of progress
 
     void Import(int count)
     {
@@ -401,7 +401,7 @@ struct Imported
                                   EXPECT_GE(numbers, recipients.Count());
                                   percents.append(percent);
                                   if (when_told)
-                                      when_told();
+                                      when_told(numbers);
                               },
                               [&](Recipient_List& taken_over) {
                                   std::swap(recipients, taken_over);
@@ -419,7 +419,10 @@ struct Imported
 TEST(Number_Import_Test, An_Exception_Breaks_It_Off_Quietly_With_What_Came_Before)
 {
     Imported imported;
-    imported.when_told = [] { throw std::runtime_error("out of memory"); };
+    imported.when_told = [](int numbers) {
+        if (numbers == 2500) // told at the end at the latest, and now and then before
+            throw std::runtime_error("out of memory");
+    };
     imported.Import(2500);
     EXPECT_EQ(imported.events, (QStringList{"10", "2500", "broken off"}));
     EXPECT_EQ(imported.recipients.At(2499).Number, QStringLiteral("12499"));

@@ -2,6 +2,7 @@
 
 #include "phone/Virtual_Phone.h"
 #include "platform/Waiting.h"
+#include "support/Own_Seconds.h"
 
 #include <algorithm>
 #include <array>
@@ -55,12 +56,22 @@ ssize_t Patient_Calls::Write(int descriptor, const void* bytes, size_t size)
     const long on_the_way = said_before ? Arrived(descriptor) - static_cast<long>(*said_before) : 0;
     const auto written = Serial_Calls::Write(descriptor, bytes, size);
     const int error = errno;
-    if (said_before && written > 0)
+    if (said_before && written > 0) {
+        const double begin = Own_Seconds();
         Wait_For_What_Is_Said(descriptor, path, on_the_way);
+        const std::lock_guard guard(m_lock);
+        m_patience += Own_Seconds() - begin;
+    }
     if (const auto look = The_Look())
         look();
     errno = error;
     return written;
+}
+
+double Patient_Calls::Patience()
+{
+    const std::lock_guard guard(m_lock);
+    return m_patience;
 }
 
 void Patient_Calls::Look_After_Each_Write(std::function<void()> look)

@@ -17,6 +17,9 @@ public:
     ssize_t Read(int descriptor, void* buffer, size_t size) override;
     ssize_t Write(int descriptor, const void* bytes, size_t size) override;
 
+    /// How long all writes so far have waited for what was said to them, in the writing thread's own seconds.
+    double Patience();
+
     /// Calls this after each write, on the writing thread, when what is said to it has arrived; empty for nothing.
     void Look_After_Each_Write(std::function<void()> look);
 
@@ -27,6 +30,7 @@ private:
 
     std::mutex m_lock;
     std::map<int, long> m_taken; // bytes, by descriptor
+    double m_patience = 0;
     std::function<void()> m_look;
 };
 

@@ -19,7 +19,7 @@ public:
     {
         QByteArray bytes;
         double seconds;
-        double own_seconds; // of the thread that wrote
+        double own_seconds; // of the thread that wrote, less its patience with the phone
     };
 
     int Open(const char* path, int flags) override
@@ -54,8 +54,9 @@ public:
         const auto written = Patient_Calls::Write(descriptor, bytes, size);
         const int error = errno;
         {
+            const double own_seconds = Own_Seconds() - Patience();
             const std::lock_guard guard(m_lock);
-            m_written.push_back({text, Now_Seconds(), Own_Seconds()});
+            m_written.push_back({text, Now_Seconds(), own_seconds});
         }
         if (m_after_write)
             m_after_write(text);

@@ -19,7 +19,7 @@ TEST_F(Sending_Test, One_Message_At_Pace_One_Takes_Exactly_The_Described_Waits)
         if (step != QStringLiteral("timer off") || sent != 0)
             return;
         sent = Now_Seconds();
-        own_sent = Own_Seconds();
+        own_sent = Own_Seconds() - m_calls.Patience();
     };
     m_user.Will_Press("OK");
     Send();
