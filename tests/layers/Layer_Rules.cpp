@@ -8,7 +8,8 @@
 
 namespace {
 
-constexpr std::size_t Most_Lines = 700;
+constexpr std::size_t Most_Lines_Of_A_Source = 400;
+constexpr std::size_t Most_Lines_Of_A_Test = 700;
 
 std::string At(const std::string& path, int line, const std::string& what)
 {
@@ -330,8 +331,10 @@ Complaints Check_Sizes(const Source_Tree& tree)
 {
     Complaints complaints;
     for (const auto& [path, lines] : tree) {
-        if (Is_Cpp(path) && lines.size() > Most_Lines)
-            complaints.push_back(At(path, static_cast<int>(Most_Lines) + 1, "goes on beyond 700 lines"));
+        const auto most = path.starts_with("tests/") ? Most_Lines_Of_A_Test : Most_Lines_Of_A_Source;
+        if (Is_Cpp(path) && lines.size() > most)
+            complaints.push_back(
+                At(path, static_cast<int>(most) + 1, "goes on beyond " + std::to_string(most) + " lines"));
     }
     return complaints;
 }

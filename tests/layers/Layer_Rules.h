@@ -37,7 +37,7 @@ Complaints Check_Circles(const Source_Tree& tree);
 /// The virtual phone shares src/handset with the program and nothing else, and knows no tests; neither knows Qt.
 Complaints Check_Phone(const Source_Tree& tree);
 
-/// No source is longer than 700 lines.
+/// No source is longer than 400 lines, and no test than 700.
 Complaints Check_Sizes(const Source_Tree& tree);
 
 /// No form gives a window or a control a size in pixels, which would fit one font and stand in for what its text needs.
