@@ -3,7 +3,7 @@
 #include "texts/Fixed_Text.h"
 
 // The fixed texts of the program: what boxes tell and ask and what labels begin with, each once, by the window that
-// shows it. They stand exactly so, odd spellings and blank lines at their front included. Nothing reads a text back to
+// shows it. They stand exactly so, odd spellings and blank lines at their front included. Nothing reads one of them back to
 // find out what the program is doing.
 
 // What several windows say.
