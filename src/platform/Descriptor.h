@@ -4,7 +4,7 @@
 #include <unistd.h>
 #include <utility>
 
-/// The system's answer to a call that a signal may have cut off.
+/// Repeats a system call while a signal interrupts it, and returns its answer.
 template <typename Call>
 auto Uninterrupted(Call call)
 {
@@ -19,7 +19,7 @@ class Descriptor
 {
 public:
     Descriptor() = default;
-    /// Takes over what open() or the like has answered; -1 stands for none.
+    /// Takes over what open() or the like returned; -1 stands for none.
     explicit Descriptor(int number) : m_number(number) {}
     Descriptor(Descriptor&& other) noexcept : m_number(std::exchange(other.m_number, -1)) {}
     Descriptor& operator=(Descriptor&& other) noexcept
@@ -32,8 +32,8 @@ public:
     bool Is_Open() const { return m_number >= 0; }
     int Number() const { return m_number; }
 
-    /// Returns false when the system tells of a failure. Never tried twice: whatever close() says, the number may
-    /// already be another file's.
+    /// Returns false when the system reports a failure. Never tried twice: whatever close() says, the number may
+    /// already belong to another file.
     bool Close()
     {
         const int number = std::exchange(m_number, -1);

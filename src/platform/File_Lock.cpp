@@ -8,7 +8,7 @@
 
 namespace {
 
-/// One name for a file, whichever way its folder is written. The file itself may be missing.
+// One name for a file, however its folder is written. The file itself may be missing.
 QString Lock_Key(const QString& path)
 {
     if (path.contains(QChar::Null))
@@ -20,7 +20,7 @@ QString Lock_Key(const QString& path)
 
 } // namespace
 
-/// One file's mutex, and the list of all that somebody holds or waits for.
+// One file's mutex, and the list of all that are held or waited for.
 struct File_Lock::Entry
 {
     std::recursive_mutex mutex;

@@ -2,8 +2,8 @@
 
 #include <QString>
 
-/// Holds a file's lock for as long as it lives: whoever loads, appends to or rewrites a data file does it under the
-/// lock of that path. One lock a path for the whole process; a thread that holds it may take it again.
+// Holds a file's lock for as long as it lives: every load, append or rewrite of a data file happens under the lock of
+// its path. One lock per path for the whole process; the thread that holds it may take it again.
 class File_Lock
 {
 public:

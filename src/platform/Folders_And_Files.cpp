@@ -12,9 +12,9 @@
 
 namespace {
 
-// Whether a call that was to set permissions has done so, or has none to set: a memory stick and many a network folder
-// have none of their own, and those of another account's folder are that account's. Both may be written to all the
-// same.
+// Whether a call to set permissions succeeded or had none to set: memory sticks and many network folders have none of
+// their own, and those of a folder that belongs to another account are not ours to set. All of them may still be
+// writable.
 bool Are_Set_Or_Not_To_Be_Had(int result)
 {
     return result == 0 || errno == EPERM || errno == EOPNOTSUPP || errno == ENOSYS;
@@ -26,7 +26,7 @@ bool Make_Folder_If_Missing(const QString& path, unsigned permissions)
 {
     if (QFileInfo(path).isDir())
         return true;
-    const QString folder = QDir::cleanPath(path); // a slash at its end would count as one more name
+    const QString folder = QDir::cleanPath(path); // a trailing slash would count as one more name
     const QString above = QFileInfo(folder).path();
     if (!QFileInfo(above).isDir() && !QDir().mkpath(above))
         return false;
@@ -37,7 +37,7 @@ bool Make_Folder_If_Missing(const QString& path, unsigned permissions)
 
 bool Make_Empty_File_If_Missing(const QString& path, unsigned permissions)
 {
-    // O_EXCL: a file that another start makes at the same moment is never emptied.
+    // O_EXCL: a file made by another start at the same moment is never emptied.
     Descriptor file(open(QFile::encodeName(path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, permissions));
     if (!file.Is_Open())
         return QFileInfo(path).isFile();

@@ -40,14 +40,14 @@ Worker_Register& The_Register()
     return workers;
 }
 
-// What is handed over to the interface thread. It travels in a list of the program's own and not in the toolkit's
-// events: a race detector sees nothing of what happens inside the toolkit, and only with a lock of ours can it follow a
-// step across and find the races that are real.
+// Steps handed over to the interface thread. They travel in a list of our own and not in the toolkit's events: a race
+// detector cannot see inside the toolkit, and only with a lock of ours can it follow a step across and find the real
+// races.
 struct Handed_Over
 {
     std::mutex lock;
     std::deque<std::function<void()>> steps;
-    std::unique_ptr<QObject> door; // goes with the application, and with it the steps that nobody did
+    std::unique_ptr<QObject> door; // goes with the application, and takes the steps not yet done with it
 };
 
 Handed_Over& The_Steps()
@@ -74,14 +74,14 @@ void Forget_Steps()
     dropped.swap(steps.steps);
 }
 
-// Where the steps come in on the interface thread, one for each event.
+// Where steps arrive on the interface thread, one per event.
 class Door : public QObject
 {
 protected:
     void customEvent(QEvent* /*event*/) override { Next_Step()(); }
 };
 
-// The door is made with the application, on the interface thread, where every filter of events looks at it.
+// The door is made with the application, on the interface thread, where every event filter sees it.
 void Open_The_Door()
 {
     auto& steps = The_Steps();
@@ -99,15 +99,15 @@ void Hand_Over(std::function<void()> step)
     if (!steps.door)
         return; // the application is going: nobody is left to do it
     steps.steps.push_back(std::move(step));
-    // The event comes out of the toolkit, too: whoever filters events looks at it before the step is taken.
+    // The event passes through the toolkit, too: event filters see it before the step is taken.
     QCoreApplication::postEvent(steps.door.get(), QEvent(QEvent::User).clone());
 }
 
-// Lets the caller go on once the step that holds it is done, or was dropped because the application has gone.
+// Lets the caller continue once the step that holds it is done, or was dropped because the application has gone.
 class Awaited_Step
 {
 public:
-    /// The caller goes on when the last copy of this has gone.
+    // The caller continues when the last copy of this is gone.
     std::shared_ptr<void> Hold()
     {
         return {this, [this](void* /*unused*/) {
@@ -140,7 +140,7 @@ void Do_The_Work(const std::function<void()>& work)
     }
 }
 
-// No thread is given back where the system refuses one. What is to run on it must not be lost by that.
+// Returns no thread where the system refuses one: the work meant for it must not be lost with it.
 std::thread Thread_For(const char* name, void (*run)(void*), void* what)
 {
     try {
@@ -156,14 +156,14 @@ void Run_Worker(void* what)
 {
     auto* worker = static_cast<Worker*>(what);
     Do_The_Work(worker->work);
-    worker->work = nullptr; // what the work holds is let go before it counts as ended
+    worker->work = nullptr; // what the work holds is released before it counts as ended
     worker->has_ended = true;
     Wake_Interface_Thread();
 }
 
 void Join_Ended_Workers();
 
-// Takes the work only where there is a thread for it.
+// Takes the work only if there is a thread for it.
 bool Hand_To_Worker(const char* name, std::function<void()>& work)
 {
     Join_Ended_Workers();

@@ -2,6 +2,6 @@
 
 #include <functional>
 
-/// Waits as Wait_Seconds_Unless does, but the program's exit does not end it: for the little that leaving itself has to
+/// Waits as Wait_Seconds_Unless does, but is not ended by the program's exit: for the little that leaving itself has to
 /// wait for.
 void Wait_Seconds_Also_In_Leaving(double seconds, const std::function<bool()>& is_over);

@@ -2,6 +2,6 @@
 
 #include <QString>
 
-/// The text with everything that reads as before, which is not empty, in the words of after. Takes time that grows with
-/// the text, where QString::replace moves all the rest once for every thousand replacements. Any thread.
+/// The text with every occurrence of before, which must not be empty, replaced by after. Takes time linear in the text,
+/// where QString::replace moves the whole rest once per thousand replacements. Any thread.
 QString Replace_Each(QStringView text, QStringView before, QStringView after);

@@ -17,8 +17,8 @@ constexpr int No_Font = -1;
 constexpr int Most_Fallback = 32767;
 constexpr qsizetype Most_Fonts = 65536;
 
-/// Reads one document from front to back, once. Groups cost nothing until one of them changes something, so that no
-/// depth of nesting takes more memory than the document itself. Lives for one call, on its caller's thread.
+// Reads one document from front to back, once. A group costs nothing until it changes something, so that no depth of
+// nesting takes more memory than the document itself. Lives for one call, on its caller's thread.
 class Rich_Text_Reader
 {
 public:
@@ -36,7 +36,7 @@ public:
     }
 
 private:
-    /// What a group may change and its end brings back.
+    // What a group may change and its end restores.
     struct State
     {
         int font = No_Font;
@@ -95,7 +95,7 @@ private:
 
     bool Is_Skipping() const { return m_skip_from != Nowhere; }
 
-    // The outermost group is the document: a word in it that begins no group of its own takes nothing away.
+    // The outermost group is the document: a word in it that begins no group of its own hides nothing.
     void Skip_This_Group()
     {
         if (m_depth > 1 && !Is_Skipping())
@@ -139,7 +139,7 @@ private:
         case '}':
             Put_Byte(symbol);
             break;
-        default: // "\-", where a word may be broken, and what is not known
+        default: // "\-", a possible hyphenation point, and unknown ones
             break;
         }
     }
@@ -173,7 +173,7 @@ private:
             Do(*known, number);
     }
 
-    /// The number that belongs to a word, held within the range of an int; nothing when there is none.
+    // The number that belongs to a word, clamped to the range of an int; nothing when there is none.
     std::optional<int> Read_Number()
     {
         const bool is_negative =
@@ -279,8 +279,8 @@ private:
 
     bool Is_Shown() const { return !m_state.is_hidden && !m_state.is_deleted; }
 
-    /// Whether what comes is no text that the document shows, or stands for a Unicode character that is in the text
-    /// already.
+    // Whether what comes next is text that the document does not show, or replaces a Unicode character already in the
+    // text.
     bool Is_Passed_Over()
     {
         if (m_fallback_left > 0 && !Is_Skipping()) {
@@ -294,7 +294,7 @@ private:
     {
         if (Is_Passed_Over())
             return;
-        // ASCII is the same in all of them, and nearly all that numbers are made of.
+        // ASCII is the same in all of them, and numbers consist of little else.
         if (static_cast<unsigned char>(byte) < 0x80 && !m_decoder.Is_Holding())
             m_text += QLatin1Char(byte);
         else
@@ -303,7 +303,7 @@ private:
 
     void Put_Character(char16_t character)
     {
-        // A line that ends is never the stand-in of a character: some writers leave that out.
+        // A line end never replaces a character: some writers leave the replacement out.
         if (character == '\n')
             m_fallback_left = 0;
         if (Is_Passed_Over())
@@ -314,7 +314,7 @@ private:
 
     bool Is_At_Line_Begin() const { return !m_decoder.Is_Holding() && (m_text.isEmpty() || m_text.endsWith(u'\n')); }
 
-    /// The end of a cell stays where the cell's text is hidden.
+    // The end of a cell counts even where the cell's text is hidden.
     void End_Line()
     {
         m_fallback_left = 0;
@@ -324,7 +324,7 @@ private:
         m_text += u'\n';
     }
 
-    /// Numbers above 32767 are written as negative ones; some writers write them, and whole code points, as they are.
+    // Numbers above 32767 are written as negative ones; some writers write them, and whole code points, unchanged.
     void Put_Unicode(int number)
     {
         m_fallback_left = m_state.fallback;
@@ -360,7 +360,7 @@ private:
 
     std::size_t m_depth = 0;
     std::size_t m_skip_from = Nowhere;       // the depth of the outermost group being passed over
-    std::size_t m_font_table_from = Nowhere; // the same when that is the font table
+    std::size_t m_font_table_from = Nowhere; // the same if that is the font table
     State m_state;
     std::vector<Saved_State> m_saved;
     int m_fallback_left = 0;

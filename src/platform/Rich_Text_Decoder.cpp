@@ -55,7 +55,7 @@ struct Charset
     int code_page;
 };
 
-// Rich Text Format 1.9.1, "Font Table". Those for "ANSI", "default" and "symbol" name no code page of their own.
+// Rich Text Format 1.9.1, "Font Table". "ANSI", "default" and "symbol" name no code page of their own.
 constexpr Charset Charsets[] = {
     {77, 10000}, {78, 10001}, {79, 10003}, {80, 10008}, {81, 10002}, {88, 10029}, {89, 10007}, {128, 932},
     {129, 949},  {130, 1361}, {134, 936},  {136, 950},  {161, 1253}, {162, 1254}, {163, 1258}, {177, 1255},
@@ -70,7 +70,7 @@ const char* Name_Of_Code_Page(int number)
 
 iconv_t No_Converter()
 {
-    return reinterpret_cast<iconv_t>(-1); // NOLINT(performance-no-int-to-ptr): what iconv_open says
+    return reinterpret_cast<iconv_t>(-1); // NOLINT(performance-no-int-to-ptr): what iconv_open returns
 }
 
 } // namespace
@@ -90,7 +90,7 @@ void Rich_Text_Decoder::Put(char byte, int code_page, QString& text)
         m_code_page = code_page;
         m_name = Name_Of_Code_Page(code_page);
     }
-    // Below 0x80 every code page of the table is ASCII, unless such a byte is the second half of a character.
+    // Below 0x80 every code page in the table is ASCII, unless the byte is the second half of a character.
     const bool is_ascii = static_cast<unsigned char>(byte) < 0x80;
     if (is_ascii && m_held.isEmpty()) {
         text += QLatin1Char(byte);
@@ -148,7 +148,7 @@ void Rich_Text_Decoder::Convert_Held(QString& text)
             break;
         }
     }
-    iconv(converter, nullptr, nullptr, &output, &room); // what it held back to combine with what may follow
+    iconv(converter, nullptr, nullptr, &output, &room); // what it held back to combine with a following character
     units.truncate((output - begin) / static_cast<qsizetype>(sizeof(QChar)));
     text += units;
     m_held = is_incomplete ? QByteArray(input, static_cast<qsizetype>(left)) : QByteArray();

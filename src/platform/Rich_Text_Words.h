@@ -3,26 +3,26 @@
 #include <algorithm>
 #include <string_view>
 
-// The control words of a rich text that bear on its plain text. All others change only how it looks.
+// The control words that affect the plain text of a rich text. All others change only how it looks.
 
 enum class Rich_Text_Action
 {
-    Put,        // stands for the character that is its value
-    End_Cell,   // of a table: a line ends
-    End_Row,    // the same, where the row's last cell has not ended it
-    Pass_Over,  // the group that it begins is no text of the document
-    Font_Table, // passed over too, once its fonts' character sets are known
-    Code_Page,  // of the document; its value, or 0: its number
+    Put,        ///< stands for the character that is its value
+    End_Cell,   ///< of a table: a line ends
+    End_Row,    ///< the same, unless the row's last cell has ended it
+    Pass_Over,  ///< the group it begins is not part of the document's text
+    Font_Table, ///< passed over too, once its fonts' character sets are known
+    Code_Page,  ///< of the document; its value or, where that is 0, its number
     Default_Font,
     Font,
-    Charset,   // of the font being described
-    Font_Page, // the same as a code page
-    Plain,     // back to the default font, and shown
-    Hidden,    // from here on text is not shown, or, with the number 0, shown again
-    Deleted,   // the same for what somebody deleted while changes were being tracked
-    Unicode,   // its number is a UTF-16 code unit
-    Fallback,  // its number is how many characters after a Unicode one stand for it in older readers
-    Binary,    // its number is how many bytes of anything follow
+    Charset,   ///< of the font being described
+    Font_Page, ///< the same, given as a code page
+    Plain,     ///< back to the default font, and shown
+    Hidden,    ///< text is hidden from here on or, with the number 0, shown again
+    Deleted,   ///< the same for what was deleted while changes were tracked
+    Unicode,   ///< its number is a UTF-16 code unit
+    Fallback,  ///< its number is how many characters after a Unicode one replace it in older readers
+    Binary,    ///< its number is how many bytes of arbitrary data follow
 };
 
 struct Rich_Text_Word
@@ -122,7 +122,7 @@ inline constexpr Rich_Text_Word Rich_Text_Words[] = {
 };
 static_assert(std::ranges::is_sorted(Rich_Text_Words, {}, &Rich_Text_Word::word), "it is searched by halves");
 
-/// The entry of a word without its backslash and number; none for a word that changes only how the text looks.
+/// The entry for a word without its backslash and number; none for a word that changes only how the text looks.
 inline const Rich_Text_Word* Find_Rich_Text_Word(std::string_view word)
 {
     const auto* found = std::ranges::lower_bound(Rich_Text_Words, word, {}, &Rich_Text_Word::word);

@@ -26,7 +26,7 @@ constexpr char Socket_Name[] = "Running.socket";
 constexpr double Seconds_Between_Tries = 0.02;
 constexpr int Longest_Queue = 16;
 
-// Through the open folder: the name of a socket is cut off after 107 bytes, and a folder's own path may be longer.
+// Through the open folder: a socket's name is cut off after 107 bytes, and a folder's own path may be longer.
 sockaddr_un Socket_Address(int folder)
 {
     sockaddr_un address = {};
@@ -37,11 +37,11 @@ sockaddr_un Socket_Address(int folder)
 
 Descriptor New_Socket()
 {
-    // Never blocks: not in connect either, when the queue of a program that hangs is full.
+    // Never blocks, not even in connect when the queue of a hung program is full.
     return Descriptor(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
 }
 
-// Gives a lock back in words, because a child that is just being started may hold the open file for a moment longer.
+// Unlocks explicitly, because a child just being started may keep the file open for a moment longer.
 void Give_Back(Descriptor& locked)
 {
     if (locked.Is_Open())
@@ -79,7 +79,7 @@ Single_Start::~Single_Start()
 Single_Start::Outcome Single_Start::Begin(double patience)
 {
     if (!Open_Folder())
-        return Outcome::First; // whoever needs the folder finds out and tells
+        return Outcome::First; // whatever needs the folder finds out and reports it
     Open_Lock_File();
     for (const double end = Now_Seconds() + patience;;) {
         if (Take_Locks()) {
@@ -90,14 +90,14 @@ Single_Start::Outcome Single_Start::Begin(double patience)
             return Outcome::Shown;
         if (Now_Seconds() >= end)
             return Outcome::No_Answer;
-        // It has not begun to listen, or is on its way out and has stopped.
+        // It is not listening yet, or has already stopped on its way out.
         Wait_For_Descriptor(-1, POLLIN, Seconds_Between_Tries);
     }
 }
 
 bool Single_Start::Open_Folder()
 {
-    // A folder left open by hand is closed to others before a socket is made in it.
+    // A folder left accessible to others is closed to them before a socket is made in it.
     if (!Make_Folder_If_Missing(m_folder, Only_The_User))
         return false;
     Set_Permissions(m_folder, Only_The_User);
@@ -110,11 +110,11 @@ void Single_Start::Open_Lock_File()
     constexpr int flags = O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY;
     m_lock_file = Descriptor(openat(m_open_folder.Number(), Lock_Name, O_RDWR | O_CREAT | flags, 0600));
     if (!m_lock_file.Is_Open())
-        Log_Failure("no lock file"); // the folder's own lock is left
+        Log_Failure("no lock file"); // that leaves the folder's own lock
 }
 
-// Returns false when another program has one of the two. A lock that the file system does not know counts as taken: it
-// must not keep the program from starting.
+// Returns false when another program has one of the two. A lock that the file system does not support counts as taken:
+// it must not keep the program from starting.
 bool Single_Start::Take_Locks()
 {
     if (Is_Taken_By_Another(m_open_folder))
@@ -127,7 +127,7 @@ bool Single_Start::Take_Locks()
 
 bool Single_Start::Is_Alone() const
 {
-    // To take a lock again that one has is granted.
+    // Taking a lock that one already holds succeeds.
     const Descriptor* locks[] = {&m_open_folder, &m_lock_file};
     return std::all_of(std::begin(locks), std::end(locks), [](const Descriptor* lock) {
         return lock->Is_Open() && flock(lock->Number(), LOCK_EX | LOCK_NB) == 0;
@@ -138,7 +138,7 @@ void Single_Start::Listen()
 {
     const sockaddr_un address = Socket_Address(m_open_folder.Number());
     m_listener = New_Socket();
-    // Whoever holds the lock owns the socket's name: what stands there was left by a program that was killed.
+    // The socket's name belongs to the holder of the lock: what is there was left by a program that was killed.
     unlinkat(m_open_folder.Number(), Socket_Name, 0);
     if (m_listener.Is_Open() && fchmod(m_listener.Number(), 0600) == 0 &&
         bind(m_listener.Number(), reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0 &&
@@ -148,8 +148,8 @@ void Single_Start::Listen()
     m_listener.Close();
 }
 
-// Returns whether the program that holds the lock has answered. Waits for that until end, but not for a program that
-// does not listen.
+// Returns whether the program that holds the lock has answered. Waits for that until end, but not for a program that is
+// not listening.
 bool Single_Start::Ask_The_First(double end)
 {
     const sockaddr_un address = Socket_Address(m_open_folder.Number());
@@ -178,7 +178,7 @@ void Single_Start::Answer()
     Descriptor asking(accept4(m_listener.Number(), nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK));
     if (!asking.Is_Open())
         return;
-    // Answered first: what is asked of the window system may take its time. Nothing is read from whoever asks.
+    // Answered first: the window system may take its time. Nothing is read from the start that asks.
     send(asking.Number(), "!", 1, MSG_NOSIGNAL);
     asking.Close();
     m_come_to_the_front();

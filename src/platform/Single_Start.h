@@ -9,40 +9,40 @@
 
 class QSocketNotifier;
 
-// Sees to it that one program at a time works in a private folder. The first start locks the folder, and a file in it
-// for file systems that computers share. The system takes such locks back when the program ends, however it ends:
-// nothing is left behind that could be stale. Every further start asks the first, through a socket in the folder, to
-// come to the front, and is then to end. Made by main() before anything in the folder is touched and before the
-// application object; one thread.
+// Ensures that only one program at a time works in a private folder. The first start locks the folder, and a file in it
+// for file systems shared between computers. The system releases such locks however the program ends, so that nothing
+// stale is left behind. Every further start asks the first, through a socket in the folder, to come to the front, and
+// should then end. Made by main() before anything in the folder is touched and before the application object; one
+// thread.
 class Single_Start
 {
 public:
     enum class Outcome
     {
-        First,     ///< this start may work in the folder; also where the folder can not be locked at all
+        First,     ///< this start may work in the folder; also where the folder cannot be locked at all
         Shown,     ///< another start has it, and comes to the front
-        No_Answer, ///< another start has it, and says nothing
+        No_Answer, ///< another start has it, and does not answer
     };
 
     explicit Single_Start(const QString& private_folder);
-    /// Gives the folder back; the last thing a program does, when all its files are written.
+    /// Releases the folder; the last thing a program does, when all its files are written.
     ~Single_Start();
     Single_Start(const Single_Start&) = delete;
     Single_Start& operator=(const Single_Start&) = delete;
 
-    /// Makes the folder when it is missing, takes it or asks whoever has it. patience, in real seconds, is how long an
-    /// answer is waited for, and how long a program on its way out gets to leave the folder.
+    /// Makes the folder if it is missing, and takes it or asks the program that has it. patience, in real seconds, is
+    /// how long to wait for an answer, and how long a program on its way out gets to leave the folder.
     Outcome Begin(double patience = 5);
 
-    /// Whether it is certain that no other program works in the folder: both locks are taken, and not only unknown to
-    /// the file system.
+    /// Whether it is certain that no other program works in the folder: both locks are really held, and not merely
+    /// unknown to the file system.
     bool Is_Alone() const;
 
-    /// What to do when a further start asks, from now on and for what has been asked already. Needs the application
-    /// object and its events; interface thread.
+    /// What to do when a further start asks, from now on and for requests already waiting. Needs the application object
+    /// and its events; interface thread.
     void When_Asked(std::function<void()> come_to_the_front);
 
-    /// The way out has begun: nobody is asked in any more. Further starts wait until the folder is given back.
+    /// The program is on its way out and accepts no more requests. Further starts wait until the folder is released.
     void Stop_Listening();
 
 private:

@@ -32,8 +32,8 @@ QStringView Without_Line_Ends(QStringView line)
     return line;
 }
 
-// Appends the line and a "\0" when it is of visible ASCII characters alone, as almost every one is: that is its
-// printable form already. Otherwise nothing.
+// Appends the line and a "\0" if it consists of visible ASCII only, as almost every line does, since it is then already
+// in printable form. Otherwise appends nothing.
 bool Append_Plain(std::string& lines, QStringView line)
 {
     const std::size_t begin = lines.size();
@@ -89,7 +89,7 @@ public:
     }
 
     // A sink that never takes the last lines must not keep the program from ending: the thread is then left behind, and
-    // the writer with it (which is why nobody deletes it).
+    // the writer with it (which is why it is never deleted).
     void End()
     {
         Flush();
@@ -109,7 +109,7 @@ public:
     }
 
 private:
-    // Where the system refuses a thread the lines wait, and the next line tries again.
+    // Where the system refuses a thread, the lines wait and the next one tries again.
     void Start_Thread()
     {
         try {
@@ -137,12 +137,13 @@ private:
             guard.lock();
             --m_waiting;
             m_written.notify_all();
-            // Lines that come one upon the other are written together: waking for each would cost more than it.
+            // Lines in quick succession are written together: waking up for each would cost more than writing it.
             m_changed.wait_for(guard, Between_Batches, [this] { return m_is_ending.load(); });
         }
     }
 
-    // The last line still counts as waiting afterwards, so that whoever waits for none has the other count as well.
+    // The last line still counts as waiting afterwards, so that whoever waits for zero gets the other count written as
+    // well.
     void Write_Batch(const std::string& lines, bool has_terminal)
     {
         const bool has_daemon = Has_Log_Daemon();
@@ -166,8 +167,8 @@ private:
             Write_To_Terminal(std::string(line) + '\n');
     }
 
-    // Where no daemon listens, syslog(3) would try to reach one anew for every line. One that comes is seen within a
-    // second.
+    // Where no daemon listens, syslog(3) would try again to reach one for every line. A daemon that appears is noticed
+    // within a second.
     bool Has_Log_Daemon()
     {
         const double now = Now_Seconds();
@@ -192,7 +193,7 @@ private:
     std::mutex m_lock;
     std::condition_variable m_changed;
     std::condition_variable m_written;
-    std::string m_lines;                    // each with a "\0" behind it
+    std::string m_lines;                    // each followed by a "\0"
     std::atomic<std::size_t> m_waiting = 0; // lines that have not reached the sink
     std::atomic<qint64> m_passed_over = 0;
     std::atomic<bool> m_is_ending = false;

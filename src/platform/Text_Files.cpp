@@ -15,14 +15,14 @@
 
 namespace {
 
-// O_NONBLOCK: a pipe that comes to stand at a path after it was looked at never holds up an open.
+// O_NONBLOCK: a pipe that appears at a path after it was checked never holds up an open.
 constexpr int Open_Flags = O_CLOEXEC | O_NOCTTY | O_NONBLOCK;
 constexpr mode_t Data_File_Permissions = 0777;
 constexpr qint64 Largest_Read = qint64{2} << 30;
 constexpr qsizetype Read_Step = qsizetype{64} << 10;
 constexpr off_t Smallest_Page = 4096;
 
-/// A path as the system takes it. A text with a NUL in it names no file: it becomes the empty name, which never opens.
+// A path as the system takes it. A text with a NUL in it names no file: it becomes the empty name, which never opens.
 QByteArray Native_Name(const QString& path)
 {
     return path.contains(QChar::Null) ? QByteArray() : QFile::encodeName(path);
@@ -33,7 +33,7 @@ Descriptor Open(const QByteArray& name, int flags, mode_t permissions = 0)
     return Descriptor(Uninterrupted([&] { return open(name.constData(), flags | Open_Flags, permissions); }));
 }
 
-/// The size of the regular file that is open; nothing for whatever else a path can lead to.
+// The size of the regular file that is open; nothing for anything else a path can lead to.
 std::optional<off_t> Regular_Size(const Descriptor& file)
 {
     struct stat found = {};
@@ -42,7 +42,7 @@ std::optional<off_t> Regular_Size(const Descriptor& file)
     return found.st_size;
 }
 
-/// Whether opening the path can disturb nobody: opening a pipe wakes its writer, opening a serial line raises DTR.
+// Whether opening the path disturbs nobody: opening a pipe wakes its writer, opening a serial line raises DTR.
 bool Is_Regular_Or_Missing(const QByteArray& name)
 {
     struct stat found = {};
@@ -61,8 +61,8 @@ bool Write_All(const Descriptor& file, const QByteArray& bytes)
     return true;
 }
 
-/// Some file systems, as one that a program of its own serves, can not sync: what was written there is as safe as it
-/// gets. An EROFS is none of these answers: with it a file system tells that it has given up on what it was given.
+// Some file systems, such as those served by another program, cannot sync: what was written there is as safe as it
+// gets. EROFS is none of these answers: it is how a file system says that it has given up on what it was given.
 bool Sync(const Descriptor& file)
 {
     return Uninterrupted([&] { return fsync(file.Number()); }) == 0 || errno == EINVAL || errno == ENOSYS ||
@@ -74,8 +74,8 @@ bool Cut(const Descriptor& file, off_t size)
     return Uninterrupted([&] { return ftruncate(file.Number(), size); }) == 0;
 }
 
-/// The permissions of a file just made. Made by this user, it refuses them only where its file system has none of its
-/// own, as on a memory stick: no reason to lose what is to be written.
+// The permissions of a new file. Since this user made it, they are refused only by a file system that has none, as on a
+// memory stick: no reason to lose what is to be written.
 bool Give_Permissions(const Descriptor& file)
 {
     return fchmod(file.Number(), Data_File_Permissions) == 0 || errno == EPERM || errno == EOPNOTSUPP;
@@ -88,14 +88,13 @@ bool Write_Replacement(const QByteArray& name, const QByteArray& bytes)
     return file.Is_Open() && Give_Permissions(file) && Write_All(file, bytes) && Sync(file) && file.Close();
 }
 
-/// Whether a kill can cut off an append: between two pages of a file the system looks for one, within a page it does
-/// not.
+// Whether a kill can cut an append short: the system checks for one between two pages of a file, but not within a page.
 bool Can_Be_Left_Half_Done(off_t size, const QByteArray& bytes)
 {
     return size % Smallest_Page + bytes.size() > Smallest_Page;
 }
 
-/// An append that goes on. Where it can not be noted, for want of room above all, it is done all the same.
+// An append in progress. If it cannot be noted, mostly for lack of room, it is done all the same.
 class Append_Note
 {
 public:
@@ -115,19 +114,19 @@ public:
             unlink(m_name.constData());
     }
 
-    /// Cuts the file back to its size before the append when it ends in a part of what was to be appended. Returns
-    /// whether the file is whole.
+    // Cuts the file back to its size before the append if it ends in only a part of what was to be appended. Returns
+    // whether the file is whole.
     static bool Undo(const QString& path)
     {
         const auto note = Read_File(Append_Note_Path(path));
-        if (!note) // it can not be told, unless it is no note at all
+        if (!note) // it is unknown, unless this is no note at all
             return !QFileInfo(Append_Note_Path(path)).isFile();
         const qsizetype line_end = note->indexOf('\n');
         const QByteArray bytes = note->mid(line_end + 1);
         bool is_number = false;
         const auto size = static_cast<off_t>(note->left(line_end).toLongLong(&is_number));
         if (line_end <= 0 || !is_number || size < 0)
-            return true; // a note that was not finished itself: nothing had been appended yet
+            return true; // the note itself was not finished: nothing had been appended yet
         const auto added = Read_From(path, size, bytes.size());
         if (!added)
             return false;
@@ -137,8 +136,8 @@ public:
     }
 
 private:
-    /// What stands in a file behind its first bytes, so much at the most: it may be a large file. Nothing at all when
-    /// the file is there and can not be read.
+    // What follows the first bytes of a file, up to a limit, as the file may be large. Nothing at all when the file
+    // exists but cannot be read.
     static std::optional<QByteArray> Read_From(const QString& path, off_t first, qsizetype at_most)
     {
         const Descriptor file = Open(Native_Name(path), O_RDONLY);
@@ -189,7 +188,7 @@ std::optional<QByteArray> Read_File(const QString& path)
 
 std::optional<QString> Decode_Utf8(const QByteArray& bytes)
 {
-    // Without this flag the decoder would take the byte-order mark away.
+    // Without this flag the decoder would drop the byte-order mark.
     QStringDecoder decoder(QStringConverter::Utf8,
                            QStringConverter::Flag::Stateless | QStringConverter::Flag::ConvertInitialBom);
     QString text = decoder.decode(bytes);
@@ -242,7 +241,7 @@ bool Replace_File(const QString& path, const QByteArray& bytes)
         unlink(beside.constData());
         return false;
     }
-    // The new file stands from here on, whether or not its folder can be synced.
+    // The new file stays from here on, whether or not its folder can be synced.
     const Descriptor folder = Open(Native_Name(QFileInfo(path).path()), O_RDONLY | O_DIRECTORY);
     if (folder.Is_Open())
         Sync(folder);
@@ -308,7 +307,7 @@ bool Write_File_In_Pieces(const QString& path, const std::function<std::optional
     const QByteArray name = Native_Name(path);
     if (!Is_Regular_Or_Missing(name))
         return false;
-    // Emptied only when it is known to be a file.
+    // Emptied only once it is known to be a regular file.
     Descriptor file = Open(name, O_WRONLY | O_CREAT, 0666);
     if (!Regular_Size(file) || !Cut(file, 0))
         return false;

@@ -20,7 +20,7 @@
 
 namespace {
 
-// Set once on the way out: the flag for whoever asks, the condition for sleepers, the descriptor for whoever polls.
+// Set once on the way out: the flag is for asking, the condition for sleeping, the descriptor for polling.
 struct Exit_Signal
 {
     std::mutex lock;
@@ -38,15 +38,15 @@ Exit_Signal& The_Exit_Signal()
 constexpr double Slice_Seconds = 0.05;
 constexpr double Longest_Wait = 365 * 24 * 3600.0; // a pace near 0 asks for more than any clock can count
 
-constexpr double Longest_At_Once = 3600; // whoever waits longer than an hour comes back for more
+constexpr double Longest_At_Once = 3600; // longer waits come back every hour for more
 
-// For timers, which know nothing shorter.
+// For timers, which have no finer unit.
 int Whole_Milliseconds(double seconds)
 {
     return static_cast<int>(std::ceil(std::min(seconds, Longest_At_Once) * 1000));
 }
 
-// To the nanosecond: a time-out that is rounded up adds its rest to every read of a job.
+// To the nanosecond: rounding a time-out up would prolong every read of a job.
 timespec Time_Out(double seconds)
 {
     constexpr double nanoseconds = 1e9;
@@ -55,7 +55,7 @@ timespec Time_Out(double seconds)
     return {whole, static_cast<long>((limited - static_cast<double>(whole)) * nanoseconds)};
 }
 
-// What the two kinds of wait end for, next to their time: the exit, and a flag if there is one.
+// What ends both kinds of wait, besides their time: the exit, and a flag if there is one.
 using Flag = const std::atomic<int>*;
 
 bool Is_Over(Flag flag)
@@ -63,8 +63,8 @@ bool Is_Over(Flag flag)
     return Program_Is_Exiting() || (flag && *flag != 0);
 }
 
-// Unless told otherwise the system ends a thread's waits some 50 us late, so as to end many at once: a job waits three
-// times for each message.
+// By default the system ends a thread's waits some 50 us late, so as to end many at once: a job waits three times per
+// message.
 void Be_On_Time()
 {
     static thread_local const int set = prctl(PR_SET_TIMERSLACK, 1UL);
@@ -79,8 +79,7 @@ void Sleep_On_Worker(double seconds, Flag flag)
     exit_signal.changed.wait_for(guard, std::chrono::duration<double>(seconds), [flag] { return Is_Over(flag); });
 }
 
-// Paints, timers and workers' calls are served meanwhile; what the user types or clicks waits, unless the flags say
-// otherwise.
+// Paints, timers and workers' calls are served meanwhile; user input waits, unless the flags say otherwise.
 void Serve_On_Interface_Thread(double seconds, const std::function<bool()>& is_over,
                                QEventLoop::ProcessEventsFlags flags = QEventLoop::ExcludeUserInputEvents)
 {
@@ -104,7 +103,7 @@ void Wait_Real_Seconds(double seconds, Flag flag = nullptr)
         Sleep_On_Worker(seconds, flag);
 }
 
-// Sleepers look at what they wait for under the lock: what is set under it too is never set between look and sleep.
+// Sleepers check what they wait for under the lock: what is also set under it is never set between check and sleep.
 void Set_And_Wake(const std::function<void()>& set)
 {
     auto& exit_signal = The_Exit_Signal();
@@ -180,7 +179,7 @@ void Wait_Seconds_Also_In_Leaving(double seconds, const std::function<bool()>& i
 Stop_Flag& Stop_Flag::operator=(int asked)
 {
     if (asked == 0)
-        m_asked = 0; // nobody sleeps until that
+        m_asked = 0; // nothing sleeps until it is 0
     else
         Set_And_Wake([this, asked] { m_asked = asked; });
     return *this;
