@@ -2,11 +2,11 @@
 
 #include "texts/Fixed_Text.h"
 
-// The fixed texts of the program: what boxes tell and ask and what labels begin with, each once, by the window that
-// shows it. They stand exactly so, odd spellings and blank lines at their front included. Nothing reads one of them back to
-// find out what the program is doing.
+// The program's fixed texts: what boxes say and ask and how labels begin, each once, grouped by the window that shows
+// it. They are meant to be exactly so, including odd spellings and leading blank lines. No code reads a text back to
+// learn what the program is doing.
 
-// What several windows say.
+// Shared by several windows.
 namespace Texts {
 
 inline constexpr Fixed_Text Not_A_Number{"Please enter a valid phone number."};
@@ -38,7 +38,7 @@ inline constexpr Fixed_Text Something_Broke{
 
 } // namespace Texts::Main
 
-// The dialogs that fill the messages of the list.
+// The dialogs that fill in the messages of the list.
 namespace Texts::Fill {
 
 inline constexpr Fixed_Text All{
@@ -57,7 +57,7 @@ inline constexpr Fixed_Text Selected_Numbers{"Total Selected Numbers : "};
 
 } // namespace Texts::Fill
 
-// A send job, from the press of Send on.
+// A send job, from the press of Send onwards.
 namespace Texts::Sending {
 
 inline constexpr Fixed_Text No_Device{
@@ -124,7 +124,7 @@ inline constexpr Fixed_Text Template_Too_Long{
 
 } // namespace Texts::Stores
 
-// The wizard of the exclusion lists.
+// The exclusion-list wizard.
 namespace Texts::Exclusion {
 
 inline constexpr Fixed_Text message_info1{
@@ -162,7 +162,7 @@ inline constexpr Fixed_Text Ask_To_Go_Back{
 
 } // namespace Texts::Exclusion
 
-// The phone wizard, and what its probe of a device finds.
+// The phone wizard, and what it finds when it probes a device.
 namespace Texts::Phone {
 
 inline constexpr Fixed_Text List_Empty{"Device list is empty."};
