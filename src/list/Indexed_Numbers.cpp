@@ -7,7 +7,7 @@ QString Indexed_Numbers::At(int index) const
     return m_texts.Text_Of(m_numbers.at(static_cast<std::size_t>(index)));
 }
 
-// Room is made before anything is changed: where memory runs out, the list stays as it was.
+// Room is made before anything changes: if memory runs out, the list stays as it was.
 void Indexed_Numbers::Append(const Packed_Number& number)
 {
     Make_Room_In_Index();
@@ -54,8 +54,8 @@ void Indexed_Numbers::Fetch(const Packed_Number& number) const
 
 // ------------------------------------------------------------------------------------------------------- the index
 
-// Linear probing; the number of slots is a power of two and at most two thirds of them are used, so a free one ends
-// every search.
+// Linear probing; the number of slots is a power of two and at most two thirds of them are used, so every search ends
+// at a free one.
 std::size_t Indexed_Numbers::Slot_Of(const Packed_Number& number, std::uint32_t hash) const
 {
     std::size_t slot = Home_Of(hash);
@@ -98,7 +98,7 @@ void Indexed_Numbers::Remove_From_Index(int row)
     }
 }
 
-// Those behind it that are not at home move up, so that no search ends too early.
+// Following entries that are not in their home slot move up, so that no search ends too early.
 void Indexed_Numbers::Free(std::size_t slot)
 {
     const std::size_t mask = m_slots.size() - 1;

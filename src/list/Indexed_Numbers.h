@@ -6,9 +6,9 @@
 #include <deque>
 #include <vector>
 
-// A list of numbers that finds its rows by the number's exact text in constant time. Made for a million: a number takes
-// twelve bytes, and twelve more with its share of free room in the index. What the lists of the program are made of;
-// each follows its list's thread.
+// A list of numbers that finds rows by the exact text of their number in constant time. Made for a million: a number
+// takes twelve bytes, and twelve more plus its share of free room in the index. All the program's lists are built on
+// it; each follows its list's thread.
 class Indexed_Numbers
 {
 public:
@@ -22,28 +22,28 @@ public:
     /// The number at an index from 0 to Count() - 1.
     QString At(int index) const;
 
-    /// Takes a number in at the end, one that is there already too; all of it, or nothing where memory runs out.
+    /// Appends a number, even one already present; all of it, or nothing when memory runs out.
     void Append(const QString& number) { Append(m_texts.Pack(number)); }
-    /// The same for a number of digits alone.
+    /// The same for a number that consists of digits alone.
     void Append(const Packed_Number& number);
-    /// Puts another number in the place of the one at an index from 0 to Count() - 1. Constant time, but when the
-    /// number is the first of several: the next one is looked for in the list then.
+    /// Replaces the number at an index from 0 to Count() - 1. Constant time, except when it is the first of several
+    /// equal ones: the list is then searched for the next.
     void Replace(int index, const QString& number);
     /// Removes the rows of a sorted list of distinct indexes in one pass.
     void Remove_Rows(const std::vector<int>& rows);
 
     Entry Look_Up(const QString& number) const;
-    /// The same for a number of digits alone.
+    /// The same for a number that consists of digits alone.
     Entry Look_Up(const Packed_Number& number) const;
-    /// Brings what a look-up of the number will read first into the processor's cache. Whoever looks up many does this
-    /// for the next ones, since each would otherwise wait for the memory in turn.
+    /// Brings what a look-up of the number will read first into the processor's cache. With many look-ups, fetch the
+    /// next ones ahead, since each would otherwise wait for the memory in turn.
     void Fetch(const Packed_Number& number) const;
 
 private:
     struct Slot
     {
         Entry entry;
-        std::uint32_t hash = 0; // tells almost every other number without a look at its row
+        std::uint32_t hash = 0; // rules out nearly every other number without a look at its row
     };
 
     const Packed_Number& Number_At(int row) const { return m_numbers[static_cast<std::size_t>(row)]; }

@@ -8,8 +8,8 @@
 
 namespace {
 
-// The number of a line as they are mostly written: digits, perhaps with a leading "+" and with "-" between them.
-// Nothing when the line has anything else to it, which is for the rules to judge.
+// The number on a line in its usual form: digits, perhaps with a leading "+" and with "-" between them. Nothing when
+// the line holds anything else, which is for the rules to judge.
 std::optional<Packed_Number> Number_In_Plain_Line(QStringView line)
 {
     Packed_Number number;

@@ -47,7 +47,7 @@ void Number_Import::Load_Num_Func(Order& order) const
         return;
     }
     try {
-        const QString text = Text_Of_Number_File(order.path, std::exchange(*bytes, {})); // and the bytes are let go
+        const QString text = Text_Of_Number_File(order.path, std::exchange(*bytes, {})); // the bytes are released here
         Take_In_Lines(order, text);
     } catch (...) {
         Hand_Over(order.recipients);

@@ -7,40 +7,40 @@
 #include <functional>
 #include <vector>
 
-// Reads a file of phone numbers, one in each line, and adds those that may join to a list of recipients: all on a
-// worker, on a list of its own, which is handed over whole. Owned by the main window; started on the interface thread,
-// where everything handed over arrives, too.
+// Reads a file of phone numbers, one per line, and adds those that may join to a list of recipients: all on a worker,
+// on a list of its own, which is handed over whole. Owned by the main window; started on the interface thread, where
+// everything handed over arrives as well.
 class Number_Import
 {
 public:
-    // What to import, and what it meets: taken once, when the import begins.
+    // What to import, and what to check it against: captured once, when the import begins.
     struct Order
     {
         QString path;
-        Recipient_List recipients; ///< those that are there already
+        Recipient_List recipients; ///< those already in the list
         Number_List exclusions;
-        QString message; ///< what every imported number gets
+        QString message; ///< given to every imported number
         bool skip_duplicates = false;
         bool heed_exclusions = false;
     };
 
-    // What the import needs of the main window; each is called on the interface thread.
+    // What the import needs from the main window; all are called on the interface thread.
     struct Target
     {
-        /// Tells how many recipients there are by now, and how much of the file that makes.
+        /// Reports how many recipients there are so far, and how much of the file has been read.
         std::function<void(int count, int percent)> show_progress;
-        /// Takes over the recipients: when the first of them are to be shown, and when no more will come. What is left
-        /// in the argument is let go on the worker.
+        /// Takes over the recipients: when the first of them can be shown, and when no more will come. What is left in
+        /// the argument is released on the worker.
         std::function<void(Recipient_List& recipients)> take_over;
-        /// The file could not be opened or read: nothing was taken in.
+        /// The file could not be opened or read: nothing was imported.
         std::function<void()> leave_unread;
-        /// All lines were taken in.
+        /// All lines were imported.
         std::function<void()> finish;
-        /// The import ended early, by an exception that is in the log; what was taken in stays.
+        /// The import ended early by an exception, which is in the log; what was imported stays.
         std::function<void()> break_off;
     };
 
-    /// The first recipients are shown when there are exactly so many.
+    /// The first recipients are shown when there are exactly this many.
     static constexpr int First_Shown = 10;
 
     explicit Number_Import(Target target);

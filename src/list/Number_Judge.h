@@ -10,11 +10,11 @@ enum class Number_Verdict
 {
     Accepted,
     Not_Valid,
-    Repeated, ///< found before an exclusion
+    Repeated, ///< checked before an exclusion
     Excluded
 };
 
-/// The lists that a number is looked for in; null where it does not matter.
+/// The lists in which a number is looked for; null where a list does not matter.
 struct Number_Terms
 {
     const Number_List* present = nullptr;
@@ -30,12 +30,12 @@ struct Judged_Number
 /// Judges a number as typed.
 Judged_Number Judge_Number(const QString& typed, const Number_Terms& terms);
 
-/// Judges a number that stood in a list as number_before and was edited. Still the one it was, it is accepted as it
-/// stands, without any check. Otherwise the list that it is in counts with the old number: so "123" can not become
-/// "1-23" where repeats are refused.
+/// Judges an edited number that stood in a list as number_before. Unchanged, it is accepted as it is, without any
+/// check. Otherwise its own list is checked with the old number still in it: "123" cannot become "1-23" where repeats
+/// are refused.
 Judged_Number Judge_Edited_Number(const QString& typed, const QString& number_before, const Number_Terms& terms);
 
-/// The same for a number that is valid and normalised: a text or a Packed_Number.
+/// The same for a number that is valid and normalised, given as a text or a Packed_Number.
 template <typename Number>
 Number_Verdict Judge_Valid_Number(const Number& number, const Number_Terms& terms)
 {

@@ -5,9 +5,8 @@
 #include <QSharedData>
 #include <QSharedDataPointer>
 
-// A list of numbers in their order, repeats included, that finds each in constant time; made for a million of them. A
-// copy costs nothing until one of the two changes, which is how a worker takes its snapshot. Follows its owner's
-// thread.
+// A list of numbers in order, repeats included, that finds each in constant time; made for a million of them. A copy
+// costs nothing until one of the two changes, which is how a worker takes its snapshot. Follows its owner's thread.
 class Number_List
 {
 public:
@@ -16,7 +15,7 @@ public:
     int Count() const { return m_body->numbers.Count(); }
     /// The number at an index from 0 to Count() - 1.
     QString At(int index) const { return m_body->numbers.At(index); }
-    /// How many entries are exactly this number. A Number is a text or a Packed_Number here and below.
+    /// How many entries are exactly this number. Here and below a Number is a text or a Packed_Number.
     template <typename Number>
     int Count_Of(const Number& number) const
     {
@@ -27,18 +26,18 @@ public:
     {
         return Count_Of(number) > 0;
     }
-    /// The first index with exactly this number, -1 when there is none.
+    /// The first index with exactly this number; -1 when there is none.
     int First_Index_Of(const QString& number) const { return m_body->numbers.Look_Up(number).first_row; }
-    /// Tells of a number that will soon be looked for; see Indexed_Numbers.
+    /// Announces a number that will soon be looked up; see Indexed_Numbers.
     void Fetch(const Packed_Number& number) const { m_body->numbers.Fetch(number); }
 
-    /// Takes a number in at the end, one that is there already too.
+    /// Appends a number, even one already present.
     template <typename Number>
     void Append(const Number& number)
     {
         m_body->numbers.Append(number);
     }
-    /// Puts another number in the place of the one at an index from 0 to Count() - 1.
+    /// Replaces the number at an index from 0 to Count() - 1.
     void Replace(int index, const QString& number) { m_body->numbers.Replace(index, number); }
     /// Removes the rows of a sorted list of distinct indexes in one pass.
     void Remove_Rows(const std::vector<int>& rows)

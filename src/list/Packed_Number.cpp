@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr std::uint32_t Is_Odd = 0xFFFF'FFFF; // no digits give this
+constexpr std::uint32_t Is_Odd = 0xFFFF'FFFF; // no digits produce this
 
 } // namespace
 

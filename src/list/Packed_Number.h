@@ -7,24 +7,24 @@
 #include <deque>
 #include <optional>
 
-// A number of a list in twelve bytes: up to twenty digits, four bits each. A value; any thread. Two of the same list
-// are equal when their texts are, to the letter.
+// A number of a list in twelve bytes: up to twenty digits of four bits each. A value; any thread. Two numbers of the
+// same list are equal exactly when their texts are.
 class Packed_Number
 {
 public:
     Packed_Number() = default; ///< the empty text
 
-    /// The number of a text of digits from 0 to 9, at most twenty of them; nothing for any other text.
+    /// The number for a text of at most twenty digits 0 to 9; nothing for any other text.
     static std::optional<Packed_Number> Of(QStringView text);
 
-    /// Adds a digit at the end. Answers no, and changes nothing, when there are twenty already.
+    /// Appends a digit. Answers no, and changes nothing, when there are twenty already.
     bool Add_Digit(char16_t digit)
     {
         if (m_words[2] >= 0x1000)
             return false;
         m_words[2] = m_words[2] << 4 | m_words[1] >> 28;
         m_words[1] = m_words[1] << 4 | m_words[0] >> 28;
-        m_words[0] = m_words[0] << 4 | static_cast<std::uint32_t>(digit - u'0' + 1); // so that no digit is nought
+        m_words[0] = m_words[0] << 4 | static_cast<std::uint32_t>(digit - u'0' + 1); // so that no digit is zero
         return true;
     }
     bool Is_Empty() const { return m_words[0] == 0 && m_words[2] == 0; }
@@ -47,19 +47,19 @@ private:
 
     QString Digits() const;
 
-    std::array<std::uint32_t, 3> m_words{}; ///< the last digit in the lowest bits of the first
+    std::array<std::uint32_t, 3> m_words{}; // the last digit is in the lowest bits of the first word
 };
 
-// Packs the numbers of one list and gives their texts back. The few that are not of digits alone are kept here, each
-// once. Owned by the list; follows that list's thread.
+// Packs the numbers of one list and returns their texts. The few that do not consist of digits alone are kept here,
+// each once. Owned by the list; follows that list's thread.
 class Number_Texts
 {
 public:
-    /// Packs any text, and takes it in when it is not of digits alone.
+    /// Packs any text, and keeps it when it does not consist of digits alone.
     Packed_Number Pack(const QString& text);
-    /// The packed number of a text that may have been packed here; nothing when it can not have been.
+    /// The packed number of a text that may have been packed here; nothing when it cannot have been.
     std::optional<Packed_Number> Packed(const QString& text) const;
-    /// The text of a number that was packed here, or that is of digits alone.
+    /// The text of a number that was packed here or consists of digits alone.
     QString Text_Of(const Packed_Number& number) const;
 
 private:

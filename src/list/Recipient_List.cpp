@@ -36,7 +36,7 @@ void Recipient_List::Append_Number(const Number& number, const QString& message)
     texts.push_back(message);
     try {
         m_numbers.Append(number);
-    } catch (...) { // memory has run out: not one without the other
+    } catch (...) { // out of memory: neither may stay without the other
         texts.pop_back();
         throw;
     }

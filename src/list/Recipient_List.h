@@ -12,13 +12,13 @@ struct Recipient
     QString Number;
     QString Message;
 
-    /// The value under a table column's identifier, "Number" or "Message"; an empty text for any other.
+    /// The value for a table column's identifier, "Number" or "Message"; an empty text for any other.
     QString Value(QStringView identifier) const;
 };
 
 // The ordered list of recipients: the order of insertion is the order of sending. Made for a million rows: a number is
-// kept packed, and a message given to many of them once. A copy costs nothing until one of the two changes, which is
-// how a worker takes its snapshot. The list itself is owned by the main window and belongs to the interface thread.
+// stored packed, and a message shared by many rows only once. A copy costs nothing until one of the two changes, which
+// is how a worker takes its snapshot. The list itself is owned by the main window and belongs to the interface thread.
 class Recipient_List
 {
 public:
@@ -29,14 +29,14 @@ public:
     const Number_List& Numbers() const { return m_numbers; }
     /// The recipient at an index from 0 to Count() - 1.
     Recipient At(int index) const;
-    /// The message alone of the recipient at an index from 0 to Count() - 1.
+    /// Only the message of the recipient at an index from 0 to Count() - 1.
     const QString& Message_At(int index) const;
     void Append(const QString& number, const QString& message);
-    /// The same for a number of digits alone.
+    /// The same for a number that consists of digits alone.
     void Append(const Packed_Number& number, const QString& message);
-    /// Puts another recipient in the place of the one at an index from 0 to Count() - 1.
+    /// Replaces the recipient at an index from 0 to Count() - 1.
     void Replace(int index, const QString& number, const QString& message);
-    /// Gives the recipients at the indexes, each from 0 to Count() - 1, one message; each keeps its number.
+    /// Gives the recipients at the indexes, each from 0 to Count() - 1, the same message; each keeps its number.
     void Set_Messages(const std::vector<int>& rows, const QString& message);
     /// Removes the rows of a sorted list of distinct indexes in one pass.
     void Remove_Rows(const std::vector<int>& rows);
@@ -52,5 +52,5 @@ private:
     void Append_Number(const Number& number, const QString& message);
 
     Number_List m_numbers;
-    QSharedDataPointer<Messages> m_messages; // as many
+    QSharedDataPointer<Messages> m_messages; // one for each number
 };
