@@ -39,7 +39,7 @@ void Set_Data_Paths(const QString& resource_path)
 bool Create_Resource_Folder()
 {
     const QString private_folder = QFileInfo(Resource_Path).path();
-    // A folder left open by hand is closed again: the files in it are readable for everybody who gets that far.
+    // A folder left accessible to others is closed again: the files in it are readable to all who get that far.
     if (!Make_Folder_If_Missing(private_folder, Only_The_User) || !Set_Permissions(private_folder, Only_The_User))
         return false;
     return Make_Folder_If_Missing(Resource_Path, Everything_Allowed) && QFileInfo(Resource_Path).isWritable();

@@ -2,8 +2,9 @@
 
 #include <QString>
 
-// Where the program keeps its data: <XDG_DATA_HOME>/corvane, private to the user, holds the resource folder, and that
-// the data folder. Everything inside carries the permissions 0777; the private folder is what keeps other accounts out.
+// Where the program keeps its data: <XDG_DATA_HOME>/corvane, private to the user, holds the resource folder, which
+// holds the data folder. Everything inside has the permissions 0777; the private folder is what keeps other accounts
+// out.
 
 // Set once at start-up by Set_Data_Paths.
 extern QString Resource_Path;            ///< the application's resource folder
@@ -17,13 +18,14 @@ extern QString Exclusion_Index_Path;     ///< the names of all exclusion lists
 /// The resource folder for this user, from XDG_DATA_HOME or its default ~/.local/share. Nothing is created.
 QString Default_Resource_Path();
 
-/// Sets Resource_Path and every path that hangs on it.
+/// Sets Resource_Path and every path derived from it.
 void Set_Data_Paths(const QString& resource_path);
 
-/// Creates the resource folder, and the private folder that holds it, when missing. Returns whether both are there and
-/// can be written to.
+/// Creates the resource folder, and the private folder that holds it, when missing. Returns whether both exist and can
+/// be written to.
 bool Create_Resource_Folder();
 
 /// Creates whatever is missing of the data folder: the folder, the three empty files, the exclusion folder and its
-/// empty index. Called at start-up and before every write to the data files. Failures are for whoever uses the file.
+/// empty index. Called at start-up and before every write to the data files. Failures are left to whatever uses the
+/// file.
 void Check_Path_And_Create_Files();

@@ -12,7 +12,7 @@ namespace {
 
 constexpr unsigned Everything_Allowed = 0777;
 
-// Nothing when a file is there that can not be read or is no UTF-8; a missing one reads as empty.
+// Nothing when the file exists but cannot be read or is not UTF-8; a missing one reads as empty.
 std::optional<QString> Usable_Text(const QString& path)
 {
     const File_Lock lock(path);
@@ -48,7 +48,7 @@ QStringList Names_In(const QString& path)
     return names;
 }
 
-// A name with blanks around it is used as it stands, and so leads past the list that everybody sees by that name.
+// A name with blanks around it is used unchanged, and so misses the list that people see under that name.
 void Add_Numbers_Of_List(const QString& name, Exclusion_Files::Applied_Numbers& applied)
 {
     const QString seen_name = Exclusion_Rules::Entry_In_Line(name).toString();

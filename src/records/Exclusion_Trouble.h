@@ -6,6 +6,6 @@ namespace Exclusion_Files {
 struct Applied_Numbers;
 }
 
-/// What the user should know of applied exclusion lists that exclude nobody, in one sentence; an empty text when all is
-/// well. Long names, and many of them, are cut short.
+/// What the user should know about applied exclusion lists that exclude nobody, in one sentence; an empty text when all
+/// is well. Long names are shortened, and many of them left out.
 QString Exclusion_Trouble(const Exclusion_Files::Applied_Numbers& applied);

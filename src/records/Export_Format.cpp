@@ -8,7 +8,7 @@ namespace {
 
 const QString Rule_Line(76, u'=');
 
-// The page's own look. Its two dots, one missing and one too many, and its tabs are part of the format.
+// The page's own style. Its two dots, one missing and one too many, and its tabs are part of the format.
 const QString Html_Style =
     QStringLiteral("<style type=text/css>Body,Td,Th{font-family:Verdana, Arial, Helvetica, sans-serif; font-size:11px}"
                    ".style1 {font-size: 16px;font-weight: bold; color: #000000;}"

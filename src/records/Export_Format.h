@@ -6,12 +6,12 @@
 #include <QByteArray>
 #include <QString>
 
-// What the exports of sent items and templates are made of. Each function gives one piece of the file, in UTF-16, least
-// significant byte first, with a byte-order mark of its own in front; the pieces are written one after the other.
+// What the exports of sent items and templates consist of. Each function returns one piece of the file, in UTF-16,
+// least significant byte first, with a byte-order mark of its own in front; the pieces are written one after the other.
 // Functions on values; any thread.
 namespace Export_Format {
 
-/// What SENT_EXPORT_MODE holds.
+/// The values of SENT_EXPORT_MODE.
 inline constexpr int Text_Mode = 0;
 inline constexpr int Html_Mode = 1;
 

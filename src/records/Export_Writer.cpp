@@ -40,7 +40,7 @@ bool Write_Export(const QString& path, const Export_Content& content)
     };
     try {
         return Write_File_In_Pieces(path, next_bytes);
-    } catch (const std::exception&) { // no memory for a piece, above all
+    } catch (const std::exception&) { // mostly for lack of memory for a piece
         return false;
     }
 }

@@ -4,9 +4,10 @@
 #include <QString>
 #include <functional>
 
-// Writes an export, whatever its pieces are: the stores' have a byte-order mark each, those of a contact list none.
+// Writes an export, whatever its pieces are: those of the stores have a byte-order mark each, those of a contact list
+// none.
 
-/// What an export consists of: its header, then how many pieces and what each of them is.
+/// What an export consists of: its header, then the number of its pieces and each of them by index.
 struct Export_Content
 {
     QByteArray header;
@@ -14,7 +15,7 @@ struct Export_Content
     std::function<QByteArray(qsizetype index)> piece;
 };
 
-/// Writes an export straight into its file. What stands at the path is deleted first, if it can be; a file that could
-/// be written only in part stays as it is. Never writes through a link into a store. Returns whether all of it is
+/// Writes an export straight into its file. Whatever is at the path is deleted first, if possible; a file that could be
+/// written only in part stays as it is. Never writes through a link into a store. Returns whether all of it was
 /// written. For a worker.
 bool Write_Export(const QString& path, const Export_Content& content);

@@ -2,8 +2,7 @@
 
 #include <QString>
 
-// One message that was handed to a device, as the sent items window shows it. The fields are what the columns are
-// called.
+// One message that was handed to a device, as the sent items window shows it. The fields are named like the columns.
 struct Sent_Item
 {
     QString Number;
@@ -11,7 +10,7 @@ struct Sent_Item
     QString Date; ///< "dd/MM/yyyy"
     QString Status;
 
-    /// The value under a column's identifier; empty for any other.
+    /// The value for a column's identifier; empty for any other.
     QString Value(const QString& identifier) const;
 
     bool operator==(const Sent_Item&) const = default;

@@ -9,14 +9,14 @@ namespace {
 constexpr QChar Before_Number_And_Date(u'\a');
 constexpr QChar Before_Message_And_Status(u'\v');
 
-// Finds one separator again and again in a rest of a line that only ever shrinks. Remembers what it found, so that a
-// line without the other separator is not searched through for each record.
+// Finds one separator repeatedly in the shrinking rest of a line. Remembers what it found, so that a line without the
+// other separator is not searched to its end for each record.
 class Separator_Finder
 {
 public:
     Separator_Finder(QStringView line, QChar separator) : m_line(line), m_separator(separator) {}
 
-    /// Where the first separator of the rest stands; nothing when there is none.
+    // The position of the first separator in the rest; nothing when there is none.
     std::optional<qsizetype> Find(qsizetype begin, qsizetype end)
     {
         if (m_next < begin) {
@@ -37,7 +37,7 @@ QStringView Without_First(QStringView text, QChar first)
     return text.startsWith(first) ? text.mid(1) : text;
 }
 
-// Takes one line apart. What a record without a number leaves behind is kept for the record after it.
+// Takes one line apart. What a record without a number leaves behind is kept for the next one.
 class Line_Reader
 {
 public:
@@ -49,7 +49,7 @@ public:
 
     bool Is_At_End() const { return m_begin >= m_end; }
 
-    /// Every call takes at least one character off the rest.
+    // Every call takes at least one character off the rest.
     std::optional<Sent_Item> Next()
     {
         Take_Up_To(m_vertical_tabs, m_number);
@@ -59,7 +59,7 @@ public:
         if (m_begin < m_end && m_line.at(m_begin) == Before_Number_And_Date)
             ++m_begin;
         Take_Up_To(m_vertical_tabs, m_date);
-        Trim_Rest(); // this takes the separator before the status as well: it counts as white space
+        Trim_Rest(); // this removes the separator before the status as well: it counts as white space
         QStringView status;
         if (!Take_Up_To(m_bells, status)) {
             status = m_line.mid(m_begin, m_end - m_begin);
@@ -74,7 +74,7 @@ public:
     }
 
 private:
-    /// Takes what stands before the separator into a field; the rest begins with the separator then.
+    // Takes what precedes the separator into a field; the rest then begins with the separator.
     bool Take_Up_To(Separator_Finder& separator, QStringView& field)
     {
         const auto found = separator.Find(m_begin, m_end);

@@ -13,10 +13,10 @@ namespace {
 
 constexpr quint32 Own_Item = 0x8000'0000;
 
-// A longer line is taken apart once and not each time that a cell of it is painted.
+// A longer line is taken apart once rather than each time a cell of it is painted.
 constexpr qsizetype Longest_Line = 64 * 1024;
 
-// The fields of a line that its separators divide as they should: each of the four once, in their order.
+// The fields of a line whose separators divide it as they should: four of them, each once and in order.
 struct Plain_Line
 {
     QByteArrayView number;
@@ -57,7 +57,7 @@ std::optional<Plain_Line> Plain(QByteArrayView line)
                       line.sliced(second_bell + 1, second_tab - second_bell - 1), status};
 }
 
-// Part of bytes that are UTF-8 as a whole, cut at characters of one byte.
+// Decodes part of bytes that are UTF-8 as a whole, cut at single-byte characters.
 QString Decoded(QByteArrayView bytes)
 {
     return Decode_Utf8(QByteArray::fromRawData(bytes.data(), bytes.size())).value_or(QString());
@@ -84,7 +84,7 @@ bool Has_Number(const Plain_Line& line)
     return !line.number.isEmpty() && (Is_Sure(line.number.front()) || !Field(line.number).trimmed().isEmpty());
 }
 
-// Whether the line's record would be written as the line.
+// Whether writing the line's record would reproduce the line.
 bool Is_As_Written(const Plain_Line& line)
 {
     return Is_Sure(line.number.front()) && Is_Sure(line.number.back()) && line.status.isEmpty();
@@ -105,7 +105,7 @@ Sent_Item_List Sent_Item_List::Read(const QByteArray& file, qsizetype early_coun
         if (is_early && list.size() >= early_count) {
             is_early = false;
             Sent_Item_List first = list;
-            first.m_rows.resize(early_count); // the line may have had more than one
+            first.m_rows.resize(early_count); // the line may have held more than one
             early(first);
         }
     }
@@ -154,7 +154,7 @@ Sent_Item_List Rows_Without(const Sent_Item_List& list, const std::vector<int>& 
 QByteArray Sent_Item_List::Lines() const
 {
     QByteArray lines;
-    qsizetype run = 0; // lines of the file that are to be copied, all in one
+    qsizetype run = 0; // lines of the file to be copied in one go
     qsizetype run_end = 0;
     const auto copy_run = [&] { lines.append(QByteArrayView(m_file).sliced(run, run_end - run)); };
     for (const quint32 place : m_rows) {

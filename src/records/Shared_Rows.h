@@ -6,10 +6,10 @@
 #include <utility>
 #include <vector>
 
-// The rows of a list window: a list whose copies cost nothing, so that a worker reads the copy that the window shows
-// and builds the list that takes its place.
+// The rows of a list window: a list whose copies cost nothing, so that a worker can read a copy of what the window
+// shows and build the list that replaces it.
 
-/// The rows that remain without some of them, which are given in ascending order. For a worker, when there are many.
+/// The rows that remain without the removed ones, which are given in ascending order. For a worker when there are many.
 template <typename Row>
 QList<Row> Rows_Without(const QList<Row>& rows, const std::vector<int>& removed)
 {
@@ -25,7 +25,7 @@ QList<Row> Rows_Without(const QList<Row>& rows, const std::vector<int>& removed)
     return left;
 }
 
-/// Puts new rows in the place of those shown. Letting go of a million rows takes its time: a worker does it.
+/// Replaces the rows shown by new ones. Releasing a million rows takes time, so a worker does it.
 template <typename List>
 void Put_In_Place(List& shown, List rows)
 {

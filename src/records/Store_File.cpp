@@ -20,8 +20,8 @@ void For_Each_Line(const QByteArray& bytes, const Visit& visit)
     }
 }
 
-// What is in a file now that was not when it was loaded. A file only grows, unless it was deleted or rewritten by
-// someone else meanwhile: then it is told line by line.
+// What is in a file now that was not there when it was loaded. A file only grows, unless it was meanwhile deleted or
+// rewritten elsewhere: then the difference is found line by line.
 QByteArray What_Was_Added(const QByteArray& loaded, const QByteArray& now)
 {
     if (now.startsWith(loaded))

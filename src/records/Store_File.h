@@ -3,45 +3,45 @@
 #include <QByteArray>
 #include <QString>
 
-// One data file of lines that a window shows and rewrites while the send job appends to it. Remembers what was loaded,
-// so that a rewrite keeps whatever came into the file after that. Each operation holds the file's lock; not for the
-// interface thread, since a file may be large. One object serves one thread at a time.
+// One line-based data file that a window shows and rewrites while the send job appends to it. Remembers what was
+// loaded, so that a rewrite keeps whatever was added to the file after that. Each operation holds the file's lock; not
+// for the interface thread, since a file may be large. One object serves one thread at a time.
 class Store_File
 {
 public:
     explicit Store_File(QString path);
 
-    /// The bytes of the whole file, which are UTF-8; none when it is missing, can not be read or is no UTF-8. What they
-    /// take is taken once: the bytes are the very ones that are remembered.
+    /// The bytes of the whole file, which are UTF-8; none when it is missing, cannot be read or is not UTF-8. They take
+    /// up memory only once: the remembered bytes are the very same.
     QByteArray Load_Bytes();
     /// The same as a text.
     QString Load();
 
-    /// Makes sure that the data files exist and appends the bytes of whole lines. Returns whether they are in the file
-    /// whole; otherwise nothing of them is.
+    /// Makes sure that the data files exist and appends the bytes of whole lines. Returns whether all of them are in
+    /// the file; otherwise none are.
     bool Append(const QByteArray& lines) const;
 
-    /// Replaces what was loaded by these lines; what was added to the file since then stays, behind them. Bytes that
-    /// are no UTF-8 are kept beside the file first, see Keep_What_Is_No_Utf8. A file that can not be read, kept or
-    /// replaced stays as it is, and the answer is false.
+    /// Replaces what was loaded by these lines; what was added to the file since then stays, after them. Bytes that are
+    /// not UTF-8 are first kept beside the file, see Keep_What_Is_No_Utf8. A file that cannot be read, kept or replaced
+    /// stays as it is, and the answer is false.
     bool Rewrite(const QByteArray& lines);
 
-    /// Moves what could not be read at the last load, and still can not be, out of the way: a file without permission,
-    /// a folder, a pipe. It is kept beside under a name of its own. Returns whether the path is free now.
+    /// Moves what could not be read at the last load, and still cannot be, out of the way: a file without permission, a
+    /// folder, a pipe. It is kept beside the file under a name of its own. Returns whether the path is free now.
     bool Put_Aside() const;
 
-    /// Whether something that could not be read, or was no UTF-8, stood at the path at the last load.
+    /// Whether something at the path could not be read, or was not UTF-8, at the last load.
     bool Was_Unreadable() const { return m_is_out_of_reach || !m_is_utf_8; }
 
-    /// Rewrite without any lines, but only when there is a file.
+    /// Rewrites without any lines, but only when there is a file.
     bool Clear();
 
-    /// Lets go of what Load remembers. A rewrite without a load before it keeps everything there is.
+    /// Releases what Load remembers. A rewrite without a preceding load keeps everything in the file.
     void Forget();
 
 private:
     QString m_path;
     QByteArray m_loaded;
-    bool m_is_out_of_reach = false; // whether something stood there that could not be read
+    bool m_is_out_of_reach = false; // whether something was there that could not be read
     bool m_is_utf_8 = true;
 };

@@ -10,7 +10,7 @@
 #include <utility>
 
 namespace {
-constexpr std::size_t Size_In_Stamp = 2; // before it stands what file it is
+constexpr std::size_t Size_In_Stamp = 2; // the entries before it identify the file
 }
 
 Template_Lines::Template_Lines(QString path) : m_path(std::move(path)) {}
@@ -23,7 +23,7 @@ bool Template_Lines::Contains(const QString& text)
 
 void Template_Lines::Was_Appended(const QString& text, qsizetype line_size)
 {
-    // When anybody else has been at the file as well, it is read again from its start the next time.
+    // If anything else has changed the file as well, it is read again from the start next time.
     const Stamp now = Stamp_Of_File();
     const bool is_same_file = std::equal(now.begin(), now.begin() + Size_In_Stamp, m_stamp.begin());
     if (!m_takes_lines || !is_same_file || now[Size_In_Stamp] != m_stamp[Size_In_Stamp] + line_size)
@@ -48,7 +48,7 @@ Template_Lines::Stamp Template_Lines::Stamp_Of_File() const
 
 void Template_Lines::Read_If_Changed()
 {
-    const Stamp now = Stamp_Of_File(); // before it is read: a change meanwhile shows as one the next time
+    const Stamp now = Stamp_Of_File(); // before it is read: a change meanwhile then shows the next time
     if (m_was_read && now == m_stamp)
         return;
     m_lines.clear();

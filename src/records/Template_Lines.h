@@ -5,8 +5,8 @@
 #include <QString>
 #include <array>
 
-// The lines of a file of templates, read again only when the file has changed. Used under the file's lock, by one
-// thread at a time.
+// The lines of a template file, read again only when the file has changed. Used under the file's lock, by one thread at
+// a time.
 class Template_Lines
 {
 public:
@@ -17,11 +17,11 @@ public:
     /// Whether a line of the file is exactly this text, as it would come back from the file.
     bool Contains(const QString& text);
 
-    /// Takes in that the text was appended, as a line of so many bytes, right after Contains.
+    /// Records that the text was appended, as a line of line_size bytes, right after Contains.
     void Was_Appended(const QString& text, qsizetype line_size);
 
 private:
-    /// What changes whenever the file does: device, inode, size, and the times of its last changes.
+    // What changes whenever the file does: device, inode, size, and the times of its last changes.
     using Stamp = std::array<long long, 7>;
 
     Stamp Stamp_Of_File() const;
@@ -31,5 +31,5 @@ private:
     QSet<QString> m_lines;
     Stamp m_stamp{};
     bool m_was_read = false;
-    bool m_takes_lines = false; ///< whether what is appended to the file is one more line of it
+    bool m_takes_lines = false; // whether what is appended to the file is a further line of it
 };

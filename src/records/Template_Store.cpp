@@ -9,7 +9,7 @@
 
 namespace {
 
-// What was last read of the file, with the two locks that its user holds: the file's first.
+// What was last read of the file, with the two locks its user holds: the file's first.
 class Known_Lines
 {
 public:
