@@ -9,7 +9,7 @@ inline constexpr int Most_Characters = 1600;
 inline constexpr int Single_SMS_Characters = 160;
 inline constexpr int Single_Unicode_SMS_Characters = 70;
 
-/// How many characters one SMS holds; the size of a part of a longer message, too.
+/// How many characters one SMS holds, which is also the size of a part of a longer message.
 int Single_SMS_Limit(bool unicode);
 
 /// How many SMS a message of this length takes; 0 for an empty one.
@@ -24,12 +24,12 @@ QString Characters_Text(int length);
 struct Counter
 {
     QString text;                   ///< the new counter text
-    bool open_dialog_first = false; ///< the long-message dialog is to be run before the text is shown
+    bool open_dialog_first = false; ///< the long-message dialog must run before the text is shown
 };
 
 /// The counter of a message of this length. The dialog is for a message that grows past one SMS: msg_char_value is the
-/// counter text until now, which speaks of SMS when the message was long already. With open_dlg off it is never asked
-/// for.
+/// counter text so far, which mentions SMS if the message was already long. With open_dlg off the dialog is never
+/// requested.
 Counter Long_SMS_Calculation(int length, const QString& msg_char_value, bool unicode, bool open_dlg);
 
 /// The long-message dialog's text.

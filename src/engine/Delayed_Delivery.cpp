@@ -14,7 +14,7 @@ constexpr int Amount_Length = 2;
 constexpr int Seconds_In_Minute = 60;
 constexpr int Seconds_In_Hour = 3600;
 
-// The number a text begins with, after blanks and a sign; 0 when it begins with none.
+// The number that begins a text, after blanks and a sign; 0 when there is none.
 int Integer_Value(const QString& text)
 {
     qsizetype at = 0;

@@ -20,7 +20,7 @@ void Pause_Countdown::Pause(qint64 seconds)
     m_progress.Begin_Pause();
     Pause_Timer_Running = true;
     Calculate_Pause_Time(GSM_Pause_Delay_Time);
-    // Each step waits for its own moment on the clock, so that what a step takes does not add up over an hour.
+    // Each step waits for its own moment on the clock, so that the time steps take does not add up over an hour.
     for (qint64 gone = 1; gone <= seconds && !Is_Asked_To_Stop(); ++gone) {
         Wait_Until(begin + Paced(static_cast<double>(gone)));
         GSM_Pause_Delay_Time = (seconds - gone) * Milliseconds;

@@ -7,14 +7,14 @@
 class Send_Progress;
 
 // One pause between two batches: it counts down in the progress window, second by second, and ends early when the job
-// is to stop. Belongs to the send job and runs on its thread; nothing else runs meanwhile.
+// is told to stop. Belongs to the send job and runs on its thread; nothing else runs meanwhile.
 class Pause_Countdown
 {
 public:
     Pause_Countdown(Send_Progress& progress, const Stop_Flag& stop);
 
-    /// Pauses for exactly this many seconds of the described time, or until asked to stop, which ends it at once. The
-    /// label counts them down to 1 and is empty afterwards. Wakes once a second, for the label.
+    /// Pauses for exactly this many seconds, at pace 1, or until asked to stop, which ends it at once. The label counts
+    /// down to 1 and is empty afterwards. Wakes once a second, for the label.
     void Pause(qint64 seconds);
 
 private:
@@ -25,5 +25,5 @@ private:
 
     Send_Progress& m_progress;
     const Stop_Flag& m_stop;
-    qint64 GSM_Pause_Delay_Time = 0; // milliseconds still to wait; 0 when no pause runs
+    qint64 GSM_Pause_Delay_Time = 0; // milliseconds left to wait; 0 when no pause is running
 };

@@ -2,11 +2,11 @@
 
 #include <QString>
 
-// What the main window's controls say at the moment a send job begins, copied once so that the job never reads a
+// The state of the main window's controls at the moment a send job begins, copied once so that the job never reads a
 // widget.
 struct Send_Choices
 {
-    QString number_text;   ///< what still stands in the number field, as typed
+    QString number_text;   ///< what is still in the number field, as typed
     QString composer_text; ///< raw, at most 1600 characters
     QString batch_size;    ///< the two delayed-delivery boxes, as shown
     QString pause_choice;

@@ -68,7 +68,7 @@ bool Send_Job::The_Device_Opens()
     return m_handle != -1;
 }
 
-// What the applied lists hold now counts, and not what they held when the exclusion option was switched on.
+// What counts is what the applied lists hold now, not what they held when the exclusion option was switched on.
 void Send_Job::Reload_Exclusions()
 {
     if (!m_order.choices.exclusion)
@@ -82,7 +82,7 @@ void Send_Job::Reload_Exclusions()
 bool Send_Job::Connect()
 {
     Close_Handle();
-    // A port that is closed, or that stands for another device, is of no use, and initPort would keep the closed one.
+    // A port that is closed or belongs to another device cannot be used, and initPort would keep the closed one.
     const auto port = m_session.port();
     if (port && (!port->isOpen() || port->bsdPath() != m_order.device_path))
         Close_Port();
@@ -97,7 +97,7 @@ void Send_Job::Prepare_Device()
     if (m_order.choices.delayed_delivery)
         m_delivery = Delayed_Delivery::Read_Setting(m_order.choices.batch_size, m_order.choices.pause_choice);
     m_mode = m_session.PDU_or_Text_SMS(m_handle);
-    // What the device answers to this is not judged, nor what it answers to a submission: only a failed write ends a
+    // The device's answer to this is not judged, and neither is its answer to a submission: only a failed write ends a
     // job.
     if (m_mode == Pdu_Mode)
         m_session.Prepare_Modem_For_PDU_SMS(m_handle);
@@ -109,7 +109,7 @@ void Send_Job::Begin_Sending()
 {
     Pause_Timer_Running = false;
     m_stop = 0;
-    if (Program_Is_Exiting()) // no stop that came with the exit is lost
+    if (Program_Is_Exiting()) // so that a stop that came with the exit is not lost
         m_stop = 1;
     m_date = Today().toString(QStringLiteral("dd/MM/yyyy"));
     m_progress.Begin_Sending();
@@ -131,7 +131,7 @@ void Send_Job::Send_Items()
     }
 }
 
-// Answers whether the next item is to follow.
+// Returns whether another item may follow.
 bool Send_Job::Send_Item(int index)
 {
     const Recipient recipient = m_order.recipients.At(index);
@@ -171,7 +171,7 @@ void Send_Job::Pause_If_Due(int index)
     m_batch_count = 0;
     if (index + 1 == m_order.recipients.Count() || m_delivery.pause_in_seconds <= 0)
         return;
-    // What the phone says by itself during a pause would otherwise be the beginning of its next answer.
+    // What the phone sends on its own during a pause would otherwise be the beginning of its next answer.
     if (const auto port = m_session.port())
         port->Await_No_Answer();
     Pause_Countdown(m_progress, m_stop).Pause(m_delivery.pause_in_seconds);
@@ -193,8 +193,8 @@ Send_Job::Outcome Send_Job::Submit(const QString& number, const QString& message
     return m_mode == Pdu_Mode ? Submit_In_PDU_Mode(number, message) : Submit_In_Text_Mode(number, message);
 }
 
-// The two modes differ in what an exception means: in PDU mode the line cannot be relied on any longer, in text mode
-// the item counts as handled.
+// The two modes differ in what an exception means: in PDU mode the line is no longer reliable, in text mode the item
+// counts as handled.
 Send_Job::Outcome Send_Job::Submit_In_PDU_Mode(const QString& number, const QString& message)
 {
     try {

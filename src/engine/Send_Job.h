@@ -8,24 +8,24 @@ class Send_Listener;
 class Send_Progress;
 class Stop_Flag;
 
-// One walk through the recipient list, one SMS submitted for each item. Made for one run on a worker thread, which is
-// the only user of the device meanwhile. It works from a finished order and knows no window. Whichever way it ends, the
-// port is closed, and what shows its progress has ended and stands still.
+// One walk through the recipient list that submits one SMS per item. Made for one run on a worker thread, which is the
+// only user of the device meanwhile. Works from a finished order and knows no window. However it ends, the port is
+// closed and the progress display has ended and stands still.
 class Send_Job
 {
 public:
-    /// Before the first item the stop flag is cleared; set afterwards, it ends the job before the next item.
+    /// Before the first item the stop flag is cleared; set after that, it ends the job before the next item.
     Send_Job(Send_Order order, MFCSMS& session, Send_Progress& progress, Send_Listener& listener, Stop_Flag& stop);
 
-    /// The whole job. What the device raises outside a submission reaches the caller after the clean-up.
+    /// The whole job. What the device throws outside a submission reaches the caller after the clean-up.
     void Send_SMS_Func();
 
 private:
     enum class Outcome
     {
         Handled,
-        Failed,    ///< a write failed: the job ends with an error
-        Broken_Off ///< the device raised an exception: the job ends, but not with an error
+        Failed,    // a write failed: the job ends with an error
+        Broken_Off // the device threw an exception: the job ends, but not with an error
     };
 
     void Run();
@@ -59,6 +59,6 @@ private:
     int m_mode = 0;    // 0 = none, 1 = PDU, 2 = text
     bool m_has_error = false;
     QString m_date;                       // of all records of this job, "dd/MM/yyyy"
-    Delayed_Delivery::Setting m_delivery; // no batches unless they are asked for
+    Delayed_Delivery::Setting m_delivery; // no batches unless they are requested
     int m_batch_count = 0;                // items handled since the last pause
 };

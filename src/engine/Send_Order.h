@@ -6,15 +6,14 @@
 
 #include <QString>
 
-// Everything a send job works from, put together before it starts. A value; what the
-// user does later changes nothing in it.
+// Everything a send job works from, assembled before it starts. A value; nothing the user does later changes it.
 struct Send_Order
 {
     QString device_path;
     QString service_centre; ///< empty for the device's own
     Send_Choices choices;
     Recipient_List recipients;
-    Number_List exclusions; ///< as they were read last; the job reads them anew when they are to be heeded
+    Number_List exclusions; ///< as last read; the job reads them afresh when they are to be heeded
 };
 
 enum class Skip_Reason
@@ -24,5 +23,5 @@ enum class Skip_Reason
     Repeated  ///< duplicates are skipped and an earlier item has the same number
 };
 
-/// Why the item at an index is not sent. Constant time.
+/// Why the item at an index is skipped. Constant time.
 Skip_Reason Reason_To_Skip(const Send_Order& order, int index);
