@@ -9,7 +9,7 @@ QString tr(const char* text)
     return QCoreApplication::translate("Connection_Advice", text);
 }
 
-// A path is one word, which no window can break: a long one shows its beginning and its end.
+// A path is one word, which no window can break: of a long one only the beginning and the end are shown.
 QString Short_Path(const QString& path)
 {
     constexpr int Longest = 48;
@@ -46,7 +46,7 @@ Advice Connection_Advice::On_No_Port()
         {}};
 }
 
-// One advice a group, in the order in which the groups come up, so that one command serves all its ports.
+// One advice per group, in order of appearance, so that one command serves all its ports.
 QList<Advice> Connection_Advice::On_Barred_Ports(const QList<Connection_Facts::Barred_Port>& ports)
 {
     QStringList groups;

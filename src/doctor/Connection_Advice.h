@@ -4,28 +4,28 @@
 #include <QString>
 #include <QStringList>
 
-// What was found out about this computer's serial ports before a device is searched for.
+// What is known about this computer's serial ports before a device is searched for.
 struct Connection_Facts
 {
     struct Barred_Port
     {
         QString path;
-        QString group; ///< members of it may open the port; empty when its group may not either
+        QString group; ///< its members may open the port; empty when even its group may not
     };
 
-    int ports_found = 0;             ///< that came with a device or were named, also those this account may not open
-    QList<Barred_Port> barred_ports; ///< which this account may not open; no mainboard's that are for root alone
+    int ports_found = 0; ///< those that came with a device or were named, even if this account may not open them
+    QList<Barred_Port> barred_ports; ///< those this account may not open, except a mainboard's that are for root alone
     bool modem_manager_runs = false;
 };
 
-// One piece of help: what to know, and the command for it where there is one.
+// One piece of help: what to know, and a command for it if there is one.
 struct Advice
 {
     QString text;
     QString command;
 };
 
-// Turns facts into the help that applies, most pressing first. Nothing is advised that does not. Pure.
+// Turns facts into the help that applies, most pressing first, and into no other. Pure.
 class Connection_Advice
 {
 public:

@@ -25,15 +25,15 @@ QString Group_Name(gid_t group)
     return QString::number(group);
 }
 
-// To join root's group would give away the whole computer: that is not advised.
+// Joining root's group would give away the whole computer, so it is not advised.
 bool Membership_Helps(const struct stat& port)
 {
     constexpr mode_t Read_And_Write = S_IRGRP | S_IWGRP;
     return port.st_gid != 0 && (port.st_mode & Read_And_Write) == Read_And_Write;
 }
 
-// A serial socket of the computer itself, which stands there with or without a modem in it. One that the user named is
-// meant, and is no such port here.
+// A serial socket of the computer itself, which exists with or without a modem in it. One that the user named is
+// intended, and does not count as such here.
 bool Is_Mainboard_Port(const QString& path)
 {
     return QFileInfo(path).fileName().startsWith(QLatin1String("ttyS")) && !Extra_Device_Paths().contains(path);
@@ -54,7 +54,7 @@ Connection_Facts Connection_Facts_Finder::Find(const Port_Finder& finder)
         if (!may_be_empty)
             ++facts.ports_found;
         const auto barred = Barred_Port_At(path);
-        if (barred && !(may_be_empty && barred->group.isEmpty())) // whoever has a modem there knows whom to ask
+        if (barred && !(may_be_empty && barred->group.isEmpty())) // the owner of a modem there knows whom to ask
             facts.barred_ports.append(*barred);
     }
     facts.modem_manager_runs = Process_Runs(QStringLiteral("ModemManager"));

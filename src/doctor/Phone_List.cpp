@@ -24,7 +24,7 @@ QString Phone_List::Value(const QString& identifier, int row) const
 
 QString Phone_List::Display_Name(const QString& path)
 {
-    // Eight characters are what the device directory and the prefix of a call-out device take up: "/dev/cu.".
+    // Eight characters are the length of the device directory and the prefix of a call-out device: "/dev/cu.".
     constexpr int Prefix_Length = 8;
     QString name;
     if (path.startsWith(QStringLiteral("/dev/")))

@@ -5,12 +5,12 @@
 #include <limits>
 #include <vector>
 
-// The rows of the wizard's device table, one text dictionary a device, in the order in which a search found them. Owned
-// by the wizard's window and used on the interface thread.
+// The rows of the wizard's device table, one text dictionary per device, in the order in which a search found them.
+// Owned by the wizard's window and used on the interface thread.
 class Phone_List
 {
 public:
-    /// The index that stands for no row.
+    /// The index that means no row.
     static constexpr unsigned No_Row = std::numeric_limits<unsigned>::max();
 
     void Clear() { m_rows.clear(); }
@@ -22,14 +22,14 @@ public:
     int Count() const { return static_cast<int>(m_rows.size()); }
     bool Is_Row(unsigned index) const { return index < m_rows.size(); }
 
-    /// What a row holds under a key: "COM_PORT" the display name, "PORT_DETAL" the device path, "PORT_STATUS" or
-    /// "IMEI". Empty for a row or a key that is not there.
+    /// A row's value for a key: "COM_PORT" the display name, "PORT_DETAL" the device path, "PORT_STATUS" or "IMEI".
+    /// Empty for an unknown row or key.
     QString Value(const QString& identifier, int row) const;
     QString Name(unsigned index) const { return Value(QStringLiteral("COM_PORT"), static_cast<int>(index)); }
     QString Path(unsigned index) const { return Value(QStringLiteral("PORT_DETAL"), static_cast<int>(index)); }
 
-    /// What a device is called: its path from the ninth character on, trimmed; the file name where nothing stands there
-    /// or the path is not under /dev/.
+    /// A device's display name: its path from the ninth character on, trimmed, or the file name if that is empty or the
+    /// path is not under /dev/.
     static QString Display_Name(const QString& path);
 
 private:

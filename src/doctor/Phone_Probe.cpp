@@ -76,11 +76,11 @@ QString Phone_Probe::Find_Fault_When_Open(int handle, const QString& path, const
     return {};
 }
 
-// The open was a test: its handle is closed at once and from then on only a number that the exchanges carry along.
+// The open was a test: its handle is closed at once, and from then on is only a number that the exchanges carry along.
 bool Phone_Probe::Connect(int handle, const QString& path)
 {
     m_session.CloseSerialPort(handle);
-    // A port that was left open by an earlier check may be another device's.
+    // A port left open by an earlier check may belong to another device.
     if (const auto port = m_session.port(); port && (!port->isOpen() || port->bsdPath() != path))
         Let_Go_Of_Port(m_session);
     if (!m_session.port())

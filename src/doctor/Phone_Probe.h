@@ -7,16 +7,16 @@
 class MFCSMS;
 
 // What a probe shows while it runs. Implemented by the wizard's window; called on the probing thread, and each call
-// returns when what it asks for has been done.
+// returns when it is done.
 class Probe_Display : public Phone_Values_Display
 {
 public:
-    virtual void Show_Create_Modeless() = 0;  ///< the please-wait sheet comes up
-    virtual void Hide_Destroy_Modeless() = 0; ///< and goes
+    virtual void Show_Create_Modeless() = 0;  ///< the please-wait sheet appears
+    virtual void Hide_Destroy_Modeless() = 0; ///< and disappears
     virtual void Tell_About_Device(const QString& text) = 0;
 };
 
-// Shows the please-wait sheet for as long as it lives, so that it goes on every way out.
+// Shows the please-wait sheet for as long as it lives, so that every way out hides it.
 class Shown_Sheet
 {
 public:
@@ -29,7 +29,7 @@ private:
     Probe_Display& m_display;
 };
 
-// The service centre that the wizard's fields stand for.
+// The service centre described by the wizard's fields.
 struct Chosen_Centre
 {
     bool is_custom = false;
@@ -44,15 +44,15 @@ class Phone_Probe
 public:
     Phone_Probe(MFCSMS& session, Probe_Display& display) : m_session(session), m_display(display) {}
 
-    /// Puts the nine details into the display and returns nothing, or returns why the device is of no use: that is for
-    /// the caller to tell, once its sheet has gone. The port is closed afterwards.
+    /// Puts the nine details into the display and returns nothing, or returns why the device is unusable: the caller
+    /// reports it once its sheet has gone. The port is closed afterwards.
     QString Read_Details(const QString& path);
 
-    /// Whether the device answers, has a service centre to send through and supports sending; tells what is wrong when
-    /// not. The port is left open where only the centre or the support is missing.
+    /// Whether the device answers, has a service centre to send through and supports sending; reports what is wrong if
+    /// not. The port is left open if only the centre or the support is missing.
     bool Check_For_Sending(const QString& path, const Chosen_Centre& centre);
 
-    /// Closes the session's port, if there is one, and drops it.
+    /// Closes the session's port, if any, and drops it.
     static void Let_Go_Of_Port(MFCSMS& session);
 
 private:
