@@ -4,7 +4,7 @@
 
 namespace {
 
-// Without the interface to a value that every progress bar has.
+// Without the value interface that every progress bar has.
 class Busy_Interface : public QAccessibleWidget
 {
 public:

@@ -2,8 +2,8 @@
 
 #include <QProgressBar>
 
-// A bar that shows that something goes on, and not how far it has come. A screen reader is told that the program is
-// busy, and no percentages, which would mean nothing. Part of its window; interface thread.
+// A bar that shows that work is going on, not how far it has come. To a screen reader it says that the program is busy,
+// without percentages, which would mean nothing. Part of its window; interface thread.
 class Activity_Bar : public QProgressBar
 {
     Q_OBJECT

@@ -18,9 +18,9 @@ xcb_atom_t Atom(xcb_connection_t* connection, const char* name)
     return reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
 }
 
-// Takes the toolkit's own requests out of what comes from the X server while one of the program's windows has the
-// keyboard: whichever gets it next hears so from the server itself. While none has, a request is left to the toolkit,
-// which may have missed that the server's focus is there already.
+// Filters the toolkit's own requests out of what comes from the X server while one of the program's windows has the
+// keyboard: the window that gets it next learns so from the server itself. While none has it, a request is left to the
+// toolkit, which may have missed that the server's focus is already there.
 class Asked_For_Focus_Filter : public QAbstractNativeEventFilter
 {
 public:
@@ -50,7 +50,7 @@ void Pass_Over_Asked_For_Focus()
 {
     static std::unique_ptr<Asked_For_Focus_Filter> filter;
     const auto* x_server = qApp->nativeInterface<QNativeInterface::QX11Application>();
-    xcb_connection_t* connection = x_server ? x_server->connection() : nullptr; // which is none on other platforms
+    xcb_connection_t* connection = x_server ? x_server->connection() : nullptr; // null on other platforms
     if (!connection)
         return;
     if (!filter)

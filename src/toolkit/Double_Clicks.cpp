@@ -37,7 +37,7 @@ bool Double_Clicks::eventFilter(QObject* viewport, QEvent* event)
         m_keeps_several = Bring_Back_Selection();
         break;
     case QEvent::MouseButtonRelease:
-        // The release of a double click would narrow the selection once more.
+        // The release of a double click would again reduce the selection.
         if (is_left() && std::exchange(m_keeps_several, false))
             return true;
         break;

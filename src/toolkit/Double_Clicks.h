@@ -5,9 +5,9 @@
 
 class QTableView;
 
-// Makes a table's double click one with the left button, and one of the rows that were selected when its first click
-// came. That click by itself leaves a single row selected: where there were several, the second one brings them back
-// before anybody hears of the double click. Belongs to its table; interface thread.
+// Limits a table's double click to the left button, and applies it to the rows that were selected at its first click.
+// That click alone leaves a single row selected: if there were several, the second click restores them before anything
+// receives the double click. Belongs to its table; interface thread.
 class Double_Clicks : public QObject
 {
     Q_OBJECT
@@ -22,6 +22,6 @@ private:
     bool Bring_Back_Selection();
 
     QTableView& m_table;
-    QItemSelection m_several; // what the last press came upon; empty when that was no more than one row
+    QItemSelection m_several; // the selection at the last press; empty if that was at most one row
     bool m_keeps_several = false;
 };

@@ -20,7 +20,7 @@ public:
         Fit_Window(*this, Letters{.columns = 115, .lines = 34});
         if (auto* files = findChild<QTreeView*>(QStringLiteral("treeView"))) { // names and dates in full
             files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-            files->header()->setResizeContentsPrecision(0); // of what is in sight: a folder may be large
+            files->header()->setResizeContentsPrecision(0); // of the visible ones: a folder may be large
         }
     }
 
@@ -32,7 +32,7 @@ public:
     }
 };
 
-// Asks about the file that the name becomes once it has its extension.
+// Asks about the file that the name denotes once it has its extension.
 class Save_Panel : public File_Panel
 {
 public:

@@ -5,14 +5,14 @@
 
 class QWidget;
 
-// The one door for asking the user for a file. Interface thread only; both run until the panel is closed.
+// The one door for asking the user for a file. Interface thread only; both functions run until the panel is closed.
 
 /// The path of an existing file that the user picked; nothing when the panel was cancelled.
 std::optional<QString> Ask_For_File_To_Open(QWidget* over);
 
-/// The path to write to; nothing when the panel was cancelled. Whatever is typed without the extension, given without
-/// its dot, comes back with it, so that the panel's own question covers the very file that will be replaced.
+/// The path to write to; nothing when the panel was cancelled. A name typed without the extension (given without its
+/// dot) gets it, so that the panel's own question is about the very file that will be replaced.
 std::optional<QString> Ask_For_File_To_Save(QWidget* over, const QString& extension);
 
-/// The path, with a dot and the extension appended when its own extension, in any case of letters, is another one.
+/// The path, with a dot and the extension appended if its own extension differs, ignoring upper and lower case.
 QString With_Extension(const QString& path, const QString& extension);

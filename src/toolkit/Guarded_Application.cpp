@@ -8,7 +8,7 @@
 namespace {
 
 std::function<void()> Tell;
-bool Is_Telling = false; // whose box has events of its own, in which more may break
+bool Is_Telling = false; // the box has events of its own, in which more may fail
 
 } // namespace
 

@@ -33,7 +33,7 @@ bool Comes_From_The_User(QEvent::Type type)
     }
 }
 
-// The widget that an event is for; a shortcut's event goes to an object of its own that hangs on one.
+// The widget that an event is for; a shortcut's event goes to an object of its own below one.
 const QWidget* Widget_Of(const QObject* object)
 {
     while (object && !object->isWidgetType())

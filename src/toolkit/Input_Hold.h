@@ -4,17 +4,17 @@
 #include <QPointer>
 #include <QWidget>
 
-/// Whether a widget is a field that is typed into.
+/// Whether a widget is a field to type in.
 bool Takes_Text(const QWidget* widget);
 
 enum class Typing
 {
     Held_Back, ///< like everything else
-    Served     ///< keys and clicks that go to a field with text work as ever; nothing else can be pressed
+    Served     ///< keys and clicks for a text field work as usual; nothing else can be pressed
 };
 
 // Keeps mouse and keyboard away from one window, without greying it, for as long as the object lives: clicks and keys
-// that come meanwhile are dropped. Dialogs over the window work as ever. Interface thread only.
+// that arrive meanwhile are dropped. Dialogs over the window work as usual. Interface thread only.
 class Input_Hold : public QObject
 {
 public:
@@ -23,7 +23,7 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-    /// When something was typed last that went to its field, as Now_Seconds tells it; 0 when nothing was.
+    /// When something was last typed into a field that received it, in Now_Seconds; 0 when nothing was.
     double Last_Typed() const { return m_last_typed; }
 
 private:

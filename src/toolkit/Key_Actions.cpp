@@ -14,7 +14,7 @@ bool Is_Alone(const QKeyEvent& key)
     return (key.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
 }
 
-// Belongs to the control whose keys it watches; while one of them is held down it watches the whole program.
+// Belongs to the control whose keys it watches; while one of them is held down, it watches the whole program.
 class Key_Action : public QObject
 {
 public:
@@ -61,8 +61,8 @@ private:
     int m_held_key = No_Key;
 };
 
-// The table itself moves from the row that it stands on to another one, and selects that. The first row, where it
-// stands when the focus comes to it, would be passed over, and an only row never be selected.
+// The table itself moves from its current row to another and selects that. The first row, which is current when the
+// table gets the focus, would be skipped, and an only row could never be selected.
 class First_Selection : public QObject
 {
 public:

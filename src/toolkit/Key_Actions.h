@@ -6,13 +6,13 @@
 class QTableView;
 class QWidget;
 
-// What single keys do in a control, the same way in every window. A key that is held down acts once: what it goes on to
-// say is dropped until it is let go, in whichever window that its action has opened. Interface thread only.
+// What single keys do in a control, the same in every window. A key held down acts once: its repeats are dropped until
+// it is released, whichever window its action has opened. Interface thread only.
 
-/// Acts each time one of the keys (Qt::Key) is pressed in a control, alone.
+/// Acts each time one of the keys (Qt::Key) is pressed in a control, without modifiers.
 void Act_On_Keys(QWidget& control, const QList<int>& keys, std::function<void()> action);
 
-/// Return, and the one beside the digits.
+/// Return, and Enter on the number pad.
 inline const QList<int> Return_Keys = {Qt::Key_Return, Qt::Key_Enter};
 
 struct Table_Actions
@@ -21,6 +21,6 @@ struct Table_Actions
     std::function<void()> remove; ///< what Delete does
 };
 
-/// Lets a table be worked with by keys: an action that is not given leaves its keys as they are. While nothing is
-/// selected, the keys that move select the row that they stand on, which may be the only one.
+/// Makes a table usable with keys: an action that is not given leaves its keys as they are. While nothing is selected,
+/// the navigation keys select the current row, which may be the only one.
 void Give_Table_Keys(QTableView& table, const Table_Actions& actions);

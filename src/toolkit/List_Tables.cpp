@@ -51,7 +51,7 @@ void Prepare_List_Table(QTableView& table, Row_Table_Model& rows)
 
 void Select_Alone(QTableView& table, int row)
 {
-    // With many selected at a time the table would ask the keyboard whether to add the row to those.
+    // In multi-selection mode the table would ask the keyboard whether to add the row to the selection.
     const auto mode = table.selectionMode();
     table.setSelectionMode(QAbstractItemView::SingleSelection);
     table.selectRow(row);

@@ -6,17 +6,17 @@
 class QTableView;
 class Row_Table_Model;
 
-// How every table of the program is set up, and what is asked of its selection. Interface thread only.
+// How every table of the program is set up, and queries on its selection. Interface thread only.
 
-/// A row that the list does not have was asked for; the text is "Invalid parameter not satisfying: " and the condition.
+/// A row that the list does not have was requested; the text is "Invalid parameter not satisfying: " and the condition.
 class Invalid_Parameter : public std::logic_error
 {
 public:
     explicit Invalid_Parameter(const char* condition);
 };
 
-/// Striped, with headings, rows selected whole and many at a time, nothing edited in place, made for a million rows of
-/// texts of any length. See Whole_Text_Delegate for what is painted, and Double_Clicks for what a double click is.
+/// Striped, with headings, selects several whole rows, edits nothing in place, made for a million rows of texts of any
+/// length. See Whole_Text_Delegate for what is painted, and Double_Clicks for what a double click is.
 void Prepare_List_Table(QTableView& table, Row_Table_Model& rows);
 
 /// The selected rows in ascending order.
@@ -25,6 +25,6 @@ std::vector<int> Rows_Selected_In(const QTableView& table);
 /// Selects a row and no other, whatever keys are held down.
 void Select_Alone(QTableView& table, int row);
 
-/// Takes rows that were removed from the list out of the table and leaves row 0 alone selected, if there is one. What
-/// listens to the selection hears of it once, when all is done.
+/// Removes rows from the table that were removed from the list, and leaves only row 0 selected, if there is one.
+/// Listeners to the selection are notified once, when all is done.
 void Reload_And_Select_First(QTableView& table, Row_Table_Model& rows);

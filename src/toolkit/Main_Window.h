@@ -35,47 +35,47 @@ public:
 
     virtual const Recipient_List& Recipients() const = 0;
     virtual const Number_List& Exclusions() const = 0;
-    /// Puts a changed copy in the list's place and redraws the recipient table. Whoever changes many recipients changes
-    /// a copy on a worker, since the list itself belongs to the interface thread.
+    /// Replaces the list by a changed copy and redraws the recipient table. Code that changes many recipients changes a
+    /// copy on a worker, since the list itself belongs to the interface thread.
     virtual void Replace_Recipients(Recipient_List recipients) = 0;
-    /// Puts one changed recipient in its place and redraws the recipient table; costs the same however long the list.
+    /// Replaces one recipient and redraws the recipient table; the cost does not depend on the length of the list.
     virtual void Replace_Recipient(int row, const QString& number, const QString& message) = 0;
     /// Redraws the recipient table from the list.
     virtual void Redisplay_Recipients() = 0;
     /// The rows selected in the recipient table, in ascending order.
     virtual std::vector<int> Selected_Recipient_Rows() const = 0;
-    /// Rebuilds the exclusion set from the applied lists, when the exclusion check box is on; otherwise does nothing.
+    /// Rebuilds the exclusion set from the applied lists if the exclusion check box is on; otherwise does nothing.
     virtual void Fill_Exclusion_Num_List() = 0;
-    /// Takes what was read of the applied lists for the exclusion set, and tells of lists that can not be used.
+    /// Uses what was read of the applied lists as the exclusion set, and reports lists that cannot be used.
     virtual void Take_Exclusions(const Exclusion_Files::Applied_Numbers& applied) = 0;
-    /// The numbers of the applied lists as they are now, whatever the exclusion check box says. The exclusion set keeps
-    /// whatever it holds.
+    /// The numbers of the applied lists as they are now, whatever the exclusion check box says. The exclusion set does
+    /// not change.
     virtual Number_List Read_Applied_Exclusions() = 0;
 
     /// Answers yes for an invalid number; see Number_Rules.
     virtual bool Check_Ph_Number(const QString& number, bool test_flag) const = 0;
     virtual bool Check_Duplicate_Number(const QString& number) const = 0;
     virtual bool Check_Exclusion_Number(const QString& number) const = 0;
-    /// Whether no recipient has a message and the composer is empty as well.
+    /// Whether no recipient has a message and the composer is empty too.
     virtual bool Blank_Msg_Chk() const = 0;
 
     virtual Send_Choices Read_Send_Choices() const = 0;
 
-    /// The counter text for a message of a length; runs the long-message dialog first when that is allowed and due.
+    /// The counter text for a message of this length; first runs the long-message dialog if that is allowed and due.
     virtual QString Long_SMS_Calculation(int length, const QString& msg_char_value, bool open_dlg) = 0;
     /// How many characters the composer holds, and how many of them are selected.
     virtual int Composer_Length() const = 0;
     virtual int Composer_Selection_Length() const = 0;
-    /// Puts a text in the place of the composer's selection, or at its cursor, cuts the whole to 1600 characters and
-    /// counts it anew, with the long-message dialog when it is due.
+    /// Replaces the composer's selection by a text, or inserts it at the cursor, cuts the whole to 1600 characters and
+    /// counts it afresh, with the long-message dialog if it is due.
     virtual void Use_In_Composer(const QString& text) = 0;
-    /// Puts a text in the composer's place, cut to 1600 characters; no dialog opens and the counter stays as it is.
+    /// Replaces the composer's text, cut to 1600 characters; no dialog opens and the counter stays as it is.
     virtual void Set_Composer_Text(const QString& text) = 0;
-    /// The composer text that was last taken into the list, or last offered before sending.
+    /// The composer text that was last copied to the list, or last offered before sending.
     virtual QString Previous_Composer_Message() const = 0;
     virtual void Set_Previous_Composer_Message(const QString& message) = 0;
 
-    /// From now on, until released, clicks and keys in the main window are dropped.
+    /// Until released, clicks and keys in the main window are dropped.
     virtual void Hold_Input() = 0;
     virtual void Release_Input() = 0;
 };

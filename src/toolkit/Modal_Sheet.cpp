@@ -21,7 +21,7 @@ void Modal_Sheet::Begin_Sheet(QWidget* over)
     }
     Put_Over(*this, over);
     if (!isVisible())
-        setAttribute(Qt::WA_Moved, false); // a dialog that nobody has moved is put in the middle of its window
+        setAttribute(Qt::WA_Moved, false); // a dialog that was not moved is centred over its window
     show();
     raise();
     repaint();
@@ -48,7 +48,7 @@ void Modal_Sheet::Let_Go()
         return;
     m_is_let_go = true;
     const QPoint place = pos();
-    End_Sheet(); // a window that is shown does not change what it holds back
+    End_Sheet(); // the modality of a visible window cannot change
     Become(Qt::NonModal, Qt::Dialog);
     move(place);
     show();

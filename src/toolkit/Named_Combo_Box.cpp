@@ -6,7 +6,7 @@
 
 namespace {
 
-// The box with its two parts, the choices and the field, as the toolkit tells of them, and with its name.
+// The box with its two parts, the choices and the field, as the toolkit describes them, and with its name.
 class Named_Box_Interface : public QAccessibleWidget
 {
 public:

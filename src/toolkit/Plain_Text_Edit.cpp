@@ -23,7 +23,7 @@ QString Exact_Text(const QPlainTextEdit& edit)
 
 int Text_Length(const QPlainTextEdit& edit)
 {
-    return edit.document()->characterCount() - 1; // the document counts the end of its last paragraph, too
+    return edit.document()->characterCount() - 1; // the document also counts the end of its last paragraph
 }
 
 bool Cut_Text(QPlainTextEdit& edit, int most)

@@ -2,23 +2,22 @@
 
 #include <QPlainTextEdit>
 
-// How messages are taken from and kept in text areas. Interface thread only.
+// How messages are read from and limited in text areas. Interface thread only.
 
-inline constexpr int Longest_Message = 1600; ///< UTF-16 units; what is longer is cut
+inline constexpr int Longest_Message = 1600; ///< UTF-16 units; the rest is cut
 
-/// The text as it was entered: lines end in "\n", a no-break space stays one.
+/// The text as it was entered: lines end in "\n", and a no-break space remains one.
 QString Exact_Text(const QPlainTextEdit& edit);
 
 /// How many UTF-16 units the text has, without copying it.
 int Text_Length(const QPlainTextEdit& edit);
 
-/// Cuts the text to its first characters (UTF-16 units) and answers whether it was longer. The cut belongs to the
-/// change that made it necessary: undoing that one brings back what stood there before. A cut is a change of the text,
-/// too.
+/// Cuts the text to its first characters (UTF-16 units) and returns whether it was longer. The cut is part of the
+/// change that made it necessary: undoing that restores the text before it. A cut also counts as a change of the text.
 bool Cut_Text(QPlainTextEdit& edit, int most);
 
 // A text area for a message. A huge paste or drop is cut down to what can be kept of it before it is laid out, so that
-// it holds up nothing; the exact limit is for the owner to keep, with Cut_Text. Part of its window.
+// it delays nothing; enforcing the exact limit, with Cut_Text, is up to the owner. Part of its window.
 class Plain_Text_Edit : public QPlainTextEdit
 {
     Q_OBJECT
@@ -26,7 +25,7 @@ class Plain_Text_Edit : public QPlainTextEdit
 public:
     using QPlainTextEdit::QPlainTextEdit;
 
-    /// Asks for some lines of its font, and takes whatever else there is.
+    /// Asks for a few lines of its font, and takes all the room there is.
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 

@@ -8,7 +8,7 @@ namespace Ui {
 class PleaseWait_Modeless;
 }
 
-// The please-wait sheet that stands over a window during a long operation. Each window owns its own; interface thread.
+// The please-wait sheet that covers a window during a long operation. Each window owns its own; interface thread.
 class PleaseWait_Modeless : public Modal_Sheet
 {
     Q_OBJECT
@@ -17,7 +17,8 @@ public:
     explicit PleaseWait_Modeless(QWidget* parent = nullptr);
     ~PleaseWait_Modeless() override;
 
-    /// How much of the work is done, from 0 to 100; without it, and below 0, the bar shows that something goes on.
+    /// How much of the work is done, from 0 to 100; without a call, and below 0, the bar only shows that work is going
+    /// on.
     void Show_Progress(int percent);
 
 private:

@@ -4,9 +4,9 @@
 #include <functional>
 #include <vector>
 
-// Shows rows of text dictionaries in a table: each column carries the key whose value its cells show. The rows stay
-// where they are and are asked for one cell at a time, so a million of them cost nothing here. The table shows the rows
-// it was last told of by Reload; a row that has gone since shows an empty cell. Interface thread only.
+// Shows rows of text dictionaries in a table: each column has the key whose value its cells show. The rows stay where
+// they are and are read one cell at a time, so a million of them cost nothing here. The table shows the rows known at
+// the last Reload; a row that has gone since shows an empty cell. Interface thread only.
 class Row_Table_Model : public QAbstractTableModel
 {
     Q_OBJECT
@@ -23,12 +23,12 @@ public:
     Row_Table_Model(std::vector<Column> columns, Row_Counter count_rows, Cell_Reader read_cell,
                     QObject* parent = nullptr);
 
-    /// Takes in rows added, removed and changed. Selected rows that still exist stay selected.
+    /// Takes note of rows added, removed and changed. Selected rows that still exist stay selected.
     void Reload();
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
-    /// A cell's whole value, line breaks included: how much of it is painted is for the view to say.
+    /// A cell's whole value, including line breaks: the view decides how much of it is painted.
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 

@@ -9,7 +9,7 @@
 
 namespace {
 
-// The scroll area asks its page for the height that it prefers and would scroll earlier than there is need to.
+// The scroll area asks its page for its preferred height and would scroll earlier than necessary.
 class Page : public QWidget
 {
 public:
@@ -29,7 +29,7 @@ void Move_First_Row(QBoxLayout& from, QBoxLayout& to)
     const int stretch = from.stretch(0);
     QLayoutItem* row = from.takeAt(0);
     if (QWidget* widget = row->widget()) {
-        delete row; // before the next item: a widget lets only one at a time know that its size has changed
+        delete row; // before the next item: a widget reports changes of its size to only one at a time
         to.addWidget(widget, stretch);
     } else if (QLayout* layout = row->layout()) {
         to.addLayout(layout, stretch);
@@ -77,7 +77,7 @@ QSize Scrolling_Body::sizeHint() const
     return {width, Preferred_Height(width)};
 }
 
-// No height of its own: the window sees to that, which alone knows its screen.
+// No height of its own: that is up to the window, which alone knows its screen.
 QSize Scrolling_Body::minimumSizeHint() const
 {
     return {m_rows->totalMinimumSize().width(), 0};
@@ -117,10 +117,10 @@ bool Scrolling_Body::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == widget()) {
         if (event->type() == QEvent::LayoutRequest)
-            updateGeometry(); // what is around remembers the sizes that were asked for
+            updateGeometry(); // the surrounding layout caches the sizes it asked for
     } else if (event->type() == QEvent::Wheel && !static_cast<QWidget*>(watched)->hasFocus()) {
-        // Whoever turns the wheel to scroll is not to change a choice that the pointer happens to pass.
-        event->ignore(); // so it goes on to what is around the box
+        // Turning the wheel to scroll must not change a choice that the pointer happens to pass.
+        event->ignore(); // so that it goes on to what surrounds the box
         return true;
     }
     return QScrollArea::eventFilter(watched, event);
@@ -130,12 +130,12 @@ void Scrolling_Body::Watch_Boxes()
 {
     const auto boxes = findChildren<QComboBox*>();
     for (auto* box : boxes) {
-        box->setFocusPolicy(Qt::StrongFocus); // the wheel gives it no focus, either
+        box->setFocusPolicy(Qt::StrongFocus); // so that the wheel does not focus it either
         box->installEventFilter(this);
     }
 }
 
-// All of it, where the scroll area would be content with a text area's cursor.
+// All of it, whereas the scroll area would settle for a text area's cursor.
 void Scrolling_Body::Bring_Into_Sight(const QWidget* control)
 {
     if (!control || !widget()->isAncestorOf(control))

@@ -5,29 +5,28 @@
 
 class QBoxLayout;
 
-// What a window shows above its row of buttons. Where the screen has room it stands there as if it were laid out in the
-// window itself; where it has not, what stands beside each other moves below each other, the whole scrolls, and the
-// buttons stay in sight. Part of its window; interface thread
-// only.
+// What a window shows above its row of buttons. Where the screen has room, it looks as if laid out in the window
+// itself; otherwise what is side by side moves one below the other, the whole scrolls, and the buttons stay in sight.
+// Part of its window; interface thread only.
 class Scrolling_Body : public QScrollArea
 {
     Q_OBJECT
 
 public:
-    /// Takes everything but the last row out of the column and stands there instead. A column that needs no body gets
-    /// none: one without a row of buttons, or one whose only content scrolls by itself.
+    /// Takes everything but the last row out of the column and replaces it there. Returns none for a column that needs
+    /// no body: one without a row of buttons, or one whose only content scrolls by itself.
     static Scrolling_Body* Made_For(QBoxLayout& column);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
-    /// Lays rows out as columns as long as they need more than this width.
+    /// Lays rows out as columns while they need more than this width.
     void Fit_Into(int width);
-    /// The smallest size at which all of it is in sight; at least this wide.
+    /// The smallest size, at least this wide, at which everything is visible.
     QSize Whole_Size(int width) const;
-    /// The height that it would like to have at a width.
+    /// The height it prefers at a width.
     int Preferred_Height(int width) const;
-    /// The width that the scroll bar takes away.
+    /// The width taken up by the scroll bar.
     int Bar_Width() const;
 
 protected:
@@ -40,7 +39,7 @@ private:
 
     struct Row
     {
-        QBoxLayout* layout; // the page owns it
+        QBoxLayout* layout; // that it needed when it was last a row
         int width = 0;      ///< that it needed when it last was a row
     };
 

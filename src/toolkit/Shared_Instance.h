@@ -4,8 +4,8 @@
 #include <QWidget>
 #include <vector>
 
-// The windows of which there is one for the whole program. Each is made when it is first asked for and is deleted by
-// End_Shared_Instances, or earlier by the window it was put over; asked for again, it is made anew. Interface thread.
+// The windows that exist once in the whole program. Each is made when first requested and deleted by
+// End_Shared_Instances, or earlier by the window it was put over; after that a request makes it anew. Interface thread.
 
 inline std::vector<QPointer<QWidget>> Shared_Windows;
 
@@ -26,7 +26,7 @@ private:
     static inline QPointer<Window> The_Window;
 };
 
-/// Deletes every shared window, the newest first. Called before the application object goes.
+/// Deletes every shared window, newest first. Called before the application object goes.
 inline void End_Shared_Instances()
 {
     while (!Shared_Windows.empty()) {

@@ -13,7 +13,7 @@ constexpr qsizetype Most_In_Tool_Tip = 4000;
 constexpr int Lines_In_Tool_Tip = 30;
 constexpr int Letters_In_Tool_Tip_Line = 80;
 
-// The first characters of a text, at most so many, without half of a surrogate pair at their end.
+// The first characters of a text, up to a limit, without half of a surrogate pair at the end.
 QString Beginning(const QString& text, qsizetype at_most)
 {
     if (text.size() <= at_most)
@@ -44,7 +44,7 @@ QStringList In_Lines(const QString& paragraph, const QFont& font, qreal width)
 
 QString Tool_Tip_Of(const QString& text)
 {
-    // The program's tool tips take every text as it is, and so do not break lines themselves.
+    // The program's tool tips show every text literally, and so do not break lines themselves.
     const QFont font = QToolTip::font();
     const qreal width = QFontMetricsF(font).averageCharWidth() * Letters_In_Tool_Tip_Line;
     const QString beginning = Beginning(text, Most_In_Tool_Tip);

@@ -2,9 +2,9 @@
 
 #include <QStyledItemDelegate>
 
-// Paints the cells of a table whose values may be texts of any length, with line breaks: on one line, and no more of a
-// text than a screen can be wide. A text that its cell does not show whole is shown by a tool tip. Belongs to its
-// table; interface thread.
+// Paints table cells whose values may be texts of any length, with line breaks: on one line, and no more of a text than
+// a screen can be wide. A text that does not fit its cell is shown by a tool tip. Belongs to its table; interface
+// thread.
 class Whole_Text_Delegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -17,6 +17,6 @@ public:
                    const QModelIndex& index) override;
 };
 
-/// A text as a tool tip shows it: in lines of a readable width, and not more of them than a screen has room for. Ends
-/// with an ellipsis where the text goes on.
+/// A text as a tool tip shows it: in lines of a readable width, and no more of them than fit on a screen. Ends with an
+/// ellipsis if the text goes on.
 QString Tool_Tip_Of(const QString& text);

@@ -11,7 +11,7 @@
 
 namespace {
 
-// A window's title bar until the desktop has made one: most are lower than two lines of text.
+// A window's title bar until the desktop has made one: most are less than two lines of text high.
 constexpr int Title_Bar_Lines = 2;
 
 QLayout* Layout_Of(const QWidget& window)
@@ -21,8 +21,8 @@ QLayout* Layout_Of(const QWidget& window)
     return laid_out ? laid_out->layout() : nullptr;
 }
 
-// Layouts see to a window's smallest size themselves, but for texts that wrap, which need more height the narrower they
-// are, and for a screen that is smaller than that.
+// Layouts maintain a window's smallest size themselves, except for texts that wrap, which need more height the narrower
+// they are, and for a screen smaller than that.
 class Size_Keeper : public QObject
 {
 public:
@@ -65,7 +65,7 @@ private:
         return made.expandedTo(QSize(0, Title_Bar_Lines * m_window.fontMetrics().lineSpacing()));
     }
 
-    // A dialog goes where its owner is.
+    // A dialog opens where its owner is.
     QRect Screen() const
     {
         const QWidget* owner = m_window.parentWidget();
@@ -88,18 +88,18 @@ private:
 
     void Take_First_Size()
     {
-        if (std::exchange(m_has_first_size, true)) { // the screen may be another one now
+        if (std::exchange(m_has_first_size, true)) { // the screen may be a different one now
             m_window.resize(m_window.size().boundedTo(Room()));
             return;
         }
         Fold();
         if (m_body)
-            m_body->updateGeometry(); // its texts may have been set this moment
+            m_body->updateGeometry(); // its texts may have just been set
         const QFontMetrics letters = m_window.fontMetrics();
         QSize size = m_window.sizeHint();
         const QSize hint = size;
         size.setWidth(std::max(size.width(), m_first_size.columns * letters.averageCharWidth()));
-        if (m_body) { // in a wider window texts need fewer lines
+        if (m_body) { // texts need fewer lines in a wider window
             const QSize body = m_body->sizeHint();
             size.rheight() += m_body->Preferred_Height(body.width() + size.width() - hint.width()) - body.height();
         }
@@ -136,7 +136,7 @@ private:
         m_is_keeping = false;
     }
 
-    // A window that had to grow may reach beyond the screen now.
+    // A window that had to grow may now reach beyond the screen.
     void Stay_On_Screen()
     {
         if (!m_window.isVisible())

@@ -2,17 +2,17 @@
 
 class QWidget;
 
-// How large the windows of the program are: what they show decides it, in the desktop's font, and the screen that they
-// are on. No window has a size in pixels of its own.
+// How large the program's windows are: that depends on what they show, in the desktop's font, and on their screen. No
+// window has a size in pixels of its own.
 
-/// A size in letters and lines of the window's own font; nothing says that the content alone decides.
+/// A size in letters and lines of the window's own font; without one the content alone decides.
 struct Letters
 {
     int columns = 0;
     int lines = 0;
 };
 
-/// Keeps a window as large as what it shows needs and no larger than its screen; where both can not be, what stands
-/// above its last row scrolls. It opens at the size given, if that is larger than its content asks for. Called once for
-/// each window, after its layout is made.
+/// Keeps a window as large as its contents need and no larger than its screen; where both are impossible, what is above
+/// its last row scrolls. It opens at the given size if that is larger than its contents ask for. Called once per
+/// window, after its layout is made.
 void Fit_Window(QWidget& window, Letters first_size);

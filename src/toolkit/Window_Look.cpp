@@ -9,15 +9,14 @@
 
 namespace {
 
-// Fusion, with room around the text of buttons, fields and boxes, and with labels that show every text as it is.
+// Fusion, with room around the text of buttons, fields and boxes, and with labels that show every text literally.
 class Program_Style : public QProxyStyle
 {
 public:
     Program_Style() : QProxyStyle(QStringLiteral("Fusion")) {}
 
-    // Left to itself a label guesses whether its text is markup, and what it shows may come from a device or from a
-    // file's name. That goes for tool tips and for the toolkit's own boxes and panels, whose labels are not ours to
-    // make.
+    // By default a label guesses whether its text is markup, and the text may come from a device or from a file's name.
+    // This also covers tool tips and the toolkit's own boxes and panels, whose labels are not ours to make.
     void polish(QWidget* widget) override
     {
         QProxyStyle::polish(widget);
@@ -43,7 +42,7 @@ public:
     }
 };
 
-// Complete, so that nothing of a dark desktop theme is left to put light text on the light background.
+// Complete, so that a dark desktop theme cannot put light text on the light background.
 QPalette Program_Palette()
 {
     const QColor text(0x1d, 0x23, 0x2f);

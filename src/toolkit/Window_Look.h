@@ -6,8 +6,7 @@ class QApplication;
 class QColor;
 class QWidget;
 
-// How every window of the program looks: one background, and text that can be read on it whatever the desktop's theme
-// is.
+// How every window of the program looks: one background, and text that is readable on it in any desktop theme.
 
 /// Red 241/255, green 244/255, blue 250/255.
 QColor Window_Background();
@@ -15,6 +14,6 @@ QColor Window_Background();
 /// Gives the application one style and one palette. Called once at start-up, before the first window.
 void Apply_Application_Look(QApplication& application);
 
-/// Gives a window the program's background, and sees to its size (Fit_Window). Called once for each window, after its
-/// layout is made.
+/// Gives a window the program's background and manages its size (Fit_Window). Called once per window, after its layout
+/// is made.
 void Apply_Window_Look(QWidget& window, Letters first_size = {});

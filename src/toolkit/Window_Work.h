@@ -8,9 +8,9 @@ class Input_Hold;
 class PleaseWait_Modeless;
 class QWidget;
 
-// Work behind a window: what takes its time runs on a worker, while the window goes on painting and nobody clicks in
-// it. Owned by the window, beside its please-wait sheet, and ended by it with End before anything that the work uses
-// goes. Interface thread.
+// Work behind a window: what takes time runs on a worker, while the window keeps painting and takes no clicks. Owned by
+// the window, beside its please-wait sheet; the window calls End before anything that the work uses goes. Interface
+// thread.
 class Window_Work
 {
 public:
@@ -19,27 +19,27 @@ public:
     Window_Work(const Window_Work&) = delete;
     Window_Work& operator=(const Window_Work&) = delete;
 
-    /// The please-wait sheet over the window, when that is shown.
+    /// The please-wait sheet over the window, if that is shown.
     void Show_Sheet();
     void Hide_Sheet();
     bool Is_Sheet_Shown() const;
-    /// The same, until what this returns has gone, whichever way that is.
+    /// The same for as long as the returned object lives, however that ends.
     [[nodiscard]] std::shared_ptr<void> Sheet();
 
-    /// Drops the user's clicks and keys in the window until Release_Input.
+    /// Drops clicks and keys in the window until Release_Input.
     void Hold_Input();
     void Release_Input();
 
-    /// Starts a worker for the window. An exception that leaves the work ends it and is logged.
+    /// Starts a worker for the window. An uncaught exception ends the work and is logged.
     void Start(const char* name, std::function<void()> work);
-    /// Waits, serving them, until all workers of the window have ended.
+    /// Waits, while serving them, until all workers of the window have ended.
     void Await() const;
-    /// The same, and gives the window free.
+    /// The same, and releases the window.
     void End();
 
 private:
     QWidget& m_window;
     PleaseWait_Modeless& m_sheet;
     std::unique_ptr<Input_Hold> m_input_hold;
-    std::shared_ptr<std::atomic<int>> m_running; // outlives the window in a worker that counts itself out
+    std::shared_ptr<std::atomic<int>> m_running; // outlives the window in a worker, which decrements it when it ends
 };
