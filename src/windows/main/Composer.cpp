@@ -79,7 +79,7 @@ void Composer::Refresh_Counter(bool open_dlg)
     const int length = Length();
     _Msg_char_count->setText(Composer_Rules::Characters_Text(length));
     const QString counter = Long_SMS_Calculation(length, counter_until_now, open_dlg);
-    // While the dialog was up, the text may have been set anew: what is counted is what stands there now.
+    // The text may have been replaced while the dialog was open: the present one is counted.
     if (Length() == length)
         _Msg_char_count->setText(counter);
     else
@@ -92,7 +92,7 @@ QString Composer::Long_SMS_Calculation(int length, const QString& msg_char_value
     const auto counter = Composer_Rules::Long_SMS_Calculation(length, msg_char_value, Is_Unicode(), may_open);
     if (counter.open_dialog_first) {
         const QScopedValueRollback is_showing(m_is_showing_dialog, true);
-        // A dialog that edits messages asks, too: the notice belongs over whatever the user is working in.
+        // A dialog that edits messages asks, too: the notice belongs over whatever window the user is working in.
         QWidget* on_top = QApplication::activeModalWidget();
         Long_SMS_Dlg::defaultInstance()->Open_Dialog(on_top ? on_top : _messageEdit->window(), Is_Unicode());
     }

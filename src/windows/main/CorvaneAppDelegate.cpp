@@ -77,7 +77,7 @@ bool CorvaneAppDelegate::awakeFromNib()
     const QFontMetrics letters = fontMetrics();
     m_ui->_sent_btn->setMinimumSize(letters.averageCharWidth() * Send_Button_Letters,
                                     m_ui->_sent_btn->sizeHint().height() + letters.descent());
-    // A device's name may be long: it is cut off rather than make the window grow with it.
+    // A device's name may be long: it is cut off rather than widening the window.
     m_ui->_Device_Name_Ticker->ensurePolished();
     m_ui->_Device_Name_Ticker->setMinimumWidth(m_ui->_Device_Name_Ticker->sizeHint().width());
     Give_Tables_Their_Models();
@@ -96,7 +96,7 @@ bool CorvaneAppDelegate::awakeFromNib()
     for (auto* box : {m_ui->_delayed_msg_count_combo, m_ui->_delayed_time_combo}) {
         box->setCompleter(nullptr);
         box->setCurrentIndex(-1);
-        box->lineEdit()->setAccessibleName(box->accessibleName()); // where the keyboard is, when it is in the box
+        box->lineEdit()->setAccessibleName(box->accessibleName()); // the keyboard focus is here when it is in the box
     }
     m_import = std::make_unique<Number_Import>(Number_Import::Target{
         [this](int count, int percent) { Show_Import_Progress(count, percent); },
@@ -176,7 +176,7 @@ void CorvaneAppDelegate::Exit_App()
 
 void CorvaneAppDelegate::closeEvent(QCloseEvent* event)
 {
-    event->ignore(); // the window goes when the program does, and that is for Exit_App to ask
+    event->ignore(); // the window goes when the program does, which is for Exit_App to ask
     windowWillClose();
 }
 

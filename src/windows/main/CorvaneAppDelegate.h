@@ -22,7 +22,7 @@ class CorvaneAppDelegate;
 }
 
 // The main window's controller: it owns the recipient list, the exclusion set and the modem session, and carries every
-// operation of the main window by its own name, each handing on to the class that does the work. One instance, owned by
+// operation of the main window by its own name, each passing on to the class that does the work. One instance, owned by
 // the program's start; everything here belongs to the interface thread.
 class CorvaneAppDelegate : public QMainWindow, public Main_Window
 {
@@ -32,11 +32,11 @@ public:
     CorvaneAppDelegate();
     ~CorvaneAppDelegate() override;
 
-    /// The one instance; null before it is made and after it has gone.
+    /// The one instance; null before it is made and after it is gone.
     static CorvaneAppDelegate* defaultInstance();
 
     // Start and end
-    /// Builds the start state. Returns false, after telling the user, when the resource folder can not be had.
+    /// Builds the start state. Returns false, after telling the user, when the resource folder is not available.
     bool awakeFromNib();
     void applicationDidFinishLaunching();
     void windowWillClose();
@@ -47,7 +47,7 @@ public:
     void Create_Num_Msg_List(const QString& number, const QString& message_val);
     /// Answers yes for an INVALID number; see Number_Rules.
     bool Check_Ph_Number(const QString& number, bool test_flag) const override;
-    /// The normalised number, or an empty text when it may not be inserted.
+    /// The normalised number, or an empty text if it may not be inserted.
     QString Num_Able_To_insert(const QString& number) const;
     bool Check_Duplicate_Number(const QString& number) const override;
     bool Check_Exclusion_Number(const QString& number) const override;
@@ -63,12 +63,12 @@ public:
     void Load_NUM_Thread(const QString& path);
 
     // The stores
-    /// Whether the templates' file holds a template with exactly this text.
+    /// Whether the template file holds a template with exactly this text.
     bool Check_Duplicate_Template(const QString& text) const;
 
     bool Blank_Msg_Chk() const override;
     int numberOfRowsInTableView(const QTableView* table) const;
-    /// The value of a row under a column's identifier; an empty text for a row outside the list.
+    /// The value of a row for a column's identifier; an empty text for a row outside the list.
     QString tableView(const QTableView* table, const QString& objectValueForTableColumn, int row) const;
 
     // The composer
@@ -124,7 +124,7 @@ public Q_SLOTS:
     void Exit_Btn();
 
 Q_SIGNALS:
-    /// The user wants to leave, and has said so.
+    /// The user wants to leave, and has confirmed it.
     void Exit_Wanted();
 
 protected:

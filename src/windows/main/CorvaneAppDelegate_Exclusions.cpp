@@ -9,7 +9,7 @@
 
 #include <utility>
 
-// The exclusion set: what the applied lists hold, and what is told of those that can not be used.
+// The exclusion set: what the applied lists hold, and the notice about lists that cannot be used.
 
 bool CorvaneAppDelegate::Check_Exclusion_Number(const QString& number) const
 {
@@ -35,7 +35,7 @@ void CorvaneAppDelegate::Exclusion_Chk()
 
 namespace {
 
-// Read while the interface thread goes on serving.
+// Read while the interface thread keeps serving.
 Exclusion_Files::Applied_Numbers Applied_Numbers_Of_Files()
 {
     Check_Path_And_Create_Files();
@@ -49,7 +49,7 @@ Exclusion_Files::Applied_Numbers Applied_Numbers_Of_Files()
 void CorvaneAppDelegate::Fill_Exclusion_Num_List()
 {
     if (m_ui->_Exclusion_Chk->isChecked())
-        Take_Exclusions(Applied_Numbers_Of_Files()); // the table shows the present ones until these are whole
+        Take_Exclusions(Applied_Numbers_Of_Files()); // the table shows the old ones until these are complete
 }
 
 void CorvaneAppDelegate::Take_Exclusions(const Exclusion_Files::Applied_Numbers& applied)
@@ -67,7 +67,7 @@ Number_List CorvaneAppDelegate::Read_Applied_Exclusions()
     return applied.numbers;
 }
 
-// A line for as long as there is something to say.
+// A line that is visible only while there is something to say.
 void CorvaneAppDelegate::Show_Exclusion_Trouble(const QString& text)
 {
     m_ui->_Exclusion_Trouble->setText(text);

@@ -26,15 +26,15 @@
 #include <exception>
 #include <utility>
 
-// The recipient list and the number rules: what fills the list, changes it, and takes it in and out of the program.
+// The recipient list and the number rules: what fills the list, changes it, imports it and exports it.
 
 namespace {
 
-// Reaching exactly this many recipients redraws the table from the count itself.
+// Reaching exactly this many recipients makes the counter itself redraw the table.
 constexpr int Redisplay_Count = Number_Import::First_Shown;
 constexpr int Normal_Message_Index = 1;
 
-// To let go of a million recipients takes its time, like everything that is done with each of them.
+// Releasing a million recipients takes time, like everything that is done with each of them.
 void Let_Go_Of(Recipient_List& list)
 {
     Run_On_Worker([&] { list.Clear(); });
@@ -52,7 +52,7 @@ void CorvaneAppDelegate::Create_Num_Msg_List(const QString& number, const QStrin
     Remember_Composer_Text();
 }
 
-// The first composer text that an item was made with is the remembered one; later ones do not replace it here.
+// The first composer text that an item was made with is remembered; later ones do not replace it here.
 void CorvaneAppDelegate::Remember_Composer_Text()
 {
     if (prev_composer_msg.isEmpty())
@@ -153,7 +153,7 @@ void CorvaneAppDelegate::Clear_Sel_Btn()
     }
     {
         const auto sheet = m_work->Sheet();
-        Recipient_List list = nsListDataObject; // the table shows the present one until this one is whole
+        Recipient_List list = nsListDataObject; // the table shows the present list until this one is complete
         Run_On_Worker([&] { list.Remove_Rows(rows); });
         std::swap(nsListDataObject, list);
         Reload_And_Select_First(*m_ui->idTableView, *m_recipient_rows);
@@ -225,7 +225,7 @@ void CorvaneAppDelegate::OnGetSelected()
         return;
     Open_Edit_Dialog(*this, rows.front());
     if (!m_ui->_Exclusion_Chk->isChecked())
-        Show_Exclusion_Trouble({}); // the dialog's own box may have brought some up
+        Show_Exclusion_Trouble({}); // the dialog's own box may have caused a notice
 }
 
 void CorvaneAppDelegate::Fill_Msg_Btn()
@@ -286,7 +286,7 @@ void CorvaneAppDelegate::Load_NUM_Thread(const QString& path)
                                m_ui->_Skip_Duplicate_Chk->isChecked(), m_ui->_Exclusion_Chk->isChecked()});
 }
 
-// What broke off an import is in the log; the recipients that had come by then stay.
+// What broke off an import is in the log; the recipients imported so far stay.
 void CorvaneAppDelegate::End_Import()
 {
     Hide_Destroy_Modeless();
@@ -312,7 +312,7 @@ void CorvaneAppDelegate::Leave_Import_Unread()
 {
     Redisplay_Recipients();
     m_ui->_sent_btn->setEnabled(true);
-    m_please_wait->Let_Go(); // nothing is told: the sheet stays, and the user closes it
+    m_please_wait->Let_Go(); // nothing is reported: the sheet stays, and the user closes it
 }
 
 void CorvaneAppDelegate::Finish_Import()

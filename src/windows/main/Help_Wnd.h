@@ -7,8 +7,8 @@ namespace Ui {
 class Help_Wnd;
 }
 
-// The help window: the way from a list of numbers to sent messages, in a few sentences. Made when it is asked for and
-// run modally over the main window; interface thread.
+// The help window: how to get from a list of numbers to sent messages, in a few sentences. Made on request and run
+// modally over the main window; interface thread.
 class Help_Wnd : public QDialog
 {
     Q_OBJECT

@@ -7,14 +7,14 @@ namespace Ui {
 class Load_Num_Info;
 }
 
-// Asks, before an import, whether the numbers already in the list are to be removed first. Runs modally over the main
-// window, which makes one for each import; interface thread.
+// Asks, before an import, whether to remove the numbers already in the list first. Runs modally over the main window,
+// which makes one per import; interface thread.
 class Load_Num_Info : public QDialog
 {
     Q_OBJECT
 
 public:
-    enum Answer // what the run ends with
+    enum Answer ///< the dialog's result
     {
         Keep_Numbers = 0,
         Remove_Numbers = 1,

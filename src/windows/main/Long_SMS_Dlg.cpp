@@ -16,11 +16,11 @@
 namespace {
 
 constexpr double Seconds_Before_Dialog = 1;
-constexpr double Seconds_Between_Keys = 0.25; // of somebody who is in the middle of typing
+constexpr double Seconds_Between_Keys = 0.25; // of a user in the middle of typing
 constexpr double First_Moment_Seconds = 0.8;  // long enough to look up from the keys
 
-// A key that is on its way while the desktop hands the keyboard from one window to the other is lost. So the notice
-// comes up right behind a key, when the next one is furthest away, if somebody is typing.
+// A key in transit while the desktop moves the keyboard from one window to the other is lost. So if the user is typing,
+// the notice appears right after a key, when the next one is furthest away.
 void Wait_For_The_Next_Key(const Input_Hold& hold, const std::function<bool()>& is_left)
 {
     const double last = hold.Last_Typed();
@@ -72,7 +72,7 @@ void Long_SMS_Dlg::Open_Dialog(QWidget* over, bool unicode)
     End_First_Moment();
 }
 
-// The dialog itself has the keyboard then, and hands on what is typed, input methods included.
+// The dialog itself then has the keyboard, and passes on what is typed, including from input methods.
 void Long_SMS_Dlg::Begin_First_Moment(const QWidget& over)
 {
     m_field = Takes_Text(over.focusWidget()) ? over.focusWidget() : nullptr;
@@ -128,7 +128,7 @@ bool Long_SMS_Dlg::focusNextPrevChild(bool next)
     return !m_first_moment.isActive() && QDialog::focusNextPrevChild(next);
 }
 
-// Until it has the keyboard nobody can have typed into it: its first moment begins there.
+// Nothing can be typed into it before it has the keyboard: its first moment begins there.
 bool Long_SMS_Dlg::event(QEvent* event)
 {
     if (event->type() == QEvent::WindowActivate && m_first_moment.isActive())

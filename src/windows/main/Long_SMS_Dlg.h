@@ -9,9 +9,9 @@ namespace Ui {
 class Long_SMS_Dlg;
 }
 
-// Tells that a message has grown past one SMS and will go out in parts. A notice: whichever way it is closed, it ends
-// with 1. It comes up while somebody types: what is typed until that has been noticed goes into the text and does not
-// press the notice's button. One shared instance, put over the window that asks; interface thread.
+// Says that a message has grown past one SMS and will be sent in parts. A notice: however it is closed, it ends with 1.
+// It appears while the user types: keys typed before the user notices it go into the text and do not press the notice's
+// button. One shared instance, put over the window that asks; interface thread.
 class Long_SMS_Dlg : public QDialog
 {
     Q_OBJECT
@@ -22,9 +22,9 @@ public:
 
     static Long_SMS_Dlg* defaultInstance();
 
-    /// Waits a second, during which the window's texts can be typed on but nothing in it be pressed, and runs the
-    /// dialog over the window until it is closed. Asked for again meanwhile, or while the program exits, it does
-    /// nothing; nor does it open when the window was closed during the wait. The text may be another one afterwards.
+    /// Waits a second, in which text can be typed in the window but nothing pressed, and runs the dialog over the
+    /// window until it is closed. A call during that time, or while the program exits, does nothing; the dialog does
+    /// not open either if the window was closed during the wait. The text may have changed afterwards.
     void Open_Dialog(QWidget* over, bool unicode);
     void OKPressed();
 
@@ -44,6 +44,6 @@ private:
 
     std::unique_ptr<Ui::Long_SMS_Dlg> m_ui;
     bool m_is_open = false;
-    QTimer m_first_moment{this}; // runs until nobody has typed for a while
-    QPointer<QWidget> m_field;   // what was being typed into; none when that was nothing with text
+    QTimer m_first_moment{this}; // runs until there has been no typing for a while
+    QPointer<QWidget> m_field;   // what was being typed into; null if that was no text field
 };

@@ -15,11 +15,11 @@
 
 namespace {
 
-// What the send-time dialog ends with; any other code means that nothing is to be sent.
+// The results of the send-time dialog; any other code means that nothing is to be sent.
 constexpr int List_Was_Filled = 1;
 constexpr int Send_List_As_It_Is = 0;
 
-// Tells why nothing is sent, and puts the focus where that can be mended. Answers no, for the check that failed.
+// Says why nothing is sent, and puts the focus where that can be fixed. Returns false, for the failed check.
 bool Refuse(Main_Window& window, const QString& text, Main_Window::Field field)
 {
     Show_MessageBox(text);
@@ -72,7 +72,7 @@ bool Ask_About_Composer_Text(Main_Window& window)
     }
 }
 
-// A composer text that is offered for the list once is not offered again before it changes, whatever the answer was.
+// A composer text that has been offered for the list is not offered again until it changes, whatever the answer was.
 bool Composer_Text_Is_Settled(Main_Window& window)
 {
     if (window.Previous_Composer_Message() == Message_IS)

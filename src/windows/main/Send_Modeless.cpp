@@ -75,7 +75,7 @@ void Send_Modeless::Begin_Preparing(int total)
     Run_On_Interface_Thread([&] {
         Show_Stop_Asked_For(false);
         m_ui->_stop_btn->setEnabled(false);
-        m_ui->_Tot_Progress->setRange(0, std::max(total, 1)); // a range of nothing would show as endless activity
+        m_ui->_Tot_Progress->setRange(0, std::max(total, 1)); // an empty range would show as endless activity
         m_ui->_Tot_Progress->setValue(0);
         m_ui->_Curr_Progress->setRange(0, Activity_End);
         m_ui->_Curr_Progress->setValue(0);
@@ -99,8 +99,8 @@ void Send_Modeless::Begin_Sending()
     });
 }
 
-// The job does not wait while the bars paint themselves: it goes on with the message. It waits when the item before is
-// not even shown, so that a hasty job is never more than one item ahead of its window.
+// The job does not wait for the bars to paint but continues with the message. It does wait if even the previous item
+// has not been shown, so that a fast job is never more than one item ahead of its window.
 void Send_Modeless::Show_Item(int position, int total, const QString& number)
 {
     const auto show = [this, position, total, number] {
@@ -147,7 +147,7 @@ void Send_Modeless::Show_Pause(const QString& text)
 {
     Run_On_Interface_Thread([&] {
         if (m_ui->_pause_timer->text().isEmpty())
-            Tell_State(text); // not again at every second
+            Tell_State(text); // not repeated every second
         m_ui->_pause_timer->setText(text);
     });
 }
@@ -182,14 +182,14 @@ void Send_Modeless::Stop_Sending_Pressed()
     Show_Stop_Asked_For(true);
 }
 
-// The message under way is still sent, which takes its time: until then the button tells that the stop was heard.
+// The message in progress is still sent, which takes time: until then the button shows that the stop was noticed.
 void Send_Modeless::Show_Stop_Asked_For(bool is_asked_for)
 {
     m_ui->_stop_btn->setText(is_asked_for ? tr("Stopping ...") : m_stop_caption);
     m_ui->_stop_btn->setEnabled(!is_asked_for);
 }
 
-// Asks what the stop button asks, while that can be pressed; the window itself stays until the job takes it down.
+// Asks the same as the stop button, while that can be pressed; the window itself stays until the job takes it down.
 void Send_Modeless::closeEvent(QCloseEvent* event)
 {
     Modal_Sheet::closeEvent(event);
@@ -208,8 +208,8 @@ void Send_Modeless::Timer_Curr_Prg_Send_Modeless()
     }
 }
 
-// To the eye the heading says where the job is and the labels under it what is being done; a screen reader is told all
-// of it by the heading's name, whose change it hears of.
+// Visually, the heading says how far the job is and the labels below it what is being done. A screen reader gets all of
+// it from the heading's name, whose changes it is notified of.
 void Send_Modeless::Tell_State(const QString& detail)
 {
     const QString heading = m_ui->_curr_msg_cnt->text();

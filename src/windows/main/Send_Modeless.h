@@ -13,7 +13,7 @@ class Send_Modeless;
 }
 
 // The progress window of a send job, a sheet over the main window. The one shared instance belongs to the interface
-// thread like every window; what it does as a Send_Progress may be called from the job's thread and hops over here.
+// thread like every window; its Send_Progress operations may be called from the job's thread and hop over here.
 class Send_Modeless : public Modal_Sheet, public Send_Progress
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ public:
 
     static Send_Modeless* defaultInstance();
 
-    /// Over the main window, which is given its input back: from then on this keeps it away.
+    /// Appears over the main window, whose input is released: from then on this sheet blocks it.
     void Begin_Preparing(int total) override;
     void Begin_Sending() override;
     void Show_Item(int position, int total, const QString& number) override;
@@ -38,9 +38,9 @@ public:
     void Stop_Timers() override;
 
     /// The stop button, and the window's close button: asks, and on Yes sets Stop_SMS_Sending_Now. From then on until
-    /// the next job the button tells so and can not be pressed.
+    /// the next job the button says so and cannot be pressed.
     void Stop_Sending_Pressed();
-    /// One step of the activity bar, every half second: onwards by 20, and from 100 to the start.
+    /// One step of the activity bar, every half second: forward by 20, and from 100 to the start.
     void Timer_Curr_Prg_Send_Modeless();
 
 protected:
@@ -54,7 +54,7 @@ private:
     void Show_Current_Item(bool visible);
 
     std::unique_ptr<Ui::Send_Modeless> m_ui;
-    QString m_stop_caption; // as it is before it was pressed
+    QString m_stop_caption; // as it was before being pressed
     QTimer msend_modTimer{this};
     std::atomic<bool> m_is_item_on_its_way{false}; // to the interface thread, which has not shown it yet
 };

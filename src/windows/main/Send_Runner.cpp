@@ -15,8 +15,8 @@
 #include <memory>
 #include <utility>
 
-// The right to send. It is taken at the press and not by the thread that the press starts, so that two quick presses
-// start one job; it is given back, with the main window's input, wherever it ends.
+// The right to send. It is claimed at the press and not by the thread that the press starts, so that two quick presses
+// start one job; it is released, along with the main window's input, wherever it ends.
 class Send_Runner::Claim
 {
 public:

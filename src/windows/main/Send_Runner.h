@@ -7,16 +7,16 @@ class MFCSMS;
 class Main_Window;
 class Send_Progress;
 
-// Starts send jobs, one at a time, each on a worker of its own, and tells the user what they have to say;
-// sms_thread_var is 1 from the press of Send until the job has cleaned up. Owned by the main window, whose end comes
-// after Finish_Workers; interface thread.
+// Starts send jobs, one at a time, each on a worker of its own, and shows the user what they report; sms_thread_var is
+// 1 from the press of Send until the job has cleaned up. Owned by the main window, which outlives Finish_Workers;
+// interface thread.
 class Send_Runner : private Send_Listener
 {
 public:
     Send_Runner(Main_Window& window, MFCSMS& session, Send_Progress& progress);
 
     /// Send was pressed: checks what is to be sent, with the user's help, and starts a job, unless one is running. The
-    /// main window takes no input until the progress window stands over it or nothing is to be sent.
+    /// main window takes no input until the progress window covers it or it is clear that nothing will be sent.
     void Send_SMS_Btn();
 
 private:
