@@ -49,7 +49,7 @@ void Counted_Message::textDidChange(Main_Window& window)
     const int length = Text_Length(m_message);
     m_counter.setText(Characters_Text(length));
     const QString counter = window.Long_SMS_Calculation(length, counter_until_now, true);
-    // While the long-message dialog was up, the field may have been emptied: what is counted is what stands there now.
+    // The field may have been cleared while the long-message dialog was open: then this count no longer applies.
     if (Text_Length(m_message) == length)
         m_counter.setText(counter);
 }

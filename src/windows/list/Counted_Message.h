@@ -6,9 +6,9 @@ class Main_Window;
 class QLabel;
 class QPlainTextEdit;
 
-// The message field of a dialog and the counter under it: keeps the text within its limit and counts it by the main
-// window's rules. Works on the dialog's own controls; owned by the dialog, which hands on what happens to them;
-// interface thread.
+// The message field of a dialog and the counter below it: keeps the text within its limit and counts it by the main
+// window's rules. Works on the dialog's own controls; owned by the dialog, which forwards their events; interface
+// thread.
 class Counted_Message
 {
 public:
@@ -20,8 +20,8 @@ public:
     /// The first 1600 characters.
     QString Text() const;
 
-    /// The user changed the text: cuts it and counts it anew, with the long-message dialog when it is due. What Show
-    /// and Clear do is no change of this kind.
+    /// The user changed the text: cuts it and counts it afresh, with the long-message dialog if it is due. What Show
+    /// and Clear do is not such a change.
     void textDidChange(Main_Window& window);
 
 private:

@@ -53,7 +53,7 @@ int Fill_Msg_In_List::Open_Dialog(Main_Window& window)
     return Run_Dialog_Over(*this, window.Window());
 }
 
-// The radio buttons exclude each other: one that is switched on switches the others off.
+// The radio buttons exclude each other: switching one on switches the others off.
 
 void Fill_Msg_In_List::Fill_To_ALL_Pressed()
 {
@@ -112,7 +112,7 @@ Fill_Rules::Choice Fill_Msg_In_List::Choice() const
     return m_ui->_fill_msg_blank->isChecked() ? Choice::Blank : Choice::All;
 }
 
-// Tells the user when there is nothing to fill, and asks otherwise.
+// Tells the user if there is nothing to fill, and asks otherwise.
 bool Fill_Msg_In_List::Is_Meant(Fill_Rules::Choice choice) const
 {
     switch (choice) {

@@ -14,7 +14,7 @@ class Fill_Msg_In_List;
 }
 
 // Copies the message in Message_IS to all recipients, to the selected ones or to those without a message. The shared
-// instance belongs to Shared_Instance, or to the main window once it was put over it; interface thread.
+// instance belongs to Shared_Instance, or to the main window once it has been put over it; interface thread.
 class Fill_Msg_In_List : public QDialog
 {
     Q_OBJECT
@@ -25,7 +25,7 @@ public:
 
     static Fill_Msg_In_List* defaultInstance();
 
-    /// Runs the dialog over the main window until it ends. Returns 1 when it filled, 0 when it was cancelled.
+    /// Runs the dialog over the main window until it ends. Returns 1 if it filled messages in, 0 if it was cancelled.
     int Open_Dialog(Main_Window& window);
 
     void Fill_To_ALL_Pressed();
@@ -46,5 +46,5 @@ private:
     const std::unique_ptr<Ui::Fill_Msg_In_List> m_ui;
     std::unique_ptr<PleaseWait_Modeless> plz_wait_Window;
     Window_Work m_work;
-    Main_Window* m_window = nullptr; ///< the one that the dialog was last opened over
+    Main_Window* m_window = nullptr; // the one the dialog was last opened over
 };

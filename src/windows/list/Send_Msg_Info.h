@@ -13,7 +13,7 @@ class Send_Msg_Info;
 }
 
 // Offers, before a job sends, to copy the message in Message_IS to all recipients or to those without a message. The
-// shared instance belongs to Shared_Instance, or to the main window once it was put over it; interface thread.
+// shared instance belongs to Shared_Instance, or to the main window once it has been put over it; interface thread.
 class Send_Msg_Info : public QDialog
 {
     Q_OBJECT
@@ -28,7 +28,7 @@ public:
 
     static Send_Msg_Info* defaultInstance();
 
-    /// Runs the dialog over the main window until it ends. Returns one of the three codes; Cancelled as well when the
+    /// Runs the dialog over the main window until it ends. Returns one of the three codes; Cancelled also when the
     /// program exits meanwhile.
     int Open_Dialog(Main_Window& window);
 
@@ -48,6 +48,6 @@ private:
     const std::unique_ptr<Ui::Send_Msg_Info> m_ui;
     std::unique_ptr<PleaseWait_Modeless> plz_wait_Window;
     Window_Work m_work;
-    Main_Window* m_window = nullptr; ///< the one that the dialog was last opened over
+    Main_Window* m_window = nullptr; // the one the dialog was last opened over
     int m_code = Cancelled;
 };

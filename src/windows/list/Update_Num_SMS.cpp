@@ -38,7 +38,7 @@ int Update_Num_SMS::Open_Dialog(Main_Window& window, int row)
     m_window = &window;
     const Recipient recipient = window.Recipients().At(row);
     {
-        const QSignalBlocker muted(*m_ui->m_num_str); // a number that stands there is not cut, only a typed one
+        const QSignalBlocker muted(*m_ui->m_num_str); // an existing number is not cut, only a typed one
         m_ui->m_num_str->setText(recipient.Number);
     }
     m_ui->m_s_str->setText(recipient.Number);
@@ -51,7 +51,7 @@ int Update_Num_SMS::Open_Dialog(Main_Window& window, int row)
     return Run_Dialog_Over(*this, window.Window());
 }
 
-// While the main window's own box is off its exclusion set is not kept up to date, and may never have been filled.
+// While the main window's own box is off, its exclusion set is not kept up to date and may never have been filled.
 void Update_Num_SMS::Exclusion_Chk()
 {
     if (m_ui->_Exclusion_Chk->isChecked() && !m_window->Read_Send_Choices().exclusion)

@@ -13,8 +13,8 @@ class Update_Num_SMS;
 }
 
 // Edits one recipient: the number, by the rules for a typed one, and the message. Its two check boxes are its own: they
-// begin as the main window's and are never written back. The shared instance belongs to Shared_Instance, or to the main
-// window once it was put over it; interface thread.
+// start out like the main window's and are never written back. The shared instance belongs to Shared_Instance, or to
+// the main window once it has been put over it; interface thread.
 class Update_Num_SMS : public QDialog
 {
     Q_OBJECT
@@ -25,8 +25,8 @@ public:
 
     static Update_Num_SMS* defaultInstance();
 
-    /// Runs the dialog over the main window, for the recipient at an index that the list has, until it ends. Returns 1
-    /// when the recipient was saved, 0 when the dialog was cancelled.
+    /// Runs the dialog over the main window, for the recipient at a valid index, until it ends. Returns 1 if the
+    /// recipient was saved, 0 if the dialog was cancelled.
     int Open_Dialog(Main_Window& window, int row);
 
     void Exclusion_Chk();
@@ -43,6 +43,6 @@ private:
 
     const std::unique_ptr<Ui::Update_Num_SMS> m_ui;
     std::unique_ptr<Counted_Message> m_message;
-    Number_List m_applied_exclusions; ///< what was read for the dialog's own check box
-    Main_Window* m_window = nullptr;  ///< the one that the dialog was last opened over
+    Number_List m_applied_exclusions; // what was read for the dialog's own check box
+    Main_Window* m_window = nullptr;  // the one the dialog was last opened over
 };

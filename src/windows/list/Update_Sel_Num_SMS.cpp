@@ -76,7 +76,7 @@ int Update_Sel_Num_SMS::Open_Dialog(Main_Window& window)
 
 void Update_Sel_Num_SMS::Load_Thread()
 {
-    // Whichever way the load ends, the dialog goes on.
+    // However the load ends, the dialog continues.
     const std::unique_ptr<Update_Sel_Num_SMS, void (*)(Update_Sel_Num_SMS*)> ended_load(
         this, [](Update_Sel_Num_SMS* dialog) { Run_On_Interface_Thread([=] { dialog->End_Load(); }); });
     LoadItems();
@@ -86,7 +86,7 @@ void Update_Sel_Num_SMS::LoadItems()
 {
     Recipient_List recipients;
     std::vector<int> selected_rows;
-    std::deque<QString> rows_before; // let go here, since there may be a million of them
+    std::deque<QString> rows_before; // released here, since there may be a million of them
     Run_On_Interface_Thread([&] {
         rows_before.swap(List_data_Object);
         Update_num_Count();

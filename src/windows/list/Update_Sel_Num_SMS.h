@@ -16,9 +16,9 @@ namespace Ui {
 class Update_Sel_Num_SMS;
 }
 
-// Gives the recipients selected in the main table one new message, after it has shown their numbers. The shared
-// instance belongs to Shared_Instance, or to the main window once it was put over it. A window of the interface thread:
-// the numbers are loaded by a worker, in batches, and Open_Dialog returns only after that worker has ended its load.
+// Gives the recipients selected in the main table one new message, after showing their numbers. The shared instance
+// belongs to Shared_Instance, or to the main window once it has been put over it. A window of the interface thread: a
+// worker loads the numbers in batches, and Open_Dialog returns only after that load has ended.
 class Update_Sel_Num_SMS : public QDialog
 {
     Q_OBJECT
@@ -30,7 +30,7 @@ public:
     static Update_Sel_Num_SMS* defaultInstance();
 
     /// Starts loading the selected numbers, waits one second and runs the dialog over the main window until it ends.
-    /// Input is taken once the whole list is in. Returns 1 when the message was copied, 0 when the dialog was
+    /// Takes no input until the whole list is loaded. Returns 1 if the message was copied, 0 if the dialog was
     /// cancelled.
     int Open_Dialog(Main_Window& window);
 
@@ -42,13 +42,13 @@ public:
     void Hide_Destroy_Modeless();
 
     int numberOfRowsInTableView() const;
-    /// The value of a row under a column's identifier; an empty text where there is none.
+    /// The value of a row for a column's identifier; an empty text if there is none.
     QString tableView(const QString& objectValueForTableColumn, int row) const;
 
-    void reject() override; ///< Escape and the close button: as Cancel, once the whole list is in
+    void reject() override; ///< Escape and the close button: as Cancel, once the whole list is loaded
 
 private:
-    // Of the worker.
+    // On the worker.
     void Load_Thread();
     void LoadItems();
     void Create_Number_List(const QString& number);
@@ -60,14 +60,14 @@ private:
     const std::unique_ptr<Ui::Update_Sel_Num_SMS> m_ui;
     std::unique_ptr<PleaseWait_Modeless> plz_wait_Window;
     std::unique_ptr<Counted_Message> m_message;
-    std::deque<QString> List_data_Object; // the rows, each its value under "Number"
+    std::deque<QString> List_data_Object; // the rows, each its value for "Number"
     std::unique_ptr<Row_Table_Model> m_rows;
-    Main_Window* m_window = nullptr; ///< the one that the dialog was last opened over
+    Main_Window* m_window = nullptr; // the one the dialog was last opened over
 
-    Window_Work m_work; // the load, until whose end the dialog takes no input
+    Window_Work m_work; // the load; the dialog takes no input until it has ended
     bool m_is_loading = false;
-    bool m_is_left = false;        // closed while the load ran, which ends the dialog after it
-    std::vector<QString> m_loaded; // what the worker has found and not yet published
+    bool m_is_left = false;        // closed during the load, which ends the dialog afterwards
+    std::vector<QString> m_loaded; // what the worker has found but not yet published
     std::size_t m_loaded_in_all = 0;
 };
 
