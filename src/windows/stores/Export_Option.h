@@ -19,7 +19,7 @@ public:
 
     static Export_Option* defaultInstance();
 
-    /// Runs the dialog over a window. Returns 1 for OK and 0 for Cancel, after which the mode is text.
+    /// Runs the dialog over a window. Returns 1 for OK and 0 for Cancel, which resets the mode to text.
     int Open_Dialog(QWidget* over);
 
     void Export_In_Text_RD();

@@ -27,8 +27,8 @@ namespace {
 
 constexpr double Wait_Before_Opening_Seconds = 1.0;
 
-// Does a step and returns whether it came to its end. One that fails, for want of memory above all, must not take the
-// window with it: nothing may be thrown out of what a button does.
+// Does a step and returns whether it was completed. A failing one, mostly for lack of memory, must not take the window
+// with it: nothing may be thrown out of a button's action.
 bool Succeeds(const std::function<void()>& step)
 {
     try {
@@ -83,7 +83,7 @@ int List_Window::Open_Window()
                 Show_Create_Modeless();
         });
         code = exec();
-        hide(); // left standing by an exit of the program
+        hide(); // left open by an exit of the program
     }
     Await_Load();
     return code;
@@ -101,7 +101,7 @@ void List_Window::Begin_Load()
 
 void List_Window::Load_Thread()
 {
-    // Whichever way the load ends, the window goes on.
+    // However the load ends, the window continues.
     const std::shared_ptr<void> ended(nullptr, [this](void*) { Run_On_Interface_Thread([this] { End_Load(); }); });
     LoadItems();
     Run_On_Interface_Thread([this] {
@@ -114,7 +114,7 @@ void List_Window::Load_Thread()
 void List_Window::End_Load()
 {
     m_is_loading = false;
-    if (!m_is_whole) { // half a list would pass for the whole
+    if (!m_is_whole) { // half a list would be taken for the whole
         Begin_Anew();
         Update_Count();
     }

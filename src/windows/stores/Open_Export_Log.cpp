@@ -39,7 +39,7 @@ void Open_Export_Log::OKPressed()
         End(1);
 }
 
-// Nothing else would tell why no file comes up. The next OK closes the dialog, unless the box is ticked again.
+// Nothing else would explain why no file opens. The next OK closes the dialog, unless the box is ticked again.
 void Open_Export_Log::Tell_It_Stays_Closed()
 {
     m_ui->Open_File_Chk->setChecked(false);

@@ -7,7 +7,7 @@ namespace Ui {
 class Open_Export_Log;
 }
 
-// Tells that an export is written and offers to open the file at Export_File_Path with the desktop's own program for
+// Says that an export has been written and offers to open the file at Export_File_Path with the desktop's program for
 // it. One shared instance, put over the window that exported; interface thread.
 class Open_Export_Log : public QDialog
 {
@@ -22,7 +22,7 @@ public:
     /// Runs the dialog over a window. Returns 1 for OK and 0 for Cancel.
     int Open_Dialog(QWidget* over);
 
-    void OKPressed(); ///< opens the file when the check box is on; stays and says so when nothing opens it
+    void OKPressed(); ///< opens the file if the check box is on; stays and says so if nothing opens it
     void CancelPressed();
     void reject() override;
 

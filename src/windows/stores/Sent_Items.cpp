@@ -15,7 +15,7 @@
 
 namespace {
 
-// As much of a value as can be laid out at once. A message is never longer than 1600 characters, but the file may hold
+// As much of a value as can be laid out at once. A message never exceeds 1600 characters, but the file may hold
 // anything.
 constexpr int Longest_Shown = 10'000;
 
@@ -78,7 +78,7 @@ void Sent_Items::Set_Up_Table()
     const int letter = table->fontMetrics().averageCharWidth();
     auto* header = m_ui->idSendList->horizontalHeader();
     header->setStretchLastSection(false);
-    header->setSectionResizeMode(1, QHeaderView::Stretch); // the message takes what room there is
+    header->setSectionResizeMode(1, QHeaderView::Stretch); // the message takes the room that is left
     m_ui->idSendList->setColumnWidth(2, letter * 14);
     m_ui->idSendList->setColumnWidth(3, letter * 14);
     m_ui->idSendList->verticalScrollBar()->setObjectName(QStringLiteral("idSendListsclview"));

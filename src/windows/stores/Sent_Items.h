@@ -9,7 +9,7 @@ class Sent_Items;
 }
 
 // The window of the sent items: shows the file as a table and the selected record in full, deletes records and exports
-// them. The shared instance belongs to Shared_Instance, or to the main window once it was put over it; interface
+// them. The shared instance belongs to Shared_Instance, or to the main window once it has been put over it; interface
 // thread.
 class Sent_Items : public Store_Window<Sent_Item_List, Sent_Item_Store>
 {
@@ -24,13 +24,13 @@ public:
     /// Loads the file and runs the window until it is closed.
     void Open_Sent_Item_Wnd();
 
-    /// Adds a record at the list's end, its number trimmed; nothing when the number is blank.
+    /// Appends a record to the list, its number trimmed; nothing if the number is blank.
     void Create_Sent_Item_List(const QString& number, const QString& Message_str, const QString& Date_str,
                                const QString& Status_str);
     void Update_Send_List_Count();
     void tableViewSelectionDidChange();
 
-    /// The value of a record under a column's identifier. Throws Invalid_Parameter for a row outside the list.
+    /// The value of a record for a column's identifier. Throws Invalid_Parameter for a row outside the list.
     QString tableView(const QTableView* table, const QString& objectValueForTableColumn, int pRowIndex) const;
 
 protected:

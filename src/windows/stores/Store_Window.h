@@ -10,8 +10,8 @@
 #include <type_traits>
 #include <utility>
 
-// A list window whose rows come from one store: what the window of the sent items and that of the templates do alike
-// with a list, each of which has it as a field of its own: a QList of rows, or what can be used like one. Owned as they
+// A list window whose rows come from one store: what the sent items window and the templates window do alike with their
+// lists. Each holds its list in a field of its own: a QList of rows, or a type that can be used like one. Owned as they
 // are; interface thread.
 template <typename List, typename Store>
 class Store_Window : public List_Window
@@ -21,7 +21,7 @@ protected:
 
     Store_Window(QWidget* parent, const Words& words, List& list) : List_Window(parent, words), m_list(list) {}
 
-    /// Adds a row at the list's end, if there is one.
+    /// Appends a row to the list, if there is one.
     void Add(std::optional<Row> row)
     {
         if (!row)
@@ -30,7 +30,7 @@ protected:
         Update_Count();
     }
 
-    /// The value of a row under a column's identifier; empty for any other table. Throws Invalid_Parameter, with the
+    /// The value of a row for a column's identifier; empty for any other table. Throws Invalid_Parameter, with the
     /// condition, for a row outside the list.
     QString Value_In(const QTableView* table, const QString& identifier, int row, const char* condition) const
     {
@@ -39,7 +39,7 @@ protected:
         return table == &Table() ? m_list.at(row).Value(identifier) : QString();
     }
 
-    /// The whole list as an export: a header, and what piece makes of each row.
+    /// The whole list as an export: a header, and the result of piece for each row.
     Export_Content Content(int mode, QByteArray header, QByteArray (*piece)(int mode, const Row& row)) const
     {
         return {std::move(header), m_list.size(),

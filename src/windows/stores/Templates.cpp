@@ -43,7 +43,7 @@ Templates::Templates(QWidget* parent)
     Set_Up_Table();
     Set_Up_Detail(*m_ui->_templ_det_edit);
     m_ui->_notice->hide();
-    Update_temp_Window->setParent(this, Update_temp_Window->windowFlags()); // it goes with this window
+    Update_temp_Window->setParent(this, Update_temp_Window->windowFlags()); // it is destroyed with this window
     connect(m_ui->AddNew_Btn, &QPushButton::clicked, this, &Templates::AddNew_Btn);
     connect(m_ui->Update_Btn, &QPushButton::clicked, this, &Templates::Update_Btn);
     connect(m_ui->Clear_Sel_Btn, &QPushButton::clicked, this, &Templates::Clear_Sel_Btn);
@@ -158,7 +158,7 @@ void Templates::List_Was_Loaded()
 void Templates::List_Was_Written(bool is_written)
 {
     if (m_shows_unsaved)
-        m_unsaved.clear(); // what the person left of them is in the list
+        m_unsaved.clear(); // what the user kept of them is in the list
     if (is_written)
         return;
     QSet<QString> loaded;

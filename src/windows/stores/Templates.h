@@ -13,8 +13,8 @@ class Templates;
 }
 
 // The window of the templates: lists them, adds, edits, deletes and exports them, and puts one into the main window's
-// composer. The shared instance belongs to Shared_Instance, or to the main window once it was put over it; interface
-// thread.
+// composer. The shared instance belongs to Shared_Instance, or to the main window once it has been put over it;
+// interface thread.
 class Templates : public Store_Window<QList<Template_Item>, Template_Store>
 {
     Q_OBJECT
@@ -25,12 +25,12 @@ public:
 
     static Templates* defaultInstance();
 
-    /// Loads the file and runs the window until it is closed. Returns 1 when a template was used, 0 otherwise.
+    /// Loads the file and runs the window until it is closed. Returns 1 if a template was used, 0 otherwise.
     int Open_Template_Wnd();
 
-    /// Adds a template at the list's end, trimmed and cut to 1600 characters; nothing when the text is blank.
+    /// Appends a template to the list, trimmed and cut to 1600 characters; nothing if the text is blank.
     void Create_Template_List(const QString& text);
-    /// Puts a text in the place of the template of a row, if there is one.
+    /// Replaces the template of a row by a text, if there is one.
     void Replace_Template(int row, const QString& text);
     /// Whether a template of the list is exactly this text, as it would come back from the file.
     bool Check_Duplicate_Template(const QString& text) const;
@@ -43,7 +43,7 @@ public:
     void OnGetSelected(); ///< edits the first selected template
     void doubleClickInTable();
 
-    /// The value of a template under a column's identifier. Throws Invalid_Parameter for a row outside the list.
+    /// The value of a template for a column's identifier. Throws Invalid_Parameter for a row outside the list.
     QString tableView(const QTableView* table, const QString& objectValueForTableColumn, int pRowIndex) const;
 
 protected:
@@ -63,9 +63,9 @@ private:
     const std::unique_ptr<Ui::Templates> m_ui;
     QList<Template_Item> nsTemplateListData;
     QList<Template_Item> m_loaded;  // as the file had them when the window opened
-    bool m_can_be_saved = true;     // as far as could be told then
-    bool m_shows_unsaved = false;   // whether the list has come in with what could not be written before
-    QList<Template_Item> m_unsaved; // what was entered and could not be written when the window was last closed
+    bool m_can_be_saved = true;     // as far as was known then
+    bool m_shows_unsaved = false;   // whether the list includes what could not be written before
+    QList<Template_Item> m_unsaved; // what was entered but could not be written when the window was last closed
 
     // The editing dialog and its controls.
     UpdateTemp* Update_temp_Window;

@@ -13,7 +13,7 @@
 
 namespace {
 
-// What a text area makes of a text: it has only one kind of line break.
+// What a text area makes of a text: it knows only one kind of line break.
 QString As_Shown(const QString& text)
 {
     QPlainTextEdit edit;

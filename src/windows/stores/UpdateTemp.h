@@ -8,8 +8,8 @@ class UpdateTemp;
 }
 
 // Adds a template or edits one: the templates window fills its fields and runs it, and what is entered goes into that
-// window's list. Two fields are hidden: the row that is edited, empty when one is added, and the text before it was
-// edited. One shared instance, owned by the templates window; interface thread.
+// window's list. Two fields are hidden: the row being edited, empty for a new template, and the text before editing.
+// One shared instance, owned by the templates window; interface thread.
 class UpdateTemp : public QDialog
 {
     Q_OBJECT
