@@ -10,9 +10,9 @@ namespace Ui {
 class Connection_Info;
 }
 
-// The screen before the connection wizard: how a phone is switched to modem mode, and what stands in the way on this
-// computer, if anything does. The shared instance belongs to Shared_Instance and ends with End_Shared_Instances, before
-// the application object. Interface thread.
+// The screen before the connection wizard: how to switch a phone to modem mode, and what obstacles there are on this
+// computer, if any. The shared instance belongs to Shared_Instance and ends with End_Shared_Instances, before the
+// application object. Interface thread.
 class Connection_Info : public QDialog
 {
     Q_OBJECT
@@ -26,15 +26,15 @@ public:
 
     static Connection_Info* defaultInstance();
 
-    /// Finds out what applies now, shows it and runs modally. The only end is 1.
+    /// Finds out what applies now, shows it and runs modally. Always ends with 1.
     int exec() override;
 
-    /// Shows these in place of the pieces shown before.
+    /// Shows these pieces instead of those shown before.
     void Show_Advice(const QList<Advice>& advice);
 
     void Continue_Btn();
 
-    /// Escape and the close button: the same end.
+    /// Escape and the close button: as Continue.
     void reject() override;
 
 private:

@@ -29,7 +29,7 @@ namespace {
 constexpr double Wait_Before_Opening_Seconds = 1.0;
 constexpr int Letters_Of_A_Name = 36; // of a device, always in sight
 
-// What a device says may be long: the field shows its beginning.
+// A device's answer may be long: the field shows its beginning.
 void Show_Text(QLineEdit& field, const QString& text)
 {
     field.setText(text);
@@ -147,7 +147,7 @@ void Phone_List_Wnd::Find_Ph_List()
     Run_On_Interface_Thread([this] { m_ui->idPortList->verticalScrollBar()->setValue(0); });
 }
 
-// Whoever has the device may be in need of the interface thread: that one serves while it waits for its turn.
+// The holder of the device may need the interface thread, which therefore serves while it waits for its turn.
 std::unique_lock<std::mutex> Phone_List_Wnd::Device_Turn()
 {
     std::unique_lock turn(m_device_turn, std::defer_lock);
@@ -184,14 +184,14 @@ void Phone_List_Wnd::Create_Port_List(const QString& name, const QString& Port_D
 
 void Phone_List_Wnd::End_Search()
 {
-    // A row clicked during the search was passed over; it must not stay highlighted, or a click on it would be no
-    // change.
+    // A click on a row during the search had no effect; the row must not stay highlighted, or another click on it would
+    // be no change.
     m_ui->idPortList->selectionModel()->clear();
     Show_Searching(false);
     ph_find_thread = 0;
 }
 
-// The list fills while the search goes on, and stays empty for as long as the first devices keep it waiting.
+// The list fills while the search is running, and stays empty as long as the first devices keep it waiting.
 void Phone_List_Wnd::Show_Searching(bool is_searching)
 {
     if (is_searching == m_is_searching_shown)
@@ -199,7 +199,7 @@ void Phone_List_Wnd::Show_Searching(bool is_searching)
     m_is_searching_shown = is_searching;
     m_ui->device_box->setTitle(is_searching ? tr("Searching for devices ...") : tr("Devices found"));
     if (is_searching)
-        QApplication::setOverrideCursor(Qt::BusyCursor); // for the search before the window opens, too
+        QApplication::setOverrideCursor(Qt::BusyCursor); // also for the search before the window opens
     else
         QApplication::restoreOverrideCursor();
 }
@@ -250,7 +250,7 @@ void Phone_List_Wnd::Find_Ph_Value_Thread()
         fault = OnGetSelected();
         Run_On_Interface_Thread([this] { port.Close(); });
     }
-    // Nobody is asked to wait while there is something to read.
+    // There is no please-wait sheet while the user has something to read.
     if (!fault.isEmpty())
         Tell_About_Device(fault);
 }
@@ -270,7 +270,7 @@ QString Phone_List_Wnd::OnGetSelected()
 void Phone_List_Wnd::Set_Phone_Value(Phone_Value value, const QString& text)
 {
     Run_On_Interface_Thread([&] {
-        // A copy of the window's own: the text is a worker's.
+        // A copy of the window's own: the text belongs to a worker.
         if (auto* field = findChild<QLineEdit*>(QLatin1String(Phone_Value_Field(value))))
             Show_Text(*field, QString(text.constData(), text.size()));
     });
@@ -291,7 +291,7 @@ void Phone_List_Wnd::Hide_Destroy_Modeless()
 
 void Phone_List_Wnd::Tell_About_Device(const QString& text)
 {
-    // A window that was left meanwhile has nobody to tell it to.
+    // A window closed meanwhile has nobody to tell.
     Run_On_Interface_Thread([&] {
         if (isVisible())
             Show_MessageBox(text);
@@ -374,14 +374,14 @@ void Phone_List_Wnd::ContinueOfflinePressed()
 
 void Phone_List_Wnd::reject()
 {
-    // While a device is being talked to, the window has to wait for it.
+    // While a device is being talked to, the window must wait for it.
     if (!m_is_selecting && !m_work.Is_Sheet_Shown())
         ContinueOfflinePressed();
 }
 
 // ------------------------------------------------------------------------------------------------------ the workers
 
-// Nothing is left running behind a closed window, and nothing open. The workers are served while they are waited for.
+// Nothing is left running or open behind a closed window. The workers are served while they are waited for.
 void Phone_List_Wnd::End_Run()
 {
     m_work.Await();

@@ -18,9 +18,9 @@ namespace Ui {
 class Phone_List_Wnd;
 }
 
-// The connection wizard: lists the devices found, shows what the one clicked tells about itself, and takes one to send
-// through into sel_port_name_str, sel_port_bsd_str and Cus_SMS_Num_STR. The shared instance belongs to Shared_Instance
-// and ends with End_Shared_Instances, before the application object; its end waits for its own workers. A window of the
+// The connection wizard: lists the devices found, shows the details of the one clicked, and takes one to send through
+// into sel_port_name_str, sel_port_bsd_str and Cus_SMS_Num_STR. The shared instance belongs to Shared_Instance and ends
+// with End_Shared_Instances, before the application object; it then waits for its own workers. A window of the
 // interface thread: searches and probes run on workers and come back through the hops marked here.
 class Phone_List_Wnd : public QDialog, public Found_Port_List, public Probe_Display
 {
@@ -33,8 +33,8 @@ public:
 
     static Phone_List_Wnd* defaultInstance();
 
-    /// Searches, waits one second and runs the window modally. Returns 1 when a device was taken and 0 when the user
-    /// went on without one; no worker of the wizard runs any more then, and its port is closed.
+    /// Searches, waits one second and runs the window modally. Returns 1 if a device was taken and 0 if the user went
+    /// on without one; by then no worker of the wizard is running, and its port is closed.
     int Open_Ph_List_Wnd();
 
     void Search_dev_Pressed();
@@ -93,8 +93,8 @@ private:
     std::unique_ptr<PleaseWait_Modeless> plz_wait_Window;
     Wizard_Port_Slot port;
 
-    Window_Work m_work; // takes no input from a click on a row until the sheet stands over the window
+    Window_Work m_work; // takes no input from a click on a row until the sheet covers the window
     bool m_is_selecting = false;
     bool m_is_searching_shown = false;
-    std::mutex m_device_turn; // one search, probe or check at a time has the session
+    std::mutex m_device_turn; // the session serves one search, probe or check at a time
 };

@@ -6,19 +6,19 @@
 #include <QString>
 #include <memory>
 
-// The wizard's own place for a port, beside the session's. What comes over it unasked is only logged. Owned by the
+// The wizard's own place for a port, besides the session's. Unsolicited data from it is only logged. Owned by the
 // wizard's window; interface thread.
 class Wizard_Port_Slot : public KVSerialPortDelegate
 {
 public:
     ~Wizard_Port_Slot() override;
 
-    /// Opens the device and begins to read it in the background; the slot is empty when that fails. Does nothing when
-    /// the slot holds a port on that path already, open or not.
+    /// Opens the device and starts reading it in the background; the slot is empty if that fails. Does nothing if the
+    /// slot already holds a port on that path, open or not.
     void initPort(const QString& path);
     void setPort(const std::shared_ptr<KVSerialPort>& port) { m_port = port; }
     std::shared_ptr<KVSerialPort> port() const { return m_port; }
-    /// Closes the port, if there is one, and drops it.
+    /// Closes the port, if any, and drops it.
     void Close();
 
     bool handlesReadInBackground() const override { return true; }
