@@ -9,9 +9,9 @@ struct Command_Line
     QStringList device_paths; ///< every path given with --device
     bool demo = false;        ///< start the virtual phone and offer it in the wizard
 
-    /// What to print before ending at once; empty when the program is to run.
+    /// What to print before ending at once; empty if the program is to run.
     QString answer;
-    /// Whether the answer reports a mistake: it goes to the standard error and the exit status is 2.
+    /// Whether the answer reports a mistake: it then goes to standard error, and the exit status is 2.
     bool is_mistaken = false;
 };
 

@@ -35,7 +35,7 @@ void Demo_Phone::Read_Lines()
 {
     while (m_process.canReadLine()) {
         const QByteArray line = m_process.readLine().trimmed();
-        if (m_path.isEmpty()) // the first line is the line's own path; the link to it has a name that tells what it is
+        if (m_path.isEmpty()) // the first line is the line's own path; the link to it has a name that says what it is
             m_path = m_folder.filePath(QStringLiteral("demo-phone"));
         else
             Q_EMIT Printed(line);

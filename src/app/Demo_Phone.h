@@ -6,7 +6,7 @@
 #include <QTemporaryDir>
 
 // The virtual phone of --demo: corvane-phone, started as a child of the program. It ends when the program does, however
-// that comes about. Owned by the program's start; interface thread.
+// that happens. Owned by the program's start; interface thread.
 class Demo_Phone : public QObject
 {
     Q_OBJECT
@@ -15,8 +15,8 @@ public:
     explicit Demo_Phone(QObject* parent = nullptr);
     ~Demo_Phone() override;
 
-    /// Starts the phone program and waits, five seconds at the most, for the path of its line. Returns the path, or an
-    /// empty text when there is none; Error() then says why.
+    /// Starts the phone program and waits, at most five seconds, for the path of its line. Returns the path, or an
+    /// empty text if there is none; Error() then says why.
     QString Start(const QString& program);
     QString Path() const { return m_path; }
     QString Error() const { return m_error; }

@@ -31,7 +31,7 @@ void Bring_Up(QWidget& window)
     window.activateWindow();
 }
 
-// What an earlier start may have left when it was killed; nobody else's.
+// What an earlier start may have left when it was killed, and nothing else.
 void Clear_Up_The_Data_Folders()
 {
     for (const QString& folder : {Corvane_Data_Folder_Path, Exclusion_Folder_Path})
@@ -46,8 +46,8 @@ Program::Program(Command_Line command_line, Single_Start* single_start)
     Apply_Application_Look(*qApp);
     Pass_Over_Asked_For_Focus();
     Guarded_Application::When_Something_Breaks([] { Show_MessageBox(Texts::Main::Something_Broke); });
-    // The toolkit's file panels would keep a file of where the user has been, and wait for its lock when a start that
-    // was killed has left it. No file can be in such a place.
+    // The toolkit's file panels would keep a record of the folders the user visited, and wait for its lock if a killed
+    // start has left it. No file can exist in such a place.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
     QApplication::setQuitOnLastWindowClosed(false); // the main window decides, not the last dialog that closes
 }
@@ -81,7 +81,7 @@ bool Program::Start()
 
 int Program::Run()
 {
-    // Left already, from a box that was open during the start: an event loop begun now would never end.
+    // The user has already left, from a box open during the start: an event loop begun now would never end.
     return m_is_leaving ? 0 : QApplication::exec();
 }
 
@@ -93,7 +93,7 @@ void Program::Leave()
     if (m_single_start)
         m_single_start->Stop_Listening(); // a start from now on is a new program, once this one has ended
     Begin_Program_Exit();
-    Stop_SMS_Sending_Now = 1; // after the exit has begun: a job that clears the flag looks for the exit then
+    Stop_SMS_Sending_Now = 1; // after the exit has begun: a job that clears the flag then looks for the exit
     Close_Message_Boxes();
     QCoreApplication::exit(0); // ends every dialog's own event loop as well
 }
@@ -105,7 +105,7 @@ void Program::Come_To_The_Front()
     QWidget* modal = QApplication::activeModalWidget();
     if (modal)
         Bring_Up(*modal);
-    // Where the desktop lets no program come to the front by itself, it shows at least that there is something.
+    // Where the desktop lets no program come to the front on its own, this at least draws attention to it.
     QApplication::alert(modal ? modal : m_delegate.get());
 }
 

@@ -17,11 +17,11 @@ class Program : public QObject
     Q_OBJECT
 
 public:
-    /// single_start, when there is one, outlives the program and has begun as the first.
+    /// single_start, if given, outlives the program and has begun as the first.
     explicit Program(Command_Line command_line, Single_Start* single_start = nullptr);
     ~Program() override;
 
-    /// Builds everything and shows the main window. Returns false when the program can not go on; the user has been
+    /// Builds everything and shows the main window. Returns false if the program cannot go on; the user has then been
     /// told.
     bool Start();
     /// Serves events until the user leaves. Returns the exit status.
@@ -30,7 +30,7 @@ public:
     CorvaneAppDelegate& Delegate() { return *m_delegate; }
     Demo_Phone* Phone_Of_The_Demo() { return m_demo_phone.get(); }
 
-    /// Begins the way out, as the user's Yes does: a running job stops, open boxes and dialogs close, Run() returns.
+    /// Begins the way out, like the user's Yes: a running job stops, open boxes and dialogs close, Run() returns.
     void Leave();
 
     /// Shows the main window, and what is open over it, above all other windows: the user has started the program once

@@ -44,7 +44,7 @@ int main(int argc, char** argv)
     if (!Has_Display())
         return Say_And_End(QStringLiteral("corvane: there is no display to open a window on."), 2);
 
-    // Outlives everything that writes, and comes before anything that reads.
+    // Outlives everything that writes, and precedes everything that reads.
     Single_Start single_start(QFileInfo(Default_Resource_Path()).path());
     switch (single_start.Begin()) {
     case Single_Start::Outcome::First:
