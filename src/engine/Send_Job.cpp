@@ -188,34 +188,18 @@ bool Send_Job::Skip_Item(int index, const QString& number)
     return true;
 }
 
-Send_Job::Outcome Send_Job::Submit(const QString& number, const QString& message)
-{
-    return m_mode == Pdu_Mode ? Submit_In_PDU_Mode(number, message) : Submit_In_Text_Mode(number, message);
-}
-
 // The two modes differ in what an exception means: in PDU mode the line is no longer reliable, in text mode the item
 // counts as handled.
-Send_Job::Outcome Send_Job::Submit_In_PDU_Mode(const QString& number, const QString& message)
+Send_Job::Outcome Send_Job::Submit(const QString& number, const QString& message)
 {
+    const auto send = m_mode == Pdu_Mode ? &MFCSMS::Send_PDU_SMS : &MFCSMS::Send_Text_SMS;
     try {
-        const bool is_handed_over = m_session.Send_PDU_SMS(m_handle, number, message, m_order.service_centre,
-                                                           m_order.choices.flash, m_order.choices.unicode);
+        const bool is_handed_over = (m_session.*send)(m_handle, number, message, m_order.service_centre,
+                                                      m_order.choices.flash, m_order.choices.unicode);
         Wait_Seconds(Seconds_After_Message);
         return is_handed_over ? Outcome::Handled : Outcome::Failed;
     } catch (const std::exception&) {
-        return Outcome::Broken_Off;
-    }
-}
-
-Send_Job::Outcome Send_Job::Submit_In_Text_Mode(const QString& number, const QString& message)
-{
-    try {
-        const bool is_handed_over = m_session.Send_Text_SMS(m_handle, number, message, m_order.service_centre,
-                                                            m_order.choices.flash, m_order.choices.unicode);
-        Wait_Seconds(Seconds_After_Message);
-        return is_handed_over ? Outcome::Handled : Outcome::Failed;
-    } catch (const std::exception&) {
-        return Outcome::Handled;
+        return m_mode == Pdu_Mode ? Outcome::Broken_Off : Outcome::Handled;
     }
 }
 

@@ -39,8 +39,6 @@ private:
     void Keep_Records(const QString& number, const QString& message);
     bool Skip_Item(int index, const QString& number);
     Outcome Submit(const QString& number, const QString& message);
-    Outcome Submit_In_PDU_Mode(const QString& number, const QString& message);
-    Outcome Submit_In_Text_Mode(const QString& number, const QString& message);
     void Reload_Exclusions();
     void Pause_If_Due(int index);
     void Finish();

@@ -3,8 +3,8 @@
 #include "texts/Fixed_Text.h"
 
 // The program's fixed texts: what boxes say and ask and how labels begin, each once, grouped by the window that shows
-// it. They are meant to be exactly so, including odd spellings and leading blank lines. No code reads a text back to
-// learn what the program is doing.
+// it. They are meant to be exactly so, including odd spellings and leading blank lines. No code reads one of them
+// back to learn what the program is doing.
 
 // Shared by several windows.
 namespace Texts {
