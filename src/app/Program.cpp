@@ -47,7 +47,7 @@ Program::Program(Command_Line command_line, Single_Start* single_start)
     Pass_Over_Asked_For_Focus();
     Guarded_Application::When_Something_Breaks([] { Show_MessageBox(Texts::Main::Something_Broke); });
     // The toolkit's file panels would keep a record of the folders the user visited, and wait for its lock if a killed
-    // start has left it. No file can exist in such a place.
+    // start has left it. No file can be made below this path.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
     QApplication::setQuitOnLastWindowClosed(false); // the main window decides, not the last dialog that closes
 }

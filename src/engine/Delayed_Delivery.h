@@ -14,7 +14,7 @@ QStringList Pause_Choices();
 inline constexpr int Preselected_Batch_Size = 6;    ///< index of "15"
 inline constexpr int Preselected_Pause_Choice = 12; ///< index of " 2  Minutes"
 
-/// What the two boxes ask for.
+// What the two boxes ask for.
 struct Setting
 {
     int batch_size = 0;          ///< handled items before each pause; at 0 or less the counter never reaches it

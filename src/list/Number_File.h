@@ -10,7 +10,7 @@
 /// parsed as a whole.
 inline constexpr qint64 Largest_Number_File = qint64{512} << 20;
 
-/// The bytes of a file of numbers. Empty when what exists there is no such file: a folder, a pipe or a device, which
+/// The bytes of a file of numbers. Empty when what is there is not such a file: a folder, a pipe or a device, which
 /// have no end, or a file above the limit. Nothing when it cannot be read. Any thread.
 std::optional<QByteArray> Bytes_Of_Number_File(const QString& path, qint64 largest = Largest_Number_File);
 

@@ -14,7 +14,7 @@ enum class Number_Verdict
     Excluded
 };
 
-/// The lists in which a number is looked for; null where a list does not matter.
+// The lists in which a number is looked for; null where a list does not matter.
 struct Number_Terms
 {
     const Number_List* present = nullptr;

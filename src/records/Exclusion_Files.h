@@ -16,7 +16,7 @@ namespace Exclusion_Files {
 /// folder or to another list, and has no path. The only way to a list's file, whatever is done with it.
 std::optional<QString> List_Path(const QString& list_name);
 
-/// What the applied lists hold together.
+// What the applied lists hold together.
 struct Applied_Numbers
 {
     Number_List numbers;        ///< one list after the other, repeats included

@@ -7,7 +7,7 @@
 // Writes an export, whatever its pieces are: those of the stores have a byte-order mark each, those of a contact list
 // none.
 
-/// What an export consists of: its header, then the number of its pieces and each of them by index.
+// What an export consists of: its header, then the number of its pieces and each of them by index.
 struct Export_Content
 {
     QByteArray header;

@@ -8,7 +8,7 @@ class Row_Table_Model;
 
 // How every table of the program is set up, and queries on its selection. Interface thread only.
 
-/// A row that the list does not have was requested; the text is "Invalid parameter not satisfying: " and the condition.
+// A row that the list does not have was requested; the text is "Invalid parameter not satisfying: " and the condition.
 class Invalid_Parameter : public std::logic_error
 {
 public:

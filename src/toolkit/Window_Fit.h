@@ -5,7 +5,7 @@ class QWidget;
 // How large the program's windows are: that depends on what they show, in the desktop's font, and on their screen. No
 // window has a size in pixels of its own.
 
-/// A size in letters and lines of the window's own font; without one the content alone decides.
+// A size in letters and lines of the window's own font; without one the content alone decides.
 struct Letters
 {
     int columns = 0;

@@ -46,7 +46,7 @@ protected:
     static constexpr unsigned No_Index = 0x7fffffff;
     static constexpr int Early_Reload_Count = 10; ///< at this count the label reloads the table, once
 
-    /// The window's texts.
+    // The window's texts.
     struct Words
     {
         Fixed_Text empty_at_clear_selected;
