@@ -27,7 +27,7 @@ protected:
     /// stays.
     void Offer_Close_Button();
     void closeEvent(QCloseEvent* event) override;
-    void paintEvent(QPaintEvent* event) override; ///< with an edge, which some desktops omit without buttons
+    void paintEvent(QPaintEvent* event) override; ///< with an edge: some desktops give windows without buttons none
 
 private:
     void Become(Qt::WindowModality modality, Qt::WindowFlags flags);

@@ -39,8 +39,8 @@ private:
 
     struct Row
     {
-        QBoxLayout* layout; // that it needed when it was last a row
-        int width = 0;      ///< that it needed when it last was a row
+        QBoxLayout* layout; // the page owns it
+        int width = 0;      // that it needed when it was last a row
     };
 
     QBoxLayout* m_rows; // of the page, which owns it
