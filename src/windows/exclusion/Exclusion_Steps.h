@@ -22,8 +22,11 @@ public:
         Name_Of_Edited
     };
 
-    bool back_flag = false;     ///< the numbers table has unsaved changes; what Back asks about
-    bool update_app_ex = false; ///< the applied lists have unsaved changes; nothing asks about them
+    void Note_Unsaved_Numbers() { back_flag = true; }
+    void Note_Unsaved_Applied() { update_app_ex = true; }
+    void Forget_Unsaved_Numbers() { back_flag = false; }
+    void Forget_Unsaved_Applied() { update_app_ex = false; }
+    bool Has_Unsaved_Numbers() const { return back_flag; }
 
     void Begin_New_List();
     /// From the name of a new list to its numbers.
@@ -42,4 +45,7 @@ public:
 
 private:
     bool May_Leave_Numbers(const std::function<bool()>& may_be_lost);
+
+    bool back_flag = false;     // the numbers table has unsaved changes; what Back asks about
+    bool update_app_ex = false; // the applied lists have unsaved changes; nothing asks about them
 };

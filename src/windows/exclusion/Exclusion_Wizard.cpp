@@ -2,31 +2,19 @@
 
 #include "list/Exclusion_Rules.h"
 #include "list/Number_Rules.h"
-#include "platform/Interface_Thread.h"
-#include "platform/String_Helpers.h"
 #include "records/Exclusion_Files.h"
 #include "texts/Texts.h"
 #include "toolkit/Dialog_Over.h"
 #include "toolkit/Key_Actions.h"
 #include "toolkit/Line_Edit_Limit.h"
 #include "toolkit/List_Tables.h"
-#include "toolkit/Main_Window.h"
-#include "toolkit/Message_Boxes.h"
 #include "toolkit/PleaseWait_Modeless.h"
-#include "toolkit/Row_Table_Model.h"
 #include "toolkit/Shared_Instance.h"
 #include "toolkit/Window_Look.h"
-#include "toolkit/Window_Work.h"
 #include "ui_Exclusion_Wizard.h"
-#include "windows/exclusion/Update_Ex_Num.h"
 
 #include <QCloseEvent>
-#include <QHeaderView>
-#include <QScopedValueRollback>
 #include <QScrollBar>
-
-// The window's making and end, its tables and their first load. Its screens are in Exclusion_Wizard_Screens.cpp, the
-// lists in Exclusion_Wizard_Lists.cpp and the numbers in Exclusion_Wizard_Numbers.cpp.
 
 Exclusion_Wizard* Exclusion_wnd = nullptr;
 QString ex_file_Path;
@@ -34,21 +22,24 @@ QString ex_file_Path;
 namespace {
 
 constexpr double Wait_After_Loading_Seconds = 1.0;
-constexpr unsigned No_Index = 0x7fffffff;
 
-const QString Key_Available = QStringLiteral("Avail_List");
-const QString Key_Applied = QStringLiteral("Exclude_List");
-const QString Key_Number = QStringLiteral("Exclusion_Num_List");
+std::unique_ptr<Ui::Exclusion_Wizard> Form_In(Exclusion_Wizard& window)
+{
+    auto form = std::make_unique<Ui::Exclusion_Wizard>();
+    form->setupUi(&window);
+    Apply_Window_Look(window, Letters{.columns = 120, .lines = 40});
+    return form;
+}
 
 } // namespace
 
-Exclusion_Wizard::Exclusion_Wizard(QWidget* parent) : QDialog(parent), m_ui(std::make_unique<Ui::Exclusion_Wizard>())
+Exclusion_Wizard::Exclusion_Wizard(QWidget* parent)
+    : QDialog(parent), m_ui(Form_In(*this)), plz_wait_Window(std::make_unique<PleaseWait_Modeless>(this)),
+      m_work(*this, *plz_wait_Window),
+      m_lists(*m_ui->m_exclusion_list, *m_ui->m_applied_axclusion_list, m_work, m_steps),
+      m_name(*m_ui->m_ex_list_name_edit), m_numbers(*m_ui, m_work, m_steps),
+      m_screens(*m_ui, m_lists, m_name, m_numbers, m_steps)
 {
-    m_ui->setupUi(this);
-    Apply_Window_Look(*this, Letters{.columns = 120, .lines = 40});
-    Update_Excl_Num_Window = std::make_unique<Update_Ex_Num>(*this, this);
-    plz_wait_Window = std::make_unique<PleaseWait_Modeless>(this);
-    m_work = std::make_unique<Window_Work>(*this, *plz_wait_Window);
     awakeFromNib();
 }
 
@@ -70,80 +61,55 @@ void Exclusion_Wizard::awakeFromNib()
     palette.setColor(QPalette::Window, Window_Background());
     m_ui->m_st_msg->setPalette(palette);
     m_ui->m_st_msg->setAutoFillBackground(true);
-    Set_Up_Tables();
-    Connect_Controls();
-    Show_Hide_Add_Screen_1(true);
-    Show_Hide_Finish_Screen(true);
-    Show_Info(Texts::Exclusion::message_info1);
+    Connect_Buttons();
+    Connect_Fields_And_Tables();
+    m_screens.Hide_All_But_First();
     Exclusion_wnd = this;
 }
 
-void Exclusion_Wizard::Set_Up_Tables()
+void Exclusion_Wizard::Connect_Buttons()
 {
-    m_available_rows = Give_Rows(*m_ui->m_exclusion_list, Key_Available, tr("Available exclusion lists"));
-    m_applied_rows = Give_Rows(*m_ui->m_applied_axclusion_list, Key_Applied, tr("Exclude when sending SMS"));
-    m_number_rows = Give_Rows(*m_ui->m_ex_num_list, Key_Number, tr("Excluded number"));
-    m_ui->m_exclusion_list->verticalHeader()->hide();
-    m_ui->m_applied_axclusion_list->verticalHeader()->hide();
+    const std::pair<QPushButton*, void (Exclusion_Wizard::*)()> buttons[] = {
+        {m_ui->m_addlist_btn, &Exclusion_Wizard::Add_List_Btn},
+        {m_ui->m_addAll_list_btn, &Exclusion_Wizard::Add_All_List_Btn},
+        {m_ui->m_dellist_btn, &Exclusion_Wizard::Remove_List_Btn},
+        {m_ui->m_delall_list_btn, &Exclusion_Wizard::Remove_All_List_Btn},
+        {m_ui->m_addnew_btn, &Exclusion_Wizard::AddNew_Btn},
+        {m_ui->m_update_btn, &Exclusion_Wizard::Update_Btn},
+        {m_ui->m_delete_btn, &Exclusion_Wizard::Delete_Btn},
+        {m_ui->m_saveapplied_btn, &Exclusion_Wizard::Save_Applied_Btn},
+        {m_ui->m_cancel_btn, &Exclusion_Wizard::Cancel_Btn},
+        {m_ui->m_back_btn, &Exclusion_Wizard::Back_Btn},
+        {m_ui->m_next_btn, &Exclusion_Wizard::Next_Btn},
+        {m_ui->m_finish_btn, &Exclusion_Wizard::Finish_Btn},
+        {m_ui->m_cancel2_btn, &Exclusion_Wizard::Cancel_2_Btn},
+        {m_ui->m_browse_btn, &Exclusion_Wizard::Browse_Btn},
+        {m_ui->m_load_btn, &Exclusion_Wizard::Load_File_Btn},
+        {m_ui->m_add_num_btn, &Exclusion_Wizard::Add_Number_Btn},
+        {m_ui->m_update_num_btn, &Exclusion_Wizard::Update_Number_Btn},
+        {m_ui->m_del_num_btn, &Exclusion_Wizard::Remove_Number_Btn},
+    };
+    for (const auto& [button, operation] : buttons)
+        connect(button, &QPushButton::clicked, this, operation);
 }
 
-Row_Table_Model* Exclusion_Wizard::Give_Rows(QTableView& table, const QString& identifier, const QString& title)
+void Exclusion_Wizard::Connect_Fields_And_Tables()
 {
-    auto* rows = new Row_Table_Model(
-        {{identifier, title}}, [this, &table] { return numberOfRowsInTableView(&table); },
-        [this, &table](const QString& column, int row) { return tableView(&table, column, row); }, this);
-    Prepare_List_Table(table, *rows);
-    table.verticalScrollBar()->setObjectName(table.objectName() + QStringLiteral("_ScrlView"));
-    connect(&table, &QTableView::doubleClicked, this, [this, &table] { doubleClickInTable(table); });
-    return rows;
-}
-
-void Exclusion_Wizard::Connect_Controls()
-{
-    Connect_First_Screen();
-    Connect_Other_Screens();
     for (QLineEdit* field : {m_ui->m_ex_list_name_edit, m_ui->m_loadnum_edit})
         connect(field, &QLineEdit::textChanged, this, [this, field] { controlTextDidChange(*field); });
     Act_On_Keys(*m_ui->m_loadnum_edit, Return_Keys, [this] { Add_Number_Btn(); });
     Act_On_Keys(*m_ui->m_loadfile_edit, Return_Keys, [this] { Load_File_Btn(); });
-    Connect_Table_Keys();
-}
-
-void Exclusion_Wizard::Connect_Table_Keys()
-{
+    for (QTableView* table : {m_ui->m_exclusion_list, m_ui->m_applied_axclusion_list, m_ui->m_ex_num_list}) {
+        table->verticalScrollBar()->setObjectName(table->objectName() + QStringLiteral("_ScrlView"));
+        connect(table, &QTableView::doubleClicked, this, [this, table] { doubleClickInTable(*table); });
+    }
     Give_Table_Keys(*m_ui->m_exclusion_list, {[this] { Update_Btn(); }, [this] { Delete_Btn(); }});
     Give_Table_Keys(*m_ui->m_applied_axclusion_list,
                     {[this] { doubleClickInTable(*m_ui->m_applied_axclusion_list); }, [this] { Remove_List_Btn(); }});
     Give_Table_Keys(*m_ui->m_ex_num_list, {[this] { Update_Number_Btn(); }, [this] { Remove_Number_Btn(); }});
 }
 
-void Exclusion_Wizard::Connect_First_Screen()
-{
-    connect(m_ui->m_addlist_btn, &QPushButton::clicked, this, &Exclusion_Wizard::Add_List_Btn);
-    connect(m_ui->m_addAll_list_btn, &QPushButton::clicked, this, &Exclusion_Wizard::Add_All_List_Btn);
-    connect(m_ui->m_dellist_btn, &QPushButton::clicked, this, &Exclusion_Wizard::Remove_List_Btn);
-    connect(m_ui->m_delall_list_btn, &QPushButton::clicked, this, &Exclusion_Wizard::Remove_All_List_Btn);
-    connect(m_ui->m_addnew_btn, &QPushButton::clicked, this, &Exclusion_Wizard::AddNew_Btn);
-    connect(m_ui->m_update_btn, &QPushButton::clicked, this, &Exclusion_Wizard::Update_Btn);
-    connect(m_ui->m_delete_btn, &QPushButton::clicked, this, &Exclusion_Wizard::Delete_Btn);
-    connect(m_ui->m_saveapplied_btn, &QPushButton::clicked, this, &Exclusion_Wizard::Save_Applied_Btn);
-    connect(m_ui->m_cancel_btn, &QPushButton::clicked, this, &Exclusion_Wizard::Cancel_Btn);
-}
-
-void Exclusion_Wizard::Connect_Other_Screens()
-{
-    connect(m_ui->m_back_btn, &QPushButton::clicked, this, &Exclusion_Wizard::Back_Btn);
-    connect(m_ui->m_next_btn, &QPushButton::clicked, this, &Exclusion_Wizard::Next_Btn);
-    connect(m_ui->m_finish_btn, &QPushButton::clicked, this, &Exclusion_Wizard::Finish_Btn);
-    connect(m_ui->m_cancel2_btn, &QPushButton::clicked, this, &Exclusion_Wizard::Cancel_2_Btn);
-    connect(m_ui->m_browse_btn, &QPushButton::clicked, this, &Exclusion_Wizard::Browse_Btn);
-    connect(m_ui->m_load_btn, &QPushButton::clicked, this, &Exclusion_Wizard::Load_File_Btn);
-    connect(m_ui->m_add_num_btn, &QPushButton::clicked, this, &Exclusion_Wizard::Add_Number_Btn);
-    connect(m_ui->m_update_num_btn, &QPushButton::clicked, this, &Exclusion_Wizard::Update_Number_Btn);
-    connect(m_ui->m_del_num_btn, &QPushButton::clicked, this, &Exclusion_Wizard::Remove_Number_Btn);
-}
-
-// ------------------------------------------------------------------------------------------------ opening and loading
+// ------------------------------------------------------------------------------------- opening, loading and closing
 
 void Exclusion_Wizard::Open_Exclusion_Wnd()
 {
@@ -151,22 +117,12 @@ void Exclusion_Wizard::Open_Exclusion_Wnd()
         return;
     Put_Over_Main_Window(*this);
     Begin_On_First_Screen();
-    Show_Hide_Add_Screen_1(true);
-    Show_Hide_Finish_Screen(true);
-    Show_Info(Texts::Exclusion::message_info1);
-    Show_Hide_First_Screen(false);
-    m_ui->m_finish_btn->hide();
-    m_ui->m_exclusion_list->setFocus();
-    Start_Loading();
+    m_screens.Return_To_First_Screen();
+    m_is_over = 0;
+    m_work.Hold_Input();
+    m_work.Start("load exclusion", [this] { Load_Thread(); });
     exec();
     End_Run();
-}
-
-void Exclusion_Wizard::Start_Loading()
-{
-    m_is_over = 0;
-    m_work->Hold_Input();
-    m_work->Start("load exclusion", [this] { Load_Thread(); });
 }
 
 void Exclusion_Wizard::Load_Thread()
@@ -183,18 +139,12 @@ void Exclusion_Wizard::Load_Thread()
 
 void Exclusion_Wizard::LoadItems()
 {
-    QStringList available = Exclusion_Files::Read_Index();
-    QStringList applied = Exclusion_Files::Read_Applied();
+    const QStringList available = Exclusion_Files::Read_Index();
+    const QStringList applied = Exclusion_Files::Read_Applied();
     Run_On_Interface_Thread([&] {
-        m_exclusion_list_Data.swap(available);
-        m_applied_axclusion_list_Data.swap(applied);
-        Prev_Index = No_Index;
-        // What was selected when the window was last closed may be another list by now.
-        m_ui->m_exclusion_list->clearSelection();
-        m_ui->m_applied_axclusion_list->clearSelection();
-        m_available_rows->Reload();
-        m_applied_rows->Reload();
-        m_work->Release_Input();
+        m_lists.Take(available, applied);
+        m_numbers.Forget_Index();
+        m_work.Release_Input();
     });
 }
 
@@ -202,89 +152,41 @@ void Exclusion_Wizard::LoadItems()
 void Exclusion_Wizard::End_Run()
 {
     m_is_over = 1;
-    m_work->End();
-}
-
-void Exclusion_Wizard::Cancel_Btn()
-{
-    done(0);
-}
-
-void Exclusion_Wizard::Cancel_2_Btn()
-{
-    done(0);
+    m_work.End();
 }
 
 void Exclusion_Wizard::reject()
 {
-    if (Is_At_Work())
+    if (m_work.Is_Under_Way())
         return;
-    if (m_ui->lists_panel->isHidden())
-        Back_Btn();
-    else
+    if (m_screens.Is_On_First_Screen())
         Cancel_Btn();
+    else
+        Back_Btn();
 }
 
 void Exclusion_Wizard::closeEvent(QCloseEvent* event)
 {
     event->ignore(); // whoever ends the run hides the window
-    if (Is_At_Work())
+    if (m_work.Is_Under_Way())
         return;
-    if (Has_Unsaved_Numbers())
+    if (m_screens.Has_Unsaved_Numbers())
         Back_Btn();
     else
         Cancel_Btn();
 }
 
-// While files are worked on, the window has to wait for it.
-bool Exclusion_Wizard::Is_At_Work() const
-{
-    return m_is_working || m_work->Is_Sheet_Shown();
-}
-
-// Those that Back asks about. The flag may be left from a list that has been saved, while none is shown.
-bool Exclusion_Wizard::Has_Unsaved_Numbers() const
-{
-    return m_steps.back_flag && !m_ui->m_ex_num_list->isHidden();
-}
-
-// ---------------------------------------------------------------------------------------------------- the three tables
+// ------------------------------------------------------------------------------------------- the tables and the fields
 
 int Exclusion_Wizard::numberOfRowsInTableView(const QTableView* table) const
 {
-    if (table == m_ui->m_ex_num_list)
-        return m_ex_num_list_Data.Count();
-    const auto& names = table == m_ui->m_exclusion_list ? m_exclusion_list_Data : m_applied_axclusion_list_Data;
-    return static_cast<int>(names.size());
+    return table == m_ui->m_ex_num_list ? m_numbers.Count() : static_cast<int>(m_lists.Names_In(table).Names().size());
 }
 
 QString Exclusion_Wizard::tableView(const QTableView* table, const QString& objectValueForTableColumn, int row) const
 {
-    if (row < 0 || row >= numberOfRowsInTableView(table))
-        return {};
-    if (table == m_ui->m_ex_num_list)
-        return objectValueForTableColumn == Key_Number ? m_ex_num_list_Data.At(row) : QString();
-    if (table == m_ui->m_exclusion_list)
-        return objectValueForTableColumn == Key_Available ? m_exclusion_list_Data.at(row) : QString();
-    return objectValueForTableColumn == Key_Applied ? m_applied_axclusion_list_Data.at(row) : QString();
-}
-
-void Exclusion_Wizard::Create_Avail_List(const QString& name)
-{
-    const QString trimmed_name = Trim_Str(name);
-    if (trimmed_name.isEmpty())
-        return;
-    m_exclusion_list_Data.append(trimmed_name);
-    m_available_rows->Reload();
-}
-
-void Exclusion_Wizard::Create_Exclude_List(const QString& name)
-{
-    const QString trimmed_name = Trim_Str(name);
-    if (trimmed_name.isEmpty())
-        return;
-    m_applied_axclusion_list_Data.append(trimmed_name);
-    m_applied_rows->Reload();
+    return table == m_ui->m_ex_num_list ? m_numbers.Value(objectValueForTableColumn, row)
+                                        : m_lists.Names_In(table).Value(objectValueForTableColumn, row);
 }
 
 void Exclusion_Wizard::doubleClickInTable(QTableView& table)
@@ -304,33 +206,8 @@ void Exclusion_Wizard::controlTextDidChange(QLineEdit& field)
     Cut_Line(field, &field == m_ui->m_loadnum_edit ? Number_Rules::Longest_Number : Exclusion_Rules::Longest_Name);
 }
 
-// ------------------------------------------------------------------------------------------------------ small services
-
-void Exclusion_Wizard::Show_Create_Modeless()
+void Exclusion_Wizard::Fill_Ex_List_Thread()
 {
-    m_work->Show_Sheet();
-}
-
-void Exclusion_Wizard::Hide_Destroy_Modeless()
-{
-    m_work->Hide_Sheet();
-}
-
-// The sheet is what keeps the user's clicks away; without one they wait until the work is done.
-void Exclusion_Wizard::Work_On_Worker(const std::function<void()>& work, Under under)
-{
-    const QScopedValueRollback is_working(m_is_working, true);
-    Run_On_Worker(work, under == Under::The_Sheet ? User_Input::Served : User_Input::Held_Back);
-}
-
-void Exclusion_Wizard::Tell_And_Focus(const QString& text, QWidget& control)
-{
-    Show_MessageBox(text);
-    control.setFocus();
-}
-
-void Exclusion_Wizard::Refill_Main_Window()
-{
-    if (Main_App_wnd)
-        Main_App_wnd->Fill_Exclusion_Num_List();
+    Fill_Numbers(ex_file_Path);
+    Run_On_Interface_Thread([this] { m_ui->m_ex_num_list->viewport()->update(); });
 }

@@ -61,38 +61,38 @@ TEST_F(Exclusion_Steps_Test, Back_From_A_List_That_Is_Being_Opened_Goes_Over_Its
 
 TEST_F(Exclusion_Steps_Test, Unsaved_Numbers_Are_Asked_About_And_No_Stays)
 {
-    m_steps.back_flag = true;
+    m_steps.Note_Unsaved_Numbers();
     add_count = 2;
     EXPECT_EQ(Back(false), Screen::As_It_Is);
     EXPECT_EQ(add_count, 2);
-    EXPECT_TRUE(m_steps.back_flag);
+    EXPECT_TRUE(m_steps.Has_Unsaved_Numbers());
     EXPECT_EQ(Back(true), Screen::Name_Of_New);
-    EXPECT_FALSE(m_steps.back_flag);
+    EXPECT_FALSE(m_steps.Has_Unsaved_Numbers());
     EXPECT_EQ(m_questions, 2);
 
     Begin_On_First_Screen();
-    m_steps.back_flag = true;
+    m_steps.Note_Unsaved_Numbers();
     update_count = 3;
     EXPECT_EQ(Back(false), Screen::As_It_Is);
     EXPECT_EQ(update_count, 3);
-    EXPECT_TRUE(m_steps.back_flag);
+    EXPECT_TRUE(m_steps.Has_Unsaved_Numbers());
     EXPECT_EQ(Back(true), Screen::First);
-    EXPECT_FALSE(m_steps.back_flag);
+    EXPECT_FALSE(m_steps.Has_Unsaved_Numbers());
     EXPECT_EQ(m_questions, 4);
 }
 
 TEST_F(Exclusion_Steps_Test, The_Name_Of_A_New_List_Is_Left_Without_A_Question_And_Keeps_The_Flag)
 {
     m_steps.Begin_New_List();
-    m_steps.back_flag = true;
+    m_steps.Note_Unsaved_Numbers();
     EXPECT_EQ(Back(false), Screen::First);
     EXPECT_EQ(m_questions, 0);
-    EXPECT_TRUE(m_steps.back_flag);
+    EXPECT_TRUE(m_steps.Has_Unsaved_Numbers());
 }
 
 TEST_F(Exclusion_Steps_Test, Unsaved_Applied_Lists_Are_Never_Asked_About)
 {
-    m_steps.update_app_ex = true;
+    m_steps.Note_Unsaved_Applied();
     for (const auto& [adding, updating] : {std::pair{1, 0}, {2, 0}, {0, 1}, {0, 2}, {0, 3}}) {
         add_count = adding;
         update_count = updating;
