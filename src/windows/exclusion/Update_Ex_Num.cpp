@@ -3,10 +3,10 @@
 #include "list/Number_Rules.h"
 #include "texts/Texts.h"
 #include "toolkit/Line_Edit_Limit.h"
-#include "toolkit/Message_Boxes.h"
 #include "toolkit/Window_Look.h"
 #include "ui_Update_Ex_Num.h"
 #include "windows/exclusion/Edited_Numbers.h"
+#include "windows/exclusion/Page_Work.h"
 
 #include <QSignalBlocker>
 
@@ -45,11 +45,11 @@ void Update_Ex_Num::OKPressed()
     }
     const QString number = Number_Rules::Normalised_Number(m_ui->m_ex_num_str->text());
     if (number.isEmpty()) {
-        Tell_About_Field(Texts::Not_A_Number);
+        Tell_And_Focus(Texts::Not_A_Number, *m_ui->m_ex_num_str);
         return;
     }
     if (m_numbers.Skip_Duplicate_Number(number)) {
-        Tell_About_Field(Texts::Number_Exists);
+        Tell_And_Focus(Texts::Number_Exists, *m_ui->m_ex_num_str);
         return;
     }
     m_numbers.Replace_Number(m_ui->m_ex_num_index->text().toInt(), number);
@@ -77,10 +77,4 @@ void Update_Ex_Num::Clear_Fields()
 {
     for (QLineEdit* field : {m_ui->m_ex_num_str, m_ui->m_s_number, m_ui->m_ex_num_index})
         field->clear();
-}
-
-void Update_Ex_Num::Tell_About_Field(const QString& text)
-{
-    Show_MessageBox(text);
-    m_ui->m_ex_num_str->setFocus();
 }

@@ -30,7 +30,6 @@ public:
 
 private:
     void Clear_Fields();
-    void Tell_About_Field(const QString& text);
 
     const std::unique_ptr<Ui::Update_Ex_Num> m_ui;
     Edited_Numbers& m_numbers;
