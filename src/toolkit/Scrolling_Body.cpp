@@ -71,6 +71,12 @@ Scrolling_Body::Scrolling_Body(QBoxLayout& column) : QScrollArea(column.parentWi
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { Bring_Into_Sight(now); });
 }
 
+// What is in it may lose the focus only when its own base goes.
+Scrolling_Body::~Scrolling_Body()
+{
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
 QSize Scrolling_Body::sizeHint() const
 {
     const int width = m_rows->totalSizeHint().width();

@@ -16,6 +16,7 @@ public:
     /// Takes everything but the last row out of the column and replaces it there. Returns none for a column that needs
     /// no body: one without a row of buttons, or one whose only content scrolls by itself.
     static Scrolling_Body* Made_For(QBoxLayout& column);
+    ~Scrolling_Body() override;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

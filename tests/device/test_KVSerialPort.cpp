@@ -211,7 +211,7 @@ TEST_F(Serial_Port, A_Close_On_The_Way_Out_Waits_For_What_Was_Written_As_Well)
         ASSERT_TRUE(port->open());
         const int flushes = m_calls.Count("tcflush");
         const int closes = m_calls.Count("close");
-        int left = 20;
+        int left = 3; // few looks, so that a busy machine gets through them in time
         m_calls.Will_Do("TIOCOUTQ", [&](void* waiting) {
             *static_cast<int*>(waiting) = takes_all ? --left : 100;
             return 0;
@@ -223,7 +223,7 @@ TEST_F(Serial_Port, A_Close_On_The_Way_Out_Waits_For_What_Was_Written_As_Well)
         EXPECT_LT(Now_Seconds() - start, 2.0);
         EXPECT_EQ(m_calls.Count("tcflush") - flushes, takes_all ? 0 : 1);
         EXPECT_EQ(m_calls.Count("close") - closes, 1);
-        EXPECT_EQ(left, takes_all ? 0 : 20);
+        EXPECT_EQ(left, takes_all ? 0 : 3);
     }
 }
 
