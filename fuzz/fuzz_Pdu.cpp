@@ -42,7 +42,7 @@ Handset::Submit_Frame Decoded(const QString& pdu, const Submitted& submitted)
     MUST(frame.m_number == submitted.number.toStdString() && frame.m_smsc == submitted.smsc.toStdString());
     MUST(frame.m_coding.m_class == (submitted.is_flash ? 0 : -1));
     MUST((frame.m_coding.m_alphabet == Handset::Alphabet::Ucs2) == submitted.is_unicode);
-    const int announced = Submit_Length(pdu, !submitted.smsc.isEmpty(), PDU::EncodeSMSCAddress(submitted.smsc));
+    const int announced = Submit_Length(pdu, submitted.smsc);
     MUST(announced == static_cast<int>(frame.m_tpdu_octets));
     return frame;
 }

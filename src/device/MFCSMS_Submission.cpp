@@ -1,8 +1,7 @@
 #include "device/MFCSMS.h"
 #include "device/Stop_Flag.h"
-#include "device/Submission_Rules.h"
+#include "device/Submission_Plan.h"
 #include "device/Submission_Steps.h"
-#include "pdu/PDU.h"
 #include "platform/Log_Line.h"
 #include "platform/String_Helpers.h"
 
@@ -19,63 +18,45 @@ bool Go_Through(MFCSMS& session, int descriptor, std::initializer_list<const cha
     return true;
 }
 
-// One message's way out in PDU mode: what does not change from part to part.
+// One message's way out in PDU mode, as it was planned.
 class Pdu_Submission
 {
 public:
-    Pdu_Submission(MFCSMS& session, int descriptor, const QString& number, const QString& message, const QString& smsc,
-                   bool is_flash, bool is_unicode)
-        : m_session(session), m_descriptor(descriptor), m_number(number), m_message(message), m_smsc(smsc),
-          m_is_flash(is_flash), m_is_unicode(is_unicode), m_encoder(Show_NSLog_Message)
+    Pdu_Submission(MFCSMS& session, int descriptor, bool is_unicode)
+        : m_session(session), m_descriptor(descriptor), m_is_unicode(is_unicode)
     {
     }
 
-    bool Send()
+    bool Send(const Submission_Plan& plan)
     {
-        if (May_Be_Single(m_message.size(), m_is_unicode)) {
-            const QString pdu = m_encoder.EncodePDU(m_message, m_number, m_smsc, 0, true, m_is_flash, m_is_unicode);
-            if (pdu.isEmpty())
-                return false;
-            Measure(pdu);
-            if (m_length < Too_Long_For_One)
-                return Submit(pdu,
-                              m_is_unicode ? "UNICODE Standard SMS PDU Response:: " : "Standard SMS PDU Response:: ");
-        }
-        return Send_Parts();
+        if (plan.m_is_single)
+            return Submit(plan.m_frames.front(),
+                          m_is_unicode ? "UNICODE Standard SMS PDU Response:: " : "Standard SMS PDU Response:: ");
+        return Send_Parts(plan.m_frames, plan.m_parts);
     }
 
 private:
-    bool Send_Parts()
+    bool Send_Parts(const std::vector<Pdu_Frame>& frames, int parts)
     {
-        const int parts = Pdu_Part_Count(m_message.size(), m_is_unicode);
-        for (int part = 1; part <= parts; ++part) {
+        int part = 0;
+        for (const Pdu_Frame& frame : frames) {
             if (Stop_SMS_Sending_Now == 1)
                 return true;
-            Log_Part(part, parts);
-            const QString pdu = m_encoder.Encode_UDH_PDU(m_message, m_number, m_smsc, static_cast<quint16>(m_length),
-                                                         true, m_is_flash, parts, part, m_is_unicode);
-            if (pdu.isEmpty())
-                return false;
-            Measure(pdu);
-            if (!Submit(pdu, m_is_unicode ? "UNICODE Long SMS PDU Response:: " : "Long SMS PDU Response:: "))
+            Log_Part(++part, parts);
+            if (!Submit(frame, m_is_unicode ? "UNICODE Long SMS PDU Response:: " : "Long SMS PDU Response:: "))
                 return false;
             Wait_Seconds(Seconds_Between_Parts);
         }
         return true;
     }
 
-    void Measure(const QString& pdu)
+    bool Submit(const Pdu_Frame& frame, const char* label)
     {
-        m_length = Submit_Length(pdu, !m_smsc.isEmpty(), m_encoder.EncodeSMSCAddress(m_smsc));
-    }
-
-    bool Submit(const QString& pdu, const char* label)
-    {
-        if (!m_session.Begin_Message(m_descriptor, "AT+CMGS=" + QByteArray::number(m_length) + "\r\n"))
+        if (!frame.Is_Made() ||
+            !m_session.Begin_Message(m_descriptor, "AT+CMGS=" + QByteArray::number(frame.m_length) + "\r\n"))
             return false;
         m_session.Read_Command(m_descriptor, Expect_Prompt);
-        if (!m_session.Write_Command(m_descriptor, MFCSMS::NString_To_Command_Char(pdu)) ||
-            !m_session.End_Message(m_descriptor))
+        if (!m_session.Write_Command(m_descriptor, frame.m_digits) || !m_session.End_Message(m_descriptor))
             return false;
         m_session.Read_Command(m_descriptor, Expect_Ok);
         Show_NSLog_Message(QString::fromLatin1(label));
@@ -84,13 +65,7 @@ private:
 
     MFCSMS& m_session;
     const int m_descriptor;
-    const QString& m_number;
-    const QString& m_message;
-    const QString& m_smsc;
-    const bool m_is_flash;
     const bool m_is_unicode;
-    const PDU m_encoder;
-    int m_length = 0;
 };
 
 } // namespace
@@ -172,5 +147,6 @@ bool MFCSMS::More_SMS_Comnd(int descriptor)
 bool MFCSMS::Send_PDU_SMS(int descriptor, const QString& number, const QString& message, const QString& smsc_num,
                           bool flash_sms, bool unicode_sms)
 {
-    return Pdu_Submission(*this, descriptor, number, message, smsc_num, flash_sms, unicode_sms).Send();
+    const Outgoing_Message outgoing{message, number, smsc_num, flash_sms, unicode_sms};
+    return Pdu_Submission(*this, descriptor, unicode_sms).Send(Plan_Pdu(outgoing, Show_NSLog_Message));
 }

@@ -1,8 +1,8 @@
 #include "device/MFCSMS.h"
 #include "device/Stop_Flag.h"
+#include "device/Submission_Plan.h"
 #include "device/Submission_Rules.h"
 #include "device/Submission_Steps.h"
-#include "pdu/PDU.h"
 #include "platform/Log_Line.h"
 #include "platform/String_Helpers.h"
 
@@ -12,38 +12,33 @@ namespace {
 class Text_Submission
 {
 public:
-    Text_Submission(MFCSMS& session, int descriptor, const QString& number, const QString& message, const QString& smsc,
-                    bool is_flash, bool is_unicode)
-        : m_session(session), m_descriptor(descriptor), m_number(number), m_message(message), m_smsc(smsc),
-          m_is_flash(is_flash), m_is_unicode(is_unicode), m_encoder(Show_NSLog_Message)
+    Text_Submission(MFCSMS& session, int descriptor, const Outgoing_Message& message)
+        : m_session(session), m_descriptor(descriptor), m_message(message), m_is_unicode(message.m_is_unicode)
     {
     }
 
     bool Send()
     {
-        if (!m_smsc.isEmpty() && !Set_Service_Centre())
+        if (!m_message.m_smsc.isEmpty() && !Set_Service_Centre())
             return false;
-        if (!m_is_unicode && !Ask(m_is_flash ? "AT+CSMP=17,255,0,16\r\n" : "AT+CSMP=17,255,0,0\r\n"))
+        if (!m_is_unicode && !Ask(m_message.m_is_flash ? "AT+CSMP=17,255,0,16\r\n" : "AT+CSMP=17,255,0,0\r\n"))
             return false;
-        if (!May_Be_Single(m_message.size(), m_is_unicode))
+        const auto frame = Single_Frame(m_message, Show_NSLog_Message); // measured only
+        if (!frame)
             return Send_Parts();
-        const QString pdu = m_encoder.EncodePDU(m_message, m_number, m_smsc, 0, true, m_is_flash, m_is_unicode);
-        if (pdu.isEmpty())
-            return false;
-        if (Submit_Length(pdu, !m_smsc.isEmpty(), m_encoder.EncodeSMSCAddress(m_smsc)) >= Too_Long_For_One)
-            return Send_Parts();
-        return Submit(m_message, m_is_unicode ? "UNICODE Short SMS Text :: " : "Short SMS Text :: ");
+        return frame->Is_Made() &&
+               Submit(m_message.m_text, m_is_unicode ? "UNICODE Short SMS Text :: " : "Short SMS Text :: ");
     }
 
 private:
     bool Send_Parts()
     {
-        const int parts = Text_Part_Count(m_message.size(), m_is_unicode);
+        const int parts = Text_Part_Count(m_message.m_text.size(), m_is_unicode);
         for (int part = 1; part <= parts; ++part) {
             if (Stop_SMS_Sending_Now == 1)
                 return true;
             Log_Part(part, parts);
-            if (!Submit(Text_Part(m_message, part, m_is_unicode),
+            if (!Submit(Text_Part(m_message.m_text, part, m_is_unicode),
                         m_is_unicode ? "UNICODE Long SMS Text Response:: " : "Long SMS Text :: "))
                 return false;
             Wait_Seconds(Seconds_Between_Parts);
@@ -78,21 +73,23 @@ private:
         const bool takes_ucs2 = Find_Str(character_sets, QStringLiteral("UCS2"));
         if (takes_hex ? !Ask("AT+CSCS=\"HEX\"\r\n") : takes_ucs2 && !Ask("AT+CSCS=\"UCS2\"\r\n"))
             return false;
-        if (!Ask(m_is_flash ? "AT+CSMP=17,255,0,24\r\n" : "AT+CSMP=17,255,0,8\r\n") || !Ask_For_Prompt())
+        if (!Ask(m_message.m_is_flash ? "AT+CSMP=17,255,0,24\r\n" : "AT+CSMP=17,255,0,8\r\n") || !Ask_For_Prompt())
             return false;
-        const QString line_body = takes_hex || takes_ucs2 ? m_encoder.EncodeUserData_16_bit(body) : Harmless_Body(body);
+        const QString line_body = takes_hex || takes_ucs2 ? PDU::EncodeUserData_16_bit(body) : Harmless_Body(body);
         return Write_Body(line_body) && m_session.End_Message(m_descriptor);
     }
 
     bool Set_Service_Centre()
     {
-        const char* type = m_smsc.startsWith(u'+') ? "145" : "129"; // 3GPP TS 24.011, 8.2.5.2: international or unknown
-        return Ask("AT+CSCA=\"" + MFCSMS::NString_To_Command_Char(m_smsc) + "\"," + type + "\r\n");
+        const char* type =
+            m_message.m_smsc.startsWith(u'+') ? "145" : "129"; // 3GPP TS 24.011, 8.2.5.2: international or unknown
+        return Ask("AT+CSCA=\"" + MFCSMS::NString_To_Command_Char(m_message.m_smsc) + "\"," + type + "\r\n");
     }
 
     bool Ask_For_Prompt()
     {
-        if (!m_session.Begin_Message(m_descriptor, "AT+CMGS=\"" + MFCSMS::NString_To_Command_Char(m_number) + "\"\r\n"))
+        if (!m_session.Begin_Message(m_descriptor,
+                                     "AT+CMGS=\"" + MFCSMS::NString_To_Command_Char(m_message.m_number) + "\"\r\n"))
             return false;
         m_session.Read_Command(m_descriptor, Expect_Prompt);
         return true;
@@ -114,12 +111,8 @@ private:
 
     MFCSMS& m_session;
     const int m_descriptor;
-    const QString& m_number;
-    const QString& m_message;
-    const QString& m_smsc;
-    const bool m_is_flash;
+    const Outgoing_Message& m_message;
     const bool m_is_unicode;
-    const PDU m_encoder;
 };
 
 } // namespace
@@ -127,5 +120,6 @@ private:
 bool MFCSMS::Send_Text_SMS(int descriptor, const QString& number, const QString& message, const QString& smsc_num,
                            bool flash_sms, bool unicode_sms)
 {
-    return Text_Submission(*this, descriptor, number, message, smsc_num, flash_sms, unicode_sms).Send();
+    const Outgoing_Message outgoing{message, number, smsc_num, flash_sms, unicode_sms};
+    return Text_Submission(*this, descriptor, outgoing).Send();
 }

@@ -1,5 +1,7 @@
 #include "device/Submission_Rules.h"
 
+#include "pdu/Submit_Fields.h"
+
 namespace {
 
 constexpr qsizetype Single_7_Bit = 160;
@@ -14,12 +16,10 @@ int Rounded_Up(qsizetype length, qsizetype part_length)
 
 } // namespace
 
-int Submit_Length(const QString& pdu, bool has_smsc, const QString& encoded_smsc)
+int Submit_Length(const QString& pdu, const QString& smsc)
 {
-    int length = static_cast<int>(pdu.size() / 2) - 1;
-    if (has_smsc)
-        length = length - static_cast<int>(encoded_smsc.size() / 2) + 1;
-    return length;
+    const qsizetype centre_digits = Address_Digits(smsc, Address_Length::Octets_And_Type);
+    return static_cast<int>(pdu.size() / 2 - centre_digits / 2);
 }
 
 bool May_Be_Single(qsizetype length, bool unicode)

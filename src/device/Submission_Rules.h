@@ -4,9 +4,9 @@
 
 // How a message is counted and cut for submission. Lengths count UTF-16 units.
 
-/// The octets of a frame after its service-centre part, as AT+CMGS is told them (3GPP TS 27.005, 4.3). pdu and the
-/// encoded centre are hexadecimal; has_smsc says whether a centre was given.
-int Submit_Length(const QString& pdu, bool has_smsc, const QString& encoded_smsc);
+/// The octets that follow the service-centre part of a frame, which AT+CMGS announces (3GPP TS 27.005, 4.3). pdu is the
+/// whole frame in hexadecimal, smsc the centre it was made with, empty for the device's own.
+int Submit_Length(const QString& pdu, const QString& smsc);
 
 /// A frame of this many octets or more does not go out as a single message.
 inline constexpr int Too_Long_For_One = 154;

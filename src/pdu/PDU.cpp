@@ -42,14 +42,14 @@ void Remember_Escape(const QString& text)
 
 QString Head_Alone(const Submit_Head& head, qint64 user_data_length)
 {
-    Hex_Writer writer(Head_Room(head));
+    Hex_Writer writer(Head_Digits(head));
     Put_Head(writer, head, user_data_length);
     return writer.Take();
 }
 
 QString Head_And_Septets(const Submit_Head& head, const Septet_Buffer& septets)
 {
-    Hex_Writer writer(Head_Room(head) + Packed_Octets(septets.size()) * 2);
+    Hex_Writer writer(Head_Digits(head) + Packed_Octets(septets.size()) * 2);
     Put_Head(writer, head, septets.size());
     writer.Put_Septets(septets);
     return writer.Take();
@@ -57,7 +57,7 @@ QString Head_And_Septets(const Submit_Head& head, const Septet_Buffer& septets)
 
 QString Head_And_Ucs2(const Submit_Head& head, QStringView message)
 {
-    Hex_Writer writer(Head_Room(head) + message.size() * 4);
+    Hex_Writer writer(Head_Digits(head) + message.size() * 4);
     Put_Head(writer, head, message.size() * 2);
     writer.Put_Ucs2(message);
     return writer.Take();
@@ -65,7 +65,7 @@ QString Head_And_Ucs2(const Submit_Head& head, QStringView message)
 
 QString Head_And_Slice(const Submit_Head& head, const Concatenation& concatenation, QStringView slice)
 {
-    Hex_Writer writer(Head_Room(head) + Concatenation_Octets * 2 + slice.size());
+    Hex_Writer writer(Head_Digits(head) + Concatenation_Octets * 2 + slice.size());
     Put_Head(writer, head, User_Data_Length(slice.size(), head.unicode));
     Put_Concatenation(writer, concatenation);
     writer.Put_Text(slice);
@@ -201,8 +201,9 @@ QString PDU::BCDEncode(int n)
 
 QString PDU::EncodeAddress(const QString& address, bool bInCountBytes)
 {
-    Hex_Writer writer(Address_Room(address));
-    Put_Address(writer, address, bInCountBytes ? Address_Length::Octets_And_Type : Address_Length::Digits);
+    const auto counted = bInCountBytes ? Address_Length::Octets_And_Type : Address_Length::Digits;
+    Hex_Writer writer(Address_Digits(address, counted));
+    Put_Address(writer, address, counted);
     return writer.Take();
 }
 

@@ -7,20 +7,40 @@ namespace {
 constexpr quint8 Type_International = 0x91;
 constexpr quint8 Type_Unknown = 0x81;
 
-// The type and length octets and a fill digit; a length past 255 takes up to eight digits instead of two.
-constexpr qsizetype Address_Overhead = 2 + 8 + 1;
-
 // First octet, TP-MR, TP-PID, TP-DCS, TP-VP, TP-UDL.
 constexpr qsizetype Fixed_Octets = 6;
 
+// An address that is not empty, taken apart.
+struct Address
+{
+    bool international;
+    QStringView digits;
+
+    explicit Address(QStringView address)
+        : international(address.front() == u'+'), digits(international ? address.sliced(1) : address)
+    {
+    }
+
+    qsizetype Octets() const { return (digits.size() + 1) / 2; }
+    qsizetype Length(Address_Length counted) const
+    {
+        return counted == Address_Length::Digits ? digits.size() : Octets() + 1;
+    }
+};
+
 // A length that does not fit an octet takes the digits it needs: such an address is of no use to any network, and is
 // not turned into another one by cutting.
+QString Long_Length(qsizetype length)
+{
+    return Hex(static_cast<int>(length));
+}
+
 void Put_Address_Length(Hex_Writer& writer, qsizetype length)
 {
     if (length <= 0xFF)
         writer.Put_Octet(length);
     else
-        writer.Put_Text(Hex(static_cast<int>(length)));
+        writer.Put_Text(Long_Length(length));
 }
 
 // Semi-octets: the second digit of each pair goes first (3GPP TS 23.040, 9.1.2.3).
@@ -34,14 +54,19 @@ void Put_Swapped(Hex_Writer& writer, QStringView digits)
 
 } // namespace
 
-qsizetype Address_Room(QStringView address)
+qsizetype Address_Digits(QStringView address, Address_Length counted)
 {
-    return address.size() + Address_Overhead;
+    if (address.isEmpty())
+        return 2;
+    const Address parts(address);
+    const qsizetype length = parts.Length(counted);
+    return (length <= 0xFF ? 2 : Long_Length(length).size()) + 2 + parts.Octets() * 2;
 }
 
-qsizetype Head_Room(const Submit_Head& head)
+qsizetype Head_Digits(const Submit_Head& head)
 {
-    return Address_Room(head.service_centre) + Address_Room(head.destination) + Fixed_Octets * 2;
+    return Address_Digits(head.service_centre, Address_Length::Octets_And_Type) +
+           Address_Digits(head.destination, Address_Length::Digits) + Fixed_Octets * 2;
 }
 
 void Put_Address(Hex_Writer& writer, QStringView address, Address_Length counted)
@@ -50,13 +75,10 @@ void Put_Address(Hex_Writer& writer, QStringView address, Address_Length counted
         writer.Put_Octet(0);
         return;
     }
-    const bool international = address.front() == u'+';
-    const QStringView digits = international ? address.sliced(1) : address;
-    const qsizetype octets = (digits.size() + 1) / 2;
-    const qsizetype length = counted == Address_Length::Digits ? digits.size() : octets + 1;
-    Put_Address_Length(writer, length);
-    writer.Put_Octet(international ? Type_International : Type_Unknown);
-    Put_Swapped(writer, digits);
+    const Address parts(address);
+    Put_Address_Length(writer, parts.Length(counted));
+    writer.Put_Octet(parts.international ? Type_International : Type_Unknown);
+    Put_Swapped(writer, parts.digits);
 }
 
 void Put_Concatenation(Hex_Writer& writer, const Concatenation& concatenation)

@@ -31,11 +31,11 @@ struct Concatenation
 
 inline constexpr qsizetype Concatenation_Octets = 7;
 
-// Characters that an address field takes at most.
-qsizetype Address_Room(QStringView address);
+// Characters that an address field takes.
+qsizetype Address_Digits(QStringView address, Address_Length counted);
 
-// Characters that the head takes at most, service centre included.
-qsizetype Head_Room(const Submit_Head& head);
+// Characters that the head takes, service centre included.
+qsizetype Head_Digits(const Submit_Head& head);
 
 // 3GPP TS 23.040, 9.1.2.5; the service centre's 3GPP TS 24.011, 8.2.5.2. An empty address is the one octet 00.
 void Put_Address(Hex_Writer& writer, QStringView address, Address_Length counted);

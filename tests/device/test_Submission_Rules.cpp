@@ -6,10 +6,38 @@
 
 TEST(Submission_Rules, The_Length_Leaves_The_Service_Centre_Out)
 {
-    const QString hello = QStringLiteral("0011000B915155001032F40000FF05E8329BFD06");
-    EXPECT_EQ(Submit_Length(hello, false, QStringLiteral("00")), 19);
+    EXPECT_EQ(Submit_Length(QStringLiteral("0011000B915155001032F40000FF05E8329BFD06"), QString()), 19);
     const QString flash = QStringLiteral("07915155009099F911000A8110325476980010FF05E8329BFD06");
-    EXPECT_EQ(Submit_Length(flash, true, PDU::EncodeSMSCAddress(QStringLiteral("+15550009999"))), 18);
+    EXPECT_EQ(Submit_Length(flash, QStringLiteral("+15550009999")), 18);
+}
+
+// The length worked out from the frame and from the centre encoded once more.
+static int Length_By_Encoding(const QString& pdu, const QString& smsc)
+{
+    int length = static_cast<int>(pdu.size() / 2) - 1;
+    if (!smsc.isEmpty())
+        length = length - static_cast<int>(PDU::EncodeSMSCAddress(smsc).size() / 2) + 1;
+    return length;
+}
+
+TEST(Submission_Rules, The_Length_Is_The_Same_When_The_Centre_Is_Encoded_Once_More)
+{
+    const PDU encoder;
+    const QString message = QStringLiteral("hello");
+    // Numbers past 255 digits and centres past 255 octets have a length of three digits: frames of odd sizes, too.
+    for (qsizetype centre_length = 0; centre_length <= 1100; ++centre_length) {
+        const QString digits(centre_length, u'7');
+        for (const QString& smsc :
+             {digits, u'+' + digits, QString(centre_length, u'+'), QStringLiteral("٠ ") + digits}) {
+            for (const qsizetype number_length : {0, 11, 256}) {
+                const QString number(number_length, u'1');
+                const QString single = encoder.EncodePDU(message, number, smsc, 0, true, false, false);
+                ASSERT_EQ(Submit_Length(single, smsc), Length_By_Encoding(single, smsc)) << centre_length;
+                const QString part = encoder.Encode_UDH_PDU(message, number, smsc, 0, true, false, 1, 1, true);
+                ASSERT_EQ(Submit_Length(part, smsc), Length_By_Encoding(part, smsc)) << centre_length;
+            }
+        }
+    }
 }
 
 TEST(Submission_Rules, A_Message_May_Be_Single_Up_To_160_Or_70_Characters)

@@ -55,14 +55,20 @@ TEST(Submit_Fields, Each_Writes_Its_Own_Octets_And_No_More)
     }
 }
 
-TEST(Submit_Fields, The_Room_Asked_For_Is_Enough_For_Any_Addresses)
+TEST(Submit_Fields, An_Address_And_A_Head_Take_The_Digits_Foretold_For_Any_Addresses)
 {
-    for (qsizetype length = 0; length <= 600; ++length) {
+    for (qsizetype length = 0; length <= 9000; length += length < 1100 ? 1 : 97) {
         const QString number = QString(length, u'1');
         for (const QString& address : {number, u'+' + number}) {
+            for (const Address_Length counted : {Address_Length::Digits, Address_Length::Octets_And_Type}) {
+                Hex_Writer writer(Address_Digits(address, counted));
+                ASSERT_NO_THROW(Put_Address(writer, address, counted)) << length;
+                ASSERT_EQ(writer.Take().size(), Address_Digits(address, counted)) << length;
+            }
             const Submit_Head head{address, address, true, true, true};
-            Hex_Writer writer(Head_Room(head));
-            EXPECT_NO_THROW(Put_Head(writer, head, 0)) << length;
+            Hex_Writer writer(Head_Digits(head));
+            ASSERT_NO_THROW(Put_Head(writer, head, 0)) << length;
+            ASSERT_EQ(writer.Take().size(), Head_Digits(head)) << length;
         }
     }
 }

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "pdu/PDU.h"
+
+#include <optional>
+#include <vector>
+
+// What a message becomes in PDU mode, worked out before anything of it is written. Plain functions on values; a message
+// is planned on one thread, any number of them at once.
+
+struct Outgoing_Message
+{
+    QString m_text;
+    QString m_number;
+    QString m_smsc; ///< the service centre; empty for the device's own
+    bool m_is_flash = false;
+    bool m_is_unicode = false;
+};
+
+/// One SMS-SUBMIT with its service-centre part.
+struct Pdu_Frame
+{
+    QByteArray m_digits; ///< hexadecimal, as the line takes it; empty where the encoder could not make the frame
+    int m_length = 0;    ///< the octets that AT+CMGS announces
+
+    bool Is_Made() const { return !m_digits.isEmpty(); }
+};
+
+/// The frames of a message in their order, one for each part; a frame that could not be made is the last.
+struct Submission_Plan
+{
+    bool m_is_single = false;
+    int m_parts = 1;
+    std::vector<Pdu_Frame> m_frames;
+};
+
+/// The frame of a message that goes out as a single one; nothing where it takes parts. The report takes what the
+/// encoder has to say.
+std::optional<Pdu_Frame> Single_Frame(const Outgoing_Message& message, const PDU::Report& report);
+
+Submission_Plan Plan_Pdu(const Outgoing_Message& message, const PDU::Report& report);
