@@ -29,46 +29,9 @@ KVSerialPort::~KVSerialPort()
     ::close(m_background_event);
 }
 
-QString KVSerialPort::description() const
-{
-    return QStringLiteral("<KVSerialPort: name=\"") + m_service_name + QStringLiteral("\" path=\"") + m_bsd_path +
-           QStringLiteral("\" type=\"") + m_service_type + QStringLiteral("\">");
-}
-
-size_t KVSerialPort::hash() const
-{
-    return qHash(m_bsd_path);
-}
-
-KVSerialOptions KVSerialPort::properties() const
-{
-    return {{QStringLiteral("bsdPath"), m_bsd_path},
-            {QStringLiteral("serviceName"), m_service_name},
-            {QStringLiteral("serviceType"), m_service_type}};
-}
-
-std::shared_ptr<KVSerialPort> KVSerialPort::obtainBy(QObject* owner)
-{
-    if (m_owner && m_owner != owner)
-        return nullptr;
-    m_owner = owner;
-    return shared_from_this();
-}
-
-std::shared_ptr<KVFileHandle> KVSerialPort::fileHandle() const
-{
-    const std::lock_guard guard(m_close_lock);
-    return m_file_handle;
-}
-
 std::shared_ptr<KVFileHandle> KVSerialPort::open()
 {
     return Open_With(O_RDWR | O_NOCTTY, false);
-}
-
-std::shared_ptr<KVFileHandle> KVSerialPort::openExclusively()
-{
-    return Open_With(O_RDWR | O_NOCTTY | O_NONBLOCK, true);
 }
 
 std::shared_ptr<KVFileHandle> KVSerialPort::Open_With(int flags, bool exclusively)
@@ -165,12 +128,6 @@ void KVSerialPort::close()
     m_file_handle = nullptr;
 }
 
-bool KVSerialPort::drainInput()
-{
-    const std::lock_guard closing(m_close_lock);
-    return Note_Result(Drain_With_An_End(m_calls, m_file_descriptor));
-}
-
 bool KVSerialPort::flushInput(bool input, bool output)
 {
     const std::lock_guard guard(m_line_lock);
@@ -179,24 +136,13 @@ bool KVSerialPort::flushInput(bool input, bool output)
     return Note_Result(m_calls.Flush(m_file_descriptor, input && output ? TCIOFLUSH : input ? TCIFLUSH : TCOFLUSH));
 }
 
-bool KVSerialPort::sendBreak()
+bool KVSerialPort::Note_Result(int result)
 {
-    const std::lock_guard guard(m_line_lock);
-    return Note_Result(m_calls.Send_Break(m_file_descriptor));
-}
-
-bool KVSerialPort::setDTR()
-{
-    const std::lock_guard guard(m_line_lock);
-    int lines = TIOCM_DTR;
-    return Note_Result(m_calls.Control(m_file_descriptor, TIOCMBIS, &lines));
-}
-
-bool KVSerialPort::clearDTR()
-{
-    const std::lock_guard guard(m_line_lock);
-    int lines = TIOCM_DTR;
-    return Note_Result(m_calls.Control(m_file_descriptor, TIOCMBIC, &lines));
+    if (result != -1)
+        return true;
+    m_last_error = errno;
+    m_got_error = true;
+    return false;
 }
 
 void KVSerialPort::setDelegate(KVSerialPortDelegate* delegate)

@@ -72,6 +72,42 @@ public:
     KVSerialPort& operator=(const KVSerialPort&) = delete;
 
     QString bsdPath() const { return m_bsd_path; }
+
+    /// Opens the device for everybody, saves its settings and makes the line raw. Returns the handle, or none on
+    /// failure, also where the path is no terminal or another program holds it exclusively; lastError then says why.
+    std::shared_ptr<KVFileHandle> open();
+    bool isOpen() const { return m_file_descriptor != -1; }
+    /// Restores the settings found at open and closes. Wakes whoever waits on the port. Does nothing on a closed port.
+    void close();
+
+    /// Seconds at pace 1 that a synchronous read takes in all; 0, as after creation, reads nothing.
+    void setReadTimeout(double seconds) { m_read_timeout = seconds; }
+
+    // Synchronous reads, here and below: they end at 4096 bytes, at the byte count or the stop character where one is
+    // given, or when the read time-out has gone by. They return the bytes read, or a null value when there are none or
+    // the line failed.
+    QByteArray readAndReturnError(KVSerialError* error = nullptr);
+    QString readStringUsingEncoding(KVText_Encoding encoding, KVSerialError* error = nullptr);
+
+    // Synchronous writes: whether every byte went out.
+    bool writeData(const QByteArray& data, KVSerialError* error = nullptr);
+    bool writeString(const QString& string, KVText_Encoding usingEncoding, KVSerialError* error = nullptr);
+    bool writeBytes(const char* bytes, qsizetype length, KVSerialError* error = nullptr);
+    /// The last word to a device, for which the program's exit waits as well: 2 seconds at pace 1 at the most. Where
+    /// there is no room for it even then, what waits to go out is thrown away.
+    bool writeInLeaving(const QByteArray& data);
+    /// Whether it was done; on failure gotError is set.
+    bool flushInput(bool input, bool output);
+    /// No read follows for a while: what comes from now on, and what waits, is for the background reader.
+    void Await_No_Answer() { Await_Answer_Until(0); }
+
+    void setDelegate(KVSerialPortDelegate* delegate);
+    /// Starts one background read when the delegate wants its data; the delegate starts the next. Where the system
+    /// refuses a thread for it, the next write or read tries again.
+    void readDataInBackground();
+
+    // Imposed by name; nothing in the program calls these (KVSerialPort_Unused.cpp).
+
     QString name() const { return m_service_name; }
     QString type() const { return m_service_type; }
     QString description() const;
@@ -87,25 +123,44 @@ public:
     bool available() const { return m_owner == nullptr; }
     QObject* owner() const { return m_owner; }
 
-    /// Opens the device for everybody, saves its settings and makes the line raw. Returns the handle, or none on
-    /// failure, also where the path is no terminal or another program holds it exclusively; lastError then says why.
-    std::shared_ptr<KVFileHandle> open();
-    /// The same, but nobody else may open the device meanwhile, and the descriptor stays non-blocking.
+    /// As open, but nobody else may open the device meanwhile, and the descriptor stays non-blocking.
     std::shared_ptr<KVFileHandle> openExclusively();
-    bool isOpen() const { return m_file_descriptor != -1; }
-    /// Restores the settings found at open and closes. Wakes whoever waits on the port. Does nothing on a closed port.
-    void close();
     int fileDescriptor() const { return m_file_descriptor; }
     std::shared_ptr<KVFileHandle> fileHandle() const;
 
+    bool gotError() const { return m_got_error; }
+    int lastError() const { return m_last_error; }
+    double readTimeout() const { return m_read_timeout; }
+
     // Line control. Each answers whether it was done; on failure gotError is set.
     bool drainInput(); ///< waits, with an end, until what was written has gone out
-    bool flushInput(bool input, bool output);
     bool sendBreak();
     bool setDTR();
     bool clearDTR();
 
-    // Settings. They change only the port's own copy until commitChanges applies them at once.
+    QByteArray readBytes(quint64 bytes, KVSerialError* error = nullptr);
+    QByteArray readUpToChar(char stop, KVSerialError* error = nullptr);
+    QByteArray readBytes(quint64 bytes, char upToChar, KVSerialError* error = nullptr);
+    QString readBytes(quint64 bytes, KVText_Encoding usingEncoding, KVSerialError* error = nullptr);
+    QString readUpToChar(char stop, KVText_Encoding usingEncoding, KVSerialError* error = nullptr);
+    QString readBytes(quint64 bytes, char upToChar, KVText_Encoding usingEncoding, KVSerialError* error = nullptr);
+    /// Bytes that wait to be read, -1 when the port is closed or the system does not say.
+    int bytesAvailable();
+
+    /// Tells the target, on the interface thread, once input waits; takes none of it.
+    void waitForInput(QObject* target, std::function<void()> selector);
+    void stopReadInBackground();
+    int numberOfReadInBackgroundThreads() const { return m_background_readers; }
+
+    // The same (KVSerialPort_Background_Writing_Unused.cpp).
+
+    void writeDataInBackground(const QByteArray& data);
+    void stopWriteInBackground();
+    int numberOfWriteInBackgroundThreads() const { return m_background_writers; }
+
+    // The same (KVSerialPort_Options_Unused.cpp). Settings change only the port's own copy until commitChanges applies
+    // them at once.
+
     long speed() const; ///< bits a second
     bool setSpeed(long speed);
     int dataBits() const;
@@ -142,51 +197,7 @@ public:
     /// Takes and applies the settings given; keys that are absent switch flow control, parity, echo and canonical mode
     /// off.
     bool setOptions(const KVSerialOptions& options);
-
-    bool gotError() const { return m_got_error; }
-    int lastError() const { return m_last_error; }
     void clearError();
-
-    /// Seconds at pace 1 that a synchronous read takes in all; 0, as after creation, reads nothing.
-    void setReadTimeout(double seconds) { m_read_timeout = seconds; }
-    double readTimeout() const { return m_read_timeout; }
-
-    // Synchronous reads: they end at 4096 bytes, at the byte count or the stop character where one is given, or when
-    // the read time-out has gone by. They return the bytes read, or a null value when there are none or the line
-    // failed.
-    QByteArray readAndReturnError(KVSerialError* error = nullptr);
-    QByteArray readBytes(quint64 bytes, KVSerialError* error = nullptr);
-    QByteArray readUpToChar(char stop, KVSerialError* error = nullptr);
-    QByteArray readBytes(quint64 bytes, char upToChar, KVSerialError* error = nullptr);
-    QString readStringUsingEncoding(KVText_Encoding encoding, KVSerialError* error = nullptr);
-    QString readBytes(quint64 bytes, KVText_Encoding usingEncoding, KVSerialError* error = nullptr);
-    QString readUpToChar(char stop, KVText_Encoding usingEncoding, KVSerialError* error = nullptr);
-    QString readBytes(quint64 bytes, char upToChar, KVText_Encoding usingEncoding, KVSerialError* error = nullptr);
-
-    // Synchronous writes: whether every byte went out.
-    bool writeData(const QByteArray& data, KVSerialError* error = nullptr);
-    bool writeString(const QString& string, KVText_Encoding usingEncoding, KVSerialError* error = nullptr);
-    bool writeBytes(const char* bytes, qsizetype length, KVSerialError* error = nullptr);
-    /// The last word to a device, for which the program's exit waits as well: 2 seconds at pace 1 at the most. Where
-    /// there is no room for it even then, what waits to go out is thrown away.
-    bool writeInLeaving(const QByteArray& data);
-    /// No read follows for a while: what comes from now on, and what waits, is for the background reader.
-    void Await_No_Answer() { Await_Answer_Until(0); }
-    /// Bytes that wait to be read, -1 when the port is closed or the system does not say.
-    int bytesAvailable();
-
-    /// Tells the target, on the interface thread, once input waits; takes none of it.
-    void waitForInput(QObject* target, std::function<void()> selector);
-
-    void setDelegate(KVSerialPortDelegate* delegate);
-    /// Starts one background read when the delegate wants its data; the delegate starts the next. Where the system
-    /// refuses a thread for it, the next write or read tries again.
-    void readDataInBackground();
-    void stopReadInBackground();
-    void writeDataInBackground(const QByteArray& data);
-    void stopWriteInBackground();
-    int numberOfWriteInBackgroundThreads() const { return m_background_writers; }
-    int numberOfReadInBackgroundThreads() const { return m_background_readers; }
 
 private:
     struct Read_Ends;

@@ -1,3 +1,5 @@
+// Imposed by name; nothing in the program calls what stands here.
+
 #include "device/KVSerialPortList.h"
 
 #include "device/KVSerialPort.h"

@@ -1,5 +1,7 @@
 #pragma once
 
+// Imposed by name; nothing in the program calls what stands here.
+
 #include "device/KVStandardEnumerator.h"
 #include "device/Port_Finder.h"
 

@@ -1,5 +1,7 @@
 #pragma once
 
+// Imposed by name; nothing in the program calls what stands here.
+
 #include "device/KVSerialPort.h"
 
 /// Older spellings of a port's operations, for code written before errors were reported.

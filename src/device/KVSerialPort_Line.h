@@ -29,6 +29,9 @@ private:
     const int m_is_over;
 };
 
+/// Leaves a step for the interface thread; without an application object nobody is told.
+void Tell_Interface_Thread(std::function<void()> step);
+
 /// Where a synchronous read ends beside the time-out and the full buffer.
 struct KVSerialPort::Read_Ends
 {

@@ -8,7 +8,6 @@
 #include <cerrno>
 #include <poll.h>
 #include <sys/eventfd.h>
-#include <sys/ioctl.h>
 
 std::shared_ptr<const KVSerialPort::Line> KVSerialPort::Present_Line()
 {
@@ -102,44 +101,7 @@ QByteArray KVSerialPort::readAndReturnError(KVSerialError* error)
     return Read_Until({}, error);
 }
 
-QByteArray KVSerialPort::readBytes(quint64 bytes, KVSerialError* error)
-{
-    return Read_Until({true, bytes, false, 0}, error);
-}
-
-QByteArray KVSerialPort::readUpToChar(char stop, KVSerialError* error)
-{
-    return Read_Until({false, 0, true, stop}, error);
-}
-
-QByteArray KVSerialPort::readBytes(quint64 bytes, char upToChar, KVSerialError* error)
-{
-    return Read_Until({true, bytes, true, upToChar}, error);
-}
-
 QString KVSerialPort::readStringUsingEncoding(KVText_Encoding encoding, KVSerialError* error)
 {
     return Decoded_Text(readAndReturnError(error), encoding);
-}
-
-QString KVSerialPort::readBytes(quint64 bytes, KVText_Encoding usingEncoding, KVSerialError* error)
-{
-    return Decoded_Text(readBytes(bytes, error), usingEncoding);
-}
-
-QString KVSerialPort::readUpToChar(char stop, KVText_Encoding usingEncoding, KVSerialError* error)
-{
-    return Decoded_Text(readUpToChar(stop, error), usingEncoding);
-}
-
-QString KVSerialPort::readBytes(quint64 bytes, char upToChar, KVText_Encoding usingEncoding, KVSerialError* error)
-{
-    return Decoded_Text(readBytes(bytes, upToChar, error), usingEncoding);
-}
-
-int KVSerialPort::bytesAvailable()
-{
-    const std::lock_guard guard(m_line_lock);
-    int waiting = 0;
-    return Note_Result(m_calls.Control(m_file_descriptor, FIONREAD, &waiting)) ? waiting : -1;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+// Imposed by name; nothing in the program calls what stands here.
+
 #include <QList>
 #include <memory>
 

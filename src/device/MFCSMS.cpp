@@ -1,10 +1,7 @@
 #include "device/MFCSMS.h"
 
-#include "device/Printable_Text.h"
 #include "platform/Log_Line.h"
 #include "platform/String_Helpers.h"
-
-std::atomic<MFCSMS*> mfc_sms_instance{nullptr};
 
 namespace {
 
@@ -131,11 +128,4 @@ void MFCSMS::serialPortReadData(const std::shared_ptr<KVSerialPort>& serialPort,
     Show_NSLog_Message(QLatin1String("serialPortReadData ( ") + Decoded_Text(data, KVText_Encoding::Ascii) +
                        QLatin1String(" )"));
     serialPort->readDataInBackground();
-}
-
-const char* MFCSMS::LogString(const char* text)
-{
-    static thread_local QByteArray printable;
-    printable = Printable_Text(QByteArray(text));
-    return printable.constData();
 }

@@ -39,8 +39,6 @@ public:
     /// Waits, with an end, for what was written, restores the settings and closes. Does nothing for a descriptor that
     /// this session has not opened or has closed already.
     void CloseSerialPort(int descriptor);
-    /// Asks the modem once over the direct descriptor; whether it answered within 5 seconds.
-    bool InitializeModem(int descriptor);
 
     // The port, through which all exchanges go.
 
@@ -70,8 +68,6 @@ public:
     void setM_sLastResponse(const QString& response);
 
     static QByteArray NString_To_Command_Char(const QString& text) { return text.toUtf8(); }
-    /// The printable form of a text, in a buffer that the calling thread's next call overwrites.
-    static const char* LogString(const char* text);
 
     // Submission.
 
@@ -93,15 +89,22 @@ public:
 
     /// Asks for the nine values, about a read time-out each. False only when a command could not be written.
     bool Read_Ph_Values(int descriptor, Phone_Values_Display& display);
+
+    bool handlesReadInBackground() const override { return true; }
+    /// Logs what came unasked and reads on; interface thread.
+    void serialPortReadData(const std::shared_ptr<KVSerialPort>& serialPort, const QByteArray& data) override;
+
+    // Imposed by name; nothing in the program calls these (MFCSMS_Unused.cpp).
+
+    /// Asks the modem once over the direct descriptor; whether it answered within 5 seconds.
+    bool InitializeModem(int descriptor);
     /// A null text when a write or read failed.
     QString Get_IMEI_Number(int descriptor);
     QString Model_Name(int descriptor);
     /// Whether the device reports a message centre of its own.
     bool Default_SMSC_Hai(int descriptor);
-
-    bool handlesReadInBackground() const override { return true; }
-    /// Logs what came unasked and reads on; interface thread.
-    void serialPortReadData(const std::shared_ptr<KVSerialPort>& serialPort, const QByteArray& data) override;
+    /// The printable form of a text, in a buffer that the calling thread's next call overwrites.
+    static const char* LogString(const char* text);
 
 private:
     bool Owns(int descriptor) const;
@@ -120,7 +123,7 @@ private:
     mutable std::mutex m_fields_lock;
 };
 
-/// The session made last. It is never cleared, so nothing may rely on it.
+/// The session made last. It is never cleared, and nothing reads it.
 extern std::atomic<MFCSMS*> mfc_sms_instance;
 
 /// The settings that OpenSerialPort found last, which CloseSerialPort restores: only one direct descriptor at a time

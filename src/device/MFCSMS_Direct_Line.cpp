@@ -1,14 +1,10 @@
-#include "device/Bounded_Write.h"
 #include "device/Device_Log.h"
 #include "device/Driver_Requests.h"
 #include "device/Line_Speeds.h"
 #include "device/MFCSMS.h"
-#include "device/Non_Blocking_Transfer.h"
-#include "platform/Log_Line.h"
 
 #include <cerrno>
 #include <fcntl.h>
-#include <poll.h>
 #include <sys/ioctl.h>
 
 termios gOriginalTTYAttrs;
@@ -121,21 +117,6 @@ private:
     termios m_settings{};
 };
 
-bool Answer_Comes(Serial_Calls& calls, int descriptor)
-{
-    switch (calls.Wait(descriptor, POLLIN, Paced_Read_Timeout(5))) {
-    case Line_Event::Ready:
-        Show_NSLog_Message(QStringLiteral("\neverything is ok\n"));
-        return true;
-    case Line_Event::Timed_Out:
-        Show_NSLog_Message(QStringLiteral("\nTIME OUT HAS OCCUR\n"));
-        return false;
-    default:
-        Show_NSLog_Message(QStringLiteral("\nSOME Other\n"));
-        return false;
-    }
-}
-
 } // namespace
 
 int MFCSMS::OpenSerialPort(const QByteArray& path)
@@ -184,52 +165,8 @@ void MFCSMS::CloseSerialPort(int descriptor)
     m_calls.Close(descriptor);
 }
 
-bool MFCSMS::Owns(int descriptor) const
-{
-    const std::lock_guard guard(m_fields_lock);
-    return m_descriptors.count(descriptor) > 0;
-}
-
 bool MFCSMS::Let_Go_Of(int descriptor)
 {
     const std::lock_guard guard(m_fields_lock);
     return m_descriptors.erase(descriptor) > 0;
-}
-
-bool MFCSMS::InitializeModem(int descriptor)
-{
-    static constexpr char command[] = "AT\r\n";
-    constexpr qsizetype command_length = sizeof command - 1;
-    constexpr qsizetype most_bytes = 4095;
-
-    Show_NSLog_Message(QStringLiteral("Try #1\n")); // there is one try only
-    Write_Outcome written{0, EBADF};
-    if (Owns(descriptor))
-        written =
-            Write_With_An_End(m_calls, descriptor, command, command_length, -1, [&](const char* bytes, size_t size) {
-                return Write_Without_Blocking(m_calls, descriptor, bytes, size);
-            });
-    if (written.m_error != 0) {
-        Log_Failed_Step(QStringLiteral("Error writing to modem"), written.m_error);
-        return false;
-    }
-    Show_NSLog_Message(QLatin1String("Wrote ") + QString::number(written.m_bytes_written) + QLatin1String(" bytes \"") +
-                       QLatin1String(LogString(command)) + QLatin1String("\"\n"));
-    if (written.m_bytes_written < command_length)
-        return false;
-    Show_NSLog_Message(QLatin1String("Looking for \"") + QLatin1String(LogString("\r\nOK\r\n")) +
-                       QLatin1String("\"\n"));
-    if (!Answer_Comes(m_calls, descriptor))
-        return false;
-
-    QByteArray buffer(most_bytes, '\0');
-    const ssize_t length = Read_Without_Blocking(m_calls, descriptor, buffer.data(), static_cast<size_t>(most_bytes));
-    if (length == -1)
-        Log_Failed_Step(QStringLiteral("Error reading from modem"), errno);
-    else if (length == 0)
-        Show_NSLog_Message(QStringLiteral("Nothing read.\n"));
-    buffer.truncate(length > 0 ? length : 0);
-    // The line end is looked for in the printable form too, where it cannot stand; the echo's "AT" is found there.
-    const QByteArray line = QByteArray("Read \"") + LogString(buffer.constData()) + "\"\n";
-    return line.contains("\r\nOK\r\n") || buffer.startsWith("\r\nOK\r\n") || line.contains("AT");
 }

@@ -1,8 +1,9 @@
+#include "device/MFCSMS_Queries.h"
+
 #include "device/Answer_Cleaning.h"
 #include "device/MFCSMS.h"
 #include "device/Submission_Steps.h"
 #include "platform/Log_Line.h"
-#include "platform/String_Helpers.h"
 
 namespace {
 
@@ -35,18 +36,6 @@ constexpr Query Queries[] = {
     {Phone_Value::Network_Operator, "AT+COPS?\r", nullptr, "AT+COPS +COPS", Quotes::Kept, "", Operator_Text},
     {Phone_Value::Revision, "AT+GMR\r", "AT+CGMR\r", "AT+GMR +GMR AT+CGMR +CGMR", Quotes::Removed, "", As_It_Is},
     {Phone_Value::Default_Smsc, "AT+CSCA?\r", nullptr, "AT+CSCA +CSCA", Quotes::Kept, "", Service_Centre_Text},
-};
-
-constexpr const Query& Query_For(Phone_Value value)
-{
-    return Queries[static_cast<int>(value)];
-}
-
-enum class Asked
-{
-    Answered,
-    Refused, // the read failed
-    Lost     // the command could not be written
 };
 
 QStringList Words(const Query& query)
@@ -88,17 +77,12 @@ bool Put_Value(MFCSMS& session, int descriptor, const Query& query, Phone_Values
     return asked != Asked::Lost;
 }
 
-// A null text when a write or read failed.
-QString Single_Value(MFCSMS& session, int descriptor, const Query& query)
-{
-    QString value;
-    if (!session.Write_Command(descriptor, "AT\r\n") || !session.Read_Command(descriptor, Expect_Ok) ||
-        Ask(session, descriptor, query, value) != Asked::Answered)
-        return {};
-    return value.isNull() ? QString(QLatin1String("")) : value;
-}
-
 } // namespace
+
+Asked Ask_For(MFCSMS& session, int descriptor, Phone_Value wanted, QString& value)
+{
+    return Ask(session, descriptor, Queries[static_cast<int>(wanted)], value);
+}
 
 bool MFCSMS::Read_Ph_Values(int descriptor, Phone_Values_Display& display)
 {
@@ -113,23 +97,4 @@ bool MFCSMS::Read_Ph_Values(int descriptor, Phone_Values_Display& display)
         Show_NSLog_Message(QStringLiteral("\nException CATCH\n"));
     }
     return true;
-}
-
-QString MFCSMS::Get_IMEI_Number(int descriptor)
-{
-    return Single_Value(*this, descriptor, Query_For(Phone_Value::Imei));
-}
-
-QString MFCSMS::Model_Name(int descriptor)
-{
-    return Single_Value(*this, descriptor, Query_For(Phone_Value::Model));
-}
-
-bool MFCSMS::Default_SMSC_Hai(int descriptor)
-{
-    if (!Write_Command(descriptor, "AT\r\n") || !Read_Command(descriptor, Expect_Ok) ||
-        !Write_Command(descriptor, "AT+CSCA?\r") || !Read_Command(descriptor, Expect_Ok))
-        return false;
-    const QString value = Clean_Answer(m_sLastResponse(), Words(Query_For(Phone_Value::Default_Smsc)), Quotes::Kept);
-    return !Trim_Str(Quoted_Text(value).value_or(QString())).isEmpty();
 }

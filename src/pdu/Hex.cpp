@@ -4,13 +4,3 @@ QString Hex(int n)
 {
     return QString::number(static_cast<quint32>(n), 16).toUpper();
 }
-
-quint8 Asc(const QString& s)
-{
-    return static_cast<quint8>(AscW(s) & 0xFF);
-}
-
-quint16 AscW(const QString& s)
-{
-    return s.isEmpty() ? quint16{0} : s.front().unicode();
-}

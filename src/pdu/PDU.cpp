@@ -1,17 +1,13 @@
 #include "pdu/PDU.h"
 
 #include <algorithm>
-#include <atomic>
 #include <new>
 #include <utility>
 
 #include "pdu/Gsm_Alphabet.h"
-#include "pdu/Hex.h"
 #include "pdu/Submit_Fields.h"
 
 namespace {
-
-std::atomic<PDU*> Made_Last = nullptr;
 
 constexpr qsizetype Digits_In_A_7_Bit_Part = 266; // 152 septets, 133 octets
 constexpr qsizetype Digits_In_A_Ucs2_Part = 264;  // 66 characters, 132 octets
@@ -76,44 +72,13 @@ QString Head_And_Slice(const Submit_Head& head, const Concatenation& concatenati
 
 PDU::PDU(Report report) : m_report(std::move(report))
 {
-    Made_Last = this;
+    s_made_last = this;
 }
 
 PDU::~PDU()
 {
     PDU* self = this;
-    Made_Last.compare_exchange_strong(self, nullptr);
-}
-
-PDU* PDU::defaultInstance()
-{
-    if (PDU* const made_last = Made_Last)
-        return made_last;
-    static PDU standing;
-    return &standing;
-}
-
-qint16 PDU::MapChar(const QString& character, bool /*blnEscapeChar*/)
-{
-    if (character.isEmpty())
-        return 0;
-    const Gsm_Code mapped = Gsm_Code_Of(character.front().unicode());
-    escap_char = mapped.escape ? 1 : 0;
-    return mapped.code;
-}
-
-QString PDU::MapTo7BitAlphabet(const QString& text)
-{
-    QString mapped;
-    mapped.reserve(text.size() * 2);
-    for (const QChar character : text) {
-        const Gsm_Code code = Gsm_Code_Of(character.unicode());
-        if (code.escape)
-            mapped.append(QChar(Gsm_Escape));
-        mapped.append(QChar(Carried_As(code)));
-    }
-    Remember_Escape(text);
-    return mapped;
+    s_made_last.compare_exchange_strong(self, nullptr);
 }
 
 QString PDU::EncodeUserData(const QString& text)
@@ -139,29 +104,6 @@ QString PDU::DecodeUserData_16_bit(const QString& text)
     return decoded;
 }
 
-QString PDU::ConvertToBinary(int value)
-{
-    QString digits;
-    for (int bit = 7; bit >= 0; --bit)
-        digits.append((static_cast<quint32>(value) >> bit) & 1 ? u'1' : u'0');
-    return digits;
-}
-
-quint32 PDU::BinToDec(const QString& digits)
-{
-    quint32 value = 0;
-    int position = 0;
-    for (auto digit = digits.crbegin(); digit != digits.crend() && position < 32; ++digit, ++position)
-        if (*digit == u'1')
-            value |= Power2(position);
-    return value;
-}
-
-quint32 PDU::Power2(int exponent)
-{
-    return exponent >= 0 && exponent < 32 ? 1U << exponent : 0;
-}
-
 int PDU::hex2dec(const QString& digit)
 {
     if (digit.size() != 1)
@@ -180,46 +122,6 @@ quint64 PDU::hex2int(const QString& digits)
     for (const QChar digit : digits)
         value = value * 16 + static_cast<quint64>(hex2dec(digit));
     return value;
-}
-
-QString PDU::reverseString(const QString& text)
-{
-    QString reversed = text;
-    std::reverse(reversed.begin(), reversed.end());
-    return reversed;
-}
-
-QString PDU::PadZero(const QString& text, int Length)
-{
-    return text.rightJustified(Length, u'0');
-}
-
-QString PDU::BCDEncode(int n)
-{
-    return PadZero(Hex(n), 2);
-}
-
-QString PDU::EncodeAddress(const QString& address, bool bInCountBytes)
-{
-    const auto counted = bInCountBytes ? Address_Length::Octets_And_Type : Address_Length::Digits;
-    Hex_Writer writer(Address_Digits(address, counted));
-    Put_Address(writer, address, counted);
-    return writer.Take();
-}
-
-QString PDU::EncodeSMSCAddress(const QString& address)
-{
-    return EncodeAddress(address, true);
-}
-
-QString PDU::EncodeDestinationAddress(const QString& address)
-{
-    return EncodeAddress(address, false);
-}
-
-QString PDU::Mid_String(const QString& text, qsizetype iFirst, qsizetype nCount)
-{
-    return Mid(text, iFirst, nCount).toString();
 }
 
 QString PDU::EncodePDU(const QString& message, const QString& strDestinationAddress, const QString& strSMSCAddress,

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "Text_Printing.h"
+#include "pdu/Asc_Unused.h"
 #include "pdu/Hex.h"
 
 using namespace Qt::StringLiterals;

@@ -1,3 +1,5 @@
+// Imposed by name; nothing in the program calls what stands here.
+
 #include "device/KVSerialPort.h"
 
 #include "device/Line_Speeds.h"
@@ -20,15 +22,6 @@ QString Text(const char* ascii)
 }
 
 } // namespace
-
-bool KVSerialPort::Note_Result(int result)
-{
-    if (result != -1)
-        return true;
-    m_last_error = errno;
-    m_got_error = true;
-    return false;
-}
 
 bool KVSerialPort::Refuse_If(bool on)
 {
