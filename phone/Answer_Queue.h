@@ -1,5 +1,3 @@
-// Bytes on their way out, each with the moment it may go. In order: nothing overtakes. Bounded: a line has no memory,
-// so what does not fit is lost. Owned by Virtual_Phone, used under its lock.
 #pragma once
 
 #include "phone/Phone_Mind.h"
@@ -12,6 +10,8 @@
 
 namespace Handset {
 
+/// Outgoing bytes, each with the moment it is due, strictly in order. Bounded: like a line, it loses what does not fit.
+/// Owned by Virtual_Phone, used under its lock.
 class Answer_Queue
 {
 public:
@@ -19,12 +19,12 @@ public:
 
     void Put(const Utterance& said, Clock::time_point now);
 
-    // Bytes one by one, this far apart.
+    /// Sends the bytes one by one, this far apart.
     void Put_Split(const Utterance& said, Clock::time_point now);
 
     bool Is_Empty() const { return m_waiting.empty(); }
 
-    // The next bytes that may go now: all that is due, or one piece of what was put split. Empty when nothing is due.
+    /// The bytes due now: all of them, or one piece of what was put split. Empty when nothing is due.
     std::string_view Due(Clock::time_point now) const;
     void Went_Out(std::size_t count);
 

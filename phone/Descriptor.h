@@ -1,4 +1,3 @@
-// One file descriptor with one owner; closed with it.
 #pragma once
 
 #include <unistd.h>
@@ -7,6 +6,7 @@
 
 namespace Handset {
 
+/// Sole owner of a file descriptor.
 class Descriptor
 {
 public:

@@ -1,10 +1,10 @@
-// A symbolic link to the phone's line under a name that does not change; gone when this object goes.
 #pragma once
 
 #include <string>
 
 namespace Handset {
 
+/// A symbolic link that gives the phone's line a fixed name; removed with this object.
 class Path_Link
 {
 public:
@@ -13,8 +13,7 @@ public:
     Path_Link(const Path_Link&) = delete;
     Path_Link& operator=(const Path_Link&) = delete;
 
-    // Returns what is wrong, or nothing. A link left over from an earlier phone is replaced, anything else at the path
-    // is not.
+    /// Returns what is wrong, or nothing. Replaces a link left by an earlier phone, and nothing else.
     std::string Make(const std::string& link, const std::string& target);
 
 private:

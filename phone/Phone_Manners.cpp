@@ -77,7 +77,7 @@ constexpr std::array Default_Rows = {
     Row{"AT+CPIN?", Deed::Nothing, ANSWER("+CPIN: READY")},
 };
 
-// The rows that a mood brings, where a mood is a matter of answers.
+// Rows for the moods that only change answers.
 struct Mood_Row
 {
     bool Phone_Moods::*m_mood;

@@ -1,6 +1,3 @@
-// The table of a phone's manners: which command gets which answer and what it does. Rows come from three places, the
-// first that knows a command wins: rows set one at a time (Will_Answer), rows that the moods bring, and the default
-// rows. Owned by the phone, used under its lock.
 #pragma once
 
 #include "phone/Phone_Moods.h"
@@ -12,7 +9,7 @@
 
 namespace Handset {
 
-// What a command does besides being answered.
+/// What a command does apart from being answered.
 enum class Deed
 {
     Nothing,
@@ -30,15 +27,18 @@ enum class Deed
 
 struct Manner
 {
-    std::string m_command; // as Normal_Command writes it; a "*" at its end stands for any rest
+    std::string m_command; ///< as Normal_Command writes it; a "*" at its end stands for any rest
     Deed m_deed = Deed::Nothing;
-    std::string m_answer;    // in a default or mood row, "{name}" stands for a value that the phone fills in
-    bool m_as_given = false; // goes out byte for byte, whatever the moods
+    std::string m_answer;    ///< in a default or mood row, "{name}" stands for a value that the phone fills in
+    bool m_as_given = false; ///< goes out byte for byte, whatever the moods
 };
 
-// Upper case and without blanks outside double quotes, as V.250 5.2.1 and 5.4.1 read a command line.
+/// Upper case and without blanks outside double quotes, as V.250 5.2.1 and 5.4.1 read a command line.
 std::string Normal_Command(std::string_view command);
 
+/// A phone's table of commands, their answers and effects. The first of three sources that knows a command wins: rows
+/// set one at a time (Will_Answer), rows that the moods bring, and the default rows. Owned by the phone, used under its
+/// lock.
 class Phone_Manners
 {
 public:
@@ -47,7 +47,7 @@ public:
     void Set_Moods(const Phone_Moods& moods);
     void Will_Answer(std::string_view command, std::string answer);
 
-    // The row for a command in its normal form; ERROR where no row knows it.
+    /// The row for a command in its normal form; ERROR where no row knows it.
     Manner Find(const std::string& command) const;
 
 private:

@@ -15,7 +15,7 @@ constexpr char Escape = 0x1B;
 
 constexpr std::array Status_Lines = {"\r\nRING\r\n", "\r\n+CMTI: \"SM\",1\r\n", "\r\n+CREG: 1\r\n"};
 
-// Neither an answer nor text: control characters, a NUL, octets that are no UTF-8.
+// Neither an answer nor text: control characters, a NUL, invalid UTF-8.
 constexpr char Noise_Bytes[] = "\x80\xFE\xC3(\x00\x07~\xED\xA0\x80\x9F\x01}\xFF\r\n\xF8\x88{\x00\xC0\xAF^\x1F\xFF";
 constexpr std::string_view Noise(Noise_Bytes, sizeof Noise_Bytes - 1);
 
@@ -120,7 +120,7 @@ void Phone_Mind::Take_Command_Byte(char byte)
         return;
     }
     m_line += byte;
-    // A modem finds its speed by "AT" and echoes from there on: other noise on the line is not thrown back.
+    // A modem finds its speed by "AT" and echoes only from there on, not noise before it.
     if (Begins_A_Command(m_line))
         Echo(m_line.size() == 2 ? std::string_view(m_line) : std::string_view(m_line).substr(m_line.size() - 1));
 }

@@ -1,5 +1,3 @@
-// The phone without its line: bytes in, bytes out, messages. Knows no descriptor, no thread and no clock, so that every
-// manner can be tested as a value. Owned by Virtual_Phone, which calls it under its lock.
 #pragma once
 
 #include "handset/Message_Joiner.h"
@@ -16,50 +14,52 @@
 
 namespace Handset {
 
-// Bytes to say, this long after they were thought of.
+/// Bytes to send after a delay.
 struct Utterance
 {
     std::string m_bytes;
     int m_delay_ms = 0;
 };
 
-// A part, and the message that it completed.
+/// A part, and the message that it completed.
 struct Arrival
 {
     Handset_Part m_part;
     std::optional<Handset_Message> m_message;
 };
 
-// What came of the bytes taken since the last Take_Happenings.
+/// What has happened since the last Take_Happenings.
 struct Happenings
 {
     std::vector<Utterance> m_said;
-    std::vector<std::string> m_lines; // command lines heard
-    std::string m_bytes;              // bytes taken off the line
+    std::vector<std::string> m_lines; ///< command lines heard
+    std::string m_bytes;              ///< bytes taken off the line
     std::vector<Arrival> m_arrivals;
     bool m_hangs_up = false;
 };
 
+/// The phone without its line: bytes in, bytes and messages out. Has no descriptor, thread or clock, so that it can be
+/// tested as a value. Owned by Virtual_Phone, which calls it under its lock.
 class Phone_Mind
 {
 public:
     explicit Phone_Mind(const Phone_Moods& moods);
 
-    // Bytes from the line. What a phone that stops reading does not take is held back until its moods let it read on.
+    /// Bytes from the line. A phone that has stopped reading keeps them back until its moods let it go on.
     void Take(std::string_view bytes);
     Happenings Take_Happenings();
 
-    // True while it takes nothing off the line.
+    /// True while it takes nothing off the line.
     bool Has_Stopped_Reading() const;
 
     void Set_Moods(const Phone_Moods& moods);
     const Phone_Moods& Moods() const { return m_moods; }
     void Will_Answer(std::string_view command, std::string answer);
 
-    void Plug_In(); // a half line or message is gone, settings are at their start
-    void Forget();  // half-received messages are gone, messages count from 1
+    void Plug_In(); ///< a half line or message is gone, settings are at their start
+    void Forget();  ///< half-received messages are gone, messages count from 1
 
-    // The next status line, for a phone that talks on its own.
+    /// The next status line, for a phone that talks on its own.
     std::string Status_Line();
 
 private:
@@ -94,7 +94,7 @@ private:
     bool m_is_too_long = false;
     bool m_skips_line_feed = false;
     std::string m_held_back;
-    Utterance m_kept_back; // the answer of a phone that is one behind
+    Utterance m_kept_back; // of a phone that is one answer behind
 
     int m_message_count = 0; // the k of "the k-th message"
     int m_announced = 0;     // TPDU octets that the current AT+CMGS announced

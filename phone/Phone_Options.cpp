@@ -137,7 +137,8 @@ std::size_t Count_Of_Values(const Option& option)
     return names.empty() ? 0 : std::size_t(std::count(names.begin(), names.end(), ' ')) + 1;
 }
 
-// Takes one option and its values off the front; "--name=value" is the same as "--name value" where there is one value.
+// Removes one option and its values from the front; "--name=value" is the same as "--name value" where there is one
+// value.
 std::string Take_Option(Phone_Options& options, Values& left)
 {
     std::string name = left.front();
@@ -165,7 +166,7 @@ std::string Take_Option(Phone_Options& options, Values& left)
     return {};
 }
 
-// Arguments may hold anything; what is said of them is one line all the same, and moves no cursor.
+// Arguments may hold anything; messages about them stay on one line and free of control characters.
 std::string On_One_Line(std::string text)
 {
     std::replace_if(

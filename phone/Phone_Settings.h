@@ -1,5 +1,3 @@
-// What commands set in a phone and what its answers are filled with. Owned by the phone's mind, used under the phone's
-// lock. A setting that no command has touched follows the moods.
 #pragma once
 
 #include "phone/Phone_Manners.h"
@@ -11,20 +9,21 @@
 
 namespace Handset {
 
+/// A phone's settings, which also fill in its answers. Owned by the phone's mind, used under the phone's lock. A
+/// setting that no command has touched follows the moods.
 class Phone_Settings
 {
 public:
     explicit Phone_Settings(const Phone_Moods& moods) : m_moods(moods) {}
 
     void Set_Moods(const Phone_Moods& moods) { m_moods = moods; }
-    void Plug_In(); // everything back at its start
-    void Reset();   // ATZ and AT&F: everything but the service centre, which a phone keeps
+    void Plug_In(); ///< everything back at its start
+    void Reset();   ///< ATZ and AT&F: everything but the service centre, which a phone keeps
 
-    // Does what a setting command asks; argument is what stands behind "=". False when the argument is not one it
-    // takes.
+    /// Carries out a setting command; argument is what follows "=". False when it is invalid.
     bool Do(Deed deed, std::string_view argument);
 
-    // Replaces every "{name}" that is one of the phone's values.
+    /// Replaces every "{name}" that is one of the phone's values.
     std::string Filled(std::string_view answer) const;
 
     bool Echo() const { return m_echo.value_or(!m_moods.m_no_echo); }
@@ -35,8 +34,8 @@ public:
     int Protocol() const { return m_protocol; }       // +CSMP <pid>
     int Coding() const { return m_coding; }           // +CSMP <dcs>
 
-    // A number in the current character set: digits as they are, or hexadecimal UCS2 where "UCS2" or "HEX" is set and
-    // the text is that. type 145 adds the "+" that is not written. Empty when it is no number that can be dialled.
+    /// A number in the current character set: digits as they are, or hexadecimal UCS2 where "UCS2" or "HEX" is set and
+    /// the text is that. type 145 adds the "+" that is not written. Empty when it is no number that can be dialled.
     std::string Number(std::string_view text, std::string_view type) const;
 
 private:
@@ -58,13 +57,13 @@ private:
     int m_coding = 0;
 };
 
-// The text between double quotes; nothing where there are none around it.
+/// The text between double quotes; nothing where there are none around it.
 std::optional<std::string_view> Unquoted(std::string_view text);
 
-// Cuts at commas outside quotes.
+/// Cuts at commas outside quotes.
 std::vector<std::string_view> Arguments_Of(std::string_view text);
 
-// A whole decimal number of at most nine digits.
+/// A whole decimal number of at most nine digits.
 std::optional<int> Number_Of(std::string_view digits);
 
 } // namespace Handset

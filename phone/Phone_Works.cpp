@@ -205,7 +205,7 @@ void Phone_Works::Say(const Utterance& said)
         m_queue.Put(said, Clock::now());
 }
 
-// What nobody is there to hear is lost, and so is what somebody left unread when the line was closed.
+// Bytes are lost while nobody has the line open, and when it is closed unread.
 void Phone_Works::Look_Who_Is_There()
 {
     const bool somebody_is_there = m_line.Somebody_Has_It_Open();
@@ -237,8 +237,7 @@ void Phone_Works::Speak()
     }
 }
 
-// Arms the timer for the next bytes due, or for a look whether there is room again. Unarmed, an idle phone costs
-// nothing.
+// Arms the timer for the next bytes due, or to check for room again. An idle phone leaves it unarmed and costs nothing.
 void Phone_Works::Set_Timer() const
 {
     const auto now = Clock::now();

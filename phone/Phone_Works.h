@@ -1,6 +1,3 @@
-// The inside of a Virtual_Phone and owned by it: the worker thread, the line and what is remembered. One mutex guards
-// all of it; whoever calls takes it first, as the worker does, so that any thread may serve the line: who asks what
-// came reads it first.
 #pragma once
 
 #include "handset/Handset_Message.h"
@@ -22,6 +19,8 @@
 
 namespace Handset {
 
+/// The inside of a Virtual_Phone, owned by it: worker thread, line and records. One mutex guards everything; callers
+/// lock it as the worker does, so that any thread may serve the line.
 class Phone_Works
 {
 public:
@@ -30,10 +29,10 @@ public:
     Phone_Works(const Phone_Works&) = delete;
     Phone_Works& operator=(const Phone_Works&) = delete;
 
-    // The following want m_lock held.
+    // The following require m_lock.
     void Plug_In();
     void Close_Line();
-    void Serve(); // takes what has come and says what is due, at once
+    void Serve(); ///< reads what has come and writes what is due
     void Say(const Utterance& said);
     void Forget();
     bool Somebody_Is_There() const { return m_somebody_is_there; }
@@ -48,8 +47,8 @@ public:
     std::string m_bytes;
     std::deque<Handset_Part> m_parts;
     std::deque<Handset_Message> m_inbox;
-    bool m_heard_something = false; // since somebody last asked what it heard
-    std::uint64_t m_said = 0;       // bytes that went out
+    bool m_heard_something = false; ///< since it was last asked
+    std::uint64_t m_said = 0;       ///< bytes that went out
 
 private:
     // What the listeners have not been told yet; an arrival, or nothing for a hang-up.
@@ -68,7 +67,7 @@ private:
     Answer_Queue m_queue;
     News m_news;
     bool m_somebody_is_there = false; // has the line open
-    bool m_words_are_out = false;     // said to whoever has the line open, perhaps not read yet
+    bool m_words_are_out = false;     // written and perhaps not read yet
     bool m_has_no_room = false;
     bool m_is_ending = false;
     Answer_Queue::Clock::time_point m_next_talk{};

@@ -36,7 +36,7 @@ void Pty_Line::Open()
         Throw_Error("the pseudo-terminal cannot be unlocked");
     if (::fcntl(master.Number(), F_SETFL, O_RDWR | O_NONBLOCK) != 0)
         Throw_Error("the pseudo-terminal cannot be made non-blocking");
-    // The system tells "nobody has it open" only of a line that has been open before.
+    // The system reports a hang-up only for a line that has been open before.
     Opened_Other_End(path.data());
     m_master = std::move(master);
     m_path = path.data();

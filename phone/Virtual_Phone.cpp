@@ -41,7 +41,7 @@ std::uint64_t Said_By(Phone_Works& works, std::chrono::milliseconds within)
     std::unique_lock guard(works.m_lock);
     works.Serve();
     works.m_changed.wait_until(guard, end, [&] { return !works.Says_Something_Before(end); });
-    works.Serve(); // what became due while the phone's own thread got no turn
+    works.Serve(); // what fell due while the phone's own thread was not scheduled
     return works.m_said;
 }
 
@@ -80,7 +80,7 @@ void Virtual_Phone::Says(std::string bytes)
     m_works->Serve();
 }
 
-// Whoever asks what came sees all that was written before the question: the line is read first.
+// The line is read first, so that the caller sees all that was written before the call.
 std::vector<std::string> Virtual_Phone::Heard() const
 {
     const std::lock_guard guard(m_works->m_lock);

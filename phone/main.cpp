@@ -23,8 +23,8 @@ namespace {
 
 using Handset::Descriptor;
 
-// Standard output, written by several threads. What comes before the first line waits for it. Ends the program when its
-// output has nowhere to go.
+// Standard output, written by several threads; later lines wait for the first. Ends the program when its output has
+// nowhere to go.
 class Output
 {
 public:
@@ -61,7 +61,7 @@ private:
     Descriptor m_closed{::eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC)};
 };
 
-// Signals that end the program become readable; blocked before any thread starts, so that no thread takes them.
+// Makes terminating signals readable; blocks them before any thread starts, so that none takes them.
 Descriptor Ending_Signals()
 {
     sigset_t signals;

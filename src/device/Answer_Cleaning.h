@@ -4,7 +4,7 @@
 #include <QStringList>
 #include <optional>
 
-// How the answers to a device's queries become what a person reads. Pure functions on text.
+// Turns a device's answers to queries into what a person reads. Pure functions on text.
 
 enum class Quotes
 {

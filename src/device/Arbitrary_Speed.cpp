@@ -1,10 +1,9 @@
-// The kernel's own terminal record, the only one with room for any speed, clashes with the C library's: nothing else
-// here.
+// Only the kernel's termios2 takes any speed, and its header clashes with the C library's; so this stands alone.
 #include <asm/termbits.h>
 
 #include <asm/ioctls.h>
 
-// Declared by hand for the same reason; the header would bring in the C library's record.
+// Declared by hand for the same reason.
 class Serial_Calls;
 int Control_Line(Serial_Calls& calls, int descriptor, unsigned long request, void* argument);
 

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-// The device that the connection wizard was left with. Interface thread only; a worker takes copies when it starts.
+// The device chosen in the connection wizard. Interface thread only; a worker copies what it needs at its start.
 
 extern QString sel_port_bsd_str;  ///< device path; empty when none is selected
 extern QString sel_port_name_str; ///< display name; empty when none is selected

@@ -9,7 +9,7 @@ enum class KVText_Encoding
     Utf8   ///< invalid sequences become U+FFFD
 };
 
-/// What bytes from a line say; null for null bytes. Zero bytes are kept.
+/// The text of bytes from a line; null for null bytes. Keeps zero bytes.
 QString Decoded_Text(const QByteArray& bytes, KVText_Encoding encoding);
 
 /// The bytes that go to the line for a text.

@@ -2,8 +2,7 @@
 
 #include <stdexcept>
 
-/// The one kind of exception that device work may raise and that the session's operations catch at their edge. Every
-/// other kind passes through to the caller.
+/// The only exception that the session's operations catch; every other passes through to the caller.
 class Device_Exception : public std::runtime_error
 {
 public:

@@ -21,7 +21,7 @@ bool Means_Unsupported(int error)
 
 } // namespace
 
-// For the one file that cannot include the seam's header.
+// For Arbitrary_Speed.cpp, which cannot include the seam's header.
 int Control_Line(Serial_Calls& calls, int descriptor, unsigned long request, void* argument);
 
 int Control_Line(Serial_Calls& calls, int descriptor, unsigned long request, void* argument)

@@ -2,8 +2,8 @@
 
 #include <QString>
 
-/// Takes the ports that a search finds. Implemented by whoever asked for the search; called on the searching thread,
-/// once for each port that could be opened, in the order found.
+/// Receives the ports that a search finds: called on the searching thread, once for each port that opened, in the order
+/// found.
 class Found_Port_List
 {
 public:

@@ -5,14 +5,14 @@
 /// The domain of the codes below.
 inline constexpr char KVSerialErrorDomain[] = "org.corvane.serialport";
 
-/// What a read or write reports beside its result.
+/// What a read or write reports in addition to its result.
 enum KVSerial_Code
 {
     KVSerial_Ended_Normally = 0,
     KVSerial_System_Error =
         99, ///< waiting, read or write failed; the system's error number is attached when there is one
     KVSerial_Read_Timeout = 100, ///< the data read so far is still returned
-    KVSerial_Buffer_Full = 101,  ///< 4096 bytes read without another end
+    KVSerial_Buffer_Full = 101,  ///< 4096 bytes read before any other end
     KVSerial_Nothing_To_Write = 200,
     KVSerial_Write_Incomplete = 201 ///< fewer bytes went out than were given
 };

@@ -39,12 +39,12 @@ std::shared_ptr<KVFileHandle> KVSerialPort::Open_With(int flags, bool exclusivel
     const std::lock_guard closing(m_close_lock);
     if (isOpen())
         return m_file_handle;
-    if (m_file_handle) { // this thread is closing it further up
+    if (m_file_handle) { // this thread is inside close() further up the stack
         errno = EBUSY;
         Note_Result(-1);
         return nullptr;
     }
-    // Without O_NONBLOCK the system would wait here for a carrier, which most phones never show.
+    // Without O_NONBLOCK, open would wait for a carrier, which most phones never raise.
     const int descriptor = m_calls.Open(QFile::encodeName(m_bsd_path).constData(), flags | O_NONBLOCK | O_CLOEXEC);
     if (!Note_Result(descriptor))
         return nullptr;
@@ -90,8 +90,8 @@ bool KVSerialPort::Take_Over(int descriptor, bool exclusively)
     return false;
 }
 
-// A terminal comes up with echo and line editing: every answer would go back into the modem, and a prompt without a
-// line end would never arrive.
+// A terminal starts with echo and line editing: it would send every answer back to the modem and never deliver a prompt
+// without a line end.
 void KVSerialPort::Take_Raw_Settings()
 {
     cfmakeraw(&m_options);
@@ -108,8 +108,7 @@ void KVSerialPort::close()
         return;
     const int descriptor = m_file_descriptor;
     {
-        // From here on nobody else touches the descriptor: each read and write looks first, under this lock, whose it
-        // is.
+        // From here on nobody else touches the descriptor: each read and write first checks m_line under this lock.
         const std::lock_guard guard(m_line_lock);
         m_file_descriptor = -1;
         m_line->End();
@@ -119,7 +118,7 @@ void KVSerialPort::close()
     const int flags = m_calls.Get_Status_Flags(descriptor);
     if (flags != -1)
         m_calls.Set_Status_Flags(descriptor, flags | O_NONBLOCK);
-    // A driver that still holds bytes would keep the close waiting, on Linux whatever O_NONBLOCK says.
+    // On Linux, close waits for a driver that still holds bytes, even with O_NONBLOCK.
     Drain_With_An_End(m_calls, descriptor);
     m_calls.Set_Attributes(descriptor, m_original_options);
     if (m_is_exclusive)

@@ -30,14 +30,14 @@ using KVSerialOptions = QHash<QString, QString>;
 inline constexpr char KVSerialOptionServiceName[] = "KVSerialOptionServiceName";
 inline constexpr char KVSerialOptionSpeed[] = "KVSerialOptionSpeed";
 inline constexpr char KVSerialOptionDataBits[] = "KVSerialOptionDataBits";
-inline constexpr char KVSerialOptionParity[] = "KVSerialOptionParity"; // "Odd", "Even"
+inline constexpr char KVSerialOptionParity[] = "KVSerialOptionParity"; ///< "Odd", "Even"
 inline constexpr char KVSerialOptionStopBits[] = "KVSerialOptionStopBits";
-inline constexpr char KVSerialOptionInputFlowControl[] = "KVSerialOptionInputFlowControl";   // "RTS", "DTR"
-inline constexpr char KVSerialOptionOutputFlowControl[] = "KVSerialOptionOutputFlowControl"; // "CTS", "DSR", "CAR"
-inline constexpr char KVSerialOptionEcho[] = "KVSerialOptionEcho";                           // "YES"
-inline constexpr char KVSerialOptionCanonicalMode[] = "KVSerialOptionCanonicalMode";         // "YES"
+inline constexpr char KVSerialOptionInputFlowControl[] = "KVSerialOptionInputFlowControl";   ///< "RTS", "DTR"
+inline constexpr char KVSerialOptionOutputFlowControl[] = "KVSerialOptionOutputFlowControl"; ///< "CTS", "DSR", "CAR"
+inline constexpr char KVSerialOptionEcho[] = "KVSerialOptionEcho";                           ///< "YES"
+inline constexpr char KVSerialOptionCanonicalMode[] = "KVSerialOptionCanonicalMode";         ///< "YES"
 
-/// The one owner of an open descriptor; made by a port's open, emptied by its close, whoever else still holds it.
+/// Sole owner of an open descriptor; made by a port's open, emptied by its close even while others hold it.
 class KVFileHandle
 {
 public:
@@ -58,8 +58,7 @@ private:
 /// background threads that hand data to a delegate. Held by shared_ptr: a background thread keeps its port alive until
 /// it ends, which it does when the port is closed, the line hangs up or the program exits. Any thread may use it, but
 /// only one at a time may exchange (write, then read). From the write of a command to the end of the read that follows,
-/// the background reader leaves the line's bytes alone; where no read follows, for some seconds. No call blocks for
-/// ever.
+/// the background reader leaves the line's bytes alone; if no read follows, for some seconds. No call blocks for ever.
 class KVSerialPort : public std::enable_shared_from_this<KVSerialPort>
 {
 public:
@@ -73,14 +72,14 @@ public:
 
     QString bsdPath() const { return m_bsd_path; }
 
-    /// Opens the device for everybody, saves its settings and makes the line raw. Returns the handle, or none on
-    /// failure, also where the path is no terminal or another program holds it exclusively; lastError then says why.
+    /// Opens the device for shared use, saves its settings and makes the line raw. Returns no handle on failure, which
+    /// includes a path that is no terminal and a line held exclusively; lastError says why.
     std::shared_ptr<KVFileHandle> open();
     bool isOpen() const { return m_file_descriptor != -1; }
-    /// Restores the settings found at open and closes. Wakes whoever waits on the port. Does nothing on a closed port.
+    /// Restores the settings found at open and closes. Wakes all waits on the port. Does nothing on a closed port.
     void close();
 
-    /// Seconds at pace 1 that a synchronous read takes in all; 0, as after creation, reads nothing.
+    /// Total seconds of a synchronous read at pace 1; at 0, the initial value, it reads nothing.
     void setReadTimeout(double seconds) { m_read_timeout = seconds; }
 
     // Synchronous reads, here and below: they end at 4096 bytes, at the byte count or the stop character where one is
@@ -93,12 +92,12 @@ public:
     bool writeData(const QByteArray& data, KVSerialError* error = nullptr);
     bool writeString(const QString& string, KVText_Encoding usingEncoding, KVSerialError* error = nullptr);
     bool writeBytes(const char* bytes, qsizetype length, KVSerialError* error = nullptr);
-    /// The last word to a device, for which the program's exit waits as well: 2 seconds at pace 1 at the most. Where
-    /// there is no room for it even then, what waits to go out is thrown away.
+    /// A last write to a device, for which even the program's exit waits, at most 2 seconds at pace 1. If it does not
+    /// fit by then, pending output is discarded.
     bool writeInLeaving(const QByteArray& data);
     /// Whether it was done; on failure gotError is set.
     bool flushInput(bool input, bool output);
-    /// No read follows for a while: what comes from now on, and what waits, is for the background reader.
+    /// No read follows for a while: what waits and what comes goes to the background reader.
     void Await_No_Answer() { Await_Answer_Until(0); }
 
     void setDelegate(KVSerialPortDelegate* delegate);
@@ -260,6 +259,6 @@ private:
     std::atomic<bool> m_stop_write_in_background{false};
     std::atomic<int> m_background_writers{0};
     std::atomic<bool> m_stop_read_in_background{false};
-    std::atomic<bool> m_reader_is_missing{false}; // for want of a thread
+    std::atomic<bool> m_reader_is_missing{false}; // the system refused it a thread
     std::atomic<int> m_background_readers{0};
 };

@@ -7,13 +7,13 @@
 
 class KVSerialPort;
 
-/// Receives what a port's background threads have to tell, on the interface thread. Owned by nobody here: the port
-/// keeps only a Delegate_Guard, through which a delegate that has gone is no longer called. A derived class whose
-/// object may go while a port still works calls No_More_Calls first thing in its destructor.
+/// Receives the reports of a port's background threads, on the interface thread. The port does not own it: it keeps a
+/// Delegate_Guard, which stops calls to a delegate that has gone. A derived class that may be destroyed while a port
+/// still works calls No_More_Calls first thing in its destructor.
 class KVSerialPortDelegate
 {
 public:
-    /// The way from a port to its delegate, shared by both. A call and the delegate's end keep out of each other's way.
+    /// The link from a port to its delegate, shared by both. A call and the delegate's destruction exclude each other.
     class Delegate_Guard
     {
     public:

@@ -19,7 +19,7 @@ public:
 
     explicit KVSerialPortList(Port_Finder& finder = System_Port_Finder(), QObject* parent = nullptr);
 
-    /// The one list of the process, made at its first use and ended with the application.
+    /// The process's list, made on first use and destroyed with the application.
     static KVSerialPortList* sharedPortList();
 
     qsizetype count() const { return m_ports.size(); }
@@ -32,7 +32,7 @@ public:
     KVStandardEnumerator portEnumerator() const { return KVStandardEnumerator(m_ports); }
     KVStandardEnumerator portEnumeratorForSerialPortsOfType(const QString& type) const;
 
-    /// Looks what has come and gone. Done by itself whenever something changes in the device directory.
+    /// Updates the list. Runs by itself whenever the device directory changes.
     void Refresh();
 
 Q_SIGNALS:

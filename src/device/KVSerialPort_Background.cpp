@@ -55,7 +55,7 @@ void KVSerialPort::Read_In_Background()
         Deliver_Read(data);
 }
 
-// Waits as long as it takes. Whether there is something to deliver: bytes, or none when the line was closed or hung up.
+// Waits without limit. Returns whether to deliver: bytes, or none when the line was closed or hung up.
 bool KVSerialPort::Wait_For_Background_Data(const Line& line, QByteArray& data)
 {
     std::array<char, Buffer_Size> bytes;
@@ -69,7 +69,7 @@ bool KVSerialPort::Wait_For_Background_Data(const Line& line, QByteArray& data)
                 return false;
             time_to_answer = std::min(m_answer_awaited_until - Now_Seconds(), Longest_Wait_For_Read());
         }
-        // While an answer is awaited the line is not even looked at, or it would be found ready over and over.
+        // While an answer is awaited the line is not polled: it would report ready over and over.
         const bool is_awaited = time_to_answer > 0;
         const Line_Event event = m_calls.Wait(is_awaited ? -1 : line.Descriptor(), POLLIN,
                                               is_awaited ? time_to_answer : -1, m_background_event);

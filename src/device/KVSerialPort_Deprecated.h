@@ -4,7 +4,7 @@
 
 #include "device/KVSerialPort.h"
 
-/// Older spellings of a port's operations, for code written before errors were reported.
+/// Older spellings of a port's operations, without error reports.
 namespace Deprecated {
 
 inline QByteArray readData(KVSerialPort& port)

@@ -7,10 +7,10 @@
 #include <sys/eventfd.h>
 #include <unistd.h>
 
-// What the files that make up KVSerialPort share; nobody else includes it.
+// Shared by the files that make up KVSerialPort; private to them.
 
-/// One opening of the line, held by every transfer that began with it: when the port's line is another one by now, the
-/// descriptor in here is no longer the port's and must not be touched.
+/// One opening of the line, held by every transfer that began with it. Once the port has another line, this descriptor
+/// is no longer the port's and must not be touched.
 class KVSerialPort::Line
 {
 public:
@@ -20,7 +20,7 @@ public:
     Line& operator=(const Line&) = delete;
 
     int Descriptor() const { return m_descriptor; }
-    /// A descriptor that can be read from the line's end on: it ends the waits of whoever transfers.
+    /// A descriptor that becomes readable when the line ends, which ends the waits of all transfers.
     int Is_Over() const { return m_is_over; }
     void End() const { eventfd_write(m_is_over, 1); }
 
@@ -29,10 +29,10 @@ private:
     const int m_is_over;
 };
 
-/// Leaves a step for the interface thread; without an application object nobody is told.
+/// Queues a step for the interface thread; does nothing without an application object.
 void Tell_Interface_Thread(std::function<void()> step);
 
-/// Where a synchronous read ends beside the time-out and the full buffer.
+/// What ends a synchronous read other than the time-out and a full buffer.
 struct KVSerialPort::Read_Ends
 {
     bool m_counts = false;
@@ -41,10 +41,10 @@ struct KVSerialPort::Read_Ends
     char m_stop = 0;
 };
 
-/// Real seconds for which a read may be late. A unicode message in text mode is answered to the next message's first
-/// read, which comes 4 described seconds after the write (2 after the last part, 2 after the message) and one later for
-/// each number skipped on the way; an answer gets 5 seconds everywhere else. 10 are more than both, and too few for a
-/// talkative phone to fill a read's 4,096 octets unasked.
+/// How late a read may come, in real seconds. The answer to a unicode message in text mode is taken by the next
+/// message's first read, 4 described seconds after the write (2 after the last part, 2 after the message) and one more
+/// for each number skipped; elsewhere an answer has 5 seconds. 10 exceed both, and are too few for a talkative phone to
+/// fill a read's 4,096 octets unasked.
 inline double Longest_Wait_For_Read()
 {
     constexpr double Described_Seconds = 10;
@@ -52,8 +52,8 @@ inline double Longest_Wait_For_Read()
     return std::max(Paced(Described_Seconds), Shortest_Wait);
 }
 
-/// Keeps the background reader off the line's bytes, from its making until its end; or, once it is told so, until the
-/// read that follows, which has to come in time.
+/// Keeps the background reader off the line's bytes while it lives; after Goes_On, until the read that follows, which
+/// must come in time.
 class KVSerialPort::Awaited_Answer
 {
 public:

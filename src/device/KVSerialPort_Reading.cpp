@@ -15,8 +15,8 @@ std::shared_ptr<const KVSerialPort::Line> KVSerialPort::Present_Line()
     return m_line;
 }
 
-// With an answer awaited the background reader takes no byte. It is woken where that is over at once; otherwise it
-// looks at the clock itself.
+// While an answer is awaited the background reader takes no byte. It is woken when the wait ends at once; otherwise it
+// watches the clock itself.
 void KVSerialPort::Await_Answer_Until(double moment)
 {
     {
@@ -28,8 +28,8 @@ void KVSerialPort::Await_Answer_Until(double moment)
     Start_Missing_Reader();
 }
 
-// The only place that takes bytes off the line. EAGAIN: none for this caller now, since the line was found ready
-// somebody else has taken them, here or in another program.
+// The only place that takes bytes off the line. EAGAIN: no byte for this caller; another reader, here or in another
+// program, has taken what made the line ready.
 ssize_t KVSerialPort::Take_Bytes(const Line& line, char* bytes, size_t size, bool in_background)
 {
     const std::lock_guard guard(m_line_lock);

@@ -8,7 +8,7 @@
 
 #include <cerrno>
 
-// Never blocks: what there is no room for is left to the next turn.
+// Never blocks: what does not fit is left for the next call.
 ssize_t KVSerialPort::Put_Bytes(const Line& line, const char* bytes, size_t size)
 {
     const std::lock_guard guard(m_line_lock);

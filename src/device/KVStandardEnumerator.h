@@ -7,7 +7,7 @@
 
 class KVSerialPort;
 
-/// Goes through a list of ports once, from the first to the last. A value of its creator's; it keeps its ports alive.
+/// Goes through a list of ports once, in order. Keeps its ports alive.
 class KVStandardEnumerator
 {
 public:

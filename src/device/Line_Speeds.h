@@ -2,10 +2,10 @@
 
 #include <termios.h>
 
-// A line's speed in bits a second, and the code by which the system knows it.
+// A line's speed in bits a second, and the system's code for it.
 
-/// 0 for a code that stands for no speed known here.
+/// 0 for an unknown code.
 long Speed_Of_Code(speed_t code);
 
-/// B0 for a speed that has no code; B0 is the code of 0, too.
+/// B0 for a speed that has no code, and for 0.
 speed_t Code_Of_Speed(long speed);

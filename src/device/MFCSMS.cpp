@@ -5,7 +5,7 @@
 
 namespace {
 
-// A line of up to this many characters, such as that of a message's terminator, is not worth logging.
+// Lines up to this length, such as a message's terminator, are not logged.
 constexpr qsizetype Short_Log_Line = 12;
 
 QString Port_Log_Line(const QString& path, const char* state)
@@ -52,7 +52,7 @@ void MFCSMS::initPort(const QString& path)
 
 void MFCSMS::setPort(const std::shared_ptr<KVSerialPort>& port)
 {
-    const auto previous = this->port(); // let go of after the lock
+    const auto previous = this->port(); // released after the lock
     const std::lock_guard guard(m_fields_lock);
     m_port = port;
 }
@@ -102,7 +102,7 @@ bool MFCSMS::Read_Command(int, const QByteArray& response_str)
             return false;
         return Find_Str(line, Trim_Str(QString::fromUtf8(response_str.constData())));
     } catch (const Device_Exception& exception) {
-        // The caller carries on, on purpose: what went wrong stands in the last response.
+        // The caller deliberately carries on; the last response says what went wrong.
         setM_sLastResponse(QString::fromUtf8(exception.what()));
         return true;
     }

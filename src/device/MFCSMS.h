@@ -10,11 +10,11 @@
 #include <mutex>
 #include <set>
 
-/// The session with a GSM phone or modem: owns the port that carries every exchange, writes command lines, reads
-/// whatever is answered within the port's read time-out and judges it by an expected text. The main window and the
-/// wizard each own one. Its operations run on the caller's thread and block for the waits described; two exchanges must
-/// not run on one session at once. It shows nothing: results and log lines are all it gives. The int that the exchanges
-/// take is the direct descriptor, closed by then and never touched.
+/// The session with a GSM phone or modem: owns the port that carries every exchange, writes command lines, reads what
+/// is answered within the port's read time-out and looks for an expected text in it. The main window and the wizard
+/// each own one. Its operations run on the caller's thread and block for the waits described; two exchanges must not
+/// run on one session at once. It shows nothing: it only returns results and writes log lines. The int that exchanges
+/// take is the direct descriptor, which is closed by then and ignored.
 class MFCSMS : public KVSerialPortDelegate
 {
 public:
@@ -27,11 +27,11 @@ public:
     /// Fills the iterator with the serial ports of this computer. Returns 0 or the system's status.
     int FindModems(Modem_Iterator& iterator);
     /// Tries every port of the iterator and hands those that open to the list. bsdPath is left with the last path
-    /// tried; one of maxPathSize bytes (with its end) or more is passed over. Returns 0 when a port opened,
-    /// otherwise 5.
+    /// tried; one of maxPathSize bytes (with its end) or more is passed over. Returns 0 when a port opened, otherwise
+    /// 5.
     int GetModemPath(Modem_Iterator& iterator, QString& bsdPath, int maxPathSize, Found_Port_List& list);
 
-    // The direct descriptor: a test whether a device can be opened and set up.
+    // The direct descriptor, to test whether a device can be opened and set up.
 
     /// Opens the device for this session alone and sets up its line. Returns the descriptor, or -1 with a line in the
     /// log.
@@ -56,11 +56,11 @@ public:
     bool Read_Command(int descriptor, const QByteArray& response_str);
     bool Check_Connection(int descriptor);
 
-    // A message on the line: the phone takes whatever comes between the two for its text.
+    // A message on the line: between these two the phone takes everything for its text.
     bool Begin_Message(int descriptor, const QByteArray& command_str); ///< writes the command that asks for a prompt
     bool End_Message(int descriptor);                                  ///< writes the terminator
-    /// On the way out of the program: calls off a message that was begun and not ended, so that the phone does not wait
-    /// for the rest of it.
+    /// For the program's exit: cancels a message that was begun and not ended, so that the phone does not wait for the
+    /// rest.
     void Call_Off_Message();
 
     /// The last answer without white space at its ends; after an exception during a read, the exception's reason.
@@ -85,13 +85,13 @@ public:
     bool Send_Text_SMS(int descriptor, const QString& number, const QString& message, const QString& smsc_num,
                        bool flash_sms, bool unicode_sms);
 
-    // What the device tells about itself.
+    // What the device says about itself.
 
     /// Asks for the nine values, about a read time-out each. False only when a command could not be written.
     bool Read_Ph_Values(int descriptor, Phone_Values_Display& display);
 
     bool handlesReadInBackground() const override { return true; }
-    /// Logs what came unasked and reads on; interface thread.
+    /// Logs unsolicited data and reads on. Interface thread.
     void serialPortReadData(const std::shared_ptr<KVSerialPort>& serialPort, const QByteArray& data) override;
 
     // Imposed by name; nothing in the program calls these (MFCSMS_Unused.cpp).
@@ -108,7 +108,7 @@ public:
 
 private:
     bool Owns(int descriptor) const;
-    /// Whether it was the session's own until now.
+    /// Returns whether it was the session's own.
     bool Let_Go_Of(int descriptor);
 
     Serial_Calls& m_calls;

@@ -11,12 +11,12 @@ termios gOriginalTTYAttrs;
 
 namespace {
 
-std::mutex Original_Settings_Lock; // two sessions may open and close at once
+std::mutex Original_Settings_Lock; // sessions may open and close concurrently
 
 constexpr long Final_Speed = 19200;
 constexpr long Requested_Speed = 14400;
 
-// The steps of opening, in their order. Each logs its own failure and answers whether the opening may go on.
+// The steps of opening, in order. Each logs its own failure and returns whether to go on.
 class Direct_Line
 {
 public:
@@ -126,7 +126,7 @@ int MFCSMS::OpenSerialPort(const QByteArray& path)
         Log_Failed_Step(QStringLiteral("Error opening serial port"), path, errno);
         return -1;
     }
-    // Exclusive use does not keep privileged users out, so a line that somebody claims may have opened even so.
+    // Exclusive use does not keep privileged users out, so a claimed line may still have opened.
     if (Is_Claimed_Exclusively(m_calls, descriptor)) {
         Log_Failed_Step(QStringLiteral("Error opening serial port"), path, EBUSY);
         m_calls.Close(descriptor);

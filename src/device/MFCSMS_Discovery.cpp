@@ -9,7 +9,7 @@ namespace {
 
 constexpr int No_Modem_Found = 5;
 
-// Whether the path and its zero byte fit into the room there is.
+// Whether the path and its zero byte fit.
 bool Fits(const QByteArray& path, int room)
 {
     return path.size() < room;

@@ -14,16 +14,16 @@ QString As_It_Is(const QString& value)
     return value;
 }
 
-// One question to the device: what is written, with which words its answer comes, and how the value is read out of it.
+// One query: what is written, which words frame the answer, and how the value is taken from it.
 struct Query
 {
     Phone_Value m_value;
     const char* m_command;
     const char* m_fallback; // asked when the device answers "Undefined"; null for none
-    const char* m_words;    // the echo and the prefix, between blanks, in the order in which they are taken out
+    const char* m_words;    // echo and prefix, separated by blanks, in the order of removal
     Quotes m_quotes;
-    const char* m_leading_word; // dropped where the value begins with it
-    Shaping m_shaping;          // the last step: from the cleaned value to what is shown
+    const char* m_leading_word; // dropped from the front of the value
+    Shaping m_shaping;          // last step: from the cleaned value to what is shown
 };
 
 constexpr Query Queries[] = {

@@ -4,7 +4,7 @@
 
 class MFCSMS;
 
-// What the files that make up MFCSMS's queries share; nobody else includes it.
+// Shared by the files that make up MFCSMS's queries; private to them.
 
 enum class Asked
 {
@@ -13,5 +13,5 @@ enum class Asked
     Lost     ///< the command could not be written
 };
 
-/// Asks for one value. Where the device answers, value is its text as it is shown; otherwise it is of no use.
+/// Asks for one value, which is as shown when the device answered and undefined otherwise.
 Asked Ask_For(MFCSMS& session, int descriptor, Phone_Value wanted, QString& value);

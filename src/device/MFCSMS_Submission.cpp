@@ -9,7 +9,7 @@
 
 namespace {
 
-// Each command must be written and be answered with OK; the first that is not ends the row.
+// Stops at the first command that cannot be written or is not answered with OK.
 bool Go_Through(MFCSMS& session, int descriptor, std::initializer_list<const char*> commands)
 {
     for (const char* command : commands)
@@ -18,7 +18,7 @@ bool Go_Through(MFCSMS& session, int descriptor, std::initializer_list<const cha
     return true;
 }
 
-// One message's way out in PDU mode, as it was planned.
+// Carries out the plan of one message in PDU mode.
 class Pdu_Submission
 {
 public:
@@ -72,7 +72,7 @@ private:
 
 bool MFCSMS::Begin_Message(int descriptor, const QByteArray& command_str)
 {
-    m_message_is_begun = true; // also by half a command: nobody knows what of it arrives
+    m_message_is_begun = true; // even by half a command, which may have arrived
     return Write_Command(descriptor, command_str);
 }
 
@@ -133,7 +133,7 @@ bool MFCSMS::Prepare_Modem_For_Text_SMS(int descriptor)
     return Go_Through(*this, descriptor, {"AT\r\n", "AT+CSMS=0\r\n", "AT+CMGF=1\r\n"});
 }
 
-// These two end in a lone carriage return, but for the first command.
+// These two end their commands in a lone carriage return, except the first.
 bool MFCSMS::Check_Msg_Sending_Supported(int descriptor)
 {
     return Go_Through(*this, descriptor, {"AT\r\n", "AT+CSMS=?\r", "AT+CMGS=?\r"});

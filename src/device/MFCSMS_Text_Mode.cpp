@@ -8,7 +8,7 @@
 
 namespace {
 
-// One message's way out in text mode: what does not change from part to part.
+// Sends one message in text mode.
 class Text_Submission
 {
 public:
@@ -95,10 +95,10 @@ private:
         return true;
     }
 
-    // An empty body is no write at all, so that the terminator still follows and the phone leaves its prompt.
+    // An empty body is not written, so that the terminator still follows and the phone leaves its prompt.
     bool Write_Body(const QString& body) { return body.isEmpty() || Write(MFCSMS::NString_To_Command_Char(body)); }
 
-    // Whether the command was written; what is answered does not count.
+    // Returns whether the command was written, whatever the answer.
     bool Ask(const QByteArray& command)
     {
         if (!Write(command))

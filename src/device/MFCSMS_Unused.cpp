@@ -59,7 +59,7 @@ bool MFCSMS::InitializeModem(int descriptor)
     constexpr qsizetype command_length = sizeof command - 1;
     constexpr qsizetype most_bytes = 4095;
 
-    Show_NSLog_Message(QStringLiteral("Try #1\n")); // there is one try only
+    Show_NSLog_Message(QStringLiteral("Try #1\n")); // the only one
     Write_Outcome written{0, EBADF};
     if (Owns(descriptor))
         written =
@@ -86,7 +86,7 @@ bool MFCSMS::InitializeModem(int descriptor)
     else if (length == 0)
         Show_NSLog_Message(QStringLiteral("Nothing read.\n"));
     buffer.truncate(length > 0 ? length : 0);
-    // The line end is looked for in the printable form too, where it cannot stand; the echo's "AT" is found there.
+    // The printable form is searched for the line end, too, which it cannot contain; the echo's "AT" is found there.
     const QByteArray line = QByteArray("Read \"") + LogString(buffer.constData()) + "\"\n";
     return line.contains("\r\nOK\r\n") || buffer.startsWith("\r\nOK\r\n") || line.contains("AT");
 }

@@ -2,10 +2,10 @@
 
 #include "device/Serial_Calls.h"
 
-// One transfer that never blocks, on a descriptor that otherwise does: its own mode is as it was afterwards. Whoever
-// calls sees to it that nobody else transfers on the descriptor meanwhile. EAGAIN: no byte could be moved now.
+// One non-blocking transfer on a blocking descriptor, whose mode is restored. The caller keeps others off the
+// descriptor meanwhile. EAGAIN: no byte could be moved.
 
-/// Takes the bytes that wait, also where somebody else had them since the line was found ready.
+/// Takes the bytes that wait, which may be none even after the line was reported ready.
 ssize_t Read_Without_Blocking(Serial_Calls& calls, int descriptor, char* bytes, size_t size);
 
 /// Writes what there is room for.

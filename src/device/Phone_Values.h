@@ -3,7 +3,7 @@
 #include <QString>
 #include <array>
 
-/// What a device tells about itself, in the order in which it is asked.
+/// What a device says about itself, in the order of the queries.
 enum class Phone_Value
 {
     Manufacturer,
@@ -22,8 +22,7 @@ constexpr int Phone_Value_Count = 9;
 /// The name of the field in which a window shows the value, "_manfacturer_edit" for the first.
 const char* Phone_Value_Field(Phone_Value value);
 
-/// Where a query puts its results. Implemented by whoever asked; called on the asking thread. A value that the device
-/// refuses to tell is not set at all.
+/// Receives the results of the queries, on the asking thread. A value that the device refuses is not set.
 class Phone_Values_Display
 {
 public:
@@ -31,7 +30,7 @@ public:
     virtual void Set_Phone_Value(Phone_Value value, const QString& text) = 0;
 };
 
-/// The nine values as a plain record, for callers without a window. Belongs to its creator and to one thread.
+/// The nine values as a plain record. One thread.
 class Phone_Values : public Phone_Values_Display
 {
 public:

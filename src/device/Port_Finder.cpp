@@ -8,7 +8,7 @@
 
 namespace {
 
-// The kernel's own word for what stands behind a ttyS<n>; 0 is "unknown".
+// The kernel's type of the hardware behind a ttyS<n>; 0 is "unknown".
 std::optional<int> Kernel_Type(const QString& port_name)
 {
     QFile file(QStringLiteral("/sys/class/tty/") + port_name + QStringLiteral("/type"));

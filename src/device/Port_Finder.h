@@ -4,14 +4,13 @@
 #include <QList>
 #include <optional>
 
-/// One entry of a search: the path under which a port is called out, as the system gives it. An entry without one is
-/// passed over.
+/// One entry of a search: a port's call-out path as the system gives it. Entries without one are skipped.
 struct Modem_Entry
 {
     std::optional<QByteArray> m_callout_path;
 };
 
-/// The entries of one search, taken one after the other. Belongs to the searching thread.
+/// The entries of one search, in order. Searching thread only.
 class Modem_Iterator
 {
 public:
@@ -29,22 +28,22 @@ private:
     qsizetype m_next = 0;
 };
 
-/// Finds the serial ports of this computer: those the serial-port library knows, without the placeholders of the kernel
-/// that have no hardware behind them, then Bluetooth serial ports, then the extra paths. Stateless; any thread.
+/// Finds this computer's serial ports: those the library knows except kernel placeholders without hardware, then
+/// Bluetooth serial ports, then the extra paths. Stateless; any thread.
 class Port_Finder
 {
 public:
     virtual ~Port_Finder() = default;
 
-    /// Whether the system keeps a register of serial devices to ask.
+    /// Whether the system has a registry of serial devices.
     virtual bool Can_Ask() const;
 
-    /// Puts the entries into the iterator. Returns 0, or the system's status when the search failed.
+    /// Fills the iterator. Returns 0, or the system's status on failure.
     virtual int Find_Ports(Modem_Iterator& iterator) const;
 };
 
 Port_Finder& System_Port_Finder();
 
-/// Whether a port named ttyS<n> is a placeholder: the kernel's type for it is 0 (unknown), or nothing at all is known
-/// of it.
+/// Whether a port named ttyS<n> is a placeholder: the kernel's type for it is 0 (unknown), or nothing is known about
+/// it.
 bool Is_Phantom_Port(const QString& port_name, bool is_described, const std::optional<int>& kernel_type);

@@ -5,9 +5,8 @@
 #include <sys/types.h>
 #include <termios.h>
 
-/// The system calls that this room makes on a serial line, each as the system has it: -1 and errno on failure. A thin
-/// seam: the calls go straight to the system, and a test may override one to make it fail or to watch the order of
-/// steps. Stateless; any thread.
+/// The system calls made on a serial line: -1 and errno on failure. A thin seam that tests override to fail or watch a
+/// call. Stateless; any thread.
 class Serial_Calls
 {
 public:
@@ -26,7 +25,7 @@ public:
     virtual ssize_t Read(int descriptor, void* buffer, size_t size);
     virtual ssize_t Write(int descriptor, const void* bytes, size_t size);
 
-    /// Real seconds, already paced; below 0 means without an end.
+    /// Real seconds, already paced; negative means no limit.
     virtual Line_Event Wait(int descriptor, short events, double seconds, int wake_descriptor = -1);
 };
 

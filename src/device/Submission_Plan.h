@@ -5,8 +5,7 @@
 #include <optional>
 #include <vector>
 
-// What a message becomes in PDU mode, worked out before anything of it is written. Plain functions on values; a message
-// is planned on one thread, any number of them at once.
+// What a message becomes in PDU mode, worked out before any of it is written. Any thread.
 
 struct Outgoing_Message
 {
@@ -34,8 +33,8 @@ struct Submission_Plan
     std::vector<Pdu_Frame> m_frames;
 };
 
-/// The frame of a message that goes out as a single one; nothing where it takes parts. The report takes what the
-/// encoder has to say.
+/// The frame of a message that goes out as a single one; nothing where it takes parts. report takes the encoder's
+/// diagnostics.
 std::optional<Pdu_Frame> Single_Frame(const Outgoing_Message& message, const PDU::Report& report);
 
 Submission_Plan Plan_Pdu(const Outgoing_Message& message, const PDU::Report& report);

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-// How a message is counted and cut for submission. Lengths count UTF-16 units.
+// How a message is counted and cut for submission. Lengths are in UTF-16 units.
 
 /// The octets that follow the service-centre part of a frame, which AT+CMGS announces (3GPP TS 27.005, 4.3). pdu is the
 /// whole frame in hexadecimal, smsc the centre it was made with, empty for the device's own.
@@ -18,9 +18,8 @@ bool May_Be_Single(qsizetype length, bool unicode);
 int Pdu_Part_Count(qsizetype length, bool unicode);
 int Text_Part_Count(qsizetype length, bool unicode);
 
-/// Part number part, from 1, of a message in text mode.
+/// One part, counted from 1, of a message in text mode.
 QString Text_Part(const QString& message, int part, bool unicode);
 
-/// The form of a text-mode body in which none of its characters ends or cancels it: the end-of-message, escape and zero
-/// characters become blanks.
+/// A text-mode body with blanks for the characters that would end or cancel it: end of message, escape and zero.
 QString Harmless_Body(const QString& body);

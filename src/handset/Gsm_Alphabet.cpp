@@ -63,7 +63,7 @@ std::optional<std::vector<std::uint8_t>> Unpack_Septets(std::span<const std::uin
         return std::nullopt;
     std::vector<std::uint8_t> septets;
     septets.reserve(count);
-    unsigned held = 0; // bits taken from the octets and not yet given out, the lowest first
+    unsigned held = 0; // bits read from the octets and not yet used, lowest first
     std::size_t held_bits = 0;
     std::size_t to_skip = fill_bits;
     for (const std::uint8_t octet : octets) {

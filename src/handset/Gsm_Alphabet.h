@@ -1,5 +1,3 @@
-// The GSM 7 bit default alphabet and its extension table (3GPP TS 23.038 6.2.1 and 6.2.1.1), as a handset reads them.
-// Pure.
 #pragma once
 
 #include <array>
@@ -11,6 +9,9 @@
 #include <string_view>
 #include <vector>
 
+// The GSM 7 bit default alphabet and its extension table (3GPP TS 23.038 6.2.1 and 6.2.1.1), as a handset reads them.
+// Pure.
+
 namespace Handset {
 
 struct Extension_Row
@@ -19,22 +20,21 @@ struct Extension_Row
     char32_t m_character;
 };
 
-// Row n is the character of code n; the escape code 0x1B has none and stands as 0.
+/// Row n is the character of code n; the escape code 0x1B has none and stands as 0.
 extern const std::array<char32_t, 128> Gsm_Default_Table;
 extern const std::array<Extension_Row, 10> Gsm_Extension_Table;
 
 constexpr std::uint8_t Gsm_Escape = 0x1B;
 
-// Septets (values 0 to 127) to UTF-8. An escape before a code that the extension table lacks shows the default table's
-// character; an escape before an escape, or at the very end, shows a blank.
+/// Septets (values 0 to 127) to UTF-8. An escape before a code that the extension table lacks shows the default table's
+/// character; an escape before an escape, or at the very end, shows a blank.
 std::string Text_Of_Septets(const std::vector<std::uint8_t>& septets);
 
-// Takes septets out of octets (23.038 6.1.2.1.1): the first begins after fill_bits bits. Nothing when the octets do not
-// suffice.
+/// Unpacks septets (23.038 6.1.2.1.1), the first after fill_bits bits. Nothing when there are too few octets.
 std::optional<std::vector<std::uint8_t>> Unpack_Septets(std::span<const std::uint8_t> octets, std::size_t fill_bits,
                                                         std::size_t count);
 
-// How many septets a UTF-8 text takes; a character that neither table knows counts as one.
+/// How many septets a UTF-8 text takes; a character that neither table knows counts as one.
 std::size_t Septet_Count_Of(std::string_view utf8);
 
 } // namespace Handset

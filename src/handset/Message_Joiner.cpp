@@ -29,7 +29,7 @@ bool Is_Double(const std::map<int, Received_Part>& parts, const Received_Part& p
     return held != parts.end() && held->second.m_units == part.m_units;
 }
 
-// Joined as units where the parts share an alphabet, as texts where they do not.
+// Joins units if the parts share an alphabet, and texts otherwise.
 std::string Joined_Text(const std::map<int, Received_Part>& parts)
 {
     const Alphabet alphabet = parts.begin()->second.m_alphabet;

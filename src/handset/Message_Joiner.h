@@ -1,6 +1,3 @@
-// Puts concatenated messages together (3GPP TS 23.040 9.2.3.24.1). Owned by the phone, used under its lock.
-// Parts may come doubled and out of order. Senders exist that use one reference for every message, so a part 1 that
-// differs from the one held begins a new message, and what was held of the old one is dropped.
 #pragma once
 
 #include "handset/Coding_Scheme.h"
@@ -16,7 +13,7 @@
 
 namespace Handset {
 
-// A part as it was shown, with the units it was decoded from and what its header says.
+/// A part as it was shown, with the units it was decoded from and what its header says.
 struct Received_Part
 {
     Handset_Part m_shown;
@@ -25,15 +22,18 @@ struct Received_Part
     bool m_wide_reference = false;
 };
 
+/// Puts concatenated messages together (3GPP TS 23.040 9.2.3.24.1). Owned by the phone, used under its lock. Parts may
+/// be duplicated and out of order. Some senders use one reference for every message, so a part 1 that differs from the
+/// one held begins a new message and drops the old one.
 class Message_Joiner
 {
 public:
-    // The complete message when this part makes one; at once for a message that is not concatenated.
+    /// Returns the message that this part completes; a message that is not concatenated at once.
     std::optional<Handset_Message> Take(const Received_Part& part);
 
     void Forget();
 
-    // How many messages wait for parts; never more than 256, the oldest is given up then.
+    /// How many messages wait for parts: at most 256, beyond which the oldest is dropped.
     std::size_t Waiting() const { return m_sets.size(); }
 
 private:
@@ -55,7 +55,7 @@ private:
     void Give_Up_The_Oldest();
 
     std::map<Key, Set> m_sets;
-    std::map<Key, Set> m_finished; // the last complete one of each key, so that a late double begins nothing
+    std::map<Key, Set> m_finished; // last complete one of each key, so that a late duplicate begins nothing
     unsigned long m_count = 0;
 };
 

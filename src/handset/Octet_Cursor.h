@@ -1,5 +1,3 @@
-// Reads octets in order and never past their end. The first failure stays with its reason; after it every octet reads
-// as 0, so that a decoder can ask once at its end. A value on the stack of one decoding.
 #pragma once
 
 #include <cstddef>
@@ -9,6 +7,8 @@
 
 namespace Handset {
 
+/// Reads octets in order and never past their end. The first failure is kept with its reason and every later octet
+/// reads as 0, so that a decoder need check only once. Lives on the stack of one decoding.
 class Octet_Cursor
 {
 public:
@@ -20,7 +20,7 @@ public:
         return octets.empty() ? 0 : octets.front();
     }
 
-    // Exactly this many octets, or none and a failure "<field>: the frame ends too early".
+    /// Exactly this many octets, or none and a failure "<field>: the frame ends too early".
     std::span<const std::uint8_t> Octets(std::size_t count, const char* field)
     {
         if (Has_Failed())

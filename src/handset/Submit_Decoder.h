@@ -1,5 +1,3 @@
-// Takes an SMS-SUBMIT frame apart (3GPP TS 23.040 9.2.2.2), the service-centre address of 27.005 3.1 in front of it.
-// Pure: one function a field, a bounded cursor, an error value with its reason for every frame that is not well formed.
 #pragma once
 
 #include "handset/Coding_Scheme.h"
@@ -12,6 +10,9 @@
 #include <string_view>
 #include <vector>
 
+// Decodes an SMS-SUBMIT frame (3GPP TS 23.040 9.2.2.2) and the service-centre address in front of it (27.005 3.1).
+// Pure; a malformed frame gives a reason.
+
 namespace Handset {
 
 enum class Validity_Format
@@ -22,18 +23,18 @@ enum class Validity_Format
     Absolute = 3
 };
 
-// Concatenation information element (23.040 9.2.3.24.1 and 9.2.3.24.8).
+/// Concatenation information element (23.040 9.2.3.24.1 and 9.2.3.24.8).
 struct Concatenation
 {
     int m_reference = 0;
     int m_parts = 1;
     int m_part = 1;
-    bool m_wide = false; // a 16-bit reference
+    bool m_wide = false; ///< a 16-bit reference
 };
 
 struct Submit_Frame
 {
-    std::string m_smsc; // empty when the frame leaves the centre to the phone
+    std::string m_smsc; ///< empty when the frame leaves the centre to the phone
     std::uint8_t m_first_octet = 0;
     bool m_reject_duplicates = false;
     bool m_status_report = false;
@@ -44,26 +45,26 @@ struct Submit_Frame
     std::string m_number;
     std::uint8_t m_protocol = 0;
     Coding_Scheme m_coding;
-    std::vector<std::uint8_t> m_validity; // 0, 1 or 7 octets
+    std::vector<std::uint8_t> m_validity; ///< 0, 1 or 7 octets
     std::optional<Concatenation> m_concatenation;
-    std::vector<std::uint8_t> m_units; // septets or octets of the text, the header taken off
-    std::size_t m_centre_octets = 0;   // of the service-centre part, its length octet included
-    std::size_t m_tpdu_octets = 0;     // of everything behind it: what AT+CMGS announces
+    std::vector<std::uint8_t> m_units; ///< septets or octets of the text, the header taken off
+    std::size_t m_centre_octets = 0;   ///< of the service-centre part, its length octet included
+    std::size_t m_tpdu_octets = 0;     ///< of the rest: what AT+CMGS announces
 
-    // What a handset shows; empty for compressed user data, which is not taken apart.
+    /// What a handset shows; empty for compressed user data, which is not taken apart.
     std::string Text() const;
 };
 
 struct Submit_Result
 {
     std::optional<Submit_Frame> m_frame;
-    std::string m_reason; // why there is no frame; empty when there is one
+    std::string m_reason; ///< why there is no frame; empty when there is one
 };
 
-// Hexadecimal text as it follows the prompt of AT+CMGS.
+/// Hexadecimal text as it follows the prompt of AT+CMGS.
 Submit_Result Decode_Submit(std::string_view hex);
 
-// The same from octets.
+/// The same from octets.
 Submit_Result Decode_Submit_Octets(std::span<const std::uint8_t> octets);
 
 } // namespace Handset

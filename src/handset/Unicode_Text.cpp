@@ -82,7 +82,7 @@ void Append_Code_Point(std::string& utf8, char32_t code_point)
 std::string Text_Of_Utf16_Octets(const std::vector<std::uint8_t>& octets)
 {
     std::string text;
-    char32_t waiting = 0; // a high surrogate whose partner has not come yet
+    char32_t waiting = 0; // a high surrogate without its partner yet
     for (std::size_t at = 0; at + 1 < octets.size(); at += 2) {
         const char32_t unit = char32_t(octets[at]) << 8 | octets[at + 1];
         if (waiting != 0 && Is_Low_Surrogate(unit)) {

@@ -4,9 +4,8 @@
 
 #include <QtGlobal>
 
-// The alphabet in which messages go out: GSM 7 bit (3GPP TS 23.038, 6.2.1 and 6.2.1.1) with this program's own
-// deviations, as one table and the direct index that is built from it at compile time. Constant data, safe on any
-// thread.
+// The alphabet of outgoing messages: GSM 7 bit (3GPP TS 23.038, 6.2.1 and 6.2.1.1) with this program's own deviations,
+// as a table and a direct index built from it at compile time. Any thread.
 
 struct Gsm_Row
 {
@@ -15,15 +14,15 @@ struct Gsm_Row
     bool escape;
 };
 
-// What a character becomes: its code, and whether the escape code 27 goes before it.
+/// What a character becomes: its code, and whether the escape code 27 goes before it.
 struct Gsm_Code
 {
     quint8 code;
     bool escape;
 };
 
-// Searched from the top, the first match wins. Deviations from the standard are meant: do not correct them. Characters
-// without a row (letters, digits, blank, line ends, ' " ( ) / < >) keep the low byte of their own code.
+/// Searched from the top, the first match wins. Deviations from the standard are deliberate. Characters without a row
+/// (letters, digits, blank, line ends, ' " ( ) / < >) keep the low byte of their own code.
 // clang-format off
 inline constexpr std::array<Gsm_Row, 65> Gsm_Alphabet{{
     {u'@', 0, false},
@@ -96,8 +95,8 @@ inline constexpr std::array<Gsm_Row, 65> Gsm_Alphabet{{
 
 inline constexpr quint8 Gsm_Escape = 27;
 
-// The character that carries a code in a mapped text. The bar stands for "escaped 64" there, which is why every other
-// code 124 will be taken for it, and code 64 for "@".
+/// The character that carries a code in a mapped text. The bar stands for an escaped 64, so that any other code 124 is
+/// taken for it too, and code 64 for "@".
 constexpr char16_t Carried_As(Gsm_Code mapped)
 {
     if (mapped.code == 0)
@@ -105,7 +104,7 @@ constexpr char16_t Carried_As(Gsm_Code mapped)
     return mapped.code == 64 && mapped.escape ? u'|' : char16_t{mapped.code};
 }
 
-// The seven bits that a character of a mapped (or raw) text is packed as.
+/// The seven bits that a character of a mapped (or raw) text is packed as.
 constexpr quint8 Septet_Of(char16_t carried)
 {
     if (carried == u'@')
@@ -113,12 +112,12 @@ constexpr quint8 Septet_Of(char16_t carried)
     return carried == u'|' ? quint8{64} : static_cast<quint8>(carried & 0x7F);
 }
 
-// One page for each block of 256 characters in which the alphabet has rows, and page 0 for all others.
+/// One page for each block of 256 characters in which the alphabet has rows, and page 0 for all others.
 struct Gsm_Index
 {
     std::array<quint8, 256> page_of{};
     std::array<std::array<Gsm_Code, 256>, 4> codes{};
-    std::array<std::array<quint8, 256>, 4> septets{}; // as packed; bit 7 tells that the escape code goes before
+    std::array<std::array<quint8, 256>, 4> septets{}; ///< as packed; bit 7 tells that the escape code goes before
 };
 
 consteval Gsm_Index Make_Gsm_Index()
@@ -128,7 +127,7 @@ consteval Gsm_Index Make_Gsm_Index()
         for (unsigned low = 0; low < 256; ++low)
             page[low] = {static_cast<quint8>(low), false};
     quint8 next_page = 1;
-    for (auto row = Gsm_Alphabet.rbegin(); row != Gsm_Alphabet.rend(); ++row) { // backwards: the first match stays
+    for (auto row = Gsm_Alphabet.rbegin(); row != Gsm_Alphabet.rend(); ++row) { // backwards: the first match wins
         quint8& page = index.page_of[row->character >> 8];
         if (page == 0)
             page = next_page++;
@@ -146,13 +145,13 @@ consteval Gsm_Index Make_Gsm_Index()
 
 inline constexpr Gsm_Index Gsm_Direct_Index = Make_Gsm_Index();
 
-// A UTF-16 unit's code; the low byte of the unit where the alphabet has no row.
+/// A UTF-16 unit's code; the low byte of the unit where the alphabet has no row.
 constexpr Gsm_Code Gsm_Code_Of(char16_t unit)
 {
     return Gsm_Direct_Index.codes[Gsm_Direct_Index.page_of[unit >> 8]][unit & 0xFF];
 }
 
-// The septet that a UTF-16 unit goes out as when it is mapped and then packed; bit 7 set where escape goes before it.
+/// The septet that a UTF-16 unit goes out as when it is mapped and then packed; bit 7 set where escape goes before it.
 constexpr quint8 Gsm_Septet_Of(char16_t unit)
 {
     return Gsm_Direct_Index.septets[Gsm_Direct_Index.page_of[unit >> 8]][unit & 0xFF];

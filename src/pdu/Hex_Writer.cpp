@@ -11,14 +11,14 @@ namespace {
 constexpr qsizetype Septets_In_A_Block = 8;
 constexpr qsizetype Octets_In_A_Block = 7;
 
-// Sixteen octets at a time become digits, in the one register that every 64-bit machine has for them; the compiler
-// writes it out by hand where there is none.
+// Sixteen octets become digits at once, in a vector register; where the machine has none, the compiler emits scalar
+// code.
 using Sixteen_Octets = quint8 __attribute__((vector_size(16)));
 using Eight_Units = quint16 __attribute__((vector_size(16)));
 constexpr qsizetype Octets_At_Once = sizeof(Sixteen_Octets);
 constexpr qsizetype Units_At_Once = Octets_At_Once / 2;
 
-// The octets of the first and of the second turn about, beginning with the lower, or the upper, half of both.
+// Interleaves the lower, or the upper, halves of both.
 Sixteen_Octets Lower_In_Turn(Sixteen_Octets a, Sixteen_Octets b)
 {
     return __builtin_shufflevector(a, b, 0, 16, 1, 17, 2, 18, 3, 19, 4, 20, 5, 21, 6, 22, 7, 23);
@@ -36,7 +36,7 @@ Sixteen_Octets Digits_Of(Sixteen_Octets values)
     return values + quint8{'0'} + (is_letter & from_nine_to_a);
 }
 
-// Sixteen digits as the UTF-16 units that they are in a text.
+// Widens sixteen digits to UTF-16 units.
 void Write_Digits(QChar* at, Sixteen_Octets digits)
 {
     const Sixteen_Octets zero{};
@@ -55,8 +55,8 @@ void Write_Digits(QChar* at, Sixteen_Octets digits)
     Write_Digits(at + Octets_At_Once, Upper_In_Turn(high, low));
 }
 
-// The end of what does not come out even is written together with the octets before it, a second time the same; few
-// octets go through a block that is theirs alone.
+// A remainder is written as the last sixteen octets, overlapping what is already there; fewer than sixteen go through a
+// buffer.
 void Write_Octets(QChar* at, const quint8* octets, qsizetype count)
 {
     const auto write = [at, octets](qsizetype first) {
@@ -79,7 +79,7 @@ void Write_Octets(QChar* at, const quint8* octets, qsizetype count)
     std::memcpy(at, digits.data(), static_cast<size_t>(count) * 2 * sizeof(QChar));
 }
 
-// Eight septets, one a byte, drawn together into the low 56 bits: by pairs, then fours, then all eight.
+// Packs eight septets, one a byte, into the low 56 bits: by pairs, then fours, then all eight.
 quint64 Pack_Block(const quint8* septets)
 {
     quint64 bits = qFromLittleEndian<quint64>(septets);
@@ -111,7 +111,7 @@ void Hex_Writer::Put_Septets(const Septet_Buffer& septets)
 {
     const qsizetype octets = Packed_Octets(septets.size());
     QChar* const place = Claim(octets * 2);
-    // Each block writes an octet too many, which the next one puts right.
+    // Each block writes one octet too many; the next block overwrites it.
     QVarLengthArray<quint8, 512> packed(octets + Septets_In_A_Block);
     quint8* at = packed.data();
     const qsizetype whole = septets.size() - septets.size() % Septets_In_A_Block;
@@ -139,7 +139,7 @@ void Hex_Writer::Put_Ucs2(QStringView text)
     if (text.size() % Units_At_Once == 0)
         return;
     if (text.size() > Units_At_Once) {
-        write(text.size() - Units_At_Once); // the last few once more, together with the rest
+        write(text.size() - Units_At_Once); // overlapping what is already there
         return;
     }
     for (qsizetype at = 0; at < text.size(); ++at) {

@@ -5,25 +5,24 @@
 
 #include "pdu/Septets.h"
 
-// Writes octets as upper-case hexadecimal digits into a text whose room was set aside beforehand, so that a whole PDU
-// costs one allocation. A local of whoever builds a text; not shared between threads. Writing past the room is a
-// mistake of the caller and throws std::length_error.
+/// Writes octets as upper-case hexadecimal digits into a text of a size fixed beforehand, so that a whole PDU costs one
+/// allocation. Lives on the stack of one encoding. Writing past the room throws std::length_error.
 class Hex_Writer
 {
 public:
-    // Room in characters, two for an octet. Throws std::bad_alloc where there is no memory for it.
+    /// room is in characters, two an octet. Throws std::bad_alloc.
     explicit Hex_Writer(qsizetype room);
     Hex_Writer(const Hex_Writer&) = delete;
     Hex_Writer& operator=(const Hex_Writer&) = delete;
 
-    // Two digits, of the value's low eight bits: longer values wrap.
+    /// Two digits, of the value's low eight bits: longer values wrap.
     void Put_Octet(qint64 value)
     {
         const auto octet = static_cast<unsigned>(value & 0xFF);
         Put_Pair(QChar(Hex_Digits[octet >> 4]), QChar(Hex_Digits[octet & 0x0F]));
     }
 
-    // Two characters as they stand.
+    /// Two characters, unchanged.
     void Put_Pair(QChar first, QChar second)
     {
         QChar* const place = Claim(2);
@@ -31,16 +30,16 @@ public:
         place[1] = second;
     }
 
-    // Characters as they stand.
+    /// Characters, unchanged.
     void Put_Text(QStringView text);
 
-    // Septets packed from bit 0 of the first octet on, fill bits zero (3GPP TS 23.038, 6.1.2.1.1).
+    /// Septets packed from bit 0 of the first octet on, fill bits zero (3GPP TS 23.038, 6.1.2.1.1).
     void Put_Septets(const Septet_Buffer& septets);
 
-    // Four digits for each UTF-16 unit, high octet first (3GPP TS 23.038, 6.2.3).
+    /// Four digits for each UTF-16 unit, high octet first (3GPP TS 23.038, 6.2.3).
     void Put_Ucs2(QStringView text);
 
-    // What was written; the writer is empty afterwards.
+    /// Returns what was written and leaves the writer empty.
     QString Take();
 
 private:

@@ -16,8 +16,8 @@ qsizetype User_Data_Length(qsizetype slice_digits, bool unicode)
 {
     if (unicode)
         return slice_digits / 2 + Concatenation_Octets;
-    // Counted back from whole octets: where seven septets are left over, this is one more than there are, and handsets
-    // show an "@" at the end. Kept so.
+    // Counted back from whole octets: when seven septets are left over this gives one too many, and handsets show an
+    // "@" at the end. Deliberately kept.
     return (slice_digits * 4 + Concatenation_Octets * 8) / 7;
 }
 
@@ -29,7 +29,7 @@ QStringView Mid(QStringView text, qsizetype first, qsizetype count)
     return text.sliced(first, std::clamp<qsizetype>(count, 0, text.size() - first));
 }
 
-// The flag is left as it would be after mapping one character after the other.
+// Leaves the flag as mapping character by character would.
 void Remember_Escape(const QString& text)
 {
     if (!text.isEmpty())
@@ -135,7 +135,7 @@ QString PDU::EncodePDU(const QString& message, const QString& strDestinationAddr
             Remember_Escape(message);
         try {
             pdu = unicode ? Head_And_Ucs2(head, message) : Head_And_Septets(head, septets);
-        } catch (const std::bad_alloc&) { // the one thing that can go wrong while user data is appended
+        } catch (const std::bad_alloc&) { // the only failure while user data is appended
             if (m_report)
                 m_report(QStringLiteral("catch on encode data appending"));
             pdu = Head_Alone(head, unicode ? message.size() * 2 : septets.size());

@@ -6,8 +6,8 @@
 #include <QString>
 
 /// The codec: text in, upper-case hexadecimal out. SMS-SUBMIT frames (3GPP TS 23.040, 9.2.2.2) with 7-bit or UCS2 user
-/// data. Made by whoever encodes a message and dropped afterwards; it holds nothing but its report. Any number may work
-/// on any threads at once: what outlives a call (escap_char, tp_ud) is each thread's own.
+/// data. Made for a message and dropped afterwards; it holds nothing but its report. Any number may work on any threads
+/// at once: what outlives a call (escap_char, tp_ud) is each thread's own.
 class PDU
 {
 public:

@@ -8,8 +8,8 @@ namespace {
 
 constexpr qsizetype Block = 8;
 
-// Most text has no character beyond the first page and no escaped one in it, so blocks are mapped straight on; true
-// where that was right for this one.
+// Most text stays on the first page and has nothing to escape, so a block is mapped optimistically. Returns whether
+// that was right.
 bool Map_Plain_Block(const QChar* characters, quint8* septets)
 {
     constexpr const auto& page = Gsm_Direct_Index.septets[Gsm_Direct_Index.page_of[0]];
@@ -28,7 +28,7 @@ quint8* Map_With_Escapes(QStringView characters, quint8* at)
 {
     for (const QChar character : characters) {
         const quint8 septet = Gsm_Septet_Of(character.unicode());
-        *at = Gsm_Escape; // overwritten at once unless the character is an escaped one: no branch in this loop
+        *at = Gsm_Escape; // overwritten at once unless the character is escaped; saves a branch
         at += septet >> 7;
         *at++ = septet & 0x7F;
     }

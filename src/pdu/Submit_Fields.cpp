@@ -10,7 +10,7 @@ constexpr quint8 Type_Unknown = 0x81;
 // First octet, TP-MR, TP-PID, TP-DCS, TP-VP, TP-UDL.
 constexpr qsizetype Fixed_Octets = 6;
 
-// An address that is not empty, taken apart.
+// A non-empty address and its parts.
 struct Address
 {
     bool international;
@@ -28,8 +28,8 @@ struct Address
     }
 };
 
-// A length that does not fit an octet takes the digits it needs: such an address is of no use to any network, and is
-// not turned into another one by cutting.
+// A length past one octet takes as many digits as it needs. No network takes such an address, but cutting the length
+// would turn it into a different one.
 QString Long_Length(qsizetype length)
 {
     return Hex(static_cast<int>(length));
