@@ -105,7 +105,7 @@ public:
     /// refuses a thread for it, the next write or read tries again.
     void readDataInBackground();
 
-    // Imposed by name; nothing in the program calls these (KVSerialPort_Unused.cpp).
+    // Kept by name; nothing in the program calls these (KVSerialPort_Unused.cpp).
 
     QString name() const { return m_service_name; }
     QString type() const { return m_service_type; }

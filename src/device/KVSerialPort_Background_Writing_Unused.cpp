@@ -1,4 +1,4 @@
-// Imposed by name; nothing in the program calls what stands here.
+// Kept by name; nothing in the program calls what stands here.
 
 #include "device/KVSerialPort.h"
 

@@ -94,7 +94,7 @@ public:
     /// Logs unsolicited data and reads on. Interface thread.
     void serialPortReadData(const std::shared_ptr<KVSerialPort>& serialPort, const QByteArray& data) override;
 
-    // Imposed by name; nothing in the program calls these (MFCSMS_Unused.cpp).
+    // Kept by name; nothing in the program calls these (MFCSMS_Unused.cpp).
 
     /// Asks the modem once over the direct descriptor; whether it answered within 5 seconds.
     bool InitializeModem(int descriptor);

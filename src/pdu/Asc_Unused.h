@@ -1,6 +1,6 @@
 #pragma once
 
-// Imposed by name; nothing in the program calls what stands here.
+// Kept by name; nothing in the program calls what stands here.
 
 #include <QString>
 

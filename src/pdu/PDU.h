@@ -47,7 +47,7 @@ public:
     /// The value of hexadecimal digits, anything else counting as 0. Beyond 64 bits the highest digits are lost.
     static quint64 hex2int(const QString& digits);
 
-    // Imposed by name; nothing in the program calls these (PDU_Unused.cpp).
+    // Kept by name; nothing in the program calls these (PDU_Unused.cpp).
 
     /// The instance made last, as long as it lives; where there is none, one that lives as long as the program.
     static PDU* defaultInstance();
