@@ -154,6 +154,7 @@ Line_Event Watched_Calls::Wait(int descriptor, short events, double seconds, int
         if (row != m_actions.end())
             action = row->second;
     }
-    return action ? static_cast<Line_Event>(action(nullptr))
-                  : Patient_Calls::Wait(descriptor, events, seconds, wake_descriptor);
+    const int result = action ? action(nullptr) : Really;
+    return result == Really ? Patient_Calls::Wait(descriptor, events, seconds, wake_descriptor)
+                            : static_cast<Line_Event>(result);
 }

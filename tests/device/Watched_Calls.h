@@ -15,6 +15,8 @@ class Watched_Calls : public Patient_Calls
 {
 public:
     using Action = std::function<int(void* argument)>;
+    /// The result of an action for "wait" that leaves the waiting to the system.
+    static constexpr int Really = -100;
 
     /// Waits until the background readers that may still use it have ended.
     ~Watched_Calls() override;

@@ -58,14 +58,13 @@ TEST_F(Serial_Port_Reading, A_Read_On_A_Quiet_Line_Lasts_The_Whole_Timeout)
 TEST_F(Serial_Port_Reading, A_Read_Collects_What_Comes_Until_The_Timeout_Is_Over)
 {
     m_port->setReadTimeout(6.0);
-    std::thread talker([&] {
-        m_phone.Says("one ");
-        while (m_calls.Count("read") == 0)
-            std::this_thread::yield();
-        m_phone.Says("two");
+    m_phone.Says("one ");
+    m_calls.Will_Do("wait", [this](void*) {
+        if (m_calls.Count("read") == 1)
+            m_phone.Says("two");
+        return Watched_Calls::Really;
     });
     EXPECT_EQ(m_port->readStringUsingEncoding(KVText_Encoding::Utf8, &m_error), QStringLiteral("one two"));
-    talker.join();
     EXPECT_EQ(m_error.code, 100);
     EXPECT_EQ(m_error.bytesRead, 7u);
     EXPECT_EQ(m_error.endCode, 0);
