@@ -3,18 +3,14 @@
 #include "list/Number_Rules.h"
 #include "texts/Texts.h"
 #include "toolkit/Line_Edit_Limit.h"
-#include "toolkit/Window_Look.h"
 #include "ui_Update_Ex_Num.h"
 #include "windows/exclusion/Edited_Numbers.h"
 #include "windows/exclusion/Page_Work.h"
 
 #include <QSignalBlocker>
 
-Update_Ex_Num::Update_Ex_Num(Edited_Numbers& numbers, QWidget* parent)
-    : QDialog(parent), m_ui(std::make_unique<Ui::Update_Ex_Num>()), m_numbers(numbers)
+Update_Ex_Num::Update_Ex_Num(Edited_Numbers& numbers, QWidget* parent) : Form_Dialog(parent), m_numbers(numbers)
 {
-    m_ui->setupUi(this);
-    Apply_Window_Look(*this);
     m_ui->m_s_number->hide();
     m_ui->m_ex_num_index->hide();
     connect(m_ui->OKPressed, &QPushButton::clicked, this, &Update_Ex_Num::OKPressed);
@@ -61,11 +57,6 @@ void Update_Ex_Num::CancelPressed()
 {
     Clear_Fields();
     done(0);
-}
-
-void Update_Ex_Num::reject()
-{
-    CancelPressed();
 }
 
 void Update_Ex_Num::controlTextDidChange()

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QDialog>
-#include <memory>
+#include "toolkit/Form_Dialog.h"
 
 class Edited_Numbers;
 
@@ -11,7 +10,7 @@ class Update_Ex_Num;
 
 // The dialog in which one number of an exclusion list is edited. Owned by the exclusion wizard, whose numbers it
 // changes; interface thread. Ends with 1 when OK was good, with 0 when it was cancelled.
-class Update_Ex_Num : public QDialog
+class Update_Ex_Num : public Form_Dialog<Update_Ex_Num, Ui::Update_Ex_Num>
 {
     Q_OBJECT
 
@@ -26,11 +25,8 @@ public:
     void CancelPressed();
     void controlTextDidChange();
 
-    void reject() override; ///< Escape and the close button: as Cancel
-
 private:
     void Clear_Fields();
 
-    const std::unique_ptr<Ui::Update_Ex_Num> m_ui;
     Edited_Numbers& m_numbers;
 };

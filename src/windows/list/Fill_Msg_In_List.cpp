@@ -6,9 +6,6 @@
 #include "toolkit/Dialog_Over.h"
 #include "toolkit/Main_Window.h"
 #include "toolkit/Message_Boxes.h"
-#include "toolkit/PleaseWait_Modeless.h"
-#include "toolkit/Shared_Instance.h"
-#include "toolkit/Window_Look.h"
 #include "ui_Fill_Msg_In_List.h"
 #include "windows/list/List_Change.h"
 
@@ -25,12 +22,8 @@ bool Has_Blank_Message(const Main_Window& window)
 
 } // namespace
 
-Fill_Msg_In_List::Fill_Msg_In_List(QWidget* parent)
-    : QDialog(parent), m_ui(std::make_unique<Ui::Fill_Msg_In_List>()),
-      plz_wait_Window(std::make_unique<PleaseWait_Modeless>()), m_work(*this, *plz_wait_Window)
+Fill_Msg_In_List::Fill_Msg_In_List(QWidget* parent) : Working_Dialog(parent)
 {
-    m_ui->setupUi(this);
-    Apply_Window_Look(*this);
     connect(m_ui->_fill_msg_all, &QRadioButton::clicked, this, &Fill_Msg_In_List::Fill_To_ALL_Pressed);
     connect(m_ui->_fill_msg_selected, &QRadioButton::clicked, this, &Fill_Msg_In_List::Fill_To_Selected_Pressed);
     connect(m_ui->_fill_msg_blank, &QRadioButton::clicked, this, &Fill_Msg_In_List::Fill_To_Blank_Pressed);
@@ -39,11 +32,6 @@ Fill_Msg_In_List::Fill_Msg_In_List(QWidget* parent)
 }
 
 Fill_Msg_In_List::~Fill_Msg_In_List() = default;
-
-Fill_Msg_In_List* Fill_Msg_In_List::defaultInstance()
-{
-    return Shared_Instance<Fill_Msg_In_List>::Get();
-}
 
 int Fill_Msg_In_List::Open_Dialog(Main_Window& window)
 {
@@ -88,21 +76,6 @@ void Fill_Msg_In_List::OKPressed()
 void Fill_Msg_In_List::CancelPressed()
 {
     End_With(0);
-}
-
-void Fill_Msg_In_List::reject()
-{
-    CancelPressed();
-}
-
-void Fill_Msg_In_List::Show_Create_Modeless()
-{
-    m_work.Show_Sheet();
-}
-
-void Fill_Msg_In_List::Hide_Destroy_Modeless()
-{
-    m_work.Hide_Sheet();
 }
 
 Fill_Rules::Choice Fill_Msg_In_List::Choice() const

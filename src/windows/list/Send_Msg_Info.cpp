@@ -4,20 +4,13 @@
 #include "list/Fill_Rules.h"
 #include "toolkit/Dialog_Over.h"
 #include "toolkit/Main_Window.h"
-#include "toolkit/PleaseWait_Modeless.h"
-#include "toolkit/Shared_Instance.h"
-#include "toolkit/Window_Look.h"
 #include "ui_Send_Msg_Info.h"
 #include "windows/list/List_Change.h"
 
 #include <QPointer>
 
-Send_Msg_Info::Send_Msg_Info(QWidget* parent)
-    : QDialog(parent), m_ui(std::make_unique<Ui::Send_Msg_Info>()),
-      plz_wait_Window(std::make_unique<PleaseWait_Modeless>()), m_work(*this, *plz_wait_Window)
+Send_Msg_Info::Send_Msg_Info(QWidget* parent) : Working_Dialog(parent, Letters{.columns = 68})
 {
-    m_ui->setupUi(this);
-    Apply_Window_Look(*this, Letters{.columns = 68});
     connect(m_ui->_fill_msg_all, &QRadioButton::clicked, this, &Send_Msg_Info::Fill_To_ALL_Pressed);
     connect(m_ui->_fill_msg_blank, &QRadioButton::clicked, this, &Send_Msg_Info::Fill_To_Blank_Pressed);
     connect(m_ui->OKPressed, &QPushButton::clicked, this, &Send_Msg_Info::OKPressed);
@@ -26,11 +19,6 @@ Send_Msg_Info::Send_Msg_Info(QWidget* parent)
 }
 
 Send_Msg_Info::~Send_Msg_Info() = default;
-
-Send_Msg_Info* Send_Msg_Info::defaultInstance()
-{
-    return Shared_Instance<Send_Msg_Info>::Get();
-}
 
 int Send_Msg_Info::Open_Dialog(Main_Window& window)
 {
@@ -77,21 +65,6 @@ void Send_Msg_Info::ContinuePressed()
 void Send_Msg_Info::CancelPressed()
 {
     End_With(Cancelled);
-}
-
-void Send_Msg_Info::reject()
-{
-    CancelPressed();
-}
-
-void Send_Msg_Info::Show_Create_Modeless()
-{
-    m_work.Show_Sheet();
-}
-
-void Send_Msg_Info::Hide_Destroy_Modeless()
-{
-    m_work.Hide_Sheet();
 }
 
 void Send_Msg_Info::End_With(int code)

@@ -1,12 +1,8 @@
 #pragma once
 
-#include "toolkit/Window_Work.h"
-
-#include <QDialog>
-#include <memory>
+#include "toolkit/Form_Dialog.h"
 
 class Main_Window;
-class PleaseWait_Modeless;
 
 namespace Ui {
 class Send_Msg_Info;
@@ -14,7 +10,7 @@ class Send_Msg_Info;
 
 // Offers, before a job sends, to copy the message in Message_IS to all recipients or to those without a message. The
 // shared instance belongs to Shared_Instance, or to the main window once it has been put over it; interface thread.
-class Send_Msg_Info : public QDialog
+class Send_Msg_Info : public Working_Dialog<Send_Msg_Info, Ui::Send_Msg_Info>
 {
     Q_OBJECT
 
@@ -26,8 +22,6 @@ public:
     explicit Send_Msg_Info(QWidget* parent = nullptr);
     ~Send_Msg_Info() override;
 
-    static Send_Msg_Info* defaultInstance();
-
     /// Runs the dialog over the main window until it ends. Returns one of the three codes; Cancelled also when the
     /// program exits meanwhile.
     int Open_Dialog(Main_Window& window);
@@ -37,17 +31,9 @@ public:
     void OKPressed();
     void ContinuePressed();
     void CancelPressed();
-    void Show_Create_Modeless();
-    void Hide_Destroy_Modeless();
-
-    void reject() override; ///< Escape and the close button: as Cancel
 
 private:
     void End_With(int code);
 
-    const std::unique_ptr<Ui::Send_Msg_Info> m_ui;
-    std::unique_ptr<PleaseWait_Modeless> plz_wait_Window;
-    Window_Work m_work;
-    Main_Window* m_window = nullptr; // the one the dialog was last opened over
     int m_code = Cancelled;
 };

@@ -7,17 +7,13 @@
 #include "toolkit/Line_Edit_Limit.h"
 #include "toolkit/Main_Window.h"
 #include "toolkit/Message_Boxes.h"
-#include "toolkit/Shared_Instance.h"
-#include "toolkit/Window_Look.h"
 #include "ui_Update_Num_SMS.h"
 #include "windows/list/List_Change.h"
 
 #include <QSignalBlocker>
 
-Update_Num_SMS::Update_Num_SMS(QWidget* parent) : QDialog(parent), m_ui(std::make_unique<Ui::Update_Num_SMS>())
+Update_Num_SMS::Update_Num_SMS(QWidget* parent) : Form_Dialog(parent, Letters{.columns = 66, .lines = 28})
 {
-    m_ui->setupUi(this);
-    Apply_Window_Look(*this, Letters{.columns = 66, .lines = 28});
     m_message = std::make_unique<Counted_Message>(*m_ui->m_msg_str, *m_ui->m_st_msg_cnt);
     connect(m_ui->m_num_str, &QLineEdit::textChanged, this, &Update_Num_SMS::controlTextDidChange);
     connect(m_ui->m_msg_str, &QPlainTextEdit::textChanged, this, &Update_Num_SMS::textDidChange);
@@ -27,11 +23,6 @@ Update_Num_SMS::Update_Num_SMS(QWidget* parent) : QDialog(parent), m_ui(std::mak
 }
 
 Update_Num_SMS::~Update_Num_SMS() = default;
-
-Update_Num_SMS* Update_Num_SMS::defaultInstance()
-{
-    return Shared_Instance<Update_Num_SMS>::Get();
-}
 
 int Update_Num_SMS::Open_Dialog(Main_Window& window, int row)
 {
@@ -91,11 +82,6 @@ void Update_Num_SMS::OKPressed()
 void Update_Num_SMS::CancelPressed()
 {
     End_With(0);
-}
-
-void Update_Num_SMS::reject()
-{
-    CancelPressed();
 }
 
 void Update_Num_SMS::controlTextDidChange()

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "list/Number_List.h"
+#include "toolkit/Form_Dialog.h"
 #include "windows/list/Counted_Message.h"
 
-#include <QDialog>
 #include <memory>
 
 class Main_Window;
@@ -15,15 +15,13 @@ class Update_Num_SMS;
 // Edits one recipient: the number, by the rules for a typed one, and the message. Its two check boxes are its own: they
 // start out like the main window's and are never written back. The shared instance belongs to Shared_Instance, or to
 // the main window once it has been put over it; interface thread.
-class Update_Num_SMS : public QDialog
+class Update_Num_SMS : public Form_Dialog<Update_Num_SMS, Ui::Update_Num_SMS>
 {
     Q_OBJECT
 
 public:
     explicit Update_Num_SMS(QWidget* parent = nullptr);
     ~Update_Num_SMS() override;
-
-    static Update_Num_SMS* defaultInstance();
 
     /// Runs the dialog over the main window, for the recipient at a valid index, until it ends. Returns 1 if the
     /// recipient was saved, 0 if the dialog was cancelled.
@@ -35,13 +33,10 @@ public:
     void controlTextDidChange();
     void textDidChange();
 
-    void reject() override; ///< Escape and the close button: as Cancel
-
 private:
     void Refuse(const QString& text);
     void End_With(int code);
 
-    const std::unique_ptr<Ui::Update_Num_SMS> m_ui;
     std::unique_ptr<Counted_Message> m_message;
     Number_List m_applied_exclusions; // what was read for the dialog's own check box
     Main_Window* m_window = nullptr;  // the one the dialog was last opened over

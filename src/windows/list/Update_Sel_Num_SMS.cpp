@@ -9,10 +9,8 @@
 #include "toolkit/List_Tables.h"
 #include "toolkit/Main_Window.h"
 #include "toolkit/Message_Boxes.h"
-#include "toolkit/PleaseWait_Modeless.h"
 #include "toolkit/Row_Table_Model.h"
 #include "toolkit/Shared_Instance.h"
-#include "toolkit/Window_Look.h"
 #include "ui_Update_Sel_Num_SMS.h"
 #include "windows/list/List_Change.h"
 
@@ -28,12 +26,8 @@ constexpr std::size_t Largest_Batch = 5000;
 
 } // namespace
 
-Update_Sel_Num_SMS::Update_Sel_Num_SMS(QWidget* parent)
-    : QDialog(parent), m_ui(std::make_unique<Ui::Update_Sel_Num_SMS>()),
-      plz_wait_Window(std::make_unique<PleaseWait_Modeless>()), m_work(*this, *plz_wait_Window)
+Update_Sel_Num_SMS::Update_Sel_Num_SMS(QWidget* parent) : Working_Dialog(parent, Letters{.columns = 100, .lines = 28})
 {
-    m_ui->setupUi(this);
-    Apply_Window_Look(*this, Letters{.columns = 100, .lines = 28});
     m_rows = std::make_unique<Row_Table_Model>(
         std::vector<Row_Table_Model::Column>{{QStringLiteral("Number"), tr("Number")}},
         [this] { return numberOfRowsInTableView(); },
@@ -47,6 +41,7 @@ Update_Sel_Num_SMS::Update_Sel_Num_SMS(QWidget* parent)
 
 Update_Sel_Num_SMS::~Update_Sel_Num_SMS()
 {
+    m_work.Await();
     if (Up_Sel_Num_SMS == this)
         Up_Sel_Num_SMS = nullptr;
 }
@@ -192,16 +187,6 @@ void Update_Sel_Num_SMS::reject()
 void Update_Sel_Num_SMS::textDidChange()
 {
     m_message->textDidChange(*m_window);
-}
-
-void Update_Sel_Num_SMS::Show_Create_Modeless()
-{
-    m_work.Show_Sheet();
-}
-
-void Update_Sel_Num_SMS::Hide_Destroy_Modeless()
-{
-    m_work.Hide_Sheet();
 }
 
 void Update_Sel_Num_SMS::End_With(int code)

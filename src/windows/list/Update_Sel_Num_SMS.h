@@ -1,15 +1,13 @@
 #pragma once
 
-#include "toolkit/Window_Work.h"
+#include "toolkit/Form_Dialog.h"
 #include "windows/list/Counted_Message.h"
 
-#include <QDialog>
 #include <deque>
 #include <memory>
 #include <vector>
 
 class Main_Window;
-class PleaseWait_Modeless;
 class Row_Table_Model;
 
 namespace Ui {
@@ -19,7 +17,7 @@ class Update_Sel_Num_SMS;
 // Gives the recipients selected in the main table one new message, after showing their numbers. The shared instance
 // belongs to Shared_Instance, or to the main window once it has been put over it. A window of the interface thread: a
 // worker loads the numbers in batches, and Open_Dialog returns only after that load has ended.
-class Update_Sel_Num_SMS : public QDialog
+class Update_Sel_Num_SMS : public Working_Dialog<Update_Sel_Num_SMS, Ui::Update_Sel_Num_SMS>
 {
     Q_OBJECT
 
@@ -38,8 +36,6 @@ public:
     void CancelPressed();
     void textDidChange();
     void Update_num_Count();
-    void Show_Create_Modeless();
-    void Hide_Destroy_Modeless();
 
     int numberOfRowsInTableView() const;
     /// The value of a row for a column's identifier; an empty text if there is none.
@@ -57,14 +53,10 @@ private:
     void End_Load();
     void End_With(int code);
 
-    const std::unique_ptr<Ui::Update_Sel_Num_SMS> m_ui;
-    std::unique_ptr<PleaseWait_Modeless> plz_wait_Window;
     std::unique_ptr<Counted_Message> m_message;
     std::deque<QString> List_data_Object; // the rows, each its value for "Number"
     std::unique_ptr<Row_Table_Model> m_rows;
-    Main_Window* m_window = nullptr; // the one the dialog was last opened over
 
-    Window_Work m_work; // the load; the dialog takes no input until it has ended
     bool m_is_loading = false;
     bool m_is_left = false;        // closed during the load, which ends the dialog afterwards
     std::vector<QString> m_loaded; // what the worker has found but not yet published

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QDialog>
-#include <memory>
+#include "toolkit/Form_Dialog.h"
 
 namespace Ui {
 class Help_Wnd;
@@ -9,7 +8,7 @@ class Help_Wnd;
 
 // The help window: how to get from a list of numbers to sent messages, in a few sentences. Made on request and run
 // modally over the main window; interface thread.
-class Help_Wnd : public QDialog
+class Help_Wnd : public Form_Dialog<Help_Wnd, Ui::Help_Wnd>
 {
     Q_OBJECT
 
@@ -18,5 +17,4 @@ public:
     ~Help_Wnd() override;
 
 private:
-    std::unique_ptr<Ui::Help_Wnd> m_ui;
 };

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QDialog>
-#include <memory>
+#include "toolkit/Form_Dialog.h"
 
 namespace Ui {
 class Load_Num_Info;
@@ -9,7 +8,7 @@ class Load_Num_Info;
 
 // Asks, before an import, whether to remove the numbers already in the list first. Runs modally over the main window,
 // which makes one per import; interface thread.
-class Load_Num_Info : public QDialog
+class Load_Num_Info : public Form_Dialog<Load_Num_Info, Ui::Load_Num_Info>
 {
     Q_OBJECT
 
@@ -28,8 +27,5 @@ public:
     void NOPressed();
     void CancelPressed();
 
-    void reject() override; ///< Escape and the close button: as Cancel
-
 private:
-    std::unique_ptr<Ui::Load_Num_Info> m_ui;
 };

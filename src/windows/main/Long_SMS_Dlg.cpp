@@ -4,8 +4,6 @@
 #include "platform/Waiting.h"
 #include "toolkit/Dialog_Over.h"
 #include "toolkit/Input_Hold.h"
-#include "toolkit/Shared_Instance.h"
-#include "toolkit/Window_Look.h"
 #include "ui_Long_SMS_Dlg.h"
 
 #include <QKeyEvent>
@@ -41,21 +39,14 @@ bool Wait_While_Text_Is_Typed(QWidget& over)
 
 } // namespace
 
-Long_SMS_Dlg::Long_SMS_Dlg(QWidget* parent) : QDialog(parent), m_ui(std::make_unique<Ui::Long_SMS_Dlg>())
+Long_SMS_Dlg::Long_SMS_Dlg(QWidget* parent) : Form_Dialog(parent, Letters{.columns = 68})
 {
-    m_ui->setupUi(this);
-    Apply_Window_Look(*this, Letters{.columns = 68});
     connect(m_ui->OKPressed, &QPushButton::clicked, this, &Long_SMS_Dlg::OKPressed);
     m_first_moment.setSingleShot(true);
     connect(&m_first_moment, &QTimer::timeout, this, &Long_SMS_Dlg::End_First_Moment);
 }
 
 Long_SMS_Dlg::~Long_SMS_Dlg() = default;
-
-Long_SMS_Dlg* Long_SMS_Dlg::defaultInstance()
-{
-    return Shared_Instance<Long_SMS_Dlg>::Get();
-}
 
 void Long_SMS_Dlg::Open_Dialog(QWidget* over, bool unicode)
 {

@@ -4,8 +4,6 @@
 #include "platform/Interface_Thread.h"
 #include "platform/Waiting.h"
 #include "toolkit/Dialog_Over.h"
-#include "toolkit/Shared_Instance.h"
-#include "toolkit/Window_Look.h"
 #include "ui_Connection_Info.h"
 
 #include <QFontDatabase>
@@ -20,19 +18,12 @@ Connection_Info::Connection_Info(QWidget* parent)
 }
 
 Connection_Info::Connection_Info(QWidget* parent, Fact_Finder find_facts)
-    : QDialog(parent), m_ui(std::make_unique<Ui::Connection_Info>()), m_find_facts(std::move(find_facts))
+    : Form_Dialog(parent, Letters{.columns = 92}), m_find_facts(std::move(find_facts))
 {
-    m_ui->setupUi(this);
-    Apply_Window_Look(*this, Letters{.columns = 92});
     connect(m_ui->Continue_Btn, &QPushButton::clicked, this, &Connection_Info::Continue_Btn);
 }
 
 Connection_Info::~Connection_Info() = default;
-
-Connection_Info* Connection_Info::defaultInstance()
-{
-    return Shared_Instance<Connection_Info>::Get();
-}
 
 int Connection_Info::exec()
 {

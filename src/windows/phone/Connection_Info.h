@@ -1,10 +1,9 @@
 #pragma once
 
 #include "doctor/Connection_Advice.h"
+#include "toolkit/Form_Dialog.h"
 
-#include <QDialog>
 #include <functional>
-#include <memory>
 
 namespace Ui {
 class Connection_Info;
@@ -13,7 +12,7 @@ class Connection_Info;
 // The screen before the connection wizard: how to switch a phone to modem mode, and what obstacles there are on this
 // computer, if any. The shared instance belongs to Shared_Instance and ends with End_Shared_Instances, before the
 // application object. Interface thread.
-class Connection_Info : public QDialog
+class Connection_Info : public Form_Dialog<Connection_Info, Ui::Connection_Info>
 {
     Q_OBJECT
 
@@ -23,8 +22,6 @@ public:
     explicit Connection_Info(QWidget* parent = nullptr);
     Connection_Info(QWidget* parent, Fact_Finder find_facts);
     ~Connection_Info() override;
-
-    static Connection_Info* defaultInstance();
 
     /// Finds out what applies now, shows it and runs modally. Always ends with 1.
     int exec() override;
@@ -40,6 +37,5 @@ public:
 private:
     QWidget* Made_Advice_Row(const Advice& advice);
 
-    const std::unique_ptr<Ui::Connection_Info> m_ui;
     const Fact_Finder m_find_facts;
 };

@@ -2,17 +2,13 @@
 
 #include "records/Export_Format.h"
 #include "toolkit/Dialog_Over.h"
-#include "toolkit/Shared_Instance.h"
-#include "toolkit/Window_Look.h"
 #include "ui_Export_Option.h"
 #include "windows/stores/Store_Globals.h"
 
 #include <QSignalBlocker>
 
-Export_Option::Export_Option(QWidget* parent) : QDialog(parent), m_ui(std::make_unique<Ui::Export_Option>())
+Export_Option::Export_Option(QWidget* parent) : Form_Dialog(parent)
 {
-    m_ui->setupUi(this);
-    Apply_Window_Look(*this);
     // Not clicked: the arrow keys move the choice without a click.
     connect(m_ui->Export_In_Text_RD, &QRadioButton::toggled, this, [this](bool is_on) {
         if (is_on)
@@ -27,11 +23,6 @@ Export_Option::Export_Option(QWidget* parent) : QDialog(parent), m_ui(std::make_
 }
 
 Export_Option::~Export_Option() = default;
-
-Export_Option* Export_Option::defaultInstance()
-{
-    return Shared_Instance<Export_Option>::Get();
-}
 
 int Export_Option::Open_Dialog(QWidget* over)
 {
@@ -61,11 +52,6 @@ void Export_Option::CancelPressed()
 {
     Export_In_Text_RD();
     done(0);
-}
-
-void Export_Option::reject()
-{
-    CancelPressed();
 }
 
 void Export_Option::Show_Choice(bool is_html)

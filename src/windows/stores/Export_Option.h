@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QDialog>
-#include <memory>
+#include "toolkit/Form_Dialog.h"
 
 namespace Ui {
 class Export_Option;
@@ -9,15 +8,13 @@ class Export_Option;
 
 // Asks whether to export as text or as HTML, and leaves the answer in SENT_EXPORT_MODE. One shared instance, put over
 // the window that asks; interface thread.
-class Export_Option : public QDialog
+class Export_Option : public Form_Dialog<Export_Option, Ui::Export_Option>
 {
     Q_OBJECT
 
 public:
     explicit Export_Option(QWidget* parent = nullptr);
     ~Export_Option() override;
-
-    static Export_Option* defaultInstance();
 
     /// Runs the dialog over a window. Returns 1 for OK and 0 for Cancel, which resets the mode to text.
     int Open_Dialog(QWidget* over);
@@ -26,10 +23,6 @@ public:
     void Export_In_Html_RD();
     void OKPressed();     ///< the mode is kept; the radio buttons go back to text
     void CancelPressed(); ///< both go back to text
-    void reject() override;
-
 private:
     void Show_Choice(bool is_html);
-
-    std::unique_ptr<Ui::Export_Option> m_ui;
 };

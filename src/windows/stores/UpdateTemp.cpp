@@ -5,8 +5,6 @@
 #include "texts/Texts.h"
 #include "toolkit/Message_Boxes.h"
 #include "toolkit/Plain_Text_Edit.h"
-#include "toolkit/Shared_Instance.h"
-#include "toolkit/Window_Look.h"
 #include "ui_UpdateTemp.h"
 #include "windows/stores/Store_Globals.h"
 #include "windows/stores/Templates.h"
@@ -23,10 +21,8 @@ QString As_Shown(const QString& text)
 
 } // namespace
 
-UpdateTemp::UpdateTemp(QWidget* parent) : QDialog(parent), m_ui(std::make_unique<Ui::UpdateTemp>())
+UpdateTemp::UpdateTemp(QWidget* parent) : Form_Dialog(parent, Letters{.columns = 70, .lines = 24})
 {
-    m_ui->setupUi(this);
-    Apply_Window_Look(*this, Letters{.columns = 70, .lines = 24});
     m_ui->m_templ_index->hide();
     m_ui->m_s_temp_str->hide();
     connect(m_ui->m_templ_msg_str, &QPlainTextEdit::textChanged, this, &UpdateTemp::textDidChange);
@@ -35,11 +31,6 @@ UpdateTemp::UpdateTemp(QWidget* parent) : QDialog(parent), m_ui(std::make_unique
 }
 
 UpdateTemp::~UpdateTemp() = default;
-
-UpdateTemp* UpdateTemp::defaultInstance()
-{
-    return Shared_Instance<UpdateTemp>::Get();
-}
 
 void UpdateTemp::textDidChange()
 {
@@ -76,11 +67,6 @@ void UpdateTemp::OKPressed()
 void UpdateTemp::CancelPressed()
 {
     End_With(0);
-}
-
-void UpdateTemp::reject()
-{
-    CancelPressed();
 }
 
 void UpdateTemp::Refuse(const QString& text)

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QDialog>
-#include <memory>
+#include "toolkit/Form_Dialog.h"
 
 namespace Ui {
 class UpdateTemp;
@@ -10,7 +9,7 @@ class UpdateTemp;
 // Adds a template or edits one: the templates window fills its fields and runs it, and what is entered goes into that
 // window's list. Two fields are hidden: the row being edited, empty for a new template, and the text before editing.
 // One shared instance, owned by the templates window; interface thread.
-class UpdateTemp : public QDialog
+class UpdateTemp : public Form_Dialog<UpdateTemp, Ui::UpdateTemp>
 {
     Q_OBJECT
 
@@ -18,16 +17,10 @@ public:
     explicit UpdateTemp(QWidget* parent = nullptr);
     ~UpdateTemp() override;
 
-    static UpdateTemp* defaultInstance();
-
     void textDidChange();
-    void OKPressed();       ///< ends with 1 once the text is in the list
-    void CancelPressed();   ///< ends with 0
-    void reject() override; ///< Escape and the close button: as Cancel
-
+    void OKPressed();     ///< ends with 1 once the text is in the list
+    void CancelPressed(); ///< ends with 0
 private:
     void Refuse(const QString& text);
     void End_With(int code);
-
-    const std::unique_ptr<Ui::UpdateTemp> m_ui;
 };
