@@ -27,6 +27,9 @@ struct Judged_Number
     QString number; ///< normalised; empty when it is not valid
 };
 
+/// What a person is told who wanted to add a number with this verdict; empty for an accepted one.
+QString Refusal(Number_Verdict verdict);
+
 /// Judges a number as typed.
 Judged_Number Judge_Number(const QString& typed, const Number_Terms& terms);
 

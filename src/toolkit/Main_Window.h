@@ -32,6 +32,8 @@ public:
     /// The window itself, to put dialogs over.
     virtual QWidget* Window() = 0;
     virtual void Focus(Field field) = 0;
+    /// Shows the text, and then puts the focus where what it says can be mended.
+    void Tell_And_Focus(const QString& text, Field field);
 
     virtual const Recipient_List& Recipients() const = 0;
     virtual const Number_List& Exclusions() const = 0;

@@ -62,6 +62,12 @@ void Show_MessageBox(const QString& text)
     });
 }
 
+void Tell_And_Focus(const QString& text, QWidget& control)
+{
+    Show_MessageBox(text);
+    control.setFocus();
+}
+
 bool Show_YES_NO_MessageBox(const QString& text)
 {
     bool answer = false;

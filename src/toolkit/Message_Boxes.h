@@ -12,6 +12,9 @@ class QWidget;
 /// Shows the text, below an empty line, with one button "OK".
 void Show_MessageBox(const QString& text);
 
+/// The same, and then puts the focus on the control that the text is about. Interface thread only.
+void Tell_And_Focus(const QString& text, QWidget& control);
+
 /// Asks the text unchanged, with the buttons "Yes" (the default) and "No". Only "Yes" answers yes; Escape and the close
 /// button answer no.
 bool Show_YES_NO_MessageBox(const QString& text);

@@ -200,7 +200,7 @@ const std::vector<Room>& Rooms()
         {"texts", {}, Room::Core},
         {"handset", {}, Room::Core},
         {"pdu", {}, Room::Core},
-        {"list", {"platform"}, Room::Core},
+        {"list", {"platform", "texts"}, Room::Core},
         {"records", {"platform", "list"}, Room::Core},
         {"device", {"platform", "pdu"}, Room::Core},
         {"engine", {"platform", "texts", "list", "records", "device"}, Room::Core},

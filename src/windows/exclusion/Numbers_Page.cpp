@@ -175,22 +175,14 @@ void Numbers_Page::Add_Number_Btn()
 {
     m_ex_num_str = m_loadnum_edit.text();
     const auto judged = Judge_Number(m_ex_num_str, {&m_ex_num_list_Data, nullptr});
-    switch (judged.verdict) {
-    case Number_Verdict::Not_Valid:
-        Tell_And_Focus(Texts::Not_A_Number, m_loadnum_edit);
-        break;
-    case Number_Verdict::Repeated:
-        Tell_And_Focus(Texts::Number_Exists, m_loadnum_edit);
-        break;
-    case Number_Verdict::Accepted:
-        m_steps.Note_Unsaved_Numbers();
-        Create_Ex_Num_List(judged.number);
-        m_loadnum_edit.clear();
-        m_loadnum_edit.setFocus();
-        break;
-    case Number_Verdict::Excluded: // by what is applied: it may join a list all the same, and is not asked for
-        break;
+    if (judged.verdict != Number_Verdict::Accepted) {
+        Tell_And_Focus(Refusal(judged.verdict), m_loadnum_edit);
+        return;
     }
+    m_steps.Note_Unsaved_Numbers();
+    Create_Ex_Num_List(judged.number);
+    m_loadnum_edit.clear();
+    m_loadnum_edit.setFocus();
 }
 
 // The selected rows; none, after telling so, when there are no numbers or nothing is selected.

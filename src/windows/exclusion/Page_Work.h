@@ -29,13 +29,6 @@ private:
     bool m_is_working = false;
 };
 
-/// Tells a text and puts the focus on the control that it is about.
-inline void Tell_And_Focus(const QString& text, QWidget& control)
-{
-    Show_MessageBox(text);
-    control.setFocus();
-}
-
 /// Lets the main window, if there is one, take in anew what the applied lists hold.
 inline void Refill_Main_Window()
 {

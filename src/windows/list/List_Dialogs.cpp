@@ -10,25 +10,15 @@
 #include "windows/list/Update_Num_SMS.h"
 #include "windows/list/Update_Sel_Num_SMS.h"
 
-namespace {
-
-void Refuse(Main_Window& window, const QString& text, Main_Window::Field field)
-{
-    Show_MessageBox(text);
-    window.Focus(field);
-}
-
-} // namespace
-
 void Open_Fill_Dialog(Main_Window& window)
 {
     if (window.Recipients().Count() == 0) {
-        Refuse(window, Texts::Main::List_Empty, Main_Window::Field::Number);
+        window.Tell_And_Focus(Texts::Main::List_Empty, Main_Window::Field::Number);
         return;
     }
     Message_IS = window.Read_Send_Choices().composer_text;
     if (Message_IS.isEmpty()) {
-        Refuse(window, Texts::Message_Missing, Main_Window::Field::Composer);
+        window.Tell_And_Focus(Texts::Message_Missing, Main_Window::Field::Composer);
         return;
     }
     if (Message_IS.size() > Longest_Message) {

@@ -2,7 +2,6 @@
 
 #include "list/Number_Judge.h"
 #include "list/Number_Rules.h"
-#include "texts/Texts.h"
 #include "toolkit/Dialog_Over.h"
 #include "toolkit/Line_Edit_Limit.h"
 #include "toolkit/Main_Window.h"
@@ -60,18 +59,9 @@ void Update_Num_SMS::OKPressed()
     auto judged = judge(m_window->Exclusions());
     if (judged.verdict == Number_Verdict::Accepted)
         judged = judge(m_applied_exclusions);
-    switch (judged.verdict) {
-    case Number_Verdict::Not_Valid:
-        Refuse(Texts::Not_A_Number);
+    if (judged.verdict != Number_Verdict::Accepted) {
+        Tell_And_Focus(Refusal(judged.verdict), *m_ui->m_num_str);
         return;
-    case Number_Verdict::Repeated:
-        Refuse(Texts::Number_Exists);
-        return;
-    case Number_Verdict::Excluded:
-        Refuse(Texts::Number_Excluded);
-        return;
-    case Number_Verdict::Accepted:
-        break;
     }
     const QString message = m_message->Text();
     const int row = m_ui->m_s_indx_str->text().toInt();
@@ -92,12 +82,6 @@ void Update_Num_SMS::controlTextDidChange()
 void Update_Num_SMS::textDidChange()
 {
     m_message->textDidChange(*m_window);
-}
-
-void Update_Num_SMS::Refuse(const QString& text)
-{
-    Show_MessageBox(text);
-    m_ui->m_num_str->setFocus();
 }
 
 void Update_Num_SMS::End_With(int code)

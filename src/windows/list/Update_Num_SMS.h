@@ -34,7 +34,6 @@ public:
     void textDidChange();
 
 private:
-    void Refuse(const QString& text);
     void End_With(int code);
 
     std::unique_ptr<Counted_Message> m_message;

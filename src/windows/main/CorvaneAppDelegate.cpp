@@ -355,9 +355,3 @@ void CorvaneAppDelegate::Focus(Field field)
         break;
     }
 }
-
-void CorvaneAppDelegate::Tell_And_Focus(const QString& text, Field field)
-{
-    Show_MessageBox(text);
-    Focus(field);
-}

@@ -144,7 +144,6 @@ private:
     void Leave_Import_Unread();
     void Finish_Import();
     void End_Import();
-    void Tell_And_Focus(const QString& text, Field field);
 
     std::unique_ptr<Ui::CorvaneAppDelegate> m_ui;
     std::unique_ptr<MFCSMS> mfc_sms_obj;

@@ -121,22 +121,13 @@ QString CorvaneAppDelegate::tableView(const QTableView* table, const QString& ob
 void CorvaneAppDelegate::Add_Number()
 {
     const auto judged = Judge_Number(m_ui->_numberEdit->text(), Terms_For_New_Numbers());
-    switch (judged.verdict) {
-    case Number_Verdict::Not_Valid:
-        Show_MessageBox(Texts::Not_A_Number);
-        break;
-    case Number_Verdict::Repeated:
-        Show_MessageBox(Texts::Number_Exists);
-        break;
-    case Number_Verdict::Excluded:
-        Show_MessageBox(Texts::Number_Excluded);
-        break;
-    case Number_Verdict::Accepted:
-        Create_Num_Msg_List(judged.number, m_composer->Text());
-        Redisplay_Recipients();
-        m_ui->_numberEdit->clear();
-        break;
+    if (judged.verdict != Number_Verdict::Accepted) {
+        Tell_And_Focus(Refusal(judged.verdict), Field::Number);
+        return;
     }
+    Create_Num_Msg_List(judged.number, m_composer->Text());
+    Redisplay_Recipients();
+    m_ui->_numberEdit->clear();
     Focus(Field::Number);
 }
 

@@ -22,8 +22,7 @@ constexpr int Send_List_As_It_Is = 0;
 // Says why nothing is sent, and puts the focus where that can be fixed. Returns false, for the failed check.
 bool Refuse(Main_Window& window, const QString& text, Main_Window::Field field)
 {
-    Show_MessageBox(text);
-    window.Focus(field);
+    window.Tell_And_Focus(text, field);
     return false;
 }
 

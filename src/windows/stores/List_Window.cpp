@@ -251,8 +251,7 @@ void List_Window::Write_Export_To(const QString& path)
 
 void List_Window::Tell(const QString& text)
 {
-    Show_MessageBox(text);
-    Table().setFocus();
+    Tell_And_Focus(text, Table());
 }
 
 int List_Window::First_Selected_Row() const

@@ -47,13 +47,13 @@ void UpdateTemp::OKPressed()
     const QString text =
         Trim_Str(Left_Str_substringToIndex(is_unchanged ? before : typed, Template_Format::Most_Characters));
     if (text.isEmpty()) {
-        Refuse(Texts::Stores::Template_Missing);
+        Tell_And_Focus(Texts::Stores::Template_Missing, *m_ui->m_templ_msg_str);
         return;
     }
     if (!Template_Window)
         return;
     if (!is_unchanged && Template_Window->Check_Duplicate_Template(text)) {
-        Refuse(Texts::Stores::Template_Exists);
+        Tell_And_Focus(Texts::Stores::Template_Exists, *m_ui->m_templ_msg_str);
         return;
     }
     if (is_update)
@@ -67,12 +67,6 @@ void UpdateTemp::OKPressed()
 void UpdateTemp::CancelPressed()
 {
     End_With(0);
-}
-
-void UpdateTemp::Refuse(const QString& text)
-{
-    Show_MessageBox(text);
-    m_ui->m_templ_msg_str->setFocus();
 }
 
 void UpdateTemp::End_With(int code)

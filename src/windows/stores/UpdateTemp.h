@@ -21,6 +21,5 @@ public:
     void OKPressed();     ///< ends with 1 once the text is in the list
     void CancelPressed(); ///< ends with 0
 private:
-    void Refuse(const QString& text);
     void End_With(int code);
 };
