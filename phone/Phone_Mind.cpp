@@ -263,11 +263,6 @@ void Phone_Mind::Answer(std::string_view text, bool as_given)
         m_happenings.m_said.push_back({Status_Line(), 0});
 }
 
-void Phone_Mind::Answer_Error(int number)
-{
-    Answer("\r\n+CMS ERROR: " + std::to_string(number) + "\r\n");
-}
-
 std::string Phone_Mind::With_Line_Ends(std::string_view text) const
 {
     std::string said(text);

@@ -80,7 +80,7 @@ private:
 
     void Echo(std::string_view bytes);
     void Answer(std::string_view text, bool as_given = false);
-    void Answer_Error(int number);
+    void Answer_Error(int number) { Answer("\r\n+CMS ERROR: " + std::to_string(number) + "\r\n"); }
     std::string With_Line_Ends(std::string_view text) const;
 
     Phone_Moods m_moods;

@@ -59,11 +59,6 @@ std::optional<int> Number_Of(std::string_view digits)
     return number;
 }
 
-void Phone_Settings::Plug_In()
-{
-    *this = Phone_Settings(m_moods);
-}
-
 void Phone_Settings::Reset()
 {
     const auto centre = m_centre;

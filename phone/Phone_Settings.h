@@ -17,8 +17,8 @@ public:
     explicit Phone_Settings(const Phone_Moods& moods) : m_moods(moods) {}
 
     void Set_Moods(const Phone_Moods& moods) { m_moods = moods; }
-    void Plug_In(); ///< everything back at its start
-    void Reset();   ///< ATZ and AT&F: everything but the service centre, which a phone keeps
+    void Plug_In() { *this = Phone_Settings(m_moods); } ///< everything back at its start
+    void Reset(); ///< ATZ and AT&F: everything but the service centre, which a phone keeps
 
     /// Carries out a setting command; argument is what follows "=". False when it is invalid.
     bool Do(Deed deed, std::string_view argument);

@@ -46,8 +46,3 @@ void Pause_Countdown::Wait_Until(double due)
 {
     m_stop.Wait((due - Now_Seconds()) * Pace());
 }
-
-bool Pause_Countdown::Is_Asked_To_Stop() const
-{
-    return m_stop == 1 || Program_Is_Exiting();
-}

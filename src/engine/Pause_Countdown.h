@@ -21,7 +21,7 @@ private:
     void Calculate_Pause_Time(qint64 milliseconds);
     void Pause_Timer_Func();
     void Wait_Until(double due);
-    bool Is_Asked_To_Stop() const;
+    bool Is_Asked_To_Stop() const { return m_stop == 1 || Program_Is_Exiting(); }
 
     Send_Progress& m_progress;
     const Stop_Flag& m_stop;

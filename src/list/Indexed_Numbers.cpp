@@ -2,11 +2,6 @@
 
 #include <algorithm>
 
-QString Indexed_Numbers::At(int index) const
-{
-    return m_texts.Text_Of(m_numbers.at(static_cast<std::size_t>(index)));
-}
-
 // Room is made before anything changes: if memory runs out, the list stays as it was.
 void Indexed_Numbers::Append(const Packed_Number& number)
 {

@@ -20,7 +20,7 @@ public:
 
     int Count() const { return static_cast<int>(m_numbers.size()); }
     /// The number at an index from 0 to Count() - 1.
-    QString At(int index) const;
+    QString At(int index) const { return m_texts.Text_Of(m_numbers.at(static_cast<std::size_t>(index))); }
 
     /// Appends a number, even one already present; all of it, or nothing when memory runs out.
     void Append(const QString& number) { Append(m_texts.Pack(number)); }

@@ -9,16 +9,6 @@ QString Recipient::Value(QStringView identifier) const
 
 Recipient_List::Recipient_List() : m_messages(new Messages) {}
 
-Recipient Recipient_List::At(int index) const
-{
-    return {m_numbers.At(index), Message_At(index)};
-}
-
-const QString& Recipient_List::Message_At(int index) const
-{
-    return m_messages->texts.at(static_cast<std::size_t>(index));
-}
-
 void Recipient_List::Append(const QString& number, const QString& message)
 {
     Append_Number(number, message);
@@ -63,9 +53,4 @@ void Recipient_List::Remove_Rows(const std::vector<int>& rows)
         return;
     m_numbers.Remove_Rows(rows);
     Remove_Rows_From(m_messages->texts, rows);
-}
-
-void Recipient_List::Clear()
-{
-    *this = {};
 }

@@ -28,9 +28,9 @@ public:
     /// The numbers alone, in the same order.
     const Number_List& Numbers() const { return m_numbers; }
     /// The recipient at an index from 0 to Count() - 1.
-    Recipient At(int index) const;
+    Recipient At(int index) const { return {m_numbers.At(index), Message_At(index)}; }
     /// Only the message of the recipient at an index from 0 to Count() - 1.
-    const QString& Message_At(int index) const;
+    const QString& Message_At(int index) const { return m_messages->texts.at(static_cast<std::size_t>(index)); }
     void Append(const QString& number, const QString& message);
     /// The same for a number that consists of digits alone.
     void Append(const Packed_Number& number, const QString& message);
@@ -40,7 +40,7 @@ public:
     void Set_Messages(const std::vector<int>& rows, const QString& message);
     /// Removes the rows of a sorted list of distinct indexes in one pass.
     void Remove_Rows(const std::vector<int>& rows);
-    void Clear();
+    void Clear() { *this = {}; }
 
 private:
     struct Messages : QSharedData

@@ -16,18 +16,3 @@ Sent_Item_List Sent_Item_Store::Load_List(qsizetype early_count,
     // Not under the file's lock: taking the first records may wait for a window.
     return Sent_Item_List::Read(m_file.Load_Bytes(), early_count, early);
 }
-
-bool Sent_Item_Store::Rewrite(const Sent_Item_List& items)
-{
-    return m_file.Rewrite(items.Lines());
-}
-
-bool Sent_Item_Store::Clear()
-{
-    return m_file.Clear();
-}
-
-void Sent_Item_Store::Forget()
-{
-    m_file.Forget();
-}

@@ -22,9 +22,9 @@ public:
     Sent_Item_List Load_List(qsizetype early_count = -1, const std::function<void(const Sent_Item_List&)>& early = {});
 
     /// Writes the records back, each with an empty status. See Store_File for what is kept.
-    bool Rewrite(const Sent_Item_List& items);
-    bool Clear();
-    void Forget();
+    bool Rewrite(const Sent_Item_List& items) { return m_file.Rewrite(items.Lines()); }
+    bool Clear() { return m_file.Clear(); }
+    void Forget() { m_file.Forget(); }
 
 private:
     Store_File m_file;

@@ -84,13 +84,3 @@ bool Template_Store::Rewrite(const QList<Template_Item>& templates)
     const QByteArray lines = Template_Format::Lines(templates);
     return m_file.Rewrite(lines) || (!templates.isEmpty() && m_file.Put_Aside() && m_file.Rewrite(lines));
 }
-
-bool Template_Store::Clear()
-{
-    return m_file.Clear();
-}
-
-void Template_Store::Forget()
-{
-    m_file.Forget();
-}

@@ -36,8 +36,8 @@ public:
     /// Writes the templates back. See Store_File for what is kept. What cannot be read at all is first put aside, if
     /// templates would be lost otherwise.
     bool Rewrite(const QList<Template_Item>& templates);
-    bool Clear();
-    void Forget();
+    bool Clear() { return m_file.Clear(); }
+    void Forget() { m_file.Forget(); }
 
 private:
     Store_File m_file;

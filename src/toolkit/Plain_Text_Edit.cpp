@@ -39,11 +39,6 @@ bool Cut_Text(QPlainTextEdit& edit, int most)
     return true;
 }
 
-QSize Plain_Text_Edit::sizeHint() const
-{
-    return minimumSizeHint();
-}
-
 QSize Plain_Text_Edit::minimumSizeHint() const
 {
     const QFontMetrics letters = fontMetrics();

@@ -26,7 +26,7 @@ public:
     using QPlainTextEdit::QPlainTextEdit;
 
     /// Asks for a few lines of its font, and takes all the room there is.
-    QSize sizeHint() const override;
+    QSize sizeHint() const override { return minimumSizeHint(); }
     QSize minimumSizeHint() const override;
 
 protected:

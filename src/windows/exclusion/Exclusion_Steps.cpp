@@ -15,21 +15,6 @@ void Exclusion_Steps::Begin_New_List()
     add_count = 1;
 }
 
-void Exclusion_Steps::Take_New_Name()
-{
-    add_count = 2;
-}
-
-void Exclusion_Steps::Begin_Editing()
-{
-    update_count = 2;
-}
-
-void Exclusion_Steps::Show_Edited_Numbers()
-{
-    update_count = 3;
-}
-
 Exclusion_Steps::Screen Exclusion_Steps::Go_Back(const std::function<bool()>& may_be_lost)
 {
     Screen screen = Screen::As_It_Is;

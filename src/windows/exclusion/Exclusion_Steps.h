@@ -30,10 +30,10 @@ public:
 
     void Begin_New_List();
     /// From the name of a new list to its numbers.
-    void Take_New_Name();
-    void Begin_Editing();
+    void Take_New_Name() { add_count = 2; }
+    void Begin_Editing() { update_count = 2; }
     /// The numbers of the edited list are in.
-    void Show_Edited_Numbers();
+    void Show_Edited_Numbers() { update_count = 3; }
 
     bool Is_Naming_New_List() const { return add_count == 1; }
     bool Has_Numbers_Of_New_List() const { return add_count == 2; }

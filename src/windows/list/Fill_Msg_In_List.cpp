@@ -73,11 +73,6 @@ void Fill_Msg_In_List::OKPressed()
     End_With(1);
 }
 
-void Fill_Msg_In_List::CancelPressed()
-{
-    End_With(0);
-}
-
 Fill_Rules::Choice Fill_Msg_In_List::Choice() const
 {
     if (m_ui->_fill_msg_selected->isChecked())

@@ -26,7 +26,7 @@ public:
     void Fill_To_Selected_Pressed();
     void Fill_To_Blank_Pressed();
     void OKPressed();
-    void CancelPressed();
+    void CancelPressed() { End_With(0); }
 
 private:
     Fill_Rules::Choice Choice() const;

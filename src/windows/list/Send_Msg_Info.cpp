@@ -57,16 +57,6 @@ void Send_Msg_Info::OKPressed()
     End_With(Filled);
 }
 
-void Send_Msg_Info::ContinuePressed()
-{
-    End_With(Send_As_It_Is);
-}
-
-void Send_Msg_Info::CancelPressed()
-{
-    End_With(Cancelled);
-}
-
 void Send_Msg_Info::End_With(int code)
 {
     Fill_To_ALL_Pressed();

@@ -29,8 +29,8 @@ public:
     void Fill_To_ALL_Pressed();
     void Fill_To_Blank_Pressed();
     void OKPressed();
-    void ContinuePressed();
-    void CancelPressed();
+    void ContinuePressed() { End_With(Send_As_It_Is); }
+    void CancelPressed() { End_With(Cancelled); }
 
 private:
     void End_With(int code);

@@ -69,19 +69,9 @@ void Update_Num_SMS::OKPressed()
     End_With(1);
 }
 
-void Update_Num_SMS::CancelPressed()
-{
-    End_With(0);
-}
-
 void Update_Num_SMS::controlTextDidChange()
 {
     Cut_Line(*m_ui->m_num_str, Number_Rules::Longest_Number);
-}
-
-void Update_Num_SMS::textDidChange()
-{
-    m_message->textDidChange(*m_window);
 }
 
 void Update_Num_SMS::End_With(int code)

@@ -29,9 +29,9 @@ public:
 
     void Exclusion_Chk();
     void OKPressed();
-    void CancelPressed();
+    void CancelPressed() { End_With(0); }
     void controlTextDidChange();
-    void textDidChange();
+    void textDidChange() { m_message->textDidChange(*m_window); }
 
 private:
     void End_With(int code);

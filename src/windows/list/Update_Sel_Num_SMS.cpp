@@ -138,11 +138,6 @@ void Update_Sel_Num_SMS::End_Load()
         CancelPressed();
 }
 
-int Update_Sel_Num_SMS::numberOfRowsInTableView() const
-{
-    return static_cast<int>(List_data_Object.size());
-}
-
 QString Update_Sel_Num_SMS::tableView(const QString& objectValueForTableColumn, int row) const
 {
     const bool has_value = objectValueForTableColumn == u"Number" && row >= 0 && row < numberOfRowsInTableView();
@@ -171,22 +166,12 @@ void Update_Sel_Num_SMS::OKPressed()
     End_With(1);
 }
 
-void Update_Sel_Num_SMS::CancelPressed()
-{
-    End_With(0);
-}
-
 void Update_Sel_Num_SMS::reject()
 {
     if (m_is_loading)
         m_is_left = true;
     else
         CancelPressed();
-}
-
-void Update_Sel_Num_SMS::textDidChange()
-{
-    m_message->textDidChange(*m_window);
 }
 
 void Update_Sel_Num_SMS::End_With(int code)

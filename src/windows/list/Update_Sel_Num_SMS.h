@@ -33,11 +33,11 @@ public:
     int Open_Dialog(Main_Window& window);
 
     void OKPressed();
-    void CancelPressed();
-    void textDidChange();
+    void CancelPressed() { End_With(0); }
+    void textDidChange() { m_message->textDidChange(*m_window); }
     void Update_num_Count();
 
-    int numberOfRowsInTableView() const;
+    int numberOfRowsInTableView() const { return static_cast<int>(List_data_Object.size()); }
     /// The value of a row for a column's identifier; an empty text if there is none.
     QString tableView(const QString& objectValueForTableColumn, int row) const;
 

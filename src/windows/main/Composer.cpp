@@ -68,11 +68,6 @@ void Composer::textDidChange()
     Refresh_Counter(true);
 }
 
-void Composer::Unicode_Chk()
-{
-    Refresh_Counter(true);
-}
-
 void Composer::Refresh_Counter(bool open_dlg)
 {
     const QString counter_until_now = _Msg_char_count->text();

@@ -43,7 +43,7 @@ public:
     /// The text changed. What Set_Text does is not such a change.
     void textDidChange();
     /// The user switched Unicode on or off.
-    void Unicode_Chk();
+    void Unicode_Chk() { Refresh_Counter(true); }
 
 private:
     void Cut_To_Limit();

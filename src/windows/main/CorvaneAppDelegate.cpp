@@ -156,16 +156,6 @@ void CorvaneAppDelegate::Give_Tables_Their_Models()
     Prepare_List_Table(*m_ui->idExclusionTableView, *m_exclusion_rows);
 }
 
-void CorvaneAppDelegate::windowWillClose()
-{
-    Exit_App();
-}
-
-void CorvaneAppDelegate::Exit_Btn()
-{
-    Exit_App();
-}
-
 void CorvaneAppDelegate::Exit_App()
 {
     if (Show_YES_NO_MessageBox(Texts::Main::Exit))

@@ -39,7 +39,7 @@ public:
     /// Builds the start state. Returns false, after telling the user, when the resource folder is not available.
     bool awakeFromNib();
     void applicationDidFinishLaunching();
-    void windowWillClose();
+    void windowWillClose() { Exit_App(); }
     void Exit_App();
     void Check_Path_And_Create_Files();
 
@@ -121,7 +121,7 @@ public Q_SLOTS:
     void View_Templates_Btn();
     void View_ExclusionWizrd_Btn();
     void Help_Btn();
-    void Exit_Btn();
+    void Exit_Btn() { Exit_App(); }
 
 Q_SIGNALS:
     /// The user wants to leave, and has confirmed it.

@@ -10,18 +10,3 @@ Load_Num_Info::Load_Num_Info(QWidget* parent) : Form_Dialog(parent, Letters{.col
 }
 
 Load_Num_Info::~Load_Num_Info() = default;
-
-void Load_Num_Info::YESPressed()
-{
-    done(Remove_Numbers);
-}
-
-void Load_Num_Info::NOPressed()
-{
-    done(Keep_Numbers);
-}
-
-void Load_Num_Info::CancelPressed()
-{
-    done(Import_Nothing);
-}

@@ -23,9 +23,9 @@ public:
     explicit Load_Num_Info(QWidget* parent);
     ~Load_Num_Info() override;
 
-    void YESPressed();
-    void NOPressed();
-    void CancelPressed();
+    void YESPressed() { done(Remove_Numbers); }
+    void NOPressed() { done(Keep_Numbers); }
+    void CancelPressed() { done(Import_Nothing); }
 
 private:
 };

@@ -126,13 +126,3 @@ bool Long_SMS_Dlg::event(QEvent* event)
         m_first_moment.start();
     return QDialog::event(event);
 }
-
-void Long_SMS_Dlg::OKPressed()
-{
-    done(1);
-}
-
-void Long_SMS_Dlg::reject()
-{
-    OKPressed();
-}

@@ -24,9 +24,9 @@ public:
     /// window until it is closed. A call during that time, or while the program exits, does nothing; the dialog does
     /// not open either if the window was closed during the wait. The text may have changed afterwards.
     void Open_Dialog(QWidget* over, bool unicode);
-    void OKPressed();
+    void OKPressed() { done(1); }
 
-    void reject() override; ///< Escape and the close button: as OK
+    void reject() override { OKPressed(); } ///< Escape and the close button: as OK
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -40,11 +40,6 @@ void Connection_Info::Continue_Btn()
     done(Done);
 }
 
-void Connection_Info::reject()
-{
-    Continue_Btn();
-}
-
 void Connection_Info::Show_Advice(const QList<Advice>& advice)
 {
     const auto old_rows =

@@ -32,7 +32,7 @@ public:
     void Continue_Btn();
 
     /// Escape and the close button: as Continue.
-    void reject() override;
+    void reject() override { Continue_Btn(); }
 
 private:
     QWidget* Made_Advice_Row(const Advice& advice);
