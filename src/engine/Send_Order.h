@@ -13,7 +13,7 @@ struct Send_Order
     QString service_centre; ///< empty for the device's own
     Send_Choices choices;
     Recipient_List recipients;
-    Number_List exclusions; ///< as last read; the job reads them afresh when they are to be heeded
+    Number_List exclusions; ///< empty at first; the job reads them when they are to be heeded
 };
 
 enum class Skip_Reason

@@ -91,5 +91,5 @@ std::optional<Send_Order> Take_Send_Order(Main_Window& window)
     if (!Delayed_Delivery_Is_Complete(window, choices) || !Blank_Messages_Are_Meant(window) ||
         !Composer_Text_Is_Settled(window))
         return std::nullopt;
-    return Send_Order{sel_port_bsd_str, Cus_SMS_Num_STR, std::move(choices), window.Recipients(), window.Exclusions()};
+    return Send_Order{sel_port_bsd_str, Cus_SMS_Num_STR, std::move(choices), window.Recipients(), {}};
 }
