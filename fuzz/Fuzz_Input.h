@@ -23,7 +23,7 @@ public:
 
     /// The rest. Where it begins with "\x1F" "LONG", two pieces follow, and the second is repeated after the first up
     /// to so many bytes: what takes more than linear time with it runs into the fuzzer's time limit.
-    QByteArray Document(qsizetype long_size = 1024 * 1024);
+    QByteArray Document(qsizetype long_size = 256 * 1024);
 
     bool Is_At_End() const { return m_at == m_bytes.size(); }
 

@@ -27,6 +27,7 @@ Descriptor Opened_Other_End(const std::string& path)
 
 void Pty_Line::Open()
 {
+    m_kept_number.Close();
     Descriptor master(::posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC));
     if (!master.Is_Open())
         Throw_Error("no pseudo-terminal");
@@ -45,6 +46,8 @@ void Pty_Line::Open()
 
 void Pty_Line::Close()
 {
+    if (Is_Open())
+        m_kept_number = Opened_Other_End(m_path);
     m_master.Close();
     m_path.clear();
 }
