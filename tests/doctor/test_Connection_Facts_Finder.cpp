@@ -1,9 +1,8 @@
 #include "doctor/Connection_Facts_Finder.h"
 
 #include "device/Device_Paths.h"
+#include "support/Files.h"
 
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 #include <fcntl.h>
 #include <functional>
@@ -15,7 +14,6 @@
 
 namespace {
 
-using Connection_Facts_Finder::Barred_Port_At;
 using Connection_Facts_Finder::Process_Runs;
 
 constexpr uid_t Nobody = 65534;
@@ -42,8 +40,7 @@ protected:
     A_Port()
     {
         EXPECT_EQ(chmod(qPrintable(m_folder.path()), 0755), 0);
-        QFile file(m_path);
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        Write_Bytes(m_path, {});
     }
 
     void Belongs_To(gid_t group, mode_t mode)
@@ -52,12 +49,6 @@ protected:
             ASSERT_EQ(chown(qPrintable(m_path), 0, group), 0);
         }
         ASSERT_EQ(chmod(qPrintable(m_path), mode), 0);
-    }
-
-    // "-" when the port is not barred, else "group:" and the group.
-    std::string As_An_Ordinary_Account_Sees_It() const
-    {
-        return To_An_Ordinary_Account([this] { return Seen(); });
     }
 
     // What a function answers to an account that is not root.
@@ -95,22 +86,8 @@ protected:
         });
     }
 
-    void Is_Named(const char* name)
-    {
-        const QString path = m_folder.filePath(name);
-        ASSERT_TRUE(path == m_path || QFile::rename(m_path, path));
-        m_path = path;
-    }
-
     QTemporaryDir m_folder;
     QString m_path = m_folder.filePath("ttyUSB0");
-
-private:
-    std::string Seen() const
-    {
-        const auto barred = Barred_Port_At(m_path);
-        return barred ? "group:" + barred->group.toStdString() : "-";
-    }
 };
 
 gid_t A_Group()
@@ -124,47 +101,18 @@ std::string Its_Name()
     return entry ? entry->gr_name : std::to_string(A_Group());
 }
 
-TEST_F(A_Port, That_Its_Group_May_Open_Is_Barred_With_The_Groups_Name)
+TEST_F(A_Port, Is_Counted_When_It_Is_There_And_Otherwise_Neither_Found_Nor_Barred)
 {
-    Belongs_To(A_Group(), 0060);
-    EXPECT_EQ(As_An_Ordinary_Account_Sees_It(), "group:" + Its_Name());
-}
-
-TEST_F(A_Port, That_Nobody_May_Open_Is_Barred_Without_A_Group)
-{
-    Belongs_To(A_Group(), 0000);
-    EXPECT_EQ(As_An_Ordinary_Account_Sees_It(), "group:");
-}
-
-TEST_F(A_Port, That_May_Be_Read_But_Not_Written_Is_Barred)
-{
-    Belongs_To(A_Group(), 0464);
-    EXPECT_EQ(As_An_Ordinary_Account_Sees_It(), "group:" + Its_Name());
-}
-
-TEST_F(A_Port, That_May_Be_Opened_Is_Not_Barred)
-{
-    Belongs_To(A_Group(), 0666);
-    EXPECT_EQ(As_An_Ordinary_Account_Sees_It(), "-");
-}
-
-TEST_F(A_Port, That_Is_Not_There_Is_Neither_Found_Nor_Barred)
-{
-    EXPECT_FALSE(Barred_Port_At(m_folder.filePath("missing")));
-    const A_Finder_That_Finds finder({{QFile::encodeName(m_folder.filePath("missing"))}, {std::nullopt}});
-    const auto facts = Connection_Facts_Finder::Find(finder);
-    EXPECT_EQ(facts.ports_found, 0);
+    const QString missing = m_folder.filePath("missing");
+    EXPECT_FALSE(Connection_Facts_Finder::Barred_Port_At(missing));
+    const auto facts = Connection_Facts_Finder::Find(A_Finder_That_Finds(
+        {{QFile::encodeName(missing)}, {std::nullopt}, {QFile::encodeName(m_path)}, {QByteArray("/dev/null")}}));
+    EXPECT_EQ(facts.ports_found, 2);
     EXPECT_TRUE(facts.barred_ports.isEmpty());
 }
 
-TEST_F(A_Port, That_Is_There_Is_Counted)
-{
-    const A_Finder_That_Finds finder({{QFile::encodeName(m_path)}, {QByteArray("/dev/null")}});
-    EXPECT_EQ(Connection_Facts_Finder::Find(finder).ports_found, 2);
-}
-
 // A socket of the mainboard stands there whether a modem is in it or not: the advice must not begin with it.
-TEST_F(A_Port, Of_The_Mainboard_Is_No_Port_Found_And_For_Root_Alone_No_News)
+TEST_F(A_Port, Is_Barred_Unless_It_May_Be_Opened_And_Of_The_Mainboard_No_Port_Found_And_For_Root_Alone_No_News)
 {
     const std::string with_group = " group:" + Its_Name();
     const struct
@@ -174,13 +122,21 @@ TEST_F(A_Port, Of_The_Mainboard_Is_No_Port_Found_And_For_Root_Alone_No_News)
         bool is_given_as_device;
         std::string counted;
     } cases[] = {
-        {"ttyS0", 0000, false, "0"},          {"ttyS0", 0060, false, "0" + with_group},
-        {"ttyS0", 0666, false, "0"},          {"ttyS0", 0000, true, "1 group:"},
-        {"ttyUSB0", 0000, false, "1 group:"}, {"ttyACM0", 0060, false, "1" + with_group},
-        {"rfcomm0", 0000, false, "1 group:"}, {"ttyUSB0", 0666, false, "1"},
+        {"ttyUSB0", 0060, false, "1" + with_group},
+        {"ttyUSB0", 0464, false, "1" + with_group}, // no writing
+        {"ttyUSB0", 0000, false, "1 group:"},
+        {"ttyUSB0", 0666, false, "1"},
+        {"ttyACM0", 0060, false, "1" + with_group},
+        {"rfcomm0", 0000, false, "1 group:"},
+        {"ttyS0", 0000, false, "0"},
+        {"ttyS0", 0060, false, "0" + with_group},
+        {"ttyS0", 0666, false, "0"},
+        {"ttyS0", 0000, true, "1 group:"},
     };
     for (const auto& one : cases) {
-        Is_Named(one.name);
+        const QString path = m_folder.filePath(one.name);
+        ASSERT_TRUE(path == m_path || QFile::rename(m_path, path));
+        m_path = path;
         Belongs_To(A_Group(), one.mode);
         Set_Extra_Device_Paths(one.is_given_as_device ? QStringList(m_path) : QStringList());
         EXPECT_EQ(As_A_Search_Counts_It(), one.counted) << one.name << ' ' << one.mode << one.is_given_as_device;
@@ -191,16 +147,10 @@ TEST_F(A_Port, Of_The_Mainboard_Is_No_Port_Found_And_For_Root_Alone_No_News)
 TEST(Connection_Facts_Finder, A_Process_Is_Known_By_Its_Whole_Name)
 {
     const QTemporaryDir processes;
-    const struct
-    {
-        const char* folder;
-        const char* name;
-    } entries[] = {{"1", "init\n"}, {"77", "ModemManager\n"}, {"78", "Abcdefghijklmno\n"}, {"sys", "Not a process\n"}};
-    for (const auto& entry : entries) {
-        ASSERT_TRUE(QDir(processes.path()).mkdir(entry.folder));
-        QFile file(processes.filePath(entry.folder) + "/comm");
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(entry.name);
+    for (const auto& [folder, name] : {std::pair("1", "init\n"), std::pair("77", "ModemManager\n"),
+                                       std::pair("78", "Abcdefghijklmno\n"), std::pair("sys", "Not a process\n")}) {
+        ASSERT_TRUE(QDir(processes.path()).mkdir(folder));
+        Write_Bytes(processes.filePath(folder) + "/comm", name);
     }
     ASSERT_TRUE(QDir(processes.path()).mkdir("79")); // ended meanwhile: its file cannot be read
     EXPECT_TRUE(Process_Runs("ModemManager", processes.path()));
@@ -209,13 +159,7 @@ TEST(Connection_Facts_Finder, A_Process_Is_Known_By_Its_Whole_Name)
     for (const char* name : {"ModemManage", "Modem", "ModemManager2", "Not a process", ""})
         EXPECT_FALSE(Process_Runs(name, processes.path())) << name;
     EXPECT_FALSE(Process_Runs("ModemManager", processes.filePath("missing")));
-}
-
-TEST(Connection_Facts_Finder, This_Very_Process_Runs)
-{
-    QFile file("/proc/self/comm");
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_TRUE(Process_Runs(QString::fromUtf8(file.readAll().trimmed())));
+    EXPECT_TRUE(Process_Runs(QString::fromUtf8(Bytes_Of("/proc/self/comm").trimmed()))) << "in /proc";
 }
 
 } // namespace

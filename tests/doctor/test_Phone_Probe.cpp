@@ -1,13 +1,14 @@
 #include "doctor/Phone_Probe.h"
 
 #include "device/MFCSMS.h"
+#include "device/Moods.h"
 #include "phone/Virtual_Phone.h"
 #include "platform/Interface_Thread.h"
 #include "platform/Pace.h"
 #include "platform/Waiting.h"
+#include "support/Files.h"
 #include "support/Own_Seconds.h"
 
-#include <QDir>
 #include <QTemporaryDir>
 #include <functional>
 #include <gmock/gmock.h>
@@ -51,22 +52,29 @@ protected:
         Set_Pace(1);
     }
 
-    void Read_Details(const std::string& path)
+    // What the display was told, the fault included.
+    QStringList Read_Details(const QString& path)
     {
+        m_display.m_events.clear();
         Run_On_Worker([&] {
-            const QString fault = Phone_Probe(m_session, m_display).Read_Details(QString::fromStdString(path));
+            const QString fault = Phone_Probe(m_session, m_display).Read_Details(path);
             if (!fault.isEmpty())
                 m_display.m_events.append(fault);
         });
+        return m_display.m_events;
     }
+    QStringList Read_Details(const Virtual_Phone& phone) { return Read_Details(QString::fromStdString(phone.Path())); }
 
-    bool Check(const std::string& path, const Chosen_Centre& centre)
+    bool Check(const QString& path, const Chosen_Centre& centre)
     {
         bool is_fit = false;
-        Run_On_Worker([&] {
-            is_fit = Phone_Probe(m_session, m_display).Check_For_Sending(QString::fromStdString(path), centre);
-        });
+        m_display.m_events.clear();
+        Run_On_Worker([&] { is_fit = Phone_Probe(m_session, m_display).Check_For_Sending(path, centre); });
         return is_fit;
+    }
+    bool Check(const Virtual_Phone& phone, const Chosen_Centre& centre)
+    {
+        return Check(QString::fromStdString(phone.Path()), centre);
     }
 
     bool Port_Is_Open() const { return m_session.port() && m_session.port()->isOpen(); }
@@ -79,144 +87,103 @@ protected:
 TEST_F(Phone_Probe_Test, Reading_The_Details_Is_One_Connection_Check_And_Ten_Queries)
 {
     Virtual_Phone phone;
-    Read_Details(phone.Path());
+    m_display.m_on_value = [this](Phone_Value) { EXPECT_EQ(m_session.port()->readTimeout(), 1.0); };
+    EXPECT_EQ(Read_Details(phone), QStringList());
     EXPECT_EQ(phone.Heard(), Lines("AT", "AT", "AT+GMI", "AT+GMM", "AT+CGSN", "AT+CIMI", "AT+CBC", "AT+CSQ", "AT+COPS?",
                                    "AT+GMR", "AT+CSCA?"));
-    EXPECT_EQ(m_display.m_events, QStringList());
     EXPECT_EQ(m_display.m_values.Text(Phone_Value::Manufacturer), "Corvane");
     EXPECT_EQ(m_display.m_values.Text(Phone_Value::Default_Smsc), "+15550009999");
+    EXPECT_EQ(m_display.m_last, static_cast<int>(Phone_Value::Default_Smsc));
     EXPECT_FALSE(m_session.port());
 }
 
 TEST_F(Phone_Probe_Test, A_Selection_Asks_For_Support_And_Keeps_The_Link_Open_Between_Messages)
 {
     Virtual_Phone phone;
-    EXPECT_TRUE(Check(phone.Path(), m_default_centre));
+    EXPECT_TRUE(Check(phone, m_default_centre));
     EXPECT_EQ(phone.Heard(), Lines("AT", "AT", "AT+CSMS=?", "AT+CMGS=?", "AT", "AT+CMMS=2"));
     EXPECT_EQ(m_display.m_events, QStringList({"sheet up", "sheet down"}));
     EXPECT_FALSE(m_session.port());
 }
 
-TEST_F(Phone_Probe_Test, The_Read_Timeout_Is_One_Second)
-{
-    Virtual_Phone phone;
-    m_display.m_on_value = [this](Phone_Value) { EXPECT_EQ(m_session.port()->readTimeout(), 1.0); };
-    Read_Details(phone.Path());
-    EXPECT_EQ(m_display.m_last, static_cast<int>(Phone_Value::Default_Smsc));
-}
-
 TEST_F(Phone_Probe_Test, What_Cannot_Be_Opened_As_A_Device_Is_Told_So)
 {
+    Virtual_Phone phone;
+    const QString held = QString::fromStdString(phone.Path());
+    KVSerialPort other(held, "other", "other");
+    ASSERT_TRUE(other.openExclusively());
     const QTemporaryDir folder;
-    const QString file_path = folder.filePath("file");
-    QFile file(file_path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    Write_Bytes(folder.filePath("file"), {});
     for (const QString& path :
-         {folder.filePath("missing"), file_path, folder.path(), QString("/dev/null"), QString()}) {
-        m_display.m_events.clear();
-        Read_Details(path.toStdString());
-        EXPECT_EQ(m_display.m_events, QStringList(Could_Not_Open)) << path.toStdString();
-        m_display.m_events.clear();
-        EXPECT_FALSE(Check(path.toStdString(), m_default_centre));
+         {held, folder.filePath("missing"), folder.filePath("file"), folder.path(), QString("/dev/null"), QString()}) {
+        EXPECT_EQ(Read_Details(path), QStringList(Could_Not_Open)) << path.toStdString();
+        EXPECT_FALSE(Check(path, m_default_centre));
         EXPECT_EQ(m_display.m_events, QStringList(Could_Not_Open)) << path.toStdString();
     }
-}
-
-TEST_F(Phone_Probe_Test, A_Port_Held_By_Another_Program_Cannot_Be_Opened)
-{
-    Virtual_Phone phone;
-    KVSerialPort other(QString::fromStdString(phone.Path()), "other", "other");
-    ASSERT_TRUE(other.openExclusively());
-    Read_Details(phone.Path());
-    EXPECT_EQ(m_display.m_events, QStringList(Could_Not_Open));
     other.close();
 }
 
-TEST_F(Phone_Probe_Test, A_Silent_Device_Is_Not_Working_And_Its_Port_Is_Closed)
+TEST_F(Phone_Probe_Test, A_Device_That_Is_Silent_Or_Noisy_Is_Not_Working_And_Its_Port_Is_Closed)
 {
-    Phone_Moods moods;
-    moods.m_silent = true;
-    Virtual_Phone phone(moods);
-    Read_Details(phone.Path());
-    EXPECT_EQ(m_display.m_events, QStringList(Not_Working));
-    EXPECT_FALSE(m_session.port());
+    Phone_Moods noisy = Mood(&Phone_Moods::m_garbage);
+    noisy.m_no_echo = true;
+    for (const Phone_Moods& moods : {Mood(&Phone_Moods::m_silent), noisy}) {
+        Virtual_Phone phone(moods);
+        EXPECT_EQ(Read_Details(phone), QStringList(Not_Working));
+        EXPECT_FALSE(m_session.port());
 
-    m_display.m_events.clear();
-    EXPECT_FALSE(Check(phone.Path(), m_default_centre));
-    EXPECT_EQ(m_display.m_events, QStringList({"sheet up", "sheet down", Not_Working}));
-    EXPECT_FALSE(m_session.port());
-}
-
-TEST_F(Phone_Probe_Test, Noise_Is_No_Answer)
-{
-    Phone_Moods moods;
-    moods.m_garbage = true;
-    moods.m_no_echo = true;
-    Virtual_Phone phone(moods);
-    Read_Details(phone.Path());
-    EXPECT_EQ(m_display.m_events, QStringList(Not_Working));
+        EXPECT_FALSE(Check(phone, m_default_centre));
+        EXPECT_EQ(m_display.m_events, QStringList({"sheet up", "sheet down", Not_Working}));
+        EXPECT_FALSE(m_session.port());
+    }
 }
 
 TEST_F(Phone_Probe_Test, A_Device_That_Only_Echoes_Is_Connected_And_Tells_Nothing)
 {
-    Phone_Moods moods;
-    moods.m_echo_only = true;
-    Virtual_Phone phone(moods);
-    Read_Details(phone.Path());
-    EXPECT_EQ(m_display.m_events, QStringList());
+    Virtual_Phone phone(Mood(&Phone_Moods::m_echo_only));
+    EXPECT_EQ(Read_Details(phone), QStringList());
     EXPECT_EQ(m_display.m_values.Text(Phone_Value::Battery), "Device does not have a battery connected.");
     for (const auto value :
          {Phone_Value::Manufacturer, Phone_Value::Imei, Phone_Value::Signal, Phone_Value::Default_Smsc})
         EXPECT_EQ(m_display.m_values.Text(value), "");
 }
 
-TEST_F(Phone_Probe_Test, Without_A_Centre_The_Check_Ends_Before_The_Support_Is_Asked_For)
+TEST_F(Phone_Probe_Test, Without_A_Centre_Or_The_Support_The_Check_Ends_And_Leaves_The_Port_Open)
 {
-    Virtual_Phone phone;
-    EXPECT_FALSE(Check(phone.Path(), {false, "", "+4477"}));
+    Virtual_Phone phone(Mood(&Phone_Moods::m_no_sms_sending));
+    EXPECT_FALSE(Check(phone, {false, "", "+4477"}));
     EXPECT_EQ(m_display.m_events,
               QStringList({"sheet up", "sheet down", "Default SMSC No. details should not be blanked."}));
-    EXPECT_FALSE(Check(phone.Path(), {true, "+15550009999", ""}));
+    EXPECT_FALSE(Check(phone, {true, "+15550009999", ""}));
     EXPECT_EQ(m_display.m_events.last(), "Custom SMSC No. details should not be blanked.");
-    EXPECT_EQ(phone.Heard(), Lines("AT", "AT"));
+    EXPECT_EQ(phone.Heard(), Lines("AT", "AT")); // before the support is asked for
     EXPECT_TRUE(Port_Is_Open());
-}
-
-TEST_F(Phone_Probe_Test, A_Device_That_Does_Not_Send_Is_Refused_And_Its_Port_Left_Open)
-{
-    Phone_Moods moods;
-    moods.m_no_sms_sending = true;
-    Virtual_Phone phone(moods);
-    EXPECT_FALSE(Check(phone.Path(), m_default_centre));
+    phone.Forget();
+    EXPECT_FALSE(Check(phone, m_default_centre));
     EXPECT_EQ(m_display.m_events, QStringList({"sheet up", "sheet down", No_Sending}));
     EXPECT_EQ(phone.Heard(), Lines("AT", "AT", "AT+CSMS=?", "AT+CMGS=?"));
     EXPECT_TRUE(Port_Is_Open());
 }
 
-TEST_F(Phone_Probe_Test, A_Port_Left_Open_Is_Used_Again_For_Its_Own_Device_Only)
+TEST_F(Phone_Probe_Test, A_Port_Left_Open_Is_Used_Again_For_Its_Own_Device_Only_And_Opened_Anew_When_Closed)
 {
     Virtual_Phone one;
     Virtual_Phone other;
-    EXPECT_FALSE(Check(one.Path(), {}));
+    EXPECT_FALSE(Check(one, {}));
     const auto left_open = m_session.port();
     ASSERT_TRUE(left_open);
-
-    EXPECT_FALSE(Check(one.Path(), {}));
+    EXPECT_FALSE(Check(one, {}));
     EXPECT_EQ(m_session.port(), left_open);
 
     one.Forget();
-    EXPECT_TRUE(Check(other.Path(), m_default_centre));
+    EXPECT_TRUE(Check(other, m_default_centre));
     EXPECT_FALSE(left_open->isOpen());
     EXPECT_TRUE(one.Heard().empty());
     EXPECT_EQ(other.Heard().size(), 6U);
-}
 
-TEST_F(Phone_Probe_Test, A_Port_That_Was_Closed_Meanwhile_Is_Opened_Anew)
-{
-    Virtual_Phone phone;
-    EXPECT_FALSE(Check(phone.Path(), {}));
+    EXPECT_FALSE(Check(one, {}));
     m_session.port()->close();
-    EXPECT_TRUE(Check(phone.Path(), m_default_centre));
+    EXPECT_TRUE(Check(one, m_default_centre));
 }
 
 TEST_F(Phone_Probe_Test, A_Device_That_Vanishes_While_It_Is_Asked_Leaves_The_Rest_Untold)
@@ -224,27 +191,23 @@ TEST_F(Phone_Probe_Test, A_Device_That_Vanishes_While_It_Is_Asked_Leaves_The_Res
     for (const auto last :
          {Phone_Value::Manufacturer, Phone_Value::Imei, Phone_Value::Battery, Phone_Value::Revision}) {
         Virtual_Phone phone;
-        m_display.m_last = -1;
         m_display.m_on_value = [&](Phone_Value value) {
             if (value == last)
                 phone.Hang_Up();
         };
-        Read_Details(phone.Path());
+        EXPECT_EQ(Read_Details(phone), QStringList());
         EXPECT_EQ(m_display.m_last, static_cast<int>(last));
         EXPECT_FALSE(m_session.port());
     }
-    EXPECT_EQ(m_display.m_events, QStringList());
 }
 
 TEST_F(Phone_Probe_Test, The_Programs_Exit_Ends_A_Probe_At_Once)
 {
     Set_Pace(1);
-    Phone_Moods moods;
-    moods.m_silent = true;
-    Virtual_Phone phone(moods);
+    Virtual_Phone phone(Mood(&Phone_Moods::m_silent));
     Begin_Program_Exit();
     const Stopwatch watch;
-    Read_Details(phone.Path());
+    Read_Details(phone);
     EXPECT_LT(watch.Lasted_For_The_Thread(), 0.9); // a single read would last one second
     Forget_Program_Exit();
 }

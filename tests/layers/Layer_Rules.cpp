@@ -1,17 +1,16 @@
 #include "layers/Layer_Rules.h"
 
 #include <algorithm>
-#include <cctype>
 #include <functional>
+#include <regex>
 #include <set>
-#include <sstream>
 
 namespace {
 
 constexpr std::size_t Most_Lines_Of_A_Source = 400;
 constexpr std::size_t Most_Lines_Of_A_Test = 700;
 
-std::string At(const std::string& path, int line, const std::string& what)
+std::string At(const std::string& path, std::size_t line, const std::string& what)
 {
     return path + ":" + std::to_string(line) + ": " + what;
 }
@@ -30,9 +29,43 @@ const Room* Find_Room(const std::string& folder)
 
 std::string Library_Of(const std::string& folder)
 {
-    std::string name = "corvane_" + folder;
-    std::replace(name.begin(), name.end(), '/', '_');
-    return name;
+    return "corvane_" + std::regex_replace(folder, std::regex("/"), "_");
+}
+
+// Complaints about includes of C++ files, and about lines, of which C++ files show their code only. A rule says what is
+// wrong, or nothing.
+Complaints About_Includes(const Source_Tree& tree,
+                          const std::function<std::string(const std::string& path, const Include& include)>& rule)
+{
+    Complaints complaints;
+    for (const auto& [path, lines] : tree) {
+        for (const Include& include : Is_Cpp(path) ? Includes_Of(lines) : std::vector<Include>()) {
+            if (const std::string what = rule(path, include); !what.empty())
+                complaints.push_back(At(path, include.line, what));
+        }
+    }
+    return complaints;
+}
+
+Complaints About_Lines(const Source_Tree& tree,
+                       const std::function<std::string(const std::string& path, const std::string& line)>& rule)
+{
+    Complaints complaints;
+    for (const auto& [path, lines] : tree) {
+        std::size_t number = 0;
+        for (const std::string& line : Is_Cpp(path) ? Code_Of(lines) : lines) {
+            ++number;
+            if (const std::string what = rule(path, line); !what.empty())
+                complaints.push_back(At(path, number, what));
+        }
+    }
+    return complaints;
+}
+
+Complaints Both(Complaints some, const Complaints& others)
+{
+    some.insert(some.end(), others.begin(), others.end());
+    return some;
 }
 
 // What a build makes of a file beside the one that includes it: ui_Name.h of Name.ui, Name.moc of Name.cpp.
@@ -44,38 +77,19 @@ bool Is_Made_From_A_Neighbour(const Source_Tree& tree, const std::string& path, 
     return include.ends_with(".moc") && path == folder + include.substr(0, include.size() - 4) + ".cpp";
 }
 
-std::string Complaint_About(const Source_Tree& tree, const std::string& path, const Include& include)
-{
-    const std::string target = "src/" + include.path;
-    if (!tree.contains(target)) {
-        if (!include.is_quoted || Is_Made_From_A_Neighbour(tree, path, include.path))
-            return {};
-        return "\"" + include.path + "\" is no file of src/";
-    }
-    const Room* room = Find_Room(Room_Of(path));
-    const std::string other = Room_Of(target);
-    if (!room || other == room->folder || Holds(room->may_include, other))
-        return {};
-    return room->folder + " must not include " + include.path;
-}
-
 // Every word of a room's call of corvane_room that begins like one of our libraries.
 std::vector<std::string> Linked_Libraries(const std::vector<std::string>& build_file)
 {
+    static const std::regex call(R"(corvane_room\(([^)]*)\))");
+    static const std::regex library(R"(\bcorvane_\w+)");
     std::string text;
     for (const auto& line : build_file)
-        text.append(line.substr(0, line.find('#'))).append(" ");
-    std::vector<std::string> libraries;
-    const auto open = text.find("corvane_room(");
-    if (open == std::string::npos)
-        return libraries;
-    std::istringstream arguments(
-        text.substr(text.find('(', open) + 1, text.find(')', open) - text.find('(', open) - 1));
-    for (std::string word; arguments >> word;) {
-        if (word.starts_with("corvane_"))
-            libraries.push_back(word);
-    }
-    return libraries;
+        text += line.substr(0, line.find('#')) + " ";
+    std::smatch found;
+    if (!std::regex_search(text, found, call))
+        return {};
+    const std::string arguments = found[1];
+    return std::vector<std::string>(std::sregex_token_iterator(arguments.begin(), arguments.end(), library), {});
 }
 
 // The toolkit's headers: <QString>, <QtCore/qstring.h>, <qstring.h>.
@@ -85,108 +99,39 @@ bool Is_Of_Qt(const std::string& include)
     return include.starts_with("Qt") || name.starts_with("Q") || (name.starts_with("q") && name.ends_with(".h"));
 }
 
-// Finds circles by walking along the includes; a file on the way that is met again closes one.
-class Circle_Finder
-{
-public:
-    explicit Circle_Finder(const Source_Tree& tree) : m_tree(tree) {}
-
-    Complaints Find()
-    {
-        for (const auto& [path, lines] : m_tree)
-            Visit(path);
-        return m_complaints;
-    }
-
-private:
-    void Visit(const std::string& path)
-    {
-        if (!Is_Cpp(path) || m_done.contains(path))
-            return;
-        m_way.push_back(path);
-        for (const Include& include : Includes_Of(m_tree.at(path))) {
-            for (const auto& target : {"src/" + include.path, include.path}) {
-                if (!m_tree.contains(target))
-                    continue;
-                if (Holds(m_way, target))
-                    m_complaints.push_back(At(path, include.line, "closes a circle back to " + target));
-                else
-                    Visit(target);
-            }
-        }
-        m_way.pop_back();
-        m_done.insert(path);
-    }
-
-    const Source_Tree& m_tree;
-    std::vector<std::string> m_way;
-    std::set<std::string> m_done;
-    Complaints m_complaints;
-};
-
-bool Is_Word(char character)
-{
-    return std::isalnum(static_cast<unsigned char>(character)) != 0 || character == '_';
-}
-
-// Where the word stands as a whole from a position on; npos when nowhere.
-std::size_t Find_Word(const std::string& code, const std::string& word, std::size_t from)
-{
-    for (auto at = code.find(word, from); at != std::string::npos; at = code.find(word, at + 1)) {
-        const auto end = at + word.size();
-        if ((at == 0 || !Is_Word(code[at - 1])) && (end == code.size() || !Is_Word(code[end])))
-            return at;
-    }
-    return std::string::npos;
-}
-
-bool Names(const std::string& code, const std::string& word)
-{
-    return Find_Word(code, word, 0) != std::string::npos;
-}
-
-// Whether a function of this name is called that belongs to no object and to no class: sleep(1) and ::sleep(1) are such
-// calls, row.select(1), model->select(1) and Rows::select(1) are not.
-bool Calls_Free_Function(const std::string& code, const std::string& name)
-{
-    for (auto at = Find_Word(code, name, 0); at != std::string::npos; at = Find_Word(code, name, at + 1)) {
-        const auto open = code.find_first_not_of(' ', at + name.size());
-        if (open == std::string::npos || code[open] != '(')
-            continue;
-        const std::string before = code.substr(0, at);
-        const bool is_member = before.ends_with(".") || before.ends_with("->");
-        const bool is_scoped = before.ends_with("::") && before.size() > 2 && Is_Word(before[before.size() - 3]);
-        if (!is_member && !is_scoped)
-            return true;
-    }
-    return false;
-}
-
 struct Door
 {
-    std::function<bool(const std::string& code, const std::string& name)> is_used;
+    std::string before; ///< and after the name, where it is used; regular expressions
+    std::string after;
     std::vector<std::string> names;
     std::string behind; ///< the one place, as the beginning of a path
 };
 
 const std::vector<Door>& Doors()
 {
+    // A function that belongs to no object and to no class is called: sleep(1) and ::sleep(1) are such calls,
+    // row.select(1), model->select(1) and Rows::select(1) are not.
+    static const std::string free = R"((^|[^\w.:>]|[^-]>|(^|\W)::))";
+    static const std::string call = R"( *\()";
+    static const std::string edge = R"(\b)";
     static const std::vector<Door> Table{
-        {Calls_Free_Function,
+        {free,
+         call,
          {"sleep", "usleep", "nanosleep", "clock_nanosleep", "poll", "ppoll", "select", "pselect", "epoll_wait"},
          "src/platform/"},
-        {Names, {"sleep_for", "sleep_until", "msleep", "QTest", "QWaitCondition"}, "src/platform/"},
-        {[](const std::string& code, const std::string& name) { return code.find(name) != std::string::npos; },
-         {"QThread::sleep", "QThread::usleep"},
+        {edge,
+         edge,
+         {"sleep_for", "sleep_until", "msleep", "QTest", "QWaitCondition", "QThread::sleep", "QThread::usleep"},
          "src/platform/"},
-        {Names,
+        {edge,
+         edge,
          {"currentDateTime", "currentDateTimeUtc", "currentDate", "currentTime", "currentMSecsSinceEpoch",
           "currentSecsSinceEpoch", "QElapsedTimer", "system_clock", "steady_clock", "high_resolution_clock",
           "gettimeofday", "clock_gettime"},
          "src/platform/Waiting."},
-        {Calls_Free_Function, {"time"}, "src/platform/Waiting."},
-        {Names, {"QMessageBox"}, "src/toolkit/Message_Boxes.cpp"},
-        {Names, {"QFileDialog"}, "src/toolkit/File_Panels.cpp"},
+        {free, call, {"time"}, "src/platform/Waiting."},
+        {edge, edge, {"QMessageBox"}, "src/toolkit/Message_Boxes.cpp"},
+        {edge, edge, {"QFileDialog"}, "src/toolkit/File_Panels.cpp"},
     };
     return Table;
 }
@@ -230,19 +175,24 @@ std::string Room_Of(const std::string& path)
 
 Complaints Check_Rooms(const Source_Tree& tree)
 {
-    Complaints complaints;
+    Complaints homeless;
     for (const auto& [path, lines] : tree) {
-        if (!path.starts_with("src/") || !Is_Cpp(path))
-            continue;
-        if (Room_Of(path).empty())
-            complaints.push_back(At(path, 1, "stands in no room"));
-        for (const Include& include : Includes_Of(lines)) {
-            const std::string complaint = Complaint_About(tree, path, include);
-            if (!complaint.empty())
-                complaints.push_back(At(path, include.line, complaint));
-        }
+        if (path.starts_with("src/") && Is_Cpp(path) && Room_Of(path).empty())
+            homeless.push_back(At(path, 1, "stands in no room"));
     }
-    return complaints;
+    const auto rule = [&](const std::string& path, const Include& include) -> std::string {
+        const std::string target = "src/" + include.path;
+        const bool is_known =
+            tree.contains(target) || !include.is_quoted || Is_Made_From_A_Neighbour(tree, path, include.path);
+        if (path.starts_with("src/") && !is_known)
+            return "\"" + include.path + "\" is no file of src/";
+        const Room* room = Find_Room(Room_Of(path));
+        const std::string other = Room_Of(target);
+        if (!room || !tree.contains(target) || other == room->folder || Holds(room->may_include, other))
+            return {};
+        return room->folder + " must not include " + include.path;
+    };
+    return Both(homeless, About_Includes(tree, rule));
 }
 
 Complaints Check_Links(const Source_Tree& tree)
@@ -251,80 +201,90 @@ Complaints Check_Links(const Source_Tree& tree)
     std::map<std::string, std::vector<std::string>> links;
     for (const Room& room : Rooms()) {
         const std::string build_file = "src/" + room.folder + "/CMakeLists.txt";
-        if (!tree.contains(build_file))
-            continue;
-        const auto libraries = links[room.folder] = Linked_Libraries(tree.at(build_file));
+        if (tree.contains(build_file))
+            links[room.folder] = Linked_Libraries(tree.at(build_file));
         std::vector<std::string> allowed;
         for (const auto& other : room.may_include)
             allowed.push_back(Library_Of(other));
-        for (const auto& library : libraries) {
+        for (const auto& library : links[room.folder]) {
             if (!Holds(allowed, library))
                 complaints.push_back(At(build_file, 1, room.folder + " must not link " + library));
         }
     }
-    for (const auto& [path, lines] : tree) {
+    const auto rule = [&](const std::string& path, const Include& include) -> std::string {
         const std::string room = Room_Of(path);
-        if (room.empty() || !Is_Cpp(path))
-            continue;
-        for (const Include& include : Includes_Of(lines)) {
-            const std::string target = "src/" + include.path;
-            const std::string other = Room_Of(target);
-            if (tree.contains(target) && other != room && !Holds(links[room], Library_Of(other)))
-                complaints.push_back(At(path, include.line, room + " includes " + other + " but does not link it"));
-        }
-    }
-    return complaints;
+        const std::string other = Room_Of("src/" + include.path);
+        if (room.empty() || !tree.contains("src/" + include.path) || other == room ||
+            Holds(links[room], Library_Of(other)))
+            return {};
+        return room + " includes " + other + " but does not link it";
+    };
+    return Both(complaints, About_Includes(tree, rule));
 }
 
 Complaints Check_Core(const Source_Tree& tree)
 {
-    Complaints complaints;
-    for (const auto& [path, lines] : tree) {
+    const auto is_of_core = [](const std::string& path) {
         const Room* room = Find_Room(Room_Of(path));
-        if (!room || room->floor != Room::Core)
-            continue;
-        for (const Include& include : Is_Cpp(path) ? Includes_Of(lines) : std::vector<Include>()) {
-            if (include.path.starts_with("QtGui") || include.path.starts_with("QtWidgets"))
-                complaints.push_back(At(path, include.line, room->folder + " must not include " + include.path));
-        }
-        for (std::size_t i = 0; path.ends_with("/CMakeLists.txt") && i < lines.size(); ++i) {
-            for (const std::string drawing : {"WIDGETS", "Qt6::Gui", "Qt6::Widgets"}) {
-                if (lines[i].substr(0, lines[i].find('#')).find(drawing) != std::string::npos)
-                    complaints.push_back(At(path, static_cast<int>(i) + 1, room->folder + " must not link " + drawing));
-            }
-        }
-    }
-    return complaints;
+        return room && room->floor == Room::Core;
+    };
+    const auto of_includes = [&](const std::string& path, const Include& include) -> std::string {
+        const bool draws = include.path.starts_with("QtGui") || include.path.starts_with("QtWidgets");
+        return is_of_core(path) && draws ? Room_Of(path) + " must not include " + include.path : "";
+    };
+    const auto of_links = [&](const std::string& path, const std::string& line) -> std::string {
+        static const std::regex drawing("^[^#]*(WIDGETS|Qt6::Gui|Qt6::Widgets)");
+        std::smatch found;
+        if (!path.ends_with("/CMakeLists.txt") || !is_of_core(path) || !std::regex_search(line, found, drawing))
+            return {};
+        return Room_Of(path) + " must not link " + found.str(1);
+    };
+    return Both(About_Includes(tree, of_includes), About_Lines(tree, of_links));
 }
 
+// Walks along the includes; a file on the way that is met again closes a circle.
 Complaints Check_Circles(const Source_Tree& tree)
 {
-    return Circle_Finder(tree).Find();
+    Complaints complaints;
+    std::vector<std::string> way;
+    std::set<std::string> seen;
+    const std::function<void(const std::string&)> visit = [&](const std::string& path) {
+        if (!Is_Cpp(path) || !seen.insert(path).second)
+            return;
+        way.push_back(path);
+        for (const Include& include : Includes_Of(tree.at(path))) {
+            for (const auto& target : {"src/" + include.path, include.path}) {
+                if (Holds(way, target))
+                    complaints.push_back(At(path, include.line, "closes a circle back to " + target));
+                else if (tree.contains(target))
+                    visit(target);
+            }
+        }
+        way.pop_back();
+    };
+    for (const auto& [path, lines] : tree)
+        visit(path);
+    return complaints;
 }
 
 Complaints Check_Phone(const Source_Tree& tree)
 {
-    Complaints complaints;
-    for (const auto& [path, lines] : tree) {
+    return About_Includes(tree, [&](const std::string& path, const Include& include) -> std::string {
         const std::string room = path.starts_with("phone/") ? "phone" : Room_Of(path) == "handset" ? "handset" : "";
-        if (room.empty() || !Is_Cpp(path))
-            continue;
-        for (const Include& include : Includes_Of(lines)) {
-            const bool is_of_handset = include.path.starts_with("handset/");
-            if (!include.is_quoted && Is_Of_Qt(include.path))
-                complaints.push_back(At(path, include.line, room + " must not include Qt's " + include.path));
-            else if (is_of_handset && !tree.contains("src/" + include.path))
-                complaints.push_back(At(path, include.line, "\"" + include.path + "\" is no file"));
-            else if (room == "handset" || is_of_handset)
-                continue; // Check_Rooms has the rest
-            else if (tree.contains("src/" + include.path) || tree.contains("tests/" + include.path) ||
-                     (include.is_quoted && !include.path.starts_with("phone/")))
-                complaints.push_back(At(path, include.line, "phone must not include " + include.path));
-            else if (include.is_quoted && !tree.contains(include.path))
-                complaints.push_back(At(path, include.line, "\"" + include.path + "\" is no file"));
-        }
-    }
-    return complaints;
+        const bool is_of_handset = include.path.starts_with("handset/");
+        if (room.empty())
+            return {};
+        if (!include.is_quoted && Is_Of_Qt(include.path))
+            return room + " must not include Qt's " + include.path;
+        if (is_of_handset && !tree.contains("src/" + include.path))
+            return "\"" + include.path + "\" is no file";
+        if (room == "handset" || is_of_handset)
+            return {}; // Check_Rooms has the rest
+        if (tree.contains("src/" + include.path) || tree.contains("tests/" + include.path) ||
+            (include.is_quoted && !include.path.starts_with("phone/")))
+            return "phone must not include " + include.path;
+        return include.is_quoted && !tree.contains(include.path) ? "\"" + include.path + "\" is no file" : "";
+    });
 }
 
 Complaints Check_Sizes(const Source_Tree& tree)
@@ -333,43 +293,32 @@ Complaints Check_Sizes(const Source_Tree& tree)
     for (const auto& [path, lines] : tree) {
         const auto most = path.starts_with("tests/") ? Most_Lines_Of_A_Test : Most_Lines_Of_A_Source;
         if (Is_Cpp(path) && lines.size() > most)
-            complaints.push_back(
-                At(path, static_cast<int>(most) + 1, "goes on beyond " + std::to_string(most) + " lines"));
+            complaints.push_back(At(path, most + 1, "goes on beyond " + std::to_string(most) + " lines"));
     }
     return complaints;
 }
 
 Complaints Check_Forms(const Source_Tree& tree)
 {
-    Complaints complaints;
-    for (const auto& [path, lines] : tree) {
-        for (std::size_t i = 0; path.ends_with(".ui") && i < lines.size(); ++i) {
-            if (lines[i].find("name=\"geometry\"") != std::string::npos ||
-                lines[i].find("name=\"minimumSize\"") != std::string::npos)
-                complaints.push_back(At(path, static_cast<int>(i) + 1, "gives a size that fits one font"));
-        }
-    }
-    return complaints;
+    return About_Lines(tree, [](const std::string& path, const std::string& line) -> std::string {
+        static const std::regex size("name=\"(geometry|minimumSize)\"");
+        const bool gives_one = path.ends_with(".ui") && std::regex_search(line, size);
+        return gives_one ? "gives a size that fits one font" : "";
+    });
 }
 
 Complaints Check_Doors(const Source_Tree& tree)
 {
-    Complaints complaints;
-    for (const auto& [path, lines] : tree) {
+    return About_Lines(tree, [](const std::string& path, const std::string& code) -> std::string {
         if (!path.starts_with("src/") || !Is_Cpp(path))
-            continue;
-        const auto code = Code_Of(lines);
+            return {};
         for (const Door& door : Doors()) {
-            if (path.starts_with(door.behind))
-                continue;
-            for (std::size_t row = 0; row < code.size(); ++row) {
-                for (const auto& name : door.names) {
-                    if (door.is_used(code[row], name))
-                        complaints.push_back(
-                            At(path, static_cast<int>(row) + 1, name + " belongs into " + door.behind));
-                }
+            for (const auto& name : door.names) {
+                if (!path.starts_with(door.behind) && code.find(name) != std::string::npos &&
+                    std::regex_search(code, std::regex(door.before + name + door.after)))
+                    return name + " belongs into " + door.behind;
             }
         }
-    }
-    return complaints;
+        return {};
+    });
 }

@@ -1,7 +1,10 @@
 #include "layers/Source_Tree.h"
 
+#include <algorithm>
 #include <cctype>
 #include <fstream>
+#include <regex>
+#include <sstream>
 
 namespace {
 
@@ -10,85 +13,38 @@ bool Is_Word(char character)
     return std::isalnum(static_cast<unsigned char>(character)) != 0 || character == '_';
 }
 
-// Walks through the characters of a file and blanks out what is no code.
-class Blanker
+// Where the comment or the literal that begins here ends; here when none does.
+std::size_t End_Of_No_Code(const std::string& text, std::size_t at)
 {
-public:
-    std::string Blank(const std::string& line)
-    {
-        m_line = line;
-        for (m_at = 0; m_at < m_line.size();) {
-            if (m_is_in_comment)
-                Blank_Comment();
-            else if (!m_raw_end.empty())
-                Blank_Raw_Text();
-            else
-                Take_Code();
-        }
-        return m_line;
+    const auto behind = [&](const std::string& end, std::size_t from) {
+        const auto found = text.find(end, from);
+        return found == std::string::npos ? text.size() : found + end.size();
+    };
+    const auto begins = [&](const std::string& with) { return text.compare(at, with.size(), with) == 0; };
+    const char before = at > 0 ? text[at - 1] : ' ';
+    if (begins("//"))
+        return behind("\n", at);
+    if (begins("/*"))
+        return behind("*/", at + 2);
+    if (begins("R\"") && !Is_Word(before)) {
+        const auto open = text.find('(', at);
+        return behind(")" + text.substr(at + 2, open - at - 2) + "\"", open);
     }
+    if (text[at] != '"' && (text[at] != '\'' || std::isxdigit(static_cast<unsigned char>(before)) != 0))
+        return at;
+    auto end = at + 1;
+    while (end < text.size() && text[end] != text[at] && text[end] != '\n')
+        end += text[end] == '\\' ? 2 : 1;
+    return std::min(end + 1, text.size());
+}
 
-private:
-    bool Stands_Here(const std::string& text) const { return m_line.compare(m_at, text.size(), text) == 0; }
-
-    void Blank_Up_To(std::size_t end)
-    {
-        for (; m_at < end && m_at < m_line.size(); ++m_at)
-            m_line[m_at] = ' ';
-    }
-
-    void Blank_Comment()
-    {
-        const auto end = m_line.find("*/", m_at);
-        m_is_in_comment = end == std::string::npos;
-        Blank_Up_To(m_is_in_comment ? m_line.size() : end + 2);
-    }
-
-    void Blank_Raw_Text()
-    {
-        const auto end = m_line.find(m_raw_end, m_at);
-        const bool goes_on = end == std::string::npos;
-        Blank_Up_To(goes_on ? m_line.size() : end + m_raw_end.size());
-        if (!goes_on)
-            m_raw_end.clear();
-    }
-
-    void Take_Code()
-    {
-        const char before = m_at > 0 ? m_line[m_at - 1] : ' ';
-        if (Stands_Here("//")) {
-            Blank_Up_To(m_line.size());
-        } else if (Stands_Here("/*")) {
-            m_is_in_comment = true;
-            Blank_Up_To(m_at + 2);
-        } else if (Stands_Here("R\"") && !Is_Word(before)) {
-            const auto open = m_line.find('(', m_at);
-            m_raw_end = ")" + m_line.substr(m_at + 2, open - m_at - 2) + "\"";
-            Blank_Up_To(open + 1);
-        } else if (m_line[m_at] == '"' ||
-                   (m_line[m_at] == '\'' && !std::isxdigit(static_cast<unsigned char>(before)))) {
-            Blank_Literal(m_line[m_at]);
-        } else {
-            ++m_at;
-        }
-    }
-
-    void Blank_Literal(char quote)
-    {
-        auto end = m_at + 1;
-        while (end < m_line.size() && m_line[end] != quote)
-            end += m_line[end] == '\\' ? 2 : 1;
-        ++m_at; // the quotes themselves stay
-        Blank_Up_To(end);
-        if (m_at < m_line.size())
-            ++m_at;
-    }
-
-    std::string m_line;
-    std::size_t m_at = 0;
-    bool m_is_in_comment = false;
-    std::string m_raw_end;
-};
+std::vector<std::string> Lines_Of(std::istream& text)
+{
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(text, line);)
+        lines.push_back(line);
+    return lines;
+}
 
 } // namespace
 
@@ -101,10 +57,8 @@ Source_Tree Read_Source_Tree(const std::filesystem::path& top, const std::vector
             const bool is_known = extension == ".h" || extension == ".cpp" || extension == ".ui" || extension == ".txt";
             if (!entry.is_regular_file() || !is_known)
                 continue;
-            auto& lines = tree[std::filesystem::relative(entry.path(), top).generic_string()];
             std::ifstream file(entry.path());
-            for (std::string line; std::getline(file, line);)
-                lines.push_back(line);
+            tree[std::filesystem::relative(entry.path(), top).generic_string()] = Lines_Of(file);
         }
     }
     return tree;
@@ -112,32 +66,28 @@ Source_Tree Read_Source_Tree(const std::filesystem::path& top, const std::vector
 
 std::vector<std::string> Code_Of(const std::vector<std::string>& lines)
 {
-    Blanker blanker;
-    std::vector<std::string> code;
-    code.reserve(lines.size());
+    std::string text;
     for (const auto& line : lines)
-        code.push_back(blanker.Blank(line));
-    return code;
+        text += line + '\n';
+    for (std::size_t at = 0; at < text.size();) {
+        const auto end = End_Of_No_Code(text, at);
+        at += end == at ? 1 : 0;
+        for (; at < end; ++at)
+            text[at] = text[at] == '\n' ? '\n' : ' ';
+    }
+    std::istringstream code(text);
+    return Lines_Of(code);
 }
 
 std::vector<Include> Includes_Of(const std::vector<std::string>& lines)
 {
+    static const std::regex include(R"re(^\s*#\s*include\s*(["<])([^">]*)[">])re");
     const auto code = Code_Of(lines);
     std::vector<Include> includes;
     for (std::size_t row = 0; row < lines.size(); ++row) {
-        const auto hash = code[row].find_first_not_of(" \t");
-        if (hash == std::string::npos || code[row][hash] != '#')
-            continue;
-        const auto word = code[row].find_first_not_of(" \t", hash + 1);
-        if (word == std::string::npos || code[row].compare(word, 7, "include") != 0)
-            continue;
-        const auto open = code[row].find_first_of("\"<", word);
-        if (open == std::string::npos)
-            continue;
-        const bool is_quoted = code[row][open] == '"';
-        const auto close = lines[row].find(is_quoted ? '"' : '>', open + 1);
-        if (close != std::string::npos)
-            includes.push_back({static_cast<int>(row) + 1, lines[row].substr(open + 1, close - open - 1), is_quoted});
+        std::smatch found;
+        if (code[row].find("include") != std::string::npos && std::regex_search(lines[row], found, include))
+            includes.push_back({row + 1, found[2], found[1] == "\""});
     }
     return includes;
 }

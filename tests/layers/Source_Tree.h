@@ -10,7 +10,7 @@ using Source_Tree = std::map<std::string, std::vector<std::string>>;
 
 struct Include
 {
-    int line = 0; ///< from 1
+    std::size_t line = 0; ///< from 1
     std::string path;
     bool is_quoted = false;
 };
@@ -18,7 +18,7 @@ struct Include
 /// Reads the folders (src, phone, tests, ...) below the top.
 Source_Tree Read_Source_Tree(const std::filesystem::path& top, const std::vector<std::string>& folders);
 
-/// The same lines with comments and the insides of text and character literals blanked out.
+/// The same lines with comments, texts and character literals blanked out.
 std::vector<std::string> Code_Of(const std::vector<std::string>& lines);
 
 /// What the lines include; an include inside a comment is none.

@@ -13,36 +13,22 @@ Name_Verdict Judged(const QString& typed, const QStringList& existing = {})
     return Judge_List_Name(List_Name(typed), existing);
 }
 
-TEST(Exclusion_Rules, A_Name_Of_Nothing_Or_Blanks_Is_Empty)
+TEST(Exclusion_Rules, A_Name_Is_Judged_After_Trimming_And_In_The_Order_Of_The_Verdicts)
 {
     for (const char* name : {"", " ", "\t \r\n"})
         EXPECT_EQ(Judged(name), Name_Verdict::Empty);
-}
-
-TEST(Exclusion_Rules, Only_The_Nine_Characters_In_One_Piece_Are_Forbidden)
-{
     EXPECT_EQ(Judged(Forbidden), Name_Verdict::Forbidden_Sequence);
     EXPECT_EQ(Judged(QString("a%1b").arg(Forbidden)), Name_Verdict::Forbidden_Sequence);
-    EXPECT_EQ(Judged("|><\"?*:/\\"), Name_Verdict::Accepted);
+    EXPECT_EQ(Judged("|><\"?*:/\\"), Name_Verdict::Accepted) << "only the nine characters in one piece";
     EXPECT_EQ(Judged("\\/:*?\"<>"), Name_Verdict::Accepted);
     for (const QChar character : QString(Forbidden))
         EXPECT_EQ(Judged(QString("a%1b").arg(character)), Name_Verdict::Accepted);
-}
-
-TEST(Exclusion_Rules, The_Name_Of_The_Index_Is_Taken_In_Exactly_That_Spelling)
-{
-    EXPECT_EQ(Judged("ExListIndex"), Name_Verdict::Name_Of_Index);
     EXPECT_EQ(Judged(" ExListIndex "), Name_Verdict::Name_Of_Index);
+    EXPECT_EQ(Judged("ExListIndex", {"ExListIndex"}), Name_Verdict::Name_Of_Index);
     for (const char* name : {"exlistindex", "ExListIndex.ZOVA", "ExListIndex1"})
         EXPECT_EQ(Judged(name), Name_Verdict::Accepted) << name;
-}
-
-TEST(Exclusion_Rules, A_Name_Exists_When_It_Is_Exactly_The_Same_After_Trimming)
-{
     EXPECT_EQ(Judged("Staff", {"staff", "Staf"}), Name_Verdict::Accepted);
-    EXPECT_EQ(Judged("Staff", {"Admin", "Staff"}), Name_Verdict::Exists);
-    EXPECT_EQ(Judged("Staff ", {"Staff"}), Name_Verdict::Exists);
-    EXPECT_EQ(Judged("ExListIndex", {"ExListIndex"}), Name_Verdict::Name_Of_Index) << "judged before";
+    EXPECT_EQ(Judged("Staff ", {"Admin", "Staff"}), Name_Verdict::Exists);
 }
 
 TEST(Exclusion_Rules, Half_Of_A_Character_Is_Named_As_It_Comes_Back_From_Its_File)
@@ -65,25 +51,21 @@ TEST(Exclusion_Rules, A_Mark_At_The_Front_Of_A_Name_Goes_As_It_Does_When_Its_Fil
     EXPECT_EQ(Without_Byte_Order_Mark(mark + " 7 "), u" 7 ") << "and otherwise as it stands";
 }
 
-TEST(Exclusion_Rules, A_Text_Adds_Each_New_Number_Once_And_Skips_The_Rest)
+TEST(Exclusion_Rules, A_Text_Adds_Each_New_Number_Once_Skips_The_Rest_And_Tells_In_Batches)
 {
     Number_List numbers;
     numbers.Append("1");
-    const int added = Add_Numbers_Of_Text("1\n2\r\n\nname\n2\n+3\n003\n4", numbers, [](int) {});
-    EXPECT_EQ(added, 3);
+    EXPECT_EQ(Add_Numbers_Of_Text("1\n2\r\n\nname\n2\n+3\n003\n4", numbers, [](int) {}), 3);
     ASSERT_EQ(numbers.Count(), 4);
     EXPECT_EQ(numbers.At(1), "2");
     EXPECT_EQ(numbers.At(2), "003");
     EXPECT_EQ(numbers.At(3), "4");
     EXPECT_EQ(Add_Numbers_Of_Text("", numbers, [](int) {}), 0);
-}
 
-TEST(Exclusion_Rules, Progress_Is_Told_In_Batches)
-{
+    numbers.Clear();
     QString text;
     for (int number = 0; number < 50000; ++number)
         text += QString::number(number) + "\n";
-    Number_List numbers;
     std::vector<int> told;
     EXPECT_EQ(Add_Numbers_Of_Text(text, numbers, [&](int count) { told.push_back(count); }), 50000);
     EXPECT_EQ(told, (std::vector<int>{20000, 40000}));

@@ -21,60 +21,39 @@ protected:
     QTemporaryDir m_folder;
 };
 
-TEST_F(Number_File_Test, Plain_Text_Is_Taken_As_Strict_Utf_8)
+TEST_F(Number_File_Test, Plain_Text_Is_Taken_As_Strict_Utf_8_Without_A_Mark_At_The_Front)
 {
     EXPECT_EQ(Text_Of("a.txt", "1\r\n2\n"), "1\r\n2\n");
     EXPECT_EQ(Text_Of("a", "\xC3\xA4"), QString::fromUtf8("\xC3\xA4"));
+    EXPECT_EQ(Text_Of("a.txt", "\xEF\xBB\xBF \n1"), " \n1");
     EXPECT_EQ(Text_Of("a.txt", "1\n2\n\xFF\n3\n"), "");
     EXPECT_EQ(Text_Of("a.txt", QByteArray("\xFF\xFE\x31\x00\x0A\x00", 6)), "") << "UTF-16";
-    EXPECT_EQ(Text_Of("a.txt", ""), "");
 }
 
-TEST_F(Number_File_Test, A_Byte_Order_Mark_At_The_Front_Is_Passed_Over)
-{
-    EXPECT_EQ(Text_Of("a.txt", "\xEF\xBB\xBF"
-                               "1\n"),
-              "1\n");
-}
-
-TEST_F(Number_File_Test, Rich_Text_Goes_By_Its_Extension_In_Any_Case)
+TEST_F(Number_File_Test, Rich_Text_Goes_By_Its_Extension)
 {
     const QByteArray rich = "{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}\\f0 +44-7700\\par 1234\\par}";
-    for (const char* name : {"a.rtf", "a.RTF", "a.Rtf"}) {
-        const auto lines = Text_Of(name, rich).split('\n', Qt::SkipEmptyParts);
-        EXPECT_EQ(lines, QStringList({"+44-7700", "1234"})) << name;
-    }
+    for (const char* name : {"a.rtf", "a.RTF"})
+        EXPECT_EQ(Text_Of(name, rich).split('\n', Qt::SkipEmptyParts), QStringList({"+44-7700", "1234"})) << name;
     EXPECT_EQ(Text_Of("a.txt", rich), QString(rich));
 }
 
-TEST_F(Number_File_Test, What_Can_Not_Be_Read_Is_Empty)
-{
-    EXPECT_EQ(Text_Of_Number_File(m_folder.filePath("missing.txt")), "");
-    EXPECT_EQ(Text_Of_Number_File(m_folder.filePath("missing.rtf")), "");
-    ASSERT_TRUE(QDir().mkpath(m_folder.filePath("folder.txt")));
-    EXPECT_EQ(Text_Of_Number_File(m_folder.filePath("folder.txt")), "");
-    ASSERT_EQ(mkfifo(m_folder.filePath("pipe.txt").toLocal8Bit().constData(), 0600), 0);
-    EXPECT_EQ(Text_Of_Number_File(m_folder.filePath("pipe.txt")), "");
-}
-
-TEST_F(Number_File_Test, What_Is_There_And_No_List_Of_Numbers_Has_Not_A_Byte)
+TEST_F(Number_File_Test, What_Is_No_List_Of_Numbers_Or_Too_Large_Is_Empty_And_Not_Read)
 {
     Write_Bytes(m_folder.filePath("a.txt"), "1\n22\n");
     EXPECT_EQ(Bytes_Of_Number_File(m_folder.filePath("a.txt"), 5), "1\n22\n");
-    EXPECT_EQ(Bytes_Of_Number_File(m_folder.filePath("a.txt"), 4), "") << "too large";
+    EXPECT_EQ(Bytes_Of_Number_File(m_folder.filePath("a.txt"), 4), "");
     ASSERT_TRUE(QDir().mkpath(m_folder.filePath("folder.txt")));
-    EXPECT_EQ(Bytes_Of_Number_File(m_folder.filePath("folder.txt")), "");
     ASSERT_EQ(mkfifo(m_folder.filePath("pipe.txt").toLocal8Bit().constData(), 0600), 0);
-    EXPECT_EQ(Bytes_Of_Number_File(m_folder.filePath("pipe.txt")), "");
-    EXPECT_EQ(Bytes_Of_Number_File(m_folder.filePath("missing.txt")), std::nullopt);
-}
-
-TEST_F(Number_File_Test, Of_Gigabytes_Not_One_Is_Read)
-{
     Write_Bytes(m_folder.filePath("huge.txt"), "1\n");
     ASSERT_TRUE(QFile::resize(m_folder.filePath("huge.txt"), Largest_Number_File + 1));
-    EXPECT_EQ(Text_Of_Number_File(m_folder.filePath("huge.txt")), "");
-    EXPECT_EQ(Bytes_Of_Number_File(m_folder.filePath("huge.txt")), "");
+    for (const char* name : {"folder.txt", "pipe.txt", "huge.txt"}) {
+        EXPECT_EQ(Bytes_Of_Number_File(m_folder.filePath(name)), "") << name;
+        EXPECT_EQ(Text_Of_Number_File(m_folder.filePath(name)), "") << name;
+    }
+    EXPECT_EQ(Bytes_Of_Number_File(m_folder.filePath("missing.txt")), std::nullopt);
+    for (const char* name : {"missing.txt", "missing.rtf"})
+        EXPECT_EQ(Text_Of_Number_File(m_folder.filePath(name)), "") << name;
 }
 
 QString Number_On(const QString& line)
@@ -84,30 +63,20 @@ QString Number_On(const QString& line)
 
 TEST(Number_In_Line, A_Line_Of_A_File_Loses_Braces_Backslashes_And_Dashes)
 {
-    const struct
-    {
-        QString line;
-        QString number;
-    } cases[] = {
+    const std::pair<QString, QString> lines_and_numbers[]{
         {"+44-7700-900123", "00447700900123"},
         {"{\\123}\r", "123"},
-        {" { 123 } ", "123"},
-        {"\\{}-", ""},
-        {"12{3", "123"},
         {"-{+}-49-12", "004912"},
-        {"1 2", ""},
         {"1{ }2", ""},
-        {"12345678901234567890", "12345678901234567890"},
-        {"123456789012345678901", ""},
         {"1-2-3-4-5-6-7-8-9-0-1-2-3-4-5-6-7-8-9-0-", "12345678901234567890"},
+        {"123456789012345678901", ""},
         {"name", ""},
-        {"", ""},
         {QString(1000, u' ') + "123" + QString(1000, u'\t') + "}", "123"},
         {"123" + QString(1000, u' ') + "4", ""},
         {QString(100000, u'-') + "5", "5"},
     };
-    for (const auto& each : cases)
-        EXPECT_EQ(Number_On(each.line), each.number) << each.line.left(60).toStdString();
+    for (const auto& [line, number] : lines_and_numbers)
+        EXPECT_EQ(Number_On(line), number) << line.left(60).toStdString();
 }
 
 TEST(Number_In_Line, Every_Short_Line_Gives_What_The_Steps_Done_One_By_One_Give)
@@ -134,7 +103,7 @@ TEST(Number_In_Line, Every_Short_Line_Gives_What_The_Steps_Done_One_By_One_Give)
 
 TEST(Number_In_Line, The_Quick_Look_At_A_Line_Is_Of_One_Mind_With_The_Rules)
 {
-    const QString characters = QStringLiteral("0123456789+-\r \\{},a\t") + QChar(0x0661) + QChar(QChar::Nbsp);
+    const QString characters = QString("0123456789+-\r \\{},a\t") + QChar(0x0661) + QChar(QChar::Nbsp);
     QRandomGenerator random(31);
     int numbers = 0;
     const auto expect_one_mind = [&](const QString& line) {
@@ -152,8 +121,8 @@ TEST(Number_In_Line, The_Quick_Look_At_A_Line_Is_Of_One_Mind_With_The_Rules)
         for (int i = 0; i < length; ++i)
             line.append(characters[random.bounded(4) == 0 ? random.bounded(variety) : random.bounded(10)]);
         expect_one_mind(line);
-        expect_one_mind(QLatin1String("+") + line);
-        expect_one_mind(line + QLatin1String("\r"));
+        expect_one_mind("+" + line);
+        expect_one_mind(line + "\r");
         ASSERT_FALSE(testing::Test::HasFatalFailure());
     }
     EXPECT_GT(numbers, 50'000);

@@ -2,35 +2,19 @@
 
 #include <gtest/gtest.h>
 
-using Verdict = Number_Verdict;
-
 namespace {
+
+using enum Number_Verdict;
 
 class Number_Judge_Test : public testing::Test
 {
 protected:
     Number_Judge_Test()
     {
-        m_present.Append(QStringLiteral("123"));
-        m_present.Append(QStringLiteral("456"));
-        m_excluded.Append(QStringLiteral("456"));
-        m_excluded.Append(QStringLiteral("789"));
-    }
-
-    Number_Terms Terms(bool refuse_repeats = true, bool refuse_excluded = true) const
-    {
-        return {refuse_repeats ? &m_present : nullptr, refuse_excluded ? &m_excluded : nullptr};
-    }
-
-    /// The number edited is 123; typed anew, any other is judged alike.
-    Judged_Number Judged(const QString& typed, bool refuse_repeats = true, bool refuse_excluded = true) const
-    {
-        const auto terms = Terms(refuse_repeats, refuse_excluded);
-        const auto edited = Judge_Edited_Number(typed, QStringLiteral("123"), terms);
-        const auto anew = Judge_Number(typed, terms);
-        EXPECT_TRUE(typed == QStringLiteral("123") || (edited.verdict == anew.verdict && edited.number == anew.number))
-            << typed.toStdString();
-        return edited;
+        for (const char* number : {"123", "456"})
+            m_present.Append(QString(number));
+        for (const char* number : {"456", "789"})
+            m_excluded.Append(QString(number));
     }
 
     Number_List m_present;
@@ -39,50 +23,40 @@ protected:
 
 TEST_F(Number_Judge_Test, A_Number_Unchanged_Is_Kept_Without_Any_Check)
 {
-    m_excluded.Append(QStringLiteral("123"));
-    EXPECT_EQ(Judged(QStringLiteral("123")).verdict, Verdict::Accepted);
-    for (const auto* number : {"12,34", "+44+20", "", "   ", "no number at all, and too long"}) {
-        const auto kept = Judge_Edited_Number(QLatin1String(number), QLatin1String(number), Terms());
-        EXPECT_EQ(kept.verdict, Verdict::Accepted) << number;
-        EXPECT_EQ(kept.number, QLatin1String(number));
+    m_excluded.Append(QString("123"));
+    for (const QString number : {"123", "12,34", "+44+20", "", "   ", "no number at all, and too long"}) {
+        const auto kept = Judge_Edited_Number(number, number, {&m_present, &m_excluded});
+        EXPECT_EQ(kept.verdict, Accepted) << number.toStdString();
+        EXPECT_EQ(kept.number, number);
     }
 }
 
-TEST_F(Number_Judge_Test, A_Number_Typed_Again_Is_A_Repeat)
+TEST_F(Number_Judge_Test, A_Number_Typed_Or_Changed_Is_Normalised_And_Looked_For_Where_It_Matters)
 {
-    EXPECT_EQ(Judge_Number(QStringLiteral("123"), Terms()).verdict, Verdict::Repeated);
-    EXPECT_EQ(Judge_Number(QStringLiteral("123"), {}).verdict, Verdict::Accepted);
-}
-
-TEST_F(Number_Judge_Test, A_Changed_Number_Is_Normalised)
-{
-    EXPECT_EQ(Judged(QStringLiteral("+44-20-7946")).number, QStringLiteral("0044207946"));
-    EXPECT_EQ(Judged(QStringLiteral(" 12-34 ")).number, QStringLiteral("1234"));
-    EXPECT_EQ(Judged(QStringLiteral("+123456789012345678")).number, QStringLiteral("00123456789012345678"));
-    EXPECT_EQ(Judged(QString(20, u'7')).verdict, Verdict::Accepted);
-}
-
-TEST_F(Number_Judge_Test, What_Is_No_Number_Is_Refused)
-{
-    for (const auto* typed :
-         {"", "-", "  ", "+44+20", "+44 20", "++44", "44+1", "12,34", "12a", "+1234567890123456789"})
-        EXPECT_EQ(Judged(QLatin1String(typed)).verdict, Verdict::Not_Valid) << typed;
-    EXPECT_EQ(Judged(QString(21, u'7')).verdict, Verdict::Not_Valid);
-}
-
-TEST_F(Number_Judge_Test, Repeats_Are_Found_Before_Exclusions)
-{
-    EXPECT_EQ(Judged(QStringLiteral("456")).verdict, Verdict::Repeated);
-    EXPECT_EQ(Judged(QStringLiteral("456"), false).verdict, Verdict::Excluded);
-    EXPECT_EQ(Judged(QStringLiteral("456"), false, false).verdict, Verdict::Accepted);
-    EXPECT_EQ(Judged(QStringLiteral("789")).verdict, Verdict::Excluded);
-    EXPECT_EQ(Judged(QStringLiteral("789"), true, false).verdict, Verdict::Accepted);
-}
-
-TEST_F(Number_Judge_Test, The_Same_Number_Written_Otherwise_Counts_As_Existing)
-{
-    EXPECT_EQ(Judged(QStringLiteral("1-23")).verdict, Verdict::Repeated);
-    EXPECT_EQ(Judged(QStringLiteral("1-23"), false).number, QStringLiteral("123"));
+    struct Case
+    {
+        const char* typed;
+        Number_Terms terms;
+        Number_Verdict verdict;
+        const char* number;
+    };
+    const Number_Terms all{&m_present, &m_excluded};
+    for (const Case& each : {Case{" +44-20-7946", all, Accepted, "0044207946"},
+                             {"44+1", all, Not_Valid, ""},
+                             {"123", all, Repeated, "123"},
+                             {"1-23", all, Repeated, "123"},
+                             {"1-23", {nullptr, &m_excluded}, Accepted, "123"},
+                             {"456", all, Repeated, "456"},
+                             {"456", {nullptr, &m_excluded}, Excluded, "456"},
+                             {"456", {}, Accepted, "456"},
+                             {"789", all, Excluded, "789"},
+                             {"789", {&m_present}, Accepted, "789"}}) {
+        for (const auto& judged :
+             {Judge_Number(each.typed, each.terms), Judge_Edited_Number(each.typed, "12 3", each.terms)}) {
+            EXPECT_EQ(judged.verdict, each.verdict) << each.typed;
+            EXPECT_EQ(judged.number, each.number) << each.typed;
+        }
+    }
 }
 
 } // namespace

@@ -1,7 +1,6 @@
 #include "Reference_Codec.h"
 
 #include <algorithm>
-#include <cstdio>
 
 #include "Expected_Alphabet.h"
 
@@ -9,17 +8,7 @@ namespace {
 
 QString Reference_Hex(unsigned value)
 {
-    char digits[16];
-    std::snprintf(digits, sizeof digits, "%02X", value);
-    const QString text = QString::fromLatin1(digits);
-    return text.size() == 2 && text[0] == u'0' ? text.mid(1) : text;
-}
-
-QString Padded(QString text, int length)
-{
-    while (text.size() < length)
-        text = u'0' + text;
-    return text;
+    return QString::number(value, 16).toUpper();
 }
 
 QString Last_Two(unsigned value)
@@ -27,30 +16,10 @@ QString Last_Two(unsigned value)
     return (QStringLiteral("00") + Reference_Hex(value)).right(2);
 }
 
-QString Reversed(const QString& text)
+QString Reversed(QString text)
 {
-    QString reversed;
-    reversed.reserve(text.size());
-    for (qsizetype place = text.size() - 1; place >= 0; --place)
-        reversed += text[place];
-    return reversed;
-}
-
-QString Binary(unsigned value)
-{
-    QString digits;
-    digits.reserve(8);
-    for (unsigned mask = 0x80; mask != 0; mask >>= 1)
-        digits += (value & mask) != 0 ? u'1' : u'0';
-    return digits;
-}
-
-QString Nibble(const QString& digits)
-{
-    unsigned value = 0;
-    for (const QChar digit : digits)
-        value = value * 2 + (digit == u'1' ? 1 : 0);
-    return Reference_Hex(value);
+    std::reverse(text.begin(), text.end());
+    return text;
 }
 
 QString Dcs(bool flash, bool unicode)
@@ -101,15 +70,13 @@ QString Reference_Codec::EncodeUserData(const QString& text)
             value = 0;
         else if (character == u'|')
             value = 64;
-        bits += Reversed(Binary(value).right(7));
+        bits += Reversed(QString::number(value & 0x7F, 2).rightJustified(7, u'0'));
     }
     while (bits.size() % 8 != 0)
         bits += u'0';
     QString hex;
-    for (qsizetype first = 0; first < bits.size(); first += 8) {
-        const QString octet = Reversed(bits.mid(first, 8));
-        hex += Nibble(octet.left(4)) + Nibble(octet.right(4));
-    }
+    for (qsizetype first = 0; first < bits.size(); first += 8)
+        hex += Last_Two(Reversed(bits.mid(first, 8)).toUInt(nullptr, 2));
     return hex;
 }
 
@@ -117,7 +84,7 @@ QString Reference_Codec::EncodeUserData_16_bit(const QString& text)
 {
     QString hex;
     for (const QChar character : text)
-        hex += Padded(Reference_Hex(character.unicode()), 4);
+        hex += Reference_Hex(character.unicode()).rightJustified(4, u'0');
     return hex;
 }
 
@@ -138,7 +105,7 @@ QString Reference_Codec::EncodeAddress(QString address, bool bInCountBytes)
         swapped += Reversed(address.mid(first, 2));
     if (bInCountBytes)
         length = static_cast<unsigned>(swapped.size()) / 2 + 1;
-    return Padded(Reference_Hex(length), 2) + Padded(Reference_Hex(type), 2) + swapped;
+    return Reference_Hex(length).rightJustified(2, u'0') + Reference_Hex(type) + swapped;
 }
 
 QString Reference_Codec::EncodePDU(const QString& message, const QString& destination, const QString& smsc, bool flash,

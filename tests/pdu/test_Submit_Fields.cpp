@@ -1,26 +1,11 @@
 #include <functional>
-#include <vector>
 
-#include <gtest/gtest.h>
-
-#include "Text_Printing.h"
+#include "Pdu_Test.h"
 #include "pdu/Submit_Fields.h"
-
-using namespace Qt::StringLiterals;
-
-namespace {
-
-struct Field
-{
-    QString octets;
-    std::function<void(Hex_Writer&)> put;
-};
-
-} // namespace
 
 TEST(Submit_Fields, Each_Writes_Its_Own_Octets_And_No_More)
 {
-    const std::vector<Field> fields = {
+    const std::vector<std::pair<QString, std::function<void(Hex_Writer&)>>> fields = {
         {u"11"_s, [](Hex_Writer& writer) { Put_First_Octet(writer, false); }},
         {u"51"_s, [](Hex_Writer& writer) { Put_First_Octet(writer, true); }},
         {u"00"_s, Put_Message_Reference},
@@ -48,18 +33,17 @@ TEST(Submit_Fields, Each_Writes_Its_Own_Octets_And_No_More)
              Put_Head(writer, {u"1", u"", true, true, true}, 7);
          }},
     };
-    for (size_t row = 0; row < fields.size(); ++row) {
-        Hex_Writer writer(fields[row].octets.size());
-        fields[row].put(writer);
-        EXPECT_EQ(writer.Take(), fields[row].octets) << "row " << row;
+    for (const auto& [octets, put] : fields) {
+        Hex_Writer writer(octets.size());
+        put(writer);
+        EXPECT_EQ(writer.Take(), octets);
     }
 }
 
 TEST(Submit_Fields, An_Address_And_A_Head_Take_The_Digits_Foretold_For_Any_Addresses)
 {
     for (qsizetype length = 0; length <= 9000; length += length < 1100 ? 1 : 97) {
-        const QString number = QString(length, u'1');
-        for (const QString& address : {number, u'+' + number}) {
+        for (const QString& address : {QString(length, u'1'), u'+' + QString(length, u'1')}) {
             for (const Address_Length counted : {Address_Length::Digits, Address_Length::Octets_And_Type}) {
                 Hex_Writer writer(Address_Digits(address, counted));
                 ASSERT_NO_THROW(Put_Address(writer, address, counted)) << length;

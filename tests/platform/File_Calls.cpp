@@ -89,132 +89,62 @@ bool Lives_Through(const File_Call_Plan& plan, const std::function<void()>& step
 }
 
 // What the linker puts in the place of the calls, and what it calls them itself.
-// NOLINTBEGIN(readability-identifier-naming)
+// NOLINTBEGIN(readability-identifier-naming,cppcoreguidelines-macro-usage)
+#define PASS_ON(call, is_cut_off_by_signals, parameters, arguments)                                                    \
+    int __real_##call parameters, __wrap_##call parameters;                                                            \
+    int __wrap_##call parameters                                                                                       \
+    {                                                                                                                  \
+        const auto make = [&] { return __real_##call arguments; };                                                     \
+        return static_cast<int>(File_Calls::Make(#call, make, is_cut_off_by_signals));                                 \
+    }
+
 extern "C" {
-int __real_access(const char* name, int mode);
-int __real_chmod(const char* name, mode_t mode);
-int __real_close(int descriptor);
-int __real_faccessat(int folder, const char* name, int mode, int flags);
-int __real_fchmod(int descriptor, mode_t mode);
-int __real_fstat(int descriptor, struct stat* found);
-int __real_fsync(int descriptor);
-int __real_ftruncate(int descriptor, off_t size);
-int __real_lstat(const char* name, struct stat* found);
+PASS_ON(access, false, (const char* name, int mode), (name, mode))
+PASS_ON(chmod, false, (const char* name, mode_t mode), (name, mode))
+PASS_ON(close, false, (int descriptor), (descriptor))
+PASS_ON(faccessat, false, (int folder, const char* name, int mode, int flags), (folder, name, mode, flags))
+PASS_ON(fchmod, false, (int descriptor, mode_t mode), (descriptor, mode))
+PASS_ON(fstat, false, (int descriptor, struct stat* found), (descriptor, found))
+PASS_ON(fsync, true, (int descriptor), (descriptor))
+PASS_ON(ftruncate, true, (int descriptor, off_t size), (descriptor, size))
+PASS_ON(lstat, false, (const char* name, struct stat* found), (name, found))
+PASS_ON(rename, false, (const char* from, const char* to), (from, to))
+PASS_ON(stat, false, (const char* name, struct stat* found), (name, found))
+PASS_ON(unlink, false, (const char* name), (name))
+
 int __real_open(const char* name, int flags, ...);
-ssize_t __real_read(int descriptor, void* bytes, size_t size);
-int __real_rename(const char* from, const char* to);
-int __real_stat(const char* name, struct stat* found);
-int __real_unlink(const char* name);
-ssize_t __real_write(int descriptor, const void* bytes, size_t size);
-
-int __wrap_access(const char* name, int mode);
-int __wrap_chmod(const char* name, mode_t mode);
-int __wrap_close(int descriptor);
-int __wrap_faccessat(int folder, const char* name, int mode, int flags);
-int __wrap_fchmod(int descriptor, mode_t mode);
-int __wrap_fstat(int descriptor, struct stat* found);
-int __wrap_fsync(int descriptor);
-int __wrap_ftruncate(int descriptor, off_t size);
-int __wrap_lstat(const char* name, struct stat* found);
 int __wrap_open(const char* name, int flags, ...);
-ssize_t __wrap_read(int descriptor, void* bytes, size_t size);
-int __wrap_rename(const char* from, const char* to);
-int __wrap_stat(const char* name, struct stat* found);
-int __wrap_unlink(const char* name);
-ssize_t __wrap_write(int descriptor, const void* bytes, size_t size);
-
-int __wrap_access(const char* name, int mode)
-{
-    return static_cast<int>(File_Calls::Make("access", [&] { return __real_access(name, mode); }));
-}
-
-int __wrap_chmod(const char* name, mode_t mode)
-{
-    return static_cast<int>(File_Calls::Make("chmod", [&] { return __real_chmod(name, mode); }));
-}
-
-int __wrap_close(int descriptor)
-{
-    return static_cast<int>(File_Calls::Make("close", [&] { return __real_close(descriptor); }));
-}
-
-int __wrap_faccessat(int folder, const char* name, int mode, int flags)
-{
-    return static_cast<int>(File_Calls::Make("faccessat", [&] { return __real_faccessat(folder, name, mode, flags); }));
-}
-
-int __wrap_fchmod(int descriptor, mode_t mode)
-{
-    return static_cast<int>(File_Calls::Make("fchmod", [&] { return __real_fchmod(descriptor, mode); }));
-}
-
-int __wrap_fstat(int descriptor, struct stat* found)
-{
-    return static_cast<int>(File_Calls::Make("fstat", [&] { return __real_fstat(descriptor, found); }));
-}
-
-int __wrap_fsync(int descriptor)
-{
-    return static_cast<int>(File_Calls::Make(
-        "fsync", [&] { return __real_fsync(descriptor); }, true));
-}
-
-int __wrap_ftruncate(int descriptor, off_t size)
-{
-    return static_cast<int>(File_Calls::Make(
-        "ftruncate", [&] { return __real_ftruncate(descriptor, size); }, true));
-}
-
-int __wrap_lstat(const char* name, struct stat* found)
-{
-    return static_cast<int>(File_Calls::Make("lstat", [&] { return __real_lstat(name, found); }));
-}
-
 int __wrap_open(const char* name, int flags, ...)
 {
-    mode_t mode = 0;
-    if ((flags & O_CREAT) != 0) {
-        va_list more;
-        va_start(more, flags);
-        mode = va_arg(more, mode_t);
-        va_end(more);
-    }
-    return static_cast<int>(File_Calls::Make(
-        "open", [&] { return __real_open(name, flags, mode); }, true));
+    va_list more;
+    va_start(more, flags);
+    const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(more, mode_t) : 0;
+    va_end(more);
+    const auto make = [&] { return __real_open(name, flags, mode); };
+    return static_cast<int>(File_Calls::Make("open", make, true));
 }
 
+ssize_t __real_read(int descriptor, void* bytes, size_t size);
+ssize_t __wrap_read(int descriptor, void* bytes, size_t size);
 ssize_t __wrap_read(int descriptor, void* bytes, size_t size)
 {
     const size_t at_once = File_Calls::At_Once(size);
-    return File_Calls::Make(
-        "read", [&] { return __real_read(descriptor, bytes, at_once); }, true);
+    const auto make = [&] { return __real_read(descriptor, bytes, at_once); };
+    return File_Calls::Make("read", make, true);
 }
 
-int __wrap_rename(const char* from, const char* to)
-{
-    return static_cast<int>(File_Calls::Make("rename", [&] { return __real_rename(from, to); }));
-}
-
-int __wrap_stat(const char* name, struct stat* found)
-{
-    return static_cast<int>(File_Calls::Make("stat", [&] { return __real_stat(name, found); }));
-}
-
-int __wrap_unlink(const char* name)
-{
-    return static_cast<int>(File_Calls::Make("unlink", [&] { return __real_unlink(name); }));
-}
-
+ssize_t __real_write(int descriptor, const void* bytes, size_t size);
+ssize_t __wrap_write(int descriptor, const void* bytes, size_t size);
 ssize_t __wrap_write(int descriptor, const void* bytes, size_t size)
 {
-    const auto call = [&]() -> long {
+    const auto make = [&]() -> long {
         const size_t fitting = File_Calls::With_Room(File_Calls::At_Once(size));
         if (fitting > 0 || size == 0)
             return __real_write(descriptor, bytes, fitting);
         errno = ENOSPC;
         return -1;
     };
-    return File_Calls::Make("write", call, true);
+    return File_Calls::Make("write", make, true);
 }
 }
-// NOLINTEND(readability-identifier-naming)
+// NOLINTEND(readability-identifier-naming,cppcoreguidelines-macro-usage)

@@ -1,64 +1,56 @@
 #include "platform/Interface_Thread.h"
-#include "platform/System_Log.h"
-#include "platform/Waiting.h"
+
 #include "platform/Watched_Mouse.h"
+#include "support/Log_Lines.h"
 #include "support/Serve_Until.h"
 
-#include <QStringList>
-#include <QThread>
-#include <QTimer>
-#include <atomic>
 #include <gtest/gtest.h>
 #include <memory>
 #include <pthread.h>
 #include <stdexcept>
 #include <thread>
 
-TEST(Interface_Thread, A_Worker_Is_Not_The_Interface_Thread)
+namespace {
+
+/// Holds a worker up until something has happened elsewhere; for 20 seconds where it never does.
+template <typename Has_Happened>
+void Wait_Until(const Has_Happened& has_happened)
 {
-    EXPECT_TRUE(Is_Interface_Thread());
-    bool answer = true;
-    std::thread worker([&] { answer = Is_Interface_Thread(); });
-    worker.join();
-    EXPECT_FALSE(answer);
+    const double end = Now_Seconds() + 20;
+    while (!has_happened() && Now_Seconds() < end)
+        std::this_thread::yield();
 }
+
+} // namespace
 
 TEST(Interface_Thread, A_Workers_Step_Runs_On_The_Interface_Thread_Before_The_Worker_Goes_On)
 {
-    const auto* interface_thread = QThread::currentThread();
-    const QThread* step_thread = nullptr;
-    bool was_done_in_time = false;
+    EXPECT_TRUE(Is_Interface_Thread());
+    std::jthread([] { EXPECT_FALSE(Is_Interface_Thread()); }).join();
+    bool is_done = false;
     Run_On_Worker([&] {
-        Run_On_Interface_Thread([&] { step_thread = QThread::currentThread(); });
-        was_done_in_time = step_thread != nullptr;
+        EXPECT_FALSE(Is_Interface_Thread());
+        Run_On_Interface_Thread([&] { is_done = Is_Interface_Thread(); });
+        EXPECT_TRUE(is_done);
     });
-    EXPECT_EQ(step_thread, interface_thread);
-    EXPECT_TRUE(was_done_in_time);
+    is_done = false;
+    Run_On_Interface_Thread([&] { is_done = true; });
+    EXPECT_TRUE(is_done) << "there a step simply runs";
 }
 
-TEST(Interface_Thread, On_The_Interface_Thread_A_Step_Simply_Runs)
+TEST(Interface_Thread, What_A_Step_Or_The_Work_Throws_Reaches_Whoever_Waits)
 {
-    bool has_run = false;
-    Run_On_Interface_Thread([&] { has_run = true; });
-    EXPECT_TRUE(has_run);
-    EXPECT_THROW(Run_On_Interface_Thread([] { throw std::runtime_error("no"); }), std::runtime_error);
-}
-
-TEST(Interface_Thread, What_A_Step_Throws_Reaches_The_Worker_That_Asked)
-{
+    const auto throwing_step = [] { throw std::runtime_error("out of range"); };
+    EXPECT_THROW(Run_On_Interface_Thread(throwing_step), std::runtime_error);
     QString told;
     Run_On_Worker([&] {
         try {
-            Run_On_Interface_Thread([] { throw std::runtime_error("out of range"); });
+            Run_On_Interface_Thread(throwing_step);
         } catch (const std::runtime_error& failure) {
-            told = QLatin1String(failure.what());
+            told = failure.what();
         }
     });
-    EXPECT_EQ(told, QLatin1String("out of range"));
-}
-
-TEST(Interface_Thread, What_The_Work_Throws_Reaches_Whoever_Waits)
-{
+    EXPECT_EQ(told, "out of range");
     EXPECT_THROW(Run_On_Worker([] { throw std::out_of_range("no"); }), std::out_of_range);
     EXPECT_THROW(Run_On_Worker([] { throw 7; }), int);
 }
@@ -69,11 +61,7 @@ TEST(Interface_Thread, The_Interface_Thread_Lives_While_A_Worker_Works)
     QTimer heart;
     QObject::connect(&heart, &QTimer::timeout, [&] { ++beats; });
     heart.start(1);
-    const double end = Now_Seconds() + 20;
-    Run_On_Worker([&] {
-        while (beats < 5 && Now_Seconds() < end)
-            std::this_thread::yield();
-    });
+    Run_On_Worker([&] { Wait_Until([&] { return beats >= 5; }); });
     EXPECT_GE(beats, 5);
 }
 
@@ -82,12 +70,14 @@ TEST(Interface_Thread, Workers_And_Steps_Nest_As_Deep_As_They_Like)
     QStringList way;
     Run_On_Worker([&] {
         Run_On_Interface_Thread([&] {
-            way += QStringLiteral("step");
-            Run_On_Worker([&] { Run_On_Interface_Thread([&] { way += QStringLiteral("inner step"); }); });
-            way += QStringLiteral("step again");
+            way += "step";
+            Run_On_Worker([&] { Run_On_Interface_Thread([&] { way += "inner step"; }); });
+            way += "step again";
         });
+        const auto here = std::this_thread::get_id();
+        Run_On_Worker([&] { EXPECT_EQ(std::this_thread::get_id(), here) << "a worker does a worker's work itself"; });
     });
-    EXPECT_EQ(way.join(u','), QLatin1String("step,inner step,step again"));
+    EXPECT_EQ(way.join(u','), "step,inner step,step again");
 }
 
 TEST(Interface_Thread, A_Wait_That_Is_Over_First_Waits_For_The_One_That_Began_Inside_It)
@@ -95,10 +85,7 @@ TEST(Interface_Thread, A_Wait_That_Is_Over_First_Waits_For_The_One_That_Began_In
     std::atomic<bool> may_end{false};
     bool inner_is_done = false;
     QTimer::singleShot(0, [&] {
-        Run_On_Worker([&] {
-            while (!may_end)
-                std::this_thread::yield();
-        });
+        Run_On_Worker([&] { Wait_Until([&] { return may_end.load(); }); });
         inner_is_done = true;
     });
     Run_On_Worker([&] { Run_On_Interface_Thread([&] { may_end = true; }); });
@@ -109,14 +96,10 @@ TEST(Interface_Thread, A_Step_That_Lay_Behind_The_Waiting_One_Is_Served_Inside_I
 {
     std::atomic<bool> is_served{false};
     bool was_served_inside = false;
-    const double end = Now_Seconds() + 20;
     QObject context;
     Post_To_Interface_Thread(&context, [&] {
-        Run_On_Worker([&] {
-            while (!is_served && Now_Seconds() < end)
-                std::this_thread::yield();
-            was_served_inside = is_served;
-        });
+        Run_On_Worker([&] { Wait_Until([&] { return is_served.load(); }); });
+        was_served_inside = is_served;
     });
     Post_To_Interface_Thread(&context, [&] { is_served = true; });
     EXPECT_TRUE(Serve_Until([&] { return is_served.load(); }, 30));
@@ -142,16 +125,6 @@ TEST(Interface_Thread, Finishing_Serves_A_Worker_Whose_Step_Lay_Behind_The_Finis
     EXPECT_TRUE(Serve_Until([&] { return is_finished; }));
 }
 
-TEST(Interface_Thread, A_Worker_Does_A_Workers_Work_Itself)
-{
-    bool is_same = false;
-    Run_On_Worker([&] {
-        const auto here = std::this_thread::get_id();
-        Run_On_Worker([&] { is_same = std::this_thread::get_id() == here; });
-    });
-    EXPECT_TRUE(is_same);
-}
-
 TEST(Interface_Thread, What_The_User_Does_Waits_For_The_Work_Unless_It_Is_Served)
 {
     Watched_Mouse window;
@@ -165,12 +138,7 @@ TEST(Interface_Thread, What_The_User_Does_Waits_For_The_Work_Unless_It_Is_Served
     EXPECT_TRUE(Serve_Until([&] { return window.m_moves == 1; }));
 
     window.Move();
-    const double end = Now_Seconds() + 20;
-    const auto watch = [&] {
-        while (window.m_moves < 2 && Now_Seconds() < end)
-            std::this_thread::yield();
-    };
-    Run_On_Worker(watch, User_Input::Served);
+    Run_On_Worker([&] { Wait_Until([&] { return window.m_moves == 2; }); }, User_Input::Served);
     EXPECT_EQ(window.m_moves, 2);
 }
 
@@ -179,13 +147,13 @@ TEST(Interface_Thread, A_Posted_Step_Comes_Later_And_Only_While_Its_Context_Live
     QStringList done;
     QObject context;
     auto short_lived = std::make_unique<QObject>();
-    Post_To_Interface_Thread(&context, [&] { done += QStringLiteral("first"); });
-    Post_To_Interface_Thread(short_lived.get(), [&] { done += QStringLiteral("never"); });
-    Post_To_Interface_Thread(&context, [&] { done += QStringLiteral("second"); });
+    Post_To_Interface_Thread(&context, [&] { done += "first"; });
+    Post_To_Interface_Thread(short_lived.get(), [&] { done += "never"; });
+    Post_To_Interface_Thread(&context, [&] { done += "second"; });
     EXPECT_TRUE(done.isEmpty());
     short_lived.reset();
     QCoreApplication::processEvents();
-    EXPECT_EQ(done.join(u','), QLatin1String("first,second"));
+    EXPECT_EQ(done.join(u','), "first,second");
 }
 
 TEST(Interface_Thread, Finishing_Serves_Workers_That_Still_Need_The_Windows)
@@ -202,42 +170,34 @@ TEST(Interface_Thread, Finishing_Serves_Workers_That_Still_Need_The_Windows)
     EXPECT_EQ(Workers_Running(), 0);
 }
 
-TEST(Interface_Thread, A_Worker_Counts_Until_It_Has_Ended_And_Let_Go)
+TEST(Interface_Thread, A_Worker_Has_Its_Name_And_Counts_Until_It_Has_Ended_And_Let_Go)
 {
     auto held = std::make_shared<int>(1);
     const std::weak_ptr<int> watched = held;
+    char name[16] = {};
     std::atomic<bool> may_end{false};
-    Start_Worker("waits", [&may_end, kept = std::move(held)] {
-        while (!may_end)
-            std::this_thread::yield();
+    Start_Worker("send job", [&, kept = std::move(held)] {
+        Wait_Until([&] { return may_end.load(); });
+        // The name is given from outside; wait for it.
+        Wait_Until([&] {
+            pthread_getname_np(pthread_self(), name, sizeof name);
+            return strcmp(name, "send job") == 0;
+        });
     });
     EXPECT_EQ(Workers_Running(), 1);
     EXPECT_FALSE(watched.expired());
     may_end = true;
     Finish_Workers();
     EXPECT_TRUE(watched.expired());
-}
-
-TEST(Interface_Thread, A_Worker_Carries_Its_Name)
-{
-    char name[16] = {};
-    Start_Worker("send job", [&] {
-        // The name is given from outside; wait for it.
-        while (strcmp(name, "send job") != 0)
-            pthread_getname_np(pthread_self(), name, sizeof name);
-    });
-    Finish_Workers();
     EXPECT_STREQ(name, "send job");
 }
 
 TEST(Interface_Thread, An_Exception_Ends_Its_Worker_Only_And_Is_Logged)
 {
-    QStringList logged;
-    Set_Log_Listener([&](const QString& line) { logged += line; });
+    const Log_Lines log;
     Start_Worker("throws", [] { throw std::runtime_error("boom"); });
     Finish_Workers();
     Start_Worker("throws", [] { throw 7; });
     Finish_Workers();
-    Set_Log_Listener({});
-    EXPECT_EQ(logged.join(u'|'), QLatin1String("A worker ended early: boom|A worker ended early."));
+    EXPECT_EQ(log.Joined(), "A worker ended early: boom|A worker ended early.|");
 }

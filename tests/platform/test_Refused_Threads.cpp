@@ -1,7 +1,4 @@
-#include "platform/Interface_Thread.h"
-#include "platform/System_Log.h"
 #include "platform/Thread_Shortage.h"
-#include "platform/Waiting.h"
 #include "support/Log_Lines.h"
 #include "support/Refused_Threads.h"
 #include "support/Serve_Until.h"
@@ -11,6 +8,7 @@
 #include <QTest>
 #include <gtest/gtest.h>
 #include <memory>
+#include <optional>
 #include <stdexcept>
 
 // A system that gives no thread, and exceptions that nobody below the toolkit catches.
@@ -21,34 +19,23 @@
 
 namespace {
 
-// The toolkit's widgets are built without exceptions: what they hold at the moment one passes is never given back.
-class Leaks_Inside_The_Toolkit
-{
-#if defined(__SANITIZE_ADDRESS__)
-    __lsan::ScopedDisabler m_disabler;
-#endif
-};
-
 class Thread_Shortage : public testing::Test
 {
 protected:
     Thread_Shortage() { Flush_System_Log(); } // its thread is there before any is refused
 };
 
-TEST_F(Thread_Shortage, Work_Behind_A_Window_Is_Done_All_The_Same)
+TEST_F(Thread_Shortage, Work_Behind_A_Window_Is_Done_All_The_Same_And_What_It_Throws_Reaches_The_Caller)
 {
-    const Refused_Threads refused(1);
+    std::optional<Refused_Threads> refused(1);
     bool is_done_here = false;
     Run_On_Worker([&] { is_done_here = Is_Interface_Thread(); });
     EXPECT_TRUE(is_done_here);
     Run_On_Worker([&] { is_done_here = Is_Interface_Thread(); });
     EXPECT_FALSE(is_done_here);
-    EXPECT_EQ(refused.Asked_For(), 2);
-}
-
-TEST_F(Thread_Shortage, What_The_Work_Throws_Reaches_The_Caller_All_The_Same)
-{
-    const Refused_Threads refused(1);
+    EXPECT_EQ(refused->Asked_For(), 2);
+    refused.reset();
+    refused.emplace(1);
     EXPECT_THROW(Run_On_Worker([] { throw std::runtime_error("no"); }), std::runtime_error);
 }
 
@@ -73,12 +60,11 @@ TEST_F(Thread_Shortage, Work_That_Needs_A_Thread_Is_Not_Begun_And_Holds_Nothing)
     const auto held = std::make_shared<int>(0);
     std::atomic<int> done{0};
     const auto start = [&] { return Start_Worker_If_Possible("patient", [&done, held] { ++done; }); };
-    {
-        const Refused_Threads refused(1);
-        EXPECT_FALSE(start());
-        EXPECT_EQ(held.use_count(), 1);
-        EXPECT_EQ(Workers_Running(), 0);
-    }
+    std::optional<Refused_Threads> refused(1);
+    EXPECT_FALSE(start());
+    EXPECT_EQ(held.use_count(), 1);
+    EXPECT_EQ(Workers_Running(), 0);
+    refused.reset();
     EXPECT_TRUE(start());
     Finish_Workers();
     EXPECT_EQ(done, 1);
@@ -101,17 +87,15 @@ TEST_F(Thread_Shortage, A_Worker_Can_Be_Awaited_Without_Another_Thread)
 TEST(Thread_Shortage_Death_Test, The_Log_Waits_For_A_Thread)
 {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
-    EXPECT_EXIT(
-        {
-            {
-                const Refused_Threads refused(1, Refused_Threads::And_Later::Are_Refused);
-                Write_System_Log(u"one");
-                Write_System_Log(u"two");
-            }
-            Flush_System_Log();
-            exit(0);
-        },
-        testing::ExitedWithCode(0), "");
+    const auto log_and_exit = [] {
+        std::optional<Refused_Threads> refused(std::in_place, 1, Refused_Threads::And_Later::Are_Refused);
+        Write_System_Log(u"one");
+        Write_System_Log(u"two");
+        refused.reset();
+        Flush_System_Log();
+        exit(0);
+    };
+    EXPECT_EXIT(log_and_exit(), testing::ExitedWithCode(0), "");
 }
 
 class Net : public testing::Test
@@ -119,9 +103,16 @@ class Net : public testing::Test
 protected:
     Net()
     {
-        Guarded_Application::When_Something_Breaks([this] { ++m_told; });
+        Tell([this] { ++m_told; });
     }
-    ~Net() override { Guarded_Application::When_Something_Breaks({}); }
+    ~Net() override { Tell({}); }
+
+    static void Tell(std::function<void()> user) { Guarded_Application::When_Something_Breaks(std::move(user)); }
+    static void Throw(const char* text) { throw std::runtime_error(text); }
+    static void Post_A_Failure(const char* text)
+    {
+        Post_To_Interface_Thread(qApp, [text] { Throw(text); });
+    }
 
     Log_Lines m_log;
     int m_told = 0;
@@ -130,7 +121,7 @@ protected:
 TEST_F(Net, A_Step_That_Throws_Is_Logged_And_Told_And_The_Next_One_Is_Done)
 {
     bool is_done = false;
-    Post_To_Interface_Thread(qApp, [] { throw std::runtime_error("spilt"); });
+    Post_A_Failure("spilt");
     Post_To_Interface_Thread(qApp, [&] { is_done = true; });
     EXPECT_TRUE(Serve_Until([&] { return is_done; }));
     EXPECT_EQ(m_told, 1);
@@ -139,12 +130,15 @@ TEST_F(Net, A_Step_That_Throws_Is_Logged_And_Told_And_The_Next_One_Is_Done)
 
 TEST_F(Net, A_Button_Whose_Slot_Throws_Can_Be_Pressed_Again)
 {
-    [[maybe_unused]] const Leaks_Inside_The_Toolkit allowed;
+#if defined(__SANITIZE_ADDRESS__)
+    // The toolkit's widgets are built without exceptions: what they hold at the moment one passes is never given back.
+    const __lsan::ScopedDisabler leaks_are_allowed;
+#endif
     QPushButton button;
     int pressed = 0;
     QObject::connect(&button, &QPushButton::clicked, [&] {
         if (++pressed == 1)
-            throw std::runtime_error("jammed");
+            Throw("jammed");
     });
     button.show();
     QTest::mouseClick(&button, Qt::LeftButton);
@@ -156,12 +150,12 @@ TEST_F(Net, A_Button_Whose_Slot_Throws_Can_Be_Pressed_Again)
 
 TEST_F(Net, What_Breaks_While_The_User_Is_Told_Is_Only_Logged)
 {
-    Guarded_Application::When_Something_Breaks([this] {
+    Tell([this] {
         ++m_told;
-        Post_To_Interface_Thread(qApp, [] { throw std::runtime_error("second"); });
+        Post_A_Failure("second");
         QCoreApplication::sendPostedEvents();
     });
-    Post_To_Interface_Thread(qApp, [] { throw std::runtime_error("first"); });
+    Post_A_Failure("first");
     QCoreApplication::sendPostedEvents();
     EXPECT_EQ(m_told, 1);
     EXPECT_TRUE(m_log.Has("An action ended early: second"));

@@ -7,9 +7,8 @@
 TEST(Replace_Each, It_Reads_As_The_Toolkits_Own_Would)
 {
     QRandomGenerator random(8);
-    const QStringList words{QStringLiteral("\n"), QStringLiteral("ab"), QStringLiteral("aa"),
-                            QStringLiteral("|AP*|DX/")};
-    const QString letters = QStringLiteral("aab\n|AP*DX/");
+    const QStringList words{"\n", "ab", "aa", "|AP*|DX/"};
+    const QString letters = "aab\n|AP*DX/";
     for (int round = 0; round < 20'000; ++round) {
         QString text;
         const int length = random.bounded(12);

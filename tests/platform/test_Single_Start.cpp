@@ -1,26 +1,16 @@
 #include "platform/Single_Start.h"
 
-#include "platform/Waiting.h"
+#include "platform/Files_Test.h"
 #include "support/Log_Lines.h"
-#include "support/Opened_Files.h"
 #include "support/Serve_Until.h"
 
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-#include <atomic>
 #include <cerrno>
 #include <fcntl.h>
-#include <gmock/gmock.h>
-#include <optional>
 #include <sys/file.h>
 #include <sys/socket.h>
-#include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/un.h>
 #include <sys/wait.h>
-#include <thread>
-#include <unistd.h>
 
 using Outcome = Single_Start::Outcome;
 
@@ -42,153 +32,132 @@ extern "C" int flock(int descriptor, int operation) noexcept
 
 namespace {
 
-class Single_Start_Test : public testing::Test
+class Single_Start_Test : public Files_Test
 {
 protected:
     ~Single_Start_Test() override { Flock_Error = 0; }
 
-    QString Folder() const { return m_home.filePath(QStringLiteral("corvane")); }
-    QString In_Folder(const char* name) const { return Folder() + QLatin1Char('/') + QLatin1String(name); }
+    QString Folder() const { return Path("corvane"); }
+    QString In_Folder(const char* name) const { return Folder() + "/" + name; }
 
-    static unsigned Mode_Of(const QString& path)
+    /// A start that finds the folder free.
+    std::unique_ptr<Single_Start> First(const QString& folder) const
     {
-        struct stat found = {};
-        return lstat(QFile::encodeName(path).constData(), &found) == 0 ? found.st_mode & 07777U : ~0U;
+        auto start = std::make_unique<Single_Start>(folder);
+        EXPECT_EQ(start->Begin(0), Outcome::First);
+        return start;
+    }
+    std::unique_ptr<Single_Start> First() const { return First(Folder()); }
+
+    /// One that finds it taken by another that does not answer.
+    void Expect_It_Is_Taken(double patience = 0) const
+    {
+        EXPECT_EQ(Single_Start(Folder()).Begin(patience), Outcome::No_Answer);
     }
 
-    // A further start, as another program would make it, while this one serves its events.
-    Outcome Start_Again(double patience = 20)
+    /// A further start, as another program would make it, while something happens here.
+    static Outcome Start_While(const std::function<void()>& what_happens, const QString& folder)
     {
-        std::optional<Outcome> outcome;
-        std::atomic<bool> is_done{false};
-        std::thread other([&] {
-            outcome = Single_Start(Folder()).Begin(patience);
-            is_done = true;
-        });
-        EXPECT_TRUE(Serve_Until([&] { return is_done.load(); }, 40));
+        Outcome outcome{};
+        std::thread other([&] { outcome = Single_Start(folder).Begin(20); });
+        what_happens();
         other.join();
-        return *outcome;
+        return outcome;
     }
+    Outcome Start_While(const std::function<void()>& what_happens) const { return Start_While(what_happens, Folder()); }
 
-    // Runs the steps in a process of its own, which is killed as soon as they are done.
-    template <typename Steps>
-    static void Do_And_Be_Killed(const Steps& steps)
+    /// One whose question is answered.
+    static void Expect_It_Is_Shown(Single_Start& first, const QString& folder)
     {
-        const pid_t child = fork();
-        ASSERT_NE(child, -1);
-        if (child == 0) {
-            steps();
-            kill(getpid(), SIGKILL);
-        }
-        int status = 0;
-        ASSERT_EQ(waitpid(child, &status, 0), child);
-        ASSERT_TRUE(WIFSIGNALED(status));
+        int asked = 0;
+        first.When_Asked([&asked] { ++asked; });
+        const auto serve = [&] { EXPECT_TRUE(Serve_Until([&] { return asked == 1; })); };
+        EXPECT_EQ(Start_While(serve, folder), Outcome::Shown);
+        first.When_Asked([] {});
     }
-
-    QTemporaryDir m_home;
 };
 
 } // namespace
 
 TEST_F(Single_Start_Test, The_First_Start_Makes_The_Folder_And_Keeps_It_Private)
 {
-    Single_Start start(Folder());
-    EXPECT_EQ(start.Begin(), Outcome::First);
-    EXPECT_EQ(Mode_Of(Folder()), 0700U);
-    EXPECT_EQ(Mode_Of(In_Folder("Running.lock")), 0600U);
-    EXPECT_EQ(Mode_Of(In_Folder("Running.socket")), 0600U);
+    const auto start = First();
+    EXPECT_EQ(Permissions_Of(Folder()), 0700U);
+    EXPECT_EQ(Permissions_Of(In_Folder("Running.lock")), 0600U);
+    EXPECT_EQ(Permissions_Of(In_Folder("Running.socket")), 0600U);
+    const QString left_open = Path("left open");
+    Put_A_Folder_At(left_open);
+    ASSERT_EQ(chmod(qPrintable(left_open), 0777), 0);
+    const auto side_by_side = First(left_open);
+    EXPECT_EQ(Permissions_Of(left_open), 0700U);
 }
 
 TEST_F(Single_Start_Test, Only_Who_Has_Both_Locks_Is_Alone)
 {
-    Single_Start start(Folder());
-    EXPECT_FALSE(start.Is_Alone());
-    EXPECT_EQ(start.Begin(), Outcome::First);
-    EXPECT_TRUE(start.Is_Alone());
-    EXPECT_TRUE(start.Is_Alone()) << "asking changes nothing";
-    EXPECT_EQ(Start_Again(0.1), Outcome::No_Answer);
-    Single_Start second(Folder());
-    EXPECT_EQ(second.Begin(0), Outcome::No_Answer);
-    EXPECT_FALSE(second.Is_Alone());
-}
-
-TEST_F(Single_Start_Test, On_A_File_System_Without_Locks_Nobody_Is_Certain_To_Be_Alone)
-{
+    {
+        Single_Start start(Folder());
+        EXPECT_FALSE(start.Is_Alone());
+        EXPECT_EQ(start.Begin(), Outcome::First);
+        EXPECT_TRUE(start.Is_Alone());
+        EXPECT_TRUE(start.Is_Alone()) << "asking changes nothing";
+        Expect_It_Is_Taken(0.1);
+        Single_Start second(Folder());
+        EXPECT_EQ(second.Begin(0), Outcome::No_Answer);
+        EXPECT_FALSE(second.Is_Alone());
+    }
     Flock_Error = ENOLCK;
-    Single_Start start(Folder());
-    EXPECT_EQ(start.Begin(), Outcome::First);
-    EXPECT_FALSE(start.Is_Alone());
-}
-
-TEST_F(Single_Start_Test, A_Folder_Left_Open_Is_Closed_To_Others)
-{
-    ASSERT_TRUE(QDir().mkpath(Folder()));
-    ASSERT_EQ(chmod(QFile::encodeName(Folder()).constData(), 0777), 0);
-    Single_Start start(Folder());
-    EXPECT_EQ(start.Begin(), Outcome::First);
-    EXPECT_EQ(Mode_Of(Folder()), 0700U);
+    EXPECT_FALSE(First()->Is_Alone()) << "on a file system without locks nobody is certain";
 }
 
 TEST_F(Single_Start_Test, Every_Further_Start_Asks_The_First_To_The_Front)
 {
-    Single_Start first(Folder());
-    ASSERT_EQ(first.Begin(), Outcome::First);
-    int asked = 0;
-    first.When_Asked([&asked] { ++asked; });
-    for (int start = 1; start <= 3; ++start) {
-        EXPECT_EQ(Start_Again(), Outcome::Shown);
-        EXPECT_TRUE(Serve_Until([&] { return asked == start; })) << asked;
+    // The second folder's path is longer than a socket's name.
+    for (const QString& folder : {Folder(), Path(QString(200, u'x') + "/" + QString(200, u'y') + "/corvane")}) {
+        const auto first = First(folder);
+        for (int start = 1; start <= 3; ++start)
+            Expect_It_Is_Shown(*first, folder);
     }
 }
 
 TEST_F(Single_Start_Test, A_Question_Asked_Before_The_First_Is_Ready_Is_Answered_When_It_Is)
 {
-    Single_Start first(Folder());
-    ASSERT_EQ(first.Begin(), Outcome::First);
-    std::optional<Outcome> outcome;
-    std::thread other([&] { outcome = Single_Start(Folder()).Begin(20); });
-    std::this_thread::sleep_for(std::chrono::milliseconds(50)); // most often it has asked by then; either way is right
+    const auto first = First();
     int asked = 0;
-    first.When_Asked([&asked] { ++asked; });
-    EXPECT_TRUE(Serve_Until([&] { return asked == 1; }));
-    other.join();
-    EXPECT_EQ(*outcome, Outcome::Shown);
+    const auto become_ready = [&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(50)); // most often it has asked; either way is right
+        first->When_Asked([&asked] { ++asked; });
+        EXPECT_TRUE(Serve_Until([&] { return asked == 1; }));
+    };
+    EXPECT_EQ(Start_While(become_ready), Outcome::Shown);
 }
 
 TEST_F(Single_Start_Test, A_First_That_Hangs_Does_Not_Hang_The_Second)
 {
-    Single_Start first(Folder());
-    ASSERT_EQ(first.Begin(), Outcome::First);
+    const auto first = First();
     const double begin = Now_Seconds();
-    EXPECT_EQ(Single_Start(Folder()).Begin(0.2), Outcome::No_Answer);
+    Expect_It_Is_Taken(0.2);
     EXPECT_GE(Now_Seconds() - begin, 0.2);
-    EXPECT_EQ(Single_Start(Folder()).Begin(0), Outcome::No_Answer);
+    Expect_It_Is_Taken();
     int asked = 0;
-    first.When_Asked([&asked] { ++asked; }); // it comes to itself: those who asked have gone, and do it no harm
+    first->When_Asked([&asked] { ++asked; }); // it comes to itself: those who asked have gone, and do it no harm
     EXPECT_TRUE(Serve_Until([&] { return asked == 2; }));
-    EXPECT_EQ(Start_Again(), Outcome::Shown);
+    Expect_It_Is_Shown(*first, Folder());
 }
 
 TEST_F(Single_Start_Test, A_Full_Queue_Of_Questions_Hangs_Nobody)
 {
-    Single_Start first(Folder());
-    ASSERT_EQ(first.Begin(), Outcome::First);
-    const int folder = open(QFile::encodeName(Folder()).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const auto first = First();
+    const int folder = open(qPrintable(Folder()), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     sockaddr_un address = {};
     address.sun_family = AF_UNIX;
     snprintf(address.sun_path, sizeof address.sun_path, "/proc/self/fd/%d/Running.socket", folder);
     std::vector<int> questions;
-    bool is_full = false;
-    while (!is_full) {
-        const int question = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
-        ASSERT_NE(question, -1);
-        questions.push_back(question);
-        if (connect(question, reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0) {
-            ASSERT_EQ(errno, EAGAIN);
-            is_full = true;
-        }
-    }
-    EXPECT_EQ(Single_Start(Folder()).Begin(0.1), Outcome::No_Answer);
+    do {
+        questions.push_back(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
+        ASSERT_NE(questions.back(), -1);
+    } while (connect(questions.back(), reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0);
+    ASSERT_EQ(errno, EAGAIN);
+    Expect_It_Is_Taken(0.1);
     for (const int question : questions)
         close(question);
     close(folder);
@@ -196,128 +165,95 @@ TEST_F(Single_Start_Test, A_Full_Queue_Of_Questions_Hangs_Nobody)
 
 TEST_F(Single_Start_Test, Given_Back_The_Folder_Is_Free_And_Holds_No_Socket)
 {
-    {
-        Single_Start first(Folder());
-        ASSERT_EQ(first.Begin(), Outcome::First);
-    }
+    First().reset();
     EXPECT_FALSE(QFile::exists(In_Folder("Running.socket")));
-    Single_Start next(Folder());
-    EXPECT_EQ(next.Begin(0), Outcome::First);
+    EXPECT_TRUE(First());
 }
 
 TEST_F(Single_Start_Test, A_Start_While_The_First_Is_On_Its_Way_Out_Waits_And_Becomes_The_First)
 {
-    auto first = std::make_unique<Single_Start>(Folder());
-    ASSERT_EQ(first->Begin(), Outcome::First);
+    auto first = First();
     int asked = 0;
     first->When_Asked([&asked] { ++asked; });
     first->Stop_Listening();
-    std::optional<Outcome> outcome;
-    std::thread other([&] { outcome = Single_Start(Folder()).Begin(30); });
-    std::this_thread::sleep_for(std::chrono::milliseconds(100));
-    first.reset();
-    other.join();
-    EXPECT_EQ(*outcome, Outcome::First);
+    const auto end = [&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(100));
+        first.reset();
+    };
+    EXPECT_EQ(Start_While(end), Outcome::First);
     EXPECT_EQ(asked, 0);
 }
 
 TEST_F(Single_Start_Test, What_A_Killed_Program_Left_Is_Taken_Over)
 {
-    Do_And_Be_Killed([this] {
+    const pid_t child = fork();
+    ASSERT_NE(child, -1);
+    if (child == 0) {
         Single_Start killed(Folder());
         if (killed.Begin() != Outcome::First)
             _exit(1);
         kill(getpid(), SIGKILL);
-    });
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    ASSERT_TRUE(WIFSIGNALED(status));
     ASSERT_TRUE(QFile::exists(In_Folder("Running.lock")));
-    ASSERT_NE(Mode_Of(In_Folder("Running.socket")), ~0U);
-    Single_Start first(Folder());
-    ASSERT_EQ(first.Begin(0), Outcome::First);
-    first.When_Asked([] {});
-    EXPECT_EQ(Start_Again(), Outcome::Shown);
+    ASSERT_NE(Permissions_Of(In_Folder("Running.socket")), ~0U);
+    const auto first = First();
+    Expect_It_Is_Shown(*first, Folder());
 }
 
 TEST_F(Single_Start_Test, Of_Many_At_The_Same_Moment_Exactly_One_Is_The_First)
 {
     for (int round = 0; round < 20; ++round) {
-        const QTemporaryDir home;
-        const QString folder = home.filePath(QStringLiteral("corvane"));
+        const QString folder = Path(QString::number(round));
         std::vector<std::unique_ptr<Single_Start>> starts(4);
-        std::vector<Outcome> outcomes(starts.size(), Outcome::Shown);
+        std::vector<Outcome> outcomes(4, Outcome::Shown);
         std::atomic<int> ready{0};
         {
             std::vector<std::jthread> threads;
-            for (std::size_t i = 0; i < starts.size(); ++i)
+            for (std::size_t i = 0; i < 4; ++i)
                 threads.emplace_back([&, i] {
                     starts[i] = std::make_unique<Single_Start>(folder);
-                    for (++ready; ready < static_cast<int>(starts.size());)
+                    for (++ready; ready < 4;)
                         std::this_thread::yield();
                     outcomes[i] = starts[i]->Begin(0.05);
                 });
         }
-        EXPECT_EQ(std::count(outcomes.begin(), outcomes.end(), Outcome::First), 1);
-        EXPECT_EQ(std::count(outcomes.begin(), outcomes.end(), Outcome::No_Answer), 3);
+        EXPECT_EQ(std::ranges::count(outcomes, Outcome::First), 1);
+        EXPECT_EQ(std::ranges::count(outcomes, Outcome::No_Answer), 3);
     }
-}
-
-TEST_F(Single_Start_Test, Different_Folders_Are_Worked_In_Side_By_Side)
-{
-    Single_Start here(m_home.filePath(QStringLiteral("here/corvane")));
-    Single_Start there(m_home.filePath(QStringLiteral("there/corvane")));
-    EXPECT_EQ(here.Begin(0), Outcome::First);
-    EXPECT_EQ(there.Begin(0), Outcome::First);
 }
 
 TEST_F(Single_Start_Test, Another_Way_To_The_Same_Folder_Is_The_Same_Folder)
 {
-    ASSERT_TRUE(QDir().mkpath(Folder()));
-    ASSERT_TRUE(QFile::link(Folder(), m_home.filePath(QStringLiteral("link"))));
-    Single_Start first(Folder());
-    ASSERT_EQ(first.Begin(0), Outcome::First);
-    EXPECT_EQ(Single_Start(m_home.filePath(QStringLiteral("link"))).Begin(0), Outcome::No_Answer);
-}
-
-TEST_F(Single_Start_Test, A_Path_Longer_Than_A_Sockets_Name_Is_Fine)
-{
-    const QString folder = m_home.filePath(QString(200, u'x') + u'/' + QString(200, u'y') + QStringLiteral("/corvane"));
-    Single_Start first(folder);
-    ASSERT_EQ(first.Begin(0), Outcome::First);
-    int asked = 0;
-    first.When_Asked([&asked] { ++asked; });
-    std::optional<Outcome> outcome;
-    std::jthread other([&] { outcome = Single_Start(folder).Begin(20); });
-    EXPECT_TRUE(Serve_Until([&] { return asked == 1; }));
-    other.join();
-    EXPECT_EQ(*outcome, Outcome::Shown);
+    Put_A_Folder_At(Folder());
+    ASSERT_TRUE(QFile::link(Folder(), Path("link")));
+    const auto first = First();
+    EXPECT_EQ(Single_Start(Path("link")).Begin(0), Outcome::No_Answer);
 }
 
 TEST_F(Single_Start_Test, The_Folder_Stays_Taken_When_The_Lock_File_Is_Deleted_Or_Can_Not_Be_Made)
 {
     {
-        Single_Start first(Folder());
-        ASSERT_EQ(first.Begin(0), Outcome::First);
+        const auto first = First();
         ASSERT_TRUE(QFile::remove(In_Folder("Running.lock")));
-        EXPECT_EQ(Single_Start(Folder()).Begin(0), Outcome::No_Answer);
+        Expect_It_Is_Taken();
     }
-    QFile::remove(In_Folder("Running.lock"));
-    ASSERT_TRUE(QDir().mkpath(In_Folder("Running.lock")));
-    Single_Start first(Folder());
-    EXPECT_EQ(first.Begin(0), Outcome::First);
-    EXPECT_EQ(Single_Start(Folder()).Begin(0), Outcome::No_Answer);
+    Put_A_Folder_At(In_Folder("Running.lock"));
+    const auto first = First();
+    Expect_It_Is_Taken();
 }
 
 TEST_F(Single_Start_Test, The_Lock_File_Alone_Keeps_The_Folder_Where_Its_Own_Lock_Is_Another_Computers)
 {
-    ASSERT_TRUE(QDir().mkpath(Folder()));
-    const int elsewhere = open(QFile::encodeName(In_Folder("Running.lock")).constData(), O_RDWR | O_CREAT, 0600);
+    Put_A_Folder_At(Folder());
+    const int elsewhere = open(qPrintable(In_Folder("Running.lock")), O_RDWR | O_CREAT, 0600);
     ASSERT_EQ(flock(elsewhere, LOCK_EX | LOCK_NB), 0);
-    {
-        Single_Start second(Folder());
-        EXPECT_EQ(second.Begin(0), Outcome::No_Answer);
-        EXPECT_EQ(flock(elsewhere, LOCK_UN), 0);
-        Single_Start third(Folder()); // what the second could not have, it has not kept
-        EXPECT_EQ(third.Begin(0), Outcome::First);
-    }
+    Single_Start second(Folder());
+    EXPECT_EQ(second.Begin(0), Outcome::No_Answer);
+    EXPECT_EQ(flock(elsewhere, LOCK_UN), 0);
+    EXPECT_TRUE(First()) << "what the second could not have, it has not kept";
     close(elsewhere);
 }
 
@@ -326,38 +262,26 @@ TEST_F(Single_Start_Test, A_Folder_On_Which_Locks_Do_Not_Work_Keeps_Nobody_From_
     for (const int error : {ENOLCK, EOPNOTSUPP, ENOSYS, EINVAL, EBADF}) {
         Log_Lines log;
         Flock_Error = error;
-        EXPECT_EQ(Single_Start(Folder()).Begin(0), Outcome::First) << strerror(error);
+        EXPECT_TRUE(First()) << strerror(error);
         Flock_Error = 0;
         EXPECT_TRUE(Serve_Until([&] { return !log.All().empty(); })); // the log tells why
     }
 }
 
-TEST_F(Single_Start_Test, A_Folder_That_Can_Not_Be_Made_Is_Left_To_Whoever_Needs_It)
+TEST_F(Single_Start_Test, What_Stands_In_The_Way_Of_The_Folder_Or_The_Lock_File_Is_Left_As_It_Is)
 {
-    QFile in_the_way(Folder());
-    ASSERT_TRUE(in_the_way.open(QIODevice::WriteOnly));
-    in_the_way.write("mine");
-    in_the_way.close();
-    EXPECT_EQ(Single_Start(Folder()).Begin(0), Outcome::First);
-    ASSERT_TRUE(in_the_way.open(QIODevice::ReadOnly));
-    EXPECT_EQ(in_the_way.readAll(), "mine");
-}
-
-TEST_F(Single_Start_Test, A_Link_In_Place_Of_The_Lock_File_Is_Not_Followed)
-{
-    ASSERT_TRUE(QDir().mkpath(Folder()));
-    const QString target = m_home.filePath(QStringLiteral("elsewhere"));
-    ASSERT_EQ(symlink(QFile::encodeName(target).constData(), QFile::encodeName(In_Folder("Running.lock")).constData()),
-              0);
-    Single_Start start(Folder());
-    EXPECT_EQ(start.Begin(0), Outcome::First);
-    EXPECT_FALSE(QFile::exists(target));
+    Write_Bytes(Path("file"), "mine");
+    EXPECT_TRUE(First(Path("file"))) << "whoever needs the folder finds out";
+    EXPECT_EQ(Bytes_Of(Path("file")), "mine");
+    Put_A_Folder_At(Folder());
+    ASSERT_TRUE(QFile::link(Path("elsewhere"), In_Folder("Running.lock")));
+    EXPECT_TRUE(First());
+    EXPECT_FALSE(QFile::exists(Path("elsewhere"))) << "a link is not followed";
 }
 
 TEST_F(Single_Start_Test, A_Child_That_The_First_Started_Does_Not_Keep_The_Folder)
 {
-    auto first = std::make_unique<Single_Start>(Folder());
-    ASSERT_EQ(first->Begin(0), Outcome::First);
+    auto first = First();
     int held[2];
     ASSERT_EQ(pipe(held), 0);
     const pid_t child = fork(); // has not got to its exec yet
@@ -369,7 +293,7 @@ TEST_F(Single_Start_Test, A_Child_That_The_First_Started_Does_Not_Keep_The_Folde
     }
     close(held[0]);
     first.reset();
-    EXPECT_EQ(Single_Start(Folder()).Begin(0), Outcome::First);
+    EXPECT_TRUE(First());
     close(held[1]);
     waitpid(child, nullptr, 0);
 }

@@ -18,11 +18,7 @@ namespace {
 class Wait_For_A_Line : public testing::Test
 {
 protected:
-    Wait_For_A_Line()
-    {
-        EXPECT_EQ(pipe2(m_ends, O_NONBLOCK | O_CLOEXEC), 0);
-        m_wake = eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC);
-    }
+    Wait_For_A_Line() { EXPECT_EQ(pipe2(m_ends, O_NONBLOCK | O_CLOEXEC), 0); }
 
     ~Wait_For_A_Line() override
     {
@@ -42,55 +38,29 @@ protected:
         m_ends[end] = -1;
     }
 
-    void Say(const char* text) { EXPECT_GT(write(Writing_End(), text, strlen(text)), 0); }
+    void Say_OK() const { EXPECT_EQ(write(Writing_End(), "OK", 2), 2); }
+
+    Line_Event Wait_For_Input(double seconds) const { return Wait_For_Descriptor(Reading_End(), POLLIN, seconds); }
 
     int m_ends[2]{-1, -1};
-    int m_wake = -1;
+    const int m_wake = eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC);
 };
 
 std::atomic<int> Alarms{0};
 
-// Interrupts the thread that asked for it every two milliseconds, for as long as it lives.
-class Interruptions
-{
-public:
-    Interruptions()
-    {
-        Alarms = 0;
-        struct sigaction action = {};
-        action.sa_handler = [](int) { ++Alarms; };
-        sigaction(SIGALRM, &action, &m_old_action); // without SA_RESTART
-        const itimerval beat{{0, 2000}, {0, 2000}};
-        setitimer(ITIMER_REAL, &beat, nullptr);
-    }
-
-    ~Interruptions()
-    {
-        const itimerval none{};
-        setitimer(ITIMER_REAL, &none, nullptr);
-        sigaction(SIGALRM, &m_old_action, nullptr);
-    }
-
-private:
-    struct sigaction m_old_action = {};
-};
-
 } // namespace
 
-TEST_F(Wait_For_A_Line, Input_Is_Ready_At_Once)
-{
-    Say("OK");
-    EXPECT_EQ(Wait_For_Descriptor(Reading_End(), POLLIN, 3600), Line_Event::Ready);
-    EXPECT_EQ(Wait_For_Descriptor(Reading_End(), POLLIN, 0), Line_Event::Ready);
-    EXPECT_EQ(Wait_For_Descriptor(Reading_End(), POLLIN, -1), Line_Event::Ready);
-}
-
-TEST_F(Wait_For_A_Line, Silence_Lasts_The_Whole_Time)
+TEST_F(Wait_For_A_Line, Silence_Lasts_The_Whole_Time_And_Input_Is_Ready_At_Once)
 {
     const double start = Now_Seconds();
-    EXPECT_EQ(Wait_For_Descriptor(Reading_End(), POLLIN, 0.05), Line_Event::Timed_Out);
+    EXPECT_EQ(Wait_For_Input(0.05), Line_Event::Timed_Out);
     EXPECT_GE(Now_Seconds() - start, 0.05);
-    EXPECT_EQ(Wait_For_Descriptor(Reading_End(), POLLIN, 0), Line_Event::Timed_Out);
+    EXPECT_EQ(Wait_For_Input(0), Line_Event::Timed_Out);
+    std::thread speaker([this] { Say_OK(); });
+    EXPECT_EQ(Wait_For_Input(-1), Line_Event::Ready);
+    speaker.join();
+    for (const double seconds : {3600, 0, -1})
+        EXPECT_EQ(Wait_For_Input(seconds), Line_Event::Ready) << seconds;
 }
 
 TEST_F(Wait_For_A_Line, A_Part_Of_A_Millisecond_Is_Not_Rounded_Up)
@@ -98,18 +68,11 @@ TEST_F(Wait_For_A_Line, A_Part_Of_A_Millisecond_Is_Not_Rounded_Up)
     double shortest = 3600; // of many: a loaded computer may be late every now and then
     for (int round = 0; round < 200; ++round) {
         const double start = Now_Seconds();
-        EXPECT_EQ(Wait_For_Descriptor(Reading_End(), POLLIN, 0.0011), Line_Event::Timed_Out);
+        EXPECT_EQ(Wait_For_Input(0.0011), Line_Event::Timed_Out);
         shortest = std::min(shortest, Now_Seconds() - start);
     }
     EXPECT_GE(shortest, 0.0011);
     EXPECT_LT(shortest, 0.0019);
-}
-
-TEST_F(Wait_For_A_Line, A_Wait_Without_End_Ends_With_Input)
-{
-    std::thread speaker([this] { Say("RING"); });
-    EXPECT_EQ(Wait_For_Descriptor(Reading_End(), POLLIN, -1), Line_Event::Ready);
-    speaker.join();
 }
 
 TEST_F(Wait_For_A_Line, A_Second_Descriptor_Wakes_It)
@@ -117,14 +80,8 @@ TEST_F(Wait_For_A_Line, A_Second_Descriptor_Wakes_It)
     std::thread waker([this] { eventfd_write(m_wake, 1); });
     EXPECT_EQ(Wait_For_Descriptor(Reading_End(), POLLIN, -1, m_wake), Line_Event::Woken);
     waker.join();
-    Say("OK");
+    Say_OK();
     EXPECT_EQ(Wait_For_Descriptor(Reading_End(), POLLIN, -1, m_wake), Line_Event::Ready) << "the line goes first";
-}
-
-TEST_F(Wait_For_A_Line, A_Hang_Up_Is_For_The_Next_Read_To_Tell)
-{
-    Close_End(1);
-    EXPECT_EQ(Wait_For_Descriptor(Reading_End(), POLLIN, -1), Line_Event::Ready);
 }
 
 TEST_F(Wait_For_A_Line, Room_To_Write_Is_Waited_For_With_An_End)
@@ -138,10 +95,12 @@ TEST_F(Wait_For_A_Line, Room_To_Write_Is_Waited_For_With_An_End)
     EXPECT_EQ(Wait_For_Descriptor(Writing_End(), POLLOUT, 3600), Line_Event::Ready);
 }
 
-TEST_F(Wait_For_A_Line, A_Closed_Descriptor_Fails)
+TEST_F(Wait_For_A_Line, A_Hang_Up_Is_For_The_Next_Read_To_Tell_And_A_Closed_Descriptor_Fails)
 {
     const int gone = Reading_End();
     EXPECT_FALSE(Program_Is_Exiting()); // its own descriptor is made now, so that it does not take the number set free
+    Close_End(1);
+    EXPECT_EQ(Wait_For_Input(-1), Line_Event::Ready);
     Close_End(0);
     EXPECT_EQ(Wait_For_Descriptor(gone, POLLIN, -1), Line_Event::Failed);
     EXPECT_EQ(errno, EBADF);
@@ -156,44 +115,47 @@ TEST_F(Wait_For_A_Line, A_Descriptor_Beyond_The_Size_Of_A_Set_Is_Fine)
     const int high = fcntl(Reading_End(), F_DUPFD_CLOEXEC, FD_SETSIZE + 100);
     ASSERT_GT(high, FD_SETSIZE) << strerror(errno);
     EXPECT_EQ(Wait_For_Descriptor(high, POLLIN, 0.01), Line_Event::Timed_Out);
-    Say("OK");
+    Say_OK();
     EXPECT_EQ(Wait_For_Descriptor(high, POLLIN, -1), Line_Event::Ready);
     close(high);
 }
 
-TEST_F(Wait_For_A_Line, An_Interrupted_Wait_Goes_On_With_What_Remains)
+TEST_F(Wait_For_A_Line, An_Interrupted_Wait_Goes_On_With_What_Remains_And_Still_Finds_Its_Input)
 {
-    const Interruptions interruptions;
+    struct sigaction action = {};
+    struct sigaction action_before = {};
+    action.sa_handler = [](int) { ++Alarms; };
+    sigaction(SIGALRM, &action, &action_before); // without SA_RESTART
+    const itimerval every_two_milliseconds{{0, 2000}, {0, 2000}};
+    setitimer(ITIMER_REAL, &every_two_milliseconds, nullptr);
     const double start = Now_Seconds();
-    EXPECT_EQ(Wait_For_Descriptor(Reading_End(), POLLIN, 0.1), Line_Event::Timed_Out);
+    EXPECT_EQ(Wait_For_Input(0.1), Line_Event::Timed_Out);
     EXPECT_GE(Now_Seconds() - start, 0.1);
     EXPECT_LT(Now_Seconds() - start, 20);
     EXPECT_GT(Alarms, 1);
-}
-
-TEST_F(Wait_For_A_Line, An_Interrupted_Wait_Still_Finds_Its_Input)
-{
-    const Interruptions interruptions;
-    std::thread speaker([this] {
+    std::thread speaker([this, enough = Alarms + 3] {
         sigset_t all;
         sigfillset(&all);
         pthread_sigmask(SIG_BLOCK, &all, nullptr);
-        while (Alarms < 3)
+        while (Alarms < enough)
             std::this_thread::yield();
-        Say("OK");
+        Say_OK();
     });
-    EXPECT_EQ(Wait_For_Descriptor(Reading_End(), POLLIN, -1), Line_Event::Ready);
+    EXPECT_EQ(Wait_For_Input(-1), Line_Event::Ready);
     speaker.join();
+    const itimerval none{};
+    setitimer(ITIMER_REAL, &none, nullptr);
+    sigaction(SIGALRM, &action_before, nullptr);
 }
 
 TEST_F(Wait_For_A_Line, The_Exit_Ends_A_Wait_Without_End)
 {
-    std::thread waiter([this] { EXPECT_EQ(Wait_For_Descriptor(Reading_End(), POLLIN, -1), Line_Event::Timed_Out); });
+    std::thread waiter([this] { EXPECT_EQ(Wait_For_Input(-1), Line_Event::Timed_Out); });
     Begin_Program_Exit();
     waiter.join();
-    EXPECT_EQ(Wait_For_Descriptor(Reading_End(), POLLIN, 3600), Line_Event::Timed_Out);
+    EXPECT_EQ(Wait_For_Input(3600), Line_Event::Timed_Out);
     Forget_Program_Exit();
     EXPECT_FALSE(Program_Is_Exiting());
-    Say("OK");
-    EXPECT_EQ(Wait_For_Descriptor(Reading_End(), POLLIN, 3600), Line_Event::Ready);
+    Say_OK();
+    EXPECT_EQ(Wait_For_Input(3600), Line_Event::Ready);
 }

@@ -2,12 +2,9 @@
 
 #include "support/Data_Folder.h"
 
-#include <QByteArray>
-#include <QString>
 #include <csignal>
 #include <cstdlib>
 #include <functional>
-#include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -15,6 +12,12 @@
 inline QByteArray Golden(const char* name)
 {
     return Bytes_Of(QStringLiteral(CORVANE_TEST_DATA "/stores/") + QLatin1String(name));
+}
+
+inline unsigned Permissions_Of(const QString& path)
+{
+    struct stat found = {};
+    return stat(qPrintable(path), &found) == 0 ? found.st_mode & 07777U : ~0U;
 }
 
 /// Runs a step in a process of its own, without any power over files that are not open to everybody; whether it

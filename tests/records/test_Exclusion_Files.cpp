@@ -1,11 +1,7 @@
-#include "platform/Text_Files.h"
-#include "records/Data_Paths.h"
 #include "records/Exclusion_Files.h"
-#include "support/Data_Folder.h"
 
-#include <QDir>
-#include <QFileInfo>
-#include <sys/stat.h>
+#include "platform/Text_Files.h"
+#include "records/Store_Files.h"
 
 namespace {
 
@@ -25,23 +21,37 @@ Number_List Numbers_Of(const QStringList& texts)
     return numbers;
 }
 
+QStringList Applied_Texts()
+{
+    return Texts_Of(Exclusion_Files::Read_Applied_Numbers().numbers);
+}
+
 class Exclusion_Files_Test : public testing::Test
 {
 protected:
+    static void Expect_No_List_Is_Written(const QString& name)
+    {
+        EXPECT_FALSE(Exclusion_Files::Create_List_If_Missing(name)) << name.toStdString();
+        EXPECT_FALSE(Exclusion_Files::Write_List(name, Numbers_Of({"9"}))) << name.toStdString();
+    }
+
+    static void Expect_Nothing_Is_Written()
+    {
+        EXPECT_FALSE(Exclusion_Files::Append_To_Index("a"));
+        EXPECT_FALSE(Exclusion_Files::Write_Index({"a"}));
+        EXPECT_FALSE(Exclusion_Files::Write_Applied({"a"}));
+        Expect_No_List_Is_Written("a");
+    }
+
     Data_Folder m_data;
 };
 
 TEST_F(Exclusion_Files_Test, A_Lists_Path_Is_Its_Name_With_The_Extension_In_The_Folder)
 {
-    for (const QString& name : {QString("Staff"), QString("a:b"), QString("exlistindex"), QString("a\\b"), QString("."),
-                                QString(".."), QString("a b"), QString::fromUtf8("\xF0\x9F\x98\x80")})
+    for (const QString name : {"Staff", "a:b", "exlistindex", "a\\b", ".", "..", "a b", "\xF0\x9F\x98\x80"})
         EXPECT_EQ(Exclusion_Files::List_Path(name), Exclusion_Folder_Path + "/" + name + ".ZOVA");
-}
-
-TEST_F(Exclusion_Files_Test, A_Name_With_A_Slash_Or_A_Nul_Has_No_Path)
-{
-    for (const QString& name : {QString("../x"), QString("a/b"), QString("/"), QString("/etc/passwd"), QString("x/.."),
-                                QString("a") + QChar(u'\0') + "b", QString(QChar(u'\0'))})
+    for (const QString& name :
+         QStringList{"../x", "a/b", "/", "/etc/passwd", "x/..", "a" + QString(QChar(u'\0')) + "b", QChar(u'\0')})
         EXPECT_FALSE(Exclusion_Files::List_Path(name).has_value()) << name.toStdString();
 }
 
@@ -50,36 +60,26 @@ TEST_F(Exclusion_Files_Test, Nothing_Outside_The_Folder_Is_Touched_Under_Any_Nam
     const QString outside = Corvane_Data_Folder_Path + "/x.ZOVA";
     Write_Bytes(outside, "1\n");
     QDir(Exclusion_Folder_Path).mkpath("sub");
-    Write_Bytes(Exclusion_Folder_Path + "/sub/x.ZOVA", "2\n");
-    for (const QString& name : {QString("../x"), QString("sub/x"), Corvane_Data_Folder_Path + "/x"}) {
-        EXPECT_FALSE(Exclusion_Files::Create_List_If_Missing(name));
-        EXPECT_FALSE(Exclusion_Files::Write_List(name, Numbers_Of({"9"})));
+    Write_Bytes(Path_Of_List("sub/x"), "2\n");
+    Make_List("Staff", "3\n");
+    for (const QString& name :
+         QStringList{"../x", "sub/x", Corvane_Data_Folder_Path + "/x", "Staff" + QString(QChar(u'\0'))}) {
+        Expect_No_List_Is_Written(name);
         EXPECT_EQ(Exclusion_Files::Read_List(name).Count(), 0);
         Exclusion_Files::Delete_List(name);
         Write_Bytes(Applied_Exclusion_Path, name.toUtf8() + "\n");
-        EXPECT_EQ(Exclusion_Files::Read_Applied_Numbers().numbers.Count(), 0);
+        EXPECT_EQ(Applied_Texts(), QStringList());
     }
     EXPECT_EQ(Bytes_Of(outside), "1\n");
-    EXPECT_EQ(Bytes_Of(Exclusion_Folder_Path + "/sub/x.ZOVA"), "2\n");
-}
-
-TEST_F(Exclusion_Files_Test, A_Nul_In_A_Name_Does_Not_Lead_To_The_List_Before_It)
-{
-    Make_List("Staff", "1\n");
-    const QString name = QString("Staff") + QChar(u'\0');
-    EXPECT_EQ(Exclusion_Files::Read_List(name).Count(), 0);
-    Exclusion_Files::Delete_List(name);
-    EXPECT_FALSE(Exclusion_Files::Write_List(name, Numbers_Of({"9"})));
-    EXPECT_EQ(Bytes_Of(Path_Of_List("Staff")), "1\n");
+    EXPECT_EQ(Bytes_Of(Path_Of_List("sub/x")), "2\n");
+    EXPECT_EQ(Bytes_Of(Path_Of_List("Staff")), "3\n") << "a NUL in a name does not lead to the list before it";
 }
 
 TEST_F(Exclusion_Files_Test, The_Files_Are_Written_Byte_For_Byte)
 {
     EXPECT_TRUE(Exclusion_Files::Append_To_Index("Staff"));
-    EXPECT_TRUE(Exclusion_Files::Append_To_Index(QString::fromUtf8("K\xC3\xBC"
-                                                                   "che \xF0\x9F\x98\x80")));
-    EXPECT_EQ(Bytes_Of(Exclusion_Index_Path), "Staff\nK\xC3\xBC"
-                                              "che \xF0\x9F\x98\x80\n");
+    EXPECT_TRUE(Exclusion_Files::Append_To_Index("Küche \xF0\x9F\x98\x80"));
+    EXPECT_EQ(Bytes_Of(Exclusion_Index_Path), "Staff\nKüche \xF0\x9F\x98\x80\n");
     EXPECT_TRUE(Exclusion_Files::Write_Index({"b", "a"}));
     EXPECT_EQ(Bytes_Of(Exclusion_Index_Path), "b\na\n");
     EXPECT_TRUE(Exclusion_Files::Write_Index({}));
@@ -90,28 +90,20 @@ TEST_F(Exclusion_Files_Test, The_Files_Are_Written_Byte_For_Byte)
     EXPECT_EQ(Bytes_Of(Path_Of_List("a")), "004912\n7\n7\n");
     EXPECT_TRUE(Exclusion_Files::Write_List("a", {}));
     EXPECT_EQ(Bytes_Of(Path_Of_List("a")), "");
-    struct stat found = {};
-    ASSERT_EQ(stat(Path_Of_List("a").toUtf8().constData(), &found), 0);
-    EXPECT_EQ(found.st_mode & 07777, 0777u);
+    EXPECT_EQ(Permissions_Of(Path_Of_List("a")), 0777U);
 }
 
 TEST_F(Exclusion_Files_Test, The_Golden_Files_Read_As_They_Were_Meant)
 {
-    const QString golden = QStringLiteral(CORVANE_TEST_DATA "/exclusion/");
-    QFile::remove(Exclusion_Index_Path);
-    QFile::remove(Applied_Exclusion_Path);
-    ASSERT_TRUE(QFile::copy(golden + "ExListIndex.ZOVA", Exclusion_Index_Path));
-    ASSERT_TRUE(QFile::copy(golden + "AppExclusion.ZOVA", Applied_Exclusion_Path));
-    ASSERT_TRUE(QFile::copy(golden + "Staff.ZOVA", Path_Of_List("Staff")));
-    ASSERT_TRUE(QFile::copy(golden + "Customers.ZOVA", Path_Of_List("Customers")));
-    const QStringList names = {"Staff", "Customers",
-                               QString::fromUtf8("K\xC3\xBC"
-                                                 "che")};
-    EXPECT_EQ(Exclusion_Files::Read_Index(), names);
+    const QString golden = CORVANE_TEST_DATA "/exclusion/";
+    Write_Bytes(Exclusion_Index_Path, Bytes_Of(golden + "ExListIndex.ZOVA"));
+    Write_Bytes(Applied_Exclusion_Path, Bytes_Of(golden + "AppExclusion.ZOVA"));
+    for (const char* name : {"Staff", "Customers"})
+        Write_Bytes(Path_Of_List(name), Bytes_Of(golden + name + ".ZOVA"));
+    EXPECT_EQ(Exclusion_Files::Read_Index(), QStringList({"Staff", "Customers", "Küche"}));
     EXPECT_EQ(Exclusion_Files::Read_Applied(), QStringList({"Customers", "Staff"}));
     EXPECT_EQ(Texts_Of(Exclusion_Files::Read_List("Staff")), QStringList({"00447700900123", "12345"}));
-    EXPECT_EQ(Texts_Of(Exclusion_Files::Read_Applied_Numbers().numbers),
-              QStringList({"12345", "00491701234567", "00447700900123", "12345"}));
+    EXPECT_EQ(Applied_Texts(), QStringList({"12345", "00491701234567", "00447700900123", "12345"}));
 
     EXPECT_TRUE(Exclusion_Files::Write_Index(Exclusion_Files::Read_Index()));
     EXPECT_TRUE(Exclusion_Files::Write_Applied(Exclusion_Files::Read_Applied()));
@@ -164,19 +156,30 @@ TEST_F(Exclusion_Files_Test, An_Applied_List_That_Is_There_And_Excludes_Nobody_I
     EXPECT_TRUE(applied.is_readable);
 }
 
-TEST_F(Exclusion_Files_Test, Applied_Names_That_Can_Not_Be_Read_Are_Told_And_Missing_Ones_Are_Not)
+TEST_F(Exclusion_Files_Test, What_Can_Not_Be_Read_Reads_As_Empty_And_What_Is_Missing_Is_Not_Told)
 {
-    QFile::remove(Applied_Exclusion_Path);
+    for (const QString& path : {Exclusion_Index_Path, Applied_Exclusion_Path})
+        ASSERT_TRUE(QFile::remove(path));
+    EXPECT_EQ(Exclusion_Files::Read_Index(), QStringList());
     EXPECT_TRUE(Exclusion_Files::Read_Applied_Numbers().is_readable);
-    Write_Bytes(Applied_Exclusion_Path, "Staff\n\xFF\n");
+    for (const QString& path : {Exclusion_Index_Path, Applied_Exclusion_Path})
+        Write_Bytes(path, "Staff\n\xFF\n");
+    EXPECT_EQ(Exclusion_Files::Read_Index(), QStringList());
     EXPECT_FALSE(Exclusion_Files::Read_Applied_Numbers().is_readable);
     Put_A_Folder_At(Applied_Exclusion_Path);
+    EXPECT_EQ(Exclusion_Files::Read_Applied(), QStringList());
+    EXPECT_EQ(Applied_Texts(), QStringList());
     EXPECT_FALSE(Exclusion_Files::Read_Applied_Numbers().is_readable);
+    ASSERT_EQ(mkfifo(qPrintable(Path_Of_List("pipe")), 0600), 0);
+    ASSERT_TRUE(QFile::link(Path_Of_List("loop"), Path_Of_List("loop")));
+    for (const char* name : {"pipe", "loop", "missing"})
+        EXPECT_EQ(Exclusion_Files::Read_List(name).Count(), 0) << name;
 }
 
 TEST_F(Exclusion_Files_Test, A_File_That_Can_Not_Be_Read_At_All_Is_Not_Written_Over)
 {
-    for (const QString& path : {Exclusion_Index_Path, Applied_Exclusion_Path, Path_Of_List("Staff")}) {
+    const QString paths[]{Exclusion_Index_Path, Applied_Exclusion_Path, Path_Of_List("Staff")};
+    for (const QString& path : paths) {
         Write_Bytes(path, "Staff\n");
         ASSERT_TRUE(QFile::resize(path, (qint64{2} << 30) + 1)); // larger than what is ever read
     }
@@ -184,57 +187,28 @@ TEST_F(Exclusion_Files_Test, A_File_That_Can_Not_Be_Read_At_All_Is_Not_Written_O
     EXPECT_FALSE(Exclusion_Files::Write_List("Staff", Numbers_Of({"1"})));
     EXPECT_FALSE(Exclusion_Files::Write_Index({"New"}));
     EXPECT_FALSE(Exclusion_Files::Write_Applied({"New"}));
-    for (const QString& path : {Exclusion_Index_Path, Applied_Exclusion_Path, Path_Of_List("Staff")})
+    for (const QString& path : paths)
         EXPECT_EQ(QFileInfo(path).size(), (qint64{2} << 30) + 1);
-}
-
-TEST_F(Exclusion_Files_Test, What_Can_Not_Be_Read_Reads_As_Empty)
-{
-    QFile::remove(Exclusion_Index_Path);
-    EXPECT_EQ(Exclusion_Files::Read_Index(), QStringList());
-    Write_Bytes(Exclusion_Index_Path, "Staff\n\xFF\n");
-    EXPECT_EQ(Exclusion_Files::Read_Index(), QStringList()) << "not UTF-8";
-    Put_A_Folder_At(Applied_Exclusion_Path);
-    EXPECT_EQ(Exclusion_Files::Read_Applied(), QStringList());
-    EXPECT_EQ(Exclusion_Files::Read_Applied_Numbers().numbers.Count(), 0);
-    ASSERT_EQ(mkfifo(Path_Of_List("pipe").toUtf8().constData(), 0600), 0);
-    EXPECT_EQ(Exclusion_Files::Read_List("pipe").Count(), 0);
-    ASSERT_TRUE(QFile::link(Path_Of_List("loop"), Path_Of_List("loop")));
-    EXPECT_EQ(Exclusion_Files::Read_List("loop").Count(), 0);
-    EXPECT_EQ(Exclusion_Files::Read_List("missing").Count(), 0);
 }
 
 TEST_F(Exclusion_Files_Test, What_Is_No_File_Can_Not_Be_Written_And_Stays)
 {
-    Put_A_Folder_At(Exclusion_Index_Path);
-    Put_A_Folder_At(Applied_Exclusion_Path);
-    Put_A_Folder_At(Path_Of_List("a"));
+    for (const QString& path : {Exclusion_Index_Path, Applied_Exclusion_Path, Path_Of_List("a")})
+        Put_A_Folder_At(path);
     EXPECT_TRUE(Exclusion_Files::Index_Exists());
-    EXPECT_FALSE(Exclusion_Files::Append_To_Index("a"));
-    EXPECT_FALSE(Exclusion_Files::Write_Index({"a"}));
-    EXPECT_FALSE(Exclusion_Files::Write_Applied({"a"}));
-    EXPECT_FALSE(Exclusion_Files::Write_List("a", {}));
-    EXPECT_FALSE(Exclusion_Files::Create_List_If_Missing("a"));
+    Expect_Nothing_Is_Written();
     Exclusion_Files::Delete_List("a");
     EXPECT_TRUE(QFileInfo(Path_Of_List("a")).isDir());
-    ASSERT_EQ(mkfifo(Path_Of_List("pipe").toUtf8().constData(), 0600), 0);
-    EXPECT_FALSE(Exclusion_Files::Write_List("pipe", {}));
-    EXPECT_FALSE(Exclusion_Files::Create_List_If_Missing("pipe"));
-}
+    ASSERT_EQ(mkfifo(qPrintable(Path_Of_List("pipe")), 0600), 0);
+    Expect_No_List_Is_Written("pipe");
 
-TEST_F(Exclusion_Files_Test, A_Data_Folder_That_Has_Become_A_File_Takes_Nothing)
-{
     ASSERT_TRUE(QDir(Corvane_Data_Folder_Path).removeRecursively());
-    Write_Bytes(Corvane_Data_Folder_Path, "");
+    Write_Bytes(Corvane_Data_Folder_Path, "in the way");
     Check_Path_And_Create_Files();
     EXPECT_FALSE(Exclusion_Files::Index_Exists());
-    EXPECT_FALSE(Exclusion_Files::Append_To_Index("a"));
-    EXPECT_FALSE(Exclusion_Files::Write_Index({"a"}));
-    EXPECT_FALSE(Exclusion_Files::Write_Applied({"a"}));
-    EXPECT_FALSE(Exclusion_Files::Write_List("a", {}));
-    EXPECT_FALSE(Exclusion_Files::Create_List_If_Missing("a"));
+    Expect_Nothing_Is_Written();
     EXPECT_EQ(Exclusion_Files::Read_Index(), QStringList());
-    EXPECT_EQ(Exclusion_Files::Read_Applied_Numbers().numbers.Count(), 0);
+    EXPECT_EQ(Applied_Texts(), QStringList());
 }
 
 TEST_F(Exclusion_Files_Test, A_Missing_List_Is_Made_Empty_And_An_Existing_One_Is_Left_As_It_Is)
@@ -251,49 +225,31 @@ TEST_F(Exclusion_Files_Test, A_Missing_List_Is_Made_Empty_And_An_Existing_One_Is
 
 TEST_F(Exclusion_Files_Test, What_Can_Not_Be_Read_Is_Kept_Beside_The_File_Before_It_Is_Replaced)
 {
-    const QString list = *Exclusion_Files::List_Path("Staff");
-    for (const QString& path : {Exclusion_Index_Path, Applied_Exclusion_Path, list})
+    const QString paths[]{Exclusion_Index_Path, Applied_Exclusion_Path, Path_Of_List("Staff")};
+    for (const QString& path : paths)
         Write_Bytes(path, "Staff\n\xff\n");
-    EXPECT_EQ(Exclusion_Files::Read_Index(), QStringList());
     EXPECT_TRUE(Exclusion_Files::Write_Index({"New"}));
     EXPECT_TRUE(Exclusion_Files::Write_Applied({"New"}));
     EXPECT_TRUE(Exclusion_Files::Write_List("Staff", Numbers_Of({"1"})));
     EXPECT_EQ(Bytes_Of(Exclusion_Index_Path), "New\n");
-    for (const QString& path : {Exclusion_Index_Path, Applied_Exclusion_Path, list})
+    for (const QString& path : paths)
         EXPECT_EQ(Bytes_Of(Kept_Path(path)), "Staff\n\xff\n");
     EXPECT_TRUE(Exclusion_Files::Write_Index({"Other"})); // what can be read is not kept, and what was kept stays
     EXPECT_EQ(Bytes_Of(Kept_Path(Exclusion_Index_Path)), "Staff\n\xff\n");
 }
 
-TEST_F(Exclusion_Files_Test, Two_Applied_Lists_That_Share_A_Number_Give_It_Twice)
-{
-    Make_List("a", "1\n2\n");
-    Make_List("b", "2\n3\n");
-    Write_Bytes(Applied_Exclusion_Path, "b\na\n");
-    const auto numbers = Exclusion_Files::Read_Applied_Numbers().numbers;
-    EXPECT_EQ(Texts_Of(numbers), QStringList({"2", "3", "1", "2"}));
-    EXPECT_EQ(numbers.Count_Of("2"), 2);
-}
-
-TEST_F(Exclusion_Files_Test, An_Applied_Name_Without_A_File_And_An_Empty_One_Contribute_Nothing)
-{
-    Make_List("a", "1\n");
-    Write_Bytes(Path_Of_List(""), "666\n");
-    Write_Bytes(Applied_Exclusion_Path, "gone\n\na\n");
-    EXPECT_EQ(Texts_Of(Exclusion_Files::Read_Applied_Numbers().numbers), QStringList("1"));
-}
-
-TEST_F(Exclusion_Files_Test, Applied_Numbers_Are_Trimmed_But_Applied_Names_Are_Not)
+TEST_F(Exclusion_Files_Test, Applied_Lists_Give_Their_Trimmed_Numbers_One_After_The_Other_Repeats_Included)
 {
     Make_List("a", "1\r\n 2 \r\n\r\n");
-    Write_Bytes(Applied_Exclusion_Path, "a\n");
-    EXPECT_EQ(Texts_Of(Exclusion_Files::Read_Applied_Numbers().numbers), QStringList({"1", "2"}));
+    Make_List("b", "2\n3\n");
+    Write_Bytes(Path_Of_List(""), "666\n");
+    Write_Bytes(Applied_Exclusion_Path, "b\ngone\n\na"); // without a file, without a name, without a line end
+    EXPECT_EQ(Applied_Texts(), QStringList({"2", "3", "1", "2"}));
+    EXPECT_EQ(Exclusion_Files::Read_Applied_Numbers().numbers.Count_Of("2"), 2);
     Write_Bytes(Applied_Exclusion_Path, "a\r\n a\na \n");
-    EXPECT_EQ(Exclusion_Files::Read_Applied_Numbers().numbers.Count(), 0);
+    EXPECT_EQ(Applied_Texts(), QStringList()) << "their names are not trimmed";
     Write_Bytes(Path_Of_List(" a"), "7\n");
-    EXPECT_EQ(Texts_Of(Exclusion_Files::Read_Applied_Numbers().numbers), QStringList("7"));
-    Write_Bytes(Applied_Exclusion_Path, "a");
-    EXPECT_EQ(Exclusion_Files::Read_Applied_Numbers().numbers.Count(), 2) << "without a line end";
+    EXPECT_EQ(Applied_Texts(), QStringList("7"));
 }
 
 } // namespace

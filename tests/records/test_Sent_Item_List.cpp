@@ -5,8 +5,6 @@
 #include "records/Sent_Item_Format.h"
 #include "records/Store_Files.h"
 
-#include <random>
-
 namespace {
 
 /// What the file's records are, read as one text.
@@ -33,50 +31,11 @@ QByteArray Numbered(int first, int last)
     return lines;
 }
 
-class Random_Lines
-{
-public:
-    explicit Random_Lines(unsigned seed) : m_random(seed) {}
-
-    unsigned Below(unsigned limit) { return static_cast<unsigned>(m_random() % limit); }
-
-    QByteArray Text(const QByteArrayList& pieces, unsigned longest)
-    {
-        QByteArray text;
-        for (unsigned left = Below(longest + 1); left > 0; --left)
-            text += pieces.at(static_cast<qsizetype>(Below(static_cast<unsigned>(pieces.size()))));
-        return text;
-    }
-
-private:
-    std::mt19937 m_random;
-};
-
-const QByteArrayList& Harmless_Pieces()
-{
-    static const QByteArrayList pieces{"1",
-                                       "+",
-                                       "a",
-                                       " ",
-                                       "\t",
-                                       "\r",
-                                       "|",
-                                       "/",
-                                       "|AP*",
-                                       "DX/",
-                                       "|AP*|DX/",
-                                       "\xc3\xbc",
-                                       "\xe2\x82\xac",
-                                       "\xef\xbb\xbf",
-                                       "\xc2\xa0",
-                                       "\xc2\x85",
-                                       "\xe2\x80\xa8",
-                                       "\xf0\x9f\x98\x80",
-                                       QByteArray(1, '\0'),
-                                       "\x1c",
-                                       "\x7f"};
-    return pieces;
-}
+const QByteArrayList Harmless_Pieces =
+    QByteArray("1,+,a, ,\t,\r,|,/,|AP*,DX/,|AP*|DX/,\xc3\xbc,\xe2\x82\xac,\xef\xbb\xbf,\xc2\xa0,\xc2\x85,"
+               "\xe2\x80\xa8,\xf0\x9f\x98\x80,\x1c,\x7f")
+        .split(',') +
+    QByteArrayList{QByteArray(1, '\0')};
 
 TEST(Sent_Item_List, The_Sample_File_Is_Read_And_Written_As_It_Is)
 {
@@ -89,68 +48,41 @@ TEST(Sent_Item_List, The_Sample_File_Is_Read_And_Written_As_It_Is)
 
 TEST(Sent_Item_List, Odd_Files_Are_Read_As_Their_Text_Is)
 {
-    const QByteArrayList files{"",
-                               "\n\n\n",
-                               "\a1\vm\ad\v",
-                               "\a1\vm\ad\v\n\a2\vm\ad\v",
-                               "\a1\vm\ad\vs\n",
-                               "\a1\vm\ad\v s \r\n",
-                               "\a1\vm\ad\v\r\n\a2\vm\ad\v\r\n",
-                               "\a 12 3 \v  m  \a d \v s \n",
-                               "\a\vm\ad\v\n",
-                               "\a  \vm\ad\v\n",
-                               "\a|AP*|DX/\vm\ad\v\n",
-                               "\a|AP*|DX/1|AP*|DX/\vm\ad\v|AP*|DX/\n",
-                               "\a1|AP*|DX/2\vm\ad\v\n",
-                               "\a\xc2\xa0\vm\ad\v\n",
-                               "\a\xc2\xa0"
-                               "5\xc2\xa0\vm\ad\v\n",
-                               "\xef\xbb\xbf\a1\vm\ad\v\n",
-                               "\a\xef\xbb\xbf"
-                               "1\v\xef\xbb\xbfm\a\xef\xbb\xbf\v\xef\xbb\xbf\n",
-                               "  \a1\vm\ad\v\n",
-                               "\a1\vm1\ad1\vs1\a2\vm2\ad2\vs2\n\a3\vm\ad\v\n",
-                               "\a1\vm1\ad1\vs1\a2\vm2\ad2\v\n",
-                               "\a\vm\ad\vs\a\a7\n",
-                               "\a1\vbell \a here\ad\v\n\a2\vtab \v here\ad\v\n",
-                               "\a1\v\a\v\n",
-                               "\a1\v\v\a\v\n",
-                               "\a\a1\vm\ad\v\n",
-                               "\a1\vm\ad\n",
-                               "\a1\vm\n",
-                               "\a1\n",
-                               "just text\n\vand more\n"};
-    for (const QByteArray& file : files)
+    const QByteArray files =
+        "~\n\n\n~\a1\vm\ad\v~\a1\vm\ad\v\n\a2\vm\ad\v~\a1\vm\ad\vs\n~\a1\vm\ad\v s \r\n~\a1\vm\ad\v\r\n\a2\vm\ad\v\r\n"
+        "~\a 12 3 \v  m  \a d \v s \n~\a\vm\ad\v\n~\a  \vm\ad\v\n~\a|AP*|DX/\vm\ad\v\n~\a1|AP*|DX/2\vm\ad\v\n"
+        "~\a|AP*|DX/1|AP*|DX/\vm\ad\v|AP*|DX/\n~\a\xc2\xa0\vm\ad\v\n~\a\xc2\xa0+\xc2\xa0\vm\ad\v\n"
+        "~\xef\xbb\xbf\a1\vm\ad\v\n~\a\xef\xbb\xbf+\v\xef\xbb\xbfm\a\xef\xbb\xbf\v\xef\xbb\xbf\n~  \a1\vm\ad\v\n"
+        "~\a1\vm1\ad1\vs1\a2\vm2\ad2\vs2\n\a3\vm\ad\v\n~\a1\vm1\ad1\vs1\a2\vm2\ad2\v\n~\a\vm\ad\vs\a\a7\n"
+        "~\a1\vbell \a here\ad\v\n\a2\vtab \v here\ad\v\n~\a1\v\a\v\n~\a1\v\v\a\v\n~\a\a1\vm\ad\v\n"
+        "~\a1\vm\ad\n~\a1\vm\n~\a1\n~just text\n\vand more\n";
+    for (const QByteArray& file : files.split('~'))
         Expect_Same(file);
+    for (const int size : {65'530, 65'536, 70'000, 1 << 20})
+        Expect_Same("\a1\v" + QByteArray(size, 'x') + "|AP*|DX/\ad\v\n\a2\vm\ad\v\n");
 }
 
 TEST(Sent_Item_List, Any_Lines_Are_Read_As_Their_Text_Is)
 {
-    Random_Lines random(2024);
-    QByteArrayList pieces = Harmless_Pieces();
+    Random_Pieces random(2024);
+    QByteArrayList pieces = Harmless_Pieces;
     pieces += {"\a", "\a", "\v", "\v", "\n", "\a1\vm\ad\v\n"};
     for (int round = 0; round < 20'000; ++round)
-        ASSERT_NO_FATAL_FAILURE(Expect_Same(random.Text(pieces, 24))) << "round " << round;
+        ASSERT_NO_FATAL_FAILURE(Expect_Same(random.Some_Of(pieces, 24))) << "round " << round;
 }
 
 TEST(Sent_Item_List, Lines_With_All_Their_Separators_Are_Read_As_Their_Text_Is)
 {
-    Random_Lines random(7);
+    Random_Pieces random(7);
     for (int round = 0; round < 5'000; ++round) {
         QByteArray file;
         for (unsigned line = random.Below(5); line > 0; --line) {
             for (const char separator : {'\a', '\v', '\a', '\v'})
-                file += separator + random.Text(Harmless_Pieces(), separator == '\a' ? 4 : 10);
+                file += separator + random.Some_Of(Harmless_Pieces, separator == '\a' ? 4 : 10);
             file += line > 1 || random.Below(4) > 0 ? "\n" : "";
         }
         ASSERT_NO_FATAL_FAILURE(Expect_Same(file)) << "round " << round;
     }
-}
-
-TEST(Sent_Item_List, A_Long_Line_Is_Read_As_Its_Text_Is)
-{
-    for (const int size : {65'530, 65'536, 70'000, 1 << 20})
-        Expect_Same("\a1\v" + QByteArray(size, 'x') + "|AP*|DX/\ad\v\n\a2\vm\ad\v\n");
 }
 
 TEST(Sent_Item_List, Rows_Leave_It_And_The_Others_Stay)
@@ -207,22 +139,14 @@ TEST(Sent_Item_List, The_First_Rows_Are_Handed_On_Early_And_Once)
 
 TEST(Sent_Item_List, Bytes_That_Are_No_Utf_8_Are_Known_Without_Their_Text)
 {
-    Random_Lines random(11);
-    QByteArrayList pieces = Harmless_Pieces();
-    pieces += {"\x80",
-               "\xc3",
-               "\xe2\x82",
-               "\xf0\x9f\x98",
-               "\xff",
-               "\xc0\x80",
-               "\xed\xa0\x80",
-               "\xf4\x90\x80\x80",
-               "\xef\xbf\xbf",
-               "\xf4\x8f\xbf\xbf",
-               QByteArray(40, 'x')};
+    Random_Pieces random(11);
+    QByteArrayList pieces = Harmless_Pieces;
+    pieces += QByteArray("\x80 \xc3 \xe2\x82 \xf0\x9f\x98 \xff \xc0\x80 \xed\xa0\x80 \xf4\x90\x80\x80 \xef\xbf\xbf "
+                         "\xf4\x8f\xbf\xbf xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx")
+                  .split(' ');
     int valid = 0;
     for (int round = 0; round < 20'000; ++round) {
-        const QByteArray bytes = random.Text(pieces, 5);
+        const QByteArray bytes = random.Some_Of(pieces, 5);
         ASSERT_EQ(Is_Valid_Utf8(bytes), Decode_Utf8(bytes).has_value()) << bytes.toHex(' ').constData();
         valid += Is_Valid_Utf8(bytes) ? 1 : 0;
     }
