@@ -62,14 +62,12 @@ protected:
 
 TEST_F(Send_Checks_Test, An_Order_Holds_Everything_The_Job_Works_From)
 {
-    m_window.m_exclusions.Append(QStringLiteral("9"));
     m_window.m_choices.flash = true;
     const auto order = Take_Send_Order(m_window);
     ASSERT_TRUE(order);
     EXPECT_EQ(order->device_path, QStringLiteral("/dev/ttyUSB0"));
     EXPECT_EQ(order->service_centre, QStringLiteral("+15551112222"));
     EXPECT_EQ(order->recipients.Count(), 1);
-    EXPECT_EQ(order->exclusions.Count(), 1);
     EXPECT_TRUE(order->choices.flash);
     EXPECT_EQ(Message_IS, QStringLiteral("composed"));
     EXPECT_EQ(m_window.m_previous_message, QStringLiteral("composed"));
