@@ -27,7 +27,6 @@ Descriptor Opened_Other_End(const std::string& path)
 
 void Pty_Line::Open()
 {
-    m_kept_number.Close();
     Descriptor master(::posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC));
     if (!master.Is_Open())
         Throw_Error("no pseudo-terminal");
@@ -46,8 +45,6 @@ void Pty_Line::Open()
 
 void Pty_Line::Close()
 {
-    if (Is_Open())
-        m_kept_number = Opened_Other_End(m_path);
     m_master.Close();
     m_path.clear();
 }

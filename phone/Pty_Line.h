@@ -8,17 +8,15 @@
 
 namespace Handset {
 
-/// The phone's end of a pseudo-terminal. Never blocks. While it is open it holds no descriptor of the other end, so
-/// that exclusive use, hang-up and the last close work as on a real device. Owned by Virtual_Phone, used under its
-/// lock.
+/// The phone's end of a pseudo-terminal. Never blocks. It holds no descriptor of the other end, so that exclusive use,
+/// hang-up and the last close work as on a real device. Owned by Virtual_Phone, used under its lock.
 class Pty_Line
 {
 public:
     /// Throws std::system_error when the system gives no pseudo-terminal.
     void Open();
 
-    /// The cable is pulled: the other end reads 0 bytes or EIO from now on. Its path leads nowhere until the line is
-    /// opened again or goes: no other line on this computer gets its number.
+    /// The cable is pulled: the other end reads 0 bytes or EIO from now on.
     void Close();
 
     bool Is_Open() const { return m_master.Is_Open(); }
@@ -43,7 +41,6 @@ public:
 
 private:
     Descriptor m_master;
-    Descriptor m_kept_number; // of a closed line: the other end, which nobody can talk to any more
     std::string m_path;
     bool m_is_stopped = false;
 };

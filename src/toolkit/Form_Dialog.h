@@ -21,7 +21,7 @@ public:
 
     void reject() override
     {
-        if constexpr (requires(Self& self) { self.CancelPressed(); })
+        if constexpr (requires(Self & self) { self.CancelPressed(); })
             static_cast<Self*>(this)->CancelPressed();
         else
             QDialog::reject();

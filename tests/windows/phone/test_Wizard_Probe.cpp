@@ -261,6 +261,7 @@ TEST_F(Wizard_Test, A_Phone_That_Is_Gone_Since_The_Search_Cannot_Be_Opened)
 TEST_F(Wizard_Test, A_Hang_Up_During_A_Probe_Ends_It_With_What_Was_Told)
 {
     Virtual_Phone phone;
+    const Kept_Number kept(phone);
     Plug_In(phone);
     Run([&] {
         const int before = Sheets_So_Far();
