@@ -9,17 +9,13 @@ namespace {
 Skip_Reason Scanned_Reason(const Send_Order& order, int index)
 {
     const QString number = order.recipients.At(index).Number;
-    if (order.choices.exclusion) {
-        for (int row = 0; row < order.exclusions.Count(); ++row) {
-            if (order.exclusions.At(row) == number)
-                return Skip_Reason::Excluded;
-        }
+    for (int row = 0; order.choices.exclusion && row < order.exclusions.Count(); ++row) {
+        if (order.exclusions.At(row) == number)
+            return Skip_Reason::Excluded;
     }
-    if (order.choices.skip_duplicates) {
-        for (int row = 0; row < index; ++row) {
-            if (order.recipients.At(row).Number == number)
-                return Skip_Reason::Repeated;
-        }
+    for (int row = 0; order.choices.skip_duplicates && row < index; ++row) {
+        if (order.recipients.At(row).Number == number)
+            return Skip_Reason::Repeated;
     }
     return Skip_Reason::None;
 }
@@ -42,28 +38,16 @@ TEST(Send_Order, The_Look_Ups_Answer_Exactly_As_Scans_Do)
     }
 }
 
-TEST(Send_Order, An_Excluded_Number_Is_Excluded_Before_It_Is_Repeated)
+TEST(Send_Order, Only_The_Exact_Number_Is_The_Same_And_It_Is_Excluded_Before_It_Is_Repeated)
 {
     Send_Order order;
-    order.choices.exclusion = true;
-    order.choices.skip_duplicates = true;
-    order.recipients.Append(QStringLiteral("1"), QString());
-    order.recipients.Append(QStringLiteral("1"), QString());
-    order.exclusions.Append(QStringLiteral("1"));
-    EXPECT_EQ(Reason_To_Skip(order, 0), Skip_Reason::Excluded);
-    EXPECT_EQ(Reason_To_Skip(order, 1), Skip_Reason::Excluded);
-}
-
-TEST(Send_Order, Only_The_Exact_Number_Is_The_Same)
-{
-    Send_Order order;
-    order.choices.exclusion = true;
-    order.choices.skip_duplicates = true;
-    for (const char* number : {"+4912", "004912", "4912", "4912,1"})
-        order.recipients.Append(QLatin1String(number), QString());
-    order.exclusions.Append(QStringLiteral("12"));
+    order.choices.exclusion = order.choices.skip_duplicates = true;
+    for (const char* number : {"+4912", "004912", "4912", "4912,1", "1", "1"})
+        order.recipients.Append(number, QString());
+    order.exclusions.Append("12");
+    order.exclusions.Append("1");
     for (int index = 0; index < order.recipients.Count(); ++index)
-        EXPECT_EQ(Reason_To_Skip(order, index), Skip_Reason::None);
+        EXPECT_EQ(Reason_To_Skip(order, index), index < 4 ? Skip_Reason::None : Skip_Reason::Excluded) << index;
 }
 
 } // namespace

@@ -1,13 +1,7 @@
 #include "windows/main/Line_Test.h"
 
-#include "device/Chosen_Device.h"
-#include "platform/Waiting.h"
-#include "records/Data_Paths.h"
-
 #include <QDir>
-#include <QFile>
 #include <fcntl.h>
-#include <gmock/gmock.h>
 #include <termios.h>
 #include <unistd.h>
 
@@ -54,8 +48,8 @@ const char* const Session_Lines[] = {"Write \"", "Standard SMS ", "Long SMS ", "
 std::vector<Line_Item> Line_Items(const Line_Way& way)
 {
     const int length = !way.is_long ? 14 : way.unicode ? 100 : 200;
-    return {{QStringLiteral("07700900123"), Numbered_Text(QStringLiteral("one"), way.unicode, length)},
-            {QStringLiteral("07700900456"), Numbered_Text(QStringLiteral("two"), way.unicode, length)}};
+    return {{"07700900123", Numbered_Text("one", way.unicode, length)},
+            {"07700900456", Numbered_Text("two", way.unicode, length)}};
 }
 
 Line_Test::Line_Test(const Phone_Moods& moods, const Line_Way& way)
@@ -78,10 +72,7 @@ void Line_Test::Bear_With_A_Talker()
 {
     Make_Raw(m_phone.Path());
     Set_Pace(Preparing_A_Talker);
-    m_progress.m_at_step = [](const QString& step) {
-        if (step == QStringLiteral("sending"))
-            Set_Pace(Sending_To_A_Talker);
-    };
+    At_Step("sending", [] { Set_Pace(Sending_To_A_Talker); });
 }
 
 void Line_Test::Link()
@@ -125,7 +116,7 @@ QString Line_Test::Text_Of(Line_Box box)
 
 void Line_Test::Send_With_One_Box()
 {
-    m_user.Will_Press(QStringLiteral("OK"));
+    m_user.Will_Press("OK");
     Send();
     Expect_The_Line_Free();
     Expect_The_List_As_It_Was();
@@ -162,29 +153,25 @@ QStringList Line_Test::Session_Log() const
 {
     QStringList lines;
     for (const std::string& text : m_log.All()) {
-        const QString line = QString::fromStdString(text);
-        const bool is_of_session =
-            std::any_of(std::begin(Session_Lines), std::end(Session_Lines),
-                        [&](const char* beginning) { return line.startsWith(QLatin1String(beginning)); });
-        const bool is_pdu = !m_way.text_mode && line.startsWith(QLatin1String("Write \"00"));
-        if (is_of_session)
-            lines.append(is_pdu ? QStringLiteral("Write \"PDU\"\n") : line);
+        const bool is_pdu = !m_way.text_mode && text.starts_with("Write \"00");
+        if (std::any_of(std::begin(Session_Lines), std::end(Session_Lines),
+                        [&](const char* beginning) { return text.starts_with(beginning); }))
+            lines.append(is_pdu ? "Write \"PDU\"\n" : QString::fromStdString(text));
     }
     return lines;
 }
 
 void Line_Test::Expect_Records(int items)
 {
-    const QByteArray date = Today().toString(QStringLiteral("dd/MM/yyyy")).toUtf8();
     m_records.clear();
-    m_templates.clear();
+    QByteArray templates;
     for (int item = 0; item < items; ++item) {
         const Line_Item& sent = m_items.at(static_cast<std::size_t>(item));
-        m_records += "\a" + sent.number.toUtf8() + "\v" + sent.message.toUtf8() + "\a" + date + "\v\n";
-        m_templates += sent.message.toUtf8() + "\n";
+        m_records += Record(sent.number, sent.message);
+        templates += sent.message.toUtf8() + "\n";
     }
     EXPECT_EQ(Bytes_Of(Sent_Item_Path), m_records);
-    EXPECT_EQ(Bytes_Of(Templates_Path), m_templates);
+    EXPECT_EQ(Bytes_Of(Templates_Path), templates);
 }
 
 void Line_Test::Expect_The_List_As_It_Was()
@@ -209,19 +196,13 @@ void Line_Test::Expect_The_Line_Free()
 
 void Line_Test::Expect_The_Next_Job_To_Work()
 {
-    const QString number = QStringLiteral("07700900789");
-    const QString message = QStringLiteral("ready");
     m_window.m_recipients.Clear();
     m_window.m_choices.unicode = false;
-    Add(number, message);
-    m_user.Will_Press(QStringLiteral("OK"));
-    Send();
-    EXPECT_EQ(m_user.Was_Shown().last(), Completed);
-    EXPECT_EQ(Received(), QStringList(number + ": " + message));
+    Add("07700900789", "ready");
+    Send_And_Read({Completed});
+    EXPECT_EQ(Received(), QStringList("07700900789: ready"));
     EXPECT_EQ(m_phone.Heard().size(), 7U);
-    const QByteArray date = Today().toString(QStringLiteral("dd/MM/yyyy")).toUtf8();
-    EXPECT_EQ(Bytes_Of(Sent_Item_Path),
-              m_records + "\a" + number.toUtf8() + "\v" + message.toUtf8() + "\a" + date + "\v\n");
+    EXPECT_EQ(Bytes_Of(Sent_Item_Path), m_records + Record("07700900789", "ready"));
     Expect_The_Line_Free();
 }
 

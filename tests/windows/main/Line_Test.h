@@ -39,7 +39,7 @@ protected:
     /// The same runner sends to the same phone.
     void Expect_The_Next_Job_To_Work();
 
-    QString Device() const { return m_folder.filePath(QStringLiteral("phone")); }
+    QString Device() const { return m_folder.filePath("phone"); }
 
     const Line_Way m_way;
     const std::vector<Line_Item> m_items;
@@ -53,7 +53,6 @@ private:
     QTemporaryDir m_folder;
     std::unique_ptr<Handset::Path_Link> m_link;
     QByteArray m_records; // written so far
-    QByteArray m_templates;
 };
 
 /// Two recipients, each with a text of its own.

@@ -16,15 +16,17 @@ class Notice_Reader : public QObject
 public:
     Notice_Reader() { qApp->installEventFilter(this); }
 
+    static QPushButton& OK_Of(const Long_SMS_Dlg& dialog) { return *dialog.findChild<QPushButton*>("OKPressed"); }
+
     bool eventFilter(QObject* watched, QEvent* event) override
     {
         if (auto* dialog = qobject_cast<Long_SMS_Dlg*>(watched); dialog && event->type() == QEvent::Show) {
-            m_texts.append(dialog->findChild<QLabel*>(QStringLiteral("_Msg_Val"))->text());
+            m_texts.append(dialog->findChild<QLabel*>("_Msg_Val")->text());
             QTimer::singleShot(0, dialog, [this, dialog] {
                 if (m_meanwhile)
                     m_meanwhile(*dialog);
                 if (dialog->isVisible())
-                    dialog->findChild<QPushButton*>(QStringLiteral("OKPressed"))->click();
+                    OK_Of(*dialog).click();
             });
         }
         return false;

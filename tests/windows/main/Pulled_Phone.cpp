@@ -1,15 +1,6 @@
 #include "windows/main/Pulled_Phone.h"
 
-#include "records/Data_Paths.h"
-
-#include <QFile>
-#include <gmock/gmock.h>
-
 namespace {
-
-const QString Does_Not_Open =
-    QStringLiteral("\n\nSelected device is not working properly. Please use Mobile Phone Connection Wizard for finding "
-                   "device or establishing connection.");
 
 // For example "07_CMGS": which write it is, and of what.
 std::string Name_Of_Write(qsizetype number, const QString& text)
@@ -46,9 +37,7 @@ void Pulled_Phone::Pull_At(const Line_Pull& pull)
 
 void Pulled_Phone::Expect_A_Record_Of_Whatever_Arrived()
 {
-    QFile file(Sent_Item_Path);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QByteArray records = file.readAll();
+    const QByteArray records = Bytes_Of(Sent_Item_Path);
     for (const auto& item : m_items) {
         QString arrived;
         for (const auto& message : m_phone.Inbox())
@@ -81,9 +70,7 @@ void Pulled_Phone::TestBody()
 
 bool Register_Pulls(const char* suite, const Line_Way& way)
 {
-    Phone_Moods moods;
-    moods.m_text_only = way.text_mode;
-    const auto writes = Expected_Outcome(moods, way, Line_Items(way)).writes;
+    const auto writes = Expected_Outcome(Pulled_Phone::Moods_For(way), way, Line_Items(way)).writes;
     for (int write = 1; write <= writes.size(); ++write) {
         for (const bool after_it : {false, true}) {
             const std::string name =

@@ -12,9 +12,9 @@ public:
     Pulled_Phone(const Line_Way& way, const Line_Pull& pull) : Line_Test(Moods_For(way), way), m_pull(pull) {}
     void TestBody() override;
 
-protected:
     static Phone_Moods Moods_For(const Line_Way& way);
 
+protected:
     /// Whatever arrived whole has its record, and nothing has two.
     void Expect_A_Record_Of_Whatever_Arrived();
     /// There is no such device.

@@ -8,12 +8,20 @@
 #include <functional>
 #include <map>
 #include <mutex>
+#include <numeric>
 #include <vector>
 
 // The real system calls, watched: what was written and when, and which descriptors were opened and closed. What a test
 // wants to happen at a write is called before it and may throw.
 class Watched_Calls : public Patient_Calls
 {
+    template <typename Work>
+    auto Under_Lock(const Work& work) const
+    {
+        const std::lock_guard guard(m_lock);
+        return work();
+    }
+
 public:
     struct Written
     {
@@ -25,10 +33,8 @@ public:
     int Open(const char* path, int flags) override
     {
         const int descriptor = Patient_Calls::Open(path, flags);
-        if (descriptor >= 0) {
-            const std::lock_guard guard(m_lock);
-            ++m_open[descriptor];
-        }
+        if (descriptor >= 0)
+            Under_Lock([&] { ++m_open[descriptor]; });
         if (m_after_open)
             m_after_open();
         return descriptor;
@@ -38,11 +44,7 @@ public:
     {
         if (m_before_close)
             m_before_close();
-        {
-            const std::lock_guard guard(m_lock);
-            if (--m_open[descriptor] < 0)
-                ++m_closed_twice;
-        }
+        Under_Lock([&] { m_closed_twice += --m_open[descriptor] < 0 ? 1 : 0; });
         return Patient_Calls::Close(descriptor);
     }
 
@@ -53,11 +55,8 @@ public:
             m_before_write(text);
         const auto written = Patient_Calls::Write(descriptor, bytes, size);
         const int error = errno;
-        {
-            const double own_seconds = Own_Seconds() - Patience();
-            const std::lock_guard guard(m_lock);
-            m_written.push_back({text, Now_Seconds(), own_seconds});
-        }
+        const double own_seconds = Own_Seconds() - Patience();
+        Under_Lock([&] { m_written.push_back({text, Now_Seconds(), own_seconds}); });
         if (m_after_write)
             m_after_write(text);
         errno = error;
@@ -66,26 +65,20 @@ public:
 
     std::vector<Written> Writes() const
     {
-        const std::lock_guard guard(m_lock);
-        return m_written;
+        return Under_Lock([&] { return m_written; });
     }
     void Forget_Writes()
     {
-        const std::lock_guard guard(m_lock);
-        m_written.clear();
-    }
-    int Still_Open() const
-    {
-        const std::lock_guard guard(m_lock);
-        int count = 0;
-        for (const auto& [descriptor, opened] : m_open)
-            count += opened;
-        return count;
+        Under_Lock([&] { m_written.clear(); });
     }
     int Closed_Twice() const
     {
-        const std::lock_guard guard(m_lock);
-        return m_closed_twice;
+        return Under_Lock([&] { return m_closed_twice; });
+    }
+    int Still_Open() const
+    {
+        const auto add = [](int count, const auto& open) { return count + open.second; };
+        return Under_Lock([&] { return std::accumulate(m_open.begin(), m_open.end(), 0, add); });
     }
 
     // Set before the job starts; called on its thread.

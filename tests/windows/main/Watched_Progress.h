@@ -16,53 +16,29 @@ public:
     void Begin_Preparing(int total) override
     {
         m_progress.Begin_Preparing(total);
-        Note(QStringLiteral("preparing ") + QString::number(total));
-    }
-    void Begin_Sending() override
-    {
-        m_progress.Begin_Sending();
-        Note(QStringLiteral("sending"));
+        Note("preparing " + QString::number(total));
     }
     void Show_Item(int position, int total, const QString& number) override
     {
         m_progress.Show_Item(position, total, number);
-        Note(QString::number(position) + QStringLiteral(" / ") + QString::number(total) + u' ' + number);
+        Note(QString::number(position) + " / " + QString::number(total) + ' ' + number);
     }
     void Show_Current(const QString& text) override
     {
         m_progress.Show_Current(text);
         Note(text);
     }
-    void End() override
-    {
-        m_progress.End();
-        Note(QStringLiteral("end"));
-    }
-    void Begin_Pause() override
-    {
-        m_progress.Begin_Pause();
-        Note(QStringLiteral("pause"));
-    }
     void Show_Pause(const QString& text) override
     {
         m_progress.Show_Pause(text);
         Note(text);
     }
-    void End_Pause() override
-    {
-        m_progress.End_Pause();
-        Note(QStringLiteral("pause over"));
-    }
-    void startTimerThread() override
-    {
-        m_progress.startTimerThread();
-        Note(QStringLiteral("timer on"));
-    }
-    void Stop_Timers() override
-    {
-        m_progress.Stop_Timers();
-        Note(QStringLiteral("timer off"));
-    }
+    void Begin_Sending() override { Pass_On(&Send_Progress::Begin_Sending, "sending"); }
+    void End() override { Pass_On(&Send_Progress::End, "end"); }
+    void Begin_Pause() override { Pass_On(&Send_Progress::Begin_Pause, "pause"); }
+    void End_Pause() override { Pass_On(&Send_Progress::End_Pause, "pause over"); }
+    void startTimerThread() override { Pass_On(&Send_Progress::startTimerThread, "timer on"); }
+    void Stop_Timers() override { Pass_On(&Send_Progress::Stop_Timers, "timer off"); }
 
     void Forget_Steps()
     {
@@ -79,6 +55,12 @@ public:
     std::function<void(const QString&)> m_at_step; // set before the job starts
 
 private:
+    void Pass_On(void (Send_Progress::*step)(), const char* note)
+    {
+        (m_progress.*step)();
+        Note(note);
+    }
+
     void Note(const QString& step)
     {
         {

@@ -1,4 +1,3 @@
-#include "device/Stop_Flag.h"
 #include "windows/main/Sending_Test.h"
 
 // The program is left in the middle of a message: the phone must not go on waiting for the rest of it.
@@ -7,15 +6,19 @@ namespace {
 
 constexpr char Escape = '\x1B';
 
-struct Moment
+struct Way
 {
-    const char* after; // the write that is the last
-    bool is_over;      // whether the message has gone out by then
+    const char* name;
+    bool text_mode;
+    bool unicode;
+    const char* body; // how it begins on the line
 };
 
-class Leaving_The_Prompt : public Sending_Test
+class Leaving_The_Prompt : public Sending_Test, public testing::WithParamInterface<Way>
 {
 protected:
+    Leaving_The_Prompt() { Add_Each({"111", "222"}); }
+
     void Leave_After(const char* write)
     {
         m_calls.m_after_write = [write](const QByteArray& bytes) {
@@ -37,56 +40,40 @@ protected:
         Forget_Program_Exit();
         Stop_SMS_Sending_Now = 0;
         m_phone.Forget();
-        m_user.Will_Press("OK");
-        Send();
-        EXPECT_EQ(m_user.Was_Shown().last(), Completed);
+        Send_And_Read({Completed});
         EXPECT_EQ(Received(), (QStringList{"111: Hello", "222: Hello"}));
     }
 
-    void Leave_And_Come_Back(const Moment& moment)
+    void Leave_And_Come_Back(const char* after, bool is_message_out)
     {
-        SCOPED_TRACE(moment.after);
+        SCOPED_TRACE(after);
         m_phone.Forget();
-        Leave_After(moment.after);
-        EXPECT_TRUE(Serve_Until([&] { return m_phone.Inbox().size() == (moment.is_over ? 1U : 0U); }));
+        Leave_After(after);
+        EXPECT_TRUE(Serve_Until([&] { return m_phone.Inbox().size() == (is_message_out ? 1U : 0U); }));
         const QByteArray last = m_calls.Writes().back().bytes;
-        EXPECT_EQ(last == QByteArray(1, Escape), !moment.is_over) << last.toStdString();
+        EXPECT_EQ(last == QByteArray(1, Escape), !is_message_out) << last.toStdString();
         Expect_That_The_Next_Start_Sends();
         m_calls.Forget_Writes();
     }
 };
 
-TEST_F(Leaving_The_Prompt, In_PDU_Mode_The_Message_Is_Called_Off)
+TEST_P(Leaving_The_Prompt, The_Message_Is_Called_Off_Unless_It_Is_Out)
 {
-    Add(QStringLiteral("111"));
-    Add(QStringLiteral("222"));
-    constexpr Moment moments[] = {{"AT+CMGS", false}, {"00", false}, {"\x1A", true}};
-    for (const Moment& moment : moments)
-        Leave_And_Come_Back(moment);
+    Put([](Phone_Moods& moods) { moods.m_text_only = GetParam().text_mode; });
+    m_window.m_choices.unicode = GetParam().unicode;
+    Leave_And_Come_Back("AT+CMGS", false);
+    Leave_And_Come_Back(GetParam().body, false);
+    Leave_And_Come_Back("\x1A", true);
 }
 
-TEST_F(Leaving_The_Prompt, In_Text_Mode_The_Message_Is_Called_Off)
-{
-    Phone_Moods moods;
-    moods.m_text_only = true;
-    m_phone.Set_Moods(moods);
-    Add(QStringLiteral("111"));
-    Add(QStringLiteral("222"));
-    for (const bool unicode : {false, true}) {
-        m_window.m_choices.unicode = unicode;
-        const Moment moments[] = {{"AT+CMGS", false}, {unicode ? "0048" : "Hello", false}, {"\x1A", true}};
-        for (const Moment& moment : moments)
-            Leave_And_Come_Back(moment);
-    }
-}
+INSTANTIATE_TEST_SUITE_P(In, Leaving_The_Prompt,
+                         testing::Values(Way{"PDU_Mode", false, false, "00"}, Way{"Text_Mode", true, false, "Hello"},
+                                         Way{"Text_Mode_And_Unicode", true, true, "0048"}),
+                         [](const auto& row) { return std::string(row.param.name); });
 
 TEST_F(Leaving_The_Prompt, A_Prompt_That_Comes_Late_Is_Called_Off_As_Well)
 {
-    Phone_Moods moods;
-    moods.m_late_prompt_ms = 300;
-    m_phone.Set_Moods(moods);
-    Add(QStringLiteral("111"));
-    Add(QStringLiteral("222"));
+    Put([](Phone_Moods& moods) { moods.m_late_prompt_ms = 300; });
     Leave_After("AT+CMGS");
     m_phone.Set_Moods({});
     Expect_That_The_Next_Start_Sends();
@@ -94,10 +81,7 @@ TEST_F(Leaving_The_Prompt, A_Prompt_That_Comes_Late_Is_Called_Off_As_Well)
 
 TEST_F(Leaving_The_Prompt, A_Phone_That_Takes_Nothing_Does_Not_Hold_The_Way_Out)
 {
-    Phone_Moods moods;
-    moods.m_stop_reading_at = 1;
-    m_phone.Set_Moods(moods);
-    Add(QStringLiteral("111"));
+    Put([](Phone_Moods& moods) { moods.m_stop_reading_at = 1; });
     const double begin = Now_Seconds();
     Leave_After("AT+CMGS");
     EXPECT_LT(Now_Seconds() - begin, 10);
@@ -106,8 +90,9 @@ TEST_F(Leaving_The_Prompt, A_Phone_That_Takes_Nothing_Does_Not_Hold_The_Way_Out)
 // Only the way out calls a message off: a job says what it has always said.
 TEST_F(Leaving_The_Prompt, A_Stopped_Or_Broken_Job_Writes_Nothing_More)
 {
-    Add(QStringLiteral("111"), QString(300, u'a'));
-    Add(QStringLiteral("222"));
+    m_window.m_recipients.Clear();
+    Add("111", QString(300, u'a'));
+    Add("222");
     m_calls.m_after_write = [](const QByteArray& bytes) {
         if (bytes.startsWith("AT+CMGS"))
             Stop_SMS_Sending_Now = 1;
@@ -119,9 +104,7 @@ TEST_F(Leaving_The_Prompt, A_Stopped_Or_Broken_Job_Writes_Nothing_More)
         if (bytes.startsWith("AT+CMGS"))
             m_phone.Hang_Up();
     };
-    m_user.Will_Press("OK");
-    Send();
-    EXPECT_EQ(m_user.Was_Shown(), QStringList{Connection_Error});
+    Send_And_Read({Connection_Error});
     for (const auto& write : m_calls.Writes())
         EXPECT_FALSE(write.bytes.contains(Escape));
 }

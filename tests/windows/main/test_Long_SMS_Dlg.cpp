@@ -8,18 +8,11 @@
 
 #include <QCheckBox>
 #include <QInputMethodEvent>
-#include <QLabel>
 #include <QPlainTextEdit>
-#include <QPushButton>
 #include <QTest>
 #include <gtest/gtest.h>
 
 namespace {
-
-const QPushButton& OK_Of(const Long_SMS_Dlg& dialog)
-{
-    return *dialog.findChild<QPushButton*>(QStringLiteral("OKPressed"));
-}
 
 class Long_SMS_Dlg_Test : public testing::Test
 {
@@ -36,6 +29,9 @@ protected:
         Set_Pace(1);
     }
 
+    /// Opens the notice, and returns when it has been read.
+    void Open(bool unicode = false) { Long_SMS_Dlg::defaultInstance()->Open_Dialog(&m_over, unicode); }
+
     QWidget m_over;
     Notice_Reader m_reader;
 };
@@ -44,27 +40,32 @@ TEST_F(Long_SMS_Dlg_Test, It_Shows_The_Text_And_The_Unicode_Box_As_They_Are)
 {
     for (const bool unicode : {true, false, true}) {
         m_reader.m_meanwhile = [unicode](Long_SMS_Dlg& dialog) {
-            const auto* box = dialog.findChild<QCheckBox*>(QStringLiteral("_Unicode_SMS_Chk"));
+            const auto* box = dialog.findChild<QCheckBox*>("_Unicode_SMS_Chk");
             EXPECT_EQ(box->isChecked(), unicode);
             EXPECT_FALSE(box->isEnabled());
             EXPECT_TRUE(dialog.isModal());
+            EXPECT_EQ(dialog.objectName(), "Long_SMS_Dlg");
+            EXPECT_EQ(dialog.palette().color(QPalette::Window), Window_Background());
         };
-        Long_SMS_Dlg::defaultInstance()->Open_Dialog(&m_over, unicode);
+        Open(unicode);
         EXPECT_EQ(m_reader.m_texts.back(), Composer_Rules::Long_SMS_Text(unicode));
     }
 }
 
 TEST_F(Long_SMS_Dlg_Test, Whichever_Way_It_Is_Closed_It_Ends_With_One)
 {
+    const auto wait_for_ok = [](Long_SMS_Dlg& dialog) {
+        EXPECT_TRUE(Serve_Until([&] { return Notice_Reader::OK_Of(dialog).isDefault(); }));
+    };
     const std::function<void(Long_SMS_Dlg&)> ways[] = {
-        [](Long_SMS_Dlg& dialog) { QTest::mouseClick(dialog.findChild<QPushButton*>("OKPressed"), Qt::LeftButton); },
+        [](Long_SMS_Dlg& dialog) { QTest::mouseClick(&Notice_Reader::OK_Of(dialog), Qt::LeftButton); },
         [](Long_SMS_Dlg& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); },
-        [](Long_SMS_Dlg& dialog) {
-            EXPECT_TRUE(Serve_Until([&] { return OK_Of(dialog).isDefault(); }));
+        [&](Long_SMS_Dlg& dialog) {
+            wait_for_ok(dialog);
             QTest::keyClick(&dialog, Qt::Key_Return);
         },
-        [](Long_SMS_Dlg& dialog) {
-            EXPECT_TRUE(Serve_Until([&] { return OK_Of(dialog).isDefault(); }));
+        [&](Long_SMS_Dlg& dialog) {
+            wait_for_ok(dialog);
             QTest::keyClick(dialog.focusWidget(), Qt::Key_Space);
         },
         [](Long_SMS_Dlg& dialog) { dialog.close(); },
@@ -74,7 +75,7 @@ TEST_F(Long_SMS_Dlg_Test, Whichever_Way_It_Is_Closed_It_Ends_With_One)
             way(dialog);
             EXPECT_FALSE(dialog.isVisible());
         };
-        Long_SMS_Dlg::defaultInstance()->Open_Dialog(&m_over, false);
+        Open();
         EXPECT_EQ(Long_SMS_Dlg::defaultInstance()->result(), 1);
     }
     EXPECT_EQ(m_reader.m_texts.size(), 5);
@@ -90,75 +91,63 @@ TEST_F(Long_SMS_Dlg_Test, In_Its_First_Moment_What_Is_Typed_Goes_Into_The_Field_
         for (const auto key : {Qt::Key_A, Qt::Key_Space, Qt::Key_Return, Qt::Key_Tab, Qt::Key_Enter, Qt::Key_B})
             QTest::keyClick(&dialog, key);
         QInputMethodEvent composed;
-        composed.setCommitString(QStringLiteral("\u00e9"));
+        composed.setCommitString("\u00e9");
         EXPECT_TRUE(dialog.testAttribute(Qt::WA_InputMethodEnabled));
         QCoreApplication::sendEvent(&dialog, &composed);
-        EXPECT_EQ(field->toPlainText(), QStringLiteral("a \n\nb\u00e9"));
+        EXPECT_EQ(field->toPlainText(), "a \n\nb\u00e9");
         EXPECT_TRUE(dialog.isVisible());
-        EXPECT_FALSE(OK_Of(dialog).hasFocus());
-        EXPECT_TRUE(Serve_Until([&] { return dialog.focusWidget() == &OK_Of(dialog); }));
+        const auto* ok = &Notice_Reader::OK_Of(dialog);
+        EXPECT_FALSE(ok->hasFocus());
+        EXPECT_TRUE(Serve_Until([&] { return dialog.focusWidget() == ok; }));
         EXPECT_FALSE(dialog.testAttribute(Qt::WA_InputMethodEnabled));
         QTest::keyClick(dialog.focusWidget(), Qt::Key_Space);
         EXPECT_FALSE(dialog.isVisible());
         EXPECT_EQ(field->toPlainText().size(), 6);
     };
-    Long_SMS_Dlg::defaultInstance()->Open_Dialog(&m_over, false);
+    Open();
     EXPECT_EQ(m_reader.m_texts.size(), 1);
 }
 
-TEST_F(Long_SMS_Dlg_Test, It_Opens_A_Second_After_It_Was_Asked_For)
+TEST_F(Long_SMS_Dlg_Test, It_Opens_A_Second_After_It_Was_Asked_For_And_Once_When_Asked_For_Again)
 {
     Set_Pace(10);
+    QTimer::singleShot(20, &m_over, [this] { Open(true); });
     double opened = 0;
-    m_reader.m_meanwhile = [&](Long_SMS_Dlg&) { opened = Now_Seconds(); };
+    m_reader.m_meanwhile = [&](Long_SMS_Dlg&) {
+        opened = Now_Seconds();
+        Open(true);
+    };
     const double begin = Now_Seconds();
-    Long_SMS_Dlg::defaultInstance()->Open_Dialog(&m_over, false);
+    Open();
     EXPECT_GE(opened - begin, 0.099);
-}
-
-TEST_F(Long_SMS_Dlg_Test, Asked_For_Again_While_It_Waits_Or_Is_Open_It_Opens_Once)
-{
-    Set_Pace(10);
-    QTimer::singleShot(20, &m_over, [this] { Long_SMS_Dlg::defaultInstance()->Open_Dialog(&m_over, true); });
-    m_reader.m_meanwhile = [this](Long_SMS_Dlg& dialog) { dialog.Open_Dialog(&m_over, true); };
-    Long_SMS_Dlg::defaultInstance()->Open_Dialog(&m_over, false);
     EXPECT_EQ(m_reader.m_texts, QStringList{Composer_Rules::Long_SMS_Text(false)});
 }
 
 TEST_F(Long_SMS_Dlg_Test, Once_The_Program_Is_Exiting_It_Does_Not_Open)
 {
     Begin_Program_Exit();
-    Long_SMS_Dlg::defaultInstance()->Open_Dialog(&m_over, false);
+    Open();
     Forget_Program_Exit();
     EXPECT_TRUE(m_reader.m_texts.isEmpty());
 }
 
 TEST_F(Long_SMS_Dlg_Test, Its_Text_Fits_Whatever_The_Size_Of_Its_Letters)
 {
-    int opened = 0;
     m_reader.m_meanwhile = [&](Long_SMS_Dlg& dialog) {
         QTest::qWait(5);
-        const auto* text = dialog.findChild<QLabel*>(QStringLiteral("_Msg_Val"));
+        const auto* text = dialog.findChild<QLabel*>("_Msg_Val");
         EXPECT_GE(text->height(), text->heightForWidth(text->width()));
         EXPECT_LE(text->height(), text->heightForWidth(text->width()) + text->fontMetrics().lineSpacing());
         EXPECT_TRUE(dialog.rect().contains(text->geometry()));
-        ++opened;
     };
     for (int points = 7; points <= 18; ++points) {
         QFont font = Long_SMS_Dlg::defaultInstance()->font();
         font.setPointSize(points);
         Long_SMS_Dlg::defaultInstance()->setFont(font);
         for (const bool unicode : {false, true, false})
-            Long_SMS_Dlg::defaultInstance()->Open_Dialog(&m_over, unicode);
+            Open(unicode);
     }
-    EXPECT_EQ(opened, 36);
-}
-
-TEST_F(Long_SMS_Dlg_Test, It_Has_The_Programs_Background_And_Names)
-{
-    const auto& dialog = *Long_SMS_Dlg::defaultInstance();
-    EXPECT_EQ(dialog.objectName(), QStringLiteral("Long_SMS_Dlg"));
-    EXPECT_EQ(dialog.palette().color(QPalette::Window), Window_Background());
+    EXPECT_EQ(m_reader.m_texts.size(), 36);
 }
 
 TEST_F(Long_SMS_Dlg_Test, There_Is_One_Instance_And_It_Is_Made_Anew_After_Its_Window_Has_Gone)
@@ -168,7 +157,7 @@ TEST_F(Long_SMS_Dlg_Test, There_Is_One_Instance_And_It_Is_Made_Anew_After_Its_Wi
     EXPECT_EQ(first, Long_SMS_Dlg::defaultInstance());
     first->setParent(over.get(), first->windowFlags());
     over.reset();
-    Long_SMS_Dlg::defaultInstance()->Open_Dialog(&m_over, false);
+    Open();
     EXPECT_EQ(m_reader.m_texts.size(), 1);
 }
 

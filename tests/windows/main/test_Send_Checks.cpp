@@ -1,193 +1,135 @@
-#include "device/Chosen_Device.h"
-#include "engine/Job_State.h"
-#include "toolkit/Main_Window.h"
 #include "windows/main/Send_Checks.h"
 
-#include "pdu/Text_Printing.h"
-#include "platform/Waiting.h"
-#include "support/User.h"
-#include "support/Window_For_Tests.h"
-#include "toolkit/Shared_Instance.h"
+#include "windows/main/Sending_Test.h"
 
-#include <QPushButton>
-#include <QTest>
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
-#include <stdexcept>
 
 namespace {
 
 using Field = Main_Window::Field;
-using testing::ElementsAre;
 using testing::IsEmpty;
 
-const QString No_Device = QStringLiteral(
-    "\nEither Mobile Device is not connected properly or No Mobile Phone Device is selected.\n\nPlease use "
-    "Mobile Phone Connection Wizard for finding device or establishing connection.");
-const QString No_Values = QStringLiteral("\nNo values have been selected in 'Delayed Delivery Options'.");
-const QString Blank_Question = QStringLiteral(
+const QString No_Device = "\nEither Mobile Device is not connected properly or No Mobile Phone Device is selected.\n\n"
+                          "Please use Mobile Phone Connection Wizard for finding device or establishing connection.";
+const QString Number_Left_Over = "\nPlease insert entered number to the list.";
+const QString No_Values = "\nNo values have been selected in 'Delayed Delivery Options'.";
+const QString Blank_Question =
     "\nYou have composed no text message yet for any of the contacts in the entire list. This action will send "
-    "blank message to all the contacts in list.\n\nAre you sure you want to continue?");
+    "blank message to all the contacts in list.\n\nAre you sure you want to continue?";
 
-class Send_Checks_Test : public testing::Test
+class Send_Checks_Test : public Sending_Test
 {
-protected:
+public:
     Send_Checks_Test()
     {
-        sel_port_bsd_str = QStringLiteral("/dev/ttyUSB0");
-        Cus_SMS_Num_STR = QStringLiteral("+15551112222");
-        Message_IS = QStringLiteral("from before");
-        m_window.m_recipients.Append(QStringLiteral("123"), QStringLiteral("Hello"));
-        m_window.m_choices.composer_text = QStringLiteral("composed");
-        m_window.m_previous_message = m_window.m_choices.composer_text; // nothing new to offer
+        Message_IS = "from before";
+        Add("123");
+        Compose("composed");
+        m_window.m_previous_message = "composed"; // nothing new to offer
     }
-    ~Send_Checks_Test() override
+
+    using Sending_Test::m_window;
+    using Sending_Test::Pause_After_Each;
+    void Compose(const QString& text) { m_window.m_choices.composer_text = text; }
+    void Leave_A_Number_And_No_Device()
     {
+        m_window.m_choices.number_text = "1";
         sel_port_bsd_str.clear();
-        Cus_SMS_Num_STR.clear();
-        Message_IS.clear();
-        End_Shared_Instances();
     }
-
-    void Will_Answer_The_Offer(const char* button)
+    void Leave_A_Number_And_No_List()
     {
-        m_user.When_Opens("Send_Msg_Info", [button](QWidget& dialog) {
-            QTest::mouseClick(dialog.findChild<QPushButton*>(QLatin1String(button)), Qt::LeftButton);
-        });
+        m_window.m_choices.number_text = " 12 ";
+        m_window.m_recipients.Clear();
     }
-
-    User m_user;
-    Window_For_Tests m_window;
+    void Leave_The_List_Blank()
+    {
+        m_window.m_recipients.Clear();
+        Add("123", "");
+    }
 };
 
 TEST_F(Send_Checks_Test, An_Order_Holds_Everything_The_Job_Works_From)
 {
+    Cus_SMS_Num_STR = "+15551112222";
     m_window.m_choices.flash = true;
     const auto order = Take_Send_Order(m_window);
     ASSERT_TRUE(order);
-    EXPECT_EQ(order->device_path, QStringLiteral("/dev/ttyUSB0"));
-    EXPECT_EQ(order->service_centre, QStringLiteral("+15551112222"));
+    EXPECT_EQ(order->device_path, sel_port_bsd_str);
+    EXPECT_EQ(order->service_centre, "+15551112222");
     EXPECT_EQ(order->recipients.Count(), 1);
     EXPECT_TRUE(order->choices.flash);
-    EXPECT_EQ(Message_IS, QStringLiteral("composed"));
-    EXPECT_EQ(m_window.m_previous_message, QStringLiteral("composed"));
+    EXPECT_EQ(Message_IS, "composed");
+    EXPECT_EQ(m_window.m_previous_message, "composed");
     EXPECT_THAT(m_window.m_focused, IsEmpty());
 }
 
-TEST_F(Send_Checks_Test, Without_A_Device_Nothing_Is_Sent)
+struct Refusal
 {
-    sel_port_bsd_str.clear();
-    m_window.m_choices.number_text = QStringLiteral("1"); // the device is looked at first
+    const char* name;
+    void (*prepare)(Send_Checks_Test& test);
+    QString box;
+    std::vector<Field> focused;
+    const char* message; ///< the shared one, afterwards
+};
+
+class Send_Refusals : public Send_Checks_Test, public testing::WithParamInterface<Refusal>
+{
+};
+
+TEST_P(Send_Refusals, Tell_What_Is_Missing_And_Put_The_Focus_There)
+{
+    GetParam().prepare(*this);
     m_user.Will_Press("OK");
     EXPECT_FALSE(Take_Send_Order(m_window));
-    EXPECT_EQ(m_user.Was_Shown(), QStringList{No_Device});
+    EXPECT_EQ(m_user.Was_Shown(), QStringList{GetParam().box});
+    EXPECT_EQ(m_window.m_focused, GetParam().focused);
+    EXPECT_EQ(Message_IS, GetParam().message);
+}
+
+using Test = Send_Checks_Test;
+const std::vector<Field> Nowhere;
+const std::vector<Field> Number = {Field::Number};
+const std::vector<Field> Batch_Size = {Field::Batch_Size};
+const std::vector<Field> Pause = {Field::Pause_Choice};
+const Refusal Refusals[] = {
+    // Each of the first two would fail the next check as well.
+    {"Without_A_Device", [](Test& test) { test.Leave_A_Number_And_No_Device(); }, No_Device, Nowhere, "from before"},
+    {"Number_Left", [](Test& test) { test.Leave_A_Number_And_No_List(); }, Number_Left_Over, Number, "from before"},
+    {"Empty_List", [](Test& test) { test.m_window.m_recipients.Clear(); }, List_Is_Empty, Number, "from before"},
+    {"No_Values", [](Test& test) { test.Pause_After_Each("", ""); }, No_Values, Batch_Size, "composed"},
+    {"No_Size", [](Test& test) { test.Pause_After_Each("  ", " 2  Minutes"); }, No_Values, Batch_Size, "composed"},
+    {"No_Pause", [](Test& test) { test.Pause_After_Each("15", ""); }, No_Values, Pause, "composed"},
+    {"Blank_Pause", [](Test& test) { test.Pause_After_Each("15", " \n "); }, No_Values, Pause, "composed"},
+};
+INSTANTIATE_TEST_SUITE_P(Where, Send_Refusals, testing::ValuesIn(Refusals),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+TEST_F(Send_Checks_Test, Blanks_In_The_Number_Field_And_A_Whole_Choice_Of_Delivery_Pass)
+{
+    m_window.m_choices.number_text = "  \t\n";
+    EXPECT_TRUE(Take_Send_Order(m_window)) << "without delayed delivery its boxes do not matter";
+    Pause_After_Each("15", " 2  Minutes");
+    EXPECT_TRUE(Take_Send_Order(m_window));
     EXPECT_THAT(m_window.m_focused, IsEmpty());
-    EXPECT_EQ(Message_IS, QStringLiteral("from before"));
-}
-
-TEST_F(Send_Checks_Test, A_Number_Left_In_The_Number_Field_Is_To_Be_Inserted_First)
-{
-    m_window.m_choices.number_text = QStringLiteral(" 12 ");
-    m_window.m_recipients.Clear(); // the number field is looked at first
-    m_user.Will_Press("OK");
-    EXPECT_FALSE(Take_Send_Order(m_window));
-    EXPECT_EQ(m_user.Was_Shown(), QStringList{QStringLiteral("\nPlease insert entered number to the list.")});
-    EXPECT_THAT(m_window.m_focused, ElementsAre(Field::Number));
-    EXPECT_EQ(Message_IS, QStringLiteral("from before"));
-}
-
-TEST_F(Send_Checks_Test, Blanks_In_The_Number_Field_Are_No_Number)
-{
-    m_window.m_choices.number_text = QStringLiteral("  \t\n");
-    EXPECT_TRUE(Take_Send_Order(m_window));
-}
-
-TEST_F(Send_Checks_Test, An_Empty_List_Is_Not_Sent)
-{
-    m_window.m_recipients.Clear();
-    m_user.Will_Press("OK");
-    EXPECT_FALSE(Take_Send_Order(m_window));
-    EXPECT_EQ(m_user.Was_Shown(), QStringList{QStringLiteral("\nPhone numbers-Messages list is empty.")});
-    EXPECT_THAT(m_window.m_focused, ElementsAre(Field::Number));
-    EXPECT_EQ(Message_IS, QStringLiteral("from before"));
-}
-
-TEST_F(Send_Checks_Test, Delayed_Delivery_Needs_A_Batch_Size_And_A_Pause)
-{
-    struct Row
-    {
-        const char* batch_size;
-        const char* pause;
-        std::vector<Field> focused;
-    };
-    const Row rows[] = {{"", "", {Field::Batch_Size}},
-                        {"  ", " 2  Minutes", {Field::Batch_Size}},
-                        {"15", "", {Field::Pause_Choice}},
-                        {"15", " \n ", {Field::Pause_Choice}},
-                        {"15", " 2  Minutes", {}}};
-    m_window.m_choices.delayed_delivery = true;
-    QStringList shown;
-    for (const auto& row : rows) {
-        m_window.m_focused.clear();
-        m_window.m_choices.batch_size = QLatin1String(row.batch_size);
-        m_window.m_choices.pause_choice = QLatin1String(row.pause);
-        if (!row.focused.empty()) {
-            m_user.Will_Press("OK");
-            shown.append(No_Values);
-        }
-        EXPECT_EQ(Take_Send_Order(m_window).has_value(), row.focused.empty());
-        EXPECT_EQ(m_window.m_focused, row.focused);
-        EXPECT_EQ(m_user.Was_Shown(), shown);
-    }
-}
-
-TEST_F(Send_Checks_Test, Without_Delayed_Delivery_Its_Boxes_Do_Not_Matter)
-{
-    EXPECT_TRUE(Take_Send_Order(m_window));
 }
 
 TEST_F(Send_Checks_Test, Blank_Messages_Are_Sent_Only_When_They_Are_Meant)
 {
-    m_window.m_recipients.Clear();
-    m_window.m_recipients.Append(QStringLiteral("123"), QString());
-    m_window.m_choices.composer_text.clear();
-    m_window.m_previous_message = QStringLiteral("remembered");
+    Leave_The_List_Blank();
+    EXPECT_TRUE(Take_Send_Order(m_window)) << "the composer's text is enough";
+    Compose("");
+    m_window.m_previous_message = "remembered";
     m_user.Will_Press("No");
     EXPECT_FALSE(Take_Send_Order(m_window));
-    EXPECT_EQ(m_window.m_previous_message, QStringLiteral("remembered"));
-    EXPECT_EQ(Message_IS, QString());
+    EXPECT_EQ(m_window.m_previous_message, "remembered");
+    EXPECT_EQ(Message_IS, "");
     m_user.Will_Press("Yes");
     Will_Answer_The_Offer("ContinuePressed"); // the composer's text has changed, to none
     EXPECT_TRUE(Take_Send_Order(m_window));
     EXPECT_EQ(m_user.Was_Shown(), (QStringList{Blank_Question, Blank_Question}));
-    EXPECT_EQ(m_window.m_previous_message, QString());
-}
-
-TEST_F(Send_Checks_Test, A_Composer_Text_That_Changed_Is_Offered_Once)
-{
-    m_window.m_choices.composer_text = QStringLiteral("changed");
-    Will_Answer_The_Offer("CancelPressed");
-    EXPECT_FALSE(Take_Send_Order(m_window));
-    EXPECT_EQ(m_window.m_previous_message, QStringLiteral("changed"));
+    EXPECT_EQ(m_window.m_previous_message, "");
+    Add("456", "one message in the list is enough");
     EXPECT_TRUE(Take_Send_Order(m_window));
-}
-
-TEST_F(Send_Checks_Test, An_Order_Holds_The_List_As_The_Offer_Left_It)
-{
-    m_window.m_choices.composer_text = QStringLiteral("changed");
-    Will_Answer_The_Offer("OKPressed");
-    const auto order = Take_Send_Order(m_window);
-    ASSERT_TRUE(order);
-    EXPECT_EQ(order->recipients.At(0).Message, QStringLiteral("changed"));
-}
-
-TEST_F(Send_Checks_Test, An_Order_Holds_The_List_As_It_Is_When_The_Offer_Is_Declined)
-{
-    m_window.m_choices.composer_text = QStringLiteral("changed");
-    Will_Answer_The_Offer("ContinuePressed");
-    const auto order = Take_Send_Order(m_window);
-    ASSERT_TRUE(order);
-    EXPECT_EQ(order->recipients.At(0).Message, QStringLiteral("Hello"));
 }
 
 TEST_F(Send_Checks_Test, An_Offer_That_Can_Not_Be_Made_Does_Not_Hold_The_Job_Up)
@@ -199,35 +141,20 @@ TEST_F(Send_Checks_Test, An_Offer_That_Can_Not_Be_Made_Does_Not_Hold_The_Job_Up)
     };
     Window_Without_A_Place window;
     window.m_recipients = m_window.m_recipients;
-    window.m_choices = m_window.m_choices;
-    window.m_choices.composer_text = QStringLiteral("changed");
+    window.m_choices.composer_text = "changed";
     const auto order = Take_Send_Order(window);
     ASSERT_TRUE(order);
-    EXPECT_EQ(order->recipients.At(0).Message, QStringLiteral("Hello"));
-    EXPECT_EQ(window.m_previous_message, QStringLiteral("changed"));
+    EXPECT_EQ(order->recipients.At(0).Message, "Hello");
+    EXPECT_EQ(window.m_previous_message, "changed");
     EXPECT_THAT(m_user.Was_Shown(), IsEmpty());
-}
-
-TEST_F(Send_Checks_Test, One_Message_In_The_List_Or_The_Composer_Is_Enough)
-{
-    m_window.m_choices.composer_text.clear();
-    m_window.m_previous_message.clear();
-    EXPECT_TRUE(Take_Send_Order(m_window));
-    m_window.m_recipients.Clear();
-    m_window.m_recipients.Append(QStringLiteral("123"), QString());
-    m_window.m_choices.composer_text = QStringLiteral("composed");
-    m_window.m_previous_message = m_window.m_choices.composer_text;
-    EXPECT_TRUE(Take_Send_Order(m_window));
 }
 
 TEST_F(Send_Checks_Test, Once_The_Program_Is_Exiting_Every_Question_Is_Answered_No)
 {
-    m_window.m_recipients.Clear();
-    m_window.m_recipients.Append(QStringLiteral("123"), QString());
-    m_window.m_choices.composer_text.clear();
+    Leave_The_List_Blank();
+    Compose("");
     Begin_Program_Exit();
     EXPECT_FALSE(Take_Send_Order(m_window));
-    Forget_Program_Exit();
 }
 
 } // namespace

@@ -1,209 +1,104 @@
-#include "device/Chosen_Device.h"
-#include "device/Stop_Flag.h"
-#include "engine/Job_State.h"
+#include "support/Log_Lines.h"
 #include "windows/main/Sending_Test.h"
 
-#include "platform/System_Log.h"
-
+#include <QTemporaryFile>
 #include <gmock/gmock.h>
 
 namespace {
 
-using testing::Each;
-using testing::Field;
+using Send_Job_Test = Sending_Test;
 
-class Send_Job_Test : public Sending_Test
+// A job with everything switched on: two recipients are sent to, with a pause between them; one is excluded and one is
+// repeated.
+TEST_F(Send_Job_Test, Takes_Every_Step_In_Its_Order)
 {
-protected:
-    using Sending_Test::Sending_Test;
-};
-
-class Text_Mode_Job_Test : public Sending_Test
-{
-protected:
-    static Phone_Moods Only_Text()
-    {
-        Phone_Moods moods;
-        moods.m_text_only = true;
-        return moods;
-    }
-    Text_Mode_Job_Test() : Sending_Test(Only_Text()) {}
-};
-
-TEST_F(Send_Job_Test, Every_Recipient_Gets_His_Own_Message_In_The_Order_Of_The_List)
-{
-    Add(QStringLiteral("111"), QStringLiteral("first"));
-    Add(QStringLiteral("222"), QStringLiteral("second"));
-    Add(QStringLiteral("333"), QStringLiteral("third"));
-    m_user.Will_Press("OK");
-    Send();
-    EXPECT_EQ(Received(), (QStringList{"111: first", "222: second", "333: third"}));
-    EXPECT_EQ(m_user.Was_Shown(), QStringList{Completed});
+    Set_Pace(100);
+    Add("111", "one");
+    Add("999", "excluded");
+    Add("111", "repeated");
+    Add("222", "two");
+    Exclude("999");
+    auto& choices = m_window.m_choices;
+    Pause_After_Each("1", "5  Seconds");
+    choices.exclusion = choices.skip_duplicates = choices.save_sent_items = choices.save_templates = true;
+    choices.composer_text = m_window.m_previous_message = "composed";
+    Send_And_Read({Completed});
+    EXPECT_EQ(Message_IS, "composed");
+    EXPECT_EQ(m_window.m_exclusions_taken, 1);
+    const QString pausing = "Pausing the process for %1 Seconds.";
+    EXPECT_EQ(m_progress.Steps(),
+              (QStringList{
+                  "preparing 4",      "timer on",     "sending",         "1 / 4 111",    "pause",      pausing.arg(5),
+                  pausing.arg(4),     pausing.arg(3), pausing.arg(2),    pausing.arg(1), "pause over", "2 / 4 999",
+                  "999 is Excluded.", "3 / 4 111",    "111 is Skipped.", "4 / 4 222",    "timer off",  "end",
+                  "timer off",        "end"}));
+    EXPECT_EQ(Received(), (QStringList{"111: one", "222: two"}));
+    EXPECT_EQ(Bytes_Of(Sent_Item_Path), Record("111", "one") + Record("222", "two"));
+    EXPECT_EQ(Bytes_Of(Templates_Path), "one\ntwo\n");
     EXPECT_EQ(m_phone.Heard(),
-              Lines("AT", "AT", "AT+CMGF=?", "AT", "AT+CSMS=0", "AT+CMGF=0", "AT+CMGS=15", "AT+CMGS=16", "AT+CMGS=15"));
+              Lines("AT", "AT", "AT+CMGF=?", "AT", "AT+CSMS=0", "AT+CMGF=0", "AT+CMGS=13", "AT+CMGS=13"));
+    ASSERT_EQ(m_window.m_recipients.Count(), 4);
+    EXPECT_EQ(m_window.m_recipients.At(1).Number, "999");
+    EXPECT_EQ(m_window.m_recipients.At(1).Message, "excluded");
 }
 
-TEST_F(Send_Job_Test, The_Progress_Window_Is_Taken_Through_Its_Steps)
+struct Way
 {
-    Add(QStringLiteral("111"));
-    Add(QStringLiteral("222"));
-    m_user.Will_Press("OK");
-    Send();
-    EXPECT_EQ(m_progress.Steps(), (QStringList{"preparing 2", "timer on", "sending", "1 / 2 111", "2 / 2 222",
-                                               "timer off", "end", "timer off", "end"}));
+    const char* name;
+    bool text_mode;
+    bool unicode_and_flash;
+    const char* message;
+    const char* alphabet;
+    int message_class;
+};
+
+class Ways_To_Send : public Sending_Test, public testing::WithParamInterface<Way>
+{
+};
+
+TEST_P(Ways_To_Send, A_Message_Goes_As_The_Window_And_The_Phone_Have_It)
+{
+    const Way& way = GetParam();
+    Put([&](Phone_Moods& moods) { moods.m_text_only = way.text_mode; });
+    Cus_SMS_Num_STR = "+15551112222";
+    m_window.m_choices.unicode = m_window.m_choices.flash = way.unicode_and_flash;
+    Add_Each({"111", "111"}, QString::fromUtf8(way.message));
+    Send_And_Read({Completed});
+    EXPECT_EQ(Received(), QStringList(2, QString::fromUtf8(way.message).prepend("111: ")));
+    for (const Handset_Part& part : m_phone.Parts()) {
+        EXPECT_EQ(part.m_text_mode, way.text_mode);
+        EXPECT_EQ(part.m_smsc, "+15551112222");
+        EXPECT_EQ(part.m_alphabet, way.alphabet);
+        EXPECT_EQ(part.m_class, way.message_class);
+    }
 }
 
-TEST_F(Send_Job_Test, The_List_Is_Not_Changed)
-{
-    Add(QStringLiteral("111"), QStringLiteral("first"));
-    m_user.Will_Press("OK");
-    Send();
-    ASSERT_EQ(m_window.m_recipients.Count(), 1);
-    EXPECT_EQ(m_window.m_recipients.At(0).Number, QStringLiteral("111"));
-    EXPECT_EQ(m_window.m_recipients.At(0).Message, QStringLiteral("first"));
-}
+INSTANTIATE_TEST_SUITE_P(By, Ways_To_Send,
+                         testing::Values(Way{"PDU", false, false, "Hello", "GSM 7-bit", -1},
+                                         Way{"Flash_PDU", false, true, "Привет", "UCS2", 0},
+                                         Way{"Text", true, false, "Hello", "GSM 7-bit", -1},
+                                         Way{"Flash_Text", true, true, "Привет", "UCS2", 0}),
+                         [](const auto& row) { return std::string(row.param.name); });
 
 TEST_F(Send_Job_Test, What_Happens_To_The_List_Meanwhile_Changes_Nothing)
 {
-    Add(QStringLiteral("111"));
-    Add(QStringLiteral("222"));
-    m_progress.m_at_step = [this](const QString& step) {
-        if (step == QStringLiteral("sending"))
-            Run_On_Interface_Thread([this] {
-                m_window.m_recipients.Clear();
-                m_window.m_choices.unicode = true;
-                Cus_SMS_Num_STR = QStringLiteral("+1999");
-            });
-    };
-    m_user.Will_Press("OK");
-    Send();
+    Add_Each({"111", "222"});
+    At_Step("sending", [this] {
+        Run_On_Interface_Thread([this] {
+            m_window.m_recipients.Clear();
+            m_window.m_choices.unicode = true;
+            Cus_SMS_Num_STR = "+1999";
+        });
+    });
+    Send_And_Read({Completed});
     EXPECT_EQ(Received(), (QStringList{"111: Hello", "222: Hello"}));
     EXPECT_EQ(m_phone.Parts().at(1).m_alphabet, "GSM 7-bit");
     EXPECT_EQ(m_phone.Parts().at(1).m_smsc, "+15550009999");
 }
 
-TEST_F(Send_Job_Test, A_Number_Three_Times_Is_Sent_Once_With_Skip_Duplicates)
-{
-    for (int item = 0; item < 3; ++item)
-        Add(QStringLiteral("111"));
-    m_window.m_choices.skip_duplicates = true;
-    m_user.Will_Press("OK");
-    Send();
-    EXPECT_EQ(Received(), QStringList{"111: Hello"});
-    EXPECT_EQ(m_progress.Steps().mid(3, 5),
-              (QStringList{"1 / 3 111", "2 / 3 111", "111 is Skipped.", "3 / 3 111", "111 is Skipped."}));
-}
-
-TEST_F(Send_Job_Test, A_Number_Three_Times_Is_Sent_Three_Times_Without_Skip_Duplicates)
-{
-    for (int item = 0; item < 3; ++item)
-        Add(QStringLiteral("111"));
-    m_user.Will_Press("OK");
-    Send();
-    EXPECT_EQ(Received(), (QStringList{"111: Hello", "111: Hello", "111: Hello"}));
-}
-
-TEST_F(Send_Job_Test, An_Excluded_Number_Is_Never_Sent_While_The_Exclusion_Option_Is_On)
-{
-    Add(QStringLiteral("111"));
-    Add(QStringLiteral("222"));
-    Exclude(QStringLiteral("111"));
-    m_window.m_choices.exclusion = true;
-    for (const bool skip_duplicates : {false, true}) {
-        m_window.m_choices.skip_duplicates = skip_duplicates;
-        m_phone.Forget();
-        m_user.Will_Press("OK");
-        Send();
-        EXPECT_EQ(Received(), QStringList{"222: Hello"});
-        EXPECT_TRUE(m_progress.Steps().contains(QStringLiteral("111 is Excluded.")));
-    }
-}
-
-TEST_F(Send_Job_Test, An_Excluded_Number_Is_Sent_While_The_Exclusion_Option_Is_Off)
-{
-    Add(QStringLiteral("111"));
-    Exclude(QStringLiteral("111"));
-    m_user.Will_Press("OK");
-    Send();
-    EXPECT_EQ(Received(), QStringList{"111: Hello"});
-}
-
-TEST_F(Send_Job_Test, A_List_Of_Skipped_Numbers_Only_Is_Completed_All_The_Same)
-{
-    Add(QStringLiteral("111"));
-    Exclude(QStringLiteral("111"));
-    m_window.m_choices.exclusion = true;
-    m_user.Will_Press("OK");
-    Send();
-    EXPECT_EQ(Received(), QStringList{});
-    EXPECT_EQ(m_user.Was_Shown(), QStringList{Completed});
-}
-
-TEST_F(Send_Job_Test, A_Message_Of_1601_Characters_Is_Sent_With_1600)
-{
-    Set_Pace(200);
-    Add(QStringLiteral("111"), QString(1600, u'a') + u'b');
-    m_user.Will_Press("OK");
-    Send();
-    EXPECT_EQ(Received(), QStringList{QStringLiteral("111: ") + QString(1600, u'a')});
-}
-
-TEST_F(Send_Job_Test, Unicode_And_Flash_Are_Taken_From_The_Window)
-{
-    m_window.m_choices.unicode = true;
-    m_window.m_choices.flash = true;
-    Add(QStringLiteral("111"), QStringLiteral("Привет"));
-    m_user.Will_Press("OK");
-    Send();
-    EXPECT_EQ(Received(), QStringList{QStringLiteral("111: Привет")});
-    ASSERT_EQ(m_phone.Inbox().size(), 1U);
-    EXPECT_EQ(m_phone.Inbox().front().m_alphabet, "UCS2");
-    EXPECT_EQ(m_phone.Inbox().front().m_class, 0);
-}
-
-TEST_F(Send_Job_Test, Without_Them_A_Message_Is_Seven_Bit_And_Of_No_Class)
-{
-    Add(QStringLiteral("111"));
-    m_user.Will_Press("OK");
-    Send();
-    ASSERT_EQ(m_phone.Inbox().size(), 1U);
-    EXPECT_EQ(m_phone.Inbox().front().m_alphabet, "GSM 7-bit");
-    EXPECT_EQ(m_phone.Inbox().front().m_class, -1);
-}
-
-TEST_F(Send_Job_Test, The_Chosen_Service_Centre_Goes_With_Every_Message)
-{
-    Cus_SMS_Num_STR = QStringLiteral("+15551112222");
-    Add(QStringLiteral("111"));
-    Add(QStringLiteral("222"));
-    m_user.Will_Press("OK");
-    Send();
-    EXPECT_EQ(m_phone.Parts().size(), 2U);
-    EXPECT_THAT(m_phone.Parts(), Each(Field(&Handset_Part::m_smsc, "+15551112222")));
-}
-
-TEST_F(Send_Job_Test, A_Long_Message_Arrives_As_One)
-{
-    const QString message = QString(200, u'a') + QString(161, u'b');
-    Add(QStringLiteral("111"), message);
-    m_user.Will_Press("OK");
-    Send();
-    EXPECT_EQ(Received(), QStringList{QStringLiteral("111: ") + message});
-    EXPECT_EQ(m_phone.Parts().size(), 3U);
-}
-
-TEST_F(Send_Job_Test, A_Blank_Message_Is_Sent_When_It_Is_Meant)
-{
-    Add(QStringLiteral("111"), QString());
-    m_user.Will_Press("Yes");
-    m_user.Will_Press("OK");
-    Send();
-    EXPECT_EQ(Received(), QStringList{"111: "});
-}
-
 TEST_F(Send_Job_Test, A_List_That_Is_Empty_By_Then_Ends_Without_A_Completion_Message)
 {
-    Add(QStringLiteral("111"), QString());
+    Add("111", "");
     m_user.Will_Handle([this](QMessageBox& box) {
         m_window.m_recipients.Clear();
         const auto buttons = box.buttons();
@@ -214,111 +109,115 @@ TEST_F(Send_Job_Test, A_List_That_Is_Empty_By_Then_Ends_Without_A_Completion_Mes
     });
     Send();
     EXPECT_EQ(m_user.Was_Shown().size(), 1);
-    EXPECT_TRUE(m_progress.Steps().contains(QStringLiteral("preparing 0")));
+    EXPECT_TRUE(m_progress.Steps().contains("preparing 0"));
 }
 
-TEST_F(Send_Job_Test, What_The_Device_Answers_To_A_Message_Is_Not_Judged)
+TEST_F(Send_Job_Test, What_Was_Left_By_Others_Is_Forgotten)
 {
-    auto moods = m_phone.Moods();
-    moods.m_cms_error_at[1] = 500;
-    m_phone.Set_Moods(moods);
-    Add(QStringLiteral("111"));
-    Add(QStringLiteral("222"));
-    m_user.Will_Press("OK");
-    Send();
-    EXPECT_EQ(Received(), QStringList{"222: Hello"});
-    EXPECT_EQ(m_user.Was_Shown(), QStringList{Completed});
-}
-
-TEST_F(Send_Job_Test, At_The_End_The_Window_Is_Hidden_Then_The_Box_Shown_Then_The_Port_Closed)
-{
-    Add(QStringLiteral("111"));
-    m_user.Will_Handle([this](QMessageBox& box) {
-        EXPECT_EQ(box.text(), Completed);
-        EXPECT_FALSE(Progress_Window().isVisible());
-        EXPECT_FALSE(Progress_Window().findChild<QTimer*>(QStringLiteral("msend_modTimer"))->isActive());
-        EXPECT_EQ(sms_thread_var, 1);
-        ASSERT_TRUE(m_session.port());
-        EXPECT_TRUE(m_session.port()->isOpen());
-        box.accept();
-    });
-    Send();
-}
-
-TEST_F(Send_Job_Test, A_Closed_Port_Of_The_Session_Is_Opened_Anew)
-{
+    const Virtual_Phone other;
+    Add("111");
     m_session.initPort(sel_port_bsd_str);
     ASSERT_TRUE(m_session.port());
     m_session.port()->close();
-    Add(QStringLiteral("111"));
-    m_user.Will_Press("OK");
-    Send();
-    EXPECT_EQ(Received(), QStringList{"111: Hello"});
-}
-
-TEST_F(Send_Job_Test, A_Port_Left_On_Another_Device_Is_Dropped)
-{
-    Virtual_Phone other;
+    Send_And_Read({Completed});
     m_session.initPort(QString::fromStdString(other.Path()));
     ASSERT_TRUE(m_session.port());
-    Add(QStringLiteral("111"));
-    m_user.Will_Press("OK");
-    Send();
-    EXPECT_EQ(Received(), QStringList{"111: Hello"});
+    Stop_SMS_Sending_Now = 1;
+    Send_And_Read({Completed});
+    EXPECT_EQ(Received(), (QStringList{"111: Hello", "111: Hello"}));
     EXPECT_TRUE(other.Heard().empty());
 }
 
-TEST_F(Send_Job_Test, A_Second_Job_Works_As_The_First_Did)
+// ---- What goes wrong
+
+TEST_F(Send_Job_Test, A_Device_That_Does_Not_Open_Is_Told_Of_Before_Anything_Is_Shown)
 {
-    Add(QStringLiteral("111"));
-    for (int job = 0; job < 2; ++job) {
-        m_user.Will_Press("OK");
-        Send();
+    Add("111");
+    QTemporaryFile file;
+    ASSERT_TRUE(file.open());
+    for (const QString& path : {QString("/dev/no-such-device"), QString("/dev/null"), QString("/"), file.fileName()}) {
+        sel_port_bsd_str = path;
+        Send_And_Read({Does_Not_Open});
     }
-    EXPECT_EQ(Received(), (QStringList{"111: Hello", "111: Hello"}));
+    EXPECT_FALSE(m_progress.Steps().contains("preparing 1"));
 }
 
-TEST_F(Send_Job_Test, A_Stop_Asked_For_In_The_Job_Before_Is_Forgotten)
+struct Failure
 {
-    Stop_SMS_Sending_Now = 1;
-    Add(QStringLiteral("111"));
-    m_user.Will_Press("OK");
+    const char* name;
+    void (*put)(Phone_Moods& moods);
+    QString box;
+    int steps; ///< of all
+    int kept;  ///< records, of the first numbers
+    const char* received;
+    int exception_at = 0; ///< which message
+};
+
+class Failing_Job : public Sending_Test, public testing::WithParamInterface<Failure>
+{
+protected:
+    const QStringList m_numbers{"111", "222", "333", "444", "555"};
+    const QStringList m_all_steps{"preparing 5", "timer on",  "sending",   "1 / 5 111",
+                                  "2 / 5 222",   "3 / 5 333", "4 / 5 444", "5 / 5 555"};
+};
+
+TEST_P(Failing_Job, Tells_And_Records_And_Goes_As_Far_As_It_Can)
+{
+    const Failure& failure = GetParam();
+    Add_Each(m_numbers);
+    m_window.m_choices.save_sent_items = true;
+    Put(failure.put);
+    Before_Write("AT+CMGS=", failure.exception_at, Raise);
+    m_user.Will_Handle([&](QMessageBox& box) {
+        EXPECT_EQ(box.text(), failure.box);
+        EXPECT_EQ(Progress_Window().isVisible(), failure.box != Completed);
+        EXPECT_EQ(In_Progress_Window<QTimer>("msend_modTimer").isActive(), failure.box != Completed);
+        EXPECT_EQ(sms_thread_var, 1);
+        EXPECT_TRUE(m_session.port() && m_session.port()->isOpen());
+        box.accept();
+    });
     Send();
-    EXPECT_EQ(Received(), QStringList{"111: Hello"});
+    QStringList steps = m_progress.Steps();
+    steps.removeAll("timer off");
+    steps.removeAll("end");
+    EXPECT_EQ(steps, m_all_steps.mid(0, failure.steps));
+    EXPECT_EQ(Received().join(u' ').remove(": Hello"), failure.received);
+    QByteArray records;
+    for (const QString& number : m_numbers.mid(0, failure.kept))
+        records += Record(number, "Hello");
+    EXPECT_EQ(Bytes_Of(Sent_Item_Path), records);
 }
 
-TEST_F(Text_Mode_Job_Test, A_Phone_That_Knows_Text_Mode_Only_Is_Sent_Text)
+using Moods = Phone_Moods;
+void Text_Alone_And_A_Hang_Up(Moods& m)
 {
-    Cus_SMS_Num_STR = QStringLiteral("+15551112222");
-    Add(QStringLiteral("111"), QStringLiteral("first"));
-    Add(QStringLiteral("222"), QStringLiteral("second"));
-    m_user.Will_Press("OK");
-    Send();
-    EXPECT_EQ(Received(), (QStringList{"111: first", "222: second"}));
-    EXPECT_EQ(m_user.Was_Shown(), QStringList{Completed});
-    EXPECT_THAT(m_phone.Parts(), Each(Field(&Handset_Part::m_text_mode, true)));
-    EXPECT_THAT(m_phone.Parts(), Each(Field(&Handset_Part::m_smsc, "+15551112222")));
-    EXPECT_THAT(m_phone.Heard(), testing::Contains("AT+CMGF=1"));
+    m.m_text_only = true;
+    m.m_hang_up_at = 2;
 }
+// Handed to the phone is what a record means: nobody judges what became of the message there.
+const Failure Failures[] = {
+    {"Silent", [](Moods& m) { m.m_silent = true; }, No_Modem, 2, 0, ""},
+    {"Only_Echoing", [](Moods& m) { m.m_echo_only = true; }, No_Modem, 3, 0, ""},
+    {"Without_A_Mode", [](Moods& m) { m.m_error_for["AT+CMGF=?"] = ""; }, No_Modem, 3, 0, ""},
+    {"Lost", [](Moods& m) { m.m_hang_up_at = 3; }, Connection_Error, 6, 2, "111 222"},
+    {"Lost_In_Text_Mode", Text_Alone_And_A_Hang_Up, Connection_Error, 5, 1, "111"},
+    {"Refused", [](Moods& m) { m.m_cms_error_at[1] = 500; }, Completed, 8, 5, "222 333 444 555"},
+    {"Exception_In_PDU_Mode", [](Moods&) {}, Completed, 5, 1, "111", 2},
+    {"Exception_In_Text_Mode", [](Moods& m) { m.m_text_only = true; }, Completed, 8, 5, "111 333 444 555", 2},
+};
+INSTANTIATE_TEST_SUITE_P(When, Failing_Job, testing::ValuesIn(Failures),
+                         [](const auto& row) { return std::string(row.param.name); });
 
-TEST_F(Text_Mode_Job_Test, Unicode_And_Flash_Work_In_Text_Mode)
+TEST_F(Send_Job_Test, An_Exception_Outside_A_Submission_Is_Told_And_Leaves_Everything_Tidy)
 {
-    m_window.m_choices.unicode = true;
-    m_window.m_choices.flash = true;
-    Add(QStringLiteral("111"), QStringLiteral("Привет"));
-    m_user.Will_Press("OK");
-    Send();
-    EXPECT_EQ(Received(), QStringList{QStringLiteral("111: Привет")});
-    ASSERT_EQ(m_phone.Inbox().size(), 1U);
-    EXPECT_EQ(m_phone.Inbox().front().m_class, 0);
-}
-
-TEST_F(Text_Mode_Job_Test, A_Long_Message_Goes_As_Messages_Of_160_Characters)
-{
-    Add(QStringLiteral("111"), QString(160, u'a') + QString(5, u'b'));
-    m_user.Will_Press("OK");
-    Send();
-    EXPECT_EQ(Received(), (QStringList{QStringLiteral("111: ") + QString(160, u'a'), QStringLiteral("111: bbbbb")}));
+    Add("111");
+    const Log_Lines log;
+    for (const char* command : {"AT\r\n", "AT+CMGF=?", "AT+CSMS=0"}) {
+        Before_Write(command, 1, Raise);
+        Send_And_Read({"\nSending has ended early because of an unexpected error. The sent items show which messages "
+                       "were sent."});
+    }
+    EXPECT_EQ(log.Count("The send job ended early: the line broke"), 3);
 }
 
 } // namespace

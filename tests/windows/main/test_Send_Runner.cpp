@@ -1,27 +1,11 @@
-#include "device/Stop_Flag.h"
-#include "engine/Job_State.h"
 #include "windows/main/Sending_Test.h"
-
-#include <QTest>
 
 namespace {
 
 class Send_Runner_Test : public Sending_Test
 {
 protected:
-    Send_Runner_Test()
-    {
-        for (const char* number : {"111", "222", "333"})
-            Add(QLatin1String(number));
-    }
-
-    void At_Step(const QString& awaited, const std::function<void()>& happens)
-    {
-        m_progress.m_at_step = [=](const QString& step) {
-            if (step == awaited)
-                happens();
-        };
-    }
+    Send_Runner_Test() { Add_Each({"111", "222", "333"}); }
 };
 
 TEST_F(Send_Runner_Test, Two_Quick_Presses_Start_One_Job)
@@ -37,7 +21,7 @@ TEST_F(Send_Runner_Test, Two_Quick_Presses_Start_One_Job)
 
 TEST_F(Send_Runner_Test, Pressing_Send_While_A_Job_Runs_Does_Nothing)
 {
-    At_Step(QStringLiteral("2 / 3 222"), [this] {
+    At_Step("2 / 3 222", [this] {
         Run_On_Interface_Thread([this] {
             const int running = Workers_Running();
             m_runner.Send_SMS_Btn();
@@ -45,14 +29,13 @@ TEST_F(Send_Runner_Test, Pressing_Send_While_A_Job_Runs_Does_Nothing)
             EXPECT_FALSE(m_window.Is_Held());
         });
     });
-    m_user.Will_Press("OK");
-    Send();
+    Send_And_Read({Completed});
     EXPECT_EQ(m_phone.Inbox().size(), 3U);
 }
 
 TEST_F(Send_Runner_Test, The_Window_Takes_No_Input_Until_The_Progress_Window_Stands_Over_It)
 {
-    At_Step(QStringLiteral("timer on"), [this] {
+    At_Step("timer on", [this] {
         Run_On_Interface_Thread([this] {
             EXPECT_TRUE(Progress_Window().isVisible());
             EXPECT_EQ(QApplication::activeModalWidget(), &Progress_Window());
@@ -73,23 +56,21 @@ TEST_F(Send_Runner_Test, A_Check_That_Fails_Gives_The_Window_Its_Input_Back)
         box.accept();
     });
     Send();
-    EXPECT_EQ(m_user.Was_Shown(), QStringList{QStringLiteral("\nPhone numbers-Messages list is empty.")});
+    EXPECT_EQ(m_user.Was_Shown(), QStringList{List_Is_Empty});
     EXPECT_TRUE(m_phone.Heard().empty());
 }
 
 TEST_F(Send_Runner_Test, A_Stop_Is_Seen_Before_The_Next_Item_And_Ends_Without_A_Message)
 {
-    At_Step(QStringLiteral("2 / 3 222"), [] { Press_Stop(); });
-    m_user.Will_Press("Yes");
-    Send();
+    At_Step("2 / 3 222", [] { Press_Stop(); });
+    Send_And_Read({Stop_Sending});
     EXPECT_EQ(Received(), (QStringList{"111: Hello", "222: Hello"}));
-    EXPECT_EQ(m_user.Was_Shown(), QStringList{Stop_Sending});
     EXPECT_EQ(Stop_SMS_Sending_Now, 1);
 }
 
 TEST_F(Send_Runner_Test, A_Stop_That_Is_Not_Meant_Changes_Nothing)
 {
-    At_Step(QStringLiteral("1 / 3 111"), [] { Press_Stop(); });
+    At_Step("1 / 3 111", [] { Press_Stop(); });
     m_user.Will_Press("No");
     m_user.Will_Press("OK");
     Send();
@@ -97,60 +78,45 @@ TEST_F(Send_Runner_Test, A_Stop_That_Is_Not_Meant_Changes_Nothing)
     EXPECT_EQ(m_user.Was_Shown(), (QStringList{Stop_Sending, Completed}));
 }
 
-TEST_F(Send_Runner_Test, A_Stop_Is_Seen_Between_The_Parts_Of_A_Long_Message)
+TEST_F(Send_Runner_Test, A_Stop_Is_Seen_Between_The_Parts_Of_A_Long_Message_Which_Is_Recorded)
 {
     m_window.m_recipients.Clear();
-    Add(QStringLiteral("111"), QString(400, u'a'));
-    Add(QStringLiteral("222"));
-    m_calls.m_before_write = [](const QByteArray& bytes) {
-        if (bytes.startsWith("AT+CMGS="))
-            Press_Stop();
-    };
-    m_user.Will_Press("Yes");
-    Send();
+    m_window.m_choices.save_sent_items = true;
+    Add("111", QString(400, u'a'));
+    Add("222");
+    Before_Write("AT+CMGS=", 1, Press_Stop);
+    Send_And_Read({Stop_Sending});
     EXPECT_EQ(m_phone.Parts().size(), 1U);
     EXPECT_EQ(Received(), QStringList{});
-    EXPECT_EQ(m_user.Was_Shown(), QStringList{Stop_Sending});
+    EXPECT_EQ(Bytes_Of(Sent_Item_Path), Record("111", QString(400, u'a')));
 }
 
 TEST_F(Send_Runner_Test, A_Stop_During_A_Skipped_Item_Ends_The_Job)
 {
-    Exclude(QStringLiteral("111"));
+    Exclude("111");
     m_window.m_choices.exclusion = true;
-    At_Step(QStringLiteral("111 is Excluded."), [] { Stop_SMS_Sending_Now = 1; });
-    Send();
+    At_Step("111 is Excluded.", [] { Stop_SMS_Sending_Now = 1; });
+    Send_And_Read({});
     EXPECT_EQ(Received(), QStringList{});
-    EXPECT_EQ(m_user.Was_Shown(), QStringList{});
 }
 
-TEST_F(Send_Runner_Test, A_Stop_Question_Still_Open_At_The_End_Counts_As_No)
+TEST_F(Send_Runner_Test, A_Stop_Question_Still_Open_When_The_Job_Ends_Counts_As_No)
 {
-    At_Step(QStringLiteral("3 / 3 333"), [] { Open_Stop_Question(); });
-    m_user.Will_Leave_It_Open();
-    m_user.Will_Press("OK");
-    Send();
-    EXPECT_EQ(m_user.Was_Shown(), (QStringList{Stop_Sending, Completed}));
-    EXPECT_EQ(Stop_SMS_Sending_Now, 0);
-}
-
-TEST_F(Send_Runner_Test, A_Connection_Error_Above_An_Open_Stop_Question_Ends_The_Job_All_The_Same)
-{
-    auto moods = m_phone.Moods();
-    moods.m_hang_up_at = 2;
-    m_phone.Set_Moods(moods);
-    At_Step(QStringLiteral("2 / 3 222"), [] { Open_Stop_Question(); });
-    m_user.Will_Leave_It_Open();
-    m_user.Will_Press("OK");
-    Send();
-    EXPECT_EQ(m_user.Was_Shown(), (QStringList{Stop_Sending, Connection_Error}));
+    for (const QString& end : {Completed, Connection_Error}) {
+        Put([&](Phone_Moods& moods) { moods.m_hang_up_at = end == Completed ? 0 : 6; });
+        At_Step("3 / 3 333", [] { Open_Stop_Question(); });
+        m_user.Will_Leave_It_Open();
+        m_user.Will_Press("OK");
+        Send();
+        EXPECT_EQ(m_user.Was_Shown().mid(m_user.Was_Shown().size() - 2), (QStringList{Stop_Sending, end}));
+        EXPECT_EQ(Stop_SMS_Sending_Now, 0);
+    }
 }
 
 TEST_F(Send_Runner_Test, Exit_During_A_Job_Ends_It_In_An_Orderly_Way_And_Without_A_Box)
 {
-    for (const QString& step :
-         {QStringLiteral("preparing 3"), QStringLiteral("timer on"), QStringLiteral("sending"),
-          QStringLiteral("1 / 3 111"), QStringLiteral("3 / 3 333"), QStringLiteral("timer off")}) {
-        At_Step(step, [] { Begin_Program_Exit(); });
+    for (const char* step : {"preparing 3", "timer on", "sending", "1 / 3 111", "3 / 3 333", "timer off"}) {
+        At_Step(step, Begin_Program_Exit);
         m_runner.Send_SMS_Btn();
         ASSERT_TRUE(Serve_Until([] { return Program_Is_Exiting(); }));
         const double begin = Now_Seconds();
@@ -164,7 +130,7 @@ TEST_F(Send_Runner_Test, Exit_During_A_Job_Ends_It_In_An_Orderly_Way_And_Without
 
 TEST_F(Send_Runner_Test, Exit_With_An_Open_Stop_Question_Does_Not_Hang)
 {
-    At_Step(QStringLiteral("1 / 3 111"), [] { Open_Stop_Question(); });
+    At_Step("1 / 3 111", [] { Open_Stop_Question(); });
     m_user.Will_Handle([](QMessageBox& box) {
         Begin_Program_Exit();
         Finish_Workers();
@@ -177,10 +143,9 @@ TEST_F(Send_Runner_Test, Exit_With_An_Open_Stop_Question_Does_Not_Hang)
 TEST_F(Send_Runner_Test, A_Million_Recipients_Cost_The_Job_No_Time_To_Begin)
 {
     m_window.m_recipients.Clear();
-    const auto message = QStringLiteral("Hello");
     for (int row = 0; row < 1000000; ++row)
-        Add(QString::number(row), message);
-    At_Step(QStringLiteral("1 / 1000000 0"), [] { Stop_SMS_Sending_Now = 1; });
+        Add(QString::number(row));
+    At_Step("1 / 1000000 0", [] { Stop_SMS_Sending_Now = 1; });
     const double begin = Now_Seconds();
     Send();
     EXPECT_LT(Now_Seconds() - begin, 10.0);

@@ -5,28 +5,16 @@
 
 namespace {
 
-const QString Polish = QStringLiteral("Zażółć gęślą jaźń");
-const QByteArray Last_Line("\r\n+CREG: 2,1,\"00C3\",\"BEEF\"\r\n");
-
-QByteArray More_Than_A_Read_Takes()
-{
-    return QByteArray("\r\n+CREG: 2,1,\"00C3\",\"2B01\"\r\n").repeated(200) + Last_Line;
-}
+const QString Polish = "Zażółć gęślą jaźń";
 
 class Talkative_Phone_Test : public Sending_Test
 {
 protected:
-    static Phone_Moods Only_Text()
+    Talkative_Phone_Test()
     {
-        Phone_Moods moods;
-        moods.m_text_only = true;
-        return moods;
-    }
-
-    Talkative_Phone_Test() : Sending_Test(Only_Text())
-    {
-        m_window.m_choices.unicode = true;
-        Add(QStringLiteral("111"), Polish);
+        Put([](Phone_Moods& moods) { moods.m_text_only = true; });
+        m_window.m_choices.unicode = m_window.m_choices.skip_duplicates = true;
+        Add("111", Polish);
     }
 
     bool The_Reader_Has(const char* piece) const
@@ -38,6 +26,12 @@ protected:
         return false;
     }
 
+    void Say_More_Than_A_Read_Takes()
+    {
+        m_phone.Says(QByteArray("\r\n+CREG: 2,1,\"00C3\",\"2B01\"\r\n").repeated(200).toStdString() +
+                     "\r\n+CREG: 2,1,\"00C3\",\"BEEF\"\r\n");
+    }
+
     // On the job's thread, while it waits for nothing.
     void Wait_Until_The_Reader_Has_All()
     {
@@ -47,9 +41,11 @@ protected:
         EXPECT_GT(left, 0) << "nobody took what the phone said";
     }
 
-    void Expect_Both_Messages_Whole()
+    void Send_Both_And_Expect_Them_Whole()
     {
-        EXPECT_EQ(Received(), (QStringList{QStringLiteral("111: ") + Polish, QStringLiteral("222: ") + Polish}));
+        Add("222", Polish);
+        Send_And_Read({Completed});
+        EXPECT_EQ(Received(), (QStringList{"111: " + Polish, "222: " + Polish}));
         for (const auto& message : m_phone.Inbox())
             EXPECT_EQ(message.m_alphabet, "UCS2");
     }
@@ -59,51 +55,35 @@ protected:
 
 TEST_F(Talkative_Phone_Test, What_It_Says_In_A_Pause_Is_Logged_And_Spoils_No_Message)
 {
-    Add(QStringLiteral("222"), Polish);
-    m_window.m_choices.delayed_delivery = true;
-    m_window.m_choices.batch_size = QStringLiteral("1");
-    m_window.m_choices.pause_choice = QStringLiteral("10 Seconds");
-    m_progress.m_at_step = [this](const QString& step) {
-        if (step != QStringLiteral("pause"))
-            return;
-        m_phone.Says(More_Than_A_Read_Takes().toStdString());
+    Pause_After_Each("1", "10 Seconds");
+    At_Step("pause", [this] {
+        Say_More_Than_A_Read_Takes();
         Wait_Until_The_Reader_Has_All();
-    };
-    m_user.Will_Press("OK");
-    Send();
-    Expect_Both_Messages_Whole();
+    });
+    Send_Both_And_Expect_Them_Whole();
 }
 
 TEST_F(Talkative_Phone_Test, What_It_Says_During_Many_Skipped_Numbers_Is_Logged_And_Spoils_No_Message)
 {
     constexpr int Skipped = 21;
-    for (int number = 0; number < Skipped; ++number)
-        Add(QStringLiteral("111"), Polish);
-    Add(QStringLiteral("222"), Polish);
-    m_window.m_choices.skip_duplicates = true;
+    Add_Each(QStringList(Skipped, "111"), Polish);
     int skipped = 0;
-    m_progress.m_at_step = [&](const QString& step) {
-        if (step != QStringLiteral("111 is Skipped."))
-            return;
+    At_Step("111 is Skipped.", [&] {
         if (++skipped == 1)
-            m_phone.Says(More_Than_A_Read_Takes().toStdString());
+            Say_More_Than_A_Read_Takes();
         if (skipped == Skipped)
             Wait_Until_The_Reader_Has_All();
-    };
-    m_user.Will_Press("OK");
-    Send();
+    });
+    Send_Both_And_Expect_Them_Whole();
     EXPECT_EQ(skipped, Skipped);
-    Expect_Both_Messages_Whole();
 }
 
 TEST_F(Talkative_Phone_Test, An_Answer_That_Nobody_Has_Read_Yet_Is_Found_By_The_Next_Read)
 {
-    Add(QStringLiteral("111"), Polish); // skipped: a second more before the read
-    Add(QStringLiteral("222"), Polish.repeated(5));
-    Add(QStringLiteral("333"), Polish);
-    m_window.m_choices.skip_duplicates = true;
-    m_user.Will_Press("OK");
-    Send();
+    Add("111", Polish); // skipped: a second more before the read
+    Add("222", Polish.repeated(5));
+    Add("333", Polish);
+    Send_And_Read({Completed});
     for (const char* answer : {"+CMGS: 0", "+CMGS: 1", "+CMGS: 2"}) { // the first, and both parts of the second
         EXPECT_NE(m_log.Joined().find(answer), std::string::npos) << answer;
         EXPECT_FALSE(The_Reader_Has(answer)) << answer;
