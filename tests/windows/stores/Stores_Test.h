@@ -3,13 +3,16 @@
 #include "platform/Interface_Thread.h"
 #include "platform/Pace.h"
 #include "platform/Waiting.h"
+#include "records/Data_Paths.h"
 #include "records/Store_Files.h"
 #include "support/Serve_Until.h"
 #include "support/User.h"
 #include "support/Window_For_Tests.h"
+#include "toolkit/List_Tables.h"
 #include "toolkit/Shared_Instance.h"
 #include "toolkit/Window_Look.h"
 #include "windows/stores/Sent_Items.h"
+#include "windows/stores/Store_Globals.h"
 #include "windows/stores/Templates.h"
 
 #include <QApplication>
@@ -18,10 +21,20 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QStyledItemDelegate>
 #include <QTableView>
 #include <QTest>
 #include <functional>
+
+/// So many lines of the sent items' file, with the numbers from 1000 on.
+inline QByteArray Records(int count)
+{
+    QByteArray lines;
+    for (int i = 0; i < count; ++i)
+        lines += "\a" + QByteArray::number(1000 + i) + "\vmessage " + QByteArray::number(i) + "\a05/03/2024\v\n";
+    return lines;
+}
 
 // A data folder, a main window, and the person who opens the windows of the stores.
 class Stores_Test : public testing::Test
@@ -54,6 +67,17 @@ protected:
         Expect_Visit(*Templates::defaultInstance(), visit);
         return Templates::defaultInstance()->Open_Template_Wnd();
     }
+    void Expect_Visit(List_Window& window, const std::function<void()>& visit)
+    {
+        m_visited = &window;
+        m_user.When_Opens(window.objectName(), [&window, visit](QWidget&) {
+            EXPECT_TRUE(Serve_Until([&] { return !window.Is_Loading(); }));
+            visit();
+            if (window.isVisible())
+                Click_In(window, "Cancel_Btn");
+            EXPECT_FALSE(window.isVisible());
+        });
+    }
 
     template <typename Control>
     static Control& In(const QWidget& window, const char* name)
@@ -70,6 +94,15 @@ protected:
     {
         return In<Control>(*m_visited, name);
     }
+    QString Count_Label() const
+    {
+        return m_visited->findChildren<QLabel*>(QRegularExpression("_list_count$")).at(0)->text();
+    }
+    QPlainTextEdit& Detail_View() const
+    {
+        return *m_visited->findChildren<QPlainTextEdit*>(QRegularExpression("_det_edit$")).at(0);
+    }
+    QString Detail() const { return Detail_View().toPlainText(); }
 
     static void Click_In(QWidget& window, const char* button)
     {
@@ -77,14 +110,22 @@ protected:
         QTest::mouseClick(&In<QPushButton>(window, button), Qt::LeftButton);
     }
     void Click(const char* button) const { Click_In(*m_visited, button); }
+    /// Clicks a button, which must show exactly this box and put the focus on the table.
+    void Expect_Told(const char* button, const QString& text)
+    {
+        const auto before = m_user.Was_Shown().size();
+        m_user.Will_Press("OK");
+        Click(button);
+        EXPECT_EQ(m_user.Was_Shown().mid(before), QStringList(text)) << button;
+        Expect_Focus_On_Table();
+    }
 
     QTableView& Table() const { return *m_visited->findChild<QTableView*>(); }
     void Select(int first, int last) const
     {
         const auto* model = Table().model();
-        Table().selectionModel()->select(
-            QItemSelection(model->index(first, 0), model->index(last, model->columnCount() - 1)),
-            QItemSelectionModel::ClearAndSelect);
+        Table().selectionModel()->select(QItemSelection(model->index(first, 0), model->index(last, 0)),
+                                         QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     }
     void Select(int row) const { Select(row, row); }
     void Select_Also(int row) const
@@ -92,26 +133,27 @@ protected:
         Table().selectionModel()->select(Table().model()->index(row, 0),
                                          QItemSelectionModel::Select | QItemSelectionModel::Rows);
     }
-    QList<int> Selected() const
+    void Clear(int first, int last) const
     {
-        QList<int> rows;
-        for (const auto& index : Table().selectionModel()->selectedRows())
-            rows.append(index.row());
-        return rows;
+        Select(first, last);
+        Click("Clear_Sel_Btn");
     }
+    void Clear(int row) const { Clear(row, row); }
+    std::vector<int> Selected() const { return Rows_Selected_In(Table()); }
     /// What the cells of one column are painted with, from the top.
     QStringList Shown(int column = 0) const
     {
+        const auto* delegate = qobject_cast<const QStyledItemDelegate*>(Table().itemDelegate());
         QStringList cells;
         for (int row = 0; row < Table().model()->rowCount(); ++row)
-            cells.append(Painted(Table().model()->index(row, column)));
+            cells.append(delegate->displayText(Table().model()->index(row, column).data(), QLocale()));
         return cells;
     }
-    void Double_Click(int row, Qt::KeyboardModifiers modifiers = {}) const
+    void Double_Click(int row) const
     {
         const QPoint place = Table().visualRect(Table().model()->index(row, 0)).center();
-        QTest::mouseClick(Table().viewport(), Qt::LeftButton, modifiers, place);
-        QTest::mouseDClick(Table().viewport(), Qt::LeftButton, modifiers, place);
+        QTest::mouseClick(Table().viewport(), Qt::LeftButton, {}, place);
+        QTest::mouseDClick(Table().viewport(), Qt::LeftButton, {}, place);
     }
 
     void Expect_Focus_On_Table() const { EXPECT_EQ(m_visited->focusWidget(), &Table()); }
@@ -119,12 +161,17 @@ protected:
     /// The person picks this path in the panel that opens next.
     void Will_Save_As(const QString& path)
     {
-        m_user.Will_Do([path](QDialog* dialog) {
-            auto* panel = qobject_cast<QFileDialog*>(dialog);
-            EXPECT_NE(panel, nullptr) << qPrintable(dialog->objectName());
-            if (panel)
-                panel->selectFile(path);
-            dialog->accept();
+        m_user.Will_Do([path](QDialog* panel) {
+            qobject_cast<QFileDialog*>(panel)->selectFile(path);
+            panel->accept();
+        });
+    }
+    /// The person enters this text in the dialog of a template that opens next.
+    void Will_Enter(const QString& text)
+    {
+        m_user.When_Opens("UpdateTemp", [text](QWidget& dialog) {
+            In<QPlainTextEdit>(dialog, "m_templ_msg_str").setPlainText(text);
+            Click_In(dialog, "OKPressed");
         });
     }
 
@@ -132,22 +179,4 @@ protected:
     User m_user;
     Window_For_Tests m_window;
     QWidget* m_visited = nullptr;
-
-private:
-    QString Painted(const QModelIndex& cell) const
-    {
-        const auto* delegate = qobject_cast<const QStyledItemDelegate*>(Table().itemDelegate());
-        return delegate->displayText(cell.data(), QLocale());
-    }
-    void Expect_Visit(List_Window& window, const std::function<void()>& visit)
-    {
-        m_visited = &window;
-        m_user.When_Opens(window.objectName(), [&window, visit](QWidget&) {
-            EXPECT_TRUE(Serve_Until([&] { return !window.Is_Loading(); }));
-            visit();
-            if (window.isVisible())
-                Click_In(window, "Cancel_Btn");
-            EXPECT_FALSE(window.isVisible());
-        });
-    }
 };
