@@ -6,99 +6,72 @@ namespace {
 
 using Screen = Exclusion_Steps::Screen;
 
-class Exclusion_Steps_Test : public testing::Test
+void Expect_Counts(int adding, int updating)
 {
-protected:
-    Exclusion_Steps_Test() { Begin_On_First_Screen(); }
-    ~Exclusion_Steps_Test() override { Begin_On_First_Screen(); }
+    EXPECT_EQ(add_count, adding);
+    EXPECT_EQ(update_count, updating);
+}
 
-    Screen Back(bool answer = true)
-    {
-        return m_steps.Go_Back([this, answer] {
-            ++m_questions;
-            return answer;
-        });
-    }
-
-    Exclusion_Steps m_steps;
-    int m_questions = 0;
-};
-
-TEST_F(Exclusion_Steps_Test, A_New_List_Goes_From_Its_Name_To_Its_Numbers_And_Back)
+TEST(Exclusion_Steps, Each_Step_Forward_Has_Its_Counts)
 {
+    Exclusion_Steps steps;
+    add_count = 0;
     update_count = 3;
-    m_steps.Begin_New_List();
-    EXPECT_EQ(add_count, 1);
-    EXPECT_EQ(update_count, 0);
-    m_steps.Take_New_Name();
-    EXPECT_EQ(add_count, 2);
-    EXPECT_EQ(Back(), Screen::Name_Of_New);
-    EXPECT_EQ(add_count, 1);
-    EXPECT_EQ(Back(), Screen::First);
-    EXPECT_EQ(add_count, 0);
-    EXPECT_EQ(Back(), Screen::As_It_Is);
-    EXPECT_EQ(m_questions, 0);
-}
-
-TEST_F(Exclusion_Steps_Test, Back_From_The_Numbers_Of_An_Edited_List_Goes_Straight_To_The_First_Screen)
-{
-    m_steps.Begin_Editing();
-    EXPECT_EQ(update_count, 2);
-    m_steps.Show_Edited_Numbers();
-    EXPECT_EQ(update_count, 3);
-    EXPECT_EQ(Back(), Screen::First);
-    EXPECT_EQ(update_count, 0);
-}
-
-TEST_F(Exclusion_Steps_Test, Back_From_A_List_That_Is_Being_Opened_Goes_Over_Its_Name)
-{
-    m_steps.Begin_Editing();
-    EXPECT_EQ(Back(), Screen::Name_Of_Edited);
-    EXPECT_EQ(update_count, 1);
-    EXPECT_EQ(Back(), Screen::First);
-    EXPECT_EQ(update_count, 0);
-}
-
-TEST_F(Exclusion_Steps_Test, Unsaved_Numbers_Are_Asked_About_And_No_Stays)
-{
-    m_steps.Note_Unsaved_Numbers();
-    add_count = 2;
-    EXPECT_EQ(Back(false), Screen::As_It_Is);
-    EXPECT_EQ(add_count, 2);
-    EXPECT_TRUE(m_steps.Has_Unsaved_Numbers());
-    EXPECT_EQ(Back(true), Screen::Name_Of_New);
-    EXPECT_FALSE(m_steps.Has_Unsaved_Numbers());
-    EXPECT_EQ(m_questions, 2);
-
+    steps.Begin_New_List();
+    Expect_Counts(1, 0);
+    steps.Take_New_Name();
+    Expect_Counts(2, 0);
     Begin_On_First_Screen();
-    m_steps.Note_Unsaved_Numbers();
-    update_count = 3;
-    EXPECT_EQ(Back(false), Screen::As_It_Is);
-    EXPECT_EQ(update_count, 3);
-    EXPECT_TRUE(m_steps.Has_Unsaved_Numbers());
-    EXPECT_EQ(Back(true), Screen::First);
-    EXPECT_FALSE(m_steps.Has_Unsaved_Numbers());
-    EXPECT_EQ(m_questions, 4);
+    steps.Begin_Editing();
+    Expect_Counts(0, 2);
+    steps.Show_Edited_Numbers();
+    Expect_Counts(0, 3);
 }
 
-TEST_F(Exclusion_Steps_Test, The_Name_Of_A_New_List_Is_Left_Without_A_Question_And_Keeps_The_Flag)
+TEST(Exclusion_Steps, Back_Asks_About_Unsaved_Numbers_Where_They_Would_Be_Lost_And_Never_About_Applied_Lists)
 {
-    m_steps.Begin_New_List();
-    m_steps.Note_Unsaved_Numbers();
-    EXPECT_EQ(Back(false), Screen::First);
-    EXPECT_EQ(m_questions, 0);
-    EXPECT_TRUE(m_steps.Has_Unsaved_Numbers());
-}
-
-TEST_F(Exclusion_Steps_Test, Unsaved_Applied_Lists_Are_Never_Asked_About)
-{
-    m_steps.Note_Unsaved_Applied();
-    for (const auto& [adding, updating] : {std::pair{1, 0}, {2, 0}, {0, 1}, {0, 2}, {0, 3}}) {
-        add_count = adding;
-        update_count = updating;
-        EXPECT_NE(Back(false), Screen::As_It_Is);
+    constexpr int Not_Asked = 0, No = 1, Yes = 2;
+    constexpr auto Saved = &Exclusion_Steps::Forget_Unsaved_Numbers;
+    constexpr auto Unsaved = &Exclusion_Steps::Note_Unsaved_Numbers;
+    const struct
+    {
+        const char* from;
+        int adding, updating;
+        void (Exclusion_Steps::*note)();
+        int answer;
+        Screen to;
+        int adding_after, updating_after;
+        bool is_still_unsaved;
+    } cases[] = {
+        {"first screen", 0, 0, Saved, Not_Asked, Screen::As_It_Is, 0, 0, false},
+        {"name of a new list", 1, 0, Saved, Not_Asked, Screen::First, 0, 0, false},
+        {"name of a new list", 1, 0, Unsaved, Not_Asked, Screen::First, 0, 0, true},
+        {"its numbers", 2, 0, Saved, Not_Asked, Screen::Name_Of_New, 1, 0, false},
+        {"its numbers", 2, 0, Unsaved, No, Screen::As_It_Is, 2, 0, true},
+        {"its numbers", 2, 0, Unsaved, Yes, Screen::Name_Of_New, 1, 0, false},
+        {"name of an edited list", 0, 1, Saved, Not_Asked, Screen::First, 0, 0, false},
+        {"one that is being opened", 0, 2, Saved, Not_Asked, Screen::Name_Of_Edited, 0, 1, false},
+        {"its numbers, past its name", 0, 3, Saved, Not_Asked, Screen::First, 0, 0, false},
+        {"its numbers", 0, 3, Unsaved, No, Screen::As_It_Is, 0, 3, true},
+        {"its numbers", 0, 3, Unsaved, Yes, Screen::First, 0, 0, false},
+    };
+    for (const auto& each : cases) {
+        SCOPED_TRACE(testing::Message() << each.from << ", answer " << each.answer);
+        Exclusion_Steps steps;
+        steps.Note_Unsaved_Applied();
+        (steps.*each.note)();
+        add_count = each.adding;
+        update_count = each.updating;
+        int questions = 0;
+        EXPECT_EQ(steps.Go_Back([&] {
+            ++questions;
+            return each.answer == Yes;
+        }),
+                  each.to);
+        EXPECT_EQ(questions, each.answer == Not_Asked ? 0 : 1);
+        Expect_Counts(each.adding_after, each.updating_after);
+        EXPECT_EQ(steps.Has_Unsaved_Numbers(), each.is_still_unsaved);
     }
-    EXPECT_EQ(m_questions, 0);
 }
 
 } // namespace

@@ -1,49 +1,30 @@
-#include "records/Data_Paths.h"
 #include "windows/exclusion/Exclusion_Test.h"
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QSet>
-#include <QTest>
 
 namespace {
-
-const char* const Long_Name = "Customers of the northern region, without Scotland";
 
 class Exclusion_Layout_Test : public Exclusion_Test
 {
 protected:
-    Exclusion_Layout_Test()
-    {
-        for (const char* name : {"Administration team", "Marketing", "Suppliers", Long_Name})
-            Make_List(name, "00447700900123\n0049170123456\n12345\n");
-        Write_Bytes(Applied_Exclusion_Path, "Marketing\n");
-    }
+    Exclusion_Layout_Test() { Make_List("Marketing", "12345\n"); }
 
     /// Shows one screen after the other.
     void On_Each_Screen(const std::function<void(const char* screen)>& look)
     {
-        look("first");
-        Click("m_addnew_btn");
-        look("name");
-        Click("m_back_btn");
-        Edit_List(3);
-        look("numbers");
-        Click("m_back_btn");
-        ASSERT_TRUE(Is_On_First_Screen());
-    }
-
-    std::vector<QWidget*> Shown_Controls() const
-    {
-        std::vector<QWidget*> shown;
-        const auto controls = m_window->findChildren<QWidget*>(QRegularExpression("^m_.*(?<!_ScrlView)$"));
-        for (QWidget* control : controls) {
-            if (control->isVisible())
-                shown.push_back(control);
-        }
-        return shown;
+        Run([&] {
+            look("first");
+            Click("m_addnew_btn");
+            look("name");
+            Click("m_back_btn");
+            Edit_List(0);
+            look("numbers");
+            Click("m_back_btn");
+            ASSERT_TRUE(Is_On_First_Screen());
+        });
     }
 };
 
@@ -54,32 +35,31 @@ TEST_F(Exclusion_Layout_Test, Every_Control_Goes_By_The_Name_Of_Its_Field_And_Ca
         EXPECT_EQ(table->verticalScrollBar()->objectName(), table->objectName() + "_ScrlView");
         EXPECT_FALSE(table->accessibleName().isEmpty());
     }
-    const auto fields = m_window->findChildren<QLineEdit*>(QRegularExpression("^m_"), Qt::FindChildrenRecursively);
-    for (const auto* field : fields)
+    for (const auto* field : m_window->findChildren<QLineEdit*>(QRegularExpression("^m_")))
         EXPECT_FALSE(field->accessibleName().isEmpty()) << field->objectName().toStdString();
 }
 
 TEST_F(Exclusion_Layout_Test, On_Each_Screen_Every_Button_And_Field_Is_Reached_By_A_Key_Of_Its_Own)
 {
-    Run([&] {
-        On_Each_Screen([&](const char* screen) {
-            QSet<QChar> keys;
-            for (const QWidget* control : Shown_Controls()) {
-                QString text;
-                if (const auto* button = qobject_cast<const QAbstractButton*>(control))
-                    text = button->text();
-                else if (const auto* label = qobject_cast<const QLabel*>(control); label && label->buddy())
-                    text = label->text();
-                else
-                    continue;
-                const auto mark = text.indexOf(u'&');
-                ASSERT_GE(mark, 0) << screen << text.toStdString();
-                const QChar key = text.at(mark + 1).toUpper();
-                EXPECT_FALSE(keys.contains(key)) << screen << " " << text.toStdString();
-                keys.insert(key);
-            }
-            EXPECT_GE(keys.size(), 4);
-        });
+    On_Each_Screen([&](const char* screen) {
+        QSet<QChar> keys;
+        for (const QWidget* control : m_window->findChildren<QWidget*>(QRegularExpression("^m_.*(?<!_ScrlView)$"))) {
+            QString text;
+            if (!control->isVisible())
+                continue;
+            if (const auto* button = qobject_cast<const QAbstractButton*>(control))
+                text = button->text();
+            else if (const auto* label = qobject_cast<const QLabel*>(control); label && label->buddy())
+                text = label->text();
+            else
+                continue;
+            const auto mark = text.indexOf(u'&');
+            ASSERT_GE(mark, 0) << screen << text.toStdString();
+            const QChar key = text.at(mark + 1).toUpper();
+            EXPECT_FALSE(keys.contains(key)) << screen << " " << text.toStdString();
+            keys.insert(key);
+        }
+        EXPECT_GE(keys.size(), 4);
     });
 }
 
@@ -94,27 +74,22 @@ TEST_F(Exclusion_Layout_Test, The_Tab_Key_Goes_Through_Each_Screen_In_Reading_Or
          {"m_loadfile_edit", "m_browse_btn", "m_load_btn", "m_loadnum_edit", "m_add_num_btn", "m_ex_num_list",
           "m_update_num_btn", "m_del_num_btn", "m_back_btn", "m_finish_btn", "m_cancel2_btn"}},
     };
-    Run([&] {
-        On_Each_Screen([&](const char* screen) {
-            QStringList visited = {m_window->focusWidget()->objectName()};
-            for (;;) {
-                QTest::keyClick(m_window->focusWidget(), Qt::Key_Tab);
-                const QString name = m_window->focusWidget()->objectName();
-                if (visited.contains(name))
-                    break;
-                visited.append(name);
-            }
-            EXPECT_EQ(visited, expected.at(screen));
-        });
+    On_Each_Screen([&](const char* screen) {
+        QStringList visited;
+        for (QString name = Focused()->objectName(); !visited.contains(name); name = Focused()->objectName()) {
+            visited.append(name);
+            QTest::keyClick(Focused(), Qt::Key_Tab);
+        }
+        EXPECT_EQ(visited, expected.at(screen));
     });
 }
 
 TEST_F(Exclusion_Layout_Test, The_Background_Is_The_Programs_And_Opaque)
 {
-    EXPECT_EQ(m_window->palette().color(QPalette::Window), QColor(241, 244, 250));
-    EXPECT_TRUE(m_window->autoFillBackground());
-    EXPECT_EQ(Control("m_st_msg").palette().color(QPalette::Window), QColor(241, 244, 250));
-    EXPECT_TRUE(Control("m_st_msg").autoFillBackground());
+    for (const QWidget* part : {static_cast<QWidget*>(m_window.get()), &Control("m_st_msg")}) {
+        EXPECT_EQ(part->palette().color(QPalette::Window), QColor(241, 244, 250));
+        EXPECT_TRUE(part->autoFillBackground());
+    }
 }
 
 } // namespace

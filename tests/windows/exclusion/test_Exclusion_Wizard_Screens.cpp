@@ -1,14 +1,7 @@
-#include "platform/Interface_Thread.h"
-#include "platform/Pace.h"
 #include "platform/Text_Files.h"
-#include "platform/Waiting.h"
-#include "records/Data_Paths.h"
 #include "records/Exclusion_Files.h"
 #include "toolkit/Shared_Instance.h"
-#include "windows/exclusion/Exclusion_Screens_Test.h"
-
-#include <QTest>
-#include <QWindow>
+#include "windows/exclusion/Exclusion_Test.h"
 
 namespace {
 
@@ -22,64 +15,71 @@ void Close_Button(const QWidget& window)
     window.windowHandle()->close();
 }
 
-TEST_F(Exclusion_Screens_Test, Back_From_A_Name_Goes_To_The_First_Screen)
-{
-    Run([&] {
-        Click("m_addnew_btn");
-        Type("m_ex_list_name_edit", "Staff");
-        Click("m_back_btn");
-        Expect_First_Screen();
-        Expect_Counts(0, 0);
-    });
-}
-
-TEST_F(Exclusion_Screens_Test, Back_From_New_Numbers_Goes_To_The_Name_And_Asks_Only_When_Some_Are_Unsaved)
-{
-    Run([&] {
-        Begin_New_List("Staff");
-        Click("m_back_btn");
-        EXPECT_EQ(Shown(), On_Name_Screen);
-        EXPECT_EQ(Label("m_st_msg"), Info_2);
-        EXPECT_EQ(Text("m_ex_list_name_edit"), "Staff");
-        EXPECT_EQ(Focused(), &Control("m_ex_list_name_edit"));
-        Expect_Counts(1, 0);
-
-        Click("m_next_btn");
-        Add_Number("1");
-        Expect_Asked([&] { Click("m_back_btn"); }, Back_Question, "No");
-        EXPECT_EQ(Shown(), On_Numbers_Screen);
-        EXPECT_EQ(Rows_Of(Numbers()), QStringList("1"));
-        Expect_Counts(2, 0);
-        Expect_Asked([&] { Click("m_back_btn"); }, Back_Question, "Yes");
-        EXPECT_EQ(Shown(), On_Name_Screen);
-
-        Click("m_next_btn");
-        EXPECT_TRUE(Rows_Of(Numbers()).isEmpty());
-        EXPECT_EQ(Label("m_st_num_count"), "Total Numbers : 0");
-    });
-}
-
-TEST_F(Exclusion_Screens_Test, Back_From_Edited_Numbers_Goes_Straight_To_The_First_Screen)
+TEST_F(Exclusion_Test, Back_Escape_And_The_Close_Button_Ask_About_Unsaved_Numbers_And_Go_Back)
 {
     Make_List("Staff", "1\n");
+    const std::function<void()> ways[] = {[&] { Click("m_back_btn"); }, [&] { Escape(*m_window); },
+                                          [&] { Close_Button(*m_window); }};
     Run([&] {
-        Edit_List(0);
-        Click("m_back_btn");
-        Expect_First_Screen();
-        Expect_Counts(0, 0);
-
-        Edit_List(0);
-        Add_Number("2");
-        Expect_Asked([&] { Click("m_back_btn"); }, Back_Question, "No");
-        EXPECT_EQ(Shown(), On_Numbers_Screen);
-        Expect_Counts(0, 3);
-        Expect_Asked([&] { Click("m_back_btn"); }, Back_Question, "Yes");
-        Expect_First_Screen();
+        for (const auto& leave : ways) {
+            Begin_New_List("Sales", "7");
+            Expect_Boxes(leave, {{Back_Question, "No"}});
+            EXPECT_EQ(Shown(), On_Numbers_Screen);
+            EXPECT_EQ(Rows_Of(Numbers()), QStringList("7"));
+            Expect_Counts(2, 0);
+            Expect_Boxes(leave, {{Back_Question, "Yes"}});
+            EXPECT_EQ(Shown(), On_Name_Screen);
+            EXPECT_EQ(Label("m_st_msg"), Info_2);
+            EXPECT_EQ(Text("m_ex_list_name_edit"), "Sales");
+            EXPECT_EQ(Focused(), &Control("m_ex_list_name_edit"));
+            Expect_Counts(1, 0);
+            Click("m_next_btn");
+            EXPECT_TRUE(Rows_Of(Numbers()).isEmpty());
+            EXPECT_EQ(Label("m_st_num_count"), "Total Numbers : 0");
+            Click("m_back_btn"); // nothing is unsaved: no question
+            EXPECT_EQ(Shown(), On_Name_Screen);
+            Click("m_back_btn");
+            Expect_First_Screen();
+            Expect_Counts(0, 0);
+            Edit_List(0, "8");
+            Expect_Boxes(leave, {{Back_Question, "No"}});
+            EXPECT_EQ(Shown(), On_Numbers_Screen);
+            EXPECT_EQ(Rows_Of(Numbers()), QStringList({"1", "8"}));
+            Expect_Counts(0, 3);
+            Expect_Boxes(leave, {{Back_Question, "Yes"}});
+            Expect_First_Screen();
+        }
     });
     EXPECT_EQ(Bytes_Of(Path_Of_List("Staff")), "1\n");
 }
 
-TEST_F(Exclusion_Screens_Test, A_List_That_Is_Being_Opened_Has_Its_Name_On_The_Way_Back)
+TEST_F(Exclusion_Test, With_Nothing_Unsaved_Escape_Goes_Back_From_Every_Control_And_The_Close_Button_Closes)
+{
+    Make_List("Staff", "1\n");
+    Run([&] {
+        for (const char* focused : {"m_loadnum_edit", "m_loadfile_edit", "m_ex_num_list", "m_finish_btn"}) {
+            Edit_List(0);
+            Control(focused).setFocus();
+            Escape(*m_window);
+            Expect_First_Screen();
+        }
+        Click("m_addnew_btn");
+        Escape(*m_window);
+        Expect_First_Screen();
+        Edit_List(0);
+        Close_Button(*m_window);
+        EXPECT_FALSE(m_window->isVisible());
+    });
+    EXPECT_EQ(m_window->result(), 0);
+    Run([&] {
+        Click("m_addnew_btn");
+        Type("m_ex_list_name_edit", "Sales");
+        Close_Button(*m_window);
+        EXPECT_FALSE(m_window->isVisible());
+    });
+}
+
+TEST_F(Exclusion_Test, A_List_That_Is_Being_Opened_Has_Its_Name_On_The_Way_Back)
 {
     Make_List("Staff", "1\n");
     Run([&] {
@@ -97,39 +97,17 @@ TEST_F(Exclusion_Screens_Test, A_List_That_Is_Being_Opened_Has_Its_Name_On_The_W
     });
 }
 
-TEST_F(Exclusion_Screens_Test, Back_Does_Not_Ask_About_Numbers_That_Were_Only_Removed)
-{
-    Make_List("Staff", "1\n2\n");
-    Run([&] {
-        Edit_List(0);
-        Click_Row(Numbers(), 0);
-        Click("m_del_num_btn");
-        EXPECT_EQ(Rows_Of(Numbers()), QStringList("2"));
-        Click("m_back_btn");
-        Expect_First_Screen();
-    });
-    EXPECT_TRUE(m_user.Was_Shown().isEmpty());
-}
-
-TEST_F(Exclusion_Screens_Test, After_Finish_The_Next_List_Is_Asked_About_Though_Nothing_Changed_In_It)
+TEST_F(Exclusion_Test, After_Finish_The_Next_List_Is_Asked_About_Though_Nothing_Changed_Unless_A_New_Name_Comes_First)
 {
     Run([&] {
-        Begin_New_List("Staff");
-        Add_Number("1");
+        Begin_New_List("Staff", "1");
         Finish();
         Edit_List(0);
-        Expect_Asked([&] { Click("m_back_btn"); }, Back_Question, "Yes");
+        Expect_Boxes("m_back_btn", {{Back_Question, "Yes"}});
         Edit_List(0);
         Click("m_back_btn");
         Expect_First_Screen();
-    });
-}
-
-TEST_F(Exclusion_Screens_Test, A_New_Name_Forgets_What_Was_Unsaved)
-{
-    Run([&] {
-        Begin_New_List("Staff");
-        Add_Number("1");
+        Edit_List(0, "2");
         Finish();
         Begin_New_List("Sales");
         Click("m_back_btn");
@@ -137,27 +115,24 @@ TEST_F(Exclusion_Screens_Test, A_New_Name_Forgets_What_Was_Unsaved)
     });
 }
 
-TEST_F(Exclusion_Screens_Test, Cancel_Ends_The_Wizard_Without_A_Question_Whatever_Is_Unsaved)
+TEST_F(Exclusion_Test, Cancel_Ends_The_Wizard_Without_A_Question_Whatever_Is_Unsaved)
 {
     Run([&] {
-        Begin_New_List("Staff");
-        Add_Number("1");
+        Begin_New_List("Staff", "1");
         Click("m_cancel2_btn");
         EXPECT_FALSE(m_window->isVisible());
     });
     EXPECT_EQ(m_window->result(), 0);
     EXPECT_EQ(Workers_Running(), 0);
-    EXPECT_TRUE(m_user.Was_Shown().isEmpty());
     EXPECT_EQ(Bytes_Of(Exclusion_Index_Path), "");
     Run([&] { Expect_First_Screen(); });
 }
 
-TEST_F(Exclusion_Screens_Test, On_The_First_Screen_Escape_And_The_Close_Button_End_The_Wizard)
+TEST_F(Exclusion_Test, On_The_First_Screen_Escape_And_The_Close_Button_End_The_Wizard)
 {
     for (const auto way : {Escape, Close_Button}) {
         Run([&] {
-            Begin_New_List("Staff");
-            Add_Number("1");
+            Begin_New_List("Staff", "1");
             Finish(); // after which the wizard still takes the numbers for unsaved
             way(*m_window);
             EXPECT_FALSE(m_window->isVisible());
@@ -167,59 +142,7 @@ TEST_F(Exclusion_Screens_Test, On_The_First_Screen_Escape_And_The_Close_Button_E
     }
 }
 
-TEST_F(Exclusion_Screens_Test, Escape_Asks_About_Unsaved_Numbers_As_Back_Does_And_Goes_Back)
-{
-    Make_List("Staff", "1\n");
-    Run([&] {
-        for (const char* focused : {"m_loadnum_edit", "m_loadfile_edit", "m_ex_num_list", "m_finish_btn"}) {
-            SCOPED_TRACE(focused);
-            Begin_New_List("Sales");
-            Add_Number("7");
-            Control(focused).setFocus();
-            Expect_Asked([&] { Escape(*m_window); }, Back_Question, "No");
-            EXPECT_EQ(Rows_Of(Numbers()), QStringList("7"));
-            EXPECT_EQ(Shown(), On_Numbers_Screen);
-            Expect_Asked([&] { Escape(*m_window); }, Back_Question, "Yes");
-            EXPECT_EQ(Shown(), On_Name_Screen);
-            Escape(*m_window);
-            Expect_First_Screen();
-        }
-        Edit_List(0);
-        Add_Number("8");
-        Expect_Asked([&] { Escape(*m_window); }, Back_Question, "Yes");
-        Expect_First_Screen();
-        Edit_List(0);
-        Escape(*m_window); // nothing is unsaved: no question
-        Expect_First_Screen();
-    });
-    EXPECT_EQ(Bytes_Of(Path_Of_List("Staff")), "1\n");
-}
-
-TEST_F(Exclusion_Screens_Test, The_Close_Button_Asks_About_Unsaved_Numbers_And_Otherwise_Closes)
-{
-    Make_List("Staff", "1\n");
-    Run([&] {
-        Edit_List(0);
-        Add_Number("8");
-        Expect_Asked([&] { Close_Button(*m_window); }, Back_Question, "No");
-        EXPECT_EQ(Shown(), On_Numbers_Screen);
-        EXPECT_EQ(Rows_Of(Numbers()), QStringList({"1", "8"}));
-        Expect_Asked([&] { Close_Button(*m_window); }, Back_Question, "Yes");
-        Expect_First_Screen();
-        Edit_List(0);
-        Close_Button(*m_window);
-        EXPECT_FALSE(m_window->isVisible());
-    });
-    EXPECT_EQ(m_window->result(), 0);
-    Run([&] {
-        Click("m_addnew_btn");
-        Type("m_ex_list_name_edit", "Sales");
-        Close_Button(*m_window);
-        EXPECT_FALSE(m_window->isVisible());
-    });
-}
-
-TEST_F(Exclusion_Screens_Test, The_Window_Is_There_Before_Its_Worker_Has_Waited)
+TEST_F(Exclusion_Test, The_Window_Is_There_Before_Its_Worker_Has_Waited)
 {
     Make_List("Staff", "1\n");
     Set_Pace(0.1); // its wait would last ten seconds
@@ -236,14 +159,14 @@ TEST_F(Exclusion_Screens_Test, The_Window_Is_There_Before_Its_Worker_Has_Waited)
     EXPECT_LT(Now_Seconds() - begin, 9) << "and nobody waits for it when the window is closed";
 }
 
-TEST_F(Exclusion_Screens_Test, Until_The_Lists_Are_In_The_Window_Takes_No_Clicks)
+TEST_F(Exclusion_Test, Until_The_Lists_Are_In_The_Window_Takes_No_Clicks)
 {
     Make_List("Staff", "1\n");
     auto lock = std::make_unique<File_Lock>(Exclusion_Index_Path);
     m_user.When_Opens("Exclusion_Wizard", [&](QWidget&) {
         Click("m_addnew_btn");
         Click("m_cancel_btn");
-        QTest::keyClick(m_window->windowHandle(), Qt::Key_Escape);
+        Escape(*m_window);
         EXPECT_EQ(Shown(), On_First_Screen);
         EXPECT_TRUE(Rows_Of(Available()).isEmpty());
         lock.reset();
@@ -255,42 +178,31 @@ TEST_F(Exclusion_Screens_Test, Until_The_Lists_Are_In_The_Window_Takes_No_Clicks
     m_window->Open_Exclusion_Wnd();
 }
 
-TEST_F(Exclusion_Screens_Test, Asked_To_Open_While_It_Is_Open_It_Stays_As_It_Is)
+TEST_F(Exclusion_Test,
+       It_Stays_As_It_Is_When_It_Is_To_Open_Twice_Or_At_The_Programs_Exit_And_When_What_Does_Nothing_Is_Called)
 {
+    Make_List("Staff", "1\n");
     Run([&] {
-        Begin_New_List("Staff");
+        Edit_List(0);
         m_window->Open_Exclusion_Wnd();
+        ex_file_Path = Path_Of_List("Staff");
+        EXPECT_TRUE(m_window->Fill_Numbers(Path_Of_List("Staff")));
+        EXPECT_TRUE(m_window->Fill_Numbers("/nowhere"));
+        m_window->Fill_Ex_List_Thread();
         EXPECT_EQ(Shown(), On_Numbers_Screen);
+        EXPECT_EQ(Rows_Of(Numbers()), QStringList("1"));
+        EXPECT_EQ(ex_file_Path, Path_Of_List("Staff"));
     });
-}
-
-TEST_F(Exclusion_Screens_Test, Once_The_Program_Is_Exiting_It_Does_Not_Open)
-{
     Begin_Program_Exit();
     m_window->Open_Exclusion_Wnd();
     Forget_Program_Exit();
     EXPECT_FALSE(m_window->isVisible());
 }
 
-TEST_F(Exclusion_Screens_Test, What_Does_Nothing_Goes_On_Doing_Nothing)
-{
-    Make_List("Staff", "1\n");
-    Run([&] {
-        Edit_List(0);
-        ex_file_Path = Path_Of_List("Staff");
-        EXPECT_TRUE(m_window->Fill_Numbers(Path_Of_List("Staff")));
-        EXPECT_TRUE(m_window->Fill_Numbers("/nowhere"));
-        m_window->Fill_Ex_List_Thread();
-        EXPECT_EQ(Rows_Of(Numbers()), QStringList("1"));
-        EXPECT_EQ(ex_file_Path, Path_Of_List("Staff"));
-    });
-}
-
 TEST(Exclusion_Wizard, There_Is_One_Shared_Instance_And_The_Global_Knows_It)
 {
-    auto* wizard = Exclusion_Wizard::defaultInstance();
-    EXPECT_EQ(Exclusion_Wizard::defaultInstance(), wizard);
-    EXPECT_EQ(Exclusion_wnd, wizard);
+    EXPECT_EQ(Exclusion_Wizard::defaultInstance(), Exclusion_Wizard::defaultInstance());
+    EXPECT_EQ(Exclusion_Wizard::defaultInstance(), Exclusion_wnd);
     End_Shared_Instances();
     EXPECT_EQ(Exclusion_wnd, nullptr);
 }

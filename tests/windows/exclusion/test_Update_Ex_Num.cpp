@@ -1,10 +1,8 @@
 #include "support/User.h"
-#include "toolkit/Line_Edit_Limit.h"
 #include "toolkit/Window_Look.h"
 #include "windows/exclusion/Edited_Numbers.h"
 #include "windows/exclusion/Update_Ex_Num.h"
 
-#include <QApplication>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
@@ -36,7 +34,13 @@ protected:
     }
 
     QLineEdit& Field(const char* name = "m_ex_num_str") { return *m_dialog.findChild<QLineEdit*>(name); }
-    void Press_OK() { QTest::mouseClick(m_dialog.findChild<QPushButton*>("OKPressed"), Qt::LeftButton); }
+    QPushButton& Button(const char* name) { return *m_dialog.findChild<QPushButton*>(name); }
+    void Press_OK() { QTest::mouseClick(&Button("OKPressed"), Qt::LeftButton); }
+    void Expect_Empty_Fields()
+    {
+        for (const char* field : {"m_ex_num_str", "m_s_number", "m_ex_num_index"})
+            EXPECT_EQ(Field(field).text(), "") << field;
+    }
 
     Given_Numbers m_numbers;
     User m_user;
@@ -45,6 +49,8 @@ protected:
 
 TEST_F(Update_Ex_Num_Test, It_Shows_The_Number_And_Remembers_It_With_Its_Row)
 {
+    EXPECT_EQ(m_dialog.objectName(), "Update_Ex_Num");
+    EXPECT_EQ(m_dialog.palette().color(QPalette::Window), Window_Background());
     Edit([&] {
         EXPECT_EQ(Field().text(), "456");
         EXPECT_EQ(Field("m_s_number").text(), "456");
@@ -56,90 +62,15 @@ TEST_F(Update_Ex_Num_Test, It_Shows_The_Number_And_Remembers_It_With_Its_Row)
     });
 }
 
-TEST_F(Update_Ex_Num_Test, A_New_Number_Is_Cleaned_And_Takes_The_Old_Ones_Place)
+TEST_F(Update_Ex_Num_Test, A_New_Number_Is_Cut_To_Twenty_Characters_Cleaned_And_Takes_The_Old_Ones_Place)
 {
-    const int result = Edit([&] {
-        Field().setText(" +49-170 ");
-        Press_OK();
-    });
-    EXPECT_EQ(result, 1);
+    EXPECT_EQ(Edit([&] {
+                  Field().setText(" +49-170 ");
+                  Press_OK();
+              }),
+              1);
     EXPECT_EQ(m_numbers.m_numbers, QStringList({"123", "0049170", "004477"}));
-    for (const char* field : {"m_ex_num_str", "m_s_number", "m_ex_num_index"})
-        EXPECT_EQ(Field(field).text(), "") << field;
-}
-
-TEST_F(Update_Ex_Num_Test, The_Very_Same_Text_Ends_With_One_And_Changes_Nothing)
-{
-    EXPECT_EQ(Edit([&] { Press_OK(); }), 1);
-    EXPECT_EQ(m_numbers.m_numbers.at(1), "456");
-}
-
-TEST_F(Update_Ex_Num_Test, A_Number_Longer_Than_Can_Be_Typed_Is_Shown_Whole_And_Kept_When_Unchanged)
-{
-    const QString long_number(25, u'7');
-    m_numbers.m_numbers.replace(1, long_number);
-    const int result = Edit([&] {
-        EXPECT_EQ(Field().text(), long_number);
-        Press_OK();
-    });
-    EXPECT_EQ(result, 1);
-    EXPECT_EQ(m_numbers.m_numbers.at(1), long_number);
-}
-
-TEST_F(Update_Ex_Num_Test, A_Refused_Number_Is_Told_About_And_The_Field_Focused)
-{
-    const struct
-    {
-        const char* number;
-        const char* text;
-    } cases[] = {
-        {"", "\nPlease enter a valid phone number."},
-        {" - ", "\nPlease enter a valid phone number."},
-        {"4+4", "\nPlease enter a valid phone number."},
-        {"++4", "\nPlease enter a valid phone number."},
-        {"12,3", "\nPlease enter a valid phone number."},
-        {"+1234567890123456789", "\nPlease enter a valid phone number."},
-        {"123", "\nEntered number already exists."},
-        {"+4477", "\nEntered number already exists."},
-        {"4-56", "\nEntered number already exists."}, // its own number, typed in another way
-    };
-    for (const auto& each : cases) {
-        const int result = Edit([&] {
-            Field().setText(each.number);
-            m_dialog.findChild<QPushButton*>("CancelPressed")->setFocus();
-            m_user.Will_Press("OK");
-            Press_OK();
-            EXPECT_EQ(m_user.Was_Shown().last(), each.text) << each.number;
-            EXPECT_EQ(m_dialog.focusWidget(), &Field());
-            EXPECT_TRUE(m_dialog.isVisible());
-        });
-        EXPECT_EQ(result, 0);
-    }
-    EXPECT_EQ(m_numbers.m_numbers, QStringList({"123", "456", "004477"}));
-}
-
-TEST_F(Update_Ex_Num_Test, Every_Way_Of_Cancelling_Ends_With_Nought_And_Empties_The_Fields)
-{
-    const std::function<void()> ways[] = {
-        [&] { QTest::mouseClick(m_dialog.findChild<QPushButton*>("CancelPressed"), Qt::LeftButton); },
-        [&] { QTest::keyClick(&m_dialog, Qt::Key_Escape); },
-        [&] { m_dialog.close(); },
-    };
-    for (const auto& way : ways) {
-        EXPECT_EQ(Edit([&] {
-                      Field().setText("789");
-                      way();
-                      EXPECT_FALSE(m_dialog.isVisible());
-                  }),
-                  0);
-        EXPECT_EQ(Field().text(), "");
-        EXPECT_EQ(Field("m_ex_num_index").text(), "");
-    }
-    EXPECT_EQ(m_numbers.m_numbers.at(1), "456");
-}
-
-TEST_F(Update_Ex_Num_Test, The_Number_Is_Cut_To_Twenty_Characters_And_Return_Is_OK)
-{
+    Expect_Empty_Fields();
     EXPECT_EQ(Edit([&] {
                   QTest::keyClicks(&Field(), "123456789012345678901");
                   EXPECT_EQ(Field().text(), "12345678901234567890");
@@ -149,10 +80,61 @@ TEST_F(Update_Ex_Num_Test, The_Number_Is_Cut_To_Twenty_Characters_And_Return_Is_
     EXPECT_EQ(m_numbers.m_numbers.at(1), "12345678901234567890");
 }
 
-TEST_F(Update_Ex_Num_Test, It_Has_The_Programs_Background_And_Names)
+TEST_F(Update_Ex_Num_Test, The_Very_Same_Text_Is_Kept_And_Shown_Whole_Though_It_Is_Longer_Than_Can_Be_Typed)
 {
-    EXPECT_EQ(m_dialog.palette().color(QPalette::Window), Window_Background());
-    EXPECT_EQ(m_dialog.objectName(), "Update_Ex_Num");
+    for (const QString& number : {QStringLiteral("456"), QString(25, u'7')}) {
+        m_numbers.m_numbers.replace(1, number);
+        EXPECT_EQ(Edit([&] {
+                      EXPECT_EQ(Field().text(), number);
+                      Press_OK();
+                  }),
+                  1);
+        EXPECT_EQ(m_numbers.m_numbers.at(1), number);
+    }
+}
+
+TEST_F(Update_Ex_Num_Test, A_Refused_Number_Is_Told_About_And_The_Field_Focused)
+{
+    const std::pair<const char*, const char*> cases[] = {
+        {"", "\nPlease enter a valid phone number."},
+        {"4+4", "\nPlease enter a valid phone number."},
+        {"+1234567890123456789", "\nPlease enter a valid phone number."},
+        {"123", "\nEntered number already exists."},
+        {"+4477", "\nEntered number already exists."},
+        {"4-56", "\nEntered number already exists."}, // its own number, typed in another way
+    };
+    for (const auto& [number, text] : cases) {
+        EXPECT_EQ(Edit([&, number = number, text = text] {
+                      Field().setText(number);
+                      Button("CancelPressed").setFocus();
+                      m_user.Will_Press("OK");
+                      Press_OK();
+                      EXPECT_EQ(m_user.Was_Shown().last(), text) << number;
+                      EXPECT_EQ(m_dialog.focusWidget(), &Field());
+                      EXPECT_TRUE(m_dialog.isVisible());
+                  }),
+                  0);
+    }
+    EXPECT_EQ(m_numbers.m_numbers, QStringList({"123", "456", "004477"}));
+}
+
+TEST_F(Update_Ex_Num_Test, Every_Way_Of_Cancelling_Ends_With_Nought_And_Empties_The_Fields)
+{
+    const std::function<void()> ways[] = {
+        [&] { QTest::mouseClick(&Button("CancelPressed"), Qt::LeftButton); },
+        [&] { QTest::keyClick(&m_dialog, Qt::Key_Escape); },
+        [&] { m_dialog.close(); },
+    };
+    for (const auto& leave : ways) {
+        EXPECT_EQ(Edit([&] {
+                      Field().setText("789");
+                      leave();
+                      EXPECT_FALSE(m_dialog.isVisible());
+                  }),
+                  0);
+        Expect_Empty_Fields();
+    }
+    EXPECT_EQ(m_numbers.m_numbers.at(1), "456");
 }
 
 } // namespace
