@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <asm/ioctls.h>
-#include <cerrno>
 #include <sys/ioctl.h>
 
 namespace {
@@ -27,12 +26,17 @@ Watched_Calls::~Watched_Calls()
     Finish_Workers();
 }
 
-Watched_Calls::Action Watched_Calls::Note(const std::string& step)
+Watched_Calls::Action Watched_Calls::Action_For(const std::string& step) const
+{
+    const std::lock_guard guard(m_lock);
+    const auto action = m_actions.find(step);
+    return action == m_actions.end() ? Action() : action->second;
+}
+
+void Watched_Calls::Note(const std::string& step)
 {
     const std::lock_guard guard(m_lock);
     m_steps.push_back(step);
-    const auto action = m_actions.find(step);
-    return action == m_actions.end() ? Action() : action->second;
 }
 
 void Watched_Calls::Will_Do(const std::string& step, Action action)
@@ -43,9 +47,14 @@ void Watched_Calls::Will_Do(const std::string& step, Action action)
 
 void Watched_Calls::Will_Fail(const std::string& step, int error)
 {
-    Will_Do(step, [error](void*) {
-        errno = error;
-        return -1;
+    Will_Do(step, [error](void*) { return Failed(error); });
+}
+
+void Watched_Calls::Will_Tell(const std::string& step, std::function<int()> number)
+{
+    Will_Do(step, [number = std::move(number)](void* answer) {
+        *static_cast<int*>(answer) = number();
+        return 0;
     });
 }
 
@@ -61,100 +70,15 @@ int Watched_Calls::Count(const std::string& step) const
     return static_cast<int>(std::count(steps.begin(), steps.end(), step));
 }
 
-int Watched_Calls::Last_Open_Flags() const
+int Watched_Calls::Control(int line, unsigned long request, void* argument)
 {
-    const std::lock_guard guard(m_lock);
-    return m_open_flags;
+    return Do(Name_Of(request), argument, &Real::Control, line, request, argument);
 }
 
-int Watched_Calls::Open(const char* path, int flags)
-{
-    const auto action = Note("open");
-    {
-        const std::lock_guard guard(m_lock);
-        m_open_flags = flags;
-    }
-    return action ? action(nullptr) : Patient_Calls::Open(path, flags);
-}
-
-int Watched_Calls::Close(int descriptor)
-{
-    Note("close");
-    return Patient_Calls::Close(descriptor);
-}
-
-int Watched_Calls::Get_Status_Flags(int descriptor)
-{
-    const auto action = Note("F_GETFL");
-    return action ? action(nullptr) : Patient_Calls::Get_Status_Flags(descriptor);
-}
-
-int Watched_Calls::Set_Status_Flags(int descriptor, int flags)
-{
-    const auto action = Note("F_SETFL");
-    return action ? action(&flags) : Patient_Calls::Set_Status_Flags(descriptor, flags);
-}
-
-int Watched_Calls::Lock_Exclusively(int descriptor)
-{
-    const auto action = Note("flock");
-    return action ? action(nullptr) : Patient_Calls::Lock_Exclusively(descriptor);
-}
-
-int Watched_Calls::Control(int descriptor, unsigned long request, void* argument)
-{
-    const auto action = Note(Name_Of(request));
-    return action ? action(argument) : Patient_Calls::Control(descriptor, request, argument);
-}
-
-int Watched_Calls::Get_Attributes(int descriptor, termios& attributes)
-{
-    const auto action = Note("tcgetattr");
-    return action ? action(&attributes) : Patient_Calls::Get_Attributes(descriptor, attributes);
-}
-
-int Watched_Calls::Set_Attributes(int descriptor, const termios& attributes)
-{
-    const auto action = Note("tcsetattr");
-    termios copy = attributes;
-    return action ? action(&copy) : Patient_Calls::Set_Attributes(descriptor, attributes);
-}
-
-int Watched_Calls::Flush(int descriptor, int queue)
-{
-    const auto action = Note("tcflush");
-    return action ? action(&queue) : Patient_Calls::Flush(descriptor, queue);
-}
-
-int Watched_Calls::Send_Break(int descriptor)
-{
-    const auto action = Note("tcsendbreak");
-    return action ? action(nullptr) : Patient_Calls::Send_Break(descriptor);
-}
-
-ssize_t Watched_Calls::Read(int descriptor, void* buffer, size_t size)
-{
-    const auto action = Note("read");
-    return action ? action(buffer) : Patient_Calls::Read(descriptor, buffer, size);
-}
-
-ssize_t Watched_Calls::Write(int descriptor, const void* bytes, size_t size)
-{
-    const auto action = Note("write");
-    return action ? action(nullptr) : Patient_Calls::Write(descriptor, bytes, size);
-}
-
-Line_Event Watched_Calls::Wait(int descriptor, short events, double seconds, int wake_descriptor)
+Line_Event Watched_Calls::Wait(int line, short events, double seconds, int wake_descriptor)
 {
     ++m_waits;
-    Action action;
-    {
-        const std::lock_guard guard(m_lock);
-        const auto row = m_actions.find("wait");
-        if (row != m_actions.end())
-            action = row->second;
-    }
+    const auto action = Action_For("wait");
     const int result = action ? action(nullptr) : Really;
-    return result == Really ? Patient_Calls::Wait(descriptor, events, seconds, wake_descriptor)
-                            : static_cast<Line_Event>(result);
+    return result == Really ? m_real.Wait(line, events, seconds, wake_descriptor) : static_cast<Line_Event>(result);
 }

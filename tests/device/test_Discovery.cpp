@@ -3,8 +3,6 @@
 #include "device/Device_Paths.h"
 #include "device/KVSerialPortList.h"
 
-#include <cerrno>
-
 namespace {
 
 // A search that finds what the test says.
@@ -57,14 +55,13 @@ protected:
 
 TEST_F(Discovery, Ports_That_Open_Are_Found_And_Others_Are_Passed_Over)
 {
-    Phone_Moods silent;
-    silent.m_silent = true;
     Virtual_Phone first;
-    Virtual_Phone second(silent); // a silent one opens all the same
+    Virtual_Phone second(Mood(&Phone_Moods::m_silent)); // opens all the same
     m_finder.Set_Paths({first.Path(), "/nowhere", second.Path(), "/dev/null"});
+    m_finder.m_entries.prepend(Modem_Entry{std::nullopt}); // an entry without a path
     EXPECT_EQ(Search(), 0);
     EXPECT_EQ(m_found.m_paths, Lines(first.Path(), second.Path()));
-    EXPECT_EQ(m_path, QStringLiteral("/dev/null")); // the last one examined
+    EXPECT_EQ(m_path, "/dev/null"); // the last one examined
     EXPECT_EQ(m_log.Count("Modem found with BSD path: " + first.Path() + "\n"), 1);
     EXPECT_EQ(m_log.Count("Modem found with BSD path: " + second.Path() + "\n"), 1);
     EXPECT_TRUE(first.Is_Silent());
@@ -76,23 +73,19 @@ TEST_F(Discovery, Ports_That_Open_Are_Found_And_Others_Are_Passed_Over)
 
 TEST_F(Discovery, Without_A_Port_That_Opens_The_Result_Is_Five)
 {
-    m_path = QStringLiteral("old");
+    m_path = "old";
     EXPECT_EQ(Search(), 5);
     EXPECT_EQ(m_path, QString());
     m_finder.Set_Paths({"/nowhere"});
+    m_finder.m_can_ask = false; // without a register to ask an empty line is logged, and the search goes on
+    m_log.Forget();
     EXPECT_EQ(Search(), 5);
+    EXPECT_EQ(m_log.All().front(), "");
+    EXPECT_EQ(m_path, "/nowhere");
     EXPECT_TRUE(m_found.m_paths.empty());
 }
 
-TEST_F(Discovery, An_Entry_Without_A_Path_Is_Passed_Over)
-{
-    Virtual_Phone phone;
-    m_finder.m_entries = {{std::nullopt}, {QByteArray::fromStdString(phone.Path())}};
-    EXPECT_EQ(Search(), 0);
-    EXPECT_EQ(m_found.m_paths, Lines(phone.Path()));
-}
-
-TEST_F(Discovery, A_Path_Without_Room_Is_Logged_And_Passed_Over)
+TEST_F(Discovery, A_Path_Without_Room_Is_Logged_And_Passed_Over_And_A_Search_That_Fails_Logged_With_Its_Status)
 {
     m_finder.Set_Paths({"/dev/1234"});
     EXPECT_EQ(Search(9), 5);
@@ -100,29 +93,16 @@ TEST_F(Discovery, A_Path_Without_Room_Is_Logged_And_Passed_Over)
     m_log.Forget();
     EXPECT_EQ(Search(10), 5);
     EXPECT_TRUE(m_log.Has("Error opening serial port /dev/1234 - No such file or directory(2).\n"));
-}
-
-TEST_F(Discovery, A_Search_That_Fails_Is_Logged_With_Its_Status)
-{
+    m_log.Forget();
     m_finder.m_status = 17;
     Modem_Iterator iterator;
     EXPECT_EQ(m_session.FindModems(iterator), 17);
     EXPECT_EQ(m_log.All(), Lines("IOServiceGetMatchingServices returned 17\n"));
 }
 
-TEST_F(Discovery, Without_A_Register_To_Ask_An_Empty_Line_Is_Logged_And_The_Search_Goes_On)
-{
-    m_finder.m_can_ask = false;
-    m_finder.Set_Paths({"/nowhere"});
-    EXPECT_EQ(Search(), 5);
-    EXPECT_EQ(m_log.All().front(), "");
-    EXPECT_EQ(m_path, QStringLiteral("/nowhere"));
-}
-
 TEST_F(Discovery, The_System_Search_Offers_The_Extra_Paths_Once_Each)
 {
-    Set_Extra_Device_Paths(
-        {QStringLiteral("/dev/given"), QStringLiteral("/dev/given"), QString(), QStringLiteral("/dev/other")});
+    Set_Extra_Device_Paths({"/dev/given", "/dev/given", QString(), "/dev/other"});
     Modem_Iterator iterator;
     EXPECT_EQ(System_Port_Finder().Find_Ports(iterator), 0);
     std::vector<std::string> paths;
@@ -137,13 +117,13 @@ TEST_F(Discovery, The_System_Search_Offers_The_Extra_Paths_Once_Each)
 
 TEST_F(Discovery, A_Placeholder_Of_The_Kernel_Is_No_Port)
 {
-    EXPECT_TRUE(Is_Phantom_Port(QStringLiteral("ttyS4"), false, 0));
-    EXPECT_TRUE(Is_Phantom_Port(QStringLiteral("ttyS4"), true, 0));
-    EXPECT_TRUE(Is_Phantom_Port(QStringLiteral("ttyS4"), false, std::nullopt));
-    EXPECT_FALSE(Is_Phantom_Port(QStringLiteral("ttyS0"), false, 4));
-    EXPECT_FALSE(Is_Phantom_Port(QStringLiteral("ttyS0"), true, std::nullopt));
-    EXPECT_FALSE(Is_Phantom_Port(QStringLiteral("ttyUSB0"), false, std::nullopt));
-    EXPECT_FALSE(Is_Phantom_Port(QStringLiteral("ttyACM0"), false, 0));
+    EXPECT_TRUE(Is_Phantom_Port("ttyS4", false, 0));
+    EXPECT_TRUE(Is_Phantom_Port("ttyS4", true, 0));
+    EXPECT_TRUE(Is_Phantom_Port("ttyS4", false, std::nullopt));
+    EXPECT_FALSE(Is_Phantom_Port("ttyS0", false, 4));
+    EXPECT_FALSE(Is_Phantom_Port("ttyS0", true, std::nullopt));
+    EXPECT_FALSE(Is_Phantom_Port("ttyUSB0", false, std::nullopt));
+    EXPECT_FALSE(Is_Phantom_Port("ttyACM0", false, 0));
 }
 
 TEST_F(Discovery, The_Port_List_Knows_Each_Port_By_Place_Name_And_Path)
@@ -151,26 +131,22 @@ TEST_F(Discovery, The_Port_List_Knows_Each_Port_By_Place_Name_And_Path)
     m_finder.Set_Paths({"/dev/ttyUSB0", "/dev/ttyACM1"});
     const KVSerialPortList list(m_finder);
     EXPECT_EQ(list.count(), 2);
-    EXPECT_EQ(list.objectAtIndex(1)->bsdPath(), QStringLiteral("/dev/ttyACM1"));
+    EXPECT_EQ(list.objectAtIndex(1)->bsdPath(), "/dev/ttyACM1");
     EXPECT_EQ(list.objectAtIndex(2), nullptr);
-    EXPECT_EQ(list.objectWithName(QStringLiteral("ttyUSB0")), list.objectAtIndex(0));
-    EXPECT_EQ(list.portByPath(QStringLiteral("/dev/ttyACM1")), list.objectAtIndex(1));
-    EXPECT_EQ(list.objectWithName(QStringLiteral("none")), nullptr);
-    EXPECT_EQ(list.portByPath(QStringLiteral("none")), nullptr);
+    EXPECT_EQ(list.objectWithName("ttyUSB0"), list.objectAtIndex(0));
+    EXPECT_EQ(list.portByPath("/dev/ttyACM1"), list.objectAtIndex(1));
+    EXPECT_EQ(list.objectWithName("none"), nullptr);
+    EXPECT_EQ(list.portByPath("none"), nullptr);
     EXPECT_EQ(list.serialPorts().size(), 2);
-    EXPECT_EQ(list.serialPortsOfType(QStringLiteral("IOSerialStream")).size(), 2);
-    EXPECT_TRUE(list.serialPortsOfType(QStringLiteral("other")).isEmpty());
-}
-
-TEST_F(Discovery, An_Enumerator_Goes_Through_The_Ports_Once)
-{
-    m_finder.Set_Paths({"/dev/a", "/dev/b", "/dev/c"});
-    const KVSerialPortList list(m_finder);
-    auto enumerator = list.portEnumerator();
+    EXPECT_EQ(list.serialPortsOfType("IOSerialStream").size(), 2);
+    EXPECT_TRUE(list.serialPortsOfType("other").isEmpty());
+    auto enumerator = list.portEnumerator(); // goes through them once
     EXPECT_EQ(enumerator.nextObject(), list.objectAtIndex(0));
-    EXPECT_EQ(enumerator.allObjects().size(), 2);
+    EXPECT_EQ(enumerator.allObjects().size(), 1);
     EXPECT_EQ(enumerator.nextObject(), nullptr);
-    EXPECT_EQ(list.portEnumeratorForSerialPortsOfType(QStringLiteral("other")).nextObject(), nullptr);
+    EXPECT_EQ(list.portEnumeratorForSerialPortsOfType("other").nextObject(), nullptr);
+    EXPECT_NE(KVSerialPortList::sharedPortList(), nullptr);
+    EXPECT_EQ(KVSerialPortList::sharedPortList(), KVSerialPortList::sharedPortList());
 }
 
 TEST_F(Discovery, The_Port_List_Tells_What_Comes_And_Goes)
@@ -190,18 +166,11 @@ TEST_F(Discovery, The_Port_List_Tells_What_Comes_And_Goes)
     m_finder.Set_Paths({"/dev/stays", "/dev/comes"});
     list.Refresh();
     ASSERT_EQ(added.size(), 1);
-    EXPECT_EQ(added[0]->bsdPath(), QStringLiteral("/dev/comes"));
-    ASSERT_EQ(removed.size(), 1);
-    EXPECT_EQ(removed[0], going);
+    EXPECT_EQ(added[0]->bsdPath(), "/dev/comes");
+    EXPECT_EQ(removed, KVSerialPortList::Ports{going});
     EXPECT_FALSE(going->isOpen());
     EXPECT_EQ(list.objectAtIndex(0), staying);
     added.clear();
     list.Refresh();
     EXPECT_TRUE(added.isEmpty());
-}
-
-TEST_F(Discovery, There_Is_One_Shared_Port_List)
-{
-    EXPECT_NE(KVSerialPortList::sharedPortList(), nullptr);
-    EXPECT_EQ(KVSerialPortList::sharedPortList(), KVSerialPortList::sharedPortList());
 }

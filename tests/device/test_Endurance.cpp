@@ -1,7 +1,5 @@
 #include "device/Device_Test.h"
 
-#include <thread>
-
 namespace {
 
 // Many sessions at once, each with a phone and a background reader of its own, checking their connections over and
@@ -17,27 +15,18 @@ protected:
         std::vector<std::thread> threads;
         for (int index = 0; index < sessions; ++index)
             threads.emplace_back([&] {
-                Check_Connections(checks, moods);
+                Virtual_Phone phone(moods);
+                MFCSMS session;
+                Connect(session, phone);
+                for (int check = 0; check < checks; ++check) {
+                    m_readers_alive += session.port()->numberOfReadInBackgroundThreads() > 0 ? 1 : 0;
+                    m_successes += session.Check_Connection(No_Descriptor) ? 1 : 0;
+                }
                 --sessions_left;
             });
         EXPECT_TRUE(Serve_Until([&] { return sessions_left == 0; }, 250));
         for (auto& thread : threads)
             thread.join();
-    }
-
-    void Check_Connections(int checks, const Phone_Moods& moods)
-    {
-        Virtual_Phone phone(moods);
-        MFCSMS session;
-        session.initPort(QString::fromStdString(phone.Path()));
-        const auto port = session.port();
-        if (!port)
-            return;
-        port->setReadTimeout(1.0);
-        for (int check = 0; check < checks; ++check) {
-            m_readers_alive += port->numberOfReadInBackgroundThreads() > 0 ? 1 : 0;
-            m_successes += session.Check_Connection(No_Descriptor) ? 1 : 0;
-        }
     }
 
     std::atomic<int> m_successes{0};
@@ -56,9 +45,7 @@ TEST_F(Endurance, Ten_Thousand_Connection_Checks_With_The_Background_Reader_Aliv
 
 TEST_F(Endurance, Unsolicited_Lines_Between_The_Answers_Fail_No_Connection_Check)
 {
-    Phone_Moods moods;
-    moods.m_unsolicited = true;
-    Run(20, 50, moods);
+    Run(20, 50, Mood(&Phone_Moods::m_unsolicited));
     EXPECT_EQ(m_successes, 1000);
 }
 

@@ -1,7 +1,5 @@
 #include "device/Device_Test.h"
 
-#include <thread>
-
 namespace {
 
 // Keeps what a port tells, and reads on while it is told to.
@@ -41,7 +39,7 @@ public:
     std::vector<std::pair<quint64, quint64>> m_progress;
 };
 
-class Serial_Port_Background : public Device_Test
+class Serial_Port_Background : public Open_Port_Test
 {
 protected:
     ~Serial_Port_Background() override { m_port->close(); }
@@ -59,7 +57,7 @@ protected:
         m_port->readDataInBackground();
     }
 
-    /// Begins, and returns when the reader waits for the line.
+    // Begins, and returns when the reader waits for the line.
     void Start_Reading()
     {
         const int waits_before = m_calls.Waits();
@@ -67,9 +65,17 @@ protected:
         EXPECT_TRUE(Serve_Until([&] { return m_calls.Waits() > waits_before; }));
     }
 
-    Virtual_Phone m_phone;
-    Watched_Calls m_calls;
-    std::shared_ptr<KVSerialPort> m_port = Open_Port(m_phone, m_calls);
+    bool Hears(const std::string& text, double seconds = 20)
+    {
+        return Serve_Until([&] { return m_listener.Heard() == text; }, seconds);
+    }
+
+    bool No_Writer_Is_Left() const
+    {
+        return Serve_Until([&] { return m_port->numberOfWriteInBackgroundThreads() == 0; });
+    }
+
+    const std::string m_answer = "AT\r\r\nOK\r\n";
     Listener m_listener;
 };
 
@@ -79,19 +85,24 @@ TEST_F(Serial_Port_Background, What_Arrives_Unasked_Reaches_The_Delegate)
 {
     Start_Reading();
     m_phone.Says("RING\r\n");
-    EXPECT_TRUE(Serve_Until([&] { return m_listener.Heard() == "RING\r\n"; }));
+    EXPECT_TRUE(Hears("RING\r\n"));
     m_phone.Says("RING\r\n");
-    EXPECT_TRUE(Serve_Until([&] { return m_listener.Heard() == "RING\r\nRING\r\n"; }));
+    EXPECT_TRUE(Hears("RING\r\nRING\r\n"));
 }
 
-TEST_F(Serial_Port_Background, Without_A_Delegate_That_Wants_Data_No_Read_Starts)
+TEST_F(Serial_Port_Background, Without_A_Delegate_That_Wants_Data_Or_An_Open_Port_Nothing_Is_Read)
 {
     m_port->readDataInBackground();
     m_listener.m_wants_data = false;
-    m_port->setDelegate(&m_listener);
-    m_port->readDataInBackground();
+    Begin_Reading();
     EXPECT_EQ(m_port->numberOfReadInBackgroundThreads(), 0);
     EXPECT_EQ(Workers_Running(), 0);
+    m_port->close();
+    m_listener.m_wants_data = true;
+    Begin_Reading();
+    EXPECT_TRUE(No_Worker_Is_Left());
+    Serve_For(0.02);
+    EXPECT_TRUE(m_listener.m_reads.empty());
 }
 
 TEST_F(Serial_Port_Background, One_Call_Is_One_Read)
@@ -106,23 +117,17 @@ TEST_F(Serial_Port_Background, One_Call_Is_One_Read)
     EXPECT_EQ(m_port->readBytes(6), QByteArray("second"));
 }
 
-TEST_F(Serial_Port_Background, A_Port_Closed_Meanwhile_Delivers_Empty_Data)
+TEST_F(Serial_Port_Background, A_Port_Closed_Meanwhile_Delivers_Empty_Data_And_The_Next_Opening_Is_Not_Read)
 {
     Start_Reading();
     EXPECT_EQ(m_port->numberOfReadInBackgroundThreads(), 1);
     m_port->close();
-    ASSERT_TRUE(Serve_Until([&] { return !m_listener.m_reads.empty(); }));
-    EXPECT_EQ(m_listener.m_reads, Lines(""));
-    EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
-}
-
-TEST_F(Serial_Port_Background, A_Port_Closed_Before_The_Read_Begins_Delivers_Nothing)
-{
-    m_port->close();
-    Begin_Reading();
-    EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
+    ASSERT_TRUE(m_port->open());
+    EXPECT_TRUE(No_Worker_Is_Left());
     Serve_For(0.02);
-    EXPECT_TRUE(m_listener.m_reads.empty());
+    EXPECT_EQ(m_listener.m_reads, Lines(""));
+    m_phone.Says("new");
+    EXPECT_EQ(m_port->readBytes(3), QByteArray("new"));
 }
 
 TEST_F(Serial_Port_Background, A_Hang_Up_Delivers_Empty_Data_Once_And_Ends_The_Reader)
@@ -130,7 +135,7 @@ TEST_F(Serial_Port_Background, A_Hang_Up_Delivers_Empty_Data_Once_And_Ends_The_R
     Start_Reading();
     m_phone.Hang_Up();
     ASSERT_TRUE(Serve_Until([&] { return !m_listener.m_reads.empty(); }));
-    EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
+    EXPECT_TRUE(No_Worker_Is_Left());
     EXPECT_EQ(m_listener.m_reads, Lines(""));
 }
 
@@ -138,7 +143,7 @@ TEST_F(Serial_Port_Background, A_Reader_That_Is_Stopped_Ends_And_Leaves_The_Byte
 {
     Start_Reading();
     m_port->stopReadInBackground();
-    EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
+    EXPECT_TRUE(No_Worker_Is_Left());
     m_phone.Says("later");
     EXPECT_EQ(m_port->readBytes(5), QByteArray("later"));
     EXPECT_TRUE(m_listener.m_reads.empty());
@@ -148,22 +153,12 @@ TEST_F(Serial_Port_Background, From_A_Write_To_The_End_Of_Its_Read_The_Reader_Le
 {
     Start_Reading();
     ASSERT_TRUE(m_port->writeData("AT\r"));
-    ASSERT_TRUE(Serve_Until([&] { return m_port->bytesAvailable() == int(strlen("AT\r\r\nOK\r\n")); }));
-    Serve_For(0.02);
+    ASSERT_TRUE(Serve_Until([&] { return m_port->bytesAvailable() == static_cast<int>(m_answer.size()); }));
+    Serve_For(Paced(8)); // the longest described wait: after the last part, after the message, and four skipped numbers
     EXPECT_TRUE(m_listener.m_reads.empty());
-    EXPECT_EQ(m_port->readAndReturnError(), QByteArray("AT\r\r\nOK\r\n"));
+    EXPECT_EQ(m_port->readAndReturnError().toStdString(), m_answer);
     m_phone.Says("RING");
-    EXPECT_TRUE(Serve_Until([&] { return m_listener.Heard() == "RING"; }));
-}
-
-TEST_F(Serial_Port_Background, A_Read_That_Comes_After_The_Longest_Described_Wait_Is_Still_First)
-{
-    Start_Reading();
-    Serve_For(0.05);
-    ASSERT_TRUE(m_port->writeData("AT\r"));
-    Serve_For(Paced(8)); // after the last part, after the message, and four skipped numbers
-    EXPECT_TRUE(m_listener.m_reads.empty());
-    EXPECT_EQ(m_port->readAndReturnError(), QByteArray("AT\r\r\nOK\r\n"));
+    EXPECT_TRUE(Hears("RING"));
 }
 
 TEST_F(Serial_Port_Background, An_Answer_That_No_Read_Follows_Goes_To_The_Reader_In_The_End)
@@ -172,14 +167,14 @@ TEST_F(Serial_Port_Background, An_Answer_That_No_Read_Follows_Goes_To_The_Reader
     Serve_For(0.05);
     const double written = Now_Seconds();
     ASSERT_TRUE(m_port->writeData("AT\r"));
-    ASSERT_TRUE(Serve_Until([&] { return m_listener.Heard() == "AT\r\r\nOK\r\n"; }));
+    ASSERT_TRUE(Hears(m_answer));
     EXPECT_GE(Now_Seconds() - written, 1.0); // never sooner, however fast the pace
     m_phone.Says("RING");
-    EXPECT_TRUE(Serve_Until([&] { return m_listener.Heard() == "AT\r\r\nOK\r\nRING"; }));
+    EXPECT_TRUE(Hears(m_answer + "RING"));
     // The next exchange has the line for itself again.
     ASSERT_TRUE(m_port->writeData("AT\r"));
     Serve_For(0.1);
-    EXPECT_EQ(m_port->readAndReturnError(), QByteArray("AT\r\r\nOK\r\n"));
+    EXPECT_EQ(m_port->readAndReturnError().toStdString(), m_answer);
 }
 
 TEST_F(Serial_Port_Background, Told_That_No_Read_Follows_The_Reader_Has_The_Line_At_Once)
@@ -189,37 +184,28 @@ TEST_F(Serial_Port_Background, Told_That_No_Read_Follows_The_Reader_Has_The_Line
     Serve_For(0.05);
     ASSERT_TRUE(m_port->writeData("AT\r"));
     m_port->Await_No_Answer();
-    EXPECT_TRUE(Serve_Until([&] { return m_listener.Heard() == "AT\r\r\nOK\r\n"; }, 5));
+    EXPECT_TRUE(Hears(m_answer, 5));
 }
 
 TEST_F(Serial_Port_Background, While_An_Answer_Is_Awaited_The_Reader_Does_Not_Spin)
 {
-    Watched_Calls calls;
-    const auto port = Open_Port(m_phone, calls);
-    port->setDelegate(&m_listener);
-    ASSERT_TRUE(port->writeData("AT\r"));
-    ASSERT_TRUE(Serve_Until([&] { return port->bytesAvailable() > 0; }));
-    const int waits_before = calls.Waits();
-    port->readDataInBackground();
-    ASSERT_TRUE(Serve_Until([&] { return calls.Waits() > waits_before; }));
+    ASSERT_TRUE(m_port->writeData("AT\r"));
+    ASSERT_TRUE(Serve_Until([&] { return m_port->bytesAvailable() > 0; }));
+    const int waits_before = m_calls.Waits();
+    Start_Reading();
     Serve_For(0.1);
-    EXPECT_LE(calls.Waits() - waits_before, 3); // each time it is woken it looks again
-    EXPECT_EQ(port->numberOfReadInBackgroundThreads(), 1);
-    port->close();
+    EXPECT_LE(m_calls.Waits() - waits_before, 3); // each time it is woken it looks again
+    EXPECT_EQ(m_port->numberOfReadInBackgroundThreads(), 1);
 }
 
 TEST_F(Serial_Port_Background, A_Write_That_Fails_Gives_The_Line_Back_To_The_Reader)
 {
-    Watched_Calls calls;
-    const auto port = Open_Port(m_phone, calls);
-    port->setDelegate(&m_listener);
-    port->readDataInBackground();
+    Begin_Reading();
     Serve_For(0.05);
-    calls.Will_Fail("write", EIO);
-    EXPECT_FALSE(port->writeData("AT\r"));
+    m_calls.Will_Fail("write", EIO);
+    EXPECT_FALSE(m_port->writeData("AT\r"));
     m_phone.Says("RING");
-    EXPECT_TRUE(Serve_Until([&] { return m_listener.Heard() == "RING"; }));
-    port->close();
+    EXPECT_TRUE(Hears("RING"));
 }
 
 TEST_F(Serial_Port_Background, A_Delegate_That_Has_Gone_Is_Not_Called)
@@ -236,30 +222,17 @@ TEST_F(Serial_Port_Background, A_Delegate_That_Has_Gone_Is_Not_Called)
 
 TEST_F(Serial_Port_Background, Data_That_Was_Posted_Keeps_Its_Port_Alive)
 {
-    const std::weak_ptr<KVSerialPort> watch = m_port;
-    auto own_port = Open_Port(m_phone);
-    const std::weak_ptr<KVSerialPort> own_watch = own_port;
-    own_port->setDelegate(&m_listener);
-    own_port->readDataInBackground();
+    auto port = Open_Port(m_phone);
+    const std::weak_ptr<KVSerialPort> watch = port;
+    port->setDelegate(&m_listener);
+    port->readDataInBackground();
     m_phone.Says("RING");
-    Wait_Until_Posted(*own_port);
-    own_port->close();
-    own_port.reset();
-    EXPECT_FALSE(own_watch.expired());
-    EXPECT_TRUE(Serve_Until([&] { return own_watch.expired(); }));
+    Wait_Until_Posted(*port);
+    port->close();
+    port.reset();
+    EXPECT_FALSE(watch.expired());
+    EXPECT_TRUE(Serve_Until([&] { return watch.expired(); }));
     EXPECT_EQ(m_listener.Heard(), "RING");
-}
-
-TEST_F(Serial_Port_Background, A_Reader_Does_Not_Go_On_With_A_Line_That_Was_Opened_Anew)
-{
-    Start_Reading();
-    m_port->close();
-    ASSERT_TRUE(m_port->open());
-    ASSERT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
-    Serve_For(0.02);
-    EXPECT_EQ(m_listener.m_reads, Lines(""));
-    m_phone.Says("new");
-    EXPECT_EQ(m_port->readBytes(3), QByteArray("new"));
 }
 
 TEST_F(Serial_Port_Background, A_Reader_Ends_When_The_Program_Exits)
@@ -283,26 +256,22 @@ TEST_F(Serial_Port_Background, Waiting_For_Input_Tells_The_Target_And_Takes_Noth
     EXPECT_EQ(m_port->readBytes(5), QByteArray("input"));
     m_port->waitForInput(&target, [&] { ++told; });
     m_port->close();
-    EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
+    EXPECT_TRUE(No_Worker_Is_Left());
     EXPECT_EQ(told, 1);
 }
 
-TEST_F(Serial_Port_Background, A_Short_Background_Write_Goes_Out_Without_A_Report)
+TEST_F(Serial_Port_Background, A_Background_Write_Reports_Its_Start_And_Its_End_If_It_Is_A_Long_One)
 {
-    m_port->setSpeed(115200);
     m_port->setDelegate(&m_listener);
+    m_port->setSpeed(115200);
     m_port->writeDataInBackground("AT\r");
     EXPECT_TRUE(Serve_Until([&] { return m_phone.Heard_Bytes() == "AT\r"; }));
-    EXPECT_TRUE(Serve_Until([&] { return m_port->numberOfWriteInBackgroundThreads() == 0; }));
+    EXPECT_TRUE(No_Writer_Is_Left());
     EXPECT_TRUE(m_listener.m_progress.empty());
-}
 
-TEST_F(Serial_Port_Background, A_Long_Background_Write_Reports_At_Its_Start_And_At_Its_End)
-{
     m_port->setSpeed(9600); // 20,000 bytes would take 16 seconds
-    m_port->setDelegate(&m_listener);
     m_port->writeDataInBackground(QByteArray(20000, 'x'));
-    ASSERT_TRUE(Serve_Until([&] { return m_port->numberOfWriteInBackgroundThreads() == 0; }));
+    ASSERT_TRUE(No_Writer_Is_Left());
     Serve_For(0.02);
     ASSERT_GE(m_listener.m_progress.size(), 2u);
     EXPECT_EQ(m_listener.m_progress.front(), std::make_pair(quint64(0), quint64(20000)));
@@ -311,14 +280,11 @@ TEST_F(Serial_Port_Background, A_Long_Background_Write_Reports_At_Its_Start_And_
 
 TEST_F(Serial_Port_Background, A_Background_Write_Can_Be_Stopped)
 {
-    Watched_Calls calls;
-    const auto port = Open_Port(m_phone, calls);
-    calls.Will_Do("write", [&](void*) {
-        port->stopWriteInBackground();
-        return static_cast<int>(::write(port->fileDescriptor(), std::string(4096, 'x').data(), 4096));
+    m_calls.Will_Do("write", [&](void*) {
+        m_port->stopWriteInBackground();
+        return static_cast<int>(::write(m_port->fileDescriptor(), std::string(4096, 'x').data(), 4096));
     });
-    port->writeDataInBackground(QByteArray(100000, 'x'));
-    EXPECT_TRUE(Serve_Until([&] { return port->numberOfWriteInBackgroundThreads() == 0; }));
-    EXPECT_LE(calls.Count("write"), 8); // one piece, in as many writes as the line had room for
-    port->close();
+    m_port->writeDataInBackground(QByteArray(100000, 'x'));
+    EXPECT_TRUE(No_Writer_Is_Left());
+    EXPECT_LE(m_calls.Count("write"), 8); // one piece, in as many writes as the line had room for
 }

@@ -2,65 +2,44 @@
 
 #include "device/Line_Speeds.h"
 
-namespace {
+#include <array>
 
-class Serial_Port_Options : public Device_Test
-{
-protected:
-    termios On_The_Line()
-    {
-        termios settings{};
-        EXPECT_EQ(tcgetattr(m_port->fileDescriptor(), &settings), 0);
-        return settings;
-    }
-
-    Virtual_Phone m_phone;
-    std::shared_ptr<KVSerialPort> m_port = Open_Port(m_phone);
-};
-
-} // namespace
+using Serial_Port_Options = Open_Port_Test;
 
 TEST_F(Serial_Port_Options, A_Setting_Reaches_The_Line_Only_When_Committed)
 {
     ASSERT_TRUE(m_port->setSpeed(115200));
     EXPECT_EQ(m_port->speed(), 115200);
-    const termios before = On_The_Line();
+    const termios before = Settings_Of(m_port->fileDescriptor());
     EXPECT_NE(cfgetospeed(&before), static_cast<speed_t>(B115200));
     ASSERT_TRUE(m_port->commitChanges());
-    const termios after = On_The_Line();
+    const termios after = Settings_Of(m_port->fileDescriptor());
     EXPECT_EQ(cfgetospeed(&after), static_cast<speed_t>(B115200));
 }
 
 TEST_F(Serial_Port_Options, Every_Setting_Is_Told_As_It_Was_Given)
 {
-    for (const int bits : {5, 6, 7, 8}) {
-        EXPECT_TRUE(m_port->setDataBits(bits));
-        EXPECT_EQ(m_port->dataBits(), bits);
-    }
-    for (const auto parity : {KVSerialParity::Odd, KVSerialParity::Even, KVSerialParity::None}) {
-        m_port->setParity(parity);
-        EXPECT_EQ(m_port->parity(), parity);
-    }
-    for (const int bits : {2, 1}) {
-        EXPECT_TRUE(m_port->setStopBits(bits));
-        EXPECT_EQ(m_port->stopBits(), bits);
-    }
-    for (const bool on : {true, false}) {
-        m_port->setEchoEnabled(on);
-        EXPECT_EQ(m_port->echoEnabled(), on);
-        m_port->setRTSInputFlowControl(on);
-        EXPECT_EQ(m_port->RTSInputFlowControl(), on);
-        m_port->setCTSOutputFlowControl(!on);
-        EXPECT_EQ(m_port->CTSOutputFlowControl(), !on);
-        m_port->setHangupOnClose(on);
-        EXPECT_EQ(m_port->hangupOnClose(), on);
-        m_port->setLocalMode(on);
-        EXPECT_EQ(m_port->localMode(), on);
-        m_port->setCanonicalMode(on);
-        EXPECT_EQ(m_port->canonicalMode(), on);
-    }
-    m_port->setEndOfLineCharacter(';');
-    EXPECT_EQ(m_port->endOfLineCharacter(), ';');
+    using Port = KVSerialPort;
+    const auto expect_told = [this](auto set, auto told, auto values) {
+        for (const auto value : values) {
+            ((*m_port).*set)(value);
+            EXPECT_EQ(((*m_port).*told)(), value);
+        }
+    };
+    expect_told(&Port::setDataBits, &Port::dataBits, std::array{5, 6, 7, 8});
+    expect_told(&Port::setStopBits, &Port::stopBits, std::array{2, 1});
+    expect_told(&Port::setParity, &Port::parity,
+                std::array{KVSerialParity::Odd, KVSerialParity::Even, KVSerialParity::None});
+    constexpr std::array both{true, false};
+    expect_told(&Port::setEchoEnabled, &Port::echoEnabled, both);
+    expect_told(&Port::setRTSInputFlowControl, &Port::RTSInputFlowControl, both);
+    expect_told(&Port::setCTSOutputFlowControl, &Port::CTSOutputFlowControl, both);
+    expect_told(&Port::setHangupOnClose, &Port::hangupOnClose, both);
+    expect_told(&Port::setLocalMode, &Port::localMode, both);
+    expect_told(&Port::setCanonicalMode, &Port::canonicalMode, both);
+    expect_told(&Port::setEndOfLineCharacter, &Port::endOfLineCharacter, std::array{';'});
+    EXPECT_TRUE(m_port->setDataBits(7));
+    EXPECT_TRUE(m_port->setStopBits(2));
     EXPECT_FALSE(m_port->gotError());
 }
 
@@ -97,7 +76,7 @@ TEST_F(Serial_Port_Options, The_Options_Are_A_Dictionary_Of_Texts)
     EXPECT_EQ(told.take(KVSerialOptionServiceName), m_port->name());
     EXPECT_EQ(told, given);
     EXPECT_TRUE(m_port->setOptions({{KVSerialOptionParity, "Odd"}}));
-    EXPECT_EQ(m_port->options().value(KVSerialOptionParity), QStringLiteral("Odd"));
+    EXPECT_EQ(m_port->options().value(KVSerialOptionParity), "Odd");
     EXPECT_TRUE(m_port->setOptions({}));
     told = m_port->options();
     EXPECT_FALSE(told.contains(KVSerialOptionParity) || told.contains(KVSerialOptionEcho) ||

@@ -1,53 +1,55 @@
 #include "device/Device_Test.h"
 
-#include "device/Bounded_Write.h"
-
-#include <fcntl.h>
 #include <poll.h>
-#include <thread>
 
 namespace {
 
-class Serial_Port_Writing : public Device_Test
+class Serial_Port_Writing : public Open_Port_Test
 {
 protected:
-    Virtual_Phone m_phone;
-    Watched_Calls m_calls;
-    std::shared_ptr<KVSerialPort> m_port = Open_Port(m_phone, m_calls);
-    KVSerialError m_error;
-};
+    // A write to the port fails so.
+    void Expect_Failure(int code, int underlying)
+    {
+        m_error = {};
+        EXPECT_FALSE(m_port->writeData("AT\r", &m_error));
+        EXPECT_EQ(m_error.code, code);
+        EXPECT_EQ(m_error.underlyingError, underlying);
+        EXPECT_EQ(m_error.bytesWritten, 0u);
+    }
 
-Phone_Moods Takes_No_Byte()
-{
-    Phone_Moods moods;
-    moods.m_stop_reading_after = 0;
-    return moods;
-}
+    // From now on the phone takes no byte; returns how many the line has taken until it was full.
+    std::size_t Fill_The_Line()
+    {
+        Stop_Taking();
+        const int descriptor = m_port->fileDescriptor();
+        fcntl(descriptor, F_SETFL, fcntl(descriptor, F_GETFL) | O_NONBLOCK);
+        const std::string octets(1000, '7');
+        std::size_t written = 0;
+        for (ssize_t now = 0; (now = ::write(descriptor, octets.data(), octets.size())) > 0;)
+            written += static_cast<std::size_t>(now);
+        return written;
+    }
+    void Stop_Taking() { m_phone.Set_Moods(Mood(&Phone_Moods::m_stop_reading_after, 0)); }
+};
 
 } // namespace
 
-TEST_F(Serial_Port_Writing, A_Text_Goes_Out_Whole)
+TEST_F(Serial_Port_Writing, A_Text_Goes_Out_Whole_And_Its_Encoding_Decides_As_What)
 {
-    EXPECT_TRUE(m_port->writeString(QStringLiteral("AT+GMI\r\n"), KVText_Encoding::Utf8, &m_error));
+    EXPECT_TRUE(m_port->writeString("AT+GMI\r\n", KVText_Encoding::Utf8, &m_error));
     EXPECT_EQ(m_error.code, 0);
     EXPECT_EQ(m_error.bytesWritten, 8u);
-    ASSERT_TRUE(Serve_Until([&] { return m_phone.Heard_Bytes().size() == 8; }));
-    EXPECT_EQ(m_phone.Heard(), Lines("AT+GMI"));
+    EXPECT_TRUE(m_port->writeString("é\r", KVText_Encoding::Utf8));
+    EXPECT_TRUE(m_port->writeString("é\r", KVText_Encoding::Ascii));
+    EXPECT_TRUE(Serve_Until([&] { return m_phone.Heard_Bytes() == "AT+GMI\r\n\xC3\xA9\r?\r"; }));
+    EXPECT_TRUE(Blocks(m_port->fileDescriptor()));
 }
 
 // Whoever reads slowly at the other end gets all that was written, and the last word after it.
 TEST_F(Serial_Port_Writing, The_Last_Word_Waits_For_Room_On_The_Way_Out)
 {
-    Phone_Moods moods;
-    moods.m_stop_reading_after = 0;
-    m_phone.Set_Moods(moods);
     Set_Pace(1);
-    const int descriptor = m_port->fileDescriptor();
-    fcntl(descriptor, F_SETFL, fcntl(descriptor, F_GETFL) | O_NONBLOCK);
-    const std::string octets(1000, '7');
-    std::size_t written = 0;
-    for (ssize_t now = 0; (now = ::write(descriptor, octets.data(), octets.size())) > 0;)
-        written += static_cast<std::size_t>(now);
+    const std::size_t written = Fill_The_Line();
     std::thread slow_reader([this] {
         Wait_For_Descriptor(-1, POLLIN, 0.3);
         m_phone.Set_Moods({});
@@ -66,125 +68,72 @@ TEST_F(Serial_Port_Writing, The_Last_Word_Waits_For_Room_On_The_Way_Out)
 
 TEST_F(Serial_Port_Writing, A_Device_That_Takes_Nothing_Is_Left_After_Two_Seconds)
 {
-    Virtual_Phone phone(Takes_No_Byte());
-    const auto port = Open_Port(phone, m_calls);
-    const int descriptor = port->fileDescriptor();
-    fcntl(descriptor, F_SETFL, fcntl(descriptor, F_GETFL) | O_NONBLOCK);
-    const std::string octets(1000, '7');
-    while (::write(descriptor, octets.data(), octets.size()) > 0) {
-    }
+    Fill_The_Line();
     Begin_Program_Exit();
     const double begin = Now_Seconds();
-    EXPECT_FALSE(port->writeInLeaving("\x1B"));
-    port->close();
+    EXPECT_FALSE(m_port->writeInLeaving("\x1B"));
+    m_port->close();
     EXPECT_GE(Now_Seconds() - begin, 2.0 / Test_Pace);
     EXPECT_LT(Now_Seconds() - begin, 3);
     Forget_Program_Exit();
 }
 
-TEST_F(Serial_Port_Writing, The_Encoding_Decides_What_Goes_Out)
-{
-    EXPECT_TRUE(m_port->writeString(QStringLiteral("é\r"), KVText_Encoding::Utf8));
-    EXPECT_TRUE(m_port->writeString(QStringLiteral("é\r"), KVText_Encoding::Ascii));
-    ASSERT_TRUE(Serve_Until([&] { return m_phone.Heard_Bytes().size() == 5; }));
-    EXPECT_EQ(m_phone.Heard_Bytes(), "\xC3\xA9\r?\r");
-}
-
-TEST_F(Serial_Port_Writing, Empty_Data_Is_Refused)
+TEST_F(Serial_Port_Writing, A_Write_That_Fails_Says_Why)
 {
     EXPECT_FALSE(m_port->writeData(QByteArray(), &m_error));
-    EXPECT_EQ(m_error.code, 200);
+    EXPECT_EQ(m_error.code, 200) << "nothing to write";
     EXPECT_EQ(m_calls.Count("write"), 0);
-    EXPECT_TRUE(m_phone.Is_Silent());
+    m_calls.Will_Do("write", [](void*) { return 0; });
+    Expect_Failure(201, 0);
+    m_calls.Will_Fail("write", EIO);
+    Expect_Failure(99, EIO);
+    const int writes = m_calls.Count("write");
+    m_calls.Will_Fail("F_SETFL", EPERM); // what cannot be made non-blocking is not written to
+    Expect_Failure(99, EPERM);
+    EXPECT_EQ(m_calls.Count("write"), writes);
+    m_port->close();
+    Expect_Failure(99, EBADF);
 }
 
-TEST_F(Serial_Port_Writing, A_System_Error_Is_Told_With_Its_Number)
+TEST_F(Serial_Port_Writing, A_Line_That_Hung_Up_Takes_Nothing)
 {
-    m_calls.Will_Fail("write", EIO);
-    EXPECT_FALSE(m_port->writeBytes("AT", 2, &m_error));
-    EXPECT_EQ(m_error.code, 99);
-    EXPECT_EQ(m_error.underlyingError, EIO);
-    EXPECT_EQ(m_error.bytesWritten, 0u);
+    m_phone.Hang_Up();
+    Expect_Failure(99, EIO);
 }
 
 TEST_F(Serial_Port_Writing, A_Write_That_A_Signal_Interrupts_Goes_On_With_The_Rest)
 {
     int turn = 0;
     m_calls.Will_Do("write", [&](void*) {
-        if (turn++ == 0) {
-            errno = EINTR;
-            return -1;
-        }
-        return static_cast<int>(::write(m_port->fileDescriptor(), "A", 1));
+        return turn++ == 0 ? Watched_Calls::Failed(EINTR) : static_cast<int>(::write(m_port->fileDescriptor(), "A", 1));
     });
     EXPECT_TRUE(m_port->writeData("AAA", &m_error));
     EXPECT_EQ(turn, 4);
     EXPECT_EQ(m_error.bytesWritten, 3u);
 }
 
-TEST_F(Serial_Port_Writing, A_Write_Of_No_Bytes_Is_Incomplete)
-{
-    m_calls.Will_Do("write", [](void*) { return 0; });
-    EXPECT_FALSE(m_port->writeData("AT", &m_error));
-    EXPECT_EQ(m_error.code, 201);
-}
-
 TEST_F(Serial_Port_Writing, A_Device_That_Takes_No_Bytes_Ends_The_Write_After_Its_Time)
 {
-    Virtual_Phone deaf_phone(Takes_No_Byte());
-    const auto port = Open_Port(deaf_phone);
+    Stop_Taking();
     const double start = Now_Seconds();
-    EXPECT_FALSE(port->writeData(QByteArray(1 << 20, 'x'), &m_error));
-    const double lasted = Now_Seconds() - start;
+    EXPECT_FALSE(m_port->writeData(QByteArray(1 << 20, 'x'), &m_error));
+    EXPECT_GE(Now_Seconds() - start, 1.0);
     EXPECT_EQ(m_error.code, 201);
     EXPECT_LT(m_error.bytesWritten, 1u << 20);
-    EXPECT_GE(lasted, 1.0);
-    port->close(); // returns, too
-    EXPECT_FALSE(port->isOpen());
+    m_port->close(); // returns, too
+    EXPECT_FALSE(m_port->isOpen());
 }
 
 TEST_F(Serial_Port_Writing, A_Close_Ends_A_Write_That_Waits_For_Room)
 {
-    Virtual_Phone deaf_phone(Takes_No_Byte());
-    Watched_Calls calls;
-    const auto port = Open_Port(deaf_phone, calls);
+    Stop_Taking();
     std::thread closer([&] {
-        while (calls.Waits() == 0)
+        while (m_calls.Waits() == 0)
             std::this_thread::yield();
-        port->close();
+        m_port->close();
     });
-    EXPECT_FALSE(port->writeData(QByteArray(1 << 20, 'x'), &m_error));
+    EXPECT_FALSE(m_port->writeData(QByteArray(1 << 20, 'x'), &m_error));
     closer.join();
     EXPECT_EQ(m_error.code, 99);
     EXPECT_EQ(m_error.underlyingError, EBADF);
-}
-
-TEST_F(Serial_Port_Writing, After_A_Write_The_Descriptor_Blocks_Again)
-{
-    ASSERT_TRUE(m_port->writeData("AT\r"));
-    EXPECT_EQ(fcntl(m_port->fileDescriptor(), F_GETFL) & O_NONBLOCK, 0);
-}
-
-TEST_F(Serial_Port_Writing, A_Line_That_Hung_Up_Takes_Nothing)
-{
-    m_phone.Hang_Up();
-    EXPECT_FALSE(m_port->writeData("AT\r", &m_error));
-    EXPECT_EQ(m_error.code, 99);
-    EXPECT_EQ(m_error.underlyingError, EIO);
-}
-
-TEST_F(Serial_Port_Writing, A_Closed_Port_Takes_Nothing)
-{
-    m_port->close();
-    EXPECT_FALSE(m_port->writeData("AT\r", &m_error));
-    EXPECT_EQ(m_error.code, 99);
-    EXPECT_EQ(m_error.underlyingError, EBADF);
-}
-
-TEST_F(Serial_Port_Writing, A_Descriptor_That_Cannot_Be_Made_Non_Blocking_Is_Not_Written_To)
-{
-    m_calls.Will_Fail("F_SETFL", EPERM);
-    EXPECT_FALSE(m_port->writeData("AT\r", &m_error));
-    EXPECT_EQ(m_error.underlyingError, EPERM);
-    EXPECT_EQ(m_calls.Count("write"), 0);
 }

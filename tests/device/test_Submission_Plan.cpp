@@ -36,30 +36,7 @@ const Row Table[] = {
     {1600, Plain, true, false, 25, 152, 52},
 };
 
-const QString Number = QStringLiteral("0123456789");
-
-std::string In_Words(const Row& row, const Outgoing_Message& message)
-{
-    return std::to_string(row.m_length) + " of " + QString(row.m_character).toStdString() +
-           (row.m_is_unicode ? " in UCS2" : "") + (message.m_is_flash ? ", flash" : "") + " through \"" +
-           message.m_smsc.toStdString() + "\"";
-}
-
-// Every row, with and without a centre and as either class.
-template <typename Check>
-void For_Each_Message(Check check)
-{
-    for (const Row& row : Table) {
-        const QString text(row.m_length, row.m_character);
-        for (const char* smsc : {"", "+15550009999", "12345", "+"}) {
-            for (const bool is_flash : {false, true}) {
-                const Outgoing_Message message{text, Number, QString::fromLatin1(smsc), is_flash, row.m_is_unicode};
-                SCOPED_TRACE(In_Words(row, message));
-                check(row, message, Plan_Pdu(message, {}));
-            }
-        }
-    }
-}
+const QString Number = "0123456789";
 
 QString Encoded(const Outgoing_Message& message, bool is_single, int parts, int part)
 {
@@ -70,40 +47,38 @@ QString Encoded(const Outgoing_Message& message, bool is_single, int parts, int 
                                               message.m_is_flash, parts, part, message.m_is_unicode);
 }
 
+// One frame or parts of the lengths in the table, each the encoder's and as long as announced.
+void Expect_Plan(const Row& row, const Outgoing_Message& message)
+{
+    SCOPED_TRACE(testing::Message() << row.m_length << " of " << QString(row.m_character).toStdString() << " through \""
+                                    << message.m_smsc.toStdString() << "\", flash: " << message.m_is_flash);
+    const Submission_Plan plan = Plan_Pdu(message, {});
+    EXPECT_EQ(plan.m_is_single, row.m_is_single);
+    EXPECT_EQ(plan.m_parts, row.m_parts);
+    ASSERT_EQ(plan.m_frames.size(), static_cast<size_t>(row.m_parts));
+    EXPECT_EQ(plan.m_frames.front().m_length, row.m_first_length);
+    EXPECT_EQ(plan.m_frames.back().m_length, row.m_last_length);
+    int part = 0;
+    for (const Pdu_Frame& frame : plan.m_frames) {
+        EXPECT_TRUE(frame.Is_Made());
+        EXPECT_EQ(QString::fromLatin1(frame.m_digits), Encoded(message, row.m_is_single, row.m_parts, ++part));
+        EXPECT_EQ(frame.m_digits.size(), frame.m_length * 2 + PDU::EncodeSMSCAddress(message.m_smsc).size());
+    }
+    const auto single = Single_Frame(message, {});
+    ASSERT_EQ(single.has_value(), row.m_is_single);
+    EXPECT_EQ(single.value_or(plan.m_frames.front()).m_digits, plan.m_frames.front().m_digits);
+}
+
 } // namespace
 
-TEST(Submission_Plan, A_Message_Is_One_Frame_Or_Parts_Of_The_Lengths_In_The_Table)
+TEST(Submission_Plan, A_Message_Goes_As_The_Table_Says_With_And_Without_A_Centre_And_As_Either_Class)
 {
-    For_Each_Message([](const Row& row, const Outgoing_Message&, const Submission_Plan& plan) {
-        EXPECT_EQ(plan.m_is_single, row.m_is_single);
-        EXPECT_EQ(plan.m_parts, row.m_parts);
-        ASSERT_EQ(plan.m_frames.size(), static_cast<size_t>(row.m_parts));
-        EXPECT_EQ(plan.m_frames.front().m_length, row.m_first_length);
-        EXPECT_EQ(plan.m_frames.back().m_length, row.m_last_length);
-    });
-}
-
-TEST(Submission_Plan, The_Frames_Are_The_Encoders_And_Each_Is_As_Long_As_Announced)
-{
-    For_Each_Message([](const Row& row, const Outgoing_Message& message, const Submission_Plan& plan) {
-        for (int part = 1; part <= row.m_parts; ++part) {
-            const Pdu_Frame& frame = plan.m_frames.at(static_cast<size_t>(part - 1));
-            EXPECT_TRUE(frame.Is_Made());
-            EXPECT_EQ(QString::fromLatin1(frame.m_digits), Encoded(message, row.m_is_single, row.m_parts, part));
-            EXPECT_EQ(frame.m_digits.size(), frame.m_length * 2 + PDU::EncodeSMSCAddress(message.m_smsc).size());
+    for (const Row& row : Table) {
+        for (const char* smsc : {"", "+15550009999", "12345", "+"}) {
+            for (const bool is_flash : {false, true})
+                Expect_Plan(row, {QString(row.m_length, row.m_character), Number, smsc, is_flash, row.m_is_unicode});
         }
-    });
-}
-
-TEST(Submission_Plan, A_Message_Without_A_Single_Frame_Is_Planned_In_Parts)
-{
-    For_Each_Message([](const Row& row, const Outgoing_Message& message, const Submission_Plan& plan) {
-        const auto single = Single_Frame(message, {});
-        ASSERT_EQ(single.has_value(), row.m_is_single);
-        if (single) {
-            EXPECT_EQ(single->m_digits, plan.m_frames.front().m_digits);
-        }
-    });
+    }
 }
 
 TEST(Submission_Plan, A_Longer_Number_Makes_A_Full_Message_Go_In_Parts)
@@ -124,14 +99,12 @@ TEST(Submission_Plan, It_Ends_With_The_Frame_That_Cannot_Be_Made)
     const QChar only = u'1';
     const QString endless = QString::fromRawData(&only, qsizetype{1} << 62); // refused before it is looked at
     for (const bool is_unicode : {false, true}) {
-        const Submission_Plan single = Plan_Pdu({QStringLiteral("hello"), endless, QString(), false, is_unicode}, {});
-        EXPECT_TRUE(single.m_is_single);
-        ASSERT_EQ(single.m_frames.size(), 1u);
-        EXPECT_FALSE(single.m_frames[0].Is_Made());
-        const Submission_Plan parts = Plan_Pdu({QString(320, Plain), endless, QString(), false, is_unicode}, {});
-        EXPECT_FALSE(parts.m_is_single);
-        EXPECT_EQ(parts.m_parts, is_unicode ? 5 : 3);
-        ASSERT_EQ(parts.m_frames.size(), 1u);
-        EXPECT_FALSE(parts.m_frames[0].Is_Made());
+        for (const int length : {5, 320}) {
+            const Submission_Plan plan = Plan_Pdu({QString(length, Plain), endless, QString(), false, is_unicode}, {});
+            EXPECT_EQ(plan.m_is_single, length == 5);
+            EXPECT_EQ(plan.m_parts, length == 5 ? 1 : is_unicode ? 5 : 3);
+            ASSERT_EQ(plan.m_frames.size(), 1u);
+            EXPECT_FALSE(plan.m_frames[0].Is_Made());
+        }
     }
 }
