@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 using namespace Handset;
 
 namespace {
@@ -11,9 +13,7 @@ struct Row
     int m_dcs;
     Alphabet m_alphabet;
     int m_class;
-    bool m_compressed;
-    bool m_to_be_deleted;
-    bool m_waiting;
+    bool m_compressed, m_to_be_deleted, m_waiting;
 };
 
 constexpr Alphabet Gsm = Alphabet::Gsm_7_Bit;
@@ -45,23 +45,18 @@ TEST(Coding_Scheme, Every_Group_Says_Its_Alphabet_Class_And_Flags)
     for (const Row& row : Rows) {
         const auto scheme = Coding_Scheme_Of(std::uint8_t(row.m_dcs));
         EXPECT_EQ(scheme.m_octet, row.m_dcs);
-        EXPECT_EQ(scheme.m_alphabet, row.m_alphabet) << row.m_dcs;
-        EXPECT_EQ(scheme.m_class, row.m_class) << row.m_dcs;
-        EXPECT_EQ(scheme.m_compressed, row.m_compressed) << row.m_dcs;
-        EXPECT_EQ(scheme.m_to_be_deleted, row.m_to_be_deleted) << row.m_dcs;
-        EXPECT_EQ(scheme.m_waiting_indication, row.m_waiting) << row.m_dcs;
+        EXPECT_EQ(std::tie(scheme.m_alphabet, scheme.m_class, scheme.m_compressed, scheme.m_to_be_deleted,
+                           scheme.m_waiting_indication),
+                  std::tie(row.m_alphabet, row.m_class, row.m_compressed, row.m_to_be_deleted, row.m_waiting))
+            << row.m_dcs;
     }
 }
 
-TEST(Coding_Scheme, Alphabets_Have_Names)
+TEST(Coding_Scheme, Alphabets_Have_Names_And_Show_Their_Units)
 {
     EXPECT_EQ(Name_Of(Gsm), "GSM 7-bit");
     EXPECT_EQ(Name_Of(Eight), "8-bit");
     EXPECT_EQ(Name_Of(Ucs2), "UCS2");
-}
-
-TEST(Coding_Scheme, Units_Are_Shown_By_Their_Alphabet)
-{
     EXPECT_EQ(Shown_Text(Gsm, {0x00, 0x41}), "@A");
     EXPECT_EQ(Shown_Text(Eight, {0xFC, 0x41}), "üA");
     EXPECT_EQ(Shown_Text(Ucs2, {0x00, 0xFC}), "ü");

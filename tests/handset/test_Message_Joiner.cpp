@@ -43,48 +43,36 @@ using Texts = std::vector<std::string>;
 
 } // namespace
 
-TEST(Message_Joiner, A_Message_Without_Concatenation_Is_Complete_At_Once)
+TEST(Message_Joiner, Parts_Become_Messages)
 {
     auto single = Part(1, 1, "hi");
     single.m_shown.m_reference = -1;
-    EXPECT_EQ(Joined({single, single}), (Texts{"hi", "hi"}));
-}
-
-TEST(Message_Joiner, A_Concatenated_Message_Of_One_Part_Is_Complete_At_Once)
-{
-    EXPECT_EQ(Joined({Part(1, 1, "hi"), Part(1, 1, "hi")}), (Texts{"hi", "hi"}));
-}
-
-TEST(Message_Joiner, Parts_Join_In_Any_Order)
-{
-    EXPECT_EQ(Joined({Part(1, 3, "a"), Part(2, 3, "b"), Part(3, 3, "c")}), Texts{"abc"});
-    EXPECT_EQ(Joined({Part(3, 3, "c"), Part(1, 3, "a"), Part(2, 3, "b")}), Texts{"abc"});
-    EXPECT_EQ(Joined({Part(2, 2, "b"), Part(1, 2, "a")}), Texts{"ab"});
-}
-
-TEST(Message_Joiner, Doubled_Parts_Make_One_Message)
-{
-    EXPECT_EQ(Joined({Part(1, 2, "a"), Part(1, 2, "a"), Part(2, 2, "b"), Part(2, 2, "b")}), Texts{"ab"});
-    EXPECT_EQ(Joined({Part(1, 3, "a"), Part(2, 3, "b"), Part(1, 3, "a"), Part(3, 3, "c")}), Texts{"abc"});
-}
-
-TEST(Message_Joiner, A_New_Part_One_With_The_Same_Reference_Begins_A_New_Message)
-{
-    EXPECT_EQ(Joined({Part(1, 3, "a"), Part(2, 3, "b"), Part(1, 3, "x"), Part(2, 3, "y"), Part(3, 3, "z")}),
-              Texts{"xyz"});
-    EXPECT_EQ(Joined({Part(1, 2, "a"), Part(2, 2, "b"), Part(1, 2, "a"), Part(2, 2, "b")}), (Texts{"ab", "ab"}));
-}
-
-TEST(Message_Joiner, A_Message_Sent_Anew_With_The_Same_Beginning_Takes_Its_New_Parts)
-{
-    EXPECT_EQ(Joined({Part(1, 3, "a"), Part(2, 3, "b"), Part(1, 3, "a"), Part(2, 3, "y"), Part(3, 3, "z")}),
-              Texts{"ayz"});
-}
-
-TEST(Message_Joiner, A_Late_Double_Does_Not_Spoil_The_Next_Message)
-{
-    EXPECT_EQ(Joined({Part(1, 2, "a"), Part(2, 2, "b"), Part(2, 2, "b"), Part(1, 2, "x"), Part(2, 2, "y")}),
-              (Texts{"ab", "xy"}));
+    const struct
+    {
+        const char* name;
+        std::vector<Received_Part> parts;
+        Texts texts;
+    } rows[] = {
+        {"without concatenation", {single, single}, {"hi", "hi"}},
+        {"of one part", {Part(1, 1, "hi"), Part(1, 1, "hi")}, {"hi", "hi"}},
+        {"in order", {Part(1, 3, "a"), Part(2, 3, "b"), Part(3, 3, "c")}, {"abc"}},
+        {"the last first", {Part(3, 3, "c"), Part(1, 3, "a"), Part(2, 3, "b")}, {"abc"}},
+        {"backwards", {Part(2, 2, "b"), Part(1, 2, "a")}, {"ab"}},
+        {"doubled", {Part(1, 2, "a"), Part(1, 2, "a"), Part(2, 2, "b"), Part(2, 2, "b")}, {"ab"}},
+        {"doubled later", {Part(1, 3, "a"), Part(2, 3, "b"), Part(1, 3, "a"), Part(3, 3, "c")}, {"abc"}},
+        {"a new part one begins a new message",
+         {Part(1, 3, "a"), Part(2, 3, "b"), Part(1, 3, "x"), Part(2, 3, "y"), Part(3, 3, "z")},
+         {"xyz"}},
+        {"the same again", {Part(1, 2, "a"), Part(2, 2, "b"), Part(1, 2, "a"), Part(2, 2, "b")}, {"ab", "ab"}},
+        {"sent anew with the same beginning",
+         {Part(1, 3, "a"), Part(2, 3, "b"), Part(1, 3, "a"), Part(2, 3, "y"), Part(3, 3, "z")},
+         {"ayz"}},
+        {"a late double before the next message",
+         {Part(1, 2, "a"), Part(2, 2, "b"), Part(2, 2, "b"), Part(1, 2, "x"), Part(2, 2, "y")},
+         {"ab", "xy"}},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(Joined(row.parts), row.texts) << row.name;
 }
 
 TEST(Message_Joiner, Numbers_References_And_Totals_Are_Kept_Apart)
@@ -94,23 +82,16 @@ TEST(Message_Joiner, Numbers_References_And_Totals_Are_Kept_Apart)
     EXPECT_EQ(Joined({Part(1, 2, "a"), Part(2, 2, "b", "2"), Part(2, 2, "c", "1", 7), Part(2, 3, "d"), wide}), Texts{});
 }
 
-TEST(Message_Joiner, A_Character_Cut_In_Two_By_A_Parts_End_Is_Whole_In_The_Message)
+TEST(Message_Joiner, Parts_Join_As_Characters_And_Those_Of_Different_Alphabets_As_Texts)
 {
-    auto first = Part(1, 2, "\uFFFD");
-    first.m_alphabet = Alphabet::Ucs2;
-    first.m_units = {0xD8, 0x3D};
-    auto second = first;
-    second.m_shown.m_part = 2;
-    second.m_units = {0xDE, 0x00};
-    EXPECT_EQ(Joined({first, second}), Texts{"😀"});
-}
-
-TEST(Message_Joiner, Parts_Of_Different_Alphabets_Join_As_Texts)
-{
-    auto second = Part(2, 2, "Ω");
-    second.m_alphabet = Alphabet::Ucs2;
-    second.m_units = {0x03, 0xA9};
-    EXPECT_EQ(Joined({Part(1, 2, "a"), second}), Texts{"aΩ"});
+    const auto unicode = [](int part, const std::string& text, const std::vector<std::uint8_t>& units) {
+        auto received = Part(part, 2, text);
+        received.m_alphabet = Alphabet::Ucs2;
+        received.m_units = units;
+        return received;
+    };
+    EXPECT_EQ(Joined({unicode(1, "\uFFFD", {0xD8, 0x3D}), unicode(2, "\uFFFD", {0xDE, 0x00})}), Texts{"😀"});
+    EXPECT_EQ(Joined({Part(1, 2, "a"), unicode(2, "Ω", {0x03, 0xA9})}), Texts{"aΩ"});
 }
 
 TEST(Message_Joiner, The_Message_Carries_What_Its_First_Part_Says)

@@ -10,14 +10,14 @@ using namespace Handset;
 
 TEST(Unicode_Text, Code_Points_Of_Every_Length_Become_Utf8)
 {
-    const std::vector<std::pair<char32_t, std::string>> cases = {{0x00, std::string(1, '\0')},
-                                                                 {0x7F, "\x7F"},
-                                                                 {0x80, "\xC2\x80"},
-                                                                 {0x7FF, "\xDF\xBF"},
-                                                                 {0x800, "\xE0\xA0\x80"},
-                                                                 {0xFFFF, "\xEF\xBF\xBF"},
-                                                                 {0x10000, "\xF0\x90\x80\x80"},
-                                                                 {0x10FFFF, "\xF4\x8F\xBF\xBF"}};
+    const std::pair<char32_t, std::string> cases[] = {{0x00, std::string(1, '\0')},
+                                                      {0x7F, "\x7F"},
+                                                      {0x80, "\xC2\x80"},
+                                                      {0x7FF, "\xDF\xBF"},
+                                                      {0x800, "\xE0\xA0\x80"},
+                                                      {0xFFFF, "\xEF\xBF\xBF"},
+                                                      {0x10000, "\xF0\x90\x80\x80"},
+                                                      {0x10FFFF, "\xF4\x8F\xBF\xBF"}};
     for (const auto& [code_point, utf8] : cases) {
         std::string text;
         Append_Code_Point(text, code_point);
@@ -35,19 +35,19 @@ TEST(Unicode_Text, What_Is_No_Character_Becomes_The_Replacement_Character)
     }
 }
 
-TEST(Unicode_Text, Surrogate_Pairs_Become_One_Character)
+TEST(Unicode_Text, Surrogate_Pairs_Become_One_Character_And_Lone_Ones_The_Replacement_Character)
 {
-    EXPECT_EQ(Text_Of_Utf16_Octets({0xD8, 0x3D, 0xDE, 0x00}), "😀");
-    EXPECT_EQ(Text_Of_Utf16_Octets({0x03, 0xA9, 0x00, 0x21}), "Ω!");
-}
-
-TEST(Unicode_Text, Lone_Surrogates_And_A_Lone_Last_Octet_Become_The_Replacement_Character)
-{
-    EXPECT_EQ(Text_Of_Utf16_Octets({0xD8, 0x3D, 0x00, 0x41}), "\uFFFDA");
-    EXPECT_EQ(Text_Of_Utf16_Octets({0xDE, 0x00, 0x00, 0x41}), "\uFFFDA");
-    EXPECT_EQ(Text_Of_Utf16_Octets({0xD8, 0x3D}), "\uFFFD");
-    EXPECT_EQ(Text_Of_Utf16_Octets({0xD8, 0x3D, 0xD8, 0x3D, 0xDE, 0x00}), "\uFFFD😀");
-    EXPECT_EQ(Text_Of_Utf16_Octets({0x00, 0x41, 0x00}), "A\uFFFD");
+    const std::pair<std::vector<std::uint8_t>, const char*> cases[] = {
+        {{0xD8, 0x3D, 0xDE, 0x00}, "😀"},
+        {{0x03, 0xA9, 0x00, 0x21}, "Ω!"},
+        {{0xD8, 0x3D, 0x00, 0x41}, "\uFFFDA"},
+        {{0xDE, 0x00, 0x00, 0x41}, "\uFFFDA"},
+        {{0xD8, 0x3D}, "\uFFFD"},
+        {{0xD8, 0x3D, 0xD8, 0x3D, 0xDE, 0x00}, "\uFFFD😀"},
+        {{0x00, 0x41, 0x00}, "A\uFFFD"},
+    };
+    for (const auto& [octets, text] : cases)
+        EXPECT_EQ(Text_Of_Utf16_Octets(octets), text) << text;
 }
 
 TEST(Unicode_Text, Only_Well_Formed_Utf8_Has_Code_Points)
@@ -63,16 +63,12 @@ TEST(Unicode_Text, Latin_1_Bytes_Are_One_Character_Each)
     EXPECT_EQ(Text_Of_Latin_1("gr\xFC\xDF"), "grüß");
 }
 
-TEST(Unicode_Text, Hexadecimal_Digits_Come_In_Pairs)
+TEST(Unicode_Text, Hexadecimal_Digits_Come_In_Pairs_And_Text_Becomes_Such_Of_Utf16)
 {
     EXPECT_EQ(Octets_Of_Hex("00fFa9"), (std::vector<std::uint8_t>{0x00, 0xFF, 0xA9}));
     EXPECT_EQ(Octets_Of_Hex("")->size(), 0u);
     for (const char* wrong : {"0", "0G", "G0", " 0", "+1", "0x", "000"})
         EXPECT_FALSE(Octets_Of_Hex(wrong)) << wrong;
-}
-
-TEST(Unicode_Text, Text_Becomes_Hexadecimal_Utf16)
-{
     EXPECT_EQ(Hex_Utf16_Of("Hi Ω"), "00480069002003A9");
     EXPECT_EQ(Hex_Utf16_Of("😀"), "D83DDE00");
 }

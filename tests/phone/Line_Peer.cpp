@@ -44,11 +44,12 @@ std::optional<std::string> Line_Peer::Read(std::chrono::milliseconds time)
     return count < 0 && errno == EAGAIN ? std::optional(std::string()) : std::nullopt;
 }
 
-std::string Line_Peer::Hears(std::string_view until, std::chrono::milliseconds time)
+std::string Line_Peer::Hears_Until(const std::function<bool(const std::string&)>& is_over,
+                                   std::chrono::milliseconds time)
 {
     const auto end = Clock::now() + time;
     std::string heard;
-    while (heard.find(until) == std::string::npos) {
+    while (!is_over(heard)) {
         const auto left = Left_Until(end);
         const auto more = Read(left);
         if (!more || left.count() == 0)
@@ -58,24 +59,19 @@ std::string Line_Peer::Hears(std::string_view until, std::chrono::milliseconds t
     return heard;
 }
 
+std::string Line_Peer::Hears(std::string_view until, std::chrono::milliseconds time)
+{
+    return Hears_Until([&](const std::string& heard) { return heard.find(until) != std::string::npos; }, time);
+}
+
 std::string Line_Peer::Asks(const std::string& command)
 {
     Says(command + "\r");
-    const auto end = Clock::now() + std::chrono::seconds(10);
-    std::string heard;
-    while (heard.find("OK\r") == std::string::npos && heard.find("ERROR") == std::string::npos) {
-        const auto more = Read(Left_Until(end));
-        if (!more || Clock::now() >= end)
-            break;
-        heard += *more;
-    }
-    while (!heard.ends_with('\n')) { // the rest of an error's line
-        const auto more = Read(Left_Until(end));
-        if (!more || more->empty())
-            break;
-        heard += *more;
-    }
-    return heard;
+    const auto is_answered = [](const std::string& heard) {
+        return heard.ends_with('\n') &&
+               (heard.find("OK\r") != std::string::npos || heard.find("ERROR") != std::string::npos);
+    };
+    return Hears_Until(is_answered, std::chrono::seconds(10));
 }
 
 bool Line_Peer::Hears_Nothing(std::chrono::milliseconds time)

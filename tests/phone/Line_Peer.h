@@ -4,6 +4,7 @@
 #include "phone/Descriptor.h"
 
 #include <chrono>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -22,7 +23,7 @@ public:
     // Everything heard until this text was among it; what came until now when it does not come within the time.
     std::string Hears(std::string_view until, std::chrono::milliseconds time = std::chrono::seconds(10));
 
-    // Says a line with CR and hears up to its "OK" or error.
+    // Says a line with CR and hears up to the end of its "OK" or error.
     std::string Asks(const std::string& command);
 
     bool Hears_Nothing(std::chrono::milliseconds time = std::chrono::milliseconds(40));
@@ -31,6 +32,8 @@ public:
     bool Is_Cut_Off(std::chrono::milliseconds time = std::chrono::seconds(10));
 
 private:
+    std::string Hears_Until(const std::function<bool(const std::string&)>& is_over, std::chrono::milliseconds time);
+
     // One read; nothing when the line was cut, an empty text when nothing came in time.
     std::optional<std::string> Read(std::chrono::milliseconds time);
 

@@ -2,12 +2,35 @@
 #pragma once
 
 #include "phone/Line_Peer.h"
-#include "phone/Phone_Moods.h"
+#include "phone/Named_Moods.h"
+#include "phone/Virtual_Phone.h"
 
 #include <string>
 
 // "hello" to +15550001234 without a service centre; 19 octets for AT+CMGS.
 inline const std::string Hello = "0011000B915155001032F40000FF05E8329BFD06";
+
+inline const std::string Ok = "\r\nOK\r\n";
+inline const std::string Error = "\r\nERROR\r\n";
+inline const std::string Prompt = "\r\n> ";
+
+inline std::string With_Ok(const std::string& text)
+{
+    return "\r\n" + text + "\r\n" + Ok;
+}
+inline std::string Cms_Error(int number)
+{
+    return "\r\n+CMS ERROR: " + std::to_string(number) + "\r\n";
+}
+
+// A phone, and the program that has its line open: auto [phone, peer] = Call();
+struct Call
+{
+    explicit Call(const Phone_Moods& moods = {}) : m_phone(moods) {}
+
+    Virtual_Phone m_phone;
+    Line_Peer m_peer{m_phone.Path()};
+};
 
 // Sends a message in PDU mode and hears the answer.
 inline std::string Send_Hello(Line_Peer& peer)
@@ -20,9 +43,4 @@ inline std::string Send_Hello(Line_Peer& peer)
 }
 
 // Without echo, so that answers stand alone.
-inline Phone_Moods Quiet()
-{
-    Phone_Moods moods;
-    moods.m_no_echo = true;
-    return moods;
-}
+inline const Phone_Moods Quiet{.m_no_echo = true};

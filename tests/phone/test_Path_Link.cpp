@@ -29,8 +29,9 @@ protected:
 
 } // namespace
 
-TEST_F(Path_Link_Test, A_Link_Stands_As_Long_As_Its_Object)
+TEST_F(Path_Link_Test, A_Link_Replaces_That_Of_An_Earlier_Phone_And_Stands_As_Long_As_Its_Object)
 {
+    fs::create_symlink("/dev/pts/3", m_link);
     {
         Path_Link link;
         EXPECT_EQ(link.Make(m_link, "/dev/pts/7"), "");
@@ -39,28 +40,14 @@ TEST_F(Path_Link_Test, A_Link_Stands_As_Long_As_Its_Object)
     EXPECT_FALSE(fs::exists(fs::symlink_status(m_link)));
 }
 
-TEST_F(Path_Link_Test, A_Link_Left_By_An_Earlier_Phone_Is_Replaced)
-{
-    fs::create_symlink("/dev/pts/3", m_link);
-    Path_Link link;
-    EXPECT_EQ(link.Make(m_link, "/dev/pts/7"), "");
-    EXPECT_EQ(fs::read_symlink(m_link), "/dev/pts/7");
-}
-
 TEST_F(Path_Link_Test, Anything_Else_At_The_Path_Stays)
 {
     std::ofstream(m_link) << "mine";
-    {
-        Path_Link link;
-        EXPECT_EQ(link.Make(m_link, "/dev/pts/7"), m_link + ": something else is there already");
-    }
+    EXPECT_EQ(Path_Link().Make(m_link, "/dev/pts/7"), m_link + ": something else is there already");
     EXPECT_TRUE(fs::is_regular_file(m_link));
     fs::remove(m_link);
     fs::create_symlink("/etc/passwd", m_link);
-    {
-        Path_Link link;
-        EXPECT_NE(link.Make(m_link, "/dev/pts/7"), "");
-    }
+    EXPECT_NE(Path_Link().Make(m_link, "/dev/pts/7"), "");
     EXPECT_EQ(fs::read_symlink(m_link), "/etc/passwd");
 }
 
@@ -77,7 +64,6 @@ TEST_F(Path_Link_Test, A_Link_That_A_Later_Phone_Took_Over_Stays)
 
 TEST_F(Path_Link_Test, A_Folder_That_Is_Not_There_Is_An_Error)
 {
-    Path_Link link;
     const std::string path = (m_folder / "none" / "link").string();
-    EXPECT_EQ(link.Make(path, "/dev/pts/7"), path + ": No such file or directory");
+    EXPECT_EQ(Path_Link().Make(path, "/dev/pts/7"), path + ": No such file or directory");
 }

@@ -1,5 +1,7 @@
 #include "phone/Phone_Manners.h"
 
+#include "phone/Phone_Talk.h"
+
 #include <gtest/gtest.h>
 
 using namespace Handset;
@@ -16,19 +18,14 @@ TEST(Phone_Manners, What_No_Row_Knows_Is_An_Error)
 {
     const Phone_Manners manners{Phone_Moods()};
     for (const char* unknown : {"AT+CXYZ", "AT+CMGF", "AT+", "ATX4", "AT+CMGR=1", "AT+CMGS", "ATQ"})
-        EXPECT_EQ(manners.Find(unknown).m_answer, "\r\nERROR\r\n") << unknown;
+        EXPECT_EQ(manners.Find(unknown).m_answer, Error) << unknown;
 }
 
-TEST(Phone_Manners, An_Exact_Row_Wins_Over_One_For_Any_Rest)
-{
-    const Phone_Manners manners{Phone_Moods()};
-    EXPECT_EQ(manners.Find("AT+CMGF=?").m_deed, Deed::Nothing);
-    EXPECT_EQ(manners.Find("AT+CMGF=1").m_deed, Deed::Set_Format);
-}
-
-TEST(Phone_Manners, The_Longest_Beginning_Wins)
+TEST(Phone_Manners, An_Exact_Row_Wins_Over_One_For_Any_Rest_And_The_Longest_Beginning_Over_The_Others)
 {
     Phone_Manners manners{Phone_Moods()};
+    EXPECT_EQ(manners.Find("AT+CMGF=?").m_deed, Deed::Nothing);
+    EXPECT_EQ(manners.Find("AT+CMGF=1").m_deed, Deed::Set_Format);
     manners.Will_Answer("AT*", "any");
     manners.Will_Answer("AT+CMG*", "longer");
     EXPECT_EQ(manners.Find("AT+CMGF=?").m_answer, "longer");
@@ -38,24 +35,13 @@ TEST(Phone_Manners, The_Longest_Beginning_Wins)
 
 TEST(Phone_Manners, A_Row_Of_Ones_Own_Wins_Over_Moods_And_Moods_Over_The_Rest)
 {
-    Phone_Moods moods;
-    moods.m_error_for["at+csq"] = "no radio";
-    Phone_Manners manners(moods);
+    Phone_Manners manners({.m_pdu_only = true, .m_error_for = {{"at+csq", "no radio"}}});
     EXPECT_EQ(manners.Find("AT+CSQ").m_answer, "\r\nERROR: no radio\r\n");
     manners.Will_Answer("at+csq", "mine");
     EXPECT_EQ(manners.Find("AT+CSQ").m_answer, "mine");
     EXPECT_TRUE(manners.Find("AT+CSQ").m_as_given);
+    EXPECT_EQ(manners.Find("AT+CMGF=?").m_answer, With_Ok("+CMGF: (0)"));
     manners.Set_Moods(Phone_Moods());
+    EXPECT_EQ(manners.Find("AT+CMGF=?").m_answer, With_Ok("+CMGF: (0,1)"));
     EXPECT_EQ(manners.Find("AT+CSQ").m_answer, "mine") << "moods come and go, rows of one's own stay";
-}
-
-TEST(Phone_Manners, Rows_Of_A_Mood_Go_With_It)
-{
-    Phone_Moods moods;
-    moods.m_pdu_only = true;
-    Phone_Manners manners(moods);
-    EXPECT_EQ(manners.Find("AT+CMGF=?").m_answer, "\r\n+CMGF: (0)\r\n\r\nOK\r\n");
-    EXPECT_EQ(manners.Find("AT+CMGF=1").m_answer, "\r\nERROR\r\n");
-    manners.Set_Moods(Phone_Moods());
-    EXPECT_EQ(manners.Find("AT+CMGF=?").m_answer, "\r\n+CMGF: (0,1)\r\n\r\nOK\r\n");
 }

@@ -1,6 +1,8 @@
 // What a phone answers to each command, as bytes in and bytes out.
-#include "phone/Lines.h"
 #include "phone/Phone_Mind.h"
+
+#include "handset/Unicode_Text.h"
+#include "phone/Phone_Talk.h"
 
 #include <gtest/gtest.h>
 
@@ -12,18 +14,10 @@ using namespace Handset;
 
 namespace {
 
-constexpr const char* Hello = "0011000B915155001032F40000FF05E8329BFD06"; // 19 octets behind the centre
-
 // A phone without echo, so that the answers stand alone.
 struct Talk
 {
-    explicit Talk(Phone_Moods moods = {}, bool echo = false) : m_mind(With_Echo(moods, echo)) {}
-
-    static Phone_Moods With_Echo(Phone_Moods moods, bool echo)
-    {
-        moods.m_no_echo = !echo;
-        return moods;
-    }
+    explicit Talk(const Phone_Moods& moods = Quiet) : m_mind(moods) {}
 
     // Everything said to these bytes, delays aside.
     std::string Hears(std::string_view bytes)
@@ -55,22 +49,10 @@ struct Talk
 Talk Text_Phone(const std::string& parameters, const std::string& charset)
 {
     Talk talk;
-    EXPECT_EQ(talk.Asks("AT+CMGF=1"), "\r\nOK\r\n");
-    EXPECT_EQ(talk.Asks("AT+CSMP=" + parameters), "\r\nOK\r\n");
-    EXPECT_EQ(talk.Asks("AT+CSCS=\"" + charset + "\""), "\r\nOK\r\n");
+    EXPECT_EQ(talk.Asks("AT+CMGF=1"), Ok);
+    EXPECT_EQ(talk.Asks("AT+CSMP=" + parameters), Ok);
+    EXPECT_EQ(talk.Asks("AT+CSCS=\"" + charset + "\""), Ok);
     return talk;
-}
-
-const std::string Ok = "\r\nOK\r\n";
-const std::string Error = "\r\nERROR\r\n";
-
-std::string With_Ok(const std::string& text)
-{
-    return "\r\n" + text + "\r\n\r\nOK\r\n";
-}
-std::string Cms_Error(int number)
-{
-    return "\r\n+CMS ERROR: " + std::to_string(number) + "\r\n";
 }
 
 } // namespace
@@ -78,120 +60,105 @@ std::string Cms_Error(int number)
 TEST(Phone_Mind, Every_Command_Gets_Its_Answer)
 {
     const std::vector<std::pair<std::string, std::string>> cases = {
-        {"AT", Ok},
-        {"at", Ok},
-        {"ATE", Ok},
-        {"ATE0", Ok},
-        {"ATZ", Ok},
-        {"AT&F", Ok},
-        {"ATI", With_Ok("Corvane Virtual Phone")},
-        {"AT+CMGF=?", With_Ok("+CMGF: (0,1)")},
-        {"AT+CMGF?", With_Ok("+CMGF: 0")},
-        {"AT+CMGF=0", Ok},
-        {"AT+CMGF=1", Ok},
-        {"AT+CMGF=2", Error},
-        {"AT+CSMS=?", With_Ok("+CSMS: (0,1)")},
-        {"AT+CSMS?", With_Ok("+CSMS: 0,1,1,1")},
-        {"AT+CSMS=0", With_Ok("+CSMS: 1,1,1")},
-        {"AT+CMMS=?", With_Ok("+CMMS: (0-2)")},
-        {"AT+CMMS?", With_Ok("+CMMS: 0")},
-        {"AT+CMMS=2", Ok},
-        {"AT+CMMS=3", Error},
-        {"AT+CSCA=?", Ok},
-        {"AT+CSCA?", With_Ok("+CSCA: \"+15550009999\",145")},
-        {"AT+CSCA=\"+4917\",145", Ok},
-        {"AT+CSMP=?", Ok},
-        {"AT+CSMP?", With_Ok("+CSMP: 17,167,0,0")},
-        {"AT+CSMP=17,255,0,16", Ok},
-        {"AT+CSCS=?", With_Ok("+CSCS: (\"GSM\",\"IRA\",\"UCS2\",\"HEX\",\"8859-1\")")},
-        {"AT+CSCS?", With_Ok("+CSCS: \"GSM\"")},
-        {"AT+CSCS=\"HEX\"", Ok},
-        {"AT+CSCS=\"KOI8\"", Error},
-        {"AT+CMGS=?", Ok},
-        {"AT+CGMI", With_Ok("Corvane")},
-        {"AT+GMI", With_Ok("Corvane")},
-        {"AT+CGMM", With_Ok("Virtual Phone")},
-        {"AT+GMM", With_Ok("Virtual Phone")},
-        {"AT+CGMR", With_Ok("1.0")},
-        {"AT+GMR", With_Ok("1.0")},
-        {"AT+CGSN", With_Ok("490154203237518")},
-        {"AT+GSN", With_Ok("490154203237518")},
-        {"AT+CIMI", With_Ok("001010123456789")},
-        {"AT+CBC", With_Ok("+CBC: 0,85")},
-        {"AT+CSQ", With_Ok("+CSQ: 20,99")},
-        {"AT+COPS?", With_Ok("+COPS: 0,0,\"Corvane Test\"")},
-        {"AT+CREG?", With_Ok("+CREG: 0,1")},
-        {"AT+CPIN?", With_Ok("+CPIN: READY")},
-        {"AT+CUNKNOWN=1", Error},
+        {"ATI", "Corvane Virtual Phone"},
+        {"AT+CMGF=?", "+CMGF: (0,1)"},
+        {"AT+CMGF?", "+CMGF: 0"},
+        {"AT+CSMS=?", "+CSMS: (0,1)"},
+        {"AT+CSMS?", "+CSMS: 0,1,1,1"},
+        {"AT+CSMS=0", "+CSMS: 1,1,1"},
+        {"AT+CMMS=?", "+CMMS: (0-2)"},
+        {"AT+CMMS?", "+CMMS: 0"},
+        {"AT+CSCA?", "+CSCA: \"+15550009999\",145"},
+        {"AT+CSMP?", "+CSMP: 17,167,0,0"},
+        {"AT+CSCS=?", "+CSCS: (\"GSM\",\"IRA\",\"UCS2\",\"HEX\",\"8859-1\")"},
+        {"AT+CSCS?", "+CSCS: \"GSM\""},
+        {"AT+CGMI", "Corvane"},
+        {"AT+GMI", "Corvane"},
+        {"AT+CGMM", "Virtual Phone"},
+        {"AT+GMM", "Virtual Phone"},
+        {"AT+CGMR", "1.0"},
+        {"AT+GMR", "1.0"},
+        {"AT+CGSN", "490154203237518"},
+        {"AT+GSN", "490154203237518"},
+        {"AT+CIMI", "001010123456789"},
+        {"AT+CBC", "+CBC: 0,85"},
+        {"AT+CSQ", "+CSQ: 20,99"},
+        {"AT+COPS?", "+COPS: 0,0,\"Corvane Test\""},
+        {"AT+CREG?", "+CREG: 0,1"},
+        {"AT+CPIN?", "+CPIN: READY"},
     };
     for (const auto& [command, answer] : cases)
-        EXPECT_EQ(Talk().Asks(command), answer) << command;
+        EXPECT_EQ(Talk().Asks(command), With_Ok(answer)) << command;
+    for (const char* command :
+         {"AT", "at", "ATE", "ATE0", "ATZ", "AT&F", "AT+CMGF=0", "AT+CMGF=1", "AT+CMMS=2", "AT+CSCA=?",
+          "AT+CSCA=\"+4917\",145", "AT+CSMP=?", "AT+CSMP=17,255,0,16", "AT+CSCS=\"HEX\"", "AT+CMGS=?"})
+        EXPECT_EQ(Talk().Asks(command), Ok) << command;
+    for (const char* command : {"AT+CMGF=2", "AT+CMMS=3", "AT+CSCS=\"KOI8\"", "AT+CUNKNOWN=1"})
+        EXPECT_EQ(Talk().Asks(command), Error) << command;
 }
 
 TEST(Phone_Mind, What_A_Command_Sets_The_Query_Shows)
 {
     Talk talk;
-    for (const char* command :
-         {"AT+CMGF=1", "AT+CSMS=1", "AT+CMMS=2", "AT+CSCA=\"0155\",129", "AT+CSMP=17,255,0,24", "AT+CSCS=\"8859-1\""})
-        EXPECT_NE(talk.Asks(command).find("OK"), std::string::npos) << command;
-    EXPECT_EQ(talk.Asks("AT+CMGF?"), With_Ok("+CMGF: 1"));
+    const std::vector<std::pair<std::string, std::string>> settings = {
+        {"+CMGF", "1"}, {"+CMMS", "2"}, {"+CSCA", "\"0155\",129"}, {"+CSMP", "17,255,0,24"}, {"+CSCS", "\"8859-1\""}};
+    for (const auto& [name, value] : settings)
+        EXPECT_EQ(talk.Asks("AT" + name + "=" + value), Ok) << name;
+    EXPECT_EQ(talk.Asks("AT+CSMS=1"), With_Ok("+CSMS: 1,1,1"));
+    for (const auto& [name, value] : settings)
+        EXPECT_EQ(talk.Asks("AT" + name + "?"), With_Ok(name + ": " + value));
     EXPECT_EQ(talk.Asks("AT+CSMS?"), With_Ok("+CSMS: 1,1,1,1"));
-    EXPECT_EQ(talk.Asks("AT+CMMS?"), With_Ok("+CMMS: 2"));
-    EXPECT_EQ(talk.Asks("AT+CSCA?"), With_Ok("+CSCA: \"0155\",129"));
-    EXPECT_EQ(talk.Asks("AT+CSMP?"), With_Ok("+CSMP: 17,255,0,24"));
-    EXPECT_EQ(talk.Asks("AT+CSCS?"), With_Ok("+CSCS: \"8859-1\""));
     EXPECT_EQ(talk.Asks("ATZ"), Ok);
     EXPECT_EQ(talk.Asks("AT+CMGF?"), With_Ok("+CMGF: 0"));
     EXPECT_EQ(talk.Asks("AT+CSCS?"), With_Ok("+CSCS: \"GSM\""));
 }
 
-TEST(Phone_Mind, Echo_Can_Be_Turned_Off_And_On)
+TEST(Phone_Mind, A_Conversation_Is_The_Same_In_One_Write_And_Byte_By_Byte)
 {
-    Talk talk({}, true);
-    EXPECT_EQ(talk.Asks("AT"), "AT\r" + Ok);
-    EXPECT_EQ(talk.Asks("ATE0"), "ATE0\r" + Ok);
-    EXPECT_EQ(talk.Asks("AT"), Ok);
-    EXPECT_EQ(talk.Asks("ATE1"), Ok);
-    EXPECT_EQ(talk.Asks("at"), "at\r" + Ok);
-}
-
-TEST(Phone_Mind, The_Body_Of_A_Message_Is_Echoed_Too)
-{
-    Talk talk({}, true);
-    EXPECT_EQ(talk.Sends("AT+CMGS=19", Hello), Hello + With_Ok("+CMGS: 0"));
-    EXPECT_EQ(talk.m_prompt, "AT+CMGS=19\r\r\n> ");
-}
-
-TEST(Phone_Mind, A_Line_Feed_Behind_A_Command_Is_Passed_Over)
-{
-    Talk talk({}, true);
-    EXPECT_EQ(talk.Hears("AT\r\n"), "AT\r" + Ok);
-    EXPECT_EQ(talk.Hears("AT\r"), "AT\r" + Ok);
-    EXPECT_EQ(talk.Hears("\nAT\r\n"), "AT\r" + Ok);
-}
-
-TEST(Phone_Mind, Several_Commands_In_One_Write_Are_All_Answered)
-{
-    Talk talk;
-    EXPECT_EQ(talk.Hears("AT\r\nAT+CSQ\rAT+CMGF?\r\n"), Ok + With_Ok("+CSQ: 20,99") + With_Ok("+CMGF: 0"));
-    EXPECT_EQ(talk.m_last.m_lines, Lines("AT", "AT+CSQ", "AT+CMGF?"));
-}
-
-TEST(Phone_Mind, A_Command_May_Come_Byte_By_Byte)
-{
-    Talk talk;
-    std::string said;
-    for (const char byte : std::string("AT+CSQ\r\n"))
-        said += talk.Hears(std::string(1, byte));
-    EXPECT_EQ(said, With_Ok("+CSQ: 20,99"));
-}
-
-TEST(Phone_Mind, Lines_That_Are_No_Commands_Are_Heard_And_Not_Answered)
-{
-    Talk talk({}, true);
-    EXPECT_EQ(talk.Hears("\r\r\n\nRING\r0011FF\x1A\r\n\x1B\r"), "");
-    EXPECT_EQ(talk.m_last.m_lines, Lines("RING", "0011FF"));
-    EXPECT_EQ(talk.Asks("AT"), "AT\r" + Ok) << "the next command is understood";
+    const std::string sent = With_Ok("+CMGS: 0");
+    const std::string ask = "AT+CMGS=19";
+    const struct
+    {
+        const char* name;
+        Phone_Moods moods;
+        std::string heard, said;
+        std::vector<std::string> lines;
+        std::size_t parts;
+    } rows[] = {
+        {"echo until it is turned off",
+         {},
+         "AT\r" + ask + "\r" + Hello + "\x1A" + "ATE0\rAT\rATE1\rat\r",
+         "AT\r" + Ok + ask + "\r" + Prompt + Hello + sent + "ATE0\r" + Ok + Ok + Ok + "at\r" + Ok,
+         Lines("AT", ask, "ATE0", "AT", "ATE1", "at"),
+         1},
+        {"line feeds", {}, "AT\r\nAT\r\nAT\r\n", "AT\r" + Ok + "AT\r" + Ok + "AT\r" + Ok, Lines("AT", "AT", "AT"), 0},
+        {"several commands", Quiet, "AT\r\nAT+CSQ\rAT+CMGF?\r\n", Ok + With_Ok("+CSQ: 20,99") + With_Ok("+CMGF: 0"),
+         Lines("AT", "AT+CSQ", "AT+CMGF?"), 0},
+        {"no commands before one",
+         {},
+         "\r\r\n\nRING\r0011FF\x1A\r\n\x1B\rAT\r",
+         "AT\r" + Ok,
+         Lines("RING", "0011FF", "AT"),
+         0},
+        {"line ends and small letters", Quiet, ask + "\r\n0011000b915155001032f4\r\n0000ff05e8329bfd06\r\n\x1A",
+         Prompt + sent, Lines(ask), 1},
+        {"a terminator with its line end", Quiet, ask + "\r\n" + Hello + "\x1A\r\nAT\r\n", Prompt + sent + Ok,
+         Lines(ask, "AT"), 1},
+        {"a message that is cancelled", Quiet, ask + "\r" + Hello + "\x1B" + ask + "\r" + Hello + "\x1A",
+         Prompt + Ok + Prompt + sent, Lines(ask, ask), 1},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        Talk whole(row.moods);
+        EXPECT_EQ(whole.Hears(row.heard), row.said);
+        EXPECT_EQ(whole.m_last.m_lines, row.lines);
+        EXPECT_EQ(whole.m_last.m_arrivals.size(), row.parts);
+        Talk by_bytes(row.moods);
+        std::string said;
+        for (const char byte : row.heard)
+            said += by_bytes.Hears(std::string(1, byte));
+        EXPECT_EQ(said, row.said);
+    }
 }
 
 TEST(Phone_Mind, An_Endless_Line_Is_Refused_At_Its_End_And_Not_Kept)
@@ -217,11 +184,11 @@ TEST(Phone_Mind, Every_Byte_Can_Come_Anywhere_Without_Harm)
 
 // -- messages in PDU mode
 
-TEST(Phone_Mind, A_Pdu_Is_Taken_And_Numbered)
+TEST(Phone_Mind, A_Pdu_Is_Taken_And_Numbered_And_Its_Centre_Wins)
 {
     Talk talk;
     EXPECT_EQ(talk.Sends("AT+CMGS=19", Hello), With_Ok("+CMGS: 0"));
-    EXPECT_EQ(talk.m_prompt, "\r\n> ");
+    EXPECT_EQ(talk.m_prompt, Prompt);
     EXPECT_EQ(talk.Part().m_number, "+15550001234");
     EXPECT_EQ(talk.Part().m_text, "hello");
     EXPECT_EQ(talk.Part().m_alphabet, "GSM 7-bit");
@@ -231,37 +198,20 @@ TEST(Phone_Mind, A_Pdu_Is_Taken_And_Numbered)
     EXPECT_FALSE(talk.Part().m_text_mode);
     ASSERT_TRUE(talk.m_last.m_arrivals.back().m_message);
     EXPECT_EQ(talk.m_last.m_arrivals.back().m_message->m_text, "hello");
-    EXPECT_EQ(talk.Sends("AT+CMGS=19", Hello), With_Ok("+CMGS: 1"));
-}
-
-TEST(Phone_Mind, Message_References_Begin_Again_After_255)
-{
-    Talk talk;
-    for (int i = 0; i < 256; ++i)
-        EXPECT_EQ(talk.Sends("AT+CMGS=19", Hello), With_Ok("+CMGS: " + std::to_string(i)));
-    EXPECT_EQ(talk.Sends("AT+CMGS=19", Hello), With_Ok("+CMGS: 0"));
-}
-
-TEST(Phone_Mind, The_Centre_Of_The_Frame_Wins_And_Is_Not_Counted)
-{
-    Talk talk;
+    for (int reference = 1; reference < 256; ++reference)
+        EXPECT_EQ(talk.Sends("AT+CMGS=19", Hello), With_Ok("+CMGS: " + std::to_string(reference)));
+    // The centre of the frame wins and is not counted.
     EXPECT_EQ(talk.Sends("AT+CMGS=18", "07915155009099F811000A8110325476980010FF05E8329BFD06"), With_Ok("+CMGS: 0"));
     EXPECT_EQ(talk.Part().m_smsc, "+15550009998");
     EXPECT_EQ(talk.Part().m_class, 0);
     EXPECT_EQ(talk.Part().m_number, "0123456789");
 }
 
-TEST(Phone_Mind, The_Length_Must_Be_That_Of_The_Frame)
+TEST(Phone_Mind, The_Length_Must_Be_That_Of_The_Frame_And_One_That_Is_None_Gets_No_Prompt)
 {
     Talk talk;
     for (const char* length : {"18", "20", "1", "255"})
         EXPECT_EQ(talk.Sends("AT+CMGS=" + std::string(length), Hello), Cms_Error(304)) << length;
-    EXPECT_EQ(talk.Sends("AT+CMGS=19", Hello), With_Ok("+CMGS: 0")) << "a refused message takes no reference";
-}
-
-TEST(Phone_Mind, A_Length_That_Is_None_Gets_No_Prompt)
-{
-    Talk talk;
     for (const char* length : {"", "0", "-1", "256", "x", "19,1", "\"123\""})
         EXPECT_EQ(talk.Asks("AT+CMGS=" + std::string(length)), Cms_Error(304)) << length;
 }
@@ -272,31 +222,7 @@ TEST(Phone_Mind, Bodies_That_Are_No_Frames_Are_Refused)
     for (const std::string body : {"", "hello", "00", "0011000B91", "-011000B915155001032F40000FF05E8329BFD06"})
         EXPECT_EQ(talk.Sends("AT+CMGS=19", body), Cms_Error(304)) << body;
     EXPECT_EQ(talk.Sends("AT+CMGS=19", std::string(1'000'000, '0')), Cms_Error(304));
-    EXPECT_EQ(talk.Sends("AT+CMGS=19", Hello), With_Ok("+CMGS: 0"));
-}
-
-TEST(Phone_Mind, Line_Ends_And_Small_Letters_In_A_Pdu_Do_Not_Matter)
-{
-    Talk talk;
-    EXPECT_EQ(talk.Sends("AT+CMGS=19", "\n0011000b915155001032f4\r\n0000ff05e8329bfd06\r\n"), With_Ok("+CMGS: 0"));
-    EXPECT_EQ(talk.Part().m_text, "hello");
-}
-
-TEST(Phone_Mind, Escape_Cancels_A_Message)
-{
-    Talk talk;
-    EXPECT_EQ(talk.Asks("AT+CMGS=19"), "\r\n> ");
-    EXPECT_EQ(talk.Hears(std::string(Hello) + "\x1B"), Ok);
-    EXPECT_TRUE(talk.m_last.m_arrivals.empty());
-    EXPECT_EQ(talk.Sends("AT+CMGS=19", Hello), With_Ok("+CMGS: 0"));
-}
-
-TEST(Phone_Mind, A_Terminator_With_Its_Line_End_Leaves_The_Next_Command_Whole)
-{
-    Talk talk;
-    EXPECT_EQ(talk.Hears("AT+CMGS=19\r\n"), "\r\n> ");
-    EXPECT_EQ(talk.Hears(std::string(Hello) + "\x1A\r\n" + "AT\r\n"), With_Ok("+CMGS: 0") + Ok);
-    EXPECT_EQ(talk.m_last.m_lines, Lines("AT"));
+    EXPECT_EQ(talk.Sends("AT+CMGS=19", Hello), With_Ok("+CMGS: 0")) << "a refused message takes no reference";
 }
 
 TEST(Phone_Mind, Parts_Become_One_Message_When_All_Have_Come)
@@ -316,16 +242,13 @@ TEST(Phone_Mind, Parts_Become_One_Message_When_All_Have_Come)
 
 TEST(Phone_Mind, A_Text_Message_Honours_Parameters_And_Charset)
 {
-    struct Row
+    const struct
     {
-        const char* m_parameters;
-        const char* m_charset;
-        const char* m_body;
-        const char* m_text;
+        const char *m_parameters, *m_charset;
+        std::string m_body, m_text;
         const char* m_alphabet;
         int m_class;
-    };
-    const Row rows[] = {
+    } rows[] = {
         {"17,255,0,0", "GSM", "hello @ €", "hello @ €", "GSM 7-bit", -1},
         {"17,255,0,16", "IRA", "now", "now", "GSM 7-bit", 0},
         {"17,255,0,0", "8859-1", "gr\xFC\xDF", "grüß", "GSM 7-bit", -1},
@@ -339,11 +262,14 @@ TEST(Phone_Mind, A_Text_Message_Honours_Parameters_And_Charset)
         {"17,255,0,4", "GSM", "41FC", "Aü", "8-bit", -1},
         {"17,255,0,0", "GSM", "", "", "GSM 7-bit", -1},
         {"17,255,0,0", "GSM", "two\r\nlines\n", "two\r\nlines\n", "GSM 7-bit", -1},
+        {"17,255,0,0", "GSM", std::string(160, 'x'), std::string(160, 'x'), "GSM 7-bit", -1}, // the longest that fit
+        {"17,255,0,8", "GSM", std::string(70, 'x'), std::string(70, 'x'), "UCS2", -1},
+        {"17,255,0,8", "HEX", Hex_Utf16_Of(std::string(70, 'A')), std::string(70, 'A'), "UCS2", -1},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         Talk talk = Text_Phone(row.m_parameters, row.m_charset);
         EXPECT_EQ(talk.Sends("AT+CMGS=\"0123\"", row.m_body), With_Ok("+CMGS: 0")) << row.m_body;
-        EXPECT_EQ(talk.m_prompt, "\r\n> ");
+        EXPECT_EQ(talk.m_prompt, Prompt);
         EXPECT_EQ(talk.Part().m_text, row.m_text);
         EXPECT_EQ(talk.Part().m_alphabet, row.m_alphabet) << row.m_body;
         EXPECT_EQ(talk.Part().m_class, row.m_class) << row.m_body;
@@ -377,16 +303,6 @@ TEST(Phone_Mind, Text_Bodies_That_Do_Not_Fit_Their_Parameters_Are_Refused)
     }
 }
 
-TEST(Phone_Mind, The_Longest_Text_Messages_Fit)
-{
-    EXPECT_EQ(Text_Phone("17,255,0,0", "GSM").Sends("AT+CMGS=\"1\"", std::string(160, 'x')), With_Ok("+CMGS: 0"));
-    EXPECT_EQ(Text_Phone("17,255,0,8", "GSM").Sends("AT+CMGS=\"1\"", std::string(70, 'x')), With_Ok("+CMGS: 0"));
-    std::string hex;
-    for (int i = 0; i < 70; ++i)
-        hex += "0041";
-    EXPECT_EQ(Text_Phone("17,255,0,8", "HEX").Sends("AT+CMGS=\"1\"", hex), With_Ok("+CMGS: 0"));
-}
-
 TEST(Phone_Mind, A_Text_Message_Wants_A_Number_In_Quotes)
 {
     Talk talk = Text_Phone("17,255,0,0", "GSM");
@@ -396,19 +312,13 @@ TEST(Phone_Mind, A_Text_Message_Wants_A_Number_In_Quotes)
     EXPECT_EQ(talk.Part().m_number, "+49123");
 }
 
-TEST(Phone_Mind, A_Line_Feed_Behind_The_Command_Is_Not_Part_Of_The_Text)
-{
-    Talk talk = Text_Phone("17,255,0,0", "GSM");
-    talk.Hears("AT+CMGS=\"1\"\r\n");
-    talk.Hears("\nx\x1A");
-    EXPECT_EQ(talk.Part().m_text, "\nx") << "only the one behind the carriage return is passed over";
-}
-
-TEST(Phone_Mind, The_Centre_Set_In_Text_Mode_Is_The_One_Used)
+TEST(Phone_Mind, A_Line_Feed_Behind_The_Command_Is_Not_Part_Of_The_Text_And_The_Centre_Set_Is_The_One_Used)
 {
     Talk talk = Text_Phone("17,255,0,0", "GSM");
     EXPECT_EQ(talk.Asks("AT+CSCA=\"+4917\",145"), Ok);
-    talk.Sends("AT+CMGS=\"1\"", "x");
+    talk.Hears("AT+CMGS=\"1\"\r\n");
+    talk.Hears("\nx\x1A");
+    EXPECT_EQ(talk.Part().m_text, "\nx") << "only the one behind the carriage return is passed over";
     EXPECT_EQ(talk.Part().m_smsc, "+4917");
 }
 
@@ -416,21 +326,18 @@ TEST(Phone_Mind, The_Centre_Set_In_Text_Mode_Is_The_One_Used)
 
 TEST(Phone_Mind, Counting_Begins_Again_After_Forgetting)
 {
-    Phone_Moods moods;
-    moods.m_cms_error_at = {{2, 500}};
-    Talk talk(moods);
+    Talk talk({.m_no_echo = true, .m_cms_error_at = {{2, 500}}});
     EXPECT_EQ(talk.Sends("AT+CMGS=19", Hello), With_Ok("+CMGS: 0"));
     talk.m_mind.Forget();
     EXPECT_EQ(talk.Sends("AT+CMGS=19", Hello), With_Ok("+CMGS: 1"));
     EXPECT_EQ(talk.Sends("AT+CMGS=19", Hello), Cms_Error(500));
+    EXPECT_TRUE(talk.m_last.m_arrivals.empty());
     EXPECT_EQ(talk.Sends("AT+CMGS=19", Hello), With_Ok("+CMGS: 2"));
 }
 
 TEST(Phone_Mind, A_Line_Of_Ones_Own_Goes_Out_As_Given_And_Does_Nothing_Else)
 {
-    Phone_Moods moods;
-    moods.m_cr_only = true;
-    Talk talk(moods);
+    Talk talk({.m_no_echo = true, .m_cr_only = true});
     talk.m_mind.Will_Answer("at+cmgf=1", "\r\n{format} sure\r\n");
     EXPECT_EQ(talk.Asks("AT+CMGF=1"), "\r\n{format} sure\r\n");
     EXPECT_EQ(talk.Asks("AT+CMGF?"), "\r+CMGF: 0\r\rOK\r");
@@ -438,14 +345,10 @@ TEST(Phone_Mind, A_Line_Of_Ones_Own_Goes_Out_As_Given_And_Does_Nothing_Else)
 
 TEST(Phone_Mind, What_Is_Held_Back_Is_Heard_When_It_Reads_On)
 {
-    Phone_Moods moods;
-    moods.m_stop_reading_after = 3;
-    Talk talk(moods);
+    Talk talk({.m_no_echo = true, .m_stop_reading_after = 3});
     EXPECT_EQ(talk.Hears("AT\rAT+CSQ\r"), Ok);
     EXPECT_TRUE(talk.m_mind.Has_Stopped_Reading());
     EXPECT_EQ(talk.m_last.m_bytes, "AT\r");
-    moods = talk.m_mind.Moods();
-    moods.m_stop_reading_after = -1;
-    talk.m_mind.Set_Moods(moods);
+    talk.m_mind.Set_Moods(Quiet);
     EXPECT_EQ(talk.Hears(""), With_Ok("+CSQ: 20,99"));
 }

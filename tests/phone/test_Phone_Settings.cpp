@@ -1,5 +1,7 @@
 #include "phone/Phone_Settings.h"
 
+#include "phone/Named_Moods.h"
+
 #include <gtest/gtest.h>
 
 using namespace Handset;
@@ -33,13 +35,10 @@ TEST(Phone_Settings, Only_Whole_Decimal_Numbers_Are_Numbers)
 
 TEST(Phone_Settings, Echo_And_Format_Follow_The_Moods_Until_A_Command_Sets_Them)
 {
-    Phone_Moods moods;
-    Phone_Settings settings(moods);
+    Phone_Settings settings{Phone_Moods()};
     EXPECT_TRUE(settings.Echo());
     EXPECT_FALSE(settings.Is_Text_Format());
-    moods.m_no_echo = true;
-    moods.m_text_only = true;
-    settings.Set_Moods(moods);
+    settings.Set_Moods({.m_no_echo = true, .m_text_only = true});
     EXPECT_FALSE(settings.Echo());
     EXPECT_TRUE(settings.Is_Text_Format());
     EXPECT_TRUE(settings.Do(Deed::Echo_On, ""));
@@ -54,25 +53,19 @@ TEST(Phone_Settings, Echo_And_Format_Follow_The_Moods_Until_A_Command_Sets_Them)
 TEST(Phone_Settings, Values_Out_Of_Range_Are_Refused_And_Change_Nothing)
 {
     Phone_Settings settings{Phone_Moods()};
-    const std::vector<std::pair<Deed, std::string>> wrong = {{Deed::Set_Format, "2"},
-                                                             {Deed::Set_Format, ""},
-                                                             {Deed::Set_Service, "2"},
-                                                             {Deed::Set_More, "3"},
-                                                             {Deed::Set_Centre, "15550001234"},
-                                                             {Deed::Set_Centre, "\"x\""},
-                                                             {Deed::Set_Centre, "\"\""},
-                                                             {Deed::Set_Centre, "\"1\",1,1"},
-                                                             {Deed::Set_Parameters, "256"},
-                                                             {Deed::Set_Parameters, "1,2,3,4,5"},
-                                                             {Deed::Set_Parameters, "1,x"},
-                                                             {Deed::Set_Parameters, "49,167,0,256"},
-                                                             {Deed::Set_Charset, "\"EBCDIC\""},
-                                                             {Deed::Set_Charset, "GSM"},
-                                                             {Deed::Set_Charset, ""}};
+    const std::vector<std::pair<Deed, std::vector<std::string>>> wrong = {
+        {Deed::Set_Format, {"2", ""}},
+        {Deed::Set_Service, {"2"}},
+        {Deed::Set_More, {"3"}},
+        {Deed::Set_Centre, {"15550001234", "\"x\"", "\"\"", "\"1\",1,1"}},
+        {Deed::Set_Parameters, {"256", "1,2,3,4,5", "1,x", "49,167,0,256"}},
+        {Deed::Set_Charset, {"\"EBCDIC\"", "GSM", ""}},
+    };
     const std::string values = "{format} {service} {more} {centre} {parameters} {charset}";
     const std::string before = settings.Filled(values);
-    for (const auto& [deed, argument] : wrong)
-        EXPECT_FALSE(settings.Do(deed, argument)) << argument;
+    for (const auto& [deed, arguments] : wrong)
+        for (const auto& argument : arguments)
+            EXPECT_FALSE(settings.Do(deed, argument)) << argument;
     EXPECT_EQ(settings.Filled(values), before);
     EXPECT_EQ(before, "0 0 0 +15550009999 17,167,0,0 GSM");
 }
@@ -100,21 +93,15 @@ TEST(Phone_Settings, The_Centre_Takes_The_Type_Of_Address)
     EXPECT_EQ(settings.Centre(), "+15550009999");
 }
 
-TEST(Phone_Settings, The_Centre_Is_Shown_In_Hexadecimal_Where_The_Mood_Or_The_Charset_Asks)
+TEST(Phone_Settings, Numbers_Are_Shown_And_Understood_In_Hexadecimal_Where_The_Mood_Or_The_Charset_Asks)
 {
-    Phone_Moods moods;
-    moods.m_smsc = "+1";
-    moods.m_smsc_in_ucs2 = true;
-    EXPECT_EQ(Phone_Settings(moods).Filled("{centre}"), "002B0031");
+    EXPECT_EQ(Phone_Settings({.m_smsc = "+1", .m_smsc_in_ucs2 = true}).Filled("{centre}"), "002B0031");
     EXPECT_EQ(With_Charset("UCS2").Filled("{centre}").substr(0, 8), "002B0031");
-}
-
-TEST(Phone_Settings, Numbers_In_Hexadecimal_Are_Understood_Where_The_Charset_Is)
-{
     EXPECT_EQ(With_Charset("UCS2").Number("002B00340039", ""), "+49");
     EXPECT_EQ(With_Charset("HEX").Number("00340039", "145"), "+49");
     EXPECT_EQ(With_Charset("UCS2").Number("0123456789", ""), "0123456789") << "plain digits stay";
     EXPECT_EQ(With_Charset("IRA").Number("00340039", ""), "00340039");
+    EXPECT_EQ(Phone_Settings({.m_charsets = "\"UCS2\",\"IRA\""}).Charset(), "UCS2") << "the first, without GSM";
 }
 
 TEST(Phone_Settings, What_Cannot_Be_Dialled_Is_No_Number)
@@ -123,13 +110,6 @@ TEST(Phone_Settings, What_Cannot_Be_Dialled_Is_No_Number)
     EXPECT_EQ(settings.Number("+49*#1", ""), "+49*#1");
     for (const char* wrong : {"", "+", "4+9", "x", "4 9", "-1"})
         EXPECT_EQ(settings.Number(wrong, ""), "") << wrong;
-}
-
-TEST(Phone_Settings, The_First_Listed_Charset_Is_Current_Where_Gsm_Is_Not_Listed)
-{
-    Phone_Moods moods;
-    moods.m_charsets = "\"UCS2\",\"IRA\"";
-    EXPECT_EQ(Phone_Settings(moods).Charset(), "UCS2");
 }
 
 TEST(Phone_Settings, Braces_That_Name_No_Value_Stay)

@@ -15,29 +15,19 @@ public:
     std::vector<Json_Object> Array()
     {
         std::vector<Json_Object> objects;
-        Expect('[');
-        if (!Takes(']')) {
-            do
-                objects.push_back(Object());
-            while (Takes(','));
-            Expect(']');
-        }
+        Items('[', ']', [&] { objects.push_back(Object()); });
         return objects;
     }
 
     Json_Object Object()
     {
         Json_Object object;
-        Expect('{');
-        if (!Takes('}')) {
-            do {
-                const std::string name = Text();
-                Expect(':');
-                if (!object.emplace(name, Value()).second)
-                    Fail("a name twice");
-            } while (Takes(','));
-            Expect('}');
-        }
+        Items('{', '}', [&] {
+            const std::string name = Text();
+            Expect(':');
+            if (!object.emplace(name, Value()).second)
+                Fail("a name twice");
+        });
         return object;
     }
 
@@ -49,6 +39,18 @@ public:
     }
 
 private:
+    template <typename Item>
+    void Items(char open, char close, const Item& item)
+    {
+        Expect(open);
+        if (Takes(close))
+            return;
+        do
+            item();
+        while (Takes(','));
+        Expect(close);
+    }
+
     Json_Value Value()
     {
         Skip_Blanks();
