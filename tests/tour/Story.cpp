@@ -6,9 +6,9 @@
 
 namespace {
 
-const QString Rule = QStringLiteral("==================================================="
-                                    "=========================");
-const QString Page_Head = QStringLiteral(
+const QString Rule = "==================================================="
+                     "=========================";
+const QString Page_Head =
     "<html><meta http-equiv=\"Content-Type\" content=\"text/html; charset=utf-8\"><head>"
     "<title>[ Corvane - Sent Items ]</title><style type=text/css>Body,Td,Th{font-family:Verdana, Arial, Helvetica, "
     "sans-serif; font-size:11px}.style1 {font-size: 16px;font-weight: bold; color: #000000;}.style2 {font-size: "
@@ -17,19 +17,19 @@ const QString Page_Head = QStringLiteral(
     "border=0 align=center cellpadding=0 cellspacing=0 bordercolor=#000000><tr><td align = center class= style1>[ "
     "Corvane - Sent Items ]</td></tr></table><br><table width=1000 border=0 align=center cellpadding=0 cellspacing=0 "
     "bordercolor=#000000><tr></tr></table><br><br><table width=1000 border=1 align=center cellpadding=0 cellspacing=0 "
-    "bordercolor=#000000><tr><th height = 30 bgcolor = #647dbe align = Left class =style3>Sent Items:</th></tr>");
-const QString Page_Item = QStringLiteral(
+    "bordercolor=#000000><tr><th height = 30 bgcolor = #647dbe align = Left class =style3>Sent Items:</th></tr>";
+const QString Page_Item =
     "<tr><td  height = 50 class = style2><table><tr><td width=60>Date</td><td>:&nbsp;&nbsp;</td><td>%1</td>"
     "<tr><td width=60>Number</td><td>:&nbsp;&nbsp;</td><td>%2</td><tr><td width=60>Message</td><td>:&nbsp;&nbsp;</td>"
-    "<td>%3</td></table></td></tr>");
+    "<td>%3</td></table></td></tr>";
 
-const QString Date_Pattern = QStringLiteral("dd/MM/yyyy");
+const QString Date_Pattern = "dd/MM/yyyy";
 
 void Write(const QString& path, const QByteArray& content)
 {
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        throw Tour_Failed(QStringLiteral("could not write ") + path);
+        throw Tour_Failed("could not write " + path);
 }
 
 // In the machine's own order, which is the small end first, with the mark in front of every piece.
@@ -43,7 +43,7 @@ QByteArray Utf16_Piece(const QString& text)
 
 QByteArray On_One_Line(QString text)
 {
-    return text.replace(QStringLiteral("\n"), QStringLiteral("|AP*|DX/")).toUtf8();
+    return text.replace("\n", "|AP*|DX/").toUtf8();
 }
 
 QStringList Template_Texts()
@@ -68,7 +68,7 @@ void Story::Write_Files(const QString& folder)
 std::vector<Story::Message> Story::Messages()
 {
     return {{First_Member, Rehearsal},
-            {QStringLiteral("07700900456"), Rehearsal},
+            {"07700900456", Rehearsal},
             {Concert_Helper, Rehearsal + About_The_Concert},
             {Soloists.at(0), To_The_Soloists},
             {Soloists.at(1), To_The_Soloists}};
@@ -76,7 +76,7 @@ std::vector<Story::Message> Story::Messages()
 
 QByteArray Story::Contacts_Export()
 {
-    return (Rule + QStringLiteral("\n\n\t\t\t[ Corvane - Contact List ]\t\t\t\n\n") + Rule).toUtf8() +
+    return (Rule + "\n\n\t\t\t[ Corvane - Contact List ]\t\t\t\n\n" + Rule).toUtf8() +
            "\n00447700900123\n07700900222\n07700900456\n07700900789\n07700900654\n07700900987\n";
 }
 
@@ -94,7 +94,7 @@ QByteArray Story::Sent_Items_Page(const QDate& date)
     QByteArray page = Utf16_Piece(Page_Head);
     for (const auto& message : Messages()) {
         QString text = message.text;
-        text.replace(QStringLiteral("\n"), QStringLiteral("<br>")).replace(QChar(u' '), QStringLiteral("&nbsp;"));
+        text.replace("\n", "<br>").replace(QChar(u' '), "&nbsp;");
         page += Utf16_Piece(Page_Item.arg(date.toString(Date_Pattern), message.number, text));
     }
     return page;
@@ -110,24 +110,8 @@ QByteArray Story::Templates()
 
 QByteArray Story::Templates_Export()
 {
-    QByteArray file =
-        Utf16_Piece(Rule + QStringLiteral("\n\n\t\t\t[ Corvane - Templates]\t\t\t\n\n") + Rule + QStringLiteral("\n"));
+    QByteArray file = Utf16_Piece(Rule + "\n\n\t\t\t[ Corvane - Templates]\t\t\t\n\n" + Rule + "\n");
     for (const QString& text : Template_Texts())
-        file += Utf16_Piece(text + QStringLiteral("\n") + Rule + QStringLiteral("\n"));
+        file += Utf16_Piece(text + "\n" + Rule + "\n");
     return file;
-}
-
-QByteArray Story::Exclusion_Index()
-{
-    return "Moved away\nCommittee\n";
-}
-
-QByteArray Story::Applied_Exclusions()
-{
-    return "Moved away\n";
-}
-
-QByteArray Story::Numbers_Of_Moved_Away()
-{
-    return "07700900111\n07700900222\n07700900333\n";
 }

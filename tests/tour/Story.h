@@ -18,29 +18,27 @@ struct Message
 };
 
 /// The files that the secretary has at hand: the members and those who moved away.
-inline const QString Members_File = QStringLiteral("members.txt");
-inline const QString Moved_Away_File = QStringLiteral("moved-away.txt");
+inline const QString Members_File = "members.txt";
+inline const QString Moved_Away_File = "moved-away.txt";
 void Write_Files(const QString& folder);
 
-inline const QString Rehearsal =
-    QStringLiteral("Choir practice moves to Thursday at 7 pm, same room. Please bring the blue folder!");
-inline const QString Thanks =
-    QStringLiteral("Thank you for singing with us! The next rehearsal is on Monday at the usual time.");
+inline const QString Rehearsal = "Choir practice moves to Thursday at 7 pm, same room. Please bring the blue folder!";
+inline const QString Thanks = "Thank you for singing with us! The next rehearsal is on Monday at the usual time.";
 inline const QString About_The_Concert =
-    QStringLiteral(" The concert is on Saturday the 12th: doors open at 6, we sing at 7:30, and there "
-                   "is soup afterwards for everyone who helps with the chairs.");
+    " The concert is on Saturday the 12th: doors open at 6, we sing at 7:30, and there "
+    "is soup afterwards for everyone who helps with the chairs.";
 inline const QString To_The_Soloists =
-    QStringLiteral("You sing a solo on Saturday.\nPlease come half an hour early to try the microphone.");
-inline const QString Not_To_Be_Sent = QStringLiteral("Notes for next week: new scores, chairs, key of the hall.");
+    "You sing a solo on Saturday.\nPlease come half an hour early to try the microphone.";
+inline const QString Not_To_Be_Sent = "Notes for next week: new scores, chairs, key of the hall.";
 
 /// Numbers as they stand in the list.
-inline const QString First_Member = QStringLiteral("00447700900123");
-inline const QString Moved_Member = QStringLiteral("07700900222");
-inline const QString Concert_Helper = QStringLiteral("07700900789");
-inline const QStringList Soloists = {QStringLiteral("07700900654"), QStringLiteral("07700900987")};
+inline const QString First_Member = "00447700900123";
+inline const QString Moved_Member = "07700900222";
+inline const QString Concert_Helper = "07700900789";
+inline const QStringList Soloists = {"07700900654", "07700900987"};
 
-inline const QString Moved_Away = QStringLiteral("Moved away");
-inline const QString Committee = QStringLiteral("Committee");
+inline const QString Moved_Away = "Moved away";
+inline const QString Committee = "Committee";
 
 /// What the phone must have received at the end, in its order.
 std::vector<Message> Messages();
@@ -51,8 +49,5 @@ QByteArray Sent_Items(const QDate& date);
 QByteArray Sent_Items_Page(const QDate& date);
 QByteArray Templates();
 QByteArray Templates_Export();
-QByteArray Exclusion_Index();
-QByteArray Applied_Exclusions();
-QByteArray Numbers_Of_Moved_Away();
 
 } // namespace Story

@@ -5,8 +5,6 @@
 #include <functional>
 #include <stdexcept>
 
-class QTableView;
-
 // Somebody who sits before the program's real windows: looks for a window by its name, clicks and types into its
 // controls, and takes pictures. Lives on a thread of its own, so that a dialog that opens and waits does not hold it
 // up. Every step that can not be done within ten seconds throws Tour_Failed with what was being waited for.
@@ -23,6 +21,8 @@ public:
     void Await_Text(const QString& window, const QString& control, const QString& beginning);
 
     void Click(const QString& window, const QString& control);
+    /// Clicks what closes the window.
+    void Leave(const QString& window, const QString& button);
     /// Clicks the row that has the text in one of its columns; with Add_To_Selection, as with Ctrl held down.
     enum class Row_Click
     {
@@ -36,7 +36,6 @@ public:
     void Type(const QString& window, const QString& control, const QString& text);
     /// Types in place of what a field or an editable box holds.
     void Retype(const QString& window, const QString& control, const QString& text);
-    void Press_Return(const QString& window, const QString& control);
     /// Presses a button of the message box on top, which must show this text.
     void Press_In_Box(const QString& button, const QString& expected_text);
     /// Types a file's name into the file panel, takes the panel's picture, and accepts.
@@ -53,7 +52,7 @@ public:
 private:
     static QWidget* Find_Window(const QString& name);
     static QWidget& Control(const QString& window, const QString& name);
-    static QTableView& Table(const QString& window, const QString& name);
+    void Do(const QString& window, const QString& control, const std::function<void(QWidget&)>& action);
     void Await_Input(const QString& window, const QString& control);
     void Save(const QPixmap& picture, const QString& name);
 
