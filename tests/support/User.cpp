@@ -8,7 +8,6 @@
 #include <QEvent>
 #include <QKeyEvent>
 #include <QMessageBox>
-#include <QPointer>
 #include <QTimer>
 #include <deque>
 #include <gtest/gtest.h>
@@ -23,61 +22,26 @@ std::string Shown(const QString& text)
     return "\"" + text.toStdString() + "\"";
 }
 
-QAbstractButton* Button_Of(const QMessageBox& box, const QString& text)
-{
-    const auto buttons = box.buttons();
-    for (QAbstractButton* button : buttons) {
-        if (button->text().remove(QLatin1Char('&')) == text)
-            return button;
-    }
-    return nullptr;
-}
-
 void Turn_Away(QMessageBox& box)
 {
-    for (const char* text : {"No", "OK"}) {
-        if (QAbstractButton* button = Button_Of(box, QLatin1String(text))) {
-            button->click();
-            return;
-        }
-    }
-    box.reject();
+    if (!Click_First(box, {"No", "OK"}))
+        box.reject();
 }
 
 void Press(QMessageBox& box, const QString& text)
 {
-    QAbstractButton* button = Button_Of(box, text);
-    if (button && button->isEnabled() && button->isVisible()) {
-        button->click();
+    if (Click_First(box, {text}))
         return;
-    }
     ADD_FAILURE() << "No button " << Shown(text) << " to press in the box " << Shown(box.text());
     Turn_Away(box);
 }
 
 void Press_Escape_In(QMessageBox& box)
 {
-    QKeyEvent press(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
-    QApplication::sendEvent(&box, &press);
-    QKeyEvent release(QEvent::KeyRelease, Qt::Key_Escape, Qt::NoModifier);
-    QApplication::sendEvent(&box, &release);
-}
-
-bool Is_Under_Something_Modal(const QWidget& window)
-{
-    return window.isModal() && QApplication::activeModalWidget() != &window;
-}
-
-// Calls a step as soon as the window can be used, or drops it when the window has gone by then.
-void Once_On_Top(const QPointer<QWidget>& window, QObject* context, const std::function<void(QWidget*)>& step,
-                 int delay = 0)
-{
-    QTimer::singleShot(delay, context, [window, context, step] {
-        if (window && window->isVisible() && Is_Under_Something_Modal(*window))
-            Once_On_Top(window, context, step, 1);
-        else
-            step(window && window->isVisible() ? window.data() : nullptr);
-    });
+    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent event(type, Qt::Key_Escape, Qt::NoModifier);
+        QApplication::sendEvent(&box, &event);
+    }
 }
 
 class Guard : public QObject
@@ -97,6 +61,32 @@ public:
 };
 
 } // namespace
+
+bool Click_First(const QMessageBox& box, const QStringList& texts)
+{
+    const auto buttons = box.buttons();
+    for (const QString& text : texts) {
+        for (QAbstractButton* button : buttons) {
+            if (button->text().remove(u'&') == text && button->isEnabled() && button->isVisible()) {
+                button->click();
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+void Once_On_Top(const QPointer<QWidget>& window, QObject* context, const std::function<void(QWidget*)>& step,
+                 int delay)
+{
+    QTimer::singleShot(delay, context, [window, context, step] {
+        const bool is_visible = window && window->isVisible();
+        if (is_visible && window->isModal() && QApplication::activeModalWidget() != window)
+            Once_On_Top(window, context, step, 1);
+        else
+            step(is_visible ? window.data() : nullptr);
+    });
+}
 
 class User::Eyes : public QObject
 {
@@ -140,7 +130,7 @@ public:
 
     std::deque<Answer> m_answers;
     std::map<QString, std::deque<std::function<void(QWidget&)>>> m_openings;
-    std::deque<std::function<void(QDialog*)>> m_dialogs;
+    std::deque<std::function<void(QWidget&)>> m_dialogs;
     QStringList m_shown;
     bool m_leaves_others_open = false;
 
@@ -151,13 +141,11 @@ private:
         m_shown.append(text);
         Once_On_Top(&box, this, [this, text](QWidget* on_top) {
             auto* open_box = static_cast<QMessageBox*>(on_top);
-            if (m_answers.empty() && m_leaves_others_open)
-                return;
-            if (m_answers.empty()) {
+            if (m_answers.empty() && !m_leaves_others_open) {
                 ADD_FAILURE() << "An unexpected box: " << Shown(text);
                 if (open_box)
                     Turn_Away(*open_box);
-            } else if (open_box) {
+            } else if (!m_answers.empty() && open_box) {
                 const Answer answer = std::move(m_answers.front());
                 m_answers.pop_front();
                 answer.handle(*open_box);
@@ -167,30 +155,23 @@ private:
 
     void See_Window(QWidget& window)
     {
-        const auto waiting = m_openings.find(window.objectName());
-        if (waiting != m_openings.end() && !waiting->second.empty()) {
-            const auto handle = std::move(waiting->second.front());
-            waiting->second.pop_front();
-            Once_On_Top(&window, this, [handle, name = window.objectName()](QWidget* on_top) {
-                if (on_top)
-                    handle(*on_top);
-                else
-                    ADD_FAILURE() << "This window closed before anything could be done with it: " << Shown(name);
-            });
-            return;
-        }
-        auto* dialog = qobject_cast<QDialog*>(&window);
-        const bool is_a_sheet = dynamic_cast<Modal_Sheet*>(&window) != nullptr; // which asks for nothing
-        if (!dialog || !dialog->isModal() || is_a_sheet || m_dialogs.empty())
-            return;
-        const auto handle = std::move(m_dialogs.front());
-        m_dialogs.pop_front();
-        Once_On_Top(dialog, this, [handle](QWidget* on_top) {
+        auto& openings = m_openings[window.objectName()];
+        const bool is_sheet = dynamic_cast<Modal_Sheet*>(&window) != nullptr; // which asks for nothing
+        if (!openings.empty())
+            Handle(window, openings, "This window closed before anything could be done with it: ");
+        else if (qobject_cast<QDialog*>(&window) && window.isModal() && !is_sheet && !m_dialogs.empty())
+            Handle(window, m_dialogs, "A dialog closed before anything could be done with it: ");
+    }
+
+    void Handle(QWidget& window, std::deque<std::function<void(QWidget&)>>& queue, const char* failure)
+    {
+        Once_On_Top(&window, this, [handle = queue.front(), failure, name = window.objectName()](QWidget* on_top) {
             if (on_top)
-                handle(static_cast<QDialog*>(on_top));
+                handle(*on_top);
             else
-                ADD_FAILURE() << "A dialog closed before anything could be done with it";
+                ADD_FAILURE() << failure << Shown(name);
         });
+        queue.pop_front();
     }
 };
 
@@ -200,22 +181,17 @@ User::~User() = default;
 
 void User::Will_Press(const QString& button)
 {
-    m_eyes->m_answers.push_back({button, [button](QMessageBox& box) { Press(box, button); }});
+    Will_Handle([button](QMessageBox& box) { Press(box, button); }, button);
 }
 
 void User::Will_Press_Escape()
 {
-    m_eyes->m_answers.push_back({QStringLiteral("the Escape key"), Press_Escape_In});
+    Will_Handle(Press_Escape_In, "the Escape key");
 }
 
 void User::Will_Close_It()
 {
-    m_eyes->m_answers.push_back({QStringLiteral("the close button"), [](QMessageBox& box) { box.close(); }});
-}
-
-void User::Will_Leave_It_Open()
-{
-    m_eyes->m_answers.push_back({QStringLiteral("no answer at all"), [](QMessageBox&) {}});
+    Will_Handle([](QMessageBox& box) { box.close(); }, "the close button");
 }
 
 void User::Will_Leave_The_Others_Open()
@@ -223,9 +199,9 @@ void User::Will_Leave_The_Others_Open()
     m_eyes->m_leaves_others_open = true;
 }
 
-void User::Will_Handle(std::function<void(QMessageBox&)> handle)
+void User::Will_Handle(std::function<void(QMessageBox&)> handle, const QString& name)
 {
-    m_eyes->m_answers.push_back({QStringLiteral("something of the test's own"), std::move(handle)});
+    m_eyes->m_answers.push_back({name, std::move(handle)});
 }
 
 void User::When_Opens(const QString& object_name, std::function<void(QWidget&)> handle)
@@ -233,9 +209,9 @@ void User::When_Opens(const QString& object_name, std::function<void(QWidget&)> 
     m_eyes->m_openings[object_name].push_back(std::move(handle));
 }
 
-void User::Will_Do(std::function<void(QDialog*)> handle)
+void User::Will_Do(const std::function<void(QDialog*)>& handle)
 {
-    m_eyes->m_dialogs.push_back(std::move(handle));
+    m_eyes->m_dialogs.push_back([handle](QWidget& dialog) { handle(static_cast<QDialog*>(&dialog)); });
 }
 
 QStringList User::Was_Shown() const

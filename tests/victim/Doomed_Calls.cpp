@@ -4,8 +4,6 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
-#include <cstdarg>
-#include <cstring>
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <mutex>
@@ -71,56 +69,39 @@ public:
     Counted(std::string_view name, std::string_view path, bool is_on_line = false)
         : m_name(name), m_is_on_line(is_on_line), m_number(++The_Last_Words->calls)
     {
-        const auto slash = path.rfind('/');
-        Say(m_name + ' ' + std::string(path.substr(slash == std::string_view::npos ? 0 : slash + 1)) + ' ');
-        if (The_Doom.way == Doom::Way::Kill_Before && m_number == The_Doom.at)
+        Say(m_name + ' ' + std::string(path.substr(path.rfind('/') + 1)) + ' ');
+        if (Is_At(Doom::Way::Kill_Before))
             Die();
     }
 
-    /// Whether it is its turn to fail. errno says why then.
-    bool Fails() const
-    {
-        if (m_is_on_line || !Is_Its_Turn())
-            return false;
-        errno = The_Doom.error;
-        return true;
-    }
+    bool Is_Cut_Short() const { return !m_is_on_line && Is_At(Doom::Way::Fill_Up); }
+    bool Dies_Within() const { return !m_is_on_line && Is_At(Doom::Way::Kill_Within); }
 
-    bool Is_Cut_Short() const { return The_Doom.way == Doom::Way::Fill_Up && m_number == The_Doom.at; }
-    bool Dies_Within() const { return The_Doom.way == Doom::Way::Kill_Within && m_number == The_Doom.at; }
-
-    template <typename Result>
-    Result Done(Result result) const
+    /// Makes the call, unless it is its turn to fail. errno says why then.
+    template <typename Call>
+    auto Make(Call call) const
     {
+        auto result = static_cast<decltype(call())>(-1);
+        if (Fails())
+            errno = The_Doom.error;
+        else
+            result = call();
         const int error = errno;
-        const bool is_ok = result != static_cast<Result>(-1);
-        Say((is_ok ? std::to_string(result) + " ok\n" : std::string("failed\n")));
-        const bool dies = The_Doom.way == Doom::Way::Kill_After || The_Doom.way == Doom::Way::Kill_Within;
-        if (dies && m_number == The_Doom.at)
+        Say(result != -1 ? std::to_string(result) + " ok\n" : "failed\n");
+        if (Is_At(Doom::Way::Kill_After) || Is_At(Doom::Way::Kill_Within))
             Die();
         errno = error;
         return result;
     }
 
-    template <typename Call>
-    auto Make(Call call) const
-    {
-        return Done(Fails() ? static_cast<decltype(call())>(-1) : call());
-    }
-
 private:
-    bool Is_Its_Turn() const
+    bool Is_At(Doom::Way way) const { return The_Doom.way == way && m_number == The_Doom.at; }
+
+    bool Fails() const
     {
-        switch (The_Doom.way) {
-        case Doom::Way::Fail_One:
-            return m_number == The_Doom.at;
-        case Doom::Way::Fail_From:
-            return m_number >= The_Doom.at && Can_Fail_So();
-        case Doom::Way::Fill_Up:
-            return m_number > The_Doom.at && Can_Fail_So();
-        default:
-            return false;
-        }
+        const bool is_later = (The_Doom.way == Doom::Way::Fail_From && m_number >= The_Doom.at) ||
+                              (The_Doom.way == Doom::Way::Fill_Up && m_number > The_Doom.at);
+        return !m_is_on_line && (Is_At(Doom::Way::Fail_One) || (is_later && Can_Fail_So()));
     }
 
     // A full disk still lets go of files, and a read-only one keeps the descriptors that are open.
@@ -137,10 +118,19 @@ private:
     int m_number;
 };
 
-template <typename Function>
-Function* Next(const char* name)
+template <std::size_t size>
+struct Name
 {
-    return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
+    constexpr Name(const char (&name)[size]) { std::copy_n(name, size, text); } // NOLINT: so that a text is one
+    char text[size];
+};
+
+// The C library's own function.
+template <Name name, typename Function>
+Function* Next()
+{
+    static auto* const next = reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name.text));
+    return next;
 }
 
 std::string Path_Of(int descriptor)
@@ -151,40 +141,50 @@ std::string Path_Of(int descriptor)
     return size < 0 ? std::string() : std::string(path.data(), static_cast<std::size_t>(size));
 }
 
+std::string Path_Of(const char* path)
+{
+    return path;
+}
+
 void Remember(int descriptor, Kind kind)
 {
     if (descriptor >= 0 && static_cast<std::size_t>(descriptor) < Kinds.size())
         Kinds[static_cast<std::size_t>(descriptor)] = kind;
 }
 
-// Opens by the call, counted when it may change something.
-template <typename Call>
-int Open(int folder, const char* path, int flags, Call call)
+// Calls the C library; where it is watched, as a counted call that has to do with a file.
+template <typename Result, Name name, typename File, typename... Arguments>
+Result Pass(bool is_watched, std::string_view counted_as, File file, Arguments... arguments)
 {
-    if (!Is_Watching)
-        return call();
-    if (path && path == Watched_Line) {
-        const int line = call();
-        Remember(line, Kind::Line);
-        return line;
-    }
-    if (!Is_Watched_At(folder, path))
-        return call();
-    if ((flags & O_DIRECTORY) != 0) {
-        const int opened = call();
-        Remember(opened, Kind::Folder);
+    const auto call = [&] { return Next<name, Result(Arguments...)>()(arguments...); };
+    return is_watched ? Counted(counted_as, Path_Of(file)).Make(call) : call();
+}
+
+// Opens, counted when it may change something. The place is what the C library's function wants before the path.
+template <Name name, typename... Place>
+int Open(int folder, const char* path, int flags, mode_t mode, Place... place)
+{
+    const auto call = [&](Kind kind) {
+        const int opened = Next<name, int(Place..., const char*, int, ...)>()(place..., path, flags, mode);
+        if (kind != Kind::Unwatched)
+            Remember(opened, kind);
         return opened;
-    }
+    };
+    if (Is_Watching && path && path == Watched_Line)
+        return call(Kind::Line);
+    if (!Is_Watched_At(folder, path))
+        return call(Kind::Unwatched);
+    if ((flags & O_DIRECTORY) != 0)
+        return call(Kind::Folder);
     const bool is_there = faccessat(folder, path, F_OK, AT_SYMLINK_NOFOLLOW) == 0;
     const bool is_written = (flags & O_ACCMODE) != O_RDONLY;
     const bool changes_nothing =
         is_written ? is_there && (flags & O_CREAT) != 0 && (flags & O_EXCL) != 0 : !The_Doom.counts_reads;
     if (changes_nothing)
-        return call();
-    const Counted counted(is_there ? "open" : "create", path);
-    const int opened = counted.Fails() ? -1 : call();
-    Remember(opened, is_written ? Kind::Written : Kind::Read);
-    return counted.Done(opened);
+        return call(Kind::Unwatched);
+    return Counted(is_there ? "open" : "create", path).Make([&] {
+        return call(is_written ? Kind::Written : Kind::Read);
+    });
 }
 
 // How much of a write gets into its file before the file's page ends; all of it when the page has room.
@@ -215,205 +215,91 @@ void End_Doom()
 
 // These stand in the place of the C library's functions, for the program and for every library that it is linked to.
 // NOLINTBEGIN(readability-identifier-naming)
+#define CORVANE_IN_PLACE_OF(result, name, arguments)                                                                   \
+    result Doomed_##name arguments __asm__(#name) __attribute__((visibility("default"), used));                        \
+    result Doomed_##name arguments
+
+#define CORVANE_PASSED_ON(result, name, arguments, is_watched, ...)                                                    \
+    CORVANE_IN_PLACE_OF(result, name, arguments)                                                                       \
+    {                                                                                                                  \
+        return Pass<result, #name>(is_watched, __VA_ARGS__);                                                           \
+    }                                                                                                                  \
+    static_assert(true)
+
 extern "C" {
-#define CORVANE_IN_PLACE_OF(name) __asm__(name) __attribute__((visibility("default"), used))
 
-int Doomed_Open(const char* path, int flags, ...) CORVANE_IN_PLACE_OF("open");
-int Doomed_Open_64(const char* path, int flags, ...) CORVANE_IN_PLACE_OF("open64");
-int Doomed_Open_At(int folder, const char* path, int flags, ...) CORVANE_IN_PLACE_OF("openat");
-int Doomed_Open_At_64(int folder, const char* path, int flags, ...) CORVANE_IN_PLACE_OF("openat64");
-int Doomed_Close(int descriptor) CORVANE_IN_PLACE_OF("close");
-ssize_t Doomed_Read(int descriptor, void* bytes, size_t size) CORVANE_IN_PLACE_OF("read");
-ssize_t Doomed_Write(int descriptor, const void* bytes, size_t size) CORVANE_IN_PLACE_OF("write");
-int Doomed_Rename(const char* from, const char* to) CORVANE_IN_PLACE_OF("rename");
-int Doomed_Unlink(const char* path) CORVANE_IN_PLACE_OF("unlink");
-int Doomed_Unlink_At(int folder, const char* path, int flags) CORVANE_IN_PLACE_OF("unlinkat");
-int Doomed_Mkdir(const char* path, mode_t mode) CORVANE_IN_PLACE_OF("mkdir");
-int Doomed_Chmod(const char* path, mode_t mode) CORVANE_IN_PLACE_OF("chmod");
-int Doomed_Fchmod(int descriptor, mode_t mode) CORVANE_IN_PLACE_OF("fchmod");
-int Doomed_Ftruncate(int descriptor, off_t size) CORVANE_IN_PLACE_OF("ftruncate");
-int Doomed_Ftruncate_64(int descriptor, off_t size) CORVANE_IN_PLACE_OF("ftruncate64");
-int Doomed_Fsync(int descriptor) CORVANE_IN_PLACE_OF("fsync");
-int Doomed_Fdatasync(int descriptor) CORVANE_IN_PLACE_OF("fdatasync");
-int Doomed_Link(const char* from, const char* to) CORVANE_IN_PLACE_OF("link");
-int Doomed_Bind(int socket, const sockaddr* address, socklen_t size) CORVANE_IN_PLACE_OF("bind");
-
-int Doomed_Open(const char* path, int flags, ...)
+// The mode of an open lies where a third argument does, whether or not the caller gave one.
+CORVANE_IN_PLACE_OF(int, open, (const char* path, int flags, mode_t mode))
 {
-    static auto* const next = Next<int(const char*, int, ...)>("open");
-    va_list more;
-    va_start(more, flags);
-    const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(more, mode_t) : 0;
-    va_end(more);
-    return Open(AT_FDCWD, path, flags, [&] { return next(path, flags, mode); });
+    return Open<"open">(AT_FDCWD, path, flags, mode);
 }
 
-int Doomed_Open_64(const char* path, int flags, ...)
+CORVANE_IN_PLACE_OF(int, open64, (const char* path, int flags, mode_t mode))
 {
-    static auto* const next = Next<int(const char*, int, ...)>("open64");
-    va_list more;
-    va_start(more, flags);
-    const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(more, mode_t) : 0;
-    va_end(more);
-    return Open(AT_FDCWD, path, flags, [&] { return next(path, flags, mode); });
+    return Open<"open64">(AT_FDCWD, path, flags, mode);
 }
 
-int Doomed_Open_At(int folder, const char* path, int flags, ...)
+CORVANE_IN_PLACE_OF(int, openat, (int folder, const char* path, int flags, mode_t mode))
 {
-    static auto* const next = Next<int(int, const char*, int, ...)>("openat");
-    va_list more;
-    va_start(more, flags);
-    const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(more, mode_t) : 0;
-    va_end(more);
-    return Open(folder, path, flags, [&] { return next(folder, path, flags, mode); });
+    return Open<"openat">(folder, path, flags, mode, folder);
 }
 
-int Doomed_Open_At_64(int folder, const char* path, int flags, ...)
+CORVANE_IN_PLACE_OF(int, openat64, (int folder, const char* path, int flags, mode_t mode))
 {
-    static auto* const next = Next<int(int, const char*, int, ...)>("openat64");
-    va_list more;
-    va_start(more, flags);
-    const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(more, mode_t) : 0;
-    va_end(more);
-    return Open(folder, path, flags, [&] { return next(folder, path, flags, mode); });
+    return Open<"openat64">(folder, path, flags, mode, folder);
 }
 
-int Doomed_Close(int descriptor)
+CORVANE_IN_PLACE_OF(int, close, (int descriptor))
 {
-    static auto* const next = Next<int(int)>("close");
+    auto* const next = Next<"close", int(int)>();
     const Kind kind = Kind_Of(descriptor);
     if (kind != Kind::Unwatched)
         Remember(descriptor, Kind::Unwatched);
     if (kind != Kind::Written)
         return next(descriptor);
     const Counted counted("close", Path_Of(descriptor));
-    const bool fails = counted.Fails();
-    const int error = errno;
     const int closed = next(descriptor); // a close that fails has closed all the same
-    if (fails)
-        errno = error;
-    return counted.Done(fails ? -1 : closed);
+    return counted.Make([closed] { return closed; });
 }
 
-ssize_t Doomed_Read(int descriptor, void* bytes, size_t size)
+CORVANE_IN_PLACE_OF(ssize_t, write, (int descriptor, const void* bytes, size_t size))
 {
-    static auto* const next = Next<ssize_t(int, void*, size_t)>("read");
-    if (Kind_Of(descriptor) != Kind::Read)
-        return next(descriptor, bytes, size);
-    return Counted("read", Path_Of(descriptor)).Make([&] { return next(descriptor, bytes, size); });
-}
-
-ssize_t Doomed_Write(int descriptor, const void* bytes, size_t size)
-{
-    static auto* const next = Next<ssize_t(int, const void*, size_t)>("write");
+    auto* const next = Next<"write", ssize_t(int, const void*, size_t)>();
     const Kind kind = Kind_Of(descriptor);
     if (kind != Kind::Written && kind != Kind::Line)
         return next(descriptor, bytes, size);
     const bool is_on_line = kind == Kind::Line;
     const Counted counted("write", is_on_line ? "the line" : Path_Of(descriptor), is_on_line);
-    std::size_t taken = size;
-    if (!is_on_line && counted.Is_Cut_Short())
-        taken = size / 2;
-    else if (!is_on_line && counted.Dies_Within())
-        taken = Up_To_The_Page(descriptor, size);
-    if (counted.Is_Cut_Short() && taken == 0 && size > 0 && !is_on_line) {
-        errno = ENOSPC;
-        return counted.Done(ssize_t{-1});
-    }
-    return counted.Make([&] { return next(descriptor, bytes, taken); });
+    return counted.Make([&]() -> ssize_t {
+        if (counted.Is_Cut_Short() && size == 1) {
+            errno = ENOSPC;
+            return -1;
+        }
+        const std::size_t up_to_the_page = counted.Dies_Within() ? Up_To_The_Page(descriptor, size) : size;
+        return next(descriptor, bytes, counted.Is_Cut_Short() ? size / 2 : up_to_the_page);
+    });
 }
 
-int Doomed_Rename(const char* from, const char* to)
-{
-    static auto* const next = Next<int(const char*, const char*)>("rename");
-    if (!Is_Watched(from) && !Is_Watched(to))
-        return next(from, to);
-    return Counted("rename", to).Make([&] { return next(from, to); });
-}
-
-int Doomed_Unlink(const char* path)
-{
-    static auto* const next = Next<int(const char*)>("unlink");
-    if (!Is_Watched(path))
-        return next(path);
-    return Counted("unlink", path).Make([&] { return next(path); });
-}
-
-int Doomed_Unlink_At(int folder, const char* path, int flags)
-{
-    static auto* const next = Next<int(int, const char*, int)>("unlinkat");
-    if (!Is_Watched_At(folder, path))
-        return next(folder, path, flags);
-    return Counted("unlink", path).Make([&] { return next(folder, path, flags); });
-}
-
-int Doomed_Mkdir(const char* path, mode_t mode)
-{
-    static auto* const next = Next<int(const char*, mode_t)>("mkdir");
-    if (!Is_Watched(path))
-        return next(path, mode);
-    return Counted("mkdir", path).Make([&] { return next(path, mode); });
-}
-
-int Doomed_Chmod(const char* path, mode_t mode)
-{
-    static auto* const next = Next<int(const char*, mode_t)>("chmod");
-    if (!Is_Watched(path))
-        return next(path, mode);
-    return Counted("chmod", path).Make([&] { return next(path, mode); });
-}
-
-int Doomed_Fchmod(int descriptor, mode_t mode)
-{
-    static auto* const next = Next<int(int, mode_t)>("fchmod");
-    if (Kind_Of(descriptor) != Kind::Written)
-        return next(descriptor, mode);
-    return Counted("chmod", Path_Of(descriptor)).Make([&] { return next(descriptor, mode); });
-}
-
-int Doomed_Ftruncate(int descriptor, off_t size)
-{
-    static auto* const next = Next<int(int, off_t)>("ftruncate");
-    if (Kind_Of(descriptor) != Kind::Written)
-        return next(descriptor, size);
-    return Counted("cut", Path_Of(descriptor)).Make([&] { return next(descriptor, size); });
-}
-
-int Doomed_Ftruncate_64(int descriptor, off_t size)
-{
-    return Doomed_Ftruncate(descriptor, size);
-}
-
-int Doomed_Fsync(int descriptor)
-{
-    static auto* const next = Next<int(int)>("fsync");
-    if (Kind_Of(descriptor) == Kind::Unwatched)
-        return next(descriptor);
-    return Counted("sync", Path_Of(descriptor)).Make([&] { return next(descriptor); });
-}
-
-int Doomed_Fdatasync(int descriptor)
-{
-    static auto* const next = Next<int(int)>("fdatasync");
-    if (Kind_Of(descriptor) == Kind::Unwatched)
-        return next(descriptor);
-    return Counted("sync", Path_Of(descriptor)).Make([&] { return next(descriptor); });
-}
-
-int Doomed_Link(const char* from, const char* to)
-{
-    static auto* const next = Next<int(const char*, const char*)>("link");
-    if (!Is_Watched(to))
-        return next(from, to);
-    return Counted("link", to).Make([&] { return next(from, to); });
-}
-
-int Doomed_Bind(int socket, const sockaddr* address, socklen_t size)
-{
-    static auto* const next = Next<int(int, const sockaddr*, socklen_t)>("bind");
-    if (!Is_Watching || address->sa_family != AF_UNIX)
-        return next(socket, address, size);
-    return Counted("bind", "socket").Make([&] { return next(socket, address, size); });
-}
+CORVANE_PASSED_ON(ssize_t, read, (int descriptor, void* bytes, size_t size), Kind_Of(descriptor) == Kind::Read, "read",
+                  descriptor, descriptor, bytes, size);
+CORVANE_PASSED_ON(int, rename, (const char* from, const char* to), Is_Watched(from) || Is_Watched(to), "rename", to,
+                  from, to);
+CORVANE_PASSED_ON(int, unlink, (const char* path), Is_Watched(path), "unlink", path, path);
+CORVANE_PASSED_ON(int, unlinkat, (int folder, const char* path, int flags), Is_Watched_At(folder, path), "unlink", path,
+                  folder, path, flags);
+CORVANE_PASSED_ON(int, mkdir, (const char* path, mode_t mode), Is_Watched(path), "mkdir", path, path, mode);
+CORVANE_PASSED_ON(int, chmod, (const char* path, mode_t mode), Is_Watched(path), "chmod", path, path, mode);
+CORVANE_PASSED_ON(int, fchmod, (int descriptor, mode_t mode), Kind_Of(descriptor) == Kind::Written, "chmod", descriptor,
+                  descriptor, mode);
+CORVANE_PASSED_ON(int, ftruncate, (int descriptor, off_t size), Kind_Of(descriptor) == Kind::Written, "cut", descriptor,
+                  descriptor, size);
+CORVANE_PASSED_ON(int, ftruncate64, (int descriptor, off_t size), Kind_Of(descriptor) == Kind::Written, "cut",
+                  descriptor, descriptor, size);
+CORVANE_PASSED_ON(int, fsync, (int descriptor), Kind_Of(descriptor) != Kind::Unwatched, "sync", descriptor, descriptor);
+CORVANE_PASSED_ON(int, fdatasync, (int descriptor), Kind_Of(descriptor) != Kind::Unwatched, "sync", descriptor,
+                  descriptor);
+CORVANE_PASSED_ON(int, link, (const char* from, const char* to), Is_Watched(to), "link", to, from, to);
+CORVANE_PASSED_ON(int, bind, (int socket, const sockaddr* address, socklen_t size),
+                  Is_Watching && address->sa_family == AF_UNIX, "bind", "socket", socket, address, size);
 }
 // NOLINTEND(readability-identifier-naming)

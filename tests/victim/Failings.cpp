@@ -4,11 +4,8 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <gmock/gmock.h>
-#include <set>
+#include <gtest/gtest.h>
 #include <sys/stat.h>
-
-using testing::IsEmpty;
 
 namespace {
 
@@ -43,13 +40,6 @@ std::string As_Shown(const QStringList& boxes)
     return boxes.join(u'|').toStdString();
 }
 
-// What a file holds; a file that is not there is told from an empty one.
-QByteArray In(const World::Files& files, const QByteArray& name)
-{
-    const auto found = files.find(name);
-    return found == files.end() ? "(none)" : found->second;
-}
-
 // The data files, without what a failed removal may have left until the next start.
 World::Files Data_After(const Ending& ending, const QByteArray& step)
 {
@@ -58,43 +48,19 @@ World::Files Data_After(const Ending& ending, const QByteArray& step)
     return files;
 }
 
-// How the files came out that a step writes.
-struct Outcome
-{
-    int old = 0;       ///< files that should be new and are as they were before it
-    int unchanged = 0; ///< files of which nobody can tell, since the step gives them what they held already
-};
-
-// After each step each file is as it should be, or as it was before the step.
-Outcome Compare_Step(const Ending& whole, const Ending& ending, qsizetype at, const QByteArrayList& written = {})
-{
-    const QByteArrayList steps = Steps_In(whole);
-    const World::Files before = Data_After(ending, steps.at(std::max<qsizetype>(at - 1, 0)));
-    const World::Files wanted = Data_After(whole, steps.at(at));
-    const World::Files now = Data_After(ending, steps.at(at));
-    std::set<QByteArray> names;
-    for (const World::Files& files : {before, wanted, now}) {
-        for (const auto& file : files)
-            names.insert(file.first);
-    }
-    Outcome outcome;
-    for (const QByteArray& name : names) {
-        const bool is_new = In(now, name) == In(wanted, name);
-        const bool is_old = In(now, name) == In(before, name);
-        EXPECT_TRUE(is_new || is_old) << name.constData() << " after step " << steps.at(at).constData() << ": "
-                                      << In(now, name).constData();
-        const bool counts = written.contains(name);
-        outcome.old += counts && !is_new ? 1 : 0;
-        outcome.unchanged += counts && is_new && is_old ? 1 : 0;
-    }
-    return outcome;
-}
-
-// Every step was gone through, whatever failed.
-void Expect_A_Life_To_The_End(const Ending& whole, const Ending& ending)
+// Goes through every step, whatever failed, after which each file is as it should be or as it was before the step.
+void For_Each_Step(const Ending& whole, const Ending& ending,
+                   const std::function<void(const QByteArray& step, const World::Files& before)>& check)
 {
     EXPECT_TRUE(ending.lived);
-    ASSERT_EQ(Steps_In(ending), Steps_In(whole));
+    ASSERT_EQ(ending.Steps(), whole.Steps());
+    World::Files before = Data_After(ending, ending.Steps().at(0));
+    for (const QByteArray& step : ending.Steps()) {
+        const World::Files now = Data_After(ending, step);
+        Expect_Old_Or_New(before, Data_After(whole, step), now, step);
+        check(step, before);
+        before = now;
+    }
 }
 
 // A start that finds the data out of reach says so and ends.
@@ -110,20 +76,15 @@ bool Has_Only_Complained(const Ending& ending)
 // Failures of the stores are passed over in silence.
 void Expect_Silence(const Ending& whole, const Ending& ending)
 {
-    Expect_A_Life_To_The_End(whole, ending);
-    const auto steps = Steps_In(whole);
-    for (qsizetype at = 0; at < steps.size(); ++at) {
-        Compare_Step(whole, ending, at);
-        EXPECT_EQ(As_Shown(ending.Boxes(steps.at(at))), As_Shown(whole.Boxes(steps.at(at))))
-            << steps.at(at).constData();
-    }
+    For_Each_Step(whole, ending, [&](const QByteArray& step, const World::Files&) {
+        EXPECT_EQ(As_Shown(ending.Boxes(step)), As_Shown(whole.Boxes(step))) << step.constData();
+    });
 }
 
-void Check_Silent(Lane& lane, const Whole& whole, const Ending& ending)
+void Check_Silent(Lane&, const Ending& whole, const Ending& ending)
 {
     if (!Has_Only_Complained(ending))
-        Expect_Silence(whole.ending, ending);
-    Expect_A_Good_Start(lane);
+        Expect_Silence(whole, ending);
 }
 
 QByteArrayList Lists_Written_In(const QByteArray& step)
@@ -142,198 +103,160 @@ QByteArrayList Lists_Written_In(const QByteArray& step)
 // Each file of exclusion lists that could not be written is told of.
 void Expect_A_Box_For_Each_List(const Ending& whole, const Ending& ending)
 {
-    Expect_A_Life_To_The_End(whole, ending);
-    const auto steps = Steps_In(whole);
-    for (qsizetype at = 0; at < steps.size(); ++at) {
-        const QByteArray& step = steps.at(at);
-        const Outcome outcome = Compare_Step(whole, ending, at, Lists_Written_In(step));
+    For_Each_Step(whole, ending, [&](const QByteArray& step, const World::Files& before) {
+        int old = 0;       // files that should be new and are as they were before it
+        int unchanged = 0; // files of which nobody can tell, since the step gives them what they held already
+        for (const QByteArray& name : Lists_Written_In(step)) {
+            const QByteArray now = Content_In(Data_After(ending, step), name);
+            const bool is_new = now == Content_In(Data_After(whole, step), name);
+            old += is_new ? 0 : 1;
+            unchanged += is_new && now == Content_In(before, name) ? 1 : 0;
+        }
         const auto told = ending.Boxes(step).count(File_Error);
-        EXPECT_GE(told, outcome.old) << step.constData();
-        EXPECT_LE(told, outcome.old + outcome.unchanged) << step.constData();
+        EXPECT_GE(told, old) << step.constData();
+        EXPECT_LE(told, old + unchanged) << step.constData();
         QStringList others = ending.Boxes(step);
         others.removeAll(File_Error);
         // An edit that can not begin does not ask at its end.
         EXPECT_TRUE(others == whole.Boxes(step) || (told > 0 && step == "edit")) << step.constData();
-    }
+    });
 }
-
-// The records are those of the items, each whole or not there. Returns how many are missing.
-int Lines_Missing(const QByteArray& now, const QByteArray& before, QByteArray line(int))
-{
-    EXPECT_TRUE(now.startsWith(before));
-    qsizetype at = before.size();
-    int missing = 0;
-    for (int item = First_Number; item < First_Number + Job_Items; ++item) {
-        const QByteArray expected = line(item);
-        if (now.mid(at, expected.size()) == expected)
-            at += expected.size();
-        else
-            ++missing;
-    }
-    EXPECT_EQ(at, now.size()) << "what is neither old nor a whole line: " << now.mid(at).constData();
-    return missing;
-}
-
-struct Missing
-{
-    int records = 0;
-    int templates = 0;
-};
 
 // A job goes on to its end whatever becomes of the records, and says nothing of them.
-Missing Check_Job(const Virtual_Phone& phone, const Ending& whole, const Ending& ending)
+Kept_Items Check_Job(const Virtual_Phone& phone, const Ending& whole, const Ending& ending)
 {
     EXPECT_TRUE(ending.lived);
-    const World::Files before = Data_After(whole, "start");
-    const World::Files now = Data_After(ending, "job");
-    Missing missing;
-    missing.records = Lines_Missing(In(now, "SentItem.ZOVA"), In(before, "SentItem.ZOVA"), Record_Of);
-    missing.templates = Lines_Missing(In(now, "Templates.ZOVA"), In(before, "Templates.ZOVA"),
-                                      [](int item) { return Text_Of(item) + '\n'; });
     const int messages = Messages_In(phone);
     EXPECT_TRUE(!Is_Whole_Job(ending) || messages == Job_Items) << messages;
-    return missing;
+    return Items_Kept(Data_After(whole, "start"), Data_After(ending, "job"), First_Number, Job_Items);
 }
 
 // Each export that could not be written is told of; the stores are left alone, and what is there of an export is right.
-void Expect_A_Box_For_Each_Export(const Lane& lane, const Whole& whole, const Ending& ending)
+void Check_Exports(Lane&, const Ending& whole, const Ending& ending)
 {
-    Expect_A_Life_To_The_End(whole.ending, ending);
-    const World::Files picked = lane.world.Picked();
-    const QByteArrayList steps = Steps_In(ending);
-    for (qsizetype at = 0; at < steps.size(); ++at) {
-        const QByteArray& step = steps.at(at);
-        Compare_Step(whole.ending, ending, at);
+    if (Has_Only_Complained(ending))
+        return;
+    For_Each_Step(whole, ending, [&](const QByteArray& step, const World::Files&) {
         const bool has_failed = std::any_of(ending.made.begin(), ending.made.end(), [&](const QByteArray& call) {
             return call.endsWith(' ' + step + " failed") && !call.startsWith("unlink ");
         });
         // Asked whether the old export may go, the person has agreed.
-        const QStringList boxes = whole.ending.Boxes(step) + (has_failed ? QStringList{File_Error} : QStringList());
+        const QStringList boxes = whole.Boxes(step) + (has_failed ? QStringList{File_Error} : QStringList());
         EXPECT_EQ(As_Shown(ending.Boxes(step)), As_Shown(boxes)) << step.constData();
-        const bool is_export = whole.picked.contains(step);
-        EXPECT_TRUE(!is_export || has_failed || In(picked, step) == In(whole.picked, step)) << step.constData();
+        EXPECT_TRUE(has_failed || Content_In(ending.picked, step) == Content_In(whole.picked, step))
+            << step.constData();
+    });
+}
+
+void Check_Jobs(Lane& lane, const Ending& whole, const Ending& ending)
+{
+    if (Has_Only_Complained(ending))
+        return;
+    const Kept_Items kept = Check_Job(lane.phone, whole, ending);
+    const auto writes_failed = [&](const char* file) {
+        return std::count_if(ending.made.begin(), ending.made.end(), [&](const QByteArray& call) {
+            return call.endsWith(QByteArray(" ") + file + " failed") &&
+                   (call.startsWith("write ") || call.startsWith("open ") || call.startsWith("close "));
+        });
+    };
+    if (Is_Whole_Job(ending)) {
+        EXPECT_EQ(Job_Items - std::ssize(kept.records), writes_failed("SentItem.ZOVA"));
+        EXPECT_EQ(Job_Items - std::ssize(kept.templates), writes_failed("Templates.ZOVA"));
     }
+}
+
+void Check_First_Start(Lane& lane, const Ending& whole, const Ending& ending)
+{
+    if (!Has_Only_Complained(ending)) {
+        EXPECT_TRUE(ending.lived);
+        EXPECT_EQ(As_Shown(ending.All_Boxes()), "");
+    }
+    EXPECT_EQ(lane.world.Data(), Data_After(whole, "start"));
+}
+
+// All the work, once on a usual disk and once on one like this, which takes nothing.
+void Work_On(Disk disk)
+{
+    Lane lane;
+    const auto live = [&](Order order, Disk on) {
+        lane.world.Furnish();
+        lane.Plug_In_Again();
+        lane.phone.Forget();
+        EXPECT_EQ(chmod(lane.phone.Path().c_str(), 0666), 0); // for nobody, too
+        order.disk = on;
+        const Ending ending = lane.Live(order);
+        EXPECT_TRUE(ending.Says("started")) << order.steps;
+        return ending;
+    };
+    for (const char* steps : {"sent_items", "templates"}) {
+        const Ending whole = live({.steps = steps}, Disk::Usual);
+        const Ending ending = live({.steps = steps}, disk);
+        Expect_Silence(whole, ending);
+        EXPECT_EQ(Data_After(ending, "start"), Data_After(whole, "start"));
+        EXPECT_NE(Data_After(ending, ending.Steps().at(1)), Data_After(whole, whole.Steps().at(1))) << steps;
+    }
+    const Ending whole_lists = live({.steps = "exclusion"}, Disk::Usual);
+    const Ending lists = live({.steps = "exclusion"}, disk);
+    Expect_A_Box_For_Each_List(whole_lists, lists);
+    EXPECT_GT(lists.All_Boxes().count(File_Error), 2);
+    lane.needs_phone = true;
+    Ending job;
+    Kept_Items kept;
+    for (int tries = 0; tries < 30 && !Is_Whole_Job(job); ++tries) {
+        job = live({.steps = "job", .items = Job_Items, .first = First_Number}, disk);
+        kept = Check_Job(lane.phone, whole_lists, job);
+    }
+    EXPECT_TRUE(Is_Whole_Job(job));
+    EXPECT_LT(std::ssize(kept.records), Job_Items);
+    EXPECT_LT(std::ssize(kept.templates), Job_Items);
 }
 
 } // namespace
 
 int Fail_First_Starts(int stride)
 {
-    const auto check = [](Lane& lane, const Whole& whole, const Ending& ending) {
-        if (!Has_Only_Complained(ending)) {
-            EXPECT_TRUE(ending.lived);
-            EXPECT_EQ(As_Shown(ending.All_Boxes()), "");
-        }
-        Expect_A_Good_Start(lane);
-        EXPECT_EQ(lane.world.Data(), Data_After(whole.ending, "start"));
-    };
-    return Fail({.check = check, .prepare = [](World& world) { world.Empty(); }}, stride);
+    return Fail({.check = Check_First_Start, .prepare = [](World& world) { world.Empty(); }}, stride);
 }
 
 int Fail_Sent_Items(int stride)
 {
-    return Fail({.errand = {.steps = "sent_items"}, .check = Check_Silent}, stride);
+    return Fail({.order = {.steps = "sent_items"}, .check = Check_Silent}, stride);
 }
 
 int Fail_Templates(int stride)
 {
-    return Fail({.errand = {.steps = "templates"}, .check = Check_Silent}, stride);
+    return Fail({.order = {.steps = "templates"}, .check = Check_Silent}, stride);
 }
 
 int Fail_Exclusion_Lists(int stride)
 {
-    const auto check = [](Lane& lane, const Whole& whole, const Ending& ending) {
+    const auto check = [](Lane&, const Ending& whole, const Ending& ending) {
         if (!Has_Only_Complained(ending))
-            Expect_A_Box_For_Each_List(whole.ending, ending);
-        Expect_A_Good_Start(lane);
+            Expect_A_Box_For_Each_List(whole, ending);
     };
-    return Fail({.errand = {.steps = "exclusion"}, .check = check}, stride);
+    return Fail({.order = {.steps = "exclusion"}, .check = check}, stride);
 }
 
 int Fail_Exports(int stride)
 {
-    const auto check = [](Lane& lane, const Whole& whole, const Ending& ending) {
-        if (!Has_Only_Complained(ending))
-            Expect_A_Box_For_Each_Export(lane, whole, ending);
-        Expect_A_Good_Start(lane);
-    };
-    return Fail({.errand = {.steps = "export"}, .check = check}, stride);
+    return Fail({.order = {.steps = "export"}, .check = Check_Exports}, stride);
 }
 
 int Fail_Jobs(int stride)
 {
-    const auto check = [](Lane& lane, const Whole& whole, const Ending& ending) {
-        if (Has_Only_Complained(ending)) {
-            Expect_A_Good_Start(lane);
-            return;
-        }
-        const Missing missing = Check_Job(lane.phone, whole.ending, ending);
-        const auto writes_failed = [&](const char* file) {
-            return std::count_if(ending.made.begin(), ending.made.end(), [&](const QByteArray& call) {
-                return call.endsWith(QByteArray(" ") + file + " failed") &&
-                       (call.startsWith("write ") || call.startsWith("open ") || call.startsWith("close "));
-            });
-        };
-        if (Is_Whole_Job(ending)) {
-            EXPECT_EQ(missing.records, writes_failed("SentItem.ZOVA"));
-            EXPECT_EQ(missing.templates, writes_failed("Templates.ZOVA"));
-        }
-        Expect_A_Good_Start(lane);
-    };
-    return Fail({.errand = {.steps = "job", .items = Job_Items, .first = First_Number},
-                 .check = check,
+    return Fail({.order = {.steps = "job", .items = Job_Items, .first = First_Number},
+                 .check = Check_Jobs,
                  .is_whole = [](const Ending& ending) { return Is_Whole_Job(ending) || !ending.Says("started"); },
                  .needs_phone = true},
                 stride);
 }
 
-namespace {
-
-// All the work, once on a usual disk and once on one like this, which takes nothing.
-void Work_On(char disk)
-{
-    Lane lane;
-    const auto live = [&](Errand errand, char on) {
-        lane.world.Furnish();
-        lane.Plug_In_Again();
-        lane.phone.Forget();
-        EXPECT_EQ(chmod(lane.phone.Path().c_str(), 0666), 0); // for nobody, too
-        errand.disk = on;
-        const Ending ending = lane.Live(errand);
-        EXPECT_TRUE(ending.Says("started")) << errand.steps;
-        return ending;
-    };
-    for (const char* steps : {"sent_items", "templates"}) {
-        const Ending whole = live({.steps = steps}, 'u');
-        const Ending ending = live({.steps = steps}, disk);
-        Expect_Silence(whole, ending);
-        EXPECT_EQ(Data_After(ending, Steps_In(ending).front()), Data_After(whole, "start"));
-        EXPECT_NE(Data_After(ending, Steps_In(ending).at(1)), Data_After(whole, Steps_In(whole).at(1))) << steps;
-    }
-    const Ending whole_lists = live({.steps = "exclusion"}, 'u');
-    const Ending lists = live({.steps = "exclusion"}, disk);
-    Expect_A_Box_For_Each_List(whole_lists, lists);
-    EXPECT_GT(lists.All_Boxes().count(File_Error), 2);
-    lane.needs_phone = true;
-    Ending job;
-    Missing missing;
-    for (int tries = 0; tries < 30 && !Is_Whole_Job(job); ++tries) {
-        job = live({.steps = "job", .items = Job_Items, .first = First_Number}, disk);
-        missing = Check_Job(lane.phone, whole_lists, job);
-    }
-    EXPECT_TRUE(Is_Whole_Job(job));
-    EXPECT_GT(missing.records, 0);
-    EXPECT_GT(missing.templates, 0);
-}
-
-} // namespace
-
 void Work_On_A_Full_Disk()
 {
-    Work_On('f');
+    Work_On(Disk::Full);
 }
 
 void Work_In_A_Read_Only_Folder()
 {
-    Work_On('r');
+    Work_On(Disk::Read_Only);
 }

@@ -1,14 +1,14 @@
 #include "victim/Person.h"
 
+#include "support/User.h"
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QEvent>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QPointer>
 #include <QTest>
-#include <QTimer>
 #include <utility>
 
 Person::Person()
@@ -16,11 +16,14 @@ Person::Person()
     qApp->installEventFilter(this);
 }
 
-Person::~Person() = default;
-
-void Person::In_Window(const QString& object_name, std::function<void(QWidget&)> steps)
+void Person::In_Window(const char* object_name, std::function<void(QWidget&)> steps)
 {
-    m_windows[object_name] = std::move(steps);
+    m_windows[QLatin1String(object_name)] = std::move(steps);
+}
+
+void Person::Will_Click(const char* object_name, const char* button)
+{
+    In_Window(object_name, [button](QWidget& window) { Click_In(window, button); });
 }
 
 QStringList Person::Boxes_Since()
@@ -43,48 +46,23 @@ bool Person::eventFilter(QObject* watched, QEvent* event)
         return false;
     if (auto* box = qobject_cast<QMessageBox*>(window))
         m_boxes.append(box->text());
-    See(*window);
+    Once_On_Top(window, this, [this](QWidget* on_top) {
+        if (on_top)
+            Handle(*on_top);
+    });
     return false;
 }
 
-// Does what is to be done as soon as nothing modal stands above the window.
-void Person::See(QWidget& window)
+void Person::Handle(QWidget& window) const
 {
-    QTimer::singleShot(0, this, [this, seen = QPointer<QWidget>(&window)] {
-        if (!seen || !seen->isVisible())
-            return;
-        if (seen->isModal() && QApplication::activeModalWidget() != seen) {
-            QTimer::singleShot(1, this, [this, seen] {
-                if (seen)
-                    See(*seen);
-            });
-            return;
-        }
-        if (auto* box = qobject_cast<QMessageBox*>(seen.data()))
-            Agree(*box);
-        else if (auto* panel = qobject_cast<QFileDialog*>(seen.data()))
-            Pick(*panel);
-        else if (const auto steps = m_windows.find(seen->objectName()); steps != m_windows.end())
-            steps->second(*seen);
-    });
-}
-
-void Person::Agree(QMessageBox& box)
-{
-    const auto buttons = box.buttons();
-    for (QAbstractButton* button : buttons) {
-        const QString text = button->text().remove(QLatin1Char('&'));
-        if (text == QStringLiteral("Yes") || text == QStringLiteral("OK")) {
-            button->click();
-            return;
-        }
+    if (auto* box = qobject_cast<QMessageBox*>(&window)) {
+        if (!Click_First(*box, {"Yes", "OK"}))
+            qFatal("nothing to agree to: %s", qPrintable(box->text()));
+    } else if (auto* panel = qobject_cast<QFileDialog*>(&window)) {
+        auto* name = panel->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        name->setText(m_path);
+        QTest::keyClick(name, Qt::Key_Return);
+    } else if (const auto steps = m_windows.find(window.objectName()); steps != m_windows.end()) {
+        steps->second(window);
     }
-    qFatal("nothing to agree to: %s", qPrintable(box.text()));
-}
-
-void Person::Pick(QFileDialog& panel) const
-{
-    auto* name = panel.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-    name->setText(m_path);
-    QTest::keyClick(name, Qt::Key_Return);
 }

@@ -1,27 +1,22 @@
 #pragma once
 
 #include <QObject>
-#include <QString>
 #include <QStringList>
 #include <functional>
 #include <map>
 
-class QFileDialog;
-class QMessageBox;
 class QWidget;
 
 // The person at the screen of a program that may die or find its disk full at any moment: agrees to every box, notes
 // what it said, picks files, and knows what to do in each window that opens. Lives on the interface thread.
 class Person : public QObject
 {
-    Q_OBJECT
-
 public:
     Person();
-    ~Person() override;
 
     /// What to do in windows of this name, from now on.
-    void In_Window(const QString& object_name, std::function<void(QWidget&)> steps);
+    void In_Window(const char* object_name, std::function<void(QWidget&)> steps);
+    void Will_Click(const char* object_name, const char* button);
     /// The path to give to every panel that asks for a file, from now on.
     void Will_Pick(const QString& path) { m_path = path; }
 
@@ -33,9 +28,7 @@ public:
     static void Click_In(QWidget& window, const char* button);
 
 private:
-    void See(QWidget& window);
-    void Agree(QMessageBox& box);
-    void Pick(QFileDialog& panel) const;
+    void Handle(QWidget& window) const;
 
     std::map<QString, std::function<void(QWidget&)>> m_windows;
     QString m_path;

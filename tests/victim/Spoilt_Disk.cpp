@@ -1,10 +1,9 @@
 #include "victim/Spoilt_Disk.h"
 
 #include "records/Data_Paths.h"
+#include "support/Files.h"
 
-#include <QDir>
 #include <QDirIterator>
-#include <QFile>
 #include <QFileInfo>
 #include <csignal>
 #include <map>
@@ -60,9 +59,8 @@ void Put_On_A_Small_Disk(const QString& folder)
 {
     std::map<QString, QByteArray> files;
     for (const QString& path : Everything_In(folder)) {
-        QFile file(path);
-        if (QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly))
-            files[path] = file.readAll();
+        if (QFileInfo(path).isFile())
+            files[path] = Bytes_Of(path);
     }
     Has_Own_Disk = Mount_A_Small_Disk(QFile::encodeName(folder));
     for (const auto& [path, bytes] : files) {

@@ -7,6 +7,7 @@
 #include "platform/Pace.h"
 #include "platform/Single_Start.h"
 #include "records/Data_Paths.h"
+#include "support/Files.h"
 #include "support/Serve_Until.h"
 #include "victim/Person.h"
 #include "victim/Spoilt_Disk.h"
@@ -15,7 +16,6 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QDirIterator>
-#include <QFile>
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -25,19 +25,27 @@
 
 namespace {
 
+struct Store
+{
+    const char* main_window_button;
+    const char* window;
+    const char* close_button = "Cancel_Btn";
+};
+constexpr Store Sent_Items_Window = {"Sent_Item_Btn", "Sent_Items"};
+constexpr Store Templates_Window = {"View_Templates_Btn", "Templates"};
+constexpr Store Exclusion_Window = {"View_ExclusionWizrd_Btn", "Exclusion_Wizard", "m_cancel_btn"};
+
 // One life of the program, from its start to its end.
 class Life
 {
 public:
     Life(const Order& order, Last_Words& last_words) : m_order(order), m_last_words(last_words)
     {
-        m_person.In_Window(QStringLiteral("Send_Msg_Info"),
-                           [](QWidget& dialog) { Person::Click_In(dialog, "ContinuePressed"); });
-        m_person.In_Window(QStringLiteral("Load_Num_Info"),
-                           [](QWidget& dialog) { Person::Click_In(dialog, "YESPressed"); });
-        m_person.In_Window(QStringLiteral("Open_Export_Log"),
-                           [](QWidget& dialog) { Person::Click_In(dialog, "CancelPressed"); });
-        m_person.In_Window(QStringLiteral("Export_Option"), [this](QWidget& dialog) {
+        m_person.Will_Click("Send_Msg_Info", "ContinuePressed");
+        m_person.Will_Click("Load_Num_Info", "YESPressed");
+        m_person.Will_Click("Open_Export_Log", "CancelPressed");
+        m_person.Will_Click("Connection_Info", "Continue_Btn");
+        m_person.In_Window("Export_Option", [this](QWidget& dialog) {
             if (m_is_html)
                 Person::Click_In(dialog, "Export_In_Html_RD");
             Person::Click_In(dialog, "OKPressed");
@@ -48,14 +56,17 @@ public:
     {
         Single_Start single_start(QFileInfo(Default_Resource_Path()).path());
         Note(single_start.Begin(0.5) == Single_Start::Outcome::First ? "outcome first" : "outcome other");
-        Program program(With_The_Phone(), &single_start);
+        Command_Line command_line;
+        if (m_order.steps == "wizard")
+            command_line.device_paths = {Phone()};
+        Program program(command_line, &single_start);
         m_program = &program;
         if (!program.Start()) {
             Mark("start");
             return;
         }
         Note("started");
-        const Spoilt_Disk disk(m_order.disk, Path_Of_Data());
+        const Spoilt_Disk disk(m_order.disk, In_World("data"));
         QTimer::singleShot(0, qApp, [this] {
             Mark("start");
             Do_The_Steps();
@@ -71,24 +82,17 @@ private:
     /// Tells what was shown since the last step, and what the data files hold now.
     void Mark(const QByteArray& step)
     {
-        Note("boxes " + step + ' ' + m_person.Boxes_Since().join(u'|').toUtf8().toBase64());
+        QByteArray boxes;
+        for (const QString& box : m_person.Boxes_Since())
+            boxes += ' ' + box.toUtf8().toBase64();
+        Note("boxes " + step + boxes);
         QDirIterator files(Resource_Path, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
         while (files.hasNext()) {
-            QFile file(files.next());
-            if (file.open(QIODevice::ReadOnly))
-                Note("file " + step + ' ' + QFileInfo(file).fileName().toUtf8().toBase64() + ' ' +
-                     file.readAll().toBase64());
+            const QString path = files.next();
+            Note("file " + step + ' ' + QFileInfo(path).fileName().toUtf8().toBase64() + ' ' +
+                 Bytes_Of(path).toBase64());
         }
     }
-
-    Command_Line With_The_Phone() const
-    {
-        Command_Line command_line;
-        if (m_order.steps == QStringLiteral("wizard"))
-            command_line.device_paths = {m_order.phone};
-        return command_line;
-    }
-    QString Path_Of_Data() const { return m_order.world + QStringLiteral("/data"); }
 
     static void Serve_Until_Quiet()
     {
@@ -97,35 +101,36 @@ private:
 
     CorvaneAppDelegate& Main_Window_Shown() { return m_program->Delegate(); }
     void Click(const char* button) { Person::Click_In(Main_Window_Shown(), button); }
-    QString In_World(const char* name) const { return m_order.world + u'/' + QLatin1String(name); }
+    QString In_World(const QString& name) const { return QString::fromStdString(m_order.world) + u'/' + name; }
+    QString Phone() const { return QString::fromStdString(m_order.phone); }
+
+    template <typename Widget>
+    static Widget* Find(QWidget& window, const char* name)
+    {
+        return window.findChild<Widget*>(QLatin1String(name));
+    }
+
+    void Add_Number(const QString& number)
+    {
+        Find<QLineEdit>(Main_Window_Shown(), "_numberEdit")->setText(number);
+        Click("Add_Number");
+    }
 
     /// Opens a window with a list by the main window's button, does the steps and closes it.
-    void Visit(const char* button, const char* window, const char* close, const std::function<void(QWidget&)>& steps)
+    void Visit(const Store& store, const std::function<void(QWidget&)>& steps)
     {
-        m_person.In_Window(QLatin1String(window), [close, steps](QWidget& opened) {
+        m_person.In_Window(store.window, [store, steps](QWidget& opened) {
             Serve_Until_Quiet();
             steps(opened);
             if (opened.isVisible())
-                Person::Click_In(opened, close);
+                Person::Click_In(opened, store.close_button);
         });
-        Click(button);
-    }
-    void Visit_Sent_Items(const std::function<void(QWidget&)>& steps)
-    {
-        Visit("Sent_Item_Btn", "Sent_Items", "Cancel_Btn", steps);
-    }
-    void Visit_Templates(const std::function<void(QWidget&)>& steps)
-    {
-        Visit("View_Templates_Btn", "Templates", "Cancel_Btn", steps);
-    }
-    void Visit_Exclusion_Lists(const std::function<void(QWidget&)>& steps)
-    {
-        Visit("View_ExclusionWizrd_Btn", "Exclusion_Wizard", "m_cancel_btn", steps);
+        Click(store.main_window_button);
     }
 
     static void Select(QWidget& window, const char* table, int first, int last)
     {
-        auto* rows = window.findChild<QTableView*>(QLatin1String(table));
+        auto* rows = Find<QTableView>(window, table);
         rows->clearSelection();
         rows->selectionModel()->select(QItemSelection(rows->model()->index(first, 0), rows->model()->index(last, 0)),
                                        QItemSelectionModel::Select | QItemSelectionModel::Rows);
@@ -133,28 +138,26 @@ private:
 
     void Do_The_Steps()
     {
-        const std::map<QString, void (Life::*)()> all = {
-            {QStringLiteral("job"), &Life::Send},
-            {QStringLiteral("sent_items"), &Life::Edit_Sent_Items},
-            {QStringLiteral("import"), &Life::Import},
-            {QStringLiteral("templates"), &Life::Edit_Templates},
-            {QStringLiteral("export"), &Life::Export},
-            {QStringLiteral("exclusion"), &Life::Edit_Exclusion_Lists},
-            {QStringLiteral("start"), &Life::Only_Start},
-            {QStringLiteral("look"), &Life::Look},
-            {QStringLiteral("wizard"), &Life::Find_The_Phone},
+        const std::map<std::string, std::function<void()>> all = {
+            {"job", [this] { Send(); }},
+            {"sent_items", [this] { Edit_Sent_Items(); }},
+            {"import", [this] { Import(); }},
+            {"templates", [this] { Edit_Templates(); }},
+            {"export", [this] { Export(); }},
+            {"exclusion", [this] { Edit_Exclusion_Lists(); }},
+            {"start", [] {}},
+            {"look", [this] { Look(); }},
+            {"wizard", [this] { Find_The_Phone(); }},
         };
-        (this->*all.at(m_order.steps))();
+        all.at(m_order.steps)();
     }
-
-    void Only_Start() {}
 
     // What the windows of the stores show.
     void Look()
     {
-        Visit_Sent_Items([this](QWidget& window) { Note_Rows("sent", window, "idSendList"); });
-        Visit_Templates([this](QWidget& window) { Note_Rows("template", window, "idTemplateList"); });
-        Visit_Exclusion_Lists([this](QWidget& window) {
+        Visit(Sent_Items_Window, [this](QWidget& window) { Note_Rows("sent", window, "idSendList"); });
+        Visit(Templates_Window, [this](QWidget& window) { Note_Rows("template", window, "idTemplateList"); });
+        Visit(Exclusion_Window, [this](QWidget& window) {
             Note_Rows("list", window, "m_exclusion_list");
             Note_Rows("applied", window, "m_applied_axclusion_list");
         });
@@ -163,7 +166,7 @@ private:
 
     void Note_Rows(const QByteArray& what, QWidget& window, const char* table)
     {
-        const auto* rows = window.findChild<QTableView*>(QLatin1String(table))->model();
+        const auto* rows = Find<QTableView>(window, table)->model();
         for (int row = 0; row < rows->rowCount(); ++row) {
             QStringList cells;
             for (int column = 0; column < rows->columnCount(); ++column)
@@ -174,16 +177,14 @@ private:
 
     void Send()
     {
-        sel_port_bsd_str = m_order.phone;
-        sel_port_name_str = m_order.phone;
+        sel_port_bsd_str = sel_port_name_str = Phone();
         for (int item = m_order.first; item < m_order.first + m_order.items; ++item) {
-            const QString text = QStringLiteral("message %1 ").arg(item) + QString(item % 4 == 3 ? 150 : 20, u'x');
+            const QString text = u"message %1 "_qs.arg(item) + QString(item % 4 == 3 ? 150 : 20, u'x');
             Main_Window_Shown().Set_Composer_Text(text);
-            Main_Window_Shown().findChild<QLineEdit*>(QStringLiteral("_numberEdit"))->setText(QString::number(item));
-            Click("Add_Number");
+            Add_Number(QString::number(item));
         }
         for (const char* box : {"_Save_Sent_Item_Chk", "_Save_Templates_Chk"})
-            Main_Window_Shown().findChild<QCheckBox*>(QLatin1String(box))->setChecked(true);
+            Find<QCheckBox>(Main_Window_Shown(), box)->setChecked(true);
         Mark("list");
         Click("_sent_btn");
         Serve_Until([] { return sms_thread_var == 0; }, 50);
@@ -193,13 +194,11 @@ private:
 
     void Find_The_Phone()
     {
-        m_person.In_Window(QStringLiteral("Connection_Info"),
-                           [](QWidget& window) { Person::Click_In(window, "Continue_Btn"); });
-        m_person.In_Window(QStringLiteral("Phone_List_Wnd"), [this](QWidget& window) {
+        m_person.In_Window("Phone_List_Wnd", [this](QWidget& window) {
             Serve_Until_Quiet();
-            auto* table = window.findChild<QTableView*>(QStringLiteral("idPortList"));
+            auto* table = Find<QTableView>(window, "idPortList");
             const auto* rows = table->model();
-            const auto found = rows->match(rows->index(0, 1), Qt::DisplayRole, m_order.phone, 1, Qt::MatchExactly);
+            const auto found = rows->match(rows->index(0, 1), Qt::DisplayRole, Phone(), 1, Qt::MatchExactly);
             if (!found.isEmpty())
                 QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, table->visualRect(found.front()).center());
             Serve_Until_Quiet();
@@ -208,35 +207,35 @@ private:
                 Person::Click_In(window, "_Cancel_Btn");
         });
         Click("Search_All_Modem");
-        Note(sel_port_bsd_str == m_order.phone ? "selected" : "not selected");
+        Note(sel_port_bsd_str == Phone() ? "selected" : "not selected");
         Mark("wizard");
     }
 
     void Edit_Sent_Items()
     {
-        Visit_Sent_Items([](QWidget& window) {
+        Visit(Sent_Items_Window, [](QWidget& window) {
             Select(window, "idSendList", 1, 3);
             Person::Click_In(window, "Clear_Sel_Btn");
         });
-        Mark("clear some");
-        Visit_Sent_Items([](QWidget& window) { Person::Click_In(window, "Clear_All_Btn"); });
-        Mark("clear all");
+        Mark("clear_some");
+        Visit(Sent_Items_Window, [](QWidget& window) { Person::Click_In(window, "Clear_All_Btn"); });
+        Mark("clear_all");
     }
 
     void Edit_Templates()
     {
-        m_person.In_Window(QStringLiteral("UpdateTemp"), [](QWidget& dialog) {
-            dialog.findChild<QPlainTextEdit*>(QStringLiteral("m_templ_msg_str"))->insertPlainText(u"entered"_qs);
+        m_person.In_Window("UpdateTemp", [](QWidget& dialog) {
+            Find<QPlainTextEdit>(dialog, "m_templ_msg_str")->insertPlainText(u"entered"_qs);
             Person::Click_In(dialog, "OKPressed");
         });
-        Visit_Templates([](QWidget& window) {
+        Visit(Templates_Window, [](QWidget& window) {
             Person::Click_In(window, "AddNew_Btn");
             Select(window, "idTemplateList", 1, 3);
             Person::Click_In(window, "Clear_Sel_Btn");
         });
         Mark("edit");
-        Visit_Templates([](QWidget& window) { Person::Click_In(window, "Clear_All_Btn"); });
-        Mark("clear all");
+        Visit(Templates_Window, [](QWidget& window) { Person::Click_In(window, "Clear_All_Btn"); });
+        Mark("clear_all");
     }
 
     void Import()
@@ -244,7 +243,6 @@ private:
         m_person.Will_Pick(In_World("numbers.txt"));
         Click("Load_Number");
         Serve_Until_Quiet();
-        Note("imported " + QByteArray::number(Main_Window_Shown().Recipients().Count()));
         Mark("import");
     }
 
@@ -258,16 +256,14 @@ private:
 
     void Export()
     {
-        for (const char* number : {"111", "222"}) {
-            Main_Window_Shown().findChild<QLineEdit*>(QStringLiteral("_numberEdit"))->setText(QLatin1String(number));
-            Click("Add_Number");
-        }
+        for (const char* number : {"111", "222"})
+            Add_Number(QLatin1String(number));
         Export_From(Main_Window_Shown(), "contacts.txt", false);
-        Visit_Sent_Items([this](QWidget& window) {
+        Visit(Sent_Items_Window, [this](QWidget& window) {
             Export_From(window, "sent.txt", false);
             Export_From(window, "sent.html", true);
         });
-        Visit_Templates([this](QWidget& window) {
+        Visit(Templates_Window, [this](QWidget& window) {
             Export_From(window, "templates.txt", false);
             Export_From(window, "templates.html", true);
         });
@@ -277,33 +273,31 @@ private:
     // A new list, applied, edited, and deleted again.
     void Edit_Exclusion_Lists()
     {
-        Visit_Exclusion_Lists([this](QWidget& wizard) {
-            const auto type = [&](const char* field, const QString& text) {
-                wizard.findChild<QLineEdit*>(QLatin1String(field))->setText(text);
-            };
-            Person::Click_In(wizard, "m_addnew_btn");
-            type("m_ex_list_name_edit", QStringLiteral("Fresh"));
-            Person::Click_In(wizard, "m_next_btn");
-            type("m_loadfile_edit", In_World("numbers.txt"));
-            Person::Click_In(wizard, "m_load_btn");
+        Visit(Exclusion_Window, [this](QWidget& wizard) {
+            const auto click = [&](const char* button) { Person::Click_In(wizard, button); };
+            click("m_addnew_btn");
+            Find<QLineEdit>(wizard, "m_ex_list_name_edit")->setText(u"Fresh"_qs);
+            click("m_next_btn");
+            Find<QLineEdit>(wizard, "m_loadfile_edit")->setText(In_World("numbers.txt"));
+            click("m_load_btn");
             Serve_Until_Quiet();
-            Person::Click_In(wizard, "m_finish_btn");
+            click("m_finish_btn");
             Mark("create");
             Select(wizard, "m_exclusion_list", 1, 1);
-            Person::Click_In(wizard, "m_addlist_btn");
-            Person::Click_In(wizard, "m_saveapplied_btn");
+            click("m_addlist_btn");
+            click("m_saveapplied_btn");
             Mark("apply");
             Select(wizard, "m_exclusion_list", 0, 0);
-            Person::Click_In(wizard, "m_update_btn");
+            click("m_update_btn");
             Serve_Until_Quiet();
-            if (wizard.findChild<QLineEdit*>(QStringLiteral("m_loadnum_edit"))->isVisible()) {
-                type("m_loadnum_edit", QStringLiteral("999"));
-                Person::Click_In(wizard, "m_add_num_btn");
-                Person::Click_In(wizard, "m_finish_btn");
+            if (auto* number = Find<QLineEdit>(wizard, "m_loadnum_edit"); number->isVisible()) {
+                number->setText(u"999"_qs);
+                click("m_add_num_btn");
+                click("m_finish_btn");
             }
             Mark("edit");
             Select(wizard, "m_exclusion_list", 1, 1);
-            Person::Click_In(wizard, "m_delete_btn");
+            click("m_delete_btn");
             Mark("delete");
         });
     }
@@ -319,13 +313,14 @@ private:
 
 void Live(const Order& order, Last_Words& last_words)
 {
-    qputenv("XDG_DATA_HOME", QFile::encodeName(order.world + QStringLiteral("/data")));
-    qputenv("XDG_CONFIG_HOME", QFile::encodeName(order.world + QStringLiteral("/home")));
-    qputenv("HOME", QFile::encodeName(order.world + QStringLiteral("/home")));
+    const QByteArray home = QByteArray::fromStdString(order.world) + "/home";
+    const QByteArray data = QByteArray::fromStdString(order.world) + "/data";
+    qputenv("XDG_DATA_HOME", data);
+    qputenv("XDG_CONFIG_HOME", home);
+    qputenv("HOME", home);
     Set_Pace(order.pace);
-    Prepare_Disk(order.disk, order.world + QStringLiteral("/data"));
-    Begin_Doom(order.doom, QFile::encodeName(order.world).toStdString(), QFile::encodeName(order.phone).toStdString(),
-               last_words);
+    Prepare_Disk(order.disk, QFile::decodeName(data));
+    Begin_Doom(order.doom, order.world, order.phone, last_words);
     Life(order, last_words).Live();
     End_Doom();
 }

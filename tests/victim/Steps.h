@@ -2,8 +2,6 @@
 
 #include "victim/Doomed_Calls.h"
 
-#include <QString>
-
 /// What the disk is like that the program's data are on.
 enum class Disk : char
 {
@@ -15,19 +13,19 @@ enum class Disk : char
 /// What a victim is to do, and how.
 struct Order
 {
-    QString steps; ///< "start" and nothing more, "look", "job", "sent_items", "templates", "import", "export",
-                   ///< "exclusion", or "wizard", which selects the phone
-    QString world; ///< the folder that is all its world: data, home, and the files that a person picks
-    QString phone; ///< the path of the phone's line; "-" for none
-    int items = 0; ///< the recipients of a job
-    int first = 0; ///< the number that they begin with
-    double pace = 1000;
+    std::string steps = "start"; ///< and nothing more, "look", "job", "sent_items", "templates", "import", "export",
+                                 ///< "exclusion", or "wizard", which selects the phone
+    int items = 0;               ///< the recipients of a job
+    int first = 0;               ///< the number that they begin with
     Disk disk = Disk::Usual;
-    Doom doom;
+    Doom doom = {};
+    std::string phone = "-"; ///< the path of the phone's line; "-" for none
+    std::string world = {};  ///< the folder that is all its world: data, home, and the files that a person picks
+    double pace = 1000;      ///< a victim sets it
 };
 
 /// Starts the program in its world, does the steps as a person at its windows would, and leaves it. Says in the last
-/// words' journal how it went, a line each: "outcome first", "started", "boxes <step> <box>|<box>..", and what the
-/// files hold after each step, "file <step> <name> <bytes>"; after a look also "sent <cells of a row, with tabs>",
-/// "template ..", "list .." and "applied ..". What is in brackets is in base 64, but for the steps' names.
+/// words' journal how it went, a line each: "outcome first", "started", "boxes <step> <box>..", and what the files hold
+/// after each step, "file <step> <name> <bytes>"; after a look also "sent <cells of a row, with tabs>", "template ..",
+/// "list .." and "applied ..". What is in brackets is in base 64, but for the steps' names.
 void Live(const Order& order, Last_Words& last_words);

@@ -11,12 +11,6 @@ constexpr int Lanes = 4; // the lives mostly wait
 constexpr int Tries = 30;
 constexpr int Lives_Between_Looks = 10;
 
-bool Is_Death(const Doom& doom)
-{
-    return doom.way == Doom::Way::Kill_Before || doom.way == Doom::Way::Kill_After ||
-           doom.way == Doom::Way::Kill_Within;
-}
-
 // The lives of one trial.
 class Lives
 {
@@ -26,7 +20,7 @@ public:
     int Try_All(const std::function<std::vector<Doom>(const Ending& whole)>& fates)
     {
         Live_The_Whole();
-        m_fates = fates(m_whole.ending);
+        m_fates = fates(m_whole);
         std::vector<std::jthread> threads;
         for (int i = 0; i < Lanes; ++i)
             threads.emplace_back([this] { Live_In_A_Lane(); });
@@ -41,12 +35,11 @@ private:
         lane.needs_phone = m_trial.needs_phone;
         bool is_whole = false;
         for (int tries = 0; tries < Tries && !is_whole; ++tries) {
-            m_whole.ending = Live(lane, {});
-            m_whole.picked = lane.world.Picked();
-            is_whole = m_whole.ending.lived && m_trial.is_whole(m_whole.ending);
+            m_whole = Live(lane, {});
+            is_whole = m_whole.lived && m_trial.is_whole(m_whole);
         }
         EXPECT_TRUE(is_whole);
-        m_trial.check(lane, m_whole, m_whole.ending);
+        Check(lane, m_whole);
     }
 
     void Live_In_A_Lane()
@@ -70,10 +63,17 @@ private:
     {
         const Ending ending = Live(lane, doom);
         const std::string last = ending.made.value(doom.at - 1).toStdString();
-        SCOPED_TRACE(std::string(m_trial.errand.steps) + ": " + static_cast<char>(doom.way) + " at call " +
-                     std::to_string(doom.at) + " for " + std::to_string(doom.error) + ": " + last);
+        SCOPED_TRACE(m_trial.order.steps + ": " + static_cast<char>(doom.way) + " at call " + std::to_string(doom.at) +
+                     " for " + std::to_string(doom.error) + ": " + last);
+        Check(lane, ending);
+        const bool is_death = doom.error == 0; // what fails has a reason
+        return is_death ? ending.was_killed : m_trial.is_whole(ending);
+    }
+
+    void Check(Lane& lane, const Ending& ending)
+    {
+        Expect_A_Good_Start(lane);
         m_trial.check(lane, m_whole, ending);
-        return Is_Death(doom) ? ending.was_killed : m_trial.is_whole(ending);
     }
 
     Ending Live(Lane& lane, const Doom& doom)
@@ -81,14 +81,14 @@ private:
         m_trial.prepare(lane.world);
         lane.Plug_In_Again();
         lane.phone.Forget();
-        Errand errand = m_trial.errand;
-        errand.doom = doom;
-        errand.doom.counts_reads = m_trial.errand.doom.counts_reads;
-        return lane.Live(errand);
+        Order order = m_trial.order;
+        order.doom = doom;
+        order.doom.counts_reads = m_trial.order.doom.counts_reads;
+        return lane.Live(order);
     }
 
     const Trial& m_trial;
-    Whole m_whole;
+    Ending m_whole;
     std::vector<Doom> m_fates;
     std::atomic<std::size_t> m_next = 0;
     std::atomic<int> m_came_true = 0;
@@ -96,11 +96,14 @@ private:
 
 } // namespace
 
-Ending Lane::Live(Errand errand)
+Ending Lane::Live(Order order)
 {
+    order.world = world.Path().toStdString();
     if (needs_phone)
-        errand.phone = phone.Path();
-    return victim.Live(world.Path(), errand);
+        order.phone = phone.Path();
+    Ending ending = victim.Live(order);
+    ending.picked = world.Picked();
+    return ending;
 }
 
 void Lane::Plug_In_Again()
@@ -114,16 +117,6 @@ int Try_All(const Trial& trial, const std::function<std::vector<Doom>(const Endi
     return Lives(trial).Try_All(fates);
 }
 
-QByteArrayList Steps_In(const Ending& ending)
-{
-    QByteArrayList steps;
-    for (const QByteArray& line : ending.journal) {
-        if (line.startsWith("boxes "))
-            steps.append(line.mid(6, line.lastIndexOf(' ') - 6));
-    }
-    return steps;
-}
-
 void Expect_A_Good_Start(Lane& lane)
 {
     const Ending start = lane.Live({});
@@ -132,6 +125,18 @@ void Expect_A_Good_Start(Lane& lane)
     EXPECT_TRUE(start.Says("started"));
     EXPECT_EQ(start.All_Boxes().join(u'|').toStdString(), "");
     EXPECT_EQ(lane.world.Strangers(), "");
+}
+
+void Expect_Old_Or_New(const World::Files& before, const World::Files& after, const World::Files& now,
+                       const QByteArray& step)
+{
+    for (const World::Files& files : {before, after, now}) {
+        for (const auto& [name, content] : files) {
+            const QByteArray found = Content_In(now, name);
+            EXPECT_TRUE(found == Content_In(before, name) || found == Content_In(after, name))
+                << name.constData() << " after step " << step.constData() << " holds " << found.constData();
+        }
+    }
 }
 
 QByteArray Text_Of(int item)
@@ -143,6 +148,25 @@ QByteArray Record_Of(int item)
 {
     static const QByteArray today = QDate::currentDate().toString(QStringLiteral("dd/MM/yyyy")).toUtf8();
     return World::Record(item, Text_Of(item), today);
+}
+
+Kept_Items Items_Kept(const World::Files& before, const World::Files& now, int first, int items)
+{
+    const auto lines = [&](const char* name, const std::function<QByteArray(int)>& line) {
+        const QByteArray file = Content_In(now, name);
+        EXPECT_TRUE(file.startsWith(Content_In(before, name))) << name;
+        auto at = Content_In(before, name).size();
+        std::vector<int> kept;
+        for (int item = first; item < first + items; ++item) {
+            if (file.mid(at).startsWith(line(item))) {
+                kept.push_back(item);
+                at += line(item).size();
+            }
+        }
+        EXPECT_EQ(at, file.size()) << "what is neither old nor a whole line: " << file.mid(at).constData();
+        return kept;
+    };
+    return {lines("SentItem.ZOVA", Record_Of), lines("Templates.ZOVA", [](int item) { return Text_Of(item) + '\n'; })};
 }
 
 int Messages_In(const Virtual_Phone& phone)

@@ -10,7 +10,7 @@
 // A victim with a world of its own and a phone.
 struct Lane
 {
-    Ending Live(Errand errand);
+    Ending Live(Order order);
     /// A phone whose program died in the middle of a message takes what comes next for the rest of it.
     void Plug_In_Again();
 
@@ -20,19 +20,12 @@ struct Lane
     bool needs_phone = false;
 };
 
-/// A life in which nothing went wrong.
-struct Whole
-{
-    Ending ending;
-    World::Files picked; ///< see World::Picked
-};
-
 // One kind of work: how the world is before it, and what is to be true of it after a life in which something may have
-// gone wrong.
+// gone wrong, and after a good start that followed it. The whole is a life in which nothing went wrong.
 struct Trial
 {
-    Errand errand = {};
-    std::function<void(Lane&, const Whole& whole, const Ending& ending)> check = {};
+    Order order = {};
+    std::function<void(Lane&, const Ending& whole, const Ending& ending)> check = {};
     std::function<void(World&)> prepare = [](World& world) { world.Furnish(); };
     /// Whether the work was done to its end: on a busy computer the phone's answer may come too late for it.
     std::function<bool(const Ending&)> is_whole = [](const Ending&) { return true; };
@@ -44,11 +37,12 @@ struct Trial
 /// lanes at a time. Returns how many of them came true.
 int Try_All(const Trial& trial, const std::function<std::vector<Doom>(const Ending& whole)>& fates);
 
-/// The names of the steps that were done, in order.
-QByteArrayList Steps_In(const Ending& ending);
-
 /// The next start finds nobody else at work, has nothing to say, and leaves nothing about.
 void Expect_A_Good_Start(Lane& lane);
+
+/// Each file that is there at any of these times is now as it was before or as it is after a step.
+void Expect_Old_Or_New(const World::Files& before, const World::Files& after, const World::Files& now,
+                       const QByteArray& step);
 
 // ---- A job: each of its items has a number and a text of its own, from the first number on.
 
@@ -56,6 +50,14 @@ constexpr int First_Number = 100;
 
 QByteArray Text_Of(int item);
 QByteArray Record_Of(int item);
+
+/// The items of which there is a line now; it stands behind what was there before, and nothing else does.
+struct Kept_Items
+{
+    std::vector<int> records;
+    std::vector<int> templates;
+};
+Kept_Items Items_Kept(const World::Files& before, const World::Files& now, int first, int items);
 
 /// How many messages the phone has, the first items' each once. Waits for what is on the line still.
 int Messages_In(const Virtual_Phone& phone);

@@ -1,13 +1,10 @@
 #include "victim/Victim.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <csignal>
-#include <fcntl.h>
 #include <gtest/gtest.h>
-#include <spawn.h>
+#include <sstream>
 #include <sys/wait.h>
-#include <unistd.h>
 
 namespace {
 
@@ -18,20 +15,28 @@ constexpr double Pace = 25;
 constexpr double Pace = 1000;
 #endif
 
-QByteArray Read_Exactly(FILE* file, std::size_t size)
-{
-    QByteArray bytes(static_cast<qsizetype>(size), Qt::Uninitialized);
-    if (fread(bytes.data(), 1, size, file) != size)
-        qFatal("the victim's words break off");
-    return bytes;
-}
-
 QByteArrayList Lines_Of(const QByteArray& bytes)
 {
     QByteArrayList lines = bytes.split('\n');
     if (lines.last().isEmpty())
         lines.removeLast();
     return lines;
+}
+
+// The words behind the beginning of each line of the journal that has it, decoded.
+QList<QByteArrayList> Told(const QByteArrayList& journal, const QByteArray& beginning)
+{
+    QList<QByteArrayList> told;
+    for (const QByteArray& line : journal) {
+        if (!(line + ' ').startsWith(beginning + ' '))
+            continue;
+        QByteArrayList words = line.mid(beginning.size() + 1).split(' ');
+        words.removeAll(QByteArray());
+        for (QByteArray& word : words)
+            word = QByteArray::fromBase64(word);
+        told.append(words);
+    }
+    return told;
 }
 
 } // namespace
@@ -43,15 +48,22 @@ int Ending::Done(const QByteArray& beginning) const
     }));
 }
 
+QByteArrayList Ending::Steps() const
+{
+    QByteArrayList steps;
+    for (const QByteArray& line : journal) {
+        if (line.startsWith("boxes "))
+            steps.append(line.split(' ').at(1));
+    }
+    return steps;
+}
+
 QStringList Ending::Boxes(const QByteArray& step) const
 {
     QStringList boxes;
-    for (const QByteArray& line : journal) {
-        if (line.startsWith("boxes " + step + ' ')) {
-            const QByteArray words = QByteArray::fromBase64(line.mid(line.lastIndexOf(' ') + 1));
-            if (!words.isEmpty())
-                boxes += QString::fromUtf8(words).split(u'|');
-        }
+    for (const QByteArrayList& words : Told(journal, "boxes " + step)) {
+        for (const QByteArray& box : words)
+            boxes.append(QString::fromUtf8(box));
     }
     return boxes;
 }
@@ -59,85 +71,67 @@ QStringList Ending::Boxes(const QByteArray& step) const
 QStringList Ending::All_Boxes() const
 {
     QStringList boxes;
-    for (const QByteArray& line : journal) {
-        const QByteArray words = QByteArray::fromBase64(line.mid(line.lastIndexOf(' ') + 1));
-        if (line.startsWith("boxes ") && !words.isEmpty())
-            boxes += QString::fromUtf8(words).split(u'|');
-    }
+    for (const QByteArray& step : Steps())
+        boxes += Boxes(step);
     return boxes;
 }
 
 std::map<QByteArray, QByteArray> Ending::Files(const QByteArray& step) const
 {
     std::map<QByteArray, QByteArray> files;
-    for (const QByteArray& line : journal) {
-        if (!line.startsWith("file " + step + ' '))
-            continue;
-        const QByteArrayList words = line.mid(6 + step.size()).split(' ');
-        files[QByteArray::fromBase64(words.at(0))] = QByteArray::fromBase64(words.at(1));
-    }
+    for (const QByteArrayList& words : Told(journal, "file " + step))
+        files[words.at(0)] = words.value(1);
     return files;
 }
 
-QStringList Ending::Rows(const QByteArray& what) const
+QByteArrayList Ending::Rows(const QByteArray& what) const
 {
-    QStringList rows;
-    for (const QByteArray& line : journal) {
-        if (line.startsWith(what + ' '))
-            rows.append(QString::fromUtf8(QByteArray::fromBase64(line.mid(what.size() + 1))));
-    }
+    QByteArrayList rows;
+    for (const QByteArrayList& words : Told(journal, what))
+        rows.append(words.value(0));
     return rows;
 }
 
 Victim::Victim()
 {
-    int orders[2];
-    int answers[2];
-    if (pipe2(orders, O_CLOEXEC) != 0 || pipe2(answers, O_CLOEXEC) != 0)
-        qFatal("no pipes");
-    posix_spawn_file_actions_t actions;
-    posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_adddup2(&actions, orders[0], STDIN_FILENO);
-    posix_spawn_file_actions_adddup2(&actions, answers[1], STDOUT_FILENO);
-    char program[] = CORVANE_BUILD_DIR "/corvane-victim";
-    char* const arguments[] = {program, nullptr};
-    if (posix_spawn(&m_process, program, &actions, nullptr, arguments, environ) != 0)
-        qFatal("no %s", program);
-    posix_spawn_file_actions_destroy(&actions);
-    close(orders[0]);
-    close(answers[1]);
-    m_orders = fdopen(orders[1], "w");
-    m_answers = fdopen(answers[0], "r");
+    m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    m_process.start(QStringLiteral(CORVANE_BUILD_DIR "/corvane-victim"), QStringList());
 }
 
 Victim::~Victim()
 {
-    fclose(m_orders);
-    fclose(m_answers);
-    int status = 0;
-    while (waitpid(m_process, &status, 0) == -1 && errno == EINTR)
-        continue;
-    EXPECT_EQ(status, 0);
+    m_process.closeWriteChannel();
+    EXPECT_TRUE(m_process.waitForFinished() && m_process.exitStatus() == QProcess::NormalExit);
+    EXPECT_EQ(m_process.exitCode(), 0);
 }
 
-Ending Victim::Live(const QString& world, const Errand& errand)
+void Victim::Await(const std::function<bool()>& is_there)
 {
-    const Doom& doom = errand.doom;
-    fprintf(m_orders, "%s %s %s %d %d %g %c %c %d %d %d\n", errand.steps, qPrintable(world), errand.phone.c_str(),
-            errand.items, errand.first, Pace, errand.disk, static_cast<char>(doom.way), doom.at, doom.error,
-            doom.counts_reads ? 1 : 0);
-    fflush(m_orders);
+    while (!is_there()) {
+        if (!m_process.waitForReadyRead(-1))
+            qFatal("the victim does not answer");
+    }
+}
+
+Ending Victim::Live(const Order& order)
+{
+    const Doom& doom = order.doom;
+    std::ostringstream line;
+    line << order.steps << ' ' << order.world << ' ' << order.phone << ' ' << order.items << ' ' << order.first << ' '
+         << Pace << ' ' << static_cast<char>(order.disk) << ' ' << static_cast<char>(doom.way) << ' ' << doom.at << ' '
+         << doom.error << ' ' << doom.counts_reads << '\n';
+    m_process.write(line.str().c_str());
+    int status = 0;
+    qsizetype made = 0;
+    qsizetype journal = 0;
     Ending ending;
-    std::size_t made = 0;
-    std::size_t journal = 0;
-    if (fscanf(m_answers, "%d %d %zu %zu", &ending.status, &ending.calls, &made, &journal) != 4 ||
-        fgetc(m_answers) != '\n')
-        qFatal("the victim does not answer");
-    ending.made = Lines_Of(Read_Exactly(m_answers, made));
-    ending.journal = Lines_Of(Read_Exactly(m_answers, journal));
-    ending.was_killed = WIFSIGNALED(ending.status) && WTERMSIG(ending.status) == SIGKILL;
-    ending.lived = WIFEXITED(ending.status) && WEXITSTATUS(ending.status) == 0;
-    EXPECT_TRUE(ending.was_killed || ending.lived)
-        << errand.steps << ", call " << doom.at << ": status " << ending.status;
+    Await([&] { return m_process.canReadLine(); });
+    std::istringstream(m_process.readLine().toStdString()) >> status >> ending.calls >> made >> journal;
+    Await([&] { return m_process.bytesAvailable() >= made + journal; });
+    ending.made = Lines_Of(m_process.read(made));
+    ending.journal = Lines_Of(m_process.read(journal));
+    ending.was_killed = WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL;
+    ending.lived = WIFEXITED(status) && WEXITSTATUS(status) == 0;
+    EXPECT_TRUE(ending.was_killed || ending.lived) << line.str() << ": status " << status;
     return ending;
 }

@@ -1,47 +1,34 @@
 #include "victim/World.h"
 
-#include <QDir>
+#include "support/Files.h"
+
 #include <QDirIterator>
-#include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <algorithm>
-#include <gtest/gtest.h>
 
-QByteArray Bytes_In(const QString& path)
+QByteArray Content_In(const World::Files& files, const QByteArray& name)
 {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-World::World()
-{
-    Empty();
-}
-
-QString World::Data_Folder() const
-{
-    return Path(QStringLiteral("data/corvane/Resources/CORVANE_DATA"));
+    const auto found = files.find(name);
+    return found == files.end() ? "(none)" : found->second;
 }
 
 void World::Empty()
 {
-    for (const char* name : {"data", "home"}) {
-        QDir(Path(QLatin1String(name))).removeRecursively();
-        EXPECT_TRUE(QDir().mkpath(Path(QLatin1String(name))));
-    }
     QDir folder(Path());
-    const QStringList files = folder.entryList(QDir::Files | QDir::Hidden);
-    for (const QString& name : files)
+    for (const char* name : {"data", "home"}) {
+        QDir(folder.filePath(name)).removeRecursively();
+        EXPECT_TRUE(folder.mkpath(name));
+    }
+    for (const QString& name : folder.entryList(QDir::Files | QDir::Hidden))
         folder.remove(name);
 }
 
 void World::Put(const QString& name, const QByteArray& bytes) const
 {
-    QFile file(QDir(Path()).absoluteFilePath(name));
-    EXPECT_TRUE(QDir().mkpath(QFileInfo(file).path()) && file.open(QIODevice::WriteOnly) &&
-                file.write(bytes) == bytes.size())
-        << qPrintable(name);
+    const QString path = QDir(Path()).absoluteFilePath(name);
+    EXPECT_TRUE(QDir().mkpath(QFileInfo(path).path()));
+    Write_Bytes(path, bytes);
 }
 
 QByteArray World::Record(int number, const QByteArray& message, const QByteArray& date)
@@ -72,38 +59,31 @@ void World::Furnish()
         if (templates.size() < old_bytes)
             templates += padded(text, old_bytes - templates.size() - 1) + '\n';
     }
-    const QString data = QStringLiteral("data/corvane/Resources/CORVANE_DATA/");
-    Put(data + u"SentItem.ZOVA"_qs, records);
-    Put(data + u"Templates.ZOVA"_qs, templates);
-    Put(data + u"AppExclusion.ZOVA"_qs, "Old\n");
-    Put(data + u"Exclusion/ExListIndex.ZOVA"_qs, "Old\nKept\n");
-    Put(data + u"Exclusion/Old.ZOVA"_qs, "1\n2\n");
-    Put(data + u"Exclusion/Kept.ZOVA"_qs, "5\n");
+    const QString data = Data_Folder() + u'/';
+    for (const auto& [name, bytes] : Files{{"SentItem.ZOVA", records},
+                                           {"Templates.ZOVA", templates},
+                                           {"AppExclusion.ZOVA", "Old\n"},
+                                           {"Exclusion/ExListIndex.ZOVA", "Old\nKept\n"},
+                                           {"Exclusion/Old.ZOVA", "1\n2\n"},
+                                           {"Exclusion/Kept.ZOVA", "5\n"}})
+        Put(data + name, bytes);
     QByteArray numbers;
     for (int number = 7000; number < 7300; ++number)
         numbers += QByteArray::number(number) + '\n';
-    Put(u"numbers.txt"_qs, numbers);
+    Put("numbers.txt", numbers);
     for (const char* name : {"contacts.txt", "sent.txt", "sent.html", "templates.txt", "templates.html"})
-        Put(QLatin1String(name), "exported before\n");
+        Put(name, "exported before\n");
 }
 
-World::Files World::Data() const
+World::Files World::Files_Below(const QString& folder, bool with_subfolders)
 {
     Files files;
-    QDirIterator walk(Data_Folder(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    QDirIterator walk(folder, QDir::Files | QDir::Hidden,
+                      with_subfolders ? QDirIterator::Subdirectories : QDirIterator::NoIteratorFlags);
     while (walk.hasNext()) {
         const QString path = walk.next();
-        files[QFileInfo(path).fileName().toUtf8()] = Bytes_In(path);
+        files[QFileInfo(path).fileName().toUtf8()] = Bytes_Of(path);
     }
-    return files;
-}
-
-World::Files World::Picked() const
-{
-    Files files;
-    const QFileInfoList found = QDir(Path()).entryInfoList(QDir::Files | QDir::Hidden);
-    for (const QFileInfo& file : found)
-        files[file.fileName().toUtf8()] = Bytes_In(file.filePath());
     return files;
 }
 

@@ -12,20 +12,20 @@ class World
 public:
     using Files = std::map<QByteArray, QByteArray>; ///< contents by names
 
-    World();
+    World() { Empty(); }
 
     QString Path() const { return m_folder.path(); }
-    QString Path(const QString& name) const { return m_folder.filePath(name); }
 
     /// Everything is as before a first start.
     void Empty();
     /// The same, and then there are sent items, templates and exclusion lists, a file of numbers, and old exports.
     void Furnish();
 
-    /// The data files.
-    Files Data() const;
+    /// The data folder, and the files in it.
+    QString Data_Folder() const { return m_folder.filePath(QStringLiteral("data/corvane/Resources/CORVANE_DATA")); }
+    Files Data() const { return Files_Below(Data_Folder(), true); }
     /// The files that a person picks, to read or to export to.
-    Files Picked() const;
+    Files Picked() const { return Files_Below(Path(), false); }
     /// The files and folders that are no data and no other file of those that are to be there, a line each.
     std::string Strangers() const;
 
@@ -33,15 +33,14 @@ public:
     /// Whether each line is a whole record.
     static bool Are_Records(const QByteArray& bytes);
 
-    /// The data folder.
-    QString Data_Folder() const;
-
     /// A file, with the folders that lead to it.
     void Put(const QString& name, const QByteArray& bytes) const;
 
 private:
+    static Files Files_Below(const QString& folder, bool with_subfolders);
+
     QTemporaryDir m_folder;
 };
 
-/// The file's bytes; empty when there is none.
-QByteArray Bytes_In(const QString& path);
+/// What a file holds; a file that is not there is told from an empty one.
+QByteArray Content_In(const World::Files& files, const QByteArray& name);

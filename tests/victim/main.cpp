@@ -27,19 +27,13 @@ constexpr int Most_Threads = 1;
 Order Read_Order(const std::string& line)
 {
     std::istringstream words(line);
-    std::string steps;
-    std::string world;
-    std::string phone;
+    Order order;
     char disk = 0;
     char way = 0;
-    Order order;
-    words >> steps >> world >> phone >> order.items >> order.first >> order.pace >> disk >> way >> order.doom.at >>
-        order.doom.error >> order.doom.counts_reads;
+    words >> order.steps >> order.world >> order.phone >> order.items >> order.first >> order.pace >> disk >> way >>
+        order.doom.at >> order.doom.error >> order.doom.counts_reads;
     if (!words)
         qFatal("no order: %s", line.c_str());
-    order.steps = QString::fromStdString(steps);
-    order.world = QString::fromStdString(world);
-    order.phone = QString::fromStdString(phone);
     order.disk = static_cast<Disk>(disk);
     order.doom.way = static_cast<Doom::Way>(way);
     return order;
@@ -51,13 +45,6 @@ Last_Words& Shared_Words()
     if (place == MAP_FAILED)
         qFatal("no memory to share");
     return *static_cast<Last_Words*>(place); // all zeros, which is how it begins
-}
-
-void Forget(Last_Words& words)
-{
-    words.calls = 0;
-    words.made.length = 0;
-    words.journal.length = 0;
 }
 
 // A process that has several threads is not to be forked: the locks of the others would never be given back.
@@ -103,10 +90,11 @@ int main(int argument_count, char** arguments)
     Last_Words& words = Shared_Words();
     std::string line;
     while (std::getline(std::cin, line)) {
-        Forget(words);
-        const Order order = Read_Order(line);
+        words.calls = 0;
+        words.made.length = 0;
+        words.journal.length = 0;
         Expect_One_Thread();
-        const int status = Live_In_A_Child(order, words);
+        const int status = Live_In_A_Child(Read_Order(line), words);
         const std::string made = words.made.All();
         const std::string journal = words.journal.All();
         std::cout << status << ' ' << words.calls << ' ' << made.size() << ' ' << journal.size() << '\n'
