@@ -137,6 +137,10 @@ class Window:
     def select_row(self, table, row):
         self.the(table, pyatspi.ROLE_TABLE).queryTable().addRowSelection(row)
 
+    def leave_by(self, button):
+        self.press(button)
+        self.await_end()
+
     def await_end(self):
         until(f"the window '{self.title}' to be closed", lambda: not find_window(self.title))
 

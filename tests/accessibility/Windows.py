@@ -31,16 +31,13 @@ class Walk:
     def look(self, title, **expected):
         """Reads a window that is about to open, and returns it."""
         window = Window(title)
-        said = complaints_about(window, **expected)
-        self.complaints += said
+        self.complaints += complaints_about(window, **expected)
         return window
 
     def dialog(self, button, title, leave_by, **expected):
         """Opens a dialog from the main window, reads it and leaves it."""
         self.main.press(button)
-        window = self.look(title, **expected)
-        window.press(leave_by)
-        window.await_end()
+        self.look(title, **expected).leave_by(leave_by)
 
     def box(self, text, button):
         """Reads the box that is about to open, and answers it."""
@@ -75,13 +72,10 @@ def read_the_dialogs_of_the_list(walk):
     main.tab_to("Recipients", pyatspi.ROLE_TABLE)
     press_key(F2)
     editor = walk.look("Edit number and message", reads=["0 Characters"], fields=[("Phone number", NUMBERS[0])])
-    editor.press("Cancel")
-    editor.await_end()
+    editor.leave_by("Cancel")
     main.write("Message", MESSAGE)
     main.click("Send as Unicode")
-    notice = walk.look("Long message")
-    notice.press("OK")
-    notice.await_end()
+    walk.look("Long message").leave_by("OK")
     walk.complaints += complaints_about(
         main, reads=[f"{len(MESSAGE)} Characters (Each Message will now consume 2 SMS)"])
     main.press("Clear All")
@@ -103,22 +97,16 @@ def read_the_stores(walk):
     sent.select_row("Sent messages", 0)
     until("the message in full", lambda: "See you" in sent.text("Selected message"))
     sent.press("Export ...")
-    options = walk.look("Export")
-    options.press("Cancel")
-    options.await_end()
-    sent.press("Close")
-    sent.await_end()
+    walk.look("Export").leave_by("Cancel")
+    sent.leave_by("Close")
     walk.main.press("Templates ...")
     rows = [["See you on Friday"], ["Until then"]]
     templates = walk.look("Templates", reads=["Total Items : 2"], tables=[("Message templates", ["Template"], rows)])
     templates.select_row("Message templates", 0)
     templates.press("Edit ...")
-    editor = walk.look("Update Templates", reads=["17 Characters"],
-                       fields=[("Message of the template", "See you on Friday")])
-    editor.press("Cancel")
-    editor.await_end()
-    templates.press("Close")
-    templates.await_end()
+    walk.look("Update Templates", reads=["17 Characters"],
+              fields=[("Message of the template", "See you on Friday")]).leave_by("Cancel")
+    templates.leave_by("Close")
 
 
 def read_the_exclusions(walk):
@@ -140,11 +128,8 @@ def read_the_exclusions(walk):
               tables=[("Numbers of the list", ["Excluded number"], [["12345"], ["67890"]])])
     wizard.select_row("Numbers of the list", 0)
     wizard.press("Update ...")
-    editor = walk.look("Edit number", fields=[("Phone number", "12345")])
-    editor.press("Cancel")
-    editor.await_end()
-    wizard.press("Cancel")
-    wizard.await_end()
+    walk.look("Edit number", fields=[("Phone number", "12345")]).leave_by("Cancel")
+    wizard.leave_by("Cancel")
 
 
 def choose_the_phone(walk):
