@@ -1,6 +1,7 @@
 #include "windows/phone/Wizard_Test.h"
 
 #include "device/Chosen_Device.h"
+#include "doctor/Phone_Search.h"
 #include "platform/Interface_Thread.h"
 #include "platform/Pace.h"
 #include "platform/Waiting.h"
@@ -10,38 +11,6 @@
 #include <QCheckBox>
 #include <QDir>
 #include <QFile>
-#include <QTest>
-#include <QWindow>
-#include <fcntl.h>
-#include <unistd.h>
-
-void Gate::Open()
-{
-    {
-        const std::lock_guard guard(m_lock);
-        m_is_open = true;
-    }
-    m_changed.notify_all();
-}
-
-void Gate::Wait_Here()
-{
-    std::unique_lock guard(m_lock);
-    ++m_waiting;
-    m_changed.wait(guard, [this] { return m_is_open; });
-    --m_waiting;
-}
-
-Kept_Number::Kept_Number(const Virtual_Phone& phone)
-    : m_descriptor(::open(phone.Path().c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC))
-{
-    EXPECT_NE(m_descriptor, -1);
-}
-
-Kept_Number::~Kept_Number()
-{
-    ::close(m_descriptor);
-}
 
 int Given_Paths::Find_Ports(Modem_Iterator& iterator) const
 {
@@ -66,7 +35,7 @@ Wizard_Test::Wizard_Test()
     Apply_Application_Look(*qApp);
     Set_Pace(20);
     Forget_Program_Exit();
-    Set_Extra_Device_Paths({});
+    Plug_In(m_phone);
     sel_port_name_str.clear();
     sel_port_bsd_str.clear();
     Cus_SMS_Num_STR.clear();
@@ -90,22 +59,9 @@ int Wizard_Test::Run(const std::function<void()>& steps)
         if (m_window->isVisible())
             m_window->ContinueOfflinePressed();
     });
-    return m_window->Open_Ph_List_Wnd();
-}
-
-QString Wizard_Test::Text(const char* name) const
-{
-    return Control<QLineEdit>(name).text();
-}
-
-QTableView& Wizard_Test::Table() const
-{
-    return Control<QTableView>("idPortList");
-}
-
-int Wizard_Test::Rows() const
-{
-    return Table().model()->rowCount();
+    const int result = m_window->Open_Ph_List_Wnd();
+    EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
+    return result;
 }
 
 int Wizard_Test::Selected_Row() const
@@ -120,6 +76,22 @@ bool Wizard_Test::Sheet_Is_Shown() const
     return std::any_of(windows.begin(), windows.end(), [](const QWidget* window) {
         return window->objectName() == "PleaseWait_Modeless" && window->isVisible();
     });
+}
+
+int Wizard_Test::Phones_Descriptors() const
+{
+    const QString path = QString::fromStdString(m_phone.Path());
+    const QDir descriptors("/proc/self/fd");
+    const auto entries = descriptors.entryList(QDir::Files | QDir::System | QDir::NoDotAndDotDot);
+    return static_cast<int>(std::count_if(entries.begin(), entries.end(), [&](const QString& entry) {
+        return QFile::symLinkTarget(descriptors.filePath(entry)) == path;
+    }));
+}
+
+void Wizard_Test::Expect_Told(const QStringList& texts) const
+{
+    QStringList boxed = texts;
+    EXPECT_EQ(m_user.Was_Shown(), boxed.replaceInStrings(QRegularExpression("^"), "\n"));
 }
 
 void Wizard_Test::Click(const char* name)
@@ -144,15 +116,9 @@ void Wizard_Test::Click_Empty_Space(Qt::KeyboardModifiers keys)
                       Table().viewport()->mapTo(m_window.get(), corner));
 }
 
-void Wizard_Test::Press(Qt::Key key)
-{
-    QTest::keyClick(m_window->windowHandle(), key);
-}
-
 void Wizard_Test::Type_Custom_Smsc(const QString& number)
 {
-    auto& box = Control<QCheckBox>("_cus_smsc_chk");
-    if (!box.isChecked())
+    if (!Control<QCheckBox>("_cus_smsc_chk").isChecked())
         Click("_cus_smsc_chk");
     auto& field = Control<QLineEdit>("_cus_smsc_edit");
     field.clear();
@@ -171,24 +137,27 @@ bool Wizard_Test::Wait_For_Sheets_End(int sheets_before)
     return Serve_Until([&] { return Sheets_So_Far() > sheets_before && !Sheet_Is_Shown(); });
 }
 
-bool Wizard_Test::eventFilter(QObject* watched, QEvent* event)
+void Wizard_Test::Search()
 {
-    if (event->type() == QEvent::Show && watched->objectName() == "PleaseWait_Modeless")
-        ++m_sheets;
-    return false;
+    Click("_Search_Btn");
+    ASSERT_TRUE(Serve_Until([] { return ph_find_thread == 0; }));
 }
 
-int Descriptors_Open_On(const std::string& path)
+void Wizard_Test::Begin_Search(const Virtual_Phone& device)
 {
-    int open_descriptors = 0;
-    const QDir descriptors("/proc/self/fd");
-    const auto entries = descriptors.entryList(QDir::Files | QDir::System | QDir::NoDotAndDotDot);
-    for (const auto& entry : entries)
-        open_descriptors += QFile::symLinkTarget(descriptors.filePath(entry)).toStdString() == path ? 1 : 0;
-    return open_descriptors;
+    m_calls.m_gated_path = device.Path();
+    Click("_Search_Btn");
+    ASSERT_TRUE(Serve_Until([&] { return m_calls.m_gate.Is_Somebody_Waiting(); }));
 }
 
-QString Boxed(const char* text)
+void Wizard_Test::End_Search()
 {
-    return QString("\n") + text;
+    m_calls.m_gate.Open();
+    ASSERT_TRUE(Serve_Until([] { return ph_find_thread == 0; }));
+}
+
+void Expect_Lively(Heartbeat& heartbeat)
+{
+    EXPECT_LT(heartbeat.Longest_Gap(), 0.2);
+    testing::Test::RecordProperty("longest_gap_ms", static_cast<int>(heartbeat.Longest_Gap() * 1000));
 }

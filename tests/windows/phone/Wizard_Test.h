@@ -2,6 +2,7 @@
 
 #include "device/Device_Paths.h"
 #include "device/Port_Finder.h"
+#include "phone/Named_Moods.h"
 #include "phone/Virtual_Phone.h"
 #include "support/Heartbeat.h"
 #include "support/Patient_Calls.h"
@@ -11,38 +12,31 @@
 
 #include <QLineEdit>
 #include <QTableView>
+#include <QTest>
+#include <QWindow>
 #include <atomic>
-#include <condition_variable>
-#include <gmock/gmock.h>
-#include <mutex>
+#include <gtest/gtest.h>
 
 // A gate that a worker waits at until the test opens it.
 class Gate
 {
 public:
-    void Open();
-    void Wait_Here();
+    void Open()
+    {
+        m_is_open = true;
+        m_is_open.notify_all();
+    }
+    void Wait_Here()
+    {
+        ++m_waiting;
+        m_is_open.wait(false);
+        --m_waiting;
+    }
     bool Is_Somebody_Waiting() const { return m_waiting > 0; }
 
 private:
-    std::mutex m_lock;
-    std::condition_variable m_changed;
-    bool m_is_open = false;
-    std::atomic<int> m_waiting{0};
-};
-
-// Keeps the number of a phone's line from other phones on this computer, so that once the phone has hung up its path
-// leads nowhere.
-class Kept_Number
-{
-public:
-    explicit Kept_Number(const Virtual_Phone& phone);
-    ~Kept_Number();
-    Kept_Number(const Kept_Number&) = delete;
-    Kept_Number& operator=(const Kept_Number&) = delete;
-
-private:
-    int m_descriptor;
+    std::atomic<bool> m_is_open = false;
+    std::atomic<int> m_waiting = 0;
 };
 
 // Finds the given paths and nothing that happens to be plugged into the computer that runs the tests.
@@ -65,8 +59,8 @@ public:
     Gate m_gate;
 };
 
-// A wizard on the offscreen screen, a person who clicks in it, and the phones that a test plugs in. The waits of the
-// line run at pace 20: each read lasts 50 ms.
+// A wizard on the offscreen screen, a person who clicks in it, and the phones that a test plugs in: one, unless it says
+// otherwise. The waits of the line run at pace 20: each read lasts 50 ms.
 class Wizard_Test : public testing::Test, public QObject
 {
 protected:
@@ -81,6 +75,7 @@ protected:
     }
 
     /// Opens the wizard, does the steps once it is shown, and leaves it without a device when it is still open then.
+    /// No worker of it is left afterwards.
     int Run(const std::function<void()>& steps);
 
     template <typename Type = QWidget>
@@ -91,26 +86,39 @@ protected:
             throw std::runtime_error(std::string("no control ") + name);
         return *control;
     }
-    QString Text(const char* name) const;
-    QTableView& Table() const;
-    int Rows() const;
+    QString Text(const char* name) const { return Control<QLineEdit>(name).text(); }
+    QTableView& Table() const { return Control<QTableView>("idPortList"); }
+    int Rows() const { return Table().model()->rowCount(); }
     int Selected_Row() const; ///< -1 when none is
     bool Sheet_Is_Shown() const;
     int Sheets_So_Far() const { return m_sheets; }
+    int Phones_Descriptors() const; ///< how many of this process stand for the phone
+
+    /// The boxes so far said exactly this.
+    void Expect_Told(const QStringList& texts) const;
 
     // What the person does, as events of the window system, which modal windows hold back.
     void Click(const char* name);
     void Click_Row(int row, Qt::KeyboardModifiers keys = {});
     void Click_Empty_Space(Qt::KeyboardModifiers keys = {});
-    void Press(Qt::Key key);
+    void Press(Qt::Key key) { QTest::keyClick(m_window->windowHandle(), key); }
     void Type_Custom_Smsc(const QString& number);
 
     /// Clicks a row and waits until its probe has come to its end.
     void Probe_Row(int row);
     bool Wait_For_Sheets_End(int sheets_before);
+    void Search();
+    /// Begins a search that waits for a device to open until End_Search lets it.
+    void Begin_Search(const Virtual_Phone& device);
+    void End_Search();
 
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        m_sheets += event->type() == QEvent::Show && watched->objectName() == "PleaseWait_Modeless" ? 1 : 0;
+        return false;
+    }
 
+    Virtual_Phone m_phone;
     Given_Paths m_finder;
     Gated_Calls m_calls;
     User m_user;
@@ -120,8 +128,5 @@ private:
     int m_sheets = 0;
 };
 
-/// How many descriptors of this process stand for the device.
-int Descriptors_Open_On(const std::string& path);
-
-/// As the box shows it.
-QString Boxed(const char* text);
+/// The interface thread was not away from its events for long.
+void Expect_Lively(Heartbeat& heartbeat);

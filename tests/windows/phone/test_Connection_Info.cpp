@@ -33,12 +33,16 @@ protected:
         return m_window.exec();
     }
 
-    QWidget& Box() { return *m_window.findChild<QGroupBox*>("advice_box"); }
+    template <typename Control>
+    Control& In(const char* name)
+    {
+        return *m_window.findChild<Control*>(name);
+    }
+    bool Advises() { return In<QGroupBox>("advice_box").isVisible(); }
     QStringList Commands()
     {
         QStringList commands;
-        const auto fields = m_window.findChildren<QLineEdit*>("advice_command");
-        for (const auto* field : fields)
+        for (const auto* field : m_window.findChildren<QLineEdit*>("advice_command"))
             commands.append(field->text());
         return commands;
     }
@@ -51,73 +55,55 @@ protected:
 TEST_F(Connection_Info_Test, Every_Way_Out_Ends_With_One)
 {
     const std::function<void()> ways[] = {
-        [this] {
-            auto* button = m_window.findChild<QPushButton*>("Continue_Btn");
+        [&] {
+            const auto& button = In<QPushButton>("Continue_Btn");
             QTest::mouseClick(m_window.windowHandle(), Qt::LeftButton, {},
-                              button->mapTo(&m_window, button->rect().center()));
+                              button.mapTo(&m_window, button.rect().center()));
         },
-        [this] { QTest::keyClick(m_window.windowHandle(), Qt::Key_Return); },
-        [this] { QTest::keyClick(m_window.windowHandle(), Qt::Key_Escape); },
-        [this] { m_window.windowHandle()->close(); },
+        [&] { QTest::keyClick(m_window.windowHandle(), Qt::Key_Return); },
+        [&] { QTest::keyClick(m_window.windowHandle(), Qt::Key_Escape); },
+        [&] { m_window.windowHandle()->close(); },
     };
-    for (const auto& way : ways)
-        EXPECT_EQ(Run([&] {
-                      way();
-                      EXPECT_FALSE(m_window.isVisible());
-                  }),
-                  1);
+    for (const auto& way : ways) {
+        const int result = Run([&] {
+            way();
+            EXPECT_FALSE(m_window.isVisible());
+        });
+        EXPECT_EQ(result, 1);
+    }
 }
 
-TEST_F(Connection_Info_Test, How_A_Phone_Is_Switched_Is_Always_Told)
+TEST_F(Connection_Info_Test, How_A_Phone_Is_Switched_Is_Always_Told_Without_Much_To_Say_Without_Scrolling)
 {
     Run([&] {
         for (const char* name : {"usb_text", "bluetooth_text"})
-            EXPECT_TRUE(m_window.findChild<QLabel*>(name)->isVisible()) << name;
-        EXPECT_TRUE(m_window.findChild<QLineEdit*>("bind_command")->text().contains("rfcomm bind"));
+            EXPECT_TRUE(In<QLabel>(name).isVisible()) << name;
+        EXPECT_TRUE(In<QLineEdit>("bind_command").text().contains("rfcomm bind"));
+        QApplication::processEvents();
+        const auto& body = In<QScrollArea>("body");
+        EXPECT_LE(body.widget()->height(), body.viewport()->height());
+        EXPECT_EQ(m_window.palette().color(QPalette::Window), QColor(241, 244, 250));
     });
 }
 
-TEST_F(Connection_Info_Test, Where_Nothing_Stands_In_The_Way_Nothing_Is_Said)
+TEST_F(Connection_Info_Test, What_Applies_Is_Found_Out_Anew_At_Each_Opening_And_Is_Plain_Text)
 {
-    Run([&] { EXPECT_FALSE(Box().isVisible()); });
-}
-
-TEST_F(Connection_Info_Test, What_Applies_Is_Found_Out_Anew_At_Each_Opening)
-{
-    m_facts = {1, {{"/dev/ttyUSB0", "dialout"}}, true};
+    m_facts = {1, {{"/dev/<b>x</b>", "dialout"}}, true};
     Run([&] {
-        EXPECT_TRUE(Box().isVisible());
+        EXPECT_TRUE(Advises());
         EXPECT_EQ(Commands(), QStringList({"sudo usermod -aG dialout $USER", "sudo systemctl stop ModemManager"}));
+        EXPECT_TRUE(In<QLineEdit>("advice_command").isReadOnly());
+        EXPECT_EQ(In<QLabel>("advice_text").textFormat(), Qt::PlainText);
+        EXPECT_TRUE(In<QLabel>("advice_text").text().contains("<b>x</b>"));
     });
     m_facts = {0, {}, false};
     Run([&] {
-        EXPECT_TRUE(Box().isVisible());
+        EXPECT_TRUE(Advises());
         EXPECT_EQ(Commands(), QStringList());
         EXPECT_EQ(m_window.findChildren<QLabel*>("advice_text").size(), 1);
     });
     m_facts = {1, {}, false};
-    Run([&] { EXPECT_FALSE(Box().isVisible()); });
-}
-
-TEST_F(Connection_Info_Test, A_Command_Can_Be_Selected_But_Not_Changed_And_Text_Is_Plain)
-{
-    m_facts = {1, {{"/dev/<b>x</b>", "dialout"}}, false};
-    Run([&] {
-        EXPECT_TRUE(m_window.findChild<QLineEdit*>("advice_command")->isReadOnly());
-        const auto* label = m_window.findChild<QLabel*>("advice_text");
-        EXPECT_EQ(label->textFormat(), Qt::PlainText);
-        EXPECT_TRUE(label->text().contains("<b>x</b>"));
-    });
-}
-
-TEST_F(Connection_Info_Test, Without_Much_To_Say_The_Window_Needs_No_Scrolling)
-{
-    Run([&] {
-        QApplication::processEvents();
-        auto* body = m_window.findChild<QScrollArea*>("body");
-        EXPECT_LE(body->widget()->height(), body->viewport()->height());
-        EXPECT_EQ(m_window.palette().color(QPalette::Window), QColor(241, 244, 250));
-    });
+    Run([&] { EXPECT_FALSE(Advises()); });
 }
 
 TEST(Connection_Info, The_Shared_Instance_Finds_Out_About_This_Computer)
