@@ -13,9 +13,11 @@
 
 #include <QCheckBox>
 #include <QClipboard>
+#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTableView>
@@ -34,11 +36,37 @@ inline void PrintTo(const QStringList& texts, std::ostream* stream)
     *stream << texts.join(QStringLiteral(" | ")).toStdString();
 }
 
-// A main window with a list of recipients, and the person who works with the dialogs over it.
+inline const QString List_Empty = "\nPhone numbers-Messages list is empty.";
+inline const QString None_Selected =
+    "\nPlease select at least one record from the phone numbers-messages list to continue.";
+inline const QString Enter_Message = "\nPlease enter some text message.";
+
+// Keeps what the fake main window does not: what a dialog's counter showed while its message was counted, and how often
+// the composer was written to.
+class Watched_Window : public Window_For_Tests
+{
+public:
+    QString Long_SMS_Calculation(int length, const QString& counter_before, bool open_dialog) override
+    {
+        if (const auto* dialog = QApplication::activeModalWidget())
+            m_counters_meanwhile.append(dialog->findChild<QLabel*>("m_st_msg_cnt")->text());
+        return Window_For_Tests::Long_SMS_Calculation(length, counter_before, open_dialog);
+    }
+    void Set_Composer_Text(const QString& text) override
+    {
+        ++m_composer_writes;
+        Window_For_Tests::Set_Composer_Text(text);
+    }
+
+    QStringList m_counters_meanwhile;
+    int m_composer_writes = 0;
+};
+
+// A main window with a list of recipients, and the person who works with one of the dialogs over it.
 class Dialogs_Test : public testing::Test
 {
 protected:
-    Dialogs_Test()
+    Dialogs_Test(const char* name, std::function<void()> open) : m_name(name), m_open(std::move(open))
     {
         Set_Data_Paths(m_folder.path());
         Set_Pace(1000);
@@ -59,6 +87,13 @@ protected:
         m_window.m_recipients.Append(number, message);
     }
 
+    void Put_Many(int many, const QString& message = QString())
+    {
+        m_window.m_recipients.Clear();
+        for (int row = 0; row < many; ++row)
+            Add(QString::number(10'000'000'000 + row), message);
+    }
+
     /// Every recipient as "number: message".
     QStringList List() const
     {
@@ -70,34 +105,44 @@ protected:
         return recipients;
     }
 
-    static QString Boxed(const QString& text) { return u'\n' + text; }
-
-    template <typename Control>
-    static Control& In(QWidget& dialog, const char* name)
+    /// Opens the dialog, does the steps once it is shown and all that it loads is in, and looks whether it was left as
+    /// it is for its next opening. Returns what it ended with.
+    int Run(const std::function<void()>& steps)
     {
-        auto* control = dialog.findChild<Control*>(QLatin1String(name));
+        m_dialog.clear();
+        m_user.When_Opens(m_name, [&](QWidget& dialog) {
+            m_dialog = qobject_cast<QDialog*>(&dialog);
+            Finish_Workers();
+            steps();
+        });
+        m_open();
+        if (!m_dialog) {
+            ADD_FAILURE() << m_name << " did not open";
+            return -1000;
+        }
+        Expect_Fresh();
+        EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+        return m_dialog->result();
+    }
+
+    /// A control of the dialog that was opened last.
+    template <typename Control>
+    Control& In(const char* name) const
+    {
+        auto* control = m_dialog->findChild<Control*>(QLatin1String(name));
         if (!control)
-            qFatal("there is no %s in %s", name, qPrintable(dialog.objectName()));
+            qFatal("there is no %s in %s", name, m_name);
         return *control;
     }
 
-    static void Click(QWidget& dialog, const char* button)
-    {
-        QTest::mouseClick(&In<QAbstractButton>(dialog, button), Qt::LeftButton);
-    }
+    QString Message() const { return Exact_Text(In<QPlainTextEdit>("m_msg_str")); }
+    QString Counter() const { return In<QLabel>("m_st_msg_cnt").text(); }
+    QString Focused() const { return m_dialog->focusWidget() ? m_dialog->focusWidget()->objectName() : QString(); }
 
-    /// A radio button reacts where its caption is.
-    static void Pick(QWidget& dialog, const char* radio)
-    {
-        auto& button = In<QRadioButton>(dialog, radio);
-        QTest::mouseClick(&button, Qt::LeftButton, Qt::NoModifier, QPoint(8, button.height() / 2));
-        EXPECT_TRUE(button.isChecked()) << radio;
-    }
-
-    static QStringList Radios_On(QWidget& dialog)
+    QStringList Radios_On() const
     {
         QStringList on;
-        const auto radios = dialog.findChildren<QRadioButton*>();
+        const auto radios = m_dialog->findChildren<QRadioButton*>();
         for (const auto* radio : radios) {
             if (radio->isChecked())
                 on.append(radio->objectName());
@@ -105,45 +150,57 @@ protected:
         return on;
     }
 
-    static void Paste(QWidget& dialog, const char* field, const QString& text)
+    void Click(const char* button) const { QTest::mouseClick(&In<QAbstractButton>(button), Qt::LeftButton); }
+
+    /// A radio button reacts where its caption is.
+    void Pick(const char* radio) const
     {
-        QGuiApplication::clipboard()->setText(text);
-        QTest::keySequence(&In<QWidget>(dialog, field), QKeySequence::Paste);
+        auto& button = In<QRadioButton>(radio);
+        QTest::mouseClick(&button, Qt::LeftButton, Qt::NoModifier, QPoint(8, button.height() / 2));
+        EXPECT_EQ(Radios_On(), QStringList{radio});
     }
 
-    static QString Focused(const QWidget& dialog)
+    void Type_Number(const QString& number) const
     {
-        return dialog.focusWidget() ? dialog.focusWidget()->objectName() : QString();
+        In<QLineEdit>("m_num_str").clear();
+        QTest::keyClicks(&In<QLineEdit>("m_num_str"), number);
     }
 
-    /// Counts how often the interface thread serves events while the please-wait sheet stands over a dialog.
-    class Pulse
+    void Type_Message(const QString& message) const
     {
-    public:
-        Pulse()
-        {
-            QObject::connect(&m_timer, &QTimer::timeout, [this] {
-                const QWidget* on_top = QApplication::activeModalWidget();
-                m_beats += on_top && on_top->objectName() == QStringLiteral("PleaseWait_Modeless") ? 1 : 0;
-            });
-            m_timer.start(0); // at every turn of the event loop
-        }
-        int Beats() const { return m_beats; }
+        auto& field = In<QPlainTextEdit>("m_msg_str");
+        field.setFocus();
+        field.selectAll();
+        QTest::keyClicks(&field, message);
+    }
 
-    private:
-        QTimer m_timer;
-        int m_beats = 0;
-    };
-
-    /// Showing the sheet lets events be served once; more than that only while a worker does the work.
-    static constexpr int Beats_Of_A_Worker = 10;
+    void Paste_Message(const QString& message) const
+    {
+        auto& field = In<QPlainTextEdit>("m_msg_str");
+        field.selectAll();
+        QGuiApplication::clipboard()->setText(message);
+        QTest::keySequence(&field, QKeySequence::Paste);
+    }
 
     QTemporaryDir m_folder;
     User m_user;
-    Window_For_Tests m_window;
-};
+    Watched_Window m_window;
+    QPointer<QDialog> m_dialog; // the one that was opened last
 
-inline const QString List_Empty = QStringLiteral("Phone numbers-Messages list is empty.");
-inline const QString None_Selected =
-    QStringLiteral("Please select at least one record from the phone numbers-messages list to continue.");
-inline const QString Enter_Message = QStringLiteral("Please enter some text message.");
+private:
+    void Expect_Fresh() const
+    {
+        EXPECT_FALSE(m_dialog->isVisible());
+        for (const auto* radio : m_dialog->findChildren<QRadioButton*>())
+            EXPECT_EQ(radio->isChecked(), radio->objectName() == "_fill_msg_all") << radio->objectName().toStdString();
+        for (const auto* line : m_dialog->findChildren<QLineEdit*>())
+            EXPECT_EQ(line->text(), "") << line->objectName().toStdString();
+        for (const auto* message : m_dialog->findChildren<QPlainTextEdit*>())
+            EXPECT_EQ(message->toPlainText(), "");
+        for (const auto* counter : m_dialog->findChildren<QLabel*>("m_st_msg_cnt"))
+            EXPECT_EQ(counter->text(), "0 Characters");
+    }
+
+    const char* m_name;
+    std::function<void()> m_open;
+};
