@@ -37,7 +37,36 @@ char32_t Escaped_Character(std::uint8_t code)
     return Gsm_Default_Table.at(code);
 }
 
+// Both tables the other way round, up to the Greek capitals; of all rows only the euro sign lies beyond.
+using Places = std::array<std::optional<Gsm_Place>, 0x400>;
+
+Places Make_Places()
+{
+    Places places;
+    for (std::uint8_t code = 0; code < Gsm_Default_Table.size(); ++code) {
+        if (code != Gsm_Escape) // whose row stands empty, as a zero
+            places.at(Gsm_Default_Table[code]) = Gsm_Place{code, false};
+    }
+    for (const auto& row : Gsm_Extension_Table) {
+        if (row.m_character < places.size())
+            places.at(row.m_character) = Gsm_Place{row.m_code, true};
+    }
+    return places;
+}
+
 } // namespace
+
+std::optional<Gsm_Place> Gsm_Place_Of(char32_t character)
+{
+    static const Places places = Make_Places();
+    if (character < places.size())
+        return places[character];
+    for (const auto& row : Gsm_Extension_Table) {
+        if (row.m_character == character)
+            return Gsm_Place{row.m_code, true};
+    }
+    return std::nullopt;
+}
 
 std::string Text_Of_Septets(const std::vector<std::uint8_t>& septets)
 {
@@ -81,14 +110,31 @@ std::optional<std::vector<std::uint8_t>> Unpack_Septets(std::span<const std::uin
     return septets;
 }
 
+std::vector<std::uint8_t> Pack_Septets(std::span<const std::uint8_t> septets, std::size_t fill_bits)
+{
+    std::vector<std::uint8_t> octets;
+    octets.reserve((fill_bits + septets.size() * 7 + 7) / 8);
+    unsigned held = 0; // bits not yet written, lowest first
+    std::size_t held_bits = fill_bits;
+    for (const std::uint8_t septet : septets) {
+        held |= unsigned(septet & 0x7F) << held_bits;
+        held_bits += 7;
+        if (held_bits >= 8) {
+            octets.push_back(std::uint8_t(held));
+            held >>= 8;
+            held_bits -= 8;
+        }
+    }
+    if (held_bits > 0)
+        octets.push_back(std::uint8_t(held));
+    return octets;
+}
+
 std::size_t Septet_Count_Of(std::string_view utf8)
 {
     std::size_t count = 0;
-    for (const char32_t character : Code_Points_Of(utf8).value_or(std::u32string())) {
-        const bool is_escaped = std::any_of(Gsm_Extension_Table.begin(), Gsm_Extension_Table.end(),
-                                            [&](const Extension_Row& row) { return row.m_character == character; });
-        count += is_escaped ? 2 : 1;
-    }
+    for (const char32_t character : Code_Points_Of(utf8).value_or(std::u32string()))
+        count += Gsm_Place_Of(character).value_or(Gsm_Place()).m_escaped ? 2 : 1;
     return count;
 }
 

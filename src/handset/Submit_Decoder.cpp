@@ -1,5 +1,6 @@
 #include "handset/Submit_Decoder.h"
 
+#include "handset/Address.h"
 #include "handset/Gsm_Alphabet.h"
 #include "handset/Octet_Cursor.h"
 #include "handset/Unicode_Text.h"
@@ -8,63 +9,8 @@ namespace Handset {
 
 namespace {
 
-constexpr std::size_t Most_Address_Digits = 20;     // 23.040 9.1.2.5: twelve octets with length and type
 constexpr std::size_t Most_User_Data_Octets = 140;  // 23.040 9.2.3.24
 constexpr std::size_t Most_User_Data_Septets = 160; // the same, in septets
-constexpr std::uint8_t Fill = 0x0F;
-
-// Semi-octets, the low one first (23.040 9.1.2.3); an odd count leaves a fill in the last high one.
-std::string Digits_Of(Octet_Cursor& cursor, std::span<const std::uint8_t> octets, std::size_t count, const char* field)
-{
-    constexpr std::string_view shown = "0123456789*#abc";
-    std::string digits;
-    for (const std::uint8_t octet : octets) {
-        for (const std::uint8_t nibble : {std::uint8_t(octet & 0x0F), std::uint8_t(octet >> 4)}) {
-            const bool is_fill = nibble == Fill;
-            if (is_fill != (digits.size() == count)) {
-                cursor.Fail(std::string(field) +
-                            (is_fill ? ": a fill among its digits" : ": no fill behind its digits"));
-                return {};
-            }
-            if (!is_fill)
-                digits += shown[nibble];
-        }
-    }
-    return digits;
-}
-
-// Type-of-address octet and value (23.040 9.1.2.5); semi_octets is the count of useful ones.
-std::string Address_Of(Octet_Cursor& cursor, std::size_t semi_octets, const char* field)
-{
-    const std::uint8_t type = cursor.Octet(field);
-    if (!cursor.Has_Failed() && (type & 0x80) == 0)
-        cursor.Fail(std::string(field) + ": the type of address lacks its first bit");
-    const auto octets = cursor.Octets((semi_octets + 1) / 2, field);
-    if (cursor.Has_Failed())
-        return {};
-    const int type_of_number = (type >> 4) & 0x07;
-    if (type_of_number == 5) // alphanumeric, in the default alphabet
-        return Text_Of_Septets(Unpack_Septets(octets, 0, semi_octets * 4 / 7).value_or(std::vector<std::uint8_t>()));
-    const std::string digits = Digits_Of(cursor, octets, semi_octets, field);
-    return type_of_number == 1 ? "+" + digits : digits;
-}
-
-// Service-centre address: its length counts octets, the type's included (27.005 3.1, 24.011 8.2.5.2).
-std::string Service_Centre(Octet_Cursor& cursor)
-{
-    constexpr const char* field = "service centre";
-    const std::size_t length = cursor.Octet(field);
-    if (length == 0)
-        return {};
-    if (length < 2 || length > 1 + Most_Address_Digits / 2) {
-        cursor.Fail(std::string(field) + ": a length that no address has");
-        return {};
-    }
-    auto ahead = cursor; // the length does not tell an even count of digits from an odd one: the last octet does
-    const auto octets = ahead.Octets(length, field);
-    const bool is_odd = !octets.empty() && octets.back() >> 4 == Fill;
-    return Address_Of(cursor, (length - 1) * 2 - (is_odd ? 1 : 0), field);
-}
 
 // First octet (23.040 9.2.3.1 TP-MTI, .3 TP-VPF, .17 TP-RP, .23 TP-UDHI, .25 TP-RD, 9.2.3.5 TP-SRR).
 void First_Octet(Octet_Cursor& cursor, Submit_Frame& frame)
@@ -78,18 +24,6 @@ void First_Octet(Octet_Cursor& cursor, Submit_Frame& frame)
     frame.m_status_report = (octet & 0x20) != 0;
     frame.m_has_header = (octet & 0x40) != 0;
     frame.m_reply_path = (octet & 0x80) != 0;
-}
-
-// TP-DA (23.040 9.2.3.8): its length counts useful semi-octets.
-std::string Destination(Octet_Cursor& cursor)
-{
-    constexpr const char* field = "destination";
-    const std::size_t semi_octets = cursor.Octet(field);
-    if (!cursor.Has_Failed() && semi_octets == 0)
-        cursor.Fail(std::string(field) + ": no digits");
-    if (semi_octets > Most_Address_Digits)
-        cursor.Fail(std::string(field) + ": more than 20 digits");
-    return Address_Of(cursor, semi_octets, field);
 }
 
 // TP-VP (23.040 9.2.3.12): one octet relative, seven enhanced or absolute.
@@ -191,12 +125,12 @@ Submit_Result Decode_Submit_Octets(std::span<const std::uint8_t> octets)
 {
     Octet_Cursor cursor(octets);
     Submit_Frame frame;
-    frame.m_smsc = Service_Centre(cursor);
+    frame.m_smsc = Read_Service_Centre(cursor);
     frame.m_tpdu_octets = cursor.Left();
     frame.m_centre_octets = octets.size() - frame.m_tpdu_octets;
     First_Octet(cursor, frame);
     frame.m_message_reference = cursor.Octet("message reference");
-    frame.m_number = Destination(cursor);
+    frame.m_number = Read_Party(cursor, "destination"); // TP-DA, 23.040 9.2.3.8
     frame.m_protocol = cursor.Octet("protocol identifier");
     frame.m_coding = Coding_Scheme_Of(cursor.Octet("data coding scheme"));
     frame.m_validity = Validity(cursor, frame.m_validity_format);

@@ -7,6 +7,7 @@ namespace Handset {
 namespace {
 
 constexpr char32_t Replacement = 0xFFFD;
+constexpr std::string_view Hex_Digits = "0123456789ABCDEF";
 
 bool Is_High_Surrogate(char32_t unit)
 {
@@ -49,18 +50,22 @@ std::optional<Utf8_Lead> Lead_Of(unsigned char octet)
     return std::nullopt;
 }
 
+char32_t Of_Pair(char32_t high, char32_t low)
+{
+    return 0x10000 + ((high - 0xD800) << 10) + (low - 0xDC00);
+}
+
 void Append_Hex_Unit(std::string& hex, char32_t unit)
 {
-    constexpr std::string_view digits = "0123456789ABCDEF";
     for (int shift = 12; shift >= 0; shift -= 4)
-        hex += digits[(unit >> shift) & 0xF];
+        hex += Hex_Digits[(unit >> shift) & 0xF];
 }
 
 } // namespace
 
 void Append_Code_Point(std::string& utf8, char32_t code_point)
 {
-    if (Is_High_Surrogate(code_point) || Is_Low_Surrogate(code_point) || code_point > 0x10FFFF)
+    if (Is_Surrogate(code_point) || code_point > 0x10FFFF)
         code_point = Replacement;
     if (code_point < 0x80) {
         utf8 += char(code_point);
@@ -86,7 +91,7 @@ std::string Text_Of_Utf16_Octets(const std::vector<std::uint8_t>& octets)
     for (std::size_t at = 0; at + 1 < octets.size(); at += 2) {
         const char32_t unit = char32_t(octets[at]) << 8 | octets[at + 1];
         if (waiting != 0 && Is_Low_Surrogate(unit)) {
-            Append_Code_Point(text, 0x10000 + ((waiting - 0xD800) << 10) + (unit - 0xDC00));
+            Append_Code_Point(text, Of_Pair(waiting, unit));
             waiting = 0;
             continue;
         }
@@ -127,12 +132,24 @@ std::optional<std::u32string> Code_Points_Of(std::string_view utf8)
                 return std::nullopt;
             code_point = code_point << 6 | (octet & 0x3F);
         }
-        if (code_point < lead->m_least || code_point > 0x10FFFF || Is_High_Surrogate(code_point) ||
-            Is_Low_Surrogate(code_point))
+        if (code_point < lead->m_least || code_point > 0x10FFFF || Is_Surrogate(code_point))
             return std::nullopt;
         code_points += code_point;
     }
     return code_points;
+}
+
+char32_t Code_Point_At(std::u16string_view text, std::size_t at)
+{
+    const char32_t unit = text[at];
+    if (!Is_High_Surrogate(unit) || at + 1 == text.size() || !Is_Low_Surrogate(text[at + 1]))
+        return unit;
+    return Of_Pair(unit, text[at + 1]);
+}
+
+bool Is_Surrogate(char32_t unit)
+{
+    return Is_High_Surrogate(unit) || Is_Low_Surrogate(unit);
 }
 
 std::optional<std::vector<std::uint8_t>> Octets_Of_Hex(std::string_view hex)
@@ -149,6 +166,26 @@ std::optional<std::vector<std::uint8_t>> Octets_Of_Hex(std::string_view hex)
         octets.push_back(std::uint8_t(high << 4 | low));
     }
     return octets;
+}
+
+std::string Hex_Of_Octets(std::span<const std::uint8_t> octets)
+{
+    std::string hex;
+    hex.reserve(octets.size() * 2);
+    for (const std::uint8_t octet : octets) {
+        hex += Hex_Digits[octet >> 4];
+        hex += Hex_Digits[octet & 0xF];
+    }
+    return hex;
+}
+
+std::string Hex_Of_Utf16(std::u16string_view text)
+{
+    std::string hex;
+    hex.reserve(text.size() * 4);
+    for (const char16_t unit : text)
+        Append_Hex_Unit(hex, unit);
+    return hex;
 }
 
 std::string Hex_Utf16_Of(std::string_view utf8)

@@ -72,3 +72,26 @@ TEST(Unicode_Text, Hexadecimal_Digits_Come_In_Pairs_And_Text_Becomes_Such_Of_Utf
     EXPECT_EQ(Hex_Utf16_Of("Hi Ω"), "00480069002003A9");
     EXPECT_EQ(Hex_Utf16_Of("😀"), "D83DDE00");
 }
+
+TEST(Unicode_Text, The_Code_Point_At_A_Unit_Is_A_Pair_Or_The_Unit_Itself)
+{
+    const std::u16string text = u"a\U0001F600\u20AC";
+    EXPECT_EQ(Code_Point_At(text, 0), U'a');
+    EXPECT_EQ(Code_Point_At(text, 1), char32_t(0x1F600));
+    EXPECT_EQ(Code_Point_At(text, 2), char32_t(0xDE00)) << "in the middle of a pair";
+    EXPECT_EQ(Code_Point_At(text, 3), char32_t(0x20AC));
+    const std::u16string lone = {char16_t(0xD83D), u'a', char16_t(0xDBFF), char16_t(0xD83D)};
+    for (std::size_t at = 0; at < lone.size(); ++at)
+        EXPECT_EQ(Code_Point_At(lone, at), char32_t(lone[at])) << at;
+    EXPECT_EQ(Utf16_Units_Of(0xFFFF), 1u);
+    EXPECT_EQ(Utf16_Units_Of(0x10000), 2u);
+}
+
+TEST(Unicode_Text, Octets_And_Units_Become_Upper_Case_Digits)
+{
+    const std::vector<std::uint8_t> octets = {0x00, 0x1F, 0xA0, 0xFF};
+    EXPECT_EQ(Hex_Of_Octets(octets), "001FA0FF");
+    EXPECT_EQ(Octets_Of_Hex(Hex_Of_Octets(octets)), octets);
+    EXPECT_EQ(Hex_Of_Utf16(u"A\u20AC\U0001F600"), "004120ACD83DDE00");
+    EXPECT_EQ(Hex_Of_Utf16(u"A\u20AC\U0001F600"), Hex_Utf16_Of("A\u20AC\U0001F600"));
+}
