@@ -1,6 +1,7 @@
 #include "platform/Text_Files.h"
 
 #include "platform/Descriptor.h"
+#include "platform/File_Steps.h"
 
 #include <QDirIterator>
 #include <QFile>
@@ -13,79 +14,21 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+using namespace File_Steps;
+
 namespace {
 
-// O_NONBLOCK: a pipe that appears at a path after it was checked never holds up an open.
-constexpr int Open_Flags = O_CLOEXEC | O_NOCTTY | O_NONBLOCK;
 constexpr mode_t Data_File_Permissions = 0777;
 constexpr qint64 Largest_Read = qint64{2} << 30;
 constexpr qsizetype Read_Step = qsizetype{64} << 10;
 constexpr off_t Smallest_Page = 4096;
 
-// A path as the system takes it. A text with a NUL in it names no file: it becomes the empty name, which never opens.
-QByteArray Native_Name(const QString& path)
-{
-    return path.contains(QChar::Null) ? QByteArray() : QFile::encodeName(path);
-}
-
-Descriptor Open(const QByteArray& name, int flags, mode_t permissions = 0)
-{
-    return Descriptor(Uninterrupted([&] { return open(name.constData(), flags | Open_Flags, permissions); }));
-}
-
-// The size of the regular file that is open; nothing for anything else a path can lead to.
-std::optional<off_t> Regular_Size(const Descriptor& file)
-{
-    struct stat found = {};
-    if (!file.Is_Open() || fstat(file.Number(), &found) != 0 || !S_ISREG(found.st_mode))
-        return std::nullopt;
-    return found.st_size;
-}
-
-// Whether opening the path disturbs nobody: opening a pipe wakes its writer, opening a serial line raises DTR.
-bool Is_Regular_Or_Missing(const QByteArray& name)
-{
-    struct stat found = {};
-    return stat(name.constData(), &found) == 0 ? S_ISREG(found.st_mode) : errno == ENOENT;
-}
-
-bool Write_All(const Descriptor& file, const QByteArray& bytes)
-{
-    for (qsizetype done = 0; done < bytes.size();) {
-        const auto left = static_cast<size_t>(bytes.size() - done);
-        const ssize_t count = Uninterrupted([&] { return write(file.Number(), bytes.constData() + done, left); });
-        if (count <= 0)
-            return false;
-        done += count;
-    }
-    return true;
-}
-
-// Some file systems, such as those served by another program, cannot sync: what was written there is as safe as it
-// gets. EROFS is none of these answers: it is how a file system says that it has given up on what it was given.
-bool Sync(const Descriptor& file)
-{
-    return Uninterrupted([&] { return fsync(file.Number()); }) == 0 || errno == EINVAL || errno == ENOSYS ||
-           errno == EOPNOTSUPP;
-}
-
-bool Cut(const Descriptor& file, off_t size)
-{
-    return Uninterrupted([&] { return ftruncate(file.Number(), size); }) == 0;
-}
-
-// The permissions of a new file. Since this user made it, they are refused only by a file system that has none, as on a
-// memory stick: no reason to lose what is to be written.
-bool Give_Permissions(const Descriptor& file)
-{
-    return fchmod(file.Number(), Data_File_Permissions) == 0 || errno == EPERM || errno == EOPNOTSUPP;
-}
-
 bool Write_Replacement(const QByteArray& name, const QByteArray& bytes)
 {
     unlink(name.constData()); // left by a replacement that was killed
     Descriptor file = Open(name, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, Data_File_Permissions);
-    return file.Is_Open() && Give_Permissions(file) && Write_All(file, bytes) && Sync(file) && file.Close();
+    return file.Is_Open() && Give_Permissions(file, Data_File_Permissions) && Write_All(file, bytes) && Sync(file) &&
+           file.Close();
 }
 
 // Whether a kill can cut an append short: the system checks for one between two pages of a file, but not within a page.
@@ -217,7 +160,7 @@ bool Append_To_File(const QString& path, const QByteArray& bytes)
     const bool is_new = access(name.constData(), F_OK) != 0 && errno == ENOENT;
     Descriptor file = Open(name, O_WRONLY | O_APPEND | O_CREAT, Data_File_Permissions);
     const std::optional<off_t> size = Regular_Size(file);
-    if (!size || (is_new && !Give_Permissions(file)))
+    if (!size || (is_new && !Give_Permissions(file, Data_File_Permissions)))
         return false;
     const Append_Note note(path, *size, bytes);
     const bool is_written = Write_All(file, bytes);

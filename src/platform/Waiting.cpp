@@ -127,6 +127,11 @@ QDate Today()
     return QDate::currentDate();
 }
 
+QDateTime Local_Time()
+{
+    return QDateTime::currentDateTime();
+}
+
 double Paced(double seconds)
 {
     return std::min(std::max(0.0, seconds) / Pace(), Longest_Wait);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QDate>
+#include <QDateTime>
 #include <QEventLoop>
 #include <atomic>
 #include <functional>
@@ -12,6 +12,9 @@ double Now_Seconds();
 
 /// Today's date in the user's time zone.
 QDate Today();
+
+/// The date and time of day in the user's time zone.
+QDateTime Local_Time();
 
 /// The length of a wait, given in seconds at pace 1, at the present pace. Never below 0.
 double Paced(double seconds);
