@@ -13,6 +13,7 @@ QString Templates_Path;
 QString Applied_Exclusion_Path;
 QString Exclusion_Folder_Path;
 QString Exclusion_Index_Path;
+QString Jobs_Folder_Path;
 
 namespace {
 constexpr unsigned Everything_Allowed = 0777;
@@ -34,6 +35,7 @@ void Set_Data_Paths(const QString& resource_path)
     Applied_Exclusion_Path = Corvane_Data_Folder_Path + QStringLiteral("/AppExclusion.ZOVA");
     Exclusion_Folder_Path = Corvane_Data_Folder_Path + QStringLiteral("/Exclusion");
     Exclusion_Index_Path = Exclusion_Folder_Path + QStringLiteral("/ExListIndex.ZOVA");
+    Jobs_Folder_Path = Resource_Path + QStringLiteral("/Jobs");
 }
 
 bool Create_Resource_Folder()

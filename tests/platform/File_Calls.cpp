@@ -5,6 +5,7 @@
 #include <csignal>
 #include <cstdarg>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -103,7 +104,10 @@ PASS_ON(access, false, (const char* name, int mode), (name, mode))
 PASS_ON(chmod, false, (const char* name, mode_t mode), (name, mode))
 PASS_ON(close, false, (int descriptor), (descriptor))
 PASS_ON(faccessat, false, (int folder, const char* name, int mode, int flags), (folder, name, mode, flags))
+PASS_ON(fallocate, true, (int descriptor, int mode, off_t from, off_t size), (descriptor, mode, from, size))
 PASS_ON(fchmod, false, (int descriptor, mode_t mode), (descriptor, mode))
+PASS_ON(fdatasync, true, (int descriptor), (descriptor))
+PASS_ON(flock, true, (int descriptor, int operation), (descriptor, operation))
 PASS_ON(fstat, false, (int descriptor, struct stat* found), (descriptor, found))
 PASS_ON(fsync, true, (int descriptor), (descriptor))
 PASS_ON(ftruncate, true, (int descriptor, off_t size), (descriptor, size))

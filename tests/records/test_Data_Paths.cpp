@@ -52,6 +52,7 @@ TEST_F(Data_Paths, Every_Path_Hangs_On_The_Resource_Folder_In_The_Users_Data_Hom
     EXPECT_EQ(Applied_Exclusion_Path, Path("corvane/Resources/CORVANE_DATA/AppExclusion.ZOVA"));
     EXPECT_EQ(Exclusion_Folder_Path, Path("corvane/Resources/CORVANE_DATA/Exclusion"));
     EXPECT_EQ(Exclusion_Index_Path, Path("corvane/Resources/CORVANE_DATA/Exclusion/ExListIndex.ZOVA"));
+    EXPECT_EQ(Jobs_Folder_Path, Path("corvane/Resources/Jobs"));
     EXPECT_EQ(Everything_In(m_home.path()), "") << "naming the paths creates nothing";
     qunsetenv("XDG_DATA_HOME");
     EXPECT_EQ(Default_Resource_Path(), QDir::homePath() + "/.local/share/corvane/Resources");

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QString>
+#include <optional>
+
+/// What a person decides about a row that may have been sent.
+enum class Job_Decision
+{
+    Send_Again,
+    Count_As_Sent
+};
+
+// What the lines of a journal begin with, and the words that both its writer and its reader know.
+namespace Job_Words {
+
+constexpr char Handing_Over = 'H';
+constexpr char Accepted = 'S';
+constexpr char Refused = 'E';
+constexpr char Unknown = 'U';
+constexpr char Skipped = 'K';
+constexpr char Report = 'D';
+constexpr char Decision = 'R';
+constexpr char End = 'Z';
+
+/// The field of a decision: what was decided, and, behind a colon, by whom or through what.
+QString Text_Of(Job_Decision decision, const QString& who);
+std::optional<Job_Decision> Decision_Of(const QString& text);
+
+} // namespace Job_Words
