@@ -6,3 +6,7 @@
 /// thread, any time.
 void Set_Extra_Device_Paths(const QStringList& paths);
 QStringList Extra_Device_Paths();
+
+/// The name under which a device is found again after it was unplugged: its link in the folder of links by id, where
+/// there is one; otherwise the path itself.
+QString Lasting_Device_Path(const QString& path, const QString& folder = QStringLiteral("/dev/serial/by-id"));

@@ -34,6 +34,11 @@ std::shared_ptr<KVFileHandle> KVSerialPort::open()
     return Open_With(O_RDWR | O_NOCTTY, false);
 }
 
+std::shared_ptr<KVFileHandle> KVSerialPort::openExclusively()
+{
+    return Open_With(O_RDWR | O_NOCTTY | O_NONBLOCK, true);
+}
+
 std::shared_ptr<KVFileHandle> KVSerialPort::Open_With(int flags, bool exclusively)
 {
     const std::lock_guard closing(m_close_lock);

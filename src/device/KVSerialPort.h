@@ -75,6 +75,8 @@ public:
     /// Opens the device for shared use, saves its settings and makes the line raw. Returns no handle on failure, which
     /// includes a path that is no terminal and a line held exclusively; lastError says why.
     std::shared_ptr<KVFileHandle> open();
+    /// As open, but nobody else may open the device meanwhile, and the descriptor stays non-blocking.
+    std::shared_ptr<KVFileHandle> openExclusively();
     bool isOpen() const { return m_file_descriptor != -1; }
     /// Restores the settings found at open and closes. Wakes all waits on the port. Does nothing on a closed port.
     void close();
@@ -87,6 +89,9 @@ public:
     // the line failed.
     QByteArray readAndReturnError(KVSerialError* error = nullptr);
     QString readStringUsingEncoding(KVText_Encoding encoding, KVSerialError* error = nullptr);
+    /// As a synchronous read, but ends with the first bytes that come, and its time-out is given: real seconds, 0 for
+    /// what is there already.
+    QByteArray readAvailable(double seconds, KVSerialError* error = nullptr);
 
     // Synchronous writes: whether every byte went out.
     bool writeData(const QByteArray& data, KVSerialError* error = nullptr);
@@ -122,8 +127,6 @@ public:
     bool available() const { return m_owner == nullptr; }
     QObject* owner() const { return m_owner; }
 
-    /// As open, but nobody else may open the device meanwhile, and the descriptor stays non-blocking.
-    std::shared_ptr<KVFileHandle> openExclusively();
     int fileDescriptor() const { return m_file_descriptor; }
     std::shared_ptr<KVFileHandle> fileHandle() const;
 

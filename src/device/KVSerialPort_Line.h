@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <optional>
 #include <sys/eventfd.h>
 #include <unistd.h>
 
@@ -39,6 +40,7 @@ struct KVSerialPort::Read_Ends
     quint64 m_count = 0;
     bool m_stops = false;
     char m_stop = 0;
+    std::optional<double> m_seconds = {}; ///< real ones, in place of the port's read time-out; any bytes end the read
 };
 
 /// How late a read may come, in real seconds. The answer to a unicode message in text mode is taken by the next

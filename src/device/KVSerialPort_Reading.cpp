@@ -9,6 +9,12 @@
 #include <poll.h>
 #include <sys/eventfd.h>
 
+namespace {
+
+constexpr double Shortest_Poll = 1e-6; // 0 would poll for nothing
+
+} // namespace
+
 std::shared_ptr<const KVSerialPort::Line> KVSerialPort::Present_Line()
 {
     const std::lock_guard guard(m_line_lock);
@@ -60,7 +66,7 @@ QByteArray KVSerialPort::Read_Until(const Read_Ends& ends, KVSerialError* error)
 qsizetype KVSerialPort::Read_Into_Buffer(const Read_Ends& ends, KVSerialError& outcome)
 {
     const double start = Now_Seconds();
-    const double read_timeout = Paced_Read_Timeout(m_read_timeout);
+    const double read_timeout = ends.m_seconds ? *ends.m_seconds : Paced_Read_Timeout(m_read_timeout);
     const auto line = Present_Line();
     const quint64 limit = ends.m_counts ? std::min<quint64>(ends.m_count, Buffer_Size) : Buffer_Size;
     quint64 length = 0;
@@ -75,7 +81,8 @@ qsizetype KVSerialPort::Read_Into_Buffer(const Read_Ends& ends, KVSerialError& o
             return end_with(KVSerial_Read_Timeout);
         if (!line)
             return end_with(KVSerial_System_Error, EBADF);
-        const Line_Event event = m_calls.Wait(line->Descriptor(), POLLIN, std::max(remaining, 1e-6), line->Is_Over());
+        const Line_Event event =
+            m_calls.Wait(line->Descriptor(), POLLIN, std::max(remaining, Shortest_Poll), line->Is_Over());
         if (event == Line_Event::Timed_Out)
             return end_with(KVSerial_Read_Timeout);
         if (event != Line_Event::Ready)
@@ -86,6 +93,8 @@ qsizetype KVSerialPort::Read_Into_Buffer(const Read_Ends& ends, KVSerialError& o
         if (taken < 1)
             return end_with(KVSerial_System_Error, taken < 0 ? errno : 0);
         length += static_cast<quint64>(taken);
+        if (ends.m_seconds)
+            return end_with(KVSerial_Ended_Normally);
         if (ends.m_counts && length >= ends.m_count)
             return end_with(KVSerial_Ended_Normally, 0,
                             length == ends.m_count ? KVSerial_Requested_Length : KVSerial_More_Than_Requested);
@@ -99,6 +108,11 @@ qsizetype KVSerialPort::Read_Into_Buffer(const Read_Ends& ends, KVSerialError& o
 QByteArray KVSerialPort::readAndReturnError(KVSerialError* error)
 {
     return Read_Until({}, error);
+}
+
+QByteArray KVSerialPort::readAvailable(double seconds, KVSerialError* error)
+{
+    return Read_Until({.m_seconds = std::max(seconds, Shortest_Poll)}, error);
 }
 
 QString KVSerialPort::readStringUsingEncoding(KVText_Encoding encoding, KVSerialError* error)

@@ -45,11 +45,6 @@ std::shared_ptr<KVFileHandle> KVSerialPort::fileHandle() const
     return m_file_handle;
 }
 
-std::shared_ptr<KVFileHandle> KVSerialPort::openExclusively()
-{
-    return Open_With(O_RDWR | O_NOCTTY | O_NONBLOCK, true);
-}
-
 bool KVSerialPort::drainInput()
 {
     const std::lock_guard closing(m_close_lock);

@@ -85,6 +85,12 @@ public:
     bool Send_Text_SMS(int descriptor, const QString& number, const QString& message, const QString& smsc_num,
                        bool flash_sms, bool unicode_sms);
 
+    /// What was read after each part of the last message that one of the two sent. Text mode reads nothing after a part
+    /// in unicode, and there it stays empty.
+    const QStringList& Message_Answers() const { return m_message_answers; }
+    /// Reads the answer to a part whose end was written.
+    void Read_Message_Answer(int descriptor);
+
     // What the device says about itself.
 
     /// Asks for the nine values, about a read time-out each. False only when a command could not be written.
@@ -118,6 +124,7 @@ private:
     std::recursive_mutex m_close_lock;
     std::shared_ptr<KVSerialPort> m_port;
     QString m_last_response;
+    QStringList m_message_answers; // of the thread that sends
     std::atomic<bool> m_message_is_begun{false};
     std::set<int> m_descriptors; // opened by OpenSerialPort and not yet closed
     mutable std::mutex m_fields_lock;

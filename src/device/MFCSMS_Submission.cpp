@@ -58,7 +58,7 @@ private:
         m_session.Read_Command(m_descriptor, Expect_Prompt);
         if (!m_session.Write_Command(m_descriptor, frame.m_digits) || !m_session.End_Message(m_descriptor))
             return false;
-        m_session.Read_Command(m_descriptor, Expect_Ok);
+        m_session.Read_Message_Answer(m_descriptor);
         Show_NSLog_Message(QString::fromLatin1(label));
         return true;
     }
@@ -82,6 +82,12 @@ bool MFCSMS::End_Message(int descriptor)
     if (is_written)
         m_message_is_begun = false;
     return is_written;
+}
+
+void MFCSMS::Read_Message_Answer(int descriptor)
+{
+    Read_Command(descriptor, Expect_Ok);
+    m_message_answers.append(m_sLastResponse());
 }
 
 void MFCSMS::Call_Off_Message()
@@ -147,6 +153,7 @@ bool MFCSMS::More_SMS_Comnd(int descriptor)
 bool MFCSMS::Send_PDU_SMS(int descriptor, const QString& number, const QString& message, const QString& smsc_num,
                           bool flash_sms, bool unicode_sms)
 {
+    m_message_answers.clear();
     const Outgoing_Message outgoing{message, number, smsc_num, flash_sms, unicode_sms};
     return Pdu_Submission(*this, descriptor, unicode_sms).Send(Plan_Pdu(outgoing, Show_NSLog_Message));
 }

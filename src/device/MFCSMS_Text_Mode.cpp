@@ -58,7 +58,7 @@ private:
     {
         if (!Ask_For_Prompt() || !Write_Body(Harmless_Body(body)) || !m_session.End_Message(m_descriptor))
             return false;
-        m_session.Read_Command(m_descriptor, Expect_Ok);
+        m_session.Read_Message_Answer(m_descriptor);
         return true;
     }
 
@@ -120,6 +120,7 @@ private:
 bool MFCSMS::Send_Text_SMS(int descriptor, const QString& number, const QString& message, const QString& smsc_num,
                            bool flash_sms, bool unicode_sms)
 {
+    m_message_answers.clear();
     const Outgoing_Message outgoing{message, number, smsc_num, flash_sms, unicode_sms};
     return Text_Submission(*this, descriptor, outgoing).Send();
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-class QString;
+#include "engine/Row_Outcome.h"
 
 namespace Exclusion_Files {
 struct Applied_Numbers;
@@ -17,4 +17,6 @@ public:
     virtual void Tell(const QString& text) = 0;
     /// The job has read the applied exclusion lists, and uses these numbers.
     virtual void Exclusions_Were_Read(const Exclusion_Files::Applied_Numbers& applied) = 0;
+    /// What became of the recipient at an index. Once for each that was reached, in the order of the list.
+    virtual void Row_Ended(int index, const Row_Outcome& outcome) = 0;
 };

@@ -148,7 +148,7 @@ const std::vector<Room>& Rooms()
         {"list", {"platform", "texts"}, Room::Core},
         {"records", {"platform", "list"}, Room::Core},
         {"device", {"platform", "pdu"}, Room::Core},
-        {"engine", {"platform", "texts", "list", "records", "device"}, Room::Core},
+        {"engine", {"platform", "texts", "handset", "list", "records", "device"}, Room::Core},
         {"doctor", {"platform", "texts", "device"}, Room::Core},
         {"toolkit", {"platform", "list", "engine"}},
         {"windows/list", {"platform", "texts", "list", "engine", "toolkit"}},

@@ -1,6 +1,7 @@
 #include "windows/main/Send_Runner.h"
 
 #include "device/Stop_Flag.h"
+#include "engine/Fixed_Wait_Manner.h"
 #include "engine/Job_State.h"
 #include "engine/Send_Job.h"
 #include "platform/Interface_Thread.h"
@@ -65,7 +66,8 @@ void Send_Runner::Send_SMS_Btn()
 void Send_Runner::Send_SMS_Thread(Send_Order order)
 {
     try {
-        Send_Job(std::move(order), m_session, m_progress, *this, Stop_SMS_Sending_Now).Send_SMS_Func();
+        Fixed_Wait_Manner manner(order, m_session);
+        Send_Job(order, manner, m_progress, *this, Stop_SMS_Sending_Now).Send_SMS_Func();
     } catch (const std::exception& failure) {
         Show_NSLog_Message(QStringLiteral("The send job ended early: ") + QString::fromLocal8Bit(failure.what()));
         Show_MessageBox(Texts::Sending::Broken_Off);
@@ -80,4 +82,8 @@ void Send_Runner::Tell(const QString& text)
 void Send_Runner::Exclusions_Were_Read(const Exclusion_Files::Applied_Numbers& applied)
 {
     Run_On_Interface_Thread([&] { m_window.Take_Exclusions(applied); });
+}
+
+void Send_Runner::Row_Ended(int, const Row_Outcome&)
+{
 }

@@ -25,6 +25,7 @@ private:
     void Send_SMS_Thread(Send_Order order);
 
     void Tell(const QString& text) override;
+    void Row_Ended(int index, const Row_Outcome& outcome) override;
     void Exclusions_Were_Read(const Exclusion_Files::Applied_Numbers& applied) override;
 
     Main_Window& m_window;

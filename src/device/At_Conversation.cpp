@@ -1,0 +1,192 @@
+#include "device/At_Conversation.h"
+
+#include "platform/Log_Line.h"
+#include "platform/Waiting.h"
+
+#include <QLatin1String>
+#include <algorithm>
+
+namespace {
+
+constexpr double Longest_Drop = 2;
+constexpr double Longest_Wait_For_Ok = 0.5;
+constexpr double Longest_Hearing = 0.02; // real seconds
+constexpr double Longest_Talk = 0.5;     // real seconds of reports in a row
+
+void Log_Exchange(const char* what, const QByteArray& bytes)
+{
+    Show_NSLog_Message(QLatin1String(what) + QLatin1String(" \"") + QString::fromUtf8(bytes) + QLatin1Char('"'));
+}
+
+// "+CDS: 25" and "+CDS: ,25" announce a frame; in text mode all fields stand on the line itself.
+bool Announces_Frame(const QByteArray& line)
+{
+    const QByteArray fields = line.mid(line.indexOf(':') + 1).trimmed();
+    return std::all_of(fields.begin(), fields.end(), [](char c) { return c == ',' || (c >= '0' && c <= '9'); }) &&
+           fields.count(',') <= 1;
+}
+
+// A value alone begins with none of the signs of other lines, and is not the command's echo.
+bool Answers(const QByteArray& line, const QByteArray& prefix)
+{
+    if (prefix != At_Conversation::Any_Value)
+        return !prefix.isEmpty() && line.startsWith(prefix);
+    return !QByteArrayView("+^*$%_").contains(line.front()) && !line.startsWith("AT") && line != "RING";
+}
+
+} // namespace
+
+std::optional<Late_Result> Submission_Result(const QByteArray& line)
+{
+    constexpr QByteArrayView prefix = "+CMGS:";
+    if (!line.startsWith(prefix))
+        return std::nullopt;
+    const QByteArray fields = line.mid(prefix.size());
+    const qsizetype comma = fields.indexOf(',');
+    bool is_number = false;
+    const int reference = fields.first(comma < 0 ? fields.size() : comma).trimmed().toInt(&is_number);
+    if (!is_number || reference < 0 || reference > 255)
+        return std::nullopt;
+    return Late_Result{reference, comma < 0 ? QByteArray() : fields.mid(comma + 1).trimmed(), std::nullopt};
+}
+
+At_Answer At_Conversation::Ask(const QByteArray& command, double seconds, const QByteArray& prefix, Ok_Line ok_line)
+{
+    Log_Exchange("Write", command);
+    if (!m_line.Write(command + '\r'))
+        return {At_End::Gone, {}, {}};
+    At_Answer answer;
+    double end = Now_Seconds() + Paced_Read_Timeout(seconds);
+    for (;;) {
+        const Heard heard = Hear(end);
+        switch (heard.m_kind) {
+        case Heard::Kind::Gone:
+            answer.m_end = At_End::Gone;
+            return answer;
+        case Heard::Kind::Silence:
+            if (ok_line == Ok_Line::May_Be_Missing && !answer.m_lines.isEmpty())
+                answer.m_end = At_End::Ok;
+            return answer;
+        case Heard::Kind::Prompt:
+        case Heard::Kind::Line:
+            break;
+        }
+        if (heard.Is_Prompt()) {
+            Call_Off_Message();
+            continue;
+        }
+        if (Is_Late(heard.m_line))
+            continue;
+        answer.m_cause = Cause_Of_Line(QString::fromUtf8(heard.m_line));
+        if (answer.m_cause || heard.m_line == "OK") {
+            answer.m_end = answer.m_cause ? At_End::Refused : At_End::Ok;
+            return answer;
+        }
+        if (Answers(heard.m_line, prefix)) {
+            answer.m_lines.append(heard.m_line);
+            if (ok_line == Ok_Line::May_Be_Missing)
+                end = std::min(end, Now_Seconds() + Paced_Read_Timeout(Longest_Wait_For_Ok));
+        }
+    }
+}
+
+At_Conversation::Heard At_Conversation::Hear(double end)
+{
+    const double end_of_talk = std::max(end, Now_Seconds() + Longest_Talk);
+    while (Now_Seconds() < end_of_talk) {
+        while (const auto line = m_lines.Next()) {
+            Log_Exchange("Read", *line);
+            if (!Is_Report(*line))
+                return {Heard::Kind::Line, *line};
+        }
+        if (m_lines.Take_Prompt())
+            return {Heard::Kind::Prompt, {}};
+        QByteArray bytes;
+        switch (m_line.Read(bytes, std::max(end - Now_Seconds(), 0.0))) {
+        case Device_Line::Event::Bytes:
+            m_lines.Take(bytes);
+            break;
+        case Device_Line::Event::Timed_Out:
+            return {Heard::Kind::Silence, {}};
+        case Device_Line::Event::Gone:
+            return {Heard::Kind::Gone, {}};
+        }
+    }
+    return {Heard::Kind::Silence, {}};
+}
+
+void At_Conversation::Drop_Input(double silent_seconds)
+{
+    const double end = Now_Seconds() + Paced_Read_Timeout(Longest_Drop);
+    QByteArray bytes;
+    while (Now_Seconds() < end && m_line.Read(bytes, Paced_Read_Timeout(silent_seconds)) == Device_Line::Event::Bytes) {
+    }
+    m_lines.Forget();
+    m_frame_is_due.reset();
+}
+
+void At_Conversation::Expect_Late_Result(bool is_expected)
+{
+    m_late_is_expected = is_expected;
+    m_late_taken.reset();
+}
+
+void At_Conversation::Hear_What_Came()
+{
+    // Some devices never stop talking.
+    for (const double end = Now_Seconds() + Longest_Hearing; Now_Seconds() < end;) {
+        const Heard heard = Hear(0);
+        if (heard.m_kind == Heard::Kind::Silence || heard.m_kind == Heard::Kind::Gone)
+            return;
+        if (heard.Is_Prompt())
+            Call_Off_Message();
+        else
+            Is_Late(heard.m_line);
+    }
+}
+
+bool At_Conversation::Is_Late(const QByteArray& line)
+{
+    if (!m_late_is_expected)
+        return false;
+    if (const auto result = Submission_Result(line)) {
+        m_late_taken = result;
+        return true;
+    }
+    if (m_late_taken && line == "OK") {
+        Settle(*m_late_taken);
+        return true;
+    }
+    if (line.startsWith("+CMS ERROR")) {
+        Settle({-1, {}, Cause_Of_Line(QString::fromUtf8(line))});
+        return true;
+    }
+    return false;
+}
+
+void At_Conversation::Settle(const Late_Result& result)
+{
+    m_late_result = result;
+    Expect_Late_Result(false);
+}
+
+// A report's frame is the next line, and nothing may stand between the two.
+bool At_Conversation::Is_Report(const QByteArray& line)
+{
+    if (m_frame_is_due) {
+        const Raw_Report report{*std::exchange(m_frame_is_due, std::nullopt), line};
+        if (report.m_line.startsWith("+CDS:") && m_on_report)
+            m_on_report(report);
+        return true;
+    }
+    const bool is_status = line.startsWith("+CDS:");
+    if (line.startsWith("+CMT:") || line.startsWith("+CBM:") || (is_status && Announces_Frame(line))) {
+        m_frame_is_due = line;
+        return true;
+    }
+    if (!is_status && !line.startsWith("+CDSI:"))
+        return false;
+    if (m_on_report)
+        m_on_report({line, {}});
+    return true;
+}

@@ -1,0 +1,113 @@
+#pragma once
+
+#include "device/Answer_Lines.h"
+#include "device/Device_Cause.h"
+#include "device/Device_Line.h"
+
+#include <QByteArrayList>
+#include <functional>
+
+/// What a device says about a message after nobody waits for it any longer.
+struct Late_Result
+{
+    int m_reference = -1; ///< of a message that the network took
+    QByteArray m_time;    ///< the service centre's time stamp where the device gave one
+    std::optional<Device_Cause> m_cause;
+};
+
+/// What a device says unasked and somebody may want: "+CDS: ..." or "+CDSI: ..." and, for the former, the line with its
+/// frame, empty where the report stands on one line.
+struct Raw_Report
+{
+    QByteArray m_line;
+    QByteArray m_frame;
+};
+
+/// The end of an exchange.
+enum class At_End
+{
+    Ok,
+    Refused,   ///< an error line; the cause says which
+    No_Answer, ///< not in time, or the program is exiting
+    Gone       ///< the line hung up
+};
+
+struct At_Answer
+{
+    At_End m_end = At_End::No_Answer;
+    QByteArrayList m_lines; ///< those that begin with the prefix that was asked for
+    std::optional<Device_Cause> m_cause;
+};
+
+/// Commands and their answers on a device's line, driven by what comes: an exchange ends with its last line and waits
+/// for nothing else. Lines that the device says unasked may stand anywhere. One thread at a time.
+class At_Conversation
+{
+public:
+    /// What was heard next.
+    struct Heard
+    {
+        enum class Kind
+        {
+            Line,
+            Prompt,
+            Silence,
+            Gone
+        };
+        Kind m_kind = Kind::Silence;
+        QByteArray m_line;
+
+        bool Is_Prompt() const { return m_kind == Kind::Prompt || m_line == ">"; }
+    };
+
+    explicit At_Conversation(Device_Line& line) : m_line(line) {}
+
+    /// Stands for lines that say a value alone, such as an identity.
+    static constexpr char Any_Value[] = "*";
+
+    enum class Ok_Line
+    {
+        Comes,
+        May_Be_Missing ///< some devices leave it out after the line with the prefix
+    };
+
+    /// Writes a command, which gets its carriage return here, and hears its answer, for at most a time in seconds at
+    /// pace 1.
+    At_Answer Ask(const QByteArray& command, double seconds, const QByteArray& prefix = {},
+                  Ok_Line ok_line = Ok_Line::Comes);
+
+    bool Write(const QByteArray& bytes) { return m_line.Write(bytes); }
+    /// The next line or prompt that is not a report; Silence at the end, on the clock of Now_Seconds.
+    Heard Hear(double end);
+    /// Reads until the device has been silent for a time, at most two seconds, both at pace 1. Nothing is kept.
+    void Drop_Input(double silent_seconds);
+
+    /// From now on a result that comes before the next message's own belongs to the last message.
+    void Expect_Late_Result(bool is_expected);
+    /// Takes in what has come since the last exchange, without waiting. A prompt that comes late is called off.
+    void Hear_What_Came();
+    std::optional<Late_Result> Take_Late_Result() { return std::exchange(m_late_result, std::nullopt); }
+    /// Whether a line belongs to an earlier message; it has been noted then.
+    bool Is_Late(const QByteArray& line);
+    /// Leaves a prompt that nobody wants: what came next would become a message's text.
+    void Call_Off_Message() { Write("\x1B"); }
+
+    /// Receives the reports that come; empty for nobody.
+    void Set_Report_Listener(std::function<void(const Raw_Report&)> listener) { m_on_report = std::move(listener); }
+
+private:
+    bool Is_Report(const QByteArray& line);
+    void Settle(const Late_Result& result);
+
+    Device_Line& m_line;
+    Answer_Lines m_lines;
+    std::function<void(const Raw_Report&)> m_on_report;
+    std::optional<QByteArray> m_frame_is_due; // the first line of a report whose frame follows
+    bool m_late_is_expected = false;
+    std::optional<Late_Result> m_late_taken; // "+CMGS" has come, its OK has not
+    std::optional<Late_Result> m_late_result;
+};
+
+/// What "+CMGS: <mr>[,<scts>]" says (3GPP TS 27.005, 3.5.1); nothing for any other line and where no reference from 0
+/// to 255 stands there.
+std::optional<Late_Result> Submission_Result(const QByteArray& line);

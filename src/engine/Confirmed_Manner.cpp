@@ -1,0 +1,328 @@
+#include "engine/Confirmed_Manner.h"
+
+#include "device/Device_Paths.h"
+#include "engine/Composer_Rules.h"
+#include "engine/Confirmed_Row.h"
+#include "engine/Message_Frames.h"
+#include "engine/Send_Progress.h"
+#include "handset/Report_Line.h"
+#include "platform/Waiting.h"
+#include "records/Job_Shelf.h"
+#include "texts/Cause_Texts.h"
+#include "texts/Confirmed_Texts.h"
+#include "texts/Texts.h"
+
+#include <QRandomGenerator>
+
+namespace {
+
+namespace T = Texts::Confirmed;
+using Until = Device_Hold::Until;
+
+constexpr double Seconds_Between_Looks = 1;
+
+// What was said to wait for a better state was not the end of it.
+bool Is_Final(const QString& cause_field, int tries)
+{
+    const auto cause = Cause_Of_Field(cause_field);
+    if (!cause)
+        return true;
+    switch (Cause_Row(*cause).cause_class) {
+    case Cause_Class::Hold:
+        return false;
+    case Cause_Class::Retry:
+    case Cause_Class::Retry_Slowly:
+        return tries > static_cast<int>(Retry_Waits.size());
+    default:
+        return true;
+    }
+}
+
+} // namespace
+
+Confirmed_Manner::Confirmed_Manner(const Send_Order& order, const Confirmed_Options& options, Send_Progress& progress,
+                                   Confirmed_Watcher& watcher, Stop_Flag& stop, Serial_Calls& calls)
+    : m_order(order), m_options(options), m_progress(progress), m_watcher(watcher), m_stop(stop),
+      m_session(Lasting_Device_Path(order.device_path), calls),
+      m_hold(m_session, progress, watcher, stop, options.hold_seconds)
+{
+}
+
+Confirmed_Manner::~Confirmed_Manner() = default;
+
+bool Confirmed_Manner::Opens()
+{
+    return m_session.Open_Line();
+}
+
+bool Confirmed_Manner::Connect()
+{
+    switch (m_session.Open()) {
+    case Confirmed_Session::Opening::Ready:
+        return true;
+    case Confirmed_Session::Opening::No_Messages:
+        m_trouble = T::No_Messages;
+        return false;
+    case Confirmed_Session::Opening::Does_Not_Open:
+    case Confirmed_Session::Opening::No_Modem:
+        break;
+    }
+    m_trouble = Texts::Sending::No_Modem;
+    return false;
+}
+
+void Confirmed_Manner::Prepare()
+{
+    switch (m_session.Condition().m_sim) {
+    case Sim_State::Missing:
+        m_trouble = Texts::Causes::No_Card;
+        break;
+    case Sim_State::Puk_Needed:
+        m_trouble = Texts::Causes::Puk_Wanted;
+        break;
+    case Sim_State::Failed:
+        m_trouble = Texts::Causes::Card_Failed;
+        break;
+    default:
+        break;
+    }
+}
+
+QString Confirmed_Manner::Completed() const
+{
+    return m_has_failed ? QString(T::Not_All_Sent) : QString(Texts::Sending::Completed);
+}
+
+// From here on the job can be stopped.
+void Confirmed_Manner::Begin_Sending()
+{
+    if (m_trouble.isEmpty())
+        Hold_Until_Ready();
+    if (!m_trouble.isEmpty() || m_stop == 1)
+        return;
+    if (Asks_For_Reports())
+        m_session.Ask_For_Reports();
+    Begin_Journal();
+}
+
+void Confirmed_Manner::Hold_Until_Ready()
+{
+    const auto hold = [this](Until until, const QString& reason) {
+        if (m_hold.Hold(until, reason) == Device_Hold::End::Too_Long)
+            m_trouble = T::Waited_Too_Long;
+    };
+    Device_Condition condition = m_session.Condition();
+    if (condition.m_sim == Sim_State::Pin_Needed) {
+        hold(Until::Card_Is_Ready, Texts::Causes::Pin_Wanted);
+        condition = m_session.Condition();
+    }
+    if (m_trouble.isEmpty() && m_stop == 0 &&
+        (condition.m_registration == Registration::Searching || condition.m_registration == Registration::Denied))
+        hold(Until::Network_Is_There, Texts::Causes::No_Network);
+}
+
+void Confirmed_Manner::Begin_Journal()
+{
+    m_first_reference = QRandomGenerator::global()->bounded(256);
+    m_open_rows = m_order.recipients.Count();
+    if (m_options.folder.isEmpty() && m_options.resumed_path.isEmpty())
+        return;
+    if (m_options.resumed_path.isEmpty())
+        Make_Journal();
+    else
+        Open_Journal();
+    if (!m_journal)
+        m_trouble = QString(T::Not_Recorded) + QLatin1String(" (") + Job_Trouble_Sentence(m_journal_trouble) +
+                    QLatin1String(").");
+}
+
+void Confirmed_Manner::Make_Journal()
+{
+    m_job_id = New_Job_Id();
+    auto opened =
+        Job_Journal::Create(m_options.folder, {m_job_id, m_session.Imsi(), m_order.device_path, m_options.job},
+                            [this, index = 0]() mutable -> std::optional<Job_Row> {
+                                if (index == m_order.recipients.Count())
+                                    return std::nullopt;
+                                return Row_At(index++);
+                            });
+    m_journal = std::move(opened.journal);
+    m_journal_trouble = opened.trouble;
+}
+
+void Confirmed_Manner::Open_Journal()
+{
+    auto opened = Job_Journal::Open_To_Go_On(m_options.resumed_path);
+    m_journal = std::move(opened.journal);
+    m_record = std::move(opened.record);
+    m_journal_trouble = opened.trouble;
+    if (!m_record)
+        return;
+    m_job_id = m_record->Header().id;
+    const Job_Counts counts = m_record->Counts();
+    m_has_handed_over = counts.sent + counts.refused + counts.unknown > 0;
+    if (!m_options.sends_unknown)
+        return;
+    for (int row = 1; row <= m_record->Row_Count(); ++row)
+        if (May_Have_Been_Sent(m_record->State_Of(row).state))
+            m_journal->Decide(row, Job_Decision::Send_Again, QStringLiteral("user"));
+}
+
+// The same row whenever it is asked for.
+Job_Row Confirmed_Manner::Row_At(int index)
+{
+    if (m_record)
+        return m_record->Row(index + 1).value_or(Job_Row{});
+    const Recipient recipient = m_order.recipients.At(index);
+    Job_Row row =
+        Frozen_Row(index + 1, recipient.Number, Composer_Rules::Cut_To_Limit(recipient.Message), m_options.job.alphabet,
+                   m_order.choices.flash, m_first_reference + index, m_session.Is_Text_Mode());
+    switch (Reason_To_Skip(m_order, index)) {
+    case Skip_Reason::Excluded:
+        row.skipped = QStringLiteral("excluded");
+        break;
+    case Skip_Reason::Repeated:
+        row.skipped = QStringLiteral("duplicate");
+        break;
+    case Skip_Reason::None:
+        break;
+    }
+    return row;
+}
+
+bool Confirmed_Manner::Is_Sent_Already(int index, int part) const
+{
+    return m_record && m_record->Part(index + 1, part).state == Sending_State::Accepted;
+}
+
+// Nothing where the row is still to be sent.
+std::optional<Row_Details> Confirmed_Manner::Settled_Before(int index, const Job_Row& row) const
+{
+    Row_Details details;
+    details.parts = row.parts;
+    if (!m_record)
+        return std::nullopt;
+    const Job_Row_State state = m_record->State_Of(index + 1);
+    details.parts_sent = state.parts_sent;
+    details.references = state.references;
+    details.tries = state.tries;
+    details.is_earlier = true;
+    switch (state.state) {
+    case Sending_State::Accepted:
+        details.outcome.state = Row_State::Sent;
+        return details;
+    case Sending_State::Refused: {
+        if (!Is_Final(state.words, state.tries))
+            return std::nullopt;
+        details.outcome = {Row_State::Refused, Cause_Of_Field(state.words).value_or(Device_Cause{})};
+        details.reason = Reason_Of(details.outcome.cause);
+        return details;
+    }
+    case Sending_State::Handing_Over:
+    case Sending_State::Unknown:
+        if (m_options.sends_unknown)
+            return std::nullopt;
+        details.outcome.state = Row_State::May_Have_Been_Sent;
+        details.reason = T::No_Result;
+        return details;
+    case Sending_State::Skipped:
+    case Sending_State::Waiting:
+        break;
+    }
+    return std::nullopt;
+}
+
+Send_Manner::Submission Confirmed_Manner::Submit(int index, const Recipient&)
+{
+    const Job_Row row = Row_At(index);
+    if (auto earlier = Settled_Before(index, row)) {
+        const Row_State state = earlier->outcome.state;
+        m_open_rows -= state == Row_State::May_Have_Been_Sent ? 0 : 1;
+        m_has_failed = m_has_failed || state != Row_State::Sent;
+        m_watcher.Row_Done(index, *earlier);
+        return {Next::Go_On, earlier->outcome, false, {}};
+    }
+    if (!row.skipped.isEmpty()) { // no frame can carry its number; other reasons have been seen by the walk
+        Row_Details details;
+        details.outcome.state = Row_State::Invalid_Number;
+        details.reason = T::Number_Invalid;
+        --m_open_rows;
+        m_has_failed = true;
+        m_watcher.Row_Done(index, details);
+        return {Next::Go_On, details.outcome, false, {}};
+    }
+    Row_Walk walk(*this, index, row);
+    const Submission submission = walk.Run();
+    Take_Reports();
+    const Row_State state = submission.outcome.state;
+    if (state == Row_State::Sent || state == Row_State::Refused)
+        --m_open_rows;
+    m_has_failed = m_has_failed || state != Row_State::Sent;
+    if (state != Row_State::Not_Tried)
+        m_watcher.Row_Done(index, walk.Details());
+    return submission;
+}
+
+void Confirmed_Manner::Skipped(int index, Skip_Reason reason)
+{
+    Row_Details details;
+    details.outcome.state = reason == Skip_Reason::Excluded ? Row_State::Excluded : Row_State::Repeated;
+    details.is_earlier = m_record.has_value();
+    --m_open_rows;
+    m_watcher.Row_Done(index, details);
+}
+
+void Confirmed_Manner::Pause_Begins()
+{
+    if (m_journal)
+        m_journal->Sync();
+}
+
+// No report is no news: a part without one has been sent all the same.
+void Confirmed_Manner::End_Sending()
+{
+    if (!Asks_For_Reports() || !m_trouble.isEmpty())
+        return;
+    const double end = Now_Seconds() + Paced(m_options.job.report_seconds);
+    while (!m_report_desk.Is_Empty() && m_stop == 0 && !Program_Is_Exiting() && Now_Seconds() < end) {
+        m_session.Listen(Seconds_Between_Looks);
+        Take_Reports();
+    }
+}
+
+void Confirmed_Manner::Take_Reports()
+{
+    if (!Asks_For_Reports())
+        return;
+    const auto raw_reports = m_session.Take_Reports();
+    for (const Raw_Report& raw : raw_reports) {
+        const auto report = raw.m_frame.isEmpty() ? Handset::Read_Report(raw.m_line.toStdString()).m_report
+                                                  : Handset::Decode_Status_Report(raw.m_frame.toStdString()).m_report;
+        if (!report)
+            continue;
+        if (m_journal)
+            m_journal->Report(m_session.Imsi(), report->m_reference, QString::fromStdString(report->m_number),
+                              Local_Time().toSecsSinceEpoch(), report->m_status);
+        if (const auto part = m_report_desk.Match(*report))
+            m_watcher.Report_Came(part->index, part->part, report->m_reference, report->m_status);
+    }
+}
+
+// A job that has nothing left to be decided or sent leaves nothing behind, unless that is wanted.
+void Confirmed_Manner::Close()
+{
+    m_session.Close();
+    if (!m_journal)
+        return;
+    const QString path = m_journal->Path();
+    const bool has_ended = m_open_rows == 0 && m_journal->End();
+    m_journal->Sync();
+    m_journal.reset();
+    if (has_ended && !m_options.keeps_journal)
+        Remove_Job(path);
+}
+
+QString Confirmed_Manner::Job_Id() const
+{
+    return m_job_id;
+}

@@ -1,0 +1,337 @@
+#include "engine/Confirmed_Row.h"
+
+#include "engine/Message_Frames.h"
+#include "engine/Send_Cause_Words.h"
+#include "engine/Send_Progress.h"
+#include "platform/Waiting.h"
+#include "texts/Confirmed_Texts.h"
+
+namespace {
+
+using Doubt = Part_Result::Doubt;
+using Obstacle = Part_Result::Obstacle;
+using Until = Device_Hold::Until;
+namespace T = Texts::Confirmed;
+
+constexpr int Alike_In_A_Row = 3;
+constexpr double Seconds_Between_Slow_Messages = 5;
+
+QString Reason_Of(Doubt doubt)
+{
+    switch (doubt) {
+    case Doubt::Ok_Alone:
+        return T::No_Reference;
+    case Doubt::Line_Lost:
+        return T::Line_Lost;
+    case Doubt::Broken_Off:
+        return T::Broken_Off;
+    case Doubt::No_Result:
+    case Doubt::None:
+        break;
+    }
+    return T::No_Result;
+}
+
+// As the journal writes it.
+QString Field_Of(Doubt doubt)
+{
+    switch (doubt) {
+    case Doubt::Ok_Alone:
+        return QStringLiteral("ok-alone");
+    case Doubt::Line_Lost:
+        return QStringLiteral("line-lost");
+    case Doubt::Broken_Off:
+        return QStringLiteral("broken-off");
+    case Doubt::No_Result:
+    case Doubt::None:
+        break;
+    }
+    return QStringLiteral("no-result");
+}
+
+Until Wait_For(const Device_Cause& cause)
+{
+    const Device_Cause numbered =
+        cause.kind == Device_Cause::Kind::Words ? Numbered_Cause(cause.words).value_or(cause) : cause;
+    switch (numbered.number) {
+    case 11:
+    case 311:
+    case 312:
+    case 317:
+        return Until::Card_Is_Ready;
+    case 30:
+    case 32:
+    case 331:
+        return Until::Network_Is_There;
+    default:
+        return Until::Some_Time_Has_Passed;
+    }
+}
+
+} // namespace
+
+Confirmed_Manner::Row_Walk::Row_Walk(Confirmed_Manner& manner, int index, Job_Row row)
+    : m_manner(manner), m_index(index), m_row(std::move(row))
+{
+    m_details.parts = m_row.parts;
+}
+
+Send_Manner::Submission Confirmed_Manner::Row_Walk::Run()
+{
+    m_submission.is_handled = false;
+    const auto parts = Parts_Of(m_row, m_manner.m_options.job.service_centre, m_manner.Asks_For_Reports(),
+                                m_manner.m_session.Is_Text_Mode());
+    if (parts.size() != static_cast<std::size_t>(m_row.parts)) { // frozen in the other format
+        Stop_Job(T::No_Messages);
+        return m_submission;
+    }
+    auto end = Part_End::Sent;
+    for (m_part = 1; m_part <= m_row.parts && end == Part_End::Sent; ++m_part) {
+        if (m_manner.Is_Sent_Already(m_index, m_part)) {
+            ++m_details.parts_sent;
+            continue;
+        }
+        m_tries = 0;
+        m_retries = 0;
+        do {
+            end = Send_Part(parts[static_cast<std::size_t>(m_part - 1)]);
+        } while (end == Part_End::Again);
+    }
+    if (end == Part_End::Sent) {
+        m_details.outcome.state = Row_State::Sent;
+        m_submission.is_handled = true;
+        m_manner.m_has_sent = true;
+        m_manner.m_alike_ends.Count({});
+    }
+    m_submission.outcome = m_details.outcome;
+    if (m_manner.m_sends_slowly && m_submission.next == Next::Go_On)
+        m_manner.m_stop.Wait(Seconds_Between_Slow_Messages);
+    return m_submission;
+}
+
+Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Send_Part(const Part_To_Send& part)
+{
+    m_details.tries = std::max(m_details.tries, ++m_tries);
+    m_was_handed_over = false;
+    if (m_manner.m_session.Is_Text_Mode() && !Prepare_Text_Mode())
+        return m_manner.m_session.Answers() ? Be_Refused({}, T::No_Messages, 1) : Take_Obstacle(Obstacle::Line_Lost);
+    const Part_Result result = m_manner.m_session.Submit(part, *this);
+    switch (result.m_kind) {
+    case Part_Result::Kind::Accepted:
+        return Take_Accepted(result.m_reference, result.m_time);
+    case Part_Result::Kind::Refused:
+        return Take_Refusal(result.m_cause.value_or(Device_Cause{}));
+    case Part_Result::Kind::Unknown:
+        return Take_Doubt(result.m_doubt);
+    case Part_Result::Kind::Not_Handed_Over:
+        break;
+    }
+    return Take_Obstacle(result.m_obstacle);
+}
+
+bool Confirmed_Manner::Row_Walk::Prepare_Text_Mode()
+{
+    const int coding = Data_Coding_Of(m_row);
+    if (m_manner.m_text_coding == coding)
+        return true;
+    if (!m_manner.m_session.Set_Text_Parameters(coding, m_manner.Asks_For_Reports(),
+                                                m_manner.m_options.job.service_centre))
+        return false;
+    m_manner.m_text_coding = coding;
+    return true;
+}
+
+Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Take_Accepted(int reference, const QByteArray& time)
+{
+    if (m_manner.m_journal)
+        m_manner.m_journal->Accepted(m_index + 1, m_part, reference, QString::fromUtf8(time));
+    ++m_details.parts_sent;
+    if (reference >= 0) {
+        m_details.references.append(reference);
+        if (m_manner.Asks_For_Reports())
+            m_manner.m_report_desk.Expect(m_row.number, {m_index, m_part, reference, Local_Time().toSecsSinceEpoch()});
+    }
+    return Part_End::Sent;
+}
+
+Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Take_Refusal(const Device_Cause& cause)
+{
+    const Send_Cause& row = Cause_Row(cause);
+    const QString reason = ::Reason_Of(cause);
+    if (row.cause_class == Cause_Class::Unknown_Outcome || row.cause_class == Cause_Class::Ignore)
+        return Be_Unknown(Cause_Field(cause), reason);
+    if (row.cause_class == Cause_Class::Counts_As_Sent)
+        return Take_Accepted(-1, {});
+    if (m_was_handed_over && m_manner.m_journal)
+        m_manner.m_journal->Refused(m_index + 1, m_part, Cause_Field(cause));
+    switch (row.cause_class) {
+    case Cause_Class::Retry_Slowly:
+        m_manner.m_sends_slowly = true;
+        [[fallthrough]];
+    case Cause_Class::Retry:
+        if (Try_Again_Later() == Part_End::Again)
+            return Part_End::Again;
+        break;
+    case Cause_Class::Hold:
+        return Hold(Wait_For(cause), reason);
+    default:
+        break;
+    }
+    const bool is_about_number = row.this_number_if_others_passed && m_manner.m_has_sent;
+    return Be_Refused(cause, reason, is_about_number ? Alike_In_A_Row : row.stops_at);
+}
+
+Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Take_Doubt(Doubt doubt)
+{
+    if (doubt == Doubt::Broken_Off)
+        m_submission.next = Next::Break_Off;
+    else if (doubt != Doubt::Line_Lost && m_manner.m_session.Answers()) {
+        if (const auto late = m_manner.m_session.Take_Late_Result())
+            return late->m_cause ? Take_Refusal(*late->m_cause) : Take_Accepted(late->m_reference, late->m_time);
+        return Be_Unknown(Field_Of(doubt), Reason_Of(doubt));
+    }
+    Be_Unknown(Field_Of(doubt), Reason_Of(doubt));
+    if (m_submission.next == Next::Go_On)
+        Hold(Until::Device_Is_Back, doubt == Doubt::Line_Lost ? T::Device_Is_Gone : T::Device_Is_Silent);
+    return Part_End::Row_Is_Over;
+}
+
+// Nothing was sent.
+Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Take_Obstacle(Obstacle obstacle)
+{
+    switch (obstacle) {
+    case Obstacle::Stopped:
+        m_submission.next = Next::Break_Off;
+        return Part_End::Row_Is_Over;
+    case Obstacle::Not_Recorded:
+        m_manner.m_journal_trouble = m_manner.m_journal->Trouble();
+        Stop_Job(QString(T::Not_Recorded) + QLatin1String(" (") + Job_Trouble_Sentence(m_manner.m_journal_trouble) +
+                 QLatin1String(")."));
+        return Part_End::Row_Is_Over;
+    case Obstacle::Line_Lost:
+        return Hold(Until::Device_Is_Back, T::Device_Is_Gone);
+    case Obstacle::No_Prompt:
+    case Obstacle::None:
+        break;
+    }
+    if (!m_manner.m_session.Answers())
+        return Hold(Until::Device_Is_Back, T::Device_Is_Silent);
+    if (Try_Again_Later() == Part_End::Again)
+        return Part_End::Again;
+    return Be_Refused({}, T::No_Prompt, Alike_In_A_Row);
+}
+
+Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Try_Again_Later()
+{
+    if (static_cast<std::size_t>(m_retries) >= Retry_Waits.size())
+        return Part_End::Row_Is_Over;
+    m_manner.m_stop.Wait(Retry_Waits[static_cast<std::size_t>(m_retries++)]);
+    return m_manner.m_stop == 1 || Program_Is_Exiting() ? Part_End::Row_Is_Over : Part_End::Again;
+}
+
+// The same part goes on afterwards, if it has not been settled.
+Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Hold(Until until, const QString& reason)
+{
+    if (m_manner.m_journal)
+        m_manner.m_journal->Sync();
+    switch (m_manner.m_hold.Hold(until, reason)) {
+    case Device_Hold::End::Right:
+        m_manner.m_progress.Show_Current(m_row.number);
+        m_manner.m_text_coding = -1; // it may be as new
+        if (m_manner.Asks_For_Reports())
+            m_manner.m_session.Ask_For_Reports();
+        return Part_End::Again;
+    case Device_Hold::End::Too_Long:
+        Stop_Job(T::Waited_Too_Long);
+        break;
+    case Device_Hold::End::Stopped:
+        break;
+    }
+    if (m_details.reason.isEmpty())
+        m_details.reason = reason;
+    return Part_End::Row_Is_Over;
+}
+
+Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Be_Refused(const Device_Cause& cause,
+                                                                            const QString& reason, int stops_at)
+{
+    m_details.outcome = {Row_State::Refused, cause};
+    m_details.reason = reason;
+    Count_End(Cause_Field(cause) + reason, reason, stops_at);
+    return Part_End::Row_Is_Over;
+}
+
+Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Be_Unknown(const QString& why, const QString& reason)
+{
+    if (m_manner.m_journal)
+        m_manner.m_journal->Unknown(m_index + 1, m_part, why);
+    m_details.outcome = {Row_State::May_Have_Been_Sent, {}};
+    m_details.reason = reason;
+    Count_End(why, reason, Alike_In_A_Row);
+    return Part_End::Row_Is_Over;
+}
+
+void Confirmed_Manner::Row_Walk::Count_End(const QString& end, const QString& reason, int stops_at)
+{
+    const int alike = m_manner.m_alike_ends.Count(end);
+    if (stops_at > 0 && alike >= stops_at)
+        Stop_Job(stops_at == 1 ? reason : QString(T::Three_Alike) + QLatin1String(" (") + reason + QLatin1String(")."));
+}
+
+void Confirmed_Manner::Row_Walk::Stop_Job(const QString& notice)
+{
+    m_submission.next = Next::Fail;
+    m_submission.notice = notice;
+}
+
+bool Confirmed_Manner::Row_Walk::May_Be_Handed_Over()
+{
+    if (m_manner.m_journal && !m_manner.m_journal->Hand_Over(m_index + 1, m_part, m_row.parts))
+        return false;
+    m_was_handed_over = true;
+    m_manner.m_has_handed_over = true;
+    return true;
+}
+
+// A message that was begun is brought to its end.
+bool Confirmed_Manner::Row_Walk::Is_Asked_To_Stop()
+{
+    return m_part == 1 && m_manner.m_stop == 1;
+}
+
+void Confirmed_Manner::Row_Walk::Still_Waiting(int seconds)
+{
+    m_manner.m_progress.Show_Current(T::Waiting_For_Network);
+    m_manner.m_watcher.Still_Waiting(seconds);
+}
+
+QString Cause_Field(const Device_Cause& cause)
+{
+    switch (cause.kind) {
+    case Device_Cause::Kind::Cms:
+        return QStringLiteral("cms:%1").arg(cause.number);
+    case Device_Cause::Kind::Cme:
+        return QStringLiteral("cme:%1").arg(cause.number);
+    case Device_Cause::Kind::Words:
+        return QStringLiteral("words:") + cause.words;
+    case Device_Cause::Kind::Error:
+        break;
+    }
+    return QStringLiteral("error");
+}
+
+std::optional<Device_Cause> Cause_Of_Field(const QString& field)
+{
+    const auto numbered = [&](Device_Cause::Kind kind) {
+        return Device_Cause{kind, QStringView(field).sliced(4).toInt(), {}};
+    };
+    if (field.startsWith(u"cms:"))
+        return numbered(Device_Cause::Kind::Cms);
+    if (field.startsWith(u"cme:"))
+        return numbered(Device_Cause::Kind::Cme);
+    if (field.startsWith(u"words:"))
+        return Device_Cause{Device_Cause::Kind::Words, -1, field.sliced(6)};
+    if (field == u"error")
+        return Device_Cause{};
+    return std::nullopt;
+}

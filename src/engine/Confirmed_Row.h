@@ -1,0 +1,52 @@
+#pragma once
+
+#include "engine/Confirmed_Manner.h"
+
+// The way of one recipient's message through a confirmed job: its parts in turn, each until it is settled.
+class Confirmed_Manner::Row_Walk : private Part_Watcher
+{
+public:
+    Row_Walk(Confirmed_Manner& manner, int index, Job_Row row);
+
+    Submission Run();
+    const Row_Details& Details() const { return m_details; }
+
+private:
+    enum class Part_End
+    {
+        Sent,
+        Again,
+        Row_Is_Over
+    };
+
+    Part_End Send_Part(const Part_To_Send& part);
+    Part_End Take_Accepted(int reference, const QByteArray& time);
+    Part_End Take_Refusal(const Device_Cause& cause);
+    Part_End Take_Doubt(Part_Result::Doubt doubt);
+    Part_End Take_Obstacle(Part_Result::Obstacle obstacle);
+    Part_End Try_Again_Later();
+    Part_End Hold(Device_Hold::Until until, const QString& reason);
+    Part_End Be_Refused(const Device_Cause& cause, const QString& reason, int stops_at);
+    Part_End Be_Unknown(const QString& why, const QString& reason);
+    void Count_End(const QString& end, const QString& reason, int stops_at);
+    void Stop_Job(const QString& notice);
+    bool Prepare_Text_Mode();
+
+    bool May_Be_Handed_Over() override;
+    bool Is_Asked_To_Stop() override;
+    void Still_Waiting(int seconds) override;
+
+    Confirmed_Manner& m_manner;
+    const int m_index;
+    const Job_Row m_row;
+    Row_Details m_details;
+    Submission m_submission;
+    int m_part = 1;
+    int m_tries = 0;   // of this part
+    int m_retries = 0; // of this part, after causes that pass by themselves
+    bool m_was_handed_over = false;
+};
+
+/// The cause as the journal writes it: cms:500, cme:11, error, or words: and the device's own.
+QString Cause_Field(const Device_Cause& cause);
+std::optional<Device_Cause> Cause_Of_Field(const QString& field);

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "device/Device_Cause.h"
+
+#include <QtGlobal>
+
+/// What became of one recipient's message, as far as anybody knows.
+enum class Row_State : quint8
+{
+    Not_Tried,
+    Written,            ///< every octet went out, and no answer was read
+    Taken,              ///< by the phone, in the fixed-wait manner: it answered with a reference and OK
+    Sent,               ///< by the network: each part was acknowledged with its reference
+    Refused,            ///< the device said why
+    No_Answer,          ///< every octet went out, and the device said nothing in the time of a read
+    May_Have_Been_Sent, ///< and may not
+    Excluded,           ///< skipped: its number is in an exclusion list
+    Repeated,           ///< skipped: an earlier recipient has the same number
+    Invalid_Number      ///< skipped: no frame can carry its number
+};
+
+struct Row_Outcome
+{
+    Row_State state = Row_State::Not_Tried;
+    Device_Cause cause; ///< of Refused
+
+    bool operator==(const Row_Outcome&) const = default;
+};

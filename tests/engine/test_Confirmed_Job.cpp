@@ -1,0 +1,321 @@
+#include "engine/Confirmed_Test.h"
+#include "engine/Message_Frames.h"
+#include "texts/Cause_Texts.h"
+#include "texts/Confirmed_Texts.h"
+#include "texts/Texts.h"
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+class Confirmed_Job : public Confirmed_Test
+{
+protected:
+    Confirmed_Job()
+    {
+        Add(QStringLiteral("0700900100"), QStringLiteral("One"));
+        Add(QStringLiteral("0700900101"), QStringLiteral("Two"));
+        Add(QStringLiteral("0700900102"), QStringLiteral("Three"));
+    }
+
+    void Cms(int number, int message = 1)
+    {
+        Phone_Moods moods;
+        moods.m_cms_error_at = {{message, number}};
+        m_phone.Set_Moods(moods);
+    }
+
+    QList<Unfinished_Job> Unfinished() const { return Unfinished_Jobs(m_options.folder); }
+
+    // The journal's kinds of lines, one character each.
+    QString Kinds() const
+    {
+        QFile file(m_options.folder + QLatin1Char('/') + m_job + QLatin1String(".journal"));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        QString kinds;
+        for (const QByteArray& line : file.readAll().split('\n'))
+            if (!line.isEmpty())
+                kinds.append(QChar::fromLatin1(line.front()));
+        return kinds;
+    }
+};
+
+} // namespace
+
+TEST_F(Confirmed_Job, Sends_Every_Message_And_Leaves_Nothing_Behind)
+{
+    Run();
+    EXPECT_THAT(m_witness.States(), ElementsAre(Row_State::Sent, Row_State::Sent, Row_State::Sent));
+    EXPECT_THAT(Texts(), ElementsAre("One", "Two", "Three"));
+    EXPECT_THAT(m_witness.m_told, ElementsAre(QString(Texts::Sending::Completed)));
+    EXPECT_EQ(m_witness.m_rows[0].references.size(), 1);
+    EXPECT_EQ(m_witness.m_rows[0].tries, 1);
+    EXPECT_THAT(QDir(m_options.folder).entryList(QDir::Files), IsEmpty());
+}
+
+TEST_F(Confirmed_Job, Keeps_Its_Journal_When_That_Is_Wanted)
+{
+    m_options.keeps_journal = true;
+    Run();
+    EXPECT_EQ(Kinds(), "JHSHSHSZ");
+    EXPECT_THAT(Unfinished(), IsEmpty());
+}
+
+TEST_F(Confirmed_Job, A_Number_That_Is_Refused_Is_Passed_Over)
+{
+    Cms(195, 2);
+    Run();
+    EXPECT_THAT(m_witness.States(), ElementsAre(Row_State::Sent, Row_State::Refused, Row_State::Sent));
+    EXPECT_EQ(m_witness.m_rows[1].outcome.cause.number, 195);
+    EXPECT_EQ(m_witness.m_rows[1].reason, QString(Texts::Causes::Number_Invalid));
+    EXPECT_THAT(m_witness.m_told, ElementsAre(QString(Texts::Confirmed::Not_All_Sent)));
+    EXPECT_THAT(Unfinished(), IsEmpty());
+}
+
+TEST_F(Confirmed_Job, A_Cause_That_Hits_Everybody_Stops_The_Job)
+{
+    Cms(50, 2);
+    Run();
+    EXPECT_THAT(m_witness.States(), ElementsAre(Row_State::Sent, Row_State::Refused));
+    EXPECT_THAT(m_witness.m_told, ElementsAre(QString(Texts::Causes::Not_In_Contract)));
+    const auto unfinished = Unfinished();
+    ASSERT_EQ(unfinished.size(), 1);
+    EXPECT_EQ(unfinished.first().counts.not_tried, 1);
+}
+
+TEST_F(Confirmed_Job, A_Passing_Cause_Is_Tried_Again)
+{
+    Cms(41);
+    Run();
+    EXPECT_THAT(m_witness.States(), ElementsAre(Row_State::Sent, Row_State::Sent, Row_State::Sent));
+    EXPECT_EQ(m_witness.m_rows[0].tries, 2);
+    EXPECT_THAT(Texts(), ElementsAre("One", "Two", "Three"));
+}
+
+TEST_F(Confirmed_Job, A_Passing_Cause_That_Stays_Refuses_After_Four_Tries)
+{
+    Phone_Moods moods;
+    moods.m_cms_error_at = {{1, 41}, {2, 41}, {3, 41}, {4, 41}};
+    m_phone.Set_Moods(moods);
+    Run();
+    EXPECT_THAT(m_witness.States(), ElementsAre(Row_State::Refused, Row_State::Sent, Row_State::Sent));
+    EXPECT_EQ(m_witness.m_rows[0].tries, 4);
+}
+
+TEST_F(Confirmed_Job, Three_Alike_In_A_Row_Stop_The_Job)
+{
+    Add(QStringLiteral("0700900103"), QStringLiteral("Four"));
+    Phone_Moods moods;
+    moods.m_cms_error_at = {{1, 500}, {2, 500}, {3, 500}};
+    m_phone.Set_Moods(moods);
+    Run();
+    EXPECT_EQ(m_witness.m_rows.size(), 3U);
+    EXPECT_THAT(m_witness.m_told.join(QString()).toStdString(), testing::HasSubstr("Unknown error"));
+    EXPECT_THAT(Texts(), IsEmpty());
+}
+
+TEST_F(Confirmed_Job, What_May_Have_Been_Sent_Is_Left_Alone_And_The_Job_Goes_On)
+{
+    Cms(332);
+    Run();
+    EXPECT_THAT(m_witness.States(), ElementsAre(Row_State::May_Have_Been_Sent, Row_State::Sent, Row_State::Sent));
+    ASSERT_EQ(Unfinished().size(), 1);
+    EXPECT_EQ(Unfinished().first().counts.unknown, 1);
+}
+
+TEST_F(Confirmed_Job, Going_On_Tries_Only_What_Is_Left)
+{
+    m_witness.m_on_row = [this] { m_stop = 1; };
+    Run();
+    EXPECT_THAT(m_witness.States(), ElementsAre(Row_State::Sent));
+    m_witness = {};
+    const auto unfinished = Unfinished();
+    ASSERT_EQ(unfinished.size(), 1);
+    m_options.resumed_path = unfinished.first().path;
+    Run();
+    EXPECT_THAT(m_witness.States(), ElementsAre(Row_State::Sent, Row_State::Sent, Row_State::Sent));
+    EXPECT_TRUE(m_witness.m_rows[0].is_earlier);
+    EXPECT_FALSE(m_witness.m_rows[1].is_earlier);
+    EXPECT_THAT(Texts(), ElementsAre("One", "Two", "Three"));
+    EXPECT_THAT(Unfinished(), IsEmpty());
+}
+
+TEST_F(Confirmed_Job, Going_On_Sends_What_May_Have_Been_Sent_Only_On_A_Persons_Word)
+{
+    Cms(332, 2);
+    Run();
+    m_phone.Set_Moods({});
+    m_options.resumed_path = Unfinished().first().path;
+    Run();
+    EXPECT_THAT(Texts(), ElementsAre("One", "Three"));
+    m_options.sends_unknown = true;
+    Run();
+    EXPECT_THAT(Texts(), ElementsAre("One", "Three", "Two"));
+    EXPECT_THAT(Unfinished(), IsEmpty());
+}
+
+TEST_F(Confirmed_Job, A_Card_That_Wants_Its_Pin_Holds_The_Job_Until_It_Is_Ready)
+{
+    m_phone.Will_Answer("AT+CPIN?", "\r\n+CPIN: SIM PIN\r\n\r\nOK\r\n");
+    m_witness.m_on_held = [this] { m_phone.Will_Answer("AT+CPIN?", "\r\n+CPIN: READY\r\n\r\nOK\r\n"); };
+    Run();
+    EXPECT_THAT(m_witness.m_held, ElementsAre(QString(Texts::Causes::Pin_Wanted)));
+    EXPECT_EQ(m_witness.m_goes_on, 1);
+    EXPECT_EQ(Texts().size(), 3U);
+    for (const std::string& command : m_phone.Heard())
+        EXPECT_THAT(command, testing::Not(testing::StartsWith("AT+CPIN=")));
+}
+
+TEST_F(Confirmed_Job, A_Hold_That_Lasts_Too_Long_Leaves_The_Rest_Untried)
+{
+    m_phone.Will_Answer("AT+CPIN?", "\r\n+CPIN: SIM PIN\r\n\r\nOK\r\n");
+    m_options.hold_seconds = 10;
+    Run();
+    EXPECT_THAT(m_witness.m_rows, IsEmpty());
+    EXPECT_THAT(m_witness.m_told, ElementsAre(QString(Texts::Confirmed::Waited_Too_Long)));
+    EXPECT_FALSE(m_has_handed_over);
+}
+
+TEST_F(Confirmed_Job, A_Card_That_Wants_Its_Puk_Ends_The_Job_Before_It_Begins)
+{
+    m_phone.Will_Answer("AT+CPIN?", "\r\n+CPIN: SIM PUK\r\n\r\nOK\r\n");
+    Run();
+    EXPECT_THAT(m_witness.m_told, ElementsAre(QString(Texts::Causes::Puk_Wanted)));
+    EXPECT_THAT(Texts(), IsEmpty());
+    EXPECT_FALSE(QDir(m_options.folder).exists());
+}
+
+TEST_F(Confirmed_Job, A_Journal_That_Cannot_Be_Made_Sends_Nothing)
+{
+    m_options.folder = QStringLiteral("/dev/null/Jobs");
+    Run();
+    EXPECT_THAT(Texts(), IsEmpty());
+    ASSERT_EQ(m_witness.m_told.size(), 1);
+    EXPECT_THAT(m_witness.m_told.first().toStdString(), testing::HasSubstr("journal cannot be written"));
+}
+
+TEST_F(Confirmed_Job, The_Alphabet_Follows_The_Text_And_Long_Messages_Are_Joined)
+{
+    m_order.recipients.Clear();
+    const QString euros = QStringLiteral("€ [x] ").repeated(40);
+    const QString smiles = QStringLiteral("🙂").repeated(70);
+    Add(QStringLiteral("004915550001"), euros);
+    Add(QStringLiteral("0700900100"), smiles);
+    Run();
+    EXPECT_THAT(Texts(), ElementsAre(euros.toStdString(), smiles.toStdString()));
+    EXPECT_EQ(m_phone.Inbox()[0].m_alphabet, "GSM 7-bit");
+    EXPECT_EQ(m_phone.Inbox()[0].m_number, "+4915550001");
+    EXPECT_EQ(m_phone.Inbox()[1].m_parts, 3);
+    EXPECT_NE(m_phone.Inbox()[0].m_reference, m_phone.Inbox()[1].m_reference);
+    EXPECT_EQ(m_witness.m_rows[1].references.size(), 3);
+}
+
+TEST_F(Confirmed_Job, A_Device_With_Text_Mode_Alone_Gets_The_Same_Texts)
+{
+    Phone_Moods moods;
+    moods.m_text_only = true;
+    m_phone.Set_Moods(moods);
+    m_order.recipients.Clear();
+    Add(QStringLiteral("004915550001"), QStringLiteral("10 € [net]\nOK"));
+    Add(QStringLiteral("0700900100"), QStringLiteral("Привет"));
+    Run();
+    EXPECT_THAT(m_witness.States(), ElementsAre(Row_State::Sent, Row_State::Sent));
+    EXPECT_THAT(Texts(), ElementsAre("10 € [net]\nOK", "Привет"));
+    EXPECT_EQ(m_phone.Inbox()[0].m_number, "+4915550001");
+}
+
+TEST_F(Confirmed_Job, A_Pulled_Cable_After_The_End_Of_A_Message_Leaves_It_In_Doubt)
+{
+    Phone_Moods moods;
+    moods.m_hang_up_in_body_at = 2;
+    m_phone.Set_Moods(moods);
+    m_options.hold_seconds = 5;
+    Run();
+    EXPECT_THAT(m_witness.States(), ElementsAre(Row_State::Sent, Row_State::May_Have_Been_Sent));
+    EXPECT_THAT(m_witness.m_held, ElementsAre(QString(Texts::Confirmed::Device_Is_Gone)));
+    ASSERT_EQ(Unfinished().size(), 1);
+    EXPECT_EQ(Unfinished().first().counts.sent, 1);
+    EXPECT_EQ(Unfinished().first().counts.unknown, 1);
+    EXPECT_EQ(Unfinished().first().counts.not_tried, 1);
+}
+
+namespace {
+
+// A report in a frame (3GPP TS 23.040, 9.2.2.3) about a part to 0700900100.
+std::string Report_Frame(int reference, const char* status)
+{
+    const QByteArray octets = "0006" + QByteArray::number(reference, 16).rightJustified(2, '0').toUpper() +
+                              "0A817000091000" + "62112101000000" + "62112101000500" + status;
+    return "\r\n+CDS: " + std::to_string(octets.size() / 2 - 1) + "\r\n" + octets.toStdString() + "\r\n";
+}
+
+} // namespace
+
+TEST_F(Confirmed_Job, Delivery_Reports_Find_Their_Parts)
+{
+    m_phone.Will_Answer("AT+CNMI=2,0,0,1,0", "\r\n+CMS ERROR: 303\r\n");
+    m_phone.Will_Answer("AT+CNMI=1,0,0,1,0", "\r\nOK\r\n");
+    m_options.job.report_seconds = 1;
+    m_witness.m_on_row = [this] {
+        if (m_witness.m_rows.size() == 1)
+            m_phone.Says(Report_Frame(m_witness.m_rows[0].references[0], "00"));
+    };
+    Run();
+    EXPECT_THAT(m_witness.m_reports, ElementsAre(std::array{0, 1, 0}));
+    EXPECT_EQ(m_phone.Parts()[0].m_first_octet & 0x20, 0x20) << "a report was asked for";
+}
+
+TEST_F(Confirmed_Job, A_Report_That_Lies_In_The_Memory_Is_Taken_From_There)
+{
+    m_phone.Will_Answer("AT+CNMI=*", "\r\nERROR\r\n");
+    m_phone.Will_Answer("AT+CNMI=2,0,0,2,0", "\r\nOK\r\n");
+    m_phone.Will_Answer("AT+CPMS?", "\r\n+CPMS: \"SM\",0,10,\"SM\",0,10,\"SM\",0,10\r\n\r\nOK\r\n");
+    m_phone.Will_Answer("AT+CPMS=\"SR\"", "\r\n+CPMS: 1,10,1,10,1,10\r\n\r\nOK\r\n");
+    m_phone.Will_Answer("AT+CPMS=\"SM\"", "\r\n+CPMS: 0,10,0,10,0,10\r\n\r\nOK\r\n");
+    m_phone.Will_Answer("AT+CMGD=3", "\r\nOK\r\n");
+    m_options.job.report_seconds = 1;
+    m_witness.m_on_row = [this] {
+        if (m_witness.m_rows.size() > 1)
+            return;
+        const std::string frame = Report_Frame(m_witness.m_rows[0].references[0], "46");
+        m_phone.Will_Answer("AT+CMGR=3", "\r\n+CMGR: 0,,25" + frame.substr(frame.find("\r\n", 2)) + "\r\nOK\r\n");
+        m_phone.Says("\r\n+CDSI: \"SR\",3\r\n");
+    };
+    Run();
+    EXPECT_THAT(m_witness.m_reports, ElementsAre(std::array{0, 1, 0x46}));
+    EXPECT_THAT(m_phone.Heard(), testing::Contains("AT+CMGD=3"));
+    EXPECT_THAT(m_witness.States(), ElementsAre(Row_State::Sent, Row_State::Sent, Row_State::Sent))
+        << "not delivered is another matter";
+}
+
+TEST_F(Confirmed_Job, A_Device_That_Is_Plugged_In_Again_Goes_On_With_The_Next_Message)
+{
+    const QString link = m_folder.path() + QStringLiteral("/modem");
+    ASSERT_TRUE(QFile::link(m_order.device_path, link));
+    m_order.device_path = link;
+    Phone_Moods moods;
+    moods.m_hang_up_at = 2; // in place of the prompt: nothing was sent
+    m_phone.Set_Moods(moods);
+    Virtual_Phone::Listeners listeners;
+    listeners.m_on_hang_up = [this, link] {
+        m_phone.Set_Moods({});
+        QFile::remove(link);
+        QFile::link(QString::fromStdString(m_phone.Plug_In_Again()), link);
+    };
+    m_phone.Set_Listeners(listeners);
+    Run();
+    EXPECT_THAT(m_witness.States(), ElementsAre(Row_State::Sent, Row_State::Sent, Row_State::Sent));
+    EXPECT_THAT(m_witness.m_held, IsEmpty()) << "a plug that was out for a moment is no hold";
+    EXPECT_THAT(Texts(), ElementsAre("One", "Two", "Three"));
+}
+
+TEST_F(Confirmed_Job, A_Stop_While_The_Job_Is_Held_Leaves_No_Journal)
+{
+    m_phone.Will_Answer("AT+CPIN?", "\r\n+CPIN: SIM PIN\r\n\r\nOK\r\n");
+    m_witness.m_on_held = [this] { m_stop = 1; };
+    Run();
+    EXPECT_THAT(m_witness.m_rows, IsEmpty());
+    EXPECT_THAT(m_witness.m_told, IsEmpty());
+    EXPECT_FALSE(QDir(m_options.folder).exists());
+}
