@@ -4,6 +4,7 @@
 #include "support/Own_Seconds.h"
 
 #include <QCryptographicHash>
+#include <QFileInfo>
 
 namespace {
 
@@ -12,6 +13,8 @@ const QByteArray Time = "2026-11-21T09:15:00Z";
 class Job_Reader_Test : public Job_Test
 {
 protected:
+    Job_Reader_Test() { m_folder = m_memory.filePath(QStringLiteral("Jobs")); }
+
     /// The sample's header and these lines, with times where an "@" stands.
     static QByteArray Journal(const QByteArrayList& lines)
     {
@@ -20,6 +23,10 @@ protected:
             journal += Job_Line::Whole(line.replace("@", Time).split(' '));
         return journal;
     }
+
+    // Thousands of journals are written: a disk would make each of them wait.
+    QTemporaryDir m_memory{(QFileInfo("/dev/shm").isWritable() ? QStringLiteral("/dev/shm") : QDir::tempPath()) +
+                           "/XXXXXX"};
 };
 
 /// What becomes of a row: its state, its words, what was sent of it, its references and tries.
