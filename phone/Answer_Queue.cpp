@@ -7,7 +7,6 @@ namespace Handset {
 namespace {
 
 constexpr std::size_t Most_Waiting = 256 * 1024; // bytes
-constexpr std::chrono::microseconds Split_Gap(100);
 
 } // namespace
 
@@ -16,13 +15,13 @@ void Answer_Queue::Put(const Utterance& said, Clock::time_point now)
     Put_Piece(said.m_bytes, now + std::chrono::milliseconds(said.m_delay_ms));
 }
 
-void Answer_Queue::Put_Split(const Utterance& said, Clock::time_point now)
+void Answer_Queue::Put_Split(const Utterance& said, Clock::time_point now, Clock::duration gap)
 {
     auto moment = now + std::chrono::milliseconds(said.m_delay_ms);
     if (!m_waiting.empty())
         moment = std::max(moment, m_waiting.back().m_moment);
     for (const char byte : said.m_bytes) {
-        moment += Split_Gap;
+        moment += gap;
         Put_Piece(std::string(1, byte), moment);
     }
 }

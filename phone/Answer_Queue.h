@@ -1,6 +1,6 @@
 #pragma once
 
-#include "phone/Phone_Mind.h"
+#include "phone/Phone_Voice.h"
 
 #include <chrono>
 #include <deque>
@@ -20,7 +20,7 @@ public:
     void Put(const Utterance& said, Clock::time_point now);
 
     /// Sends the bytes one by one, this far apart.
-    void Put_Split(const Utterance& said, Clock::time_point now);
+    void Put_Split(const Utterance& said, Clock::time_point now, Clock::duration gap = std::chrono::microseconds(100));
 
     bool Is_Empty() const { return m_waiting.empty(); }
 

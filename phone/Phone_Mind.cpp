@@ -1,6 +1,6 @@
 #include "phone/Phone_Mind.h"
 
-#include <array>
+#include <algorithm>
 #include <utility>
 
 namespace Handset {
@@ -9,24 +9,40 @@ namespace {
 
 constexpr std::size_t Longest_Line = 1024;
 constexpr std::size_t Longest_Body = 4096;
-constexpr int Longest_Tpdu = 255;
+constexpr int Memory_Full = 322;   // +CMS ERROR, 27.005 3.2.5
+constexpr int Wants_Report = 0x20; // TP-SRR, 23.040 9.2.3.5
 constexpr char End_Of_Message = 0x1A;
 constexpr char Escape = 0x1B;
-
-constexpr std::array Status_Lines = {"\r\nRING\r\n", "\r\n+CMTI: \"SM\",1\r\n", "\r\n+CREG: 1\r\n"};
-
-// Neither an answer nor text: control characters, a NUL, invalid UTF-8.
-constexpr char Noise_Bytes[] = "\x80\xFE\xC3(\x00\x07~\xED\xA0\x80\x9F\x01}\xFF\r\n\xF8\x88{\x00\xC0\xAF^\x1F\xFF";
-constexpr std::string_view Noise(Noise_Bytes, sizeof Noise_Bytes - 1);
 
 bool Begins_A_Command(std::string_view line)
 {
     return line.size() >= 2 && (line[0] == 'A' || line[0] == 'a') && (line[1] == 'T' || line[1] == 't');
 }
 
+using Kind = Message_Manner::Kind;
+
+bool Is_At_Once(Kind kind)
+{
+    return kind == Kind::Refused_At_Once;
+}
+
+bool Is_Delay(Kind kind)
+{
+    return kind == Kind::Delayed;
+}
+
+bool Is_Result(Kind kind)
+{
+    return !Is_At_Once(kind) && !Is_Delay(kind);
+}
+
 } // namespace
 
-Phone_Mind::Phone_Mind(const Phone_Moods& moods) : m_moods(moods), m_manners(moods), m_settings(moods) {}
+Phone_Mind::Phone_Mind(const Phone_Moods& moods, std::function<Time()> now)
+    : m_moods(moods), m_now(std::move(now)), m_commands(moods, m_now()), m_voice(moods), m_reports(moods),
+      m_next_reference(moods.m_first_reference % 256)
+{
+}
 
 void Phone_Mind::Take(std::string_view bytes)
 {
@@ -43,12 +59,29 @@ void Phone_Mind::Take(std::string_view bytes)
         m_happenings.m_bytes += held[at];
         ++m_taken;
         Take_Byte(held[at]);
+        if (++m_heard_in_all == m_moods.m_hang_up_after_heard)
+            m_happenings.m_hangs_up = true;
     }
 }
 
 Happenings Phone_Mind::Take_Happenings()
 {
+    m_happenings.m_said = m_voice.Take_Said();
     return std::exchange(m_happenings, {});
+}
+
+// As with +CNMI mode 2, nothing of its own comes between a prompt and the result.
+void Phone_Mind::Look_At_The_Clock()
+{
+    if (m_state == State::Body)
+        return;
+    for (const auto& report : m_reports.Take_Due(m_now()))
+        Report(report);
+}
+
+std::optional<Phone_Mind::Time> Phone_Mind::Next_Moment() const
+{
+    return m_state == State::Body ? std::nullopt : m_reports.Next_Moment();
 }
 
 bool Phone_Mind::Has_Stopped_Reading() const
@@ -60,22 +93,25 @@ bool Phone_Mind::Has_Stopped_Reading() const
 void Phone_Mind::Set_Moods(const Phone_Moods& moods)
 {
     m_moods = moods;
-    m_manners.Set_Moods(moods);
-    m_settings.Set_Moods(moods);
+    m_commands.Set_Moods(moods, m_now());
+    m_voice.Set_Moods(moods);
+    m_reports.Set_Moods(moods);
     Take({});
 }
 
 void Phone_Mind::Will_Answer(std::string_view command, std::string answer)
 {
-    m_manners.Will_Answer(command, std::move(answer));
+    m_commands.Will_Answer(command, std::move(answer));
 }
 
 void Phone_Mind::Plug_In()
 {
-    m_settings.Plug_In();
-    m_kept_back = {};
+    m_commands.Plug_In();
+    m_voice.Plug_In();
+    m_late_result.clear();
     m_state = State::Command;
     m_line.clear();
+    m_last_line = "AT";
     m_held_back.clear();
     m_is_too_long = false;
     m_skips_line_feed = false;
@@ -86,12 +122,9 @@ void Phone_Mind::Plug_In()
 void Phone_Mind::Forget()
 {
     m_joiner.Forget();
+    m_reports.Forget();
     m_message_count = 0;
-}
-
-std::string Phone_Mind::Status_Line()
-{
-    return With_Line_Ends(Status_Lines.at(m_status_count++ % Status_Lines.size()));
+    m_heard_in_all = 0;
 }
 
 void Phone_Mind::Take_Byte(char byte)
@@ -115,6 +148,13 @@ void Phone_Mind::Take_Command_Byte(char byte)
     const bool is_leading_blank = m_line.empty() && byte == ' ';
     if (byte == '\n' || byte == '\0' || byte == End_Of_Message || byte == Escape || is_leading_blank)
         return;
+    if (byte == '/' && (m_line == "A" || m_line == "a")) { // V.250 5.2.4: at once, without a line end
+        m_line.clear();
+        m_happenings.m_lines.emplace_back("A/");
+        Echo("A/");
+        Hear(m_last_line, false);
+        return;
+    }
     if (m_line.size() == Longest_Line) {
         m_is_too_long = true;
         return;
@@ -136,64 +176,79 @@ void Phone_Mind::Take_Line()
     if (!Begins_A_Command(line))
         return;
     Echo("\r");
+    m_last_line = line;
+    Hear(line, is_too_long);
+}
+
+void Phone_Mind::Hear(const std::string& line, bool is_too_long)
+{
     if (m_moods.m_silent || m_moods.m_echo_only)
         return;
+    if (const std::string late = std::exchange(m_late_result, {}); !late.empty())
+        m_voice.Answer(late);
     if (m_moods.m_garbage)
-        Answer(Noise, true);
+        m_voice.Make_Noise();
     else if (is_too_long)
-        Answer("\r\nERROR\r\n");
+        m_voice.Answer("\r\nERROR\r\n");
     else
         Obey(Normal_Command(line));
 }
 
 void Phone_Mind::Obey(const std::string& command)
 {
-    const Manner manner = m_manners.Find(command);
-    if (manner.m_as_given) {
-        Answer(manner.m_answer, true);
+    const Command_Reply reply = m_commands.Obey(command, m_now());
+    if (reply.m_as_given) {
+        m_voice.Answer_As_Given(reply.m_text);
         return;
     }
-    const auto equals = command.find('=');
-    const std::string_view argument =
-        equals == std::string::npos ? std::string_view() : std::string_view(command).substr(equals + 1);
-    if (manner.m_deed == Deed::Take_Message)
-        Ask_For_Message(argument);
-    else if (m_settings.Do(manner.m_deed, argument))
-        Answer(m_settings.Filled(manner.m_answer));
-    else
-        Answer("\r\nERROR\r\n");
+    if (reply.m_wants == Command_Reply::Wants::Nothing) {
+        m_voice.Answer(reply.m_text);
+        return;
+    }
+    if (!reply.m_text.empty()) // of commands in front of it on its line
+        m_voice.Answer(reply.m_text);
+    Ask_For_Message(reply);
 }
 
-// +CMGS=<length> or +CMGS=<da>[,<toda>] (27.005 4.3 and 3.5.1)
-void Phone_Mind::Ask_For_Message(std::string_view argument)
+void Phone_Mind::Ask_For_Message(const Command_Reply& reply)
 {
-    const auto arguments = Arguments_Of(argument);
-    if (m_settings.Is_Text_Format()) {
-        const auto quoted = Unquoted(arguments.front());
-        const auto type = arguments.size() == 2 ? arguments[1] : std::string_view();
-        m_number = quoted && arguments.size() <= 2 ? m_settings.Number(*quoted, type) : std::string();
-        if (m_number.empty()) {
-            Answer_Error(int(Message_Error::Invalid_Text));
-            return;
-        }
-    } else {
-        m_announced = Number_Of(argument).value_or(0);
-        if (m_announced < 1 || m_announced > Longest_Tpdu) {
-            Answer_Error(int(Message_Error::Invalid_Pdu));
-            return;
-        }
-    }
-    ++m_message_count;
-    if (m_message_count == m_moods.m_hang_up_at) {
-        m_happenings.m_hangs_up = true;
+    const bool is_draft = reply.m_wants == Command_Reply::Wants::Message_To_Keep;
+    const auto request = Request_Of(reply.m_argument, is_draft, m_commands.Settings());
+    if (!request) {
+        const bool is_text = m_commands.Settings().Is_Text_Format();
+        Answer_Error(int(is_text ? Message_Error::Invalid_Text : Message_Error::Invalid_Pdu));
         return;
     }
+    m_request = *request;
+    if (!is_draft) {
+        ++m_message_count;
+        if (m_message_count == m_moods.m_hang_up_at) {
+            m_happenings.m_hangs_up = true;
+            return;
+        }
+        if (const std::string refusal = Refusal_At_Once(); !refusal.empty()) {
+            m_voice.Answer(refusal);
+            return;
+        }
+    }
     m_state = State::Body;
-    if (!m_moods.m_no_prompt)
-        m_happenings.m_said.push_back(
-            {With_Line_Ends(m_moods.m_prompt_without_blank ? "\r\n>" : "\r\n> "), m_moods.m_late_prompt_ms});
-    if (m_message_count == m_moods.m_stop_reading_at)
+    m_voice.Prompt();
+    if (!is_draft && m_message_count == m_moods.m_stop_reading_at)
         m_stopped_at = m_message_count;
+}
+
+// An empty text when there is none.
+std::string Phone_Mind::Refusal_At_Once()
+{
+    if (const Message_Manner* manner = Manner_For(m_request.m_number, Is_At_Once))
+        return As_Told(manner->m_text);
+    if (m_message_count == m_moods.m_network_lost_at)
+        m_commands.Net().Get_Lost(m_now());
+    if (!m_commands.Has_Network(m_now()))
+        return m_commands.Error_Answer("+CMS ERROR: 331");
+    return m_moods.m_memory_full && m_commands.Memory().Is_Full()
+               ? m_commands.Error_Answer("+CMS ERROR: " + std::to_string(Memory_Full))
+               : std::string();
 }
 
 void Phone_Mind::Take_Body_Byte(char byte)
@@ -203,7 +258,7 @@ void Phone_Mind::Take_Body_Byte(char byte)
         if (byte == End_Of_Message)
             End_Message();
         else
-            Answer("\r\nOK\r\n");
+            m_voice.Answer("\r\nOK\r\n");
         m_line.clear();
         m_is_too_long = false;
         return;
@@ -214,61 +269,125 @@ void Phone_Mind::Take_Body_Byte(char byte)
     }
     m_line += byte;
     Echo(std::string_view(m_line).substr(m_line.size() - 1));
-    const std::size_t half = m_settings.Is_Text_Format() ? 1 : std::size_t(m_announced);
-    if (m_message_count == m_moods.m_hang_up_in_body_at && m_line.size() >= half)
+    const std::size_t half = m_commands.Settings().Is_Text_Format() ? 1 : std::size_t(m_request.m_announced);
+    if (!m_request.m_is_draft && m_message_count == m_moods.m_hang_up_in_body_at && m_line.size() >= half)
         m_happenings.m_hangs_up = true;
 }
 
 void Phone_Mind::End_Message()
 {
+    const bool is_text = m_commands.Settings().Is_Text_Format();
     const auto error_wanted = m_moods.m_cms_error_at.find(m_message_count);
-    if (error_wanted != m_moods.m_cms_error_at.end()) {
-        Answer_Error(error_wanted->second);
+    if (!m_request.m_is_draft && error_wanted != m_moods.m_cms_error_at.end()) {
+        m_voice.Answer(As_Told("+CMS ERROR: " + std::to_string(error_wanted->second)));
         return;
     }
-    const bool is_text = m_settings.Is_Text_Format();
     if (m_is_too_long) {
         Answer_Error(int(is_text ? Message_Error::Invalid_Text : Message_Error::Invalid_Pdu));
         return;
     }
-    const Submission submission =
-        is_text ? Submission_Of_Text(m_line, m_number, m_settings) : Submission_Of_Pdu(m_line, m_announced, m_settings);
-    if (submission.m_part)
-        Accept(*submission.m_part);
-    else
+    if (m_request.m_is_draft) {
+        End_Draft();
+        return;
+    }
+    const Phone_Settings& settings = m_commands.Settings();
+    const Submission submission = is_text ? Submission_Of_Text(m_line, m_request.m_number, settings)
+                                          : Submission_Of_Pdu(m_line, m_request.m_announced, settings);
+    const std::string number = submission.m_part ? submission.m_part->m_shown.m_number : m_request.m_number;
+    const Message_Manner* manner = Manner_For(number, Is_Result);
+    const bool is_refused = manner && (manner->m_kind == Kind::Refused || manner->m_kind == Kind::Second_Prompt);
+    if (!is_refused && !submission.m_part) {
         Answer_Error(int(submission.m_error));
+        return;
+    }
+    const std::string result = is_refused ? Refusal_Of(*manner) : Result_Of(Accepted(*submission.m_part), manner);
+    const Message_Manner* delay = Manner_For(number, Is_Delay);
+    if (manner && manner->m_kind == Kind::At_The_Next_Command)
+        m_late_result = result;
+    else if (!result.empty())
+        m_voice.Answer(result, Paced_Wait(m_moods, delay ? delay->m_seconds : 0));
 }
 
-void Phone_Mind::Accept(Received_Part part)
+std::string Phone_Mind::Refusal_Of(const Message_Manner& manner) const
 {
-    part.m_shown.m_message_reference = m_next_reference;
-    m_next_reference = (m_next_reference + 1) % 256;
+    return manner.m_kind == Kind::Second_Prompt ? "\r\n> \r\nERROR\r\n" : As_Told(manner.m_text);
+}
+
+// What is said of a message that was sent; an empty text for nothing.
+std::string Phone_Mind::Result_Of(int reference, const Message_Manner* manner) const
+{
+    if (manner && manner->m_kind == Kind::Without_Result)
+        return {};
+    if (manner && manner->m_kind == Kind::Refused_Though_Sent)
+        return As_Told(manner->m_text);
+    if (manner && manner->m_kind == Kind::Without_Reference)
+        return "\r\nOK\r\n";
+    return "\r\n+CMGS: " + std::to_string(reference) + "\r\n\r\nOK\r\n";
+}
+
+// The network has it; its reference.
+int Phone_Mind::Accepted(Received_Part part)
+{
+    const int reference = std::exchange(m_next_reference, (m_next_reference + 1) % 256);
+    part.m_shown.m_message_reference = reference;
     m_happenings.m_arrivals.push_back({part.m_shown, m_joiner.Take(part)});
-    Answer("\r\n+CMGS: " + std::to_string(part.m_shown.m_message_reference) + "\r\n\r\nOK\r\n");
+    if ((part.m_shown.m_first_octet & Wants_Report) != 0)
+        m_reports.Send_For(part.m_shown.m_number, reference, m_now());
+    return reference;
+}
+
+const Message_Manner* Phone_Mind::Manner_For(const std::string& number, bool (*is_wanted)(Kind)) const
+{
+    const auto& rows = m_moods.m_message_manners;
+    const auto fits = [&](const Message_Manner& row) {
+        return is_wanted(row.m_kind) && m_message_count >= row.m_from && m_message_count <= row.m_to &&
+               number.ends_with(row.m_number_end);
+    };
+    const auto found = std::find_if(rows.begin(), rows.end(), fits);
+    return found == rows.end() ? nullptr : &*found;
+}
+
+void Phone_Mind::End_Draft()
+{
+    const Draft draft = Draft_Of(m_line, m_request, m_commands.Settings());
+    if (!draft.m_message)
+        Answer_Error(int(draft.m_error));
+    else if (const auto place = m_commands.Memory().Write(*draft.m_message))
+        m_voice.Answer("\r\n+CMGW: " + std::to_string(*place) + "\r\n\r\nOK\r\n");
+    else
+        Answer_Error(Memory_Full);
+}
+
+// 27.005 3.4.1
+void Phone_Mind::Report(const Delivery_Report& report)
+{
+    const Phone_Settings& settings = m_commands.Settings();
+    std::string told;
+    if (settings.Report_Delivery() == 1) {
+        const Frame_Writer frame = Frame_Of(report, settings.Centre());
+        told = settings.Is_Text_Format()
+                   ? Text_Line_Of(report)
+                   : (m_moods.m_report_comma ? "," : "") + std::to_string(frame.Tpdu_Octets()) + "\r\n" + frame.Hex();
+        told.insert(0, "+CDS: ");
+    } else if (settings.Report_Delivery() == 2) {
+        if (const auto place = m_commands.Memory().Put(report, settings.Centre()))
+            told = "+CDSI: \"SR\"," + std::to_string(*place);
+    }
+    if (!told.empty())
+        m_voice.Tell("\r\n" + told + "\r\n");
 }
 
 void Phone_Mind::Echo(std::string_view bytes)
 {
-    if (m_settings.Echo() && !m_moods.m_silent)
-        m_happenings.m_said.push_back({std::string(bytes), 0});
+    if (m_commands.Settings().Echo() && !m_moods.m_silent)
+        m_voice.Say(std::string(bytes));
 }
 
-void Phone_Mind::Answer(std::string_view text, bool as_given)
+// A result that a mood gives: as it is, but for words where errors are in words.
+std::string Phone_Mind::As_Told(const std::string& line) const
 {
-    Utterance answer{as_given ? std::string(text) : With_Line_Ends(text), m_moods.m_answer_delay_ms};
-    if (m_moods.m_one_answer_behind)
-        std::swap(answer, m_kept_back);
-    m_happenings.m_said.push_back(std::move(answer));
-    if (m_moods.m_unsolicited)
-        m_happenings.m_said.push_back({Status_Line(), 0});
-}
-
-std::string Phone_Mind::With_Line_Ends(std::string_view text) const
-{
-    std::string said(text);
-    if (m_moods.m_cr_only)
-        std::erase(said, '\n');
-    return said;
+    const bool in_words = m_commands.Settings().Errors() == Error_Style::Words;
+    return "\r\n" + (in_words ? Error_Line(line, Error_Style::Words) : line) + "\r\n";
 }
 
 } // namespace Handset

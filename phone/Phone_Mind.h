@@ -1,25 +1,22 @@
 #pragma once
 
 #include "handset/Message_Joiner.h"
-#include "phone/Phone_Manners.h"
+#include "phone/Message_Request.h"
+#include "phone/Phone_Commands.h"
 #include "phone/Phone_Moods.h"
-#include "phone/Phone_Settings.h"
+#include "phone/Phone_Voice.h"
+#include "phone/Report_Post.h"
 #include "phone/Submission.h"
 
+#include <chrono>
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace Handset {
-
-/// Bytes to send after a delay.
-struct Utterance
-{
-    std::string m_bytes;
-    int m_delay_ms = 0;
-};
 
 /// A part, and the message that it completed.
 struct Arrival
@@ -38,16 +35,22 @@ struct Happenings
     bool m_hangs_up = false;
 };
 
-/// The phone without its line: bytes in, bytes and messages out. Has no descriptor, thread or clock, so that it can be
-/// tested as a value. Owned by Virtual_Phone, which calls it under its lock.
+/// The phone without its line: bytes in, bytes and messages out. Has no descriptor or thread, and is given its clock,
+/// so that it can be tested as a value. Owned by Virtual_Phone, which calls it under its lock.
 class Phone_Mind
 {
 public:
-    explicit Phone_Mind(const Phone_Moods& moods);
+    using Time = std::chrono::steady_clock::time_point;
+
+    explicit Phone_Mind(const Phone_Moods& moods, std::function<Time()> now = std::chrono::steady_clock::now);
 
     /// Bytes from the line. A phone that has stopped reading keeps them back until its moods let it go on.
     void Take(std::string_view bytes);
     Happenings Take_Happenings();
+
+    /// Says what it says by itself and is due; asked again at the next such moment.
+    void Look_At_The_Clock();
+    std::optional<Time> Next_Moment() const;
 
     /// True while it takes nothing off the line.
     bool Has_Stopped_Reading() const;
@@ -60,7 +63,7 @@ public:
     void Forget();  ///< half-received messages are gone, messages count from 1
 
     /// The next status line, for a phone that talks on its own.
-    std::string Status_Line();
+    std::string Status_Line() { return m_voice.Status_Line(); }
 
 private:
     enum class State
@@ -73,36 +76,44 @@ private:
     void Take_Command_Byte(char byte);
     void Take_Body_Byte(char byte);
     void Take_Line();
+    void Hear(const std::string& line, bool is_too_long);
     void Obey(const std::string& command);
-    void Ask_For_Message(std::string_view argument);
+    void Ask_For_Message(const Command_Reply& reply);
+    std::string Refusal_At_Once();
     void End_Message();
-    void Accept(Received_Part part);
+    void End_Draft();
+    std::string Refusal_Of(const Message_Manner& manner) const;
+    std::string Result_Of(int reference, const Message_Manner* manner) const;
+    int Accepted(Received_Part part);
+    const Message_Manner* Manner_For(const std::string& number, bool (*is_wanted)(Message_Manner::Kind)) const;
+    void Report(const Delivery_Report& report);
 
     void Echo(std::string_view bytes);
-    void Answer(std::string_view text, bool as_given = false);
-    void Answer_Error(int number) { Answer("\r\n+CMS ERROR: " + std::to_string(number) + "\r\n"); }
-    std::string With_Line_Ends(std::string_view text) const;
+    void Answer_Error(int number) { m_voice.Answer(m_commands.Error_Answer("+CMS ERROR: " + std::to_string(number))); }
+    std::string As_Told(const std::string& line) const;
 
     Phone_Moods m_moods;
-    Phone_Manners m_manners;
-    Phone_Settings m_settings;
+    std::function<Time()> m_now;
+    Phone_Commands m_commands;
+    Phone_Voice m_voice;
+    Report_Post m_reports;
     Message_Joiner m_joiner;
     Happenings m_happenings;
 
     State m_state = State::Command;
-    std::string m_line; // the command line or message body so far
+    std::string m_line;             // the command line or message body so far
+    std::string m_last_line = "AT"; // which "A/" repeats
     bool m_is_too_long = false;
     bool m_skips_line_feed = false;
     std::string m_held_back;
-    Utterance m_kept_back; // of a phone that is one answer behind
+    std::string m_late_result; // said when the next command was heard
 
-    int m_message_count = 0; // the k of "the k-th message"
-    int m_announced = 0;     // TPDU octets that the current AT+CMGS announced
-    std::string m_number;    // destination of the current text-mode message
-    int m_next_reference = 0;
-    int m_stopped_at = 0; // the message at which it stopped reading
-    long m_taken = 0;     // bytes taken since it was plugged in
-    unsigned m_status_count = 0;
+    int m_message_count = 0;   // the k of "the k-th message"
+    Message_Request m_request; // of the current message
+    int m_next_reference;
+    int m_stopped_at = 0;    // the message at which it stopped reading
+    long m_taken = 0;        // bytes taken since it was plugged in
+    long m_heard_in_all = 0; // since its start or the last Forget
 };
 
 } // namespace Handset

@@ -21,8 +21,8 @@ struct Phone_Options
     std::string m_error; ///< one line that says what is wrong; empty when nothing is
 };
 
-/// Arguments without the program's name.
-Phone_Options Read_Options(const std::vector<std::string>& arguments);
+/// Arguments without the program's name; the pace that the environment gives, an empty text for none.
+Phone_Options Read_Options(const std::vector<std::string>& arguments, const std::string& pace = {});
 
 std::string Help_Text();
 

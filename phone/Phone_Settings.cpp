@@ -3,6 +3,7 @@
 #include "handset/Unicode_Text.h"
 
 #include <algorithm>
+#include <array>
 
 namespace Handset {
 
@@ -22,6 +23,29 @@ std::optional<int> Number_Up_To(std::string_view digits, int most)
 {
     const auto number = Number_Of(digits);
     return number && *number <= most ? number : std::nullopt;
+}
+
+// "(0-2),(0,1)": what each field may be.
+std::vector<std::string_view> Ranges_Of(std::string_view takes)
+{
+    std::vector<std::string_view> ranges;
+    while (!takes.empty()) {
+        const auto close = takes.find(')');
+        ranges.push_back(takes.substr(1, close - 1));
+        takes.remove_prefix(std::min(takes.size(), close + 2));
+    }
+    return ranges;
+}
+
+// "0-2" or "0,1,4"
+bool Is_In(std::string_view range, std::string_view text)
+{
+    const auto number = Number_Of(text);
+    const auto dash = range.find('-');
+    if (dash != std::string_view::npos)
+        return number && number >= Number_Of(range.substr(0, dash)) && number <= Number_Of(range.substr(dash + 1));
+    const auto listed = Arguments_Of(range);
+    return std::any_of(listed.begin(), listed.end(), [&](auto one) { return number && number == Number_Of(one); });
 }
 
 } // namespace
@@ -70,7 +94,6 @@ bool Phone_Settings::Do(Deed deed, std::string_view argument)
 {
     switch (deed) {
     case Deed::Nothing:
-    case Deed::Take_Message:
         return true;
     case Deed::Echo_Off:
     case Deed::Echo_On:
@@ -100,8 +123,77 @@ bool Phone_Settings::Do(Deed deed, std::string_view argument)
         return Set_Parameters(argument);
     case Deed::Set_Charset:
         return Set_Charset(argument);
+    case Deed::Set_Operator:
+        return Set_Operator(argument);
+    default:
+        return false; // not a matter of settings
     }
-    return false;
+}
+
+bool Phone_Settings::Keep(const Manner& manner, std::string_view argument)
+{
+    const std::string name = manner.m_command.substr(2, manner.m_command.find('=') - 2);
+    const auto ranges = Ranges_Of(manner.m_takes);
+    const std::string current = Kept(name, manner.m_start);
+    const auto present = Arguments_Of(current);
+    const auto given = Arguments_Of(argument);
+    if (argument.empty() || given.size() > ranges.size())
+        return false;
+    std::string kept;
+    for (std::size_t at = 0; at < ranges.size(); ++at) {
+        const bool is_left_out = at >= given.size() || given[at].empty();
+        if (!is_left_out && !Is_In(ranges[at], given[at]))
+            return false;
+        const std::string_view old = at < present.size() ? present[at] : std::string_view("0");
+        kept += (at == 0 ? "" : ",") + std::string(is_left_out ? old : given[at]);
+    }
+    m_kept[name] = kept;
+    return true;
+}
+
+std::string Phone_Settings::Kept(const std::string& name, std::string_view start) const
+{
+    const auto found = m_kept.find(name);
+    return found == m_kept.end() ? std::string(start) : found->second;
+}
+
+Error_Style Phone_Settings::Errors() const
+{
+    constexpr std::array styles = {Error_Style::None, Error_Style::Numbers, Error_Style::Words};
+    if (m_moods.m_error_words)
+        return Error_Style::Words;
+    const auto set = Number_Of(Kept("+CMEE", ""));
+    return set ? styles.at(std::size_t(*set)) : Error_Style::Untouched;
+}
+
+int Phone_Settings::Report_Delivery() const
+{
+    constexpr std::size_t position = 3; // <mode>,<mt>,<bm>,<ds>,<bfr>
+    const std::string kept = Kept("+CNMI", "");
+    const auto fields = Arguments_Of(kept);
+    return fields.size() > position ? Number_Of(fields[position]).value_or(0) : 0;
+}
+
+// +COPS=<mode>[,<format>[,<oper>]] (27.007 7.3); mode 3 sets the format alone.
+bool Phone_Settings::Set_Operator(std::string_view argument)
+{
+    constexpr int format_alone = 3;
+    const auto arguments = Arguments_Of(argument);
+    const auto mode = Number_Up_To(arguments.front(), 4);
+    const auto format = arguments.size() > 1 && !arguments[1].empty() ? Number_Up_To(arguments[1], 2)
+                                                                      : std::optional(m_operator_format);
+    if (!mode || !format || arguments.size() > 4)
+        return false;
+    m_operator_mode = *mode == format_alone ? m_operator_mode : *mode;
+    m_operator_format = *format;
+    return true;
+}
+
+std::string Phone_Settings::Operator() const
+{
+    constexpr std::array names = {"Corvane Test", "Corvane", "00101"};
+    return std::to_string(m_operator_mode) + "," + std::to_string(m_operator_format) + ",\"" +
+           names.at(std::size_t(m_operator_format)) + "\"";
 }
 
 // +CSCA=<sca>[,<tosca>] (27.005 3.3.1)
@@ -210,10 +302,21 @@ std::optional<std::string> Phone_Settings::Value(std::string_view name) const
         return std::to_string(m_moods.m_battery_status) + "," + std::to_string(m_moods.m_battery_charge);
     if (name == "signal")
         return std::to_string(m_moods.m_signal);
+    if (name == "operator")
+        return Operator();
+    if (name == "acknowledged") // the report that +CNMA is for (27.005 3.4.4)
+        return m_service == 1 ? "OK" : "+CMS ERROR: 340";
+    if (const auto start = name.find('|'); name.starts_with('+') && start != std::string_view::npos)
+        return Kept(std::string(name.substr(0, start)), name.substr(start + 1));
     return std::nullopt;
 }
 
 std::string Phone_Settings::Filled(std::string_view answer) const
+{
+    return Filled_In(answer, [this](std::string_view name) { return Value(name); });
+}
+
+std::string Filled_In(std::string_view answer, const std::function<std::optional<std::string>(std::string_view)>& of)
 {
     std::string filled;
     while (!answer.empty()) {
@@ -223,7 +326,7 @@ std::string Phone_Settings::Filled(std::string_view answer) const
             break;
         answer.remove_prefix(open);
         const auto close = answer.find('}');
-        const auto value = close == std::string_view::npos ? std::nullopt : Value(answer.substr(1, close - 1));
+        const auto value = close == std::string_view::npos ? std::nullopt : of(answer.substr(1, close - 1));
         filled += value ? *value : std::string(1, '{');
         answer.remove_prefix(value ? close + 1 : 1);
     }

@@ -1,11 +1,15 @@
 #pragma once
 
+#include "phone/Phone_Errors.h"
 #include "phone/Phone_Manners.h"
 #include "phone/Phone_Moods.h"
 
+#include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace Handset {
 
@@ -23,8 +27,20 @@ public:
     /// Carries out a setting command; argument is what follows "=". False when it is invalid.
     bool Do(Deed deed, std::string_view argument);
 
-    /// Replaces every "{name}" that is one of the phone's values.
+    /// Sets a value of one or more numbers, such as +CNMI's: what is left out keeps its value. False when a field is
+    /// not one of those that the row takes; then nothing changes.
+    bool Keep(const Manner& manner, std::string_view argument);
+
+    /// Replaces every "{name}" that is one of these values.
     std::string Filled(std::string_view answer) const;
+    std::optional<std::string> Value(std::string_view name) const;
+
+    /// A value that was kept, or this one when no command has set it.
+    std::string Kept(const std::string& name, std::string_view start) const;
+    Error_Style Errors() const;
+
+    /// +CNMI <ds>: 0 no delivery reports, 1 on the line, 2 in memory.
+    int Report_Delivery() const;
 
     bool Echo() const { return m_echo.value_or(!m_moods.m_no_echo); }
     bool Is_Text_Format() const { return m_format.value_or(m_moods.m_text_only ? 1 : 0) == 1; }
@@ -42,9 +58,13 @@ private:
     bool Set_Centre(std::string_view argument);
     bool Set_Parameters(std::string_view argument);
     bool Set_Charset(std::string_view argument);
-    std::optional<std::string> Value(std::string_view name) const;
+    bool Set_Operator(std::string_view argument);
+    std::string Operator() const;
 
     Phone_Moods m_moods;
+    std::map<std::string, std::string, std::less<>> m_kept;
+    int m_operator_mode = 0;   // +COPS <mode>
+    int m_operator_format = 0; // +COPS <format>
     std::optional<bool> m_echo;
     std::optional<int> m_format;
     std::optional<std::string> m_centre;
@@ -56,6 +76,10 @@ private:
     int m_protocol = 0;
     int m_coding = 0;
 };
+
+/// The answer with every "{name}" replaced that is a value; a brace that names none stays.
+std::string Filled_In(std::string_view answer,
+                      const std::function<std::optional<std::string>(std::string_view)>& value);
 
 /// The text between double quotes; nothing where there are none around it.
 std::optional<std::string_view> Unquoted(std::string_view text);

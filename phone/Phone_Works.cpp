@@ -145,6 +145,7 @@ void Phone_Works::Serve()
 {
     if (m_line.Is_Open())
         Listen();
+    m_mind.Look_At_The_Clock();
     const Happenings happenings = m_mind.Take_Happenings();
     Note(happenings);
     if (happenings.m_hangs_up)
@@ -152,6 +153,7 @@ void Phone_Works::Serve()
     if (m_line.Is_Open()) {
         Look_Who_Is_There();
         Speak();
+        Leave_In_The_End();
     }
     Set_Timer();
     if (!m_news.empty())
@@ -199,7 +201,10 @@ void Phone_Works::Note(const Happenings& happenings)
 
 void Phone_Works::Say(const Utterance& said)
 {
-    if (m_mind.Moods().m_split_answers)
+    const Phone_Moods& moods = m_mind.Moods();
+    if (moods.m_byte_gap_ms > 0)
+        m_queue.Put_Split(said, Clock::now(), std::chrono::milliseconds(moods.m_byte_gap_ms));
+    else if (moods.m_split_answers)
         m_queue.Put_Split(said, Clock::now());
     else
         m_queue.Put(said, Clock::now());
@@ -228,8 +233,8 @@ void Phone_Works::Speak()
         m_queue.Put({m_mind.Status_Line(), 0}, now);
         m_next_talk = now + Talk_Gap;
     }
-    for (auto due = m_queue.Due(now); !due.empty() && !m_has_no_room; due = m_queue.Due(now)) {
-        const std::size_t count = m_line.Write(due);
+    for (auto due = m_queue.Due(now); !due.empty() && !m_has_no_room && !Has_Said_All(); due = m_queue.Due(now)) {
+        const std::size_t count = m_line.Write(due.substr(0, Left_To_Say()));
         m_queue.Went_Out(count);
         m_said += count;
         m_has_no_room = count == 0;
@@ -237,13 +242,47 @@ void Phone_Works::Speak()
     }
 }
 
+// How many bytes may go out before the phone hangs up.
+std::uint64_t Phone_Works::Left_To_Say() const
+{
+    const long limit = m_mind.Moods().m_hang_up_after_said;
+    if (limit < 0 || limit == m_left_after)
+        return UINT64_MAX;
+    return std::uint64_t(limit) > m_said ? std::uint64_t(limit) - m_said : 0;
+}
+
+// What was said last is to be heard: a pseudo-terminal drops what was not read when it is closed. Bytes may still be on
+// their way when nothing waits to be read, so that it must stay so.
+void Phone_Works::Leave_In_The_End()
+{
+    constexpr std::chrono::milliseconds quiet(10);
+    constexpr std::chrono::seconds patience(2);
+    if (!Has_Said_All() || !m_somebody_is_there)
+        return;
+    const auto now = Clock::now();
+    m_said_all_at = m_said_all_at.value_or(now);
+    if (m_line.Not_Read_Yet() != 0)
+        m_quiet_since.reset();
+    else
+        m_quiet_since = m_quiet_since.value_or(now);
+    if ((!m_quiet_since || now - *m_quiet_since < quiet) && now - *m_said_all_at < patience)
+        return;
+    m_left_after = m_mind.Moods().m_hang_up_after_said;
+    m_said_all_at.reset();
+    m_quiet_since.reset();
+    Close_Line();
+    m_news.emplace_back(std::nullopt);
+}
+
 // Arms the timer for the next bytes due, or to check for room again. An idle phone leaves it unarmed and costs nothing.
 void Phone_Works::Set_Timer() const
 {
     const auto now = Clock::now();
     auto moment = m_queue.Next_Moment();
-    if (moment && m_has_no_room)
+    if ((moment && m_has_no_room) || (m_line.Is_Open() && m_somebody_is_there && Has_Said_All()))
         moment = now + Room_Check;
+    if (const auto of_mind = m_mind.Next_Moment(); of_mind && (!moment || *of_mind < *moment))
+        moment = of_mind;
     if (!moment && m_line.Is_Open() && m_mind.Moods().m_never_stops_talking)
         moment = m_somebody_is_there ? m_next_talk : now + Room_Check;
     itimerspec setting{};

@@ -61,6 +61,9 @@ private:
     void Look_Who_Is_There();
     void Note(const Happenings& happenings);
     void Speak();
+    std::uint64_t Left_To_Say() const;
+    bool Has_Said_All() const { return Left_To_Say() == 0; } // and hangs up next
+    void Leave_In_The_End();
     void Set_Timer() const;
     static void Tell(const Virtual_Phone::Listeners& listeners, const News& news);
 
@@ -71,6 +74,9 @@ private:
     bool m_has_no_room = false;
     bool m_is_ending = false;
     Answer_Queue::Clock::time_point m_next_talk{};
+    long m_left_after = -1; // how many bytes, when it last hung up for having said that many
+    std::optional<Answer_Queue::Clock::time_point> m_said_all_at;
+    std::optional<Answer_Queue::Clock::time_point> m_quiet_since; // the other end has read all
 
     Descriptor m_waker;
     Descriptor m_timer;

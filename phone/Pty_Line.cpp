@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <poll.h>
 #include <stdlib.h>
+#include <sys/ioctl.h>
 #include <termios.h>
 
 #include <array>
@@ -76,6 +77,13 @@ std::size_t Pty_Line::Write(std::string_view bytes)
         if (errno != EINTR)
             return 0;
     }
+}
+
+int Pty_Line::Not_Read_Yet() const
+{
+    const Descriptor other = Opened_Other_End(m_path);
+    int waiting = 0;
+    return other.Is_Open() && ::ioctl(other.Number(), FIONREAD, &waiting) == 0 ? waiting : 0;
 }
 
 void Pty_Line::Drop_What_Was_Not_Read() const

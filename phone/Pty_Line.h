@@ -31,6 +31,9 @@ public:
     /// How many bytes went out; 0 when there is no room.
     std::size_t Write(std::string_view bytes);
 
+    /// How many bytes the other end has not read; 0 when nobody may look, as under exclusive use.
+    int Not_Read_Yet() const;
+
     /// Drops what the other end has not read, as a serial driver does at the last close; a pseudo-terminal would keep
     /// it for the next opener.
     void Drop_What_Was_Not_Read() const;

@@ -15,6 +15,7 @@
 #include <csignal>
 #include <cstdint>
 #include <cstdio>
+#include <cstdlib>
 #include <exception>
 #include <mutex>
 #include <utility>
@@ -121,7 +122,8 @@ int Run(const Handset::Phone_Options& options)
 
 int main(int count, char** arguments)
 {
-    const auto options = Handset::Read_Options({arguments + 1, arguments + count});
+    const char* pace = std::getenv("CORVANE_PACE");
+    const auto options = Handset::Read_Options({arguments + 1, arguments + count}, pace ? pace : "");
     if (!options.m_error.empty()) {
         std::fprintf(stderr, "corvane-phone: %s (--help shows the options)\n", options.m_error.c_str());
         return 2;

@@ -57,7 +57,8 @@ need_packages() {
             fail "these packages are missing and only root, or sudo without a password, may install them: ${missing[*]}"
         as_root=(sudo -n env)
     fi
-    local apt=("${as_root[@]}" DEBIAN_FRONTEND=noninteractive apt-get -q -y -o DPkg::Lock::Timeout=300
+    # The run level keeps the daemons that come with some packages from being started.
+    local apt=("${as_root[@]}" RUNLEVEL=1 DEBIAN_FRONTEND=noninteractive apt-get -q -y -o DPkg::Lock::Timeout=300
         -o Acquire::Retries=3)
 
     say "Installing ${missing[*]}"

@@ -17,7 +17,7 @@ TEST(Phone_Manners, Blanks_And_Case_Count_Inside_Quotes_Alone)
 TEST(Phone_Manners, What_No_Row_Knows_Is_An_Error)
 {
     const Phone_Manners manners{Phone_Moods()};
-    for (const char* unknown : {"AT+CXYZ", "AT+CMGF", "AT+", "ATX4", "AT+CMGR=1", "AT+CMGS", "ATQ"})
+    for (const char* unknown : {"AT+CXYZ", "AT+CMGF", "AT+", "ATQ1", "AT^CURC=0", "AT+CMGS", "ATD112"})
         EXPECT_EQ(manners.Find(unknown).m_answer, Error) << unknown;
 }
 
