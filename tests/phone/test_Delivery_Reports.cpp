@@ -20,7 +20,7 @@ const std::string Centre = "07915155009099F9";
 Strings Reports_In(const std::string& said)
 {
     Strings reports;
-    const std::string begin = "+CDS: 26\r\n" + Centre + "06";
+    const std::string begin = "+CDS: 25\r\n" + Centre + "06";
     for (auto at = said.find(begin); at != std::string::npos; at = said.find(begin, at + 1)) {
         const std::string frame = said.substr(at + begin.size(), 50);
         EXPECT_EQ(frame.substr(2, 16), "0B915155001032F4") << said;
@@ -97,8 +97,8 @@ TEST(Delivery_Reports, In_Memory_They_Are_Announced_Read_And_Deleted)
     EXPECT_EQ(talk.Waits(1s), Said("+CDSI: \"SR\",1"));
     EXPECT_EQ(talk.Asks("AT+CMGR=1"), Said("+CMS ERROR: 321")) << "another memory is chosen";
     EXPECT_EQ(talk.Asks("AT+CPMS=\"SR\""), Said("+CPMS: 1,20,0,20,0,20|OK"));
-    EXPECT_TRUE(talk.Asks("AT+CMGR=1").starts_with("\r\n+CMGR: 0,,26\r\n" + Centre + "06000B915155001032F4"));
-    EXPECT_TRUE(talk.Asks("AT+CMGL=4").starts_with("\r\n+CMGL: 1,1,,26\r\n" + Centre + "0600"));
+    EXPECT_TRUE(talk.Asks("AT+CMGR=1").starts_with("\r\n+CMGR: 0,,25\r\n" + Centre + "06000B915155001032F4"));
+    EXPECT_TRUE(talk.Asks("AT+CMGL=4").starts_with("\r\n+CMGL: 1,1,,25\r\n" + Centre + "0600"));
     talk.Asks("AT+CMGF=1");
     EXPECT_TRUE(talk.Asks("AT+CMGR=1").starts_with("\r\n+CMGR: \"REC READ\",6,0,\"+15550001234\",145,\""));
     EXPECT_EQ(talk.Asks("AT+CMGD=1"), Said("OK"));
@@ -125,7 +125,7 @@ TEST(Delivery_Reports, Some_Phones_Write_A_Comma_In_Front_Of_The_Length)
     Mind_Talk talk(moods);
     talk.Asks(On_The_Line);
     talk.Sends_With_Report();
-    EXPECT_TRUE(talk.Waits(1s).starts_with("\r\n+CDS: ,26\r\n" + Centre));
+    EXPECT_TRUE(talk.Waits(1s).starts_with("\r\n+CDS: ,25\r\n" + Centre));
 }
 
 TEST(Delivery_Reports, They_May_Come_Late_At_The_Pace)

@@ -201,7 +201,7 @@ TEST(Message_Manners, The_Lines_Between_Are_Known_By_Name)
     EXPECT_EQ(all, Unsolicited_Lines("ring,cmti,creg,rssi,cds"));
     EXPECT_EQ(all[1], "+CMTI: \"SM\",1");
     EXPECT_EQ(all[3], "^RSSI:18");
-    EXPECT_TRUE(all[4].starts_with("+CDS: 26\r\n07915155009099F906FB0B915155007077F7")) << all[4];
+    EXPECT_TRUE(all[4].starts_with("+CDS: 25\r\n07915155009099F906FB0B915155007077F7")) << all[4];
     EXPECT_TRUE(Unsolicited_Lines("ring,bell").empty());
     EXPECT_TRUE(Unsolicited_Lines("").empty());
 }

@@ -46,7 +46,7 @@ TEST(Message_Memory, In_Text_Mode_It_Shows_Texts_And_Takes_Them)
     EXPECT_EQ(talk.Asks("AT+CMGL=\"STO SENT\""),
               "\r\n+CMGL: 2,\"STO SENT\",\"5551234\",,\r\ncaf\xC3\xA9 [1]\r\n" + Said("OK"));
     EXPECT_EQ(talk.Asks("AT+CMGF=0"), Said("OK"));
-    EXPECT_TRUE(talk.Asks("AT+CMGR=2").starts_with("\r\n+CMGR: 3,,23\r\n0011000781551532F40000A70A"));
+    EXPECT_TRUE(talk.Asks("AT+CMGR=2").starts_with("\r\n+CMGR: 3,,21\r\n0011000781551532F40000A70A"));
 }
 
 TEST(Message_Memory, A_Text_Becomes_A_Frame_That_Says_The_Same)
@@ -96,15 +96,15 @@ TEST(Message_Memory, What_Is_No_Frame_Is_Not_Kept)
 TEST(Message_Memory, Flags_Delete_What_They_Name)
 {
     for (const auto& [flag, left] :
-         {std::pair("1", "0,2,3"), std::pair("2", "0,2"), std::pair("3", "0"), std::pair("4", "")}) {
+         {std::pair("1", "2,3,0"), std::pair("2", "2,0"), std::pair("3", "0"), std::pair("4", "")}) {
         Mind_Talk talk;
         Written(talk, "AT+CMGW=21,1", Hi);
         Written(talk, "AT+CMGW=19,3", Hello);
         Written(talk, "AT+CMGW=19,2", Hello);
         Written(talk, "AT+CMGW=21,0", Hi);
         EXPECT_EQ(talk.Asks("AT+CMGD=1," + std::string(flag)), Said("OK"));
-        std::string kept;
-        for (const char status : {'0', '1', '2', '3'}) {
+        std::string kept; // the unread ones last, as listing them makes them read
+        for (const char status : {'1', '2', '3', '0'}) {
             if (talk.Asks(std::string("AT+CMGL=") + status) != Said("OK"))
                 kept += (kept.empty() ? "" : ",") + std::string(1, status);
         }

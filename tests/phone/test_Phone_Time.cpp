@@ -16,7 +16,7 @@ using Clock = std::chrono::steady_clock;
 TEST(Phone_Time, A_Report_Comes_By_Itself_And_Keeps_No_Answer_Waiting)
 {
     Phone_Moods moods = Quiet();
-    moods.m_pace = 5; // a report after 200 ms
+    moods.m_report_after_seconds = 2;
     Virtual_Phone phone(moods);
     Line_Peer peer(phone.Path());
     EXPECT_EQ(peer.Asks("AT+CNMI=2,1,0,1,0"), "\r\nOK\r\n");
@@ -26,7 +26,7 @@ TEST(Phone_Time, A_Report_Comes_By_Itself_And_Keeps_No_Answer_Waiting)
     EXPECT_EQ(peer.Hears("OK\r\n"), "\r\n+CMGS: 0\r\n\r\nOK\r\n");
     EXPECT_EQ(peer.Asks("AT"), "\r\nOK\r\n") << "at once, in front of the report";
     const std::string report = peer.Hears("00\r\n");
-    EXPECT_TRUE(report.starts_with("\r\n+CDS: 26\r\n")) << report;
+    EXPECT_TRUE(report.starts_with("\r\n+CDS: 25\r\n")) << report;
     EXPECT_EQ(phone.Inbox().size(), 1u);
 }
 
