@@ -22,8 +22,8 @@ QString Long_Counter(qsizetype length)
 class Typing_On : public Open_Program
 {
 protected:
-    Typing_On() { Set_Pace(10); }
-    ~Typing_On() override { Set_Pace(1); }
+    // Opening a window takes its time at any pace, so the keys come no faster than a person types them.
+    Typing_On() { Set_Pace(1); }
 
     using Steps = std::function<void(QWidget& window, QPlainTextEdit& area, QLabel& counter)>;
 

@@ -1,11 +1,9 @@
 #include "handset/Submit_Decoder.h"
 
-#include "support/Strict_Json.h"
+#include "handset/Submit_Vectors.h"
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -13,25 +11,6 @@
 using namespace Handset;
 
 namespace {
-
-struct Submit_Vector
-{
-    std::string m_name, m_pdu, m_text; // the text is UTF-8
-    std::size_t m_centre_octets = 0;
-};
-
-// Built by hand after 3GPP TS 23.040, each with the text that a handset shows.
-std::vector<Submit_Vector> Read_Submit_Vectors()
-{
-    std::ifstream file(CORVANE_TEST_DATA "/submit_vectors.json", std::ios::binary);
-    std::vector<Submit_Vector> vectors;
-    for (const auto& object : Read_Json_Objects(std::string(std::istreambuf_iterator<char>(file), {}))) {
-        EXPECT_EQ(object.size(), 4u);
-        vectors.push_back({object.at("name").m_text, object.at("pdu").m_text, object.at("text").m_text,
-                           std::size_t(object.at("sca_len").m_number.value())});
-    }
-    return vectors;
-}
 
 Submit_Frame Frame_Of(const std::string& hex)
 {
