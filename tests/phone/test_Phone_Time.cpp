@@ -15,7 +15,7 @@ using Clock = std::chrono::steady_clock;
 
 TEST(Phone_Time, A_Report_Comes_By_Itself_And_Keeps_No_Answer_Waiting)
 {
-    Phone_Moods moods = Quiet();
+    Phone_Moods moods = Quiet;
     moods.m_report_after_seconds = 2;
     Virtual_Phone phone(moods);
     Line_Peer peer(phone.Path());
@@ -32,7 +32,7 @@ TEST(Phone_Time, A_Report_Comes_By_Itself_And_Keeps_No_Answer_Waiting)
 
 TEST(Phone_Time, A_Late_Result_Comes_In_Its_Time)
 {
-    Phone_Moods moods = Quiet();
+    Phone_Moods moods = Quiet;
     moods.m_pace = 100;
     moods.m_message_manners = {{Message_Manner::Kind::Delayed, 1, 1, {}, {}, 10}};
     Virtual_Phone phone(moods);
@@ -45,7 +45,7 @@ TEST(Phone_Time, A_Late_Result_Comes_In_Its_Time)
 
 TEST(Phone_Time, A_Slow_Phone_Says_A_Byte_At_A_Time)
 {
-    Phone_Moods moods = Quiet();
+    Phone_Moods moods = Quiet;
     moods.m_byte_gap_ms = 20;
     Virtual_Phone phone(moods);
     Line_Peer peer(phone.Path());
@@ -58,7 +58,7 @@ TEST(Phone_Time, It_Hangs_Up_Behind_A_Byte_That_It_Says)
 {
     for (const long bytes : {1L, 4L, 7L}) {
         std::atomic<bool> is_told = false;
-        Phone_Moods moods = Quiet();
+        Phone_Moods moods = Quiet;
         moods.m_hang_up_after_said = bytes;
         Virtual_Phone phone(moods);
         phone.Set_Listeners({{}, {}, [&] { is_told = true; }});
