@@ -65,10 +65,10 @@ private:
 };
 
 /// Removes the rows of a sorted list of distinct indexes from a list, in one pass.
-template <typename Row>
-void Remove_Rows_From(std::deque<Row>& list, const std::vector<int>& rows)
+template <typename List>
+void Remove_Rows_From(List& list, const std::vector<int>& rows)
 {
-    if (rows.empty() || static_cast<std::size_t>(rows.front()) >= list.size())
+    if (rows.empty() || static_cast<std::size_t>(rows.front()) >= static_cast<std::size_t>(list.size()))
         return;
     auto next_removed = rows.begin();
     auto kept = list.begin() + rows.front();

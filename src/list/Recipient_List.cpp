@@ -1,5 +1,7 @@
 #include "list/Recipient_List.h"
 
+#include <algorithm>
+
 QString Recipient::Value(QStringView identifier) const
 {
     if (identifier == u"Number")
@@ -34,6 +36,8 @@ void Recipient_List::Append_Number(const Number& number, const QString& message)
 
 void Recipient_List::Replace(int index, const QString& number, const QString& message)
 {
+    if (m_marks && (Message_At(index) != message || m_numbers.At(index) != number))
+        Forget_Mark(index);
     m_numbers.Replace(index, number);
     m_messages->texts.at(static_cast<std::size_t>(index)) = message;
 }
@@ -43,8 +47,12 @@ void Recipient_List::Set_Messages(const std::vector<int>& rows, const QString& m
     if (rows.empty())
         return;
     auto& texts = m_messages->texts;
-    for (const int row : rows)
-        texts.at(static_cast<std::size_t>(row)) = message;
+    for (const int row : rows) {
+        QString& text = texts.at(static_cast<std::size_t>(row));
+        if (m_marks && text != message)
+            Forget_Mark(row);
+        text = message;
+    }
 }
 
 void Recipient_List::Remove_Rows(const std::vector<int>& rows)
@@ -53,4 +61,24 @@ void Recipient_List::Remove_Rows(const std::vector<int>& rows)
         return;
     m_numbers.Remove_Rows(rows);
     Remove_Rows_From(m_messages->texts, rows);
+    if (m_marks)
+        Remove_Rows_From(*m_marks, rows);
+    if (Count() == 0)
+        m_marks.reset();
+}
+
+void Recipient_List::Set_Marks(int first, const QByteArray& marks)
+{
+    if (!m_marks)
+        return;
+    const auto missing = first + marks.size() - m_marks->size();
+    if (missing > 0)
+        m_marks->append(missing, '\0');
+    std::copy(marks.begin(), marks.end(), m_marks->begin() + first);
+}
+
+void Recipient_List::Forget_Mark(int index)
+{
+    if (index < m_marks->size())
+        (*m_marks)[index] = '\0';
 }

@@ -2,8 +2,10 @@
 
 #include "list/Number_List.h"
 
+#include <QByteArray>
 #include <QString>
 #include <deque>
+#include <optional>
 #include <vector>
 
 // One recipient: the normalised number, never empty, and the message kept exactly as given.
@@ -42,6 +44,22 @@ public:
     void Remove_Rows(const std::vector<int>& rows);
     void Clear() { *this = {}; }
 
+    // A mark is a byte that the list keeps for a recipient, whatever it means to others. It follows its recipient until
+    // that is changed: then it is 0 again.
+
+    /// Gives each recipient the mark 0; from now on there are marks, and a byte is taken for each. Without marks none
+    /// is.
+    void Begin_Marks() { m_marks = QByteArray(Count(), '\0'); }
+    void Forget_Marks() { m_marks.reset(); }
+    bool Has_Marks() const { return m_marks.has_value(); }
+    /// The mark of the recipient at an index from 0 to Count() - 1; 0 without marks.
+    quint8 Mark_At(int index) const
+    {
+        return m_marks && index < m_marks->size() ? static_cast<quint8>(m_marks->at(index)) : 0;
+    }
+    /// Sets the marks of as many recipients from an index on, all of them in the list, if there are marks.
+    void Set_Marks(int first, const QByteArray& marks);
+
 private:
     struct Messages : QSharedData
     {
@@ -50,7 +68,9 @@ private:
 
     template <typename Number>
     void Append_Number(const Number& number, const QString& message);
+    void Forget_Mark(int index);
 
     Number_List m_numbers;
     QSharedDataPointer<Messages> m_messages; // one for each number
+    std::optional<QByteArray> m_marks;       // of the first recipients; all others have 0
 };

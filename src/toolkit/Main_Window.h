@@ -7,6 +7,8 @@
 #include <QString>
 #include <vector>
 
+class Outcome_Codes;
+class QByteArray;
 class QWidget;
 
 namespace Exclusion_Files {
@@ -62,6 +64,16 @@ public:
     virtual bool Blank_Msg_Chk() const = 0;
 
     virtual Send_Choices Read_Send_Choices() const = 0;
+
+    // A window that has no place for outcomes leaves them alone.
+
+    /// A job begins with the list as it is. From now on the recipient table shows what became of each recipient's
+    /// message, at first that it was not tried. If the list changes before the job ends, it is not shown any more.
+    virtual void Begin_Outcomes() {}
+    /// What became of as many recipients of that list, from a row on: codes that these Outcome_Codes gave.
+    virtual void Take_Outcomes(int /*first_row*/, const QByteArray& /*marks*/, const Outcome_Codes& /*codes*/) {}
+    /// The job has ended.
+    virtual void End_Outcomes() {}
 
     /// The counter text for a message of this length; first runs the long-message dialog if that is allowed and due.
     virtual QString Long_SMS_Calculation(int length, const QString& msg_char_value, bool open_dlg) = 0;

@@ -20,6 +20,7 @@
 #include "windows/exclusion/Exclusion_Wizard.h"
 #include "windows/main/Composer.h"
 #include "windows/main/Help_Wnd.h"
+#include "windows/main/Recipient_Rows.h"
 #include "windows/main/Send_Modeless.h"
 #include "windows/main/Send_Runner.h"
 #include "windows/phone/Connection_Info.h"
@@ -120,6 +121,8 @@ void CorvaneAppDelegate::Connect_Controls()
     connect(m_ui->Add_Number, &QPushButton::clicked, this, &CorvaneAppDelegate::Add_Number);
     connect(m_ui->Clear_Sel_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::Clear_Sel_Btn);
     connect(m_ui->Clear_All_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::Clear_All_Btn);
+    connect(m_ui->Select_Not_Taken, &QPushButton::clicked, this, &CorvaneAppDelegate::Select_Not_Taken);
+    connect(m_ui->Keep_Not_Taken, &QPushButton::clicked, this, &CorvaneAppDelegate::Keep_Not_Taken);
     connect(m_ui->Reset_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::Reset_Btn);
     connect(m_ui->Help_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::Help_Btn);
     connect(m_ui->Exit_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::Exit_Btn);
@@ -144,14 +147,19 @@ void CorvaneAppDelegate::Connect_Controls()
 
 void CorvaneAppDelegate::Give_Tables_Their_Models()
 {
-    const auto rows_of = [this](QTableView* table, std::vector<Row_Table_Model::Column> columns) {
-        return new Row_Table_Model(
-            std::move(columns), [this, table] { return numberOfRowsInTableView(table); },
-            [this, table](const QString& identifier, int row) { return tableView(table, identifier, row); }, this);
+    using Columns = std::vector<Row_Table_Model::Column>;
+    const auto rows_of = [this](const QTableView* table) {
+        return [this, table] { return numberOfRowsInTableView(table); };
     };
-    m_recipient_rows = rows_of(m_ui->idTableView,
-                               {{QStringLiteral("Number"), tr("Number")}, {QStringLiteral("Message"), tr("Message")}});
-    m_exclusion_rows = rows_of(m_ui->idExclusionTableView, {{QStringLiteral("Number"), tr("Excluded number")}});
+    const auto cells_of = [this](const QTableView* table) {
+        return [this, table](const QString& identifier, int row) { return tableView(table, identifier, row); };
+    };
+    m_recipient_rows = new Recipient_Rows(
+        Columns{{QStringLiteral("Number"), tr("Number")}, {QStringLiteral("Message"), tr("Message")}},
+        rows_of(m_ui->idTableView), cells_of(m_ui->idTableView), [this](int row) { return Outcome_Of(row); }, this);
+    m_exclusion_rows =
+        new Row_Table_Model(Columns{{QStringLiteral("Number"), tr("Excluded number")}},
+                            rows_of(m_ui->idExclusionTableView), cells_of(m_ui->idExclusionTableView), this);
     Prepare_List_Table(*m_ui->idTableView, *m_recipient_rows);
     Prepare_List_Table(*m_ui->idExclusionTableView, *m_exclusion_rows);
 }

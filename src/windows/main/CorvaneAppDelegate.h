@@ -1,10 +1,13 @@
 #pragma once
 
 #include "device/MFCSMS.h"
+#include "engine/Outcome_Codes.h"
 #include "toolkit/Main_Window.h"
 
 #include <QMainWindow>
+#include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class Composer;
@@ -12,6 +15,7 @@ class Number_Import;
 struct Number_Terms;
 class PleaseWait_Modeless;
 class QTableView;
+class Recipient_Rows;
 class Row_Table_Model;
 class Send_Modeless;
 class Send_Runner;
@@ -97,6 +101,9 @@ public:
     void Set_Previous_Composer_Message(const QString& message) override { prev_composer_msg = message; }
     void Hold_Input() override;
     void Release_Input() override;
+    void Begin_Outcomes() override;
+    void Take_Outcomes(int first_row, const QByteArray& marks, const Outcome_Codes& codes) override;
+    void End_Outcomes() override;
 
     MFCSMS& Session() { return *mfc_sms_obj; }
 
@@ -104,6 +111,10 @@ public Q_SLOTS:
     void Add_Number();
     void Clear_Sel_Btn();
     void Clear_All_Btn();
+    /// Selects the recipients whose message was certainly not taken, and no others.
+    void Select_Not_Taken();
+    /// Removes all others.
+    void Keep_Not_Taken();
     void Reset_Btn();
     void doubleClickInTable();
     void Load_Number();
@@ -136,7 +147,15 @@ private:
     void Show_Device_In_Ticker();
     void Remember_Composer_Text();
     Number_Terms Terms_For_New_Numbers() const;
+    Recipient_List Exchange_List(Recipient_List list = {});
+    void Recipient_Changed(int row);
+    void Remove_Recipients(const std::function<void(Recipient_List&)>& remove);
     void Remove_All_Recipients();
+    std::optional<Row_Outcome> Outcome_Of(int row) const;
+    void Forget_Outcomes_Of_Job();
+    void Look_For_Not_Taken();
+    void Show_Outcomes();
+    void Show_Outcome_Column(bool shown);
     void Show_Exclusion_Trouble(const QString& text);
     void Show_List_Count(int count);
     void Show_Import_Progress(int count, int percent);
@@ -150,8 +169,11 @@ private:
     Recipient_List nsListDataObject;
     Number_List nsExclusionListDataObject;
     QString prev_composer_msg;
-    int prev_list_item = 0; // recipients before the import
-    Row_Table_Model* m_recipient_rows = nullptr;
+    int prev_list_item = 0;        // recipients before the import
+    Outcome_Codes m_outcome_codes; // what the marks of the recipients mean
+    bool m_takes_outcomes = false; // a job runs, and the list is still the one that it took
+    bool m_has_not_taken = false;  // whether there is a recipient with marks whose message was not taken
+    Recipient_Rows* m_recipient_rows = nullptr;
     Row_Table_Model* m_exclusion_rows = nullptr;
     std::unique_ptr<Composer> m_composer;
     std::unique_ptr<Send_Runner> m_send_runner;

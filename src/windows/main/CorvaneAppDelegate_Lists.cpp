@@ -12,7 +12,6 @@
 #include "toolkit/List_Tables.h"
 #include "toolkit/Message_Boxes.h"
 #include "toolkit/PleaseWait_Modeless.h"
-#include "toolkit/Row_Table_Model.h"
 #include "toolkit/Window_Work.h"
 #include "ui_CorvaneAppDelegate.h"
 #include "windows/list/List_Dialogs.h"
@@ -20,6 +19,7 @@
 #include "windows/main/CorvaneAppDelegate.h"
 #include "windows/main/List_Cells.h"
 #include "windows/main/Load_Num_Info.h"
+#include "windows/main/Recipient_Rows.h"
 #include "windows/stores/Open_Export_Log.h"
 #include "windows/stores/Store_Globals.h"
 
@@ -48,6 +48,7 @@ void CorvaneAppDelegate::Create_Num_Msg_List(const QString& number, const QStrin
     if (trimmed_number.isEmpty())
         return;
     nsListDataObject.Append(trimmed_number, message_val);
+    Recipient_Changed(nsListDataObject.Count() - 1);
     Update_List_Count();
     Remember_Composer_Text();
 }
@@ -142,24 +143,36 @@ void CorvaneAppDelegate::Clear_Sel_Btn()
         Tell_And_Focus(Texts::Main::None_Selected, Field::Recipient_Table);
         return;
     }
-    {
-        const auto sheet = m_work->Sheet();
-        Recipient_List list = nsListDataObject; // the table shows the present list until this one is complete
-        Run_On_Worker([&] { list.Remove_Rows(rows); });
-        std::swap(nsListDataObject, list);
-        Reload_And_Select_First(*m_ui->idTableView, *m_recipient_rows);
-        Update_List_Count();
-        Let_Go_Of(list);
-    }
+    Remove_Recipients([&](Recipient_List& list) { list.Remove_Rows(rows); });
     if (nsListDataObject.Count() == 0) {
         m_ui->_numberEdit->clear();
         Focus(Field::Number);
     }
 }
 
+void CorvaneAppDelegate::Remove_Recipients(const std::function<void(Recipient_List&)>& remove)
+{
+    const auto sheet = m_work->Sheet();
+    Recipient_List list = nsListDataObject; // the table shows the present list until this one is complete
+    Run_On_Worker([&] { remove(list); });
+    list = Exchange_List(std::move(list));
+    Reload_And_Select_First(*m_ui->idTableView, *m_recipient_rows);
+    Update_List_Count();
+    Let_Go_Of(list);
+}
+
+// Every change of the list as a whole, which hands the present one back.
+Recipient_List CorvaneAppDelegate::Exchange_List(Recipient_List list)
+{
+    std::swap(nsListDataObject, list);
+    Forget_Outcomes_Of_Job();
+    Look_For_Not_Taken();
+    return list;
+}
+
 void CorvaneAppDelegate::Remove_All_Recipients()
 {
-    Recipient_List list = std::exchange(nsListDataObject, Recipient_List());
+    Recipient_List list = Exchange_List();
     Redisplay_Recipients();
     Update_List_Count();
     Let_Go_Of(list);
@@ -184,7 +197,7 @@ void CorvaneAppDelegate::Reset_Btn()
     prev_composer_msg.clear();
     m_ui->_numberEdit->clear();
     m_composer->Clear();
-    Recipient_List list = std::exchange(nsListDataObject, Recipient_List());
+    Recipient_List list = Exchange_List();
     Redisplay_Recipients();
     Update_List_Count();
     m_ui->_Msg_char_count->setText(QStringLiteral("0 Characters"));
@@ -236,7 +249,7 @@ std::vector<int> CorvaneAppDelegate::Selected_Recipient_Rows() const
 
 void CorvaneAppDelegate::Replace_Recipients(Recipient_List recipients)
 {
-    std::swap(nsListDataObject, recipients);
+    recipients = Exchange_List(std::move(recipients));
     Redisplay_Recipients();
     Let_Go_Of(recipients);
 }
@@ -244,6 +257,7 @@ void CorvaneAppDelegate::Replace_Recipients(Recipient_List recipients)
 void CorvaneAppDelegate::Replace_Recipient(int row, const QString& number, const QString& message)
 {
     nsListDataObject.Replace(row, number, message);
+    Recipient_Changed(row);
     Redisplay_Recipients();
 }
 
@@ -293,7 +307,7 @@ void CorvaneAppDelegate::Show_Import_Progress(int count, int percent)
 
 void CorvaneAppDelegate::Take_Over_Imported(Recipient_List& recipients)
 {
-    std::swap(nsListDataObject, recipients);
+    recipients = Exchange_List(std::move(recipients));
     if (nsListDataObject.Count() != prev_list_item)
         Remember_Composer_Text();
     Update_List_Count();

@@ -43,7 +43,7 @@ private:
 };
 
 Send_Runner::Send_Runner(Main_Window& window, MFCSMS& session, Send_Progress& progress)
-    : m_window(window), m_session(session), m_progress(progress)
+    : m_window(window), m_session(session), m_progress(progress), m_outcomes(window)
 {
 }
 
@@ -59,7 +59,9 @@ void Send_Runner::Send_SMS_Btn()
     const bool is_started = Start_Worker_If_Possible(
         "send job", [this, claim, order = std::move(*order)]() mutable { Send_SMS_Thread(std::move(order)); });
     claim.reset();
-    if (!is_started)
+    if (is_started)
+        m_window.Begin_Outcomes(); // before anything that the job hands over
+    else
         Show_MessageBox(Texts::Sending::Not_Started);
 }
 
@@ -72,10 +74,12 @@ void Send_Runner::Send_SMS_Thread(Send_Order order)
         Show_NSLog_Message(QStringLiteral("The send job ended early: ") + QString::fromLocal8Bit(failure.what()));
         Show_MessageBox(Texts::Sending::Broken_Off);
     }
+    Run_On_Interface_Thread([this] { m_outcomes.End(); });
 }
 
 void Send_Runner::Tell(const QString& text)
 {
+    Run_On_Interface_Thread([this] { m_outcomes.Deliver(); }); // the table behind the box shows them all
     Show_MessageBox(text);
 }
 
@@ -84,6 +88,7 @@ void Send_Runner::Exclusions_Were_Read(const Exclusion_Files::Applied_Numbers& a
     Run_On_Interface_Thread([&] { m_window.Take_Exclusions(applied); });
 }
 
-void Send_Runner::Row_Ended(int, const Row_Outcome&)
+void Send_Runner::Row_Ended(int index, const Row_Outcome& outcome)
 {
+    m_outcomes.Add(index, outcome);
 }

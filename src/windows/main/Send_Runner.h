@@ -2,6 +2,7 @@
 
 #include "engine/Send_Listener.h"
 #include "engine/Send_Order.h"
+#include "windows/main/Outcome_Post.h"
 
 class MFCSMS;
 class Main_Window;
@@ -31,4 +32,5 @@ private:
     Main_Window& m_window;
     MFCSMS& m_session;
     Send_Progress& m_progress;
+    Outcome_Post m_outcomes;
 };

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "engine/Row_Outcome.h"
+
+#include <QList>
+
+// Outcomes as bytes, so that a million of them take a megabyte: a state is its own code, and each cause of a refusal
+// gets the next code that is free. A value; a copy costs nothing, and knows the codes that had been given when it was
+// made.
+class Outcome_Codes
+{
+public:
+    static constexpr int Most_Causes = 240;
+
+    /// The code of an outcome; 0 for one that was not tried. Where more causes come than there are codes for, the code
+    /// is that of a refusal without one.
+    quint8 Code_Of(const Row_Outcome& outcome);
+
+    /// The outcome that has a code; a refusal without its cause where the code was not given here.
+    Row_Outcome Outcome_Of(quint8 code) const;
+
+    /// The state in the outcome of a code.
+    static Row_State State_Of(quint8 code);
+
+private:
+    static constexpr int First_Cause = 256 - Most_Causes; // below are the states
+
+    QList<Device_Cause> m_causes;
+};

@@ -1,0 +1,85 @@
+#include "engine/Outcome_Words.h"
+
+#include "platform/One_Line.h"
+#include "texts/Outcome_Texts.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+struct Row
+{
+    Row_State state;
+    char16_t sign;
+    Fixed_Text words;
+};
+
+// In the order of the states. A question mark is for what nobody knows, an arrow for what went out unheard.
+constexpr Row Rows[] = {
+    {Row_State::Not_Tried, u'·', Texts::Outcomes::Not_Tried},
+    {Row_State::Written, u'→', Texts::Outcomes::Written},
+    {Row_State::Taken, u'✓', Texts::Outcomes::Taken},
+    {Row_State::Sent, u'✓', Texts::Outcomes::Sent},
+    {Row_State::Refused, u'✗', Texts::Outcomes::Refused},
+    {Row_State::No_Answer, u'?', Texts::Outcomes::No_Answer},
+    {Row_State::May_Have_Been_Sent, u'?', Texts::Outcomes::May_Have_Been_Sent},
+    {Row_State::Excluded, u'–', Texts::Outcomes::Excluded},
+    {Row_State::Repeated, u'–', Texts::Outcomes::Repeated},
+};
+
+constexpr bool Each_Row_Is_In_Its_Place()
+{
+    std::size_t place = 0;
+    return std::all_of(std::begin(Rows), std::end(Rows),
+                       [&](const Row& row) { return static_cast<std::size_t>(row.state) == place++; });
+}
+static_assert(Each_Row_Is_In_Its_Place());
+
+const Row& Row_Of(Row_State state)
+{
+    return Rows[static_cast<std::size_t>(state)];
+}
+
+// All that is said about a cause: its number, or the device's own words.
+QString Cause_In_Words(const Device_Cause& cause)
+{
+    switch (cause.kind) {
+    case Device_Cause::Kind::Cms:
+        return QString::number(cause.number);
+    case Device_Cause::Kind::Cme:
+        return Texts::Outcomes::Own_Error + QString::number(cause.number);
+    case Device_Cause::Kind::Words:
+        return On_One_Line(cause.words);
+    case Device_Cause::Kind::Error:
+        break;
+    }
+    return {};
+}
+
+} // namespace
+
+QString Outcome_Words(const Row_Outcome& outcome)
+{
+    const QString words = Row_Of(outcome.state).words;
+    const QString cause = outcome.state == Row_State::Refused ? Cause_In_Words(outcome.cause) : QString();
+    return cause.isEmpty() ? words : words + QStringLiteral(" (") + cause + u')';
+}
+
+QString Signed_Outcome(const Row_Outcome& outcome)
+{
+    return QChar(Row_Of(outcome.state).sign) + QStringLiteral(" ") + Outcome_Words(outcome);
+}
+
+QStringList Usual_Signed_Outcomes()
+{
+    QStringList texts;
+    for (const Row& row : Rows)
+        texts.append(Signed_Outcome({row.state, {Device_Cause::Kind::Cms, 500, {}}}));
+    return texts;
+}
+
+bool Was_Not_Taken(Row_State state)
+{
+    return state == Row_State::Refused || state == Row_State::Not_Tried;
+}
