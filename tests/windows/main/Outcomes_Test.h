@@ -86,7 +86,7 @@ protected:
 
     const QAbstractItemModel& Rows() { return *The<QTableView>("idTableView").model(); }
     bool Outcomes_Are_Shown() { return Rows().columnCount() == Outcome_Column + 1; }
-    QStringList Outcomes()
+    QStringList Shown_Outcomes()
     {
         QStringList outcomes;
         for (int row = 0; row < Rows().rowCount(); ++row)

@@ -33,7 +33,7 @@ TEST_F(Outcomes, Of_A_Job_That_Went_Well_Leave_Nothing_To_Do)
     Add_All({"111", "222", "333"});
     Send_With_One_Box();
     EXPECT_THAT(user.Was_Shown(), ElementsAre(Completed));
-    EXPECT_THAT(Outcomes(), ElementsAre(Taken, Taken, Taken));
+    EXPECT_THAT(Shown_Outcomes(), ElementsAre(Taken, Taken, Taken));
     EXPECT_EQ(Rows().headerData(Outcome_Column, Qt::Horizontal).toString(), QStringLiteral("Outcome"));
     EXPECT_EQ(Buttons(), "off");
 }
@@ -48,8 +48,8 @@ TEST_F(Outcomes, Say_What_Was_Refused_And_Why_And_What_Was_Skipped)
     Tick("_Exclusion_Chk");
     Send_With_One_Box();
     EXPECT_THAT(user.Was_Shown(), ElementsAre(Completed));
-    EXPECT_THAT(Outcomes(), ElementsAre(Taken, "✗ refused (500)", "– skipped: excluded", "– skipped: repeated", Taken,
-                                        "✗ refused (38)", Taken));
+    EXPECT_THAT(Shown_Outcomes(), ElementsAre(Taken, "✗ refused (500)", "– skipped: excluded", "– skipped: repeated",
+                                              Taken, "✗ refused (38)", Taken));
     EXPECT_EQ(Buttons(), "on");
 }
 
@@ -60,10 +60,10 @@ TEST_F(Outcomes, Of_A_Phone_That_Falls_Silent_After_The_Prompt_Is_That_There_Was
     Add(QStringLiteral("222"));
     m_delegate->Set_Previous_Composer_Message(QStringLiteral("Hello, and good-bye"));
     Send_With_One_Box();
-    ASSERT_THAT(Outcomes(), ElementsAre(Taken, Taken));
+    ASSERT_THAT(Shown_Outcomes(), ElementsAre(Taken, Taken));
     m_phone.Will_Answer(Submission_Commands().last().toStdString(), "\r\n> ");
     Send_With_One_Box();
-    EXPECT_THAT(Outcomes(), ElementsAre(Taken, "? no answer"));
+    EXPECT_THAT(Shown_Outcomes(), ElementsAre(Taken, "? no answer"));
     EXPECT_EQ(Buttons(), "off");
 }
 
@@ -73,7 +73,7 @@ TEST_F(Outcomes, Of_A_Line_That_Breaks_In_The_Middle_Leave_Open_What_Became_Of_T
     Add_All({"111", "222", "333", "444"});
     Send_With_One_Box();
     EXPECT_THAT(user.Was_Shown(), ElementsAre(Connection_Error));
-    EXPECT_THAT(Outcomes(), ElementsAre(Taken, May_Have_Been_Sent, Not_Tried, Not_Tried));
+    EXPECT_THAT(Shown_Outcomes(), ElementsAre(Taken, May_Have_Been_Sent, Not_Tried, Not_Tried));
     Click("Select_Not_Taken");
     EXPECT_THAT(m_delegate->Selected_Recipient_Rows(), ElementsAre(2, 3));
 }
@@ -90,7 +90,7 @@ TEST_F(Outcomes, Of_A_Job_That_Was_Stopped_End_With_Those_That_Were_Not_Tried)
     });
     user.Will_Press(QStringLiteral("Yes"));
     Send();
-    EXPECT_THAT(Outcomes(), ElementsAre(Taken, Taken, Not_Tried, Not_Tried));
+    EXPECT_THAT(Shown_Outcomes(), ElementsAre(Taken, Taken, Not_Tried, Not_Tried));
     EXPECT_EQ(Buttons(), "on");
 }
 
@@ -99,7 +99,7 @@ TEST_F(Outcomes, Of_A_Device_That_Does_Not_Open_Are_That_Nobody_Was_Tried)
     sel_port_bsd_str = QStringLiteral("/dev/no-such-device");
     Add_All({"111", "222"});
     Send_With_One_Box();
-    EXPECT_THAT(Outcomes(), ElementsAre(Not_Tried, Not_Tried));
+    EXPECT_THAT(Shown_Outcomes(), ElementsAre(Not_Tried, Not_Tried));
     EXPECT_EQ(Buttons(), "on");
 }
 
@@ -111,14 +111,14 @@ TEST_F(Outcomes, Come_In_While_The_Job_Runs_And_The_Buttons_Wait_For_Its_End)
     Before_The_Next_Answer([&] {
         if (Submissions() == 2 && seen.isEmpty())
             Run_On_Interface_Thread([&] {
-                seen = Outcomes();
+                seen = Shown_Outcomes();
                 buttons = Buttons();
             });
     });
     Send_With_One_Box();
     EXPECT_THAT(seen, ElementsAre(Taken, Not_Tried));
     EXPECT_EQ(buttons, "hidden");
-    EXPECT_THAT(Outcomes(), ElementsAre(Taken, Taken));
+    EXPECT_THAT(Shown_Outcomes(), ElementsAre(Taken, Taken));
 }
 
 TEST_F(Outcomes, Are_All_There_When_The_Box_Says_That_The_Job_Is_Done)
@@ -126,7 +126,7 @@ TEST_F(Outcomes, Are_All_There_When_The_Box_Says_That_The_Job_Is_Done)
     Add_All({"111", "222", "333"});
     QStringList seen;
     user.Will_Handle([&](QMessageBox& box) {
-        seen = Outcomes();
+        seen = Shown_Outcomes();
         box.accept();
     });
     Send();
@@ -138,17 +138,17 @@ TEST_F(Outcomes, Begin_Anew_With_Every_Job)
     Have([](Phone_Moods& moods) { moods.m_cms_error_at = {{1, 500}}; });
     Add_All({"111", "222"});
     Send_With_One_Box();
-    ASSERT_THAT(Outcomes(), ElementsAre("✗ refused (500)", Taken));
+    ASSERT_THAT(Shown_Outcomes(), ElementsAre("✗ refused (500)", Taken));
     QStringList seen;
     m_phone.Forget();
     Have([](Phone_Moods& moods) { moods.m_cms_error_at.clear(); });
     Before_The_Next_Answer([&] {
         if (seen.isEmpty())
-            Run_On_Interface_Thread([&] { seen = Outcomes(); });
+            Run_On_Interface_Thread([&] { seen = Shown_Outcomes(); });
     });
     Send_With_One_Box();
     EXPECT_THAT(seen, ElementsAre(Not_Tried, Not_Tried));
-    EXPECT_THAT(Outcomes(), ElementsAre(Taken, Taken));
+    EXPECT_THAT(Shown_Outcomes(), ElementsAre(Taken, Taken));
     EXPECT_EQ(Buttons(), "off");
 }
 
@@ -160,7 +160,8 @@ TEST_F(Outcomes, Show_Which_Messages_To_Select_Or_Keep_And_Nothing_Is_Sent_By_Th
     });
     Add_All({"111", "222", "333", "444", "555", "666"});
     Send_With_One_Box();
-    ASSERT_THAT(Outcomes(), ElementsAre(Taken, "✗ refused (500)", Taken, May_Have_Been_Sent, Not_Tried, Not_Tried));
+    ASSERT_THAT(Shown_Outcomes(),
+                ElementsAre(Taken, "✗ refused (500)", Taken, May_Have_Been_Sent, Not_Tried, Not_Tried));
     const auto sent = m_phone.Heard().size();
     Select_Rows({0, 3});
     Click("Select_Not_Taken");
@@ -170,7 +171,7 @@ TEST_F(Outcomes, Show_Which_Messages_To_Select_Or_Keep_And_Nothing_Is_Sent_By_Th
 
     Click("Keep_Not_Taken");
     EXPECT_THAT(Numbers(), ElementsAre("222", "555", "666"));
-    EXPECT_THAT(Outcomes(), ElementsAre("✗ refused (500)", Not_Tried, Not_Tried));
+    EXPECT_THAT(Shown_Outcomes(), ElementsAre("✗ refused (500)", Not_Tried, Not_Tried));
     EXPECT_EQ(Count_Label(), QStringLiteral("Total Numbers : 3"));
     EXPECT_EQ(Buttons(), "on");
     EXPECT_EQ(m_phone.Heard().size(), sent);
@@ -189,7 +190,7 @@ TEST_F(Outcomes, Go_On_With_What_Was_Kept)
     Send_With_One_Box();
     ASSERT_EQ(m_phone.Inbox().size(), 1U);
     EXPECT_EQ(m_phone.Inbox().front().m_number, "222");
-    EXPECT_THAT(Outcomes(), ElementsAre(Taken));
+    EXPECT_THAT(Shown_Outcomes(), ElementsAre(Taken));
     EXPECT_EQ(Buttons(), "off");
 }
 
