@@ -1,5 +1,6 @@
 #include "device/Driver_Requests.h"
 
+#include "device/Open_Elsewhere.h"
 #include "platform/Leaving_Wait.h"
 #include "platform/Pace.h"
 
@@ -50,7 +51,9 @@ void Release_Exclusive_Use(Serial_Calls& calls, int descriptor)
 bool Is_Claimed_Exclusively(Serial_Calls& calls, int descriptor)
 {
     int is_claimed = 0;
-    return calls.Control(descriptor, TIOCGEXCL, &is_claimed) == 0 && is_claimed != 0;
+    if (calls.Control(descriptor, TIOCGEXCL, &is_claimed) != 0 || is_claimed == 0)
+        return false;
+    return !Is_Pseudo_Terminal(descriptor) || Is_Open_Elsewhere(descriptor);
 }
 
 double Seconds_To_Drain()

@@ -14,7 +14,8 @@ int Request_Low_Latency(Serial_Calls& calls, int descriptor);
 /// Drops the claim to exclusive use, which on a pseudo-terminal would outlive the descriptor.
 void Release_Exclusive_Use(Serial_Calls& calls, int descriptor);
 
-/// Whether the line is claimed for exclusive use, which does not keep privileged users out.
+/// Whether the line is claimed for exclusive use, which does not keep privileged users out. What a program that was
+/// killed has left on a pseudo-terminal is no claim.
 bool Is_Claimed_Exclusively(Serial_Calls& calls, int descriptor);
 
 /// How long a device may take for the last bytes: 2 seconds at pace 1.
