@@ -138,7 +138,7 @@ void Confirmed_Manner::Begin_Journal()
 
 void Confirmed_Manner::Make_Journal()
 {
-    m_job_id = New_Job_Id();
+    m_job_id = m_options.id.isEmpty() ? New_Job_Id() : m_options.id;
     auto opened =
         Job_Journal::Create(m_options.folder, {m_job_id, m_session.Imsi(), m_order.device_path, m_options.job},
                             [this, index = 0]() mutable -> std::optional<Job_Row> {
@@ -177,6 +177,8 @@ Job_Row Confirmed_Manner::Row_At(int index)
     Job_Row row =
         Frozen_Row(index + 1, recipient.Number, Composer_Rules::Cut_To_Limit(recipient.Message), m_options.job.alphabet,
                    m_order.choices.flash, m_first_reference + index, m_session.Is_Text_Mode());
+    if (const auto skipped = m_options.skipped.constFind(index); skipped != m_options.skipped.constEnd())
+        row.skipped = *skipped;
     switch (Reason_To_Skip(m_order, index)) {
     case Skip_Reason::Excluded:
         row.skipped = QStringLiteral("excluded");
@@ -242,7 +244,7 @@ Send_Manner::Submission Confirmed_Manner::Submit(int index, const Recipient&)
         m_watcher.Row_Done(index, *earlier);
         return {Next::Go_On, earlier->outcome, false, {}};
     }
-    if (!row.skipped.isEmpty()) { // no frame can carry its number; other reasons have been seen by the walk
+    if (!row.skipped.isEmpty()) { // other reasons than those that the walk has seen
         Row_Details details;
         details.outcome.state = Row_State::Invalid_Number;
         details.reason = T::Number_Invalid;
@@ -258,7 +260,7 @@ Send_Manner::Submission Confirmed_Manner::Submit(int index, const Recipient&)
     if (state == Row_State::Sent || state == Row_State::Refused)
         --m_open_rows;
     m_has_failed = m_has_failed || state != Row_State::Sent;
-    if (state != Row_State::Not_Tried)
+    if (state != Row_State::Not_Tried || walk.Details().parts_sent > 0)
         m_watcher.Row_Done(index, walk.Details());
     return submission;
 }

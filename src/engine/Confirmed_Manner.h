@@ -9,16 +9,20 @@
 #include "engine/Send_Manner.h"
 #include "records/Job_Journal.h"
 
+#include <QHash>
+
 class Send_Progress;
 class Stop_Flag;
 
 /// What a confirmed job works by besides its order.
 struct Confirmed_Options
 {
+    QString id;     ///< of a new job, from New_Job_Id; one is made where it is empty
     QString folder; ///< of the journals; empty for a job that keeps none
     Job_Options job;
-    double hold_seconds = 0;    ///< how long a job that is held waits; 0 for as long as nobody stops it
-    bool keeps_journal = false; ///< of a job that has ended
+    double hold_seconds = 0;     ///< how long a job that is held waits; 0 for as long as nobody stops it
+    bool keeps_journal = false;  ///< of a job that has ended
+    QHash<int, QString> skipped; ///< of a new job: the indexes of recipients that get nothing, and why
 
     QString resumed_path;       ///< the journal of the job that is gone on with; empty for a new job
     bool sends_unknown = false; ///< rows that may have been sent are sent again, as a person decided

@@ -158,8 +158,11 @@ Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Take_Refusal(co
 {
     const Send_Cause& row = Cause_Row(cause);
     const QString reason = ::Reason_Of(cause);
-    if (row.cause_class == Cause_Class::Unknown_Outcome || row.cause_class == Cause_Class::Ignore)
-        return Be_Unknown(Cause_Field(cause), reason);
+    if (row.cause_class == Cause_Class::Unknown_Outcome || row.cause_class == Cause_Class::Ignore) {
+        const Part_End end = Be_Unknown(Cause_Field(cause), reason);
+        m_details.outcome.cause = cause;
+        return end;
+    }
     if (row.cause_class == Cause_Class::Counts_As_Sent)
         return Take_Accepted(-1, {});
     if (m_was_handed_over && m_manner.m_journal)

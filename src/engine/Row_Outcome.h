@@ -22,7 +22,7 @@ enum class Row_State : quint8
 struct Row_Outcome
 {
     Row_State state = Row_State::Not_Tried;
-    Device_Cause cause; ///< of Refused
+    Device_Cause cause; ///< of Refused, and of May_Have_Been_Sent where the device gave one
 
     bool operator==(const Row_Outcome&) const = default;
 };

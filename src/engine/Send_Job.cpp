@@ -46,7 +46,8 @@ void Send_Job::Run()
         return;
     }
     if (m_order.choices.delayed_delivery)
-        m_delivery = Delayed_Delivery::Read_Setting(m_order.choices.batch_size, m_order.choices.pause_choice);
+        m_delivery = m_order.delivery.value_or(
+            Delayed_Delivery::Read_Setting(m_order.choices.batch_size, m_order.choices.pause_choice));
     m_manner.Prepare();
     Begin_Sending();
     Send_Items();

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "engine/Delayed_Delivery.h"
 #include "engine/Send_Choices.h"
 #include "list/Number_List.h"
 #include "list/Recipient_List.h"
 
 #include <QString>
+#include <optional>
 
 // Everything a send job works from, assembled before it starts. A value; nothing the user does later changes it.
 struct Send_Order
@@ -12,6 +14,7 @@ struct Send_Order
     QString device_path;
     QString service_centre; ///< empty for the device's own
     Send_Choices choices;
+    std::optional<Delayed_Delivery::Setting> delivery; ///< in place of what the choices' two boxes say
     Recipient_List recipients;
     Number_List exclusions; ///< empty at first; the job reads them when they are to be heeded
 };

@@ -49,6 +49,13 @@ bool Append_Plain(std::string& lines, QStringView line)
     return true;
 }
 
+std::atomic<bool> Terminal_Is_Taken = false;
+
+bool Has_Terminal()
+{
+    return !Terminal_Is_Taken && isatty(STDERR_FILENO) == 1;
+}
+
 class Log_Writer
 {
 public:
@@ -99,7 +106,7 @@ public:
         guard.unlock();
         m_changed.notify_one();
         if (!m_thread.joinable()) {
-            Write_Batch(m_lines, isatty(STDERR_FILENO) == 1);
+            Write_Batch(m_lines, Has_Terminal());
             return;
         }
         if (is_stuck)
@@ -121,7 +128,7 @@ private:
 
     void Write_Lines()
     {
-        const bool has_terminal = isatty(STDERR_FILENO) == 1;
+        const bool has_terminal = Has_Terminal();
         std::string lines;
         std::unique_lock guard(m_lock);
         for (;;) {
@@ -246,6 +253,11 @@ void Write_System_Log(QStringView line)
             Listener(line.toString());
     }
     The_Writer().Put(line);
+}
+
+void Keep_Log_Off_The_Terminal()
+{
+    Terminal_Is_Taken = true;
 }
 
 void Flush_System_Log()

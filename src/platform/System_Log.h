@@ -10,6 +10,9 @@
 /// more than 65,536 lines behind, further lines are only counted, and the count is logged once it has caught up.
 void Write_System_Log(QStringView line);
 
+/// For a program whose terminal shows lines of its own: the log leaves it alone. Before the first line is written.
+void Keep_Log_Off_The_Terminal();
+
 /// Waits until everything written has reached the sink, one second at most.
 void Flush_System_Log();
 

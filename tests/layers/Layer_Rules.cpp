@@ -150,6 +150,7 @@ const std::vector<Room>& Rooms()
         {"device", {"platform", "pdu"}, Room::Core},
         {"engine", {"platform", "texts", "handset", "list", "records", "device"}, Room::Core},
         {"doctor", {"platform", "texts", "device"}, Room::Core},
+        {"send", {"platform", "texts", "handset", "list", "records", "device", "engine", "doctor"}, Room::Core},
         {"toolkit", {"platform", "list", "engine"}},
         {"windows/list", {"platform", "texts", "list", "engine", "toolkit"}},
         {"windows/stores", {"platform", "texts", "records", "toolkit"}},

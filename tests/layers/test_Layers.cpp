@@ -79,7 +79,7 @@ TEST(Layer_Rules, The_Table_Goes_Upwards_Only)
     }
     EXPECT_THAT(Rooms().front().may_include, IsEmpty());
     EXPECT_EQ(below, (std::vector<std::string>{"platform", "texts", "handset", "pdu", "list", "records", "device",
-                                               "engine", "doctor", "toolkit", "windows/list", "windows/stores",
+                                               "engine", "doctor", "send", "toolkit", "windows/list", "windows/stores",
                                                "windows/exclusion", "windows/phone", "windows/main", "app"}));
 }
 

@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QString>
+
+/// What --help shows, without a line end.
+QString Help_Text();

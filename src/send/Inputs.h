@@ -1,0 +1,17 @@
+#pragma once
+
+#include "send/Arguments.h"
+#include "send/Planned_Row.h"
+
+#include <vector>
+
+/// The recipients that the arguments name, each with its text and its verdict, in their order: those of --to, then
+/// those of --numbers.
+struct Inputs
+{
+    std::vector<Planned_Row> rows;
+    Trouble trouble; ///< what cannot be read, or is missing
+};
+
+/// Reads the files that the arguments name. Blocks, until the end of standard input where that is one of them.
+Inputs Read_Inputs(const Arguments& arguments);

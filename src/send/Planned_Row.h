@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+
+/// Why a row gets nothing.
+namespace Skip_Words {
+inline constexpr char Duplicate[] = "duplicate";
+inline constexpr char Excluded[] = "excluded";
+inline constexpr char Invalid_Number[] = "invalid-number";
+inline constexpr char Empty_Field[] = "empty-field";
+inline constexpr char Unknown_Field[] = "unknown-field";
+inline constexpr char Too_Long[] = "too-long";
+} // namespace Skip_Words
+
+/// One recipient as the input holds it.
+struct Planned_Row
+{
+    int row = 1;    ///< as it stands in the input
+    QString number; ///< as a list holds it; of an invalid one the beginning of what stood there. Never empty
+    QString text;
+    QString skipped; ///< one of Skip_Words; empty for a row that is to be sent
+
+    bool Is_To_Be_Sent() const { return skipped.isEmpty(); }
+    /// Whether somebody wanted it to be skipped, or nobody had to.
+    bool Is_In_Order() const
+    {
+        return skipped.isEmpty() || skipped == QLatin1String(Skip_Words::Duplicate) ||
+               skipped == QLatin1String(Skip_Words::Excluded);
+    }
+};

@@ -1,0 +1,143 @@
+#include "send/Send_Program.h"
+
+#include "platform/Waiting.h"
+#include "records/Data_Paths.h"
+#include "records/Job_Shelf.h"
+#include "send/Hand_Over.h"
+#include "send/Inputs.h"
+#include "send/Printer.h"
+#include "send/Sending.h"
+#include "send/Stop_Signals.h"
+
+#include <cstdio>
+#include <cstring>
+
+namespace {
+
+// What a dry run counts.
+class Planned_Sum
+{
+public:
+    void Add(const Planned_Row& row, const Row_Preview& preview)
+    {
+        ++m_facts.recipients;
+        m_is_in_order = m_is_in_order && row.Is_In_Order();
+        if (!row.Is_To_Be_Sent())
+            return;
+        ++m_facts.send;
+        m_facts.parts += preview.parts;
+        m_facts.unicode += preview.alphabet == Job_Alphabet::Ucs2 ? 1 : 0;
+        m_parts.push_back(preview.parts);
+    }
+
+    Plan_Facts Facts(const Arguments& arguments)
+    {
+        m_facts.seconds = Seconds_For(m_parts, arguments.fixed_waits, arguments.batch, arguments.pause_seconds);
+        return m_facts;
+    }
+
+    bool Is_In_Order() const { return m_is_in_order; }
+
+private:
+    Plan_Facts m_facts;
+    std::vector<int> m_parts;
+    bool m_is_in_order = true;
+};
+
+} // namespace
+
+void Complain(const Trouble& trouble)
+{
+    fprintf(stderr, "%s\n", trouble.Line().toUtf8().constData());
+}
+
+Send_Program::Send_Program(const Arguments& arguments, Stop_Signals& signals)
+    : m_arguments(arguments), m_signals(signals), m_printer(Make_Printer(arguments.json, m_output))
+{
+    Set_Data_Paths(Default_Resource_Path());
+}
+
+Send_Program::~Send_Program() = default;
+
+int Send_Program::Run()
+{
+    const int status = Do();
+    if (m_output.Error() != 0)
+        Complain(
+            {QStringLiteral("not every line was printed"), QString::fromLocal8Bit(std::strerror(m_output.Error()))});
+    return status;
+}
+
+int Send_Program::Do()
+{
+    switch (m_arguments.task) {
+    case Arguments::Task::List_Jobs:
+        return List_Jobs();
+    case Arguments::Task::Dry_Run:
+    case Arguments::Task::Hand_Over:
+        return Plan();
+    default:
+        return Send();
+    }
+}
+
+int Send_Program::Fail(const Trouble& trouble) const
+{
+    if (!m_signals.Is_Asked()) {
+        Complain(trouble);
+        return trouble.status;
+    }
+    Complain({QStringLiteral("stopped"), QStringLiteral("by a signal; nothing was sent")});
+    return Exit_Status::Stopped;
+}
+
+int Send_Program::Send()
+{
+    const bool resumes = m_arguments.task == Arguments::Task::Resume;
+    const Job_Or_Trouble made = resumes ? Job_To_Go_On_With(m_arguments) : New_Job(m_arguments);
+    if (made.trouble)
+        return Fail(made.trouble);
+    if (m_signals.Is_Asked())
+        return Fail({});
+    return Sending(m_arguments, made.job, *m_printer, m_signals).Run([this](const Trouble& trouble) {
+        m_printer->Progress({});
+        Complain(trouble);
+    });
+}
+
+int Send_Program::Plan()
+{
+    const Inputs inputs = Read_Inputs(m_arguments);
+    if (inputs.trouble)
+        return Fail(inputs.trouble);
+    const bool hands_over = m_arguments.task == Arguments::Task::Hand_Over;
+    Hand_Over hand_over(m_arguments);
+    Trouble trouble = hands_over ? hand_over.Begin() : Trouble();
+    Planned_Sum sum;
+    for (const Planned_Row& row : inputs.rows) {
+        if (trouble || Program_Is_Exiting())
+            break;
+        const Row_Preview preview = Preview_Of(row, m_arguments);
+        sum.Add(row, preview);
+        if (hands_over && row.Is_To_Be_Sent())
+            trouble = hand_over.Add(row, preview);
+        if (!trouble)
+            m_printer->Row(row, preview);
+    }
+    if (hands_over && !trouble && !Program_Is_Exiting())
+        trouble = hand_over.End();
+    if (trouble || Program_Is_Exiting())
+        return Fail(trouble);
+    m_printer->Plan(sum.Facts(m_arguments));
+    return sum.Is_In_Order() ? Exit_Status::Done : Exit_Status::Not_All_Sent;
+}
+
+int Send_Program::List_Jobs()
+{
+    const Journal_Folder folder = Journal_Folder_Of(m_arguments);
+    if (folder.trouble)
+        return Fail(folder.trouble);
+    for (const Unfinished_Job& job : Unfinished_Jobs(folder.path))
+        m_printer->Unfinished(job);
+    return Exit_Status::Done;
+}
