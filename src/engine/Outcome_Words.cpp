@@ -26,6 +26,7 @@ constexpr Row Rows[] = {
     {Row_State::May_Have_Been_Sent, u'?', Texts::Outcomes::May_Have_Been_Sent},
     {Row_State::Excluded, u'–', Texts::Outcomes::Excluded},
     {Row_State::Repeated, u'–', Texts::Outcomes::Repeated},
+    {Row_State::Invalid_Number, u'–', Texts::Outcomes::Invalid_Number},
 };
 
 constexpr bool Each_Row_Is_In_Its_Place()

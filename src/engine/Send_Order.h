@@ -14,9 +14,9 @@ struct Send_Order
     QString device_path;
     QString service_centre; ///< empty for the device's own
     Send_Choices choices;
-    std::optional<Delayed_Delivery::Setting> delivery; ///< in place of what the choices' two boxes say
     Recipient_List recipients;
     Number_List exclusions; ///< empty at first; the job reads them when they are to be heeded
+    std::optional<Delayed_Delivery::Setting> delivery = {}; ///< in place of what the choices' two boxes say
 };
 
 enum class Skip_Reason

@@ -12,6 +12,8 @@
 
 #include <QCoreApplication>
 #include <cstdio>
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace {
 
@@ -25,6 +27,14 @@ int Show(const QString& text)
 {
     fprintf(stdout, "%s\n", text.toUtf8().constData());
     return Exit_Status::Done;
+}
+
+// A number that is free would be given to the journal or the device, which would then be printed to.
+void Occupy_Standard_Descriptors()
+{
+    for (const int number : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
+        if (fcntl(number, F_GETFD) == -1)
+            static_cast<void>(open("/dev/null", O_RDWR)); // takes the lowest that is free, and stays
 }
 
 int Run(int argc, char** argv, const Arguments& arguments)
@@ -46,6 +56,7 @@ int Run(int argc, char** argv, const Arguments& arguments)
 
 int main(int argc, char** argv)
 {
+    Occupy_Standard_Descriptors();
     QStringList texts;
     for (int i = 0; i < argc; ++i) {
         const auto text = Decode_Utf8(argv[i]);

@@ -17,6 +17,7 @@ inline constexpr Fixed_Text No_Answer{"no answer"};
 inline constexpr Fixed_Text May_Have_Been_Sent{"may have been sent"};
 inline constexpr Fixed_Text Excluded{"skipped: excluded"};
 inline constexpr Fixed_Text Repeated{"skipped: repeated"};
+inline constexpr Fixed_Text Invalid_Number{"skipped: invalid number"};
 
 // Before the number of a cause that counts among a device's own errors and not among those of messages.
 inline constexpr Fixed_Text Own_Error{"CME "};

@@ -50,14 +50,15 @@ INSTANTIATE_TEST_SUITE_P(Each, Outcome_In_Words, testing::Values(
     Case{"May_Have_Been_Sent", Row_State::May_Have_Been_Sent, {}, "may have been sent", "?", false},
     Case{"Excluded", Row_State::Excluded, {}, "skipped: excluded", "–", false},
     Case{"Repeated", Row_State::Repeated, {}, "skipped: repeated", "–", false},
+    Case{"Invalid_Number", Row_State::Invalid_Number, {}, "skipped: invalid number", "–", false},
     Case{"A_Cause_Without_A_Refusal", Row_State::Sent, {Kind::Cms, 500, {}}, "sent", "✓", false}),
-    [](const auto& info) { return std::string(info.param.name); });
+    [](const auto& row) { return std::string(row.param.name); });
 // clang-format on
 
 TEST(Outcome_Words, The_Usual_Ones_Are_One_Of_Each_State)
 {
     const QStringList usual = Usual_Signed_Outcomes();
-    ASSERT_EQ(usual.size(), static_cast<int>(Row_State::Repeated) + 1);
+    ASSERT_EQ(usual.size(), static_cast<int>(Row_State::Invalid_Number) + 1);
     for (int state = 0; state < usual.size(); ++state)
         EXPECT_TRUE(usual.at(state).startsWith(Signed_Outcome({static_cast<Row_State>(state), {}}))) << state;
     EXPECT_TRUE(usual.contains(QStringLiteral("✗ refused (500)")));

@@ -87,7 +87,7 @@ TEST_P(Changed_Recipients, Have_Lost_Their_Marks_And_All_Others_Keep_Theirs)
 // clang-format off
 INSTANTIATE_TEST_SUITE_P(After, Changed_Recipients, testing::Values(
     Change{"An_Append", [](Recipient_List& list) { list.Append("9", "text"); }, "123450"},
-    Change{"A_Packed_Append", [](Recipient_List& list) { list.Append(*Packed_Number::Of("9"), "text"); }, "123450"},
+    Change{"A_Packed_Append", [](Recipient_List& list) { list.Append(*Packed_Number::Of(u"9"), "text"); }, "123450"},
     Change{"An_Append_And_Its_Mark",
            [](Recipient_List& list) { list.Append("9", "text"); list.Set_Marks(4, QByteArray("\6\7")); }, "123467"},
     Change{"Another_Number", [](Recipient_List& list) { list.Replace(1, "9", "text"); }, "10345"},
@@ -107,7 +107,7 @@ INSTANTIATE_TEST_SUITE_P(After, Changed_Recipients, testing::Values(
            "12450"},
     Change{"A_Removal_Of_All", [](Recipient_List& list) { list.Remove_Rows({0, 1, 2, 3, 4}); }, ""},
     Change{"A_Clear", [](Recipient_List& list) { list.Clear(); }, ""}),
-    [](const auto& info) { return std::string(info.param.name); });
+    [](const auto& row) { return std::string(row.param.name); });
 // clang-format on
 
 TEST(Recipient_Marks, What_Is_Added_To_An_Emptied_List_Has_None)

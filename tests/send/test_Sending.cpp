@@ -210,3 +210,20 @@ TEST_F(Sending_Jobs, A_Reader_That_Goes_Away_Keeps_Nobody_From_Getting_The_Messa
     EXPECT_TRUE(Soon([this] { return Texts().size() == 3; }));
     EXPECT_THAT(shell.readAllStandardError().toStdString(), HasSubstr("not every line was printed ("));
 }
+
+TEST_F(Sending_Jobs, Lines_That_Nobody_Reads_Go_To_No_Device_And_No_Journal)
+{
+    QProcess shell;
+    shell.setProcessEnvironment(m_environment);
+    QStringList words{"--json", "--keep", "--device", QString::fromStdString(m_phone.Path())};
+    words += To_So_Many(2);
+    shell.start("/bin/sh",
+                QStringList{"-c", "exec \"$0\" \"$@\" <&- >&- 2>&-", CORVANE_BUILD_DIR "/corvane-send"} + words);
+    ASSERT_TRUE(shell.waitForFinished());
+    EXPECT_EQ(shell.exitCode(), 0);
+    EXPECT_THAT(Texts(), ElementsAre("Hello", "Hello"));
+    EXPECT_THAT(m_phone.Heard_Bytes(), testing::Not(HasSubstr("event")));
+    const QStringList journals = QDir(Jobs_Folder()).entryList({"*.journal"});
+    ASSERT_EQ(journals.size(), 1);
+    EXPECT_FALSE(Bytes_Of(Jobs_Folder() + "/" + journals[0]).contains("event"));
+}

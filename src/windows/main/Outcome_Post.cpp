@@ -17,7 +17,7 @@ Outcome_Post::Outcome_Post(Main_Window& window) : m_window(window)
 {
     m_timer.setSingleShot(true);
     m_timer.setTimerType(Qt::PreciseTimer); // never too early
-    QObject::connect(&m_timer, &QTimer::timeout, this, [this] { Deliver(); });
+    QObject::connect(&m_timer, &QTimer::timeout, this, [this] { Deliver_In_Time(); });
 }
 
 void Outcome_Post::Add(int index, const Row_Outcome& outcome)
@@ -33,27 +33,36 @@ void Outcome_Post::Add(int index, const Row_Outcome& outcome)
     Post_To_Interface_Thread(this, [this] { Deliver_In_Time(); });
 }
 
+// On a busy machine the job's thread may have to wait for its turn in the middle of an Add, and the window does not
+// wait with it.
 void Outcome_Post::Deliver_In_Time()
 {
     const double left = m_last_delivery + Seconds_Between_Deliveries - Now_Seconds();
-    if (left <= 0)
-        Deliver();
-    else if (!m_timer.isActive())
-        m_timer.start(static_cast<int>(std::ceil(left * 1000)));
+    if (left > 0) {
+        if (!m_timer.isActive())
+            m_timer.start(static_cast<int>(std::ceil(left * 1000)));
+        return;
+    }
+    std::unique_lock guard(m_lock, std::try_to_lock);
+    if (guard)
+        Deliver(std::move(guard));
+    else
+        m_timer.start(1);
 }
 
 void Outcome_Post::Deliver()
 {
+    Deliver(std::unique_lock(m_lock));
+}
+
+void Outcome_Post::Deliver(std::unique_lock<std::mutex> guard)
+{
     m_timer.stop();
     m_last_delivery = Now_Seconds();
-    std::vector<Run> runs;
-    Outcome_Codes codes;
-    {
-        const std::lock_guard guard(m_lock);
-        runs.swap(m_runs);
-        codes = m_codes;
-        m_is_on_its_way = false;
-    }
+    const std::vector<Run> runs = std::exchange(m_runs, {});
+    const Outcome_Codes codes = m_codes;
+    m_is_on_its_way = false;
+    guard.unlock();
     for (const Run& run : runs)
         m_window.Take_Outcomes(run.first_row, run.marks, codes);
 }

@@ -32,6 +32,7 @@ private:
     };
 
     void Deliver_In_Time();
+    void Deliver(std::unique_lock<std::mutex> guard);
 
     Main_Window& m_window;
     QTimer m_timer{this};
