@@ -3,6 +3,7 @@
 #include "platform/Text_Files.h"
 #include "records/Job_Line.h"
 
+#include <QLocale>
 #include <QVarLengthArray>
 #include <cmath>
 #include <limits>
