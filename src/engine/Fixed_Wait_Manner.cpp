@@ -1,6 +1,8 @@
 #include "engine/Fixed_Wait_Manner.h"
 
 #include "device/MFCSMS.h"
+#include "device/Stop_Flag.h"
+#include "device/Submission_Rules.h"
 #include "platform/Waiting.h"
 #include "texts/Texts.h"
 
@@ -122,12 +124,20 @@ Send_Manner::Submission Fixed_Wait_Manner::Submit(int, const Recipient& recipien
         Wait_Seconds(Seconds_After_Message);
         if (!is_handed_over)
             return {Next::Fail, {Row_State::May_Have_Been_Sent, {}}, false, Texts::Sending::Connection_Error};
-        return {Next::Go_On, Outcome_Of_Answers(m_session.Message_Answers()), true};
+        return {Next::Go_On, Outcome_Of(recipient), true};
     } catch (const std::exception&) {
         const Row_Outcome outcome{Row_State::May_Have_Been_Sent, {}};
         return m_mode == Pdu_Mode ? Submission{Next::Break_Off, outcome, false}
                                   : Submission{Next::Go_On, outcome, true};
     }
+}
+
+// A stop between the parts leaves the others unsent, and how many these are is not known here.
+Row_Outcome Fixed_Wait_Manner::Outcome_Of(const Recipient& recipient) const
+{
+    if (Stop_SMS_Sending_Now == 1 && !May_Be_Single(recipient.Message.size(), m_order.choices.unicode))
+        return {Row_State::May_Have_Been_Sent, {}};
+    return Outcome_Of_Answers(m_session.Message_Answers());
 }
 
 void Fixed_Wait_Manner::Skipped(int, Skip_Reason)

@@ -26,6 +26,7 @@ public:
     void Close() override;
 
 private:
+    Row_Outcome Outcome_Of(const Recipient& recipient) const;
     void Set_Read_Timeout(double seconds);
     void Close_Handle();
     void Close_Port();
