@@ -50,14 +50,19 @@ std::optional<Late_Result> Submission_Result(const QByteArray& line)
     return Late_Result{reference, comma < 0 ? QByteArray() : fields.mid(comma + 1).trimmed(), std::nullopt};
 }
 
-At_Answer At_Conversation::Ask(const QByteArray& command, double seconds, const QByteArray& prefix, Ok_Line ok_line)
+bool At_Conversation::Begin(const QByteArray& command)
 {
     Log_Exchange("Write", command);
-    if (!m_line.Write(command + '\r'))
+    return m_line.Write(command + '\r');
+}
+
+At_Answer At_Conversation::Ask(const QByteArray& command, double seconds, const QByteArray& prefix, Ok_Line ok_line)
+{
+    if (!Begin(command))
         return {At_End::Gone, {}, {}};
     At_Answer answer;
     double end = Now_Seconds() + Paced_Read_Timeout(seconds);
-    for (;;) {
+    do { // some devices never stop talking, and there is no silence then
         const Heard heard = Hear(end);
         switch (heard.m_kind) {
         case Heard::Kind::Gone:
@@ -87,7 +92,8 @@ At_Answer At_Conversation::Ask(const QByteArray& command, double seconds, const 
             if (ok_line == Ok_Line::May_Be_Missing)
                 end = std::min(end, Now_Seconds() + Paced_Read_Timeout(Longest_Wait_For_Ok));
         }
-    }
+    } while (Now_Seconds() < end);
+    return answer;
 }
 
 At_Conversation::Heard At_Conversation::Hear(double end)

@@ -76,6 +76,8 @@ public:
     At_Answer Ask(const QByteArray& command, double seconds, const QByteArray& prefix = {},
                   Ok_Line ok_line = Ok_Line::Comes);
 
+    /// Writes a command alone, with its carriage return; whether it went out.
+    bool Begin(const QByteArray& command);
     bool Write(const QByteArray& bytes) { return m_line.Write(bytes); }
     /// The next line or prompt that is not a report; Silence at the end, on the clock of Now_Seconds.
     Heard Hear(double end);

@@ -1,6 +1,5 @@
 #include "device/Confirmed_Session.h"
 
-#include "platform/Log_Line.h"
 #include "platform/Waiting.h"
 
 #include <algorithm>
@@ -91,8 +90,7 @@ Part_Result Confirmed_Session::Submit(const Part_To_Send& part, Part_Watcher& wa
     Keep_Distance();
     m_conversation.Hear_What_Came();
     m_conversation.Expect_Late_Result(false);
-    Show_NSLog_Message(QLatin1String("Write \"") + QString::fromUtf8(part.m_command) + QLatin1Char('"'));
-    if (!m_conversation.Write(part.m_command + '\r'))
+    if (!m_conversation.Begin(part.m_command))
         return Kept_Back(Part_Result::Obstacle::Line_Lost);
     if (const auto end = Await_Prompt(watcher)) {
         m_last_result = Now_Seconds();
@@ -139,12 +137,13 @@ Part_Result Confirmed_Session::Leave_Prompt(Part_Result::Obstacle obstacle)
 {
     m_conversation.Call_Off_Message();
     const double end = Now_Seconds() + Paced_Read_Timeout(Longest_Cancel);
-    for (;;) {
+    bool is_over = false;
+    while (!is_over && Now_Seconds() < end) {
         const Heard heard = m_conversation.Hear(end);
-        if (heard.m_kind == Heard::Kind::Silence || heard.m_kind == Heard::Kind::Gone || heard.m_line == "OK" ||
-            Cause_Of_Line(QString::fromUtf8(heard.m_line)))
-            return Kept_Back(obstacle);
+        is_over = heard.m_kind == Heard::Kind::Silence || heard.m_kind == Heard::Kind::Gone || heard.m_line == "OK" ||
+                  Cause_Of_Line(QString::fromUtf8(heard.m_line));
     }
+    return Kept_Back(obstacle);
 }
 
 Part_Result Confirmed_Session::Await_Result(const QByteArray& body, Part_Watcher& watcher)

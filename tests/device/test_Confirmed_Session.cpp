@@ -193,6 +193,18 @@ TEST_F(Confirmed, Without_A_Prompt_Nothing_Is_Handed_Over_And_The_Phone_Listens_
     EXPECT_TRUE(m_session.Answers());
 }
 
+TEST_F(Confirmed, A_Phone_That_Never_Stops_Talking_And_Never_Answers_Costs_No_More_Than_The_Time)
+{
+    Open_With({});
+    m_phone.Will_Answer("AT", "\r\n");
+    m_phone.Will_Answer("AT+CMGS=18", "\r\n");
+    Phone_Moods talkative;
+    talkative.m_never_stops_talking = true;
+    m_phone.Set_Moods(talkative);
+    EXPECT_FALSE(m_session.Answers());
+    EXPECT_EQ(Submit().m_obstacle, Obstacle::No_Prompt);
+}
+
 TEST_F(Confirmed, A_Cause_In_Place_Of_The_Prompt_Refuses_The_Part)
 {
     Open_With({});
