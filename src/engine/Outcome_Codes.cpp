@@ -19,8 +19,3 @@ Row_Outcome Outcome_Codes::Outcome_Of(quint8 code) const
 {
     return {State_Of(code), code < First_Cause ? Device_Cause() : m_causes.value(code - First_Cause)};
 }
-
-Row_State Outcome_Codes::State_Of(quint8 code)
-{
-    return code < First_Cause ? static_cast<Row_State>(code) : Row_State::Refused;
-}

@@ -20,7 +20,10 @@ public:
     Row_Outcome Outcome_Of(quint8 code) const;
 
     /// The state in the outcome of a code.
-    static Row_State State_Of(quint8 code);
+    static Row_State State_Of(quint8 code)
+    {
+        return code < First_Cause ? static_cast<Row_State>(code) : Row_State::Refused;
+    }
 
 private:
     static constexpr int First_Cause = 256 - Most_Causes; // below are the states

@@ -79,8 +79,3 @@ QStringList Usual_Signed_Outcomes()
         texts.append(Signed_Outcome({row.state, {Device_Cause::Kind::Cms, 500, {}}}));
     return texts;
 }
-
-bool Was_Not_Taken(Row_State state)
-{
-    return state == Row_State::Refused || state == Row_State::Not_Tried;
-}

@@ -18,4 +18,7 @@ QStringList Usual_Signed_Outcomes();
 
 /// Whether the message was certainly not taken, so that it arrives once if it is sent again. Whoever is to be left out
 /// does not count.
-bool Was_Not_Taken(Row_State state);
+inline bool Was_Not_Taken(Row_State state)
+{
+    return state == Row_State::Refused || state == Row_State::Not_Tried;
+}
