@@ -80,7 +80,7 @@ TEST_F(Active_Window, Comes_Back_After_A_Box)
     User user;
     for (int opening = 0; opening < Openings(); ++opening) {
         user.Will_Press("OK");
-        Show_MessageBox(QStringLiteral("Something is wrong."));
+        Show_MessageBox("Something is wrong.");
         ASSERT_TRUE(Is_Active_Again(m_dialog)) << "opening " << opening;
     }
 }
@@ -89,8 +89,8 @@ TEST_F(Active_Window, Comes_Back_After_A_Dialog_Over_It)
 {
     User user;
     QDialog over;
-    over.setObjectName(QStringLiteral("Over"));
-    (new QVBoxLayout(&over))->addWidget(new QPushButton(QStringLiteral("Close")));
+    over.setObjectName("Over");
+    (new QVBoxLayout(&over))->addWidget(new QPushButton("Close"));
     for (int opening = 0; opening < Openings(); ++opening) {
         user.When_Opens("Over", [&](QWidget& window) {
             if (opening % 2 == 1) { // every other one is read before it is closed

@@ -10,6 +10,9 @@ struct Sight
 {
     const char* what;
     std::function<QWidget&(CorvaneAppDelegate&)> window;
+    std::vector<std::pair<const char*, QString>> labels = {}; // with their texts; they are shown
+
+    QWidget& Prepared(CorvaneAppDelegate& main) const;
 };
 
 /// Every window of the program, some of them more than once.

@@ -68,13 +68,9 @@ protected:
     template <typename Control>
     Control& The(const char* name)
     {
-        return *m_program->Delegate().findChild<Control*>(QLatin1String(name));
+        return *m_program->Delegate().findChild<Control*>(name);
     }
     void Click(const char* name) { QTest::mouseClick(&The<QPushButton>(name), Qt::LeftButton); }
-    static void Click_In(QWidget& window, const char* name)
-    {
-        QTest::mouseClick(window.findChild<QAbstractButton*>(QLatin1String(name)), Qt::LeftButton);
-    }
 
     /// Something to ask whether a window of this name is shown.
     static std::function<bool()> Is_Shown(const char* window_name)
@@ -82,11 +78,30 @@ protected:
         return [window_name] {
             const auto windows = QApplication::topLevelWidgets();
             return std::any_of(windows.begin(), windows.end(), [&](const QWidget* window) {
-                return window->isVisible() && window->objectName() == QLatin1String(window_name);
+                return window->isVisible() && window->objectName() == window_name;
             });
         };
     }
     static bool A_Box_Is_Open() { return Is_Shown("Message_Box")(); }
+    static bool A_Panel_Is_Open() { return Is_File_Panel(QApplication::activeModalWidget()); }
+
+    void Add_Recipients()
+    {
+        for (const char* number : {"111", "222", "333"})
+            m_program->Delegate().Create_Num_Msg_List(number, "Hello");
+    }
+
+    /// Leaves in the second that passes between the press of a button and what it opens.
+    void Leave_Just_After(const char* button)
+    {
+        Set_Pace(1);
+        bool is_pressed = false;
+        Leave_When([&] { return is_pressed; },
+                   [&, button] {
+                       is_pressed = true;
+                       Click(button);
+                   });
+    }
 
     User user;
     std::unique_ptr<Program> m_program;

@@ -1,16 +1,16 @@
 #pragma once
 
 #include "device/Stop_Flag.h"
+#include "gui/In_Windows.h"
 #include "platform/Interface_Thread.h"
 #include "platform/Pace.h"
-#include "support/Serve_Until.h"
-#include "support/User.h"
 #include "toolkit/Shared_Instance.h"
 #include "toolkit/Window_Look.h"
 #include "windows/main/CorvaneAppDelegate.h"
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -70,7 +70,7 @@ protected:
     }
     QString Shown(int row, int column) const
     {
-        const auto* table = m_delegate->findChild<QTableView*>(QStringLiteral("idTableView"));
+        const auto* table = m_delegate->findChild<QTableView*>("idTableView");
         return table->model()->index(row, column).data().toString();
     }
     QString Count_Label() { return The<QLabel>("_gsm_list_count").text(); }

@@ -14,14 +14,14 @@
 // A person without patience: presses whatever can be pressed, at random moments, while messages are sent, numbers are
 // imported and devices are looked for, and leaves in the middle of it. One seed, one such visit. However it went, the
 // program ends within a second, nothing of it is left, and the records tell what the phone has.
-class Random_Moments : public Leaving_Program
+class Random_Moments : public Leaving_Program, public testing::WithParamInterface<unsigned>
 {
-public:
-    explicit Random_Moments(unsigned seed) : m_random(seed)
+protected:
+    Random_Moments()
     {
         Set_Pace(std::array{25, 100, 400}[m_random() % 3]);
         QFile::remove(QFile::decodeName(Sent_Item_Path.toLocal8Bit()));
-        QFile file(m_folder.filePath(QStringLiteral("numbers.txt")));
+        QFile file(m_folder.filePath("numbers.txt"));
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
         for (int line = 0; line < 20'000; ++line)
             file.write(QByteArray::number(1'000'000 + line) + "\r\n");
@@ -33,33 +33,6 @@ public:
     }
     ~Random_Moments() override { m_program.reset(); }
 
-    void TestBody() override
-    {
-        Command_Line command_line;
-        command_line.device_paths = {QString::fromStdString(m_phone.Path())};
-        Start(command_line);
-        user.Will_Leave_The_Others_Open();
-        sel_port_bsd_str = QString::fromStdString(m_phone.Path());
-        The<QCheckBox>("_Save_Sent_Item_Chk").setChecked(true);
-        The<QPlainTextEdit>("_messageEdit").setPlainText(QStringLiteral("Hello"));
-        for (int item = 0; item < 30; ++item)
-            m_program->Delegate().Create_Num_Msg_List(QString::number(1000 + item), QStringLiteral("Hello"));
-        m_impatience.start(0);
-        QTimer::singleShot(static_cast<int>(200 + m_random() % 1500), m_program.get(), [this] {
-            m_impatience.stop();
-            m_last_pressed = Now_Seconds();
-            m_program->Leave();
-        });
-        EXPECT_EQ(m_program->Run(), 0);
-        m_impatience.stop();
-        m_program.reset();
-        EXPECT_LT(Now_Seconds() - m_last_pressed, Longest_Way_Out) << "after " << m_pressed.join(u' ').toStdString();
-        Expect_Nothing_Left();
-        EXPECT_EQ(Descriptors_On(m_phone.Path()), 0);
-        Expect_A_Record_Of_Each_Message();
-    }
-
-private:
 #if defined(__SANITIZE_THREAD__) || defined(__SANITIZE_ADDRESS__)
     static constexpr double Longest_Way_Out = 5; // the same, several times slower
 #else
@@ -75,17 +48,17 @@ private:
         if (auto* panel = qobject_cast<QFileDialog*>(window)) {
             Answer_Panel(*panel);
         } else if (!window->isVisible() || !window->windowHandle() ||
-                   (window->objectName() == QStringLiteral("Send_Modeless") && m_random() % 20 != 0)) {
+                   (window->objectName() == "Send_Modeless" && m_random() % 20 != 0)) {
             return; // a job is given some time
         } else if (window != &m_program->Delegate() && m_random() % 10 == 0) {
-            m_pressed.append(window->objectName() + QStringLiteral(":Escape"));
+            m_pressed.append(window->objectName() + ":Escape");
             QTest::keyClick(window->windowHandle(), Qt::Key_Escape);
         } else if (m_random() % 40 == 0) {
-            m_pressed.append(window->objectName() + QStringLiteral(":close"));
+            m_pressed.append(window->objectName() + ":close");
             window->close();
-        } else if (auto* devices = window->findChild<QTableView*>(QStringLiteral("idPortList"));
+        } else if (auto* devices = window->findChild<QTableView*>("idPortList");
                    devices && devices->model()->rowCount() > 0 && m_random() % 3 == 0) {
-            m_pressed.append(QStringLiteral("device"));
+            m_pressed.append("device");
             devices->selectRow(static_cast<int>(m_random()) & 1 ? devices->model()->rowCount() - 1 : 0);
         } else {
             Press_A_Button(*window);
@@ -95,20 +68,19 @@ private:
     void Answer_Panel(QFileDialog& panel)
     {
         if (panel.acceptMode() == QFileDialog::AcceptSave || m_random() % 2 == 0) {
-            m_pressed.append(QStringLiteral("panel:no"));
+            m_pressed.append("panel:no");
             panel.reject();
             return;
         }
-        m_pressed.append(QStringLiteral("panel:yes"));
-        panel.selectFile(m_folder.filePath(QStringLiteral("numbers.txt")));
+        m_pressed.append("panel:yes");
+        panel.selectFile(m_folder.filePath("numbers.txt"));
         QMetaObject::invokeMethod(&panel, "accept");
     }
 
     void Press_A_Button(QWidget& window)
     {
         // Records are to be kept, and to stay where they are.
-        static const std::set<QString> left_alone{QStringLiteral("_Save_Sent_Item_Chk"), QStringLiteral("Reset_Btn"),
-                                                  QStringLiteral("Sent_Item_Btn")};
+        static const std::set<QString> left_alone{"_Save_Sent_Item_Chk", "Reset_Btn", "Sent_Item_Btn"};
         QList<QAbstractButton*> buttons;
         for (auto* button : window.findChildren<QAbstractButton*>()) {
             const bool can_be_pressed = button->isVisible() && button->isEnabled() && button->window() == &window;
@@ -144,7 +116,7 @@ private:
         EXPECT_EQ(recorded, sent) << "after " << m_pressed.join(u' ').toStdString();
     }
 
-    std::mt19937 m_random;
+    std::mt19937 m_random{GetParam()};
     Virtual_Phone m_phone;
     QTemporaryDir m_folder;
     QTimer m_impatience;
@@ -152,11 +124,28 @@ private:
     double m_last_pressed = 0;
 };
 
-/// Makes a test of each seed.
-inline bool Register_Random_Moments(unsigned first_seed, unsigned last_seed)
+TEST_P(Random_Moments, End_In_An_Orderly_Way)
 {
-    for (unsigned seed = first_seed; seed <= last_seed; ++seed)
-        testing::RegisterTest("Random_Moments", ("Of_Seed_" + std::to_string(seed)).c_str(), nullptr, nullptr, __FILE__,
-                              __LINE__, [seed]() -> testing::Test* { return new Random_Moments(seed); });
-    return true;
+    Command_Line command_line;
+    command_line.device_paths = {QString::fromStdString(m_phone.Path())};
+    Start(command_line);
+    user.Will_Leave_The_Others_Open();
+    sel_port_bsd_str = QString::fromStdString(m_phone.Path());
+    The<QCheckBox>("_Save_Sent_Item_Chk").setChecked(true);
+    The<QPlainTextEdit>("_messageEdit").setPlainText("Hello");
+    for (int item = 0; item < 30; ++item)
+        m_program->Delegate().Create_Num_Msg_List(QString::number(1000 + item), "Hello");
+    m_impatience.start(0);
+    QTimer::singleShot(static_cast<int>(200 + m_random() % 1500), m_program.get(), [this] {
+        m_impatience.stop();
+        m_last_pressed = Now_Seconds();
+        m_program->Leave();
+    });
+    EXPECT_EQ(m_program->Run(), 0);
+    m_impatience.stop();
+    m_program.reset();
+    EXPECT_LT(Now_Seconds() - m_last_pressed, Longest_Way_Out) << "after " << m_pressed.join(u' ').toStdString();
+    Expect_Nothing_Left();
+    EXPECT_EQ(Descriptors_On(m_phone.Path()), 0);
+    Expect_A_Record_Of_Each_Message();
 }

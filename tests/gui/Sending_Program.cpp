@@ -4,21 +4,16 @@
 #include "device/Stop_Flag.h"
 #include "doctor/Phone_Search.h"
 #include "engine/Job_State.h"
-#include "support/Patient_Calls.h"
 #include "toolkit/Plain_Text_Edit.h"
 #include "windows/main/Send_Modeless.h"
 #include "windows/phone/Phone_List_Wnd.h"
 
-#include <QClipboard>
-#include <QDir>
 #include <QMessageBox>
 #include <QTimer>
 #include <QWindow>
 #include <algorithm>
-#include <array>
-#include <fcntl.h>
+#include <filesystem>
 #include <iostream>
-#include <unistd.h>
 
 namespace {
 
@@ -28,43 +23,42 @@ constexpr double Sending_Pace = 250;
 
 const QStringList& Numbers_Sent_To()
 {
-    static const QStringList numbers = {QStringLiteral("00447700900123"), QStringLiteral("07700900456"),
-                                        QStringLiteral("07700900789")};
+    static const QStringList numbers = {"00447700900123", "07700900456", "07700900789"};
     return numbers;
 }
 
 QString Short_Text(bool unicode)
 {
-    return unicode ? QStringLiteral("Репетиция в четверг в 19:00 \U0001F3B5")
-                   : QStringLiteral("Choir practice moves to Thursday, 7 pm.");
+    return unicode ? "Репетиция в четверг в 19:00 \U0001F3B5" : "Choir practice moves to Thursday, 7 pm.";
 }
 
 // Grows the short text past one SMS: to 200 characters, or to 100 of Unicode.
 QString Long_Text(bool unicode)
 {
-    const QString sentence = unicode ? QStringLiteral(" Приносите ноты.") : QStringLiteral(" Please bring your notes.");
+    const QString sentence = unicode ? " Приносите ноты." : " Please bring your notes.";
     QString text = Short_Text(unicode);
     while (text.size() < (unicode ? 100 : 200))
         text += sentence;
     return text.left(unicode ? 100 : 200);
 }
 
-Handset_Message Message(const QString& number, const QString& text, const Way& way, int parts)
+std::string As_Shown(const Handset_Message& message)
+{
+    return message.m_number + " (" + message.m_alphabet + ", class " + std::to_string(message.m_class) + ", " +
+           std::to_string(message.m_parts) + (message.m_text_mode ? " by text" : " by PDU") + "): " + message.m_text;
+}
+
+// As a handset shows a message of so many parts.
+std::string Message_Shown(int recipient, const QString& text, const Way& way, int parts = 1)
 {
     Handset_Message message;
-    message.m_number = number.toStdString();
+    message.m_number = Numbers_Sent_To().at(recipient).toStdString();
     message.m_text = text.toStdString();
     message.m_alphabet = way.m_unicode ? "UCS2" : "GSM 7-bit";
     message.m_class = way.m_flash ? 0 : -1;
     message.m_parts = parts;
     message.m_text_mode = way.m_text_mode;
-    return message;
-}
-
-std::string As_Shown(const Handset_Message& message)
-{
-    return message.m_number + " (" + message.m_alphabet + ", class " + std::to_string(message.m_class) + ", " +
-           std::to_string(message.m_parts) + (message.m_text_mode ? " by text" : " by PDU") + "): " + message.m_text;
+    return As_Shown(message);
 }
 
 void Click_On(QWidget& control, const QPoint& place)
@@ -75,10 +69,7 @@ void Click_On(QWidget& control, const QPoint& place)
 template <typename Control>
 Control& In_Wizard(const char* name)
 {
-    auto* control = Phone_List_Wnd::defaultInstance()->findChild<Control*>(QLatin1String(name));
-    if (!control)
-        qFatal("there is no %s in the wizard", name);
-    return *control;
+    return In<Control>(*Phone_List_Wnd::defaultInstance(), name);
 }
 
 bool Progress_Is_Shown()
@@ -122,9 +113,9 @@ void Sending_Program::Slow_Down(double factor)
 // The first message is about to go out when the stop button can be pressed.
 bool Sending_Program::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::Show && watched->objectName() == QStringLiteral("PleaseWait_Modeless"))
+    if (event->type() == QEvent::Show && watched->objectName() == "PleaseWait_Modeless")
         ++m_sheets;
-    if (event->type() == QEvent::EnabledChange && watched->objectName() == QStringLiteral("_stop_btn") &&
+    if (event->type() == QEvent::EnabledChange && watched->objectName() == "_stop_btn" &&
         static_cast<QPushButton*>(watched)->isEnabled())
         Set_Pace(m_sending_pace);
     return false;
@@ -162,9 +153,7 @@ void Sending_Program::Fill_The_List(const Way& way, int items)
         Add(number);
     if (items < Items)
         return;
-    user.When_Opens(QStringLiteral("Long_SMS_Dlg"), [](QWidget& dialog) {
-        QTest::mouseClick(dialog.findChild<QPushButton*>(QStringLiteral("OKPressed")), Qt::LeftButton);
-    });
+    Will_Click_In(user, "Long_SMS_Dlg", "OKPressed");
     Paste(Long_Text(way.m_unicode).mid(short_text.size()));
     Add(Numbers_Sent_To().at(2));
     ASSERT_EQ(m_delegate->Recipients().Count(), Items);
@@ -182,9 +171,7 @@ void Sending_Program::Paste(const QString& text)
 void Sending_Program::Press_Send()
 {
     if (Exact_Text(The<QPlainTextEdit>("_messageEdit")) != m_delegate->Previous_Composer_Message())
-        user.When_Opens(QStringLiteral("Send_Msg_Info"), [](QWidget& dialog) {
-            QTest::mouseClick(dialog.findChild<QPushButton*>(QStringLiteral("ContinuePressed")), Qt::LeftButton);
-        });
+        Will_Click_In(user, "Send_Msg_Info", "ContinuePressed");
     Click("_sent_btn");
 }
 
@@ -230,19 +217,14 @@ std::vector<std::string> Sending_Program::Inbox() const
 
 std::vector<std::string> Sending_Program::Everything(const Way& way)
 {
-    const auto& numbers = Numbers_Sent_To();
     const QString short_text = Short_Text(way.m_unicode);
     const QString long_text = Long_Text(way.m_unicode);
-    std::vector<std::string> messages = {As_Shown(Message(numbers.at(0), short_text, way, 1)),
-                                         As_Shown(Message(numbers.at(1), short_text, way, 1))};
     const int cut = way.m_unicode ? 70 : 160;
-    if (way.m_text_mode) {
-        messages.push_back(As_Shown(Message(numbers.at(2), long_text.left(cut), way, 1)));
-        messages.push_back(As_Shown(Message(numbers.at(2), long_text.mid(cut), way, 1)));
-    } else {
-        messages.push_back(As_Shown(Message(numbers.at(2), long_text, way, 2)));
-    }
-    return messages;
+    if (!way.m_text_mode)
+        return {Message_Shown(0, short_text, way), Message_Shown(1, short_text, way),
+                Message_Shown(2, long_text, way, 2)};
+    return {Message_Shown(0, short_text, way), Message_Shown(1, short_text, way),
+            Message_Shown(2, long_text.left(cut), way), Message_Shown(2, long_text.mid(cut), way)};
 }
 
 void Sending_Program::Expect_That_All_Is_Quiet()
@@ -250,7 +232,7 @@ void Sending_Program::Expect_That_All_Is_Quiet()
     EXPECT_EQ(sms_thread_var, 0);
     EXPECT_EQ(ph_find_thread, 0);
     EXPECT_FALSE(Progress_Is_Shown());
-    EXPECT_FALSE(Send_Modeless::defaultInstance()->findChild<QTimer*>(QStringLiteral("msend_modTimer"))->isActive());
+    EXPECT_FALSE(Send_Modeless::defaultInstance()->findChild<QTimer*>("msend_modTimer")->isActive());
     EXPECT_EQ(m_delegate->Session().port(), nullptr);
     // The phone itself opens its line for a moment, to drop what nobody read; what leaks here stays open.
     EXPECT_TRUE(Serve_Until([this] { return Descriptors_On(m_path) == m_lines_held; }, 10)) << m_path;
@@ -258,7 +240,7 @@ void Sending_Program::Expect_That_All_Is_Quiet()
     auto& field = The<QLineEdit>("_numberEdit");
     Click_On(field, field.rect().center());
     QTest::keyClick(m_delegate->windowHandle(), Qt::Key_7);
-    EXPECT_EQ(field.text(), QStringLiteral("7"));
+    EXPECT_EQ(field.text(), "7");
     field.clear();
 }
 
@@ -276,10 +258,8 @@ void Sending_Program::Visit_Wizard(const std::function<void()>& steps)
 {
     m_path = phone->Path();
     Set_Extra_Device_Paths({QString::fromStdString(m_path)});
-    user.When_Opens(QStringLiteral("Connection_Info"), [](QWidget& window) {
-        QTest::mouseClick(window.findChild<QPushButton*>(QStringLiteral("Continue_Btn")), Qt::LeftButton);
-    });
-    user.When_Opens(QStringLiteral("Phone_List_Wnd"), [this, steps](QWidget&) {
+    Will_Click_In(user, "Connection_Info", "Continue_Btn");
+    user.When_Opens("Phone_List_Wnd", [this, steps](QWidget&) {
         steps();
         if (Wizard_Is_Open())
             Click_In_Wizard("_Cancel_Btn");
@@ -289,8 +269,7 @@ void Sending_Program::Visit_Wizard(const std::function<void()>& steps)
     Set_Extra_Device_Paths({});
     Expect_That_All_Is_Quiet();
     const QString ticker = The<QLabel>("_Device_Name_Ticker").text();
-    EXPECT_EQ(ticker, sel_port_bsd_str.isEmpty() ? QStringLiteral("No Mobile Phone Device is selected.")
-                                                 : sel_port_bsd_str.mid(8));
+    EXPECT_EQ(ticker, sel_port_bsd_str.isEmpty() ? "No Mobile Phone Device is selected." : sel_port_bsd_str.mid(8));
 }
 
 bool Sending_Program::Wizard_Is_Open()
@@ -360,43 +339,15 @@ void Sending_Program::Expect_That_The_Wizard_Takes_The_Phone()
     EXPECT_EQ(sel_port_bsd_str.toStdString(), phone->Path());
 }
 
-// ---- What the tests hold in their own hands
-
-Cable_Puller::Cable_Puller(Virtual_Phone& phone, std::function<bool()> is_time)
-{
-    The_Patient_Calls().Look_After_Each_Write([&phone, is_time = std::move(is_time)] {
-        if (!phone.Is_Hung_Up() && is_time())
-            phone.Hang_Up();
-    });
-}
-
-Cable_Puller::~Cable_Puller()
-{
-    The_Patient_Calls().Look_After_Each_Write({});
-}
-
-Held_Line::Held_Line(const std::string& path)
-    : m_descriptor(::open(path.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC))
-{
-    EXPECT_NE(m_descriptor, -1) << path;
-}
-
-Held_Line::~Held_Line()
-{
-    ::close(m_descriptor);
-}
-
 int Descriptors_On(const std::string& path)
 {
+    if (path.empty())
+        return 0;
     int count = 0;
-    const QDir descriptors(QStringLiteral("/proc/self/fd"));
-    const auto entries = descriptors.entryList(QDir::Files | QDir::System | QDir::NoDotAndDotDot);
-    for (const auto& entry : entries) {
-        std::array<char, 256> target{};
-        const auto link = descriptors.filePath(entry).toLocal8Bit();
-        if (path.empty() || ::readlink(link.constData(), target.data(), target.size() - 1) < 0)
-            continue;
-        count += target.data() == path || target.data() == path + " (deleted)" ? 1 : 0;
+    for (const auto& descriptor : std::filesystem::directory_iterator("/proc/self/fd")) {
+        std::error_code gone;
+        const std::string target = std::filesystem::read_symlink(descriptor.path(), gone);
+        count += target == path || target == path + " (deleted)" ? 1 : 0;
     }
     return count;
 }

@@ -83,6 +83,8 @@ protected:
     void Visit_Wizard(const std::function<void()>& steps);
     /// Clicks the phone's row and waits for the end of the probe.
     void Click_The_Phone();
+    /// The device's row in the wizard's list, or none.
+    QModelIndex Row_Of(const QString& path);
     /// Whether the device is in the wizard's list.
     bool Wizard_Lists(const QString& path);
     void Click_In_Wizard(const char* button);
@@ -104,51 +106,12 @@ protected:
 private:
     void Paste(const QString& text);
     void Expect_Progress_As_It_Should_Be(const std::string& box);
-    QModelIndex Row_Of(const QString& path);
 
     int m_sheets = 0; // please-wait sheets shown since the last click on a device
     double m_preparing_pace;
     double m_sending_pace;
     std::string m_path; // of the device selected last
 };
-
-// Pulls the cable once the phone has come so far; looks after each write to it, before its answer is read. Gives up
-// when it goes.
-class Cable_Puller
-{
-public:
-    Cable_Puller(Virtual_Phone& phone, std::function<bool()> is_time);
-    ~Cable_Puller();
-    Cable_Puller(const Cable_Puller&) = delete;
-    Cable_Puller& operator=(const Cable_Puller&) = delete;
-};
-
-// An open descriptor of a phone's line in the test's own hand. While it is held, no other phone on this computer gets
-// the line's number, so that the path of a phone that has hung up leads nowhere.
-class Held_Line
-{
-public:
-    explicit Held_Line(const std::string& path);
-    ~Held_Line();
-    Held_Line(const Held_Line&) = delete;
-    Held_Line& operator=(const Held_Line&) = delete;
-
-    int Descriptor() const { return m_descriptor; }
-
-private:
-    int m_descriptor;
-};
-
-/// Makes a test of each row of a table, a sentence that begins the same and ends in the row's name. The test class is
-/// made from its row.
-template <typename Test, typename Row, std::size_t size>
-bool Register_Each(const char* suite, const std::string& beginning, const Row (&rows)[size])
-{
-    for (const Row& row : rows)
-        testing::RegisterTest(suite, (beginning + row.name).c_str(), nullptr, nullptr, __FILE__, __LINE__,
-                              [&row]() -> typename Test::Fixture* { return new Test(row); });
-    return true;
-}
 
 /// How many descriptors of this process stand for the device, also where its path has gone.
 int Descriptors_On(const std::string& path);

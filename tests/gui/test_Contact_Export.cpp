@@ -1,12 +1,10 @@
 #include "gui/Open_Program.h"
 #include "records/Contact_Export.h"
+#include "support/Files.h"
 #include "support/Opened_Files.h"
 
 #include <QDesktopServices>
-#include <QFile>
-#include <QFileDialog>
 #include <QTemporaryDir>
-#include <QUrl>
 
 namespace {
 
@@ -25,32 +23,15 @@ protected:
     }
     ~Contact_List_Export() override { QDesktopServices::unsetUrlHandler("file"); }
 
-    void Will_Save_As(const QString& path)
+    /// With the button of the offer to open the file that is pressed afterwards.
+    void Export_As(const QString& path, const char* button)
     {
-        user.Will_Do([path](QDialog* dialog) {
-            auto* panel = qobject_cast<QFileDialog*>(dialog);
-            ASSERT_NE(panel, nullptr);
-            EXPECT_EQ(panel->acceptMode(), QFileDialog::AcceptSave);
-            auto* name = panel->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-            ASSERT_NE(name, nullptr);
-            name->setText(path);
-            QTest::keyClick(name, Qt::Key_Return);
-        });
+        Will_Enter_Path(user, path);
+        Will_Click_In(user, "Open_Export_Log", button);
+        Click("Export_Btn");
     }
 
-    void Will_Answer_To_Opening(const char* button)
-    {
-        user.When_Opens("Open_Export_Log", [button](QWidget& dialog) {
-            QTest::mouseClick(dialog.findChild<QPushButton*>(QLatin1String(button)), Qt::LeftButton);
-        });
-    }
-
-    QByteArray Content(const QString& name)
-    {
-        QFile file(m_folder.filePath(name));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
-        return file.readAll();
-    }
+    QString In_Folder(const char* name) const { return m_folder.filePath(name); }
 
     Opened_Files m_opener;
     QTemporaryDir m_folder;
@@ -58,22 +39,14 @@ protected:
 
 } // namespace
 
-TEST_F(Contact_List_Export, Two_Numbers_Are_The_Banner_And_Two_Lines)
+TEST_F(Contact_List_Export, Two_Numbers_Are_The_Banner_And_Two_Lines_And_Opened_When_That_Is_Wanted)
 {
-    Will_Save_As(m_folder.filePath("list.txt"));
-    Will_Answer_To_Opening("CancelPressed");
-    Click("Export_Btn");
-    EXPECT_EQ(Content("list.txt"), Banner + "111\n222\n");
+    Export_As(In_Folder("list.txt"), "CancelPressed");
+    EXPECT_EQ(Bytes_Of(In_Folder("list.txt")), Banner + "111\n222\n");
     EXPECT_EQ(m_opener.m_urls, QList<QUrl>());
+    Export_As(In_Folder("other.txt"), "OKPressed");
+    EXPECT_EQ(m_opener.m_urls, QList<QUrl>{QUrl::fromLocalFile(In_Folder("other.txt"))});
     EXPECT_EQ(user.Was_Shown(), QStringList());
-}
-
-TEST_F(Contact_List_Export, The_File_Is_Opened_When_That_Is_Wanted)
-{
-    Will_Save_As(m_folder.filePath("list.txt"));
-    Will_Answer_To_Opening("OKPressed");
-    Click("Export_Btn");
-    EXPECT_EQ(m_opener.m_urls, QList<QUrl>{QUrl::fromLocalFile(m_folder.filePath("list.txt"))});
 }
 
 TEST_F(Contact_List_Export, An_Empty_List_Is_Refused)
@@ -86,56 +59,40 @@ TEST_F(Contact_List_Export, An_Empty_List_Is_Refused)
     EXPECT_TRUE(Has_Focus("_numberEdit"));
 }
 
-TEST_F(Contact_List_Export, Cancelling_The_Panel_Writes_Nothing)
-{
-    user.Will_Do([](QDialog* dialog) { dialog->reject(); });
-    Click("Export_Btn");
-    EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files), QStringList());
-}
-
 TEST_F(Contact_List_Export, A_Name_Gets_The_Extension_Unless_It_Has_It)
 {
     const std::vector<std::pair<QString, QString>> names = {
         {"list", "list.txt"}, {"list.TXT", "list.TXT"}, {"list.Txt", "list.Txt"}, {"list.csv", "list.csv.txt"}};
     for (const auto& [typed, written] : names) {
         const QTemporaryDir folder;
-        Will_Save_As(folder.filePath(typed));
-        Will_Answer_To_Opening("CancelPressed");
-        Click("Export_Btn");
+        Export_As(folder.filePath(typed), "CancelPressed");
         EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{written}) << typed.toStdString();
     }
 }
 
 TEST_F(Contact_List_Export, An_Existing_File_Is_Replaced_Once_The_Panel_Has_Asked)
 {
-    QFile file(m_folder.filePath("list.txt"));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(QByteArray(100'000, 'x'));
-    file.close();
-    Will_Save_As(m_folder.filePath("list")); // the panel asks about the name with its extension
+    Write_Bytes(In_Folder("list.txt"), QByteArray(100'000, 'x'));
     user.Will_Handle([](QMessageBox& box) {
         EXPECT_TRUE(box.text().contains("list.txt")) << box.text().toStdString();
         box.button(QMessageBox::Yes)->click();
     });
-    Will_Answer_To_Opening("CancelPressed");
-    Click("Export_Btn");
-    EXPECT_EQ(Content("list.txt"), Banner + "111\n222\n");
+    Export_As(In_Folder("list"), "CancelPressed"); // the panel asks about the name with its extension
+    EXPECT_EQ(Bytes_Of(In_Folder("list.txt")), Banner + "111\n222\n");
 }
 
 TEST_F(Contact_List_Export, A_Place_That_Can_Not_Be_Written_To_Is_Told)
 {
-    QFile file(m_folder.filePath("file"));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    EXPECT_FALSE(Write_Contact_List(m_folder.filePath("file/list.txt"), m_delegate->Recipients()));
+    Write_Bytes(In_Folder("file"), {});
+    EXPECT_FALSE(Write_Contact_List(In_Folder("file/list.txt"), m_delegate->Recipients()));
     EXPECT_FALSE(Write_Contact_List("/dev/full", m_delegate->Recipients()));
     // The panel itself turns away what it can see to be no place; a folder that goes meanwhile is what it can not see.
-    const QString gone = m_folder.filePath("gone");
+    const QString gone = In_Folder("gone");
     ASSERT_TRUE(QDir().mkpath(gone));
-    user.Will_Do([&](QDialog* dialog) {
-        auto* name = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-        name->setText(gone + "/list.txt");
-        QObject::connect(dialog, &QDialog::finished, dialog, [&] { QDir(gone).removeRecursively(); });
-        QTest::keyClick(name, Qt::Key_Return);
+    user.Will_Do([&](QDialog* panel) {
+        EXPECT_EQ(qobject_cast<QFileDialog*>(panel)->acceptMode(), QFileDialog::AcceptSave);
+        QObject::connect(panel, &QDialog::finished, panel, [&] { QDir(gone).removeRecursively(); });
+        Enter_Path(*panel, gone + "/list.txt");
     });
     user.Will_Press("OK");
     Click("Export_Btn");
@@ -150,6 +107,6 @@ TEST_F(Contact_List_Export, A_Hundred_Thousand_Numbers_Are_All_There)
         list.Append(QString::number(number), QString());
         numbers += QByteArray::number(number) + '\n';
     }
-    ASSERT_TRUE(Write_Contact_List(m_folder.filePath("many.txt"), list));
-    EXPECT_EQ(Content("many.txt"), Banner + numbers);
+    ASSERT_TRUE(Write_Contact_List(In_Folder("many.txt"), list));
+    EXPECT_EQ(Bytes_Of(In_Folder("many.txt")), Banner + numbers);
 }

@@ -36,23 +36,11 @@ protected:
     }
 };
 
-TEST_F(Input_While_Sending, Is_Dropped_While_The_Window_Is_Held_And_Not_Kept_For_Later)
-{
-    Fill_The_List({}, 1);
-    m_delegate->Hold_Input();
-    Try_Everything();
-    m_delegate->Release_Input();
-    QTest::qWait(20);
-    EXPECT_EQ(m_delegate->Recipients().Count(), 1);
-    Press_In_Window("Reset_Btn");
-    EXPECT_EQ(m_delegate->Recipients().Count(), 0);
-}
-
 TEST_F(Input_While_Sending, Reaches_Nothing_In_The_Main_Window)
 {
     Fill_The_List({}, 1);
     Select_The_Phone();
-    user.Will_Press(QStringLiteral("OK"));
+    user.Will_Press("OK");
     Click("_sent_btn");
     Try_Everything();
     ASSERT_TRUE(Serve_Until([] { return Send_Modeless::defaultInstance()->isVisible(); }));

@@ -1,7 +1,6 @@
 #include "gui/Open_Program.h"
 #include "support/Keys.h"
 
-#include <QDialog>
 #include <QMessageBox>
 
 using testing::ElementsAre;
@@ -13,21 +12,18 @@ class Keys : public Open_Program
 protected:
     static constexpr int Many_Repeats = 10;
 
-    void Fill_List(std::initializer_list<const char*> numbers)
+    /// With "1", "2" and so on.
+    void Fill_List(int count)
     {
-        for (const char* number : numbers)
-            m_delegate->Create_Num_Msg_List(QString::fromLatin1(number), QString());
+        for (int number = 1; number <= count; ++number)
+            m_delegate->Create_Num_Msg_List(QString::number(number), QString());
         m_delegate->Redisplay_Recipients();
         The<QTableView>("idTableView").setFocus();
     }
-
-    /// The person looks at the editor's number and leaves it by Escape; what was seen is added to the list.
-    void Will_Look_At_The_Editor(QStringList& seen)
+    void Begin_Number(const char* number)
     {
-        user.When_Opens(QStringLiteral("Update_Num_SMS"), [&seen](QWidget& editor) {
-            seen.append(editor.findChild<QLineEdit*>(QStringLiteral("m_num_str"))->text());
-            Press_Key(Qt::Key_Escape);
-        });
+        The<QLineEdit>("_numberEdit").setText(number);
+        The<QLineEdit>("_numberEdit").setFocus();
     }
 
     void Serve_Repeats(const Held_Key& key)
@@ -35,80 +31,73 @@ protected:
         const int enough = key.Repeats() + Many_Repeats;
         EXPECT_TRUE(Serve_Until([&] { return key.Repeats() >= enough; }));
     }
-
-    const QStringList One_Each = {QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3")};
 };
 
-TEST_F(Keys, Return_In_The_Number_Field_Adds_The_Number)
+TEST_F(Keys, Return_In_The_Number_Field_Adds_The_Number_Or_Refuses_It)
 {
-    The<QPlainTextEdit>("_messageEdit").setPlainText(QStringLiteral("hello"));
+    The<QPlainTextEdit>("_messageEdit").setPlainText("hello");
     The<QLineEdit>("_numberEdit").setFocus();
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
-        QTest::keyClicks(&The<QLineEdit>("_numberEdit"), QStringLiteral("+4912"));
+        QTest::keyClicks(&The<QLineEdit>("_numberEdit"), "+4912");
         Press_Key(key, key == Qt::Key_Enter ? Qt::KeypadModifier : Qt::NoModifier);
         EXPECT_TRUE(The<QLineEdit>("_numberEdit").text().isEmpty());
         EXPECT_TRUE(Has_Focus("_numberEdit"));
     }
-    EXPECT_THAT(Numbers(), ElementsAre(QStringLiteral("004912"), QStringLiteral("004912")));
-    EXPECT_EQ(m_delegate->Recipients().At(0).Message, QStringLiteral("hello"));
-}
-
-TEST_F(Keys, Return_In_The_Number_Field_Refuses_What_The_Button_Refuses)
-{
-    The<QLineEdit>("_numberEdit").setText(QStringLiteral("44+1"));
-    The<QLineEdit>("_numberEdit").setFocus();
-    user.Will_Press(QStringLiteral("OK"));
+    EXPECT_THAT(Numbers(), ElementsAre("004912", "004912"));
+    EXPECT_EQ(m_delegate->Recipients().At(0).Message, "hello");
+    Begin_Number("44+1");
+    user.Will_Press("OK");
     Press_Key(Qt::Key_Return);
-    EXPECT_THAT(user.Was_Shown(), ElementsAre(QStringLiteral("\nPlease enter a valid phone number.")));
-    EXPECT_EQ(The<QLineEdit>("_numberEdit").text(), QStringLiteral("44+1"));
+    EXPECT_THAT(user.Was_Shown(), ElementsAre("\nPlease enter a valid phone number."));
+    EXPECT_EQ(The<QLineEdit>("_numberEdit").text(), "44+1");
     EXPECT_TRUE(Has_Focus("_numberEdit"));
 }
 
 TEST_F(Keys, Return_Held_Down_Adds_A_Number_Once_And_Tells_Nothing_About_The_Empty_Field)
 {
-    The<QLineEdit>("_numberEdit").setText(QStringLiteral("123"));
-    The<QLineEdit>("_numberEdit").setFocus();
+    Begin_Number("123");
     Held_Key held(Qt::Key_Return);
     held.Press();
     Serve_Repeats(held);
-    EXPECT_THAT(Numbers(), ElementsAre(QStringLiteral("123")));
+    EXPECT_THAT(Numbers(), ElementsAre("123"));
     EXPECT_THAT(user.Was_Shown(), IsEmpty());
 }
 
 TEST_F(Keys, F2_And_Return_Edit_The_Selected_Recipient)
 {
-    Fill_List({"1", "2", "3"});
-    QStringList seen;
+    Fill_List(3);
     int row = 0;
     for (const Qt::Key key : {Qt::Key_F2, Qt::Key_Return, Qt::Key_Enter}) {
         Select_Rows({row++});
-        Will_Look_At_The_Editor(seen);
+        user.When_Opens("Update_Num_SMS", [row](QWidget& editor) {
+            EXPECT_EQ(In<QLineEdit>(editor, "m_num_str").text(), QString::number(row));
+            Press_Key(Qt::Key_Escape);
+        });
         Press_Key(key);
     }
-    EXPECT_EQ(seen, One_Each);
-    EXPECT_EQ(Numbers(), One_Each);
+    EXPECT_THAT(Numbers(), ElementsAre("1", "2", "3"));
 }
 
 TEST_F(Keys, Editing_By_Key_Says_What_The_Double_Click_Says)
 {
-    Fill_List({"1", "2", "3"});
+    Fill_List(3);
     for (const Qt::Key key : {Qt::Key_F2, Qt::Key_Return}) {
         The<QTableView>("idTableView").clearSelection();
         Press_Key(key); // with nothing selected it does nothing
         Select_Rows({0, 2});
-        user.Will_Press(QStringLiteral("OK"));
+        user.Will_Press("OK");
         Press_Key(key);
     }
-    const QString told = QStringLiteral("\nPlease select only one record to update.");
+    const QString told = "\nPlease select only one record to update.";
     EXPECT_THAT(user.Was_Shown(), ElementsAre(told, told));
 }
 
 TEST_F(Keys, Return_Held_Down_Opens_One_Editor_And_Does_Not_Press_Its_OK)
 {
-    Fill_List({"1", "2"});
+    Fill_List(2);
     Select_Rows({0});
     Held_Key held(Qt::Key_Return);
-    user.When_Opens(QStringLiteral("Update_Num_SMS"), [&](QWidget& editor) {
+    user.When_Opens("Update_Num_SMS", [&](QWidget& editor) {
         Serve_Repeats(held);
         EXPECT_TRUE(editor.isVisible());
         static_cast<QDialog&>(editor).reject();
@@ -120,7 +109,7 @@ TEST_F(Keys, Return_Held_Down_Opens_One_Editor_And_Does_Not_Press_Its_OK)
 
 TEST_F(Keys, Return_Held_Down_Leaves_A_Message_To_Be_Read)
 {
-    Fill_List({"1", "2"});
+    Fill_List(2);
     Select_Rows({0, 1});
     Held_Key held(Qt::Key_Return);
     user.Will_Handle([&](QMessageBox& box) {
@@ -133,11 +122,11 @@ TEST_F(Keys, Return_Held_Down_Leaves_A_Message_To_Be_Read)
 
 TEST_F(Keys, Delete_Clears_The_Selected_Recipients)
 {
-    Fill_List({"1", "2", "3", "4"});
+    Fill_List(4);
     Select_Rows({1, 2});
     Press_Key(Qt::Key_Delete);
-    EXPECT_THAT(Numbers(), ElementsAre(QStringLiteral("1"), QStringLiteral("4")));
-    EXPECT_EQ(Count_Label(), QStringLiteral("Total Numbers : 2"));
+    EXPECT_THAT(Numbers(), ElementsAre("1", "4"));
+    EXPECT_EQ(Count_Label(), "Total Numbers : 2");
     Press_Key(Qt::Key_Delete); // row 0 is selected now
     Press_Key(Qt::Key_Delete);
     EXPECT_THAT(Numbers(), IsEmpty());
@@ -148,35 +137,31 @@ TEST_F(Keys, Delete_Clears_The_Selected_Recipients)
 TEST_F(Keys, Delete_Says_What_Clear_Selected_Says)
 {
     The<QTableView>("idTableView").setFocus();
-    user.Will_Press(QStringLiteral("OK"));
+    user.Will_Press("OK");
     Press_Key(Qt::Key_Delete);
-    Fill_List({"1"});
-    user.Will_Press(QStringLiteral("OK"));
+    Fill_List(1);
+    user.Will_Press("OK");
     Press_Key(Qt::Key_Delete);
     EXPECT_THAT(user.Was_Shown(),
-                ElementsAre(QStringLiteral("\nPhone numbers-Messages list is empty."),
-                            QStringLiteral("\nPlease select at least one record from the phone numbers-messages list "
-                                           "to continue.")));
-    EXPECT_THAT(Numbers(), ElementsAre(QStringLiteral("1")));
+                ElementsAre("\nPhone numbers-Messages list is empty.",
+                            "\nPlease select at least one record from the phone numbers-messages list "
+                            "to continue."));
+    EXPECT_THAT(Numbers(), ElementsAre("1"));
 }
 
 TEST_F(Keys, Delete_Held_Down_Deletes_Once)
 {
-    Fill_List({"1", "2", "3"});
+    Fill_List(3);
     Select_Rows({0});
-    {
-        Held_Key held(Qt::Key_Delete);
-        held.Press();
-        Serve_Repeats(held);
-        EXPECT_THAT(Numbers(), ElementsAre(QStringLiteral("2"), QStringLiteral("3")));
-    }
-    Press_Key(Qt::Key_Delete);
-    EXPECT_THAT(Numbers(), ElementsAre(QStringLiteral("3")));
+    Held_Key held(Qt::Key_Delete);
+    held.Press();
+    Serve_Repeats(held);
+    EXPECT_THAT(Numbers(), ElementsAre("2", "3"));
 }
 
 TEST_F(Keys, Keys_With_Others_Held_Mean_Something_Else)
 {
-    Fill_List({"1", "2"});
+    Fill_List(2);
     Select_Rows({0});
     for (const auto modifier : {Qt::ControlModifier, Qt::ShiftModifier, Qt::AltModifier}) {
         for (const Qt::Key key : {Qt::Key_F2, Qt::Key_Return, Qt::Key_Delete})
@@ -187,14 +172,10 @@ TEST_F(Keys, Keys_With_Others_Held_Mean_Something_Else)
 
 TEST_F(Keys, The_Keys_That_Move_Select_Where_They_Stand_While_Nothing_Is_Selected)
 {
-    Fill_List({"1", "2", "3"});
+    Fill_List(3);
     auto& table = The<QTableView>("idTableView");
-    const struct
-    {
-        Qt::Key key;
-        int row;
-    } moves[] = {{Qt::Key_Down, 0}, {Qt::Key_Up, 0}, {Qt::Key_Home, 0}, {Qt::Key_End, 2}, {Qt::Key_PageDown, 2}};
-    for (const auto& [key, row] : moves) {
+    for (const auto& [key, row] :
+         {std::pair(Qt::Key_Down, 0), {Qt::Key_Up, 0}, {Qt::Key_Home, 0}, {Qt::Key_End, 2}, {Qt::Key_PageDown, 2}}) {
         table.clearSelection();
         Press_Key(key);
         EXPECT_THAT(m_delegate->Selected_Recipient_Rows(), ElementsAre(row)) << key;
@@ -207,13 +188,8 @@ TEST_F(Keys, The_Keys_That_Move_Select_Where_They_Stand_While_Nothing_Is_Selecte
 
 TEST_F(Keys, Alt_And_A_Letter_Answer_A_Question)
 {
-    const struct
-    {
-        Qt::Key key;
-        bool is_yes;
-    } answers[] = {{Qt::Key_N, false}, {Qt::Key_Y, true}};
-    for (const auto& [key, is_yes] : answers) {
-        Fill_List({"1"});
+    for (const auto& [key, is_yes] : {std::pair(Qt::Key_N, false), {Qt::Key_Y, true}}) {
+        Fill_List(1);
         user.Will_Handle([key = key](QMessageBox& box) {
             Press_Key(key, Qt::AltModifier);
             EXPECT_TRUE(Serve_Until([&] { return !box.isVisible(); }, 5)) << key;

@@ -30,8 +30,7 @@ protected:
     void Press_Send()
     {
         sel_port_bsd_str = QString::fromStdString(m_phone.Path());
-        for (const char* number : {"111", "222", "333"})
-            m_program->Delegate().Create_Num_Msg_List(QLatin1String(number), QStringLiteral("Hello"));
+        Add_Recipients();
         Click("_sent_btn");
     }
 
@@ -56,14 +55,14 @@ protected:
 
     void Open_Wizard()
     {
-        user.When_Opens(QStringLiteral("Connection_Info"), [](QWidget& window) { Click_In(window, "Continue_Btn"); });
+        Will_Click_In(user, "Connection_Info", "Continue_Btn");
         Click("Search_All_Modem");
     }
 
     /// Opens the wizard and picks the phone's row; what it is asked from then on takes the described second each.
     void Open_Wizard_And_Probe()
     {
-        user.When_Opens(QStringLiteral("Phone_List_Wnd"), [this](QWidget& wizard) {
+        user.When_Opens("Phone_List_Wnd", [this](QWidget& wizard) {
             Set_Pace(1);
             Pick_The_Phone(wizard);
         });
@@ -72,18 +71,11 @@ protected:
 
     void Pick_The_Phone(const QWidget& wizard) const
     {
-        auto* table = wizard.findChild<QTableView*>(QStringLiteral("idPortList"));
-        const auto* rows = table->model();
+        auto& table = In<QTableView>(wizard, "idPortList");
+        const auto* rows = table.model();
         const auto found = rows->match(rows->index(0, 1), Qt::DisplayRole, QString::fromStdString(m_phone.Path()));
         ASSERT_EQ(found.size(), 1);
-        table->selectRow(found.constFirst().row());
-    }
-
-    void Make_The_Phone_Silent()
-    {
-        Phone_Moods moods;
-        moods.m_silent = true;
-        m_phone.Set_Moods(moods);
+        table.selectRow(found.constFirst().row());
     }
 
     Virtual_Phone m_phone;
@@ -91,42 +83,15 @@ protected:
 
 TEST_F(Leaving, The_Users_Yes_Ends_The_Program)
 {
-    user.Will_Press(QStringLiteral("Yes"));
+    user.Will_Press("Yes");
     m_leave = [this] { m_program->Delegate().close(); };
     Leave_When([] { return true; }, [] {});
-}
-
-TEST_F(Leaving, With_A_Notice_Open_Closes_It)
-{
-    user.Will_Leave_It_Open();
-    Leave_When(A_Box_Is_Open, [this] { Click("Add_Number"); });
-}
-
-TEST_F(Leaving, With_A_Question_Open_Answers_No)
-{
-    user.Will_Leave_It_Open();
-    Leave_When(A_Box_Is_Open, [this] {
-        m_program->Delegate().Create_Num_Msg_List(QStringLiteral("1"), QString());
-        Click("Clear_All_Btn");
-        EXPECT_EQ(m_program->Delegate().Recipients().Count(), 1);
-    });
-}
-
-TEST_F(Leaving, With_The_Help_Open)
-{
-    Leave_When(Is_Shown("Help_Wnd"), [this] { Click("Help_Btn"); });
 }
 
 TEST_F(Leaving, In_The_Second_Before_The_Long_Message_Notice)
 {
     Set_Pace(1);
-    Leave_When([this] { return The<QLabel>("_Msg_char_count").text() == QStringLiteral("161 Characters"); },
-               [this] { The<QPlainTextEdit>("_messageEdit").insertPlainText(QString(161, u'a')); });
-}
-
-TEST_F(Leaving, With_The_Long_Message_Notice_Open)
-{
-    Leave_When(Is_Shown("Long_SMS_Dlg"),
+    Leave_When([this] { return The<QLabel>("_Msg_char_count").text() == "161 Characters"; },
                [this] { The<QPlainTextEdit>("_messageEdit").insertPlainText(QString(161, u'a')); });
 }
 
@@ -155,7 +120,7 @@ TEST_F(Leaving, With_The_Stop_Question_Open)
 {
     Set_Pace(5);
     user.Will_Leave_It_Open();
-    auto* stop = Send_Modeless::defaultInstance()->findChild<QPushButton*>(QStringLiteral("_stop_btn"));
+    auto* stop = Send_Modeless::defaultInstance()->findChild<QPushButton*>("_stop_btn");
     bool is_pressed = false;
     Leave_When(
         [&] {
@@ -173,13 +138,13 @@ TEST_F(Leaving, By_The_Close_Button_Between_Send_And_The_Progress_Window)
 {
     Set_Pace(5);
     Leave_By_The_Question_When(Is_Shown("Send_Modeless"));
-    EXPECT_THAT(user.Was_Shown(), ElementsAre(QStringLiteral("\nDo you really want to exit from 'Corvane'?")));
+    EXPECT_THAT(user.Was_Shown(), ElementsAre("\nDo you really want to exit from 'Corvane'?"));
 }
 
 // The phone has shown its prompt and takes whatever comes for the message, the questions of the next start as well.
 TEST_F(Leaving, At_The_Prompt_Leaves_A_Phone_That_Answers_The_Next_Start)
 {
-    const auto* stop = Send_Modeless::defaultInstance()->findChild<QPushButton*>(QStringLiteral("_stop_btn"));
+    const auto* stop = Send_Modeless::defaultInstance()->findChild<QPushButton*>("_stop_btn");
     Leave_By_The_Question_When([&] {
         if (stop->isEnabled())
             Set_Pace(1); // time to answer while the job waits for the prompt
@@ -203,13 +168,13 @@ TEST_F(Leaving, With_The_Connection_Screen_Open)
 
 TEST_F(Leaving, In_The_Second_Before_The_Wizard_Opens)
 {
-    user.When_Opens(QStringLiteral("Connection_Info"), [](QWidget& window) {
+    user.When_Opens("Connection_Info", [](QWidget& window) {
         Set_Pace(1);
         Click_In(window, "Continue_Btn");
     });
     Leave_When(
         [] {
-            const auto* rows = Phone_List_Wnd::defaultInstance()->findChild<QTableView*>(QStringLiteral("idPortList"));
+            const auto* rows = Phone_List_Wnd::defaultInstance()->findChild<QTableView*>("idPortList");
             return rows->model()->rowCount() > 0;
         },
         [this] { Click("Search_All_Modem"); });
@@ -229,7 +194,9 @@ TEST_F(Leaving, While_A_Device_Is_Probed)
 
 TEST_F(Leaving, With_The_Box_Of_A_Probe_Open)
 {
-    Make_The_Phone_Silent();
+    Phone_Moods moods;
+    moods.m_silent = true;
+    m_phone.Set_Moods(moods);
     user.Will_Leave_It_Open();
     Leave_When(A_Box_Is_Open, [this] { Open_Wizard_And_Probe(); });
     EXPECT_THAT(user.Was_Shown(), ElementsAre(QString::fromLatin1(Box::Not_Working)));
@@ -237,7 +204,7 @@ TEST_F(Leaving, With_The_Box_Of_A_Probe_Open)
 
 TEST_F(Leaving, While_A_Device_Is_Checked_For_Sending)
 {
-    user.When_Opens(QStringLiteral("Phone_List_Wnd"), [this](QWidget& wizard) {
+    user.When_Opens("Phone_List_Wnd", [this](QWidget& wizard) {
         Pick_The_Phone(wizard);
         EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
         Set_Pace(1);

@@ -1,7 +1,3 @@
 #include "gui/Random_Moments.h"
 
-namespace {
-
-[[maybe_unused]] const bool Are_Registered = Register_Random_Moments(1, 12);
-
-} // namespace
+INSTANTIATE_TEST_SUITE_P(, Random_Moments, testing::Range(1U, 13U), testing::PrintToStringParamName());

@@ -47,8 +47,8 @@ protected:
         phone->Forget();
         Fill_The_List(way, 2);
         The<QCheckBox>("_Delayed_Delivry_Chk").click();
-        The<QComboBox>("_delayed_msg_count_combo").setCurrentText(QStringLiteral("1"));
-        The<QComboBox>("_delayed_time_combo").setCurrentText(QStringLiteral("5  Seconds"));
+        The<QComboBox>("_delayed_msg_count_combo").setCurrentText("1");
+        The<QComboBox>("_delayed_time_combo").setCurrentText("5  Seconds");
         std::string told;
         user.Will_Handle([&](QMessageBox& box) {
             told = box.text().toStdString();
@@ -70,11 +70,6 @@ protected:
         Get_A_Phone(moods);
         Select_The_Phone();
         At_Every_Thread([&] { Send_Two(way); });
-        Expect_That_Sending_Works_In(way);
-    }
-
-    void Expect_That_Sending_Works_In(const Way& way)
-    {
         Send_Two(way);
         EXPECT_EQ(Inbox().size(), 2U);
     }
@@ -84,50 +79,20 @@ protected:
         EXPECT_TRUE(Serve_Until([] { return ph_find_thread == 0 && Workers_Running() == 0; }));
     }
 
-    void Click_The_Row_Of_The_Phone()
-    {
-        auto& table = *Phone_List_Wnd::defaultInstance()->findChild<QTableView*>(QStringLiteral("idPortList"));
-        const auto rows = table.model()->match(table.model()->index(0, 1), Qt::DisplayRole,
-                                               QString::fromStdString(phone->Path()), 1, Qt::MatchExactly);
-        ASSERT_FALSE(rows.isEmpty());
-        QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, table.visualRect(rows.constFirst()).center());
-        Await_Workers();
-    }
-
     /// Opens a window by its button of the main window and does something in it, which closes it.
     void In_Window(const char* name, const char* button, const std::function<void(QWidget&)>& meanwhile)
     {
-        bool was_open = false;
-        user.When_Opens(QLatin1String(name), [&](QWidget& window) {
-            was_open = true;
-            Await_Workers();
-            meanwhile(window);
-        });
+        When_Filled(user, name, meanwhile);
         Click(button);
-        EXPECT_TRUE(was_open);
         Await_Workers();
-    }
-
-    static void Click_In(QWidget& window, const char* name)
-    {
-        QTest::mouseClick(window.findChild<QAbstractButton*>(QLatin1String(name)), Qt::LeftButton);
-    }
-
-    static QString Text_In(QWidget& window, const char* label)
-    {
-        return window.findChild<QLabel*>(QLatin1String(label))->text();
     }
 
     QTemporaryDir m_folder;
 };
 
-TEST_F(Refused, A_Job_In_PDU_Mode_Sends_All_Or_Says_That_It_Can_Not)
+TEST_F(Refused, A_Job_Sends_All_Or_Says_That_It_Can_Not)
 {
     Send_At_Every_Thread({});
-}
-
-TEST_F(Refused, A_Job_In_Text_Mode_Sends_All_Or_Says_That_It_Can_Not)
-{
     Send_At_Every_Thread({.m_text_mode = true, .m_unicode = true, .m_flash = false});
 }
 
@@ -137,7 +102,10 @@ TEST_F(Refused, The_Wizard_Searches_Probes_And_Selects)
         Visit_Wizard([this] {
             Click_In_Wizard("_Search_Btn");
             Await_Workers();
-            Click_The_Row_Of_The_Phone();
+            auto& table = In<QTableView>(*Phone_List_Wnd::defaultInstance(), "idPortList");
+            const QRect row = table.visualRect(Row_Of(QString::fromStdString(phone->Path())));
+            QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, row.center());
+            Await_Workers();
             EXPECT_EQ(Details(), Usual_Details());
             Click_In_Wizard("_Select_Btn");
             EXPECT_FALSE(Wizard_Is_Open());
@@ -148,7 +116,7 @@ TEST_F(Refused, The_Wizard_Searches_Probes_And_Selects)
 
 TEST_F(Refused, An_Import_Takes_Every_Number)
 {
-    const QString path = m_folder.filePath(QStringLiteral("numbers.txt"));
+    const QString path = m_folder.filePath("numbers.txt");
     ASSERT_TRUE(Replace_File(path, "111\n222\n333\n"));
     At_Every_Thread([&] {
         Click("Reset_Btn");
@@ -163,7 +131,7 @@ TEST_F(Refused, A_Large_List_Is_Cleared)
 {
     At_Every_Thread([this] {
         for (int number = 0; number < 1000; ++number)
-            m_delegate->Create_Num_Msg_List(QString::number(100000 + number), QStringLiteral("Hello"));
+            m_delegate->Create_Num_Msg_List(QString::number(100000 + number), "Hello");
         m_delegate->Redisplay_Recipients();
         Select_Rows({0, 1, 2});
         Click("Clear_Sel_Btn");
@@ -208,9 +176,9 @@ TEST_F(Refused, The_Exclusion_Wizard_Shows_Changes_And_Applies_Its_Lists)
         ASSERT_TRUE(Exclusion_Files::Write_Index({}) && Exclusion_Files::Write_Applied({}));
         In_Window("Exclusion_Wizard", "View_ExclusionWizrd_Btn", [this](QWidget& wizard) {
             Click_In(wizard, "m_addnew_btn");
-            wizard.findChild<QLineEdit*>("m_ex_list_name_edit")->setText("Staff");
+            In<QLineEdit>(wizard, "m_ex_list_name_edit").setText("Staff");
             Click_In(wizard, "m_next_btn");
-            wizard.findChild<QLineEdit*>("m_loadnum_edit")->setText("123456");
+            In<QLineEdit>(wizard, "m_loadnum_edit").setText("123456");
             Click_In(wizard, "m_add_num_btn");
             user.Will_Press("Yes");
             Click_In(wizard, "m_finish_btn");
@@ -222,24 +190,19 @@ TEST_F(Refused, The_Exclusion_Wizard_Shows_Changes_And_Applies_Its_Lists)
         });
         EXPECT_EQ(Exclusion_Files::Read_Index(), QStringList{"Staff"});
         EXPECT_EQ(Exclusion_Files::Read_Applied(), QStringList{"Staff"});
-        EXPECT_EQ(Exclusion_Files::Read_List(QStringLiteral("Staff")).Count(), 1);
+        EXPECT_EQ(Exclusion_Files::Read_List("Staff").Count(), 1);
         EXPECT_EQ(m_delegate->Exclusions().Count(), 1);
-        Exclusion_Files::Delete_List(QStringLiteral("Staff"));
+        Exclusion_Files::Delete_List("Staff");
     });
 }
 
 TEST_F(Refused, The_List_Is_Exported)
 {
-    const QString path = m_folder.filePath(QStringLiteral("list.txt"));
+    const QString path = m_folder.filePath("list.txt");
     Fill_The_List({}, 2);
     At_Every_Thread([&] {
         QFile::remove(path);
-        user.Will_Do([&](QDialog* panel) {
-            auto* name = panel->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-            ASSERT_NE(name, nullptr);
-            name->setText(path);
-            QTest::keyClick(name, Qt::Key_Return);
-        });
+        Will_Enter_Path(user, path);
         In_Window("Open_Export_Log", "Export_Btn", [](QWidget& dialog) { Click_In(dialog, "CancelPressed"); });
         EXPECT_TRUE(
             Read_File(path).value_or("unreadable").endsWith(m_delegate->Recipients().At(1).Number.toUtf8() + "\n"));
@@ -254,10 +217,10 @@ TEST_F(Refused, The_Selected_Numbers_Get_Their_Message)
         user.Will_Press("Yes");
         In_Window("Update_Sel_Num_SMS", "Update_Sel_Msgs_Btn", [](QWidget& dialog) {
             EXPECT_EQ(dialog.findChild<QTableView*>()->model()->rowCount(), 1);
-            dialog.findChild<QPlainTextEdit*>("m_msg_str")->setPlainText(QStringLiteral("Changed"));
+            dialog.findChild<QPlainTextEdit*>("m_msg_str")->setPlainText("Changed");
             Click_In(dialog, "OKPressed");
         });
-        EXPECT_EQ(m_delegate->Recipients().At(1).Message, QStringLiteral("Changed"));
+        EXPECT_EQ(m_delegate->Recipients().At(1).Message, "Changed");
     });
 }
 

@@ -17,14 +17,10 @@ TEST(Killed, While_It_Sends)
     EXPECT_GE(Kill_One_Job_Again_And_Again(5), 5);
 }
 
-TEST(Killed, While_It_Writes_The_Stores)
+TEST(Killed, While_It_Writes_Lists)
 {
     EXPECT_GE(Kill_Sent_Items(3), 15);
     EXPECT_GE(Kill_Templates(3), 15);
-}
-
-TEST(Killed, While_It_Writes_Exclusion_Lists)
-{
     EXPECT_GE(Kill_Exclusion_Lists(4), 20);
 }
 
@@ -34,38 +30,22 @@ TEST(Killed, While_It_Imports_And_Exports)
     EXPECT_GE(Kill_Exports(7), 10);
 }
 
-TEST(Disk_Fails, While_It_Starts)
+TEST(Disk_Fails, While_It_Starts_And_Sends)
 {
     EXPECT_GE(Fail_First_Starts(5), 30);
-}
-
-TEST(Disk_Fails, While_It_Sends)
-{
     EXPECT_GE(Fail_Jobs(23), 5);
 }
 
-TEST(Disk_Fails, While_It_Writes_The_Stores)
+TEST(Disk_Fails, While_It_Writes_Lists_And_Exports)
 {
     EXPECT_GE(Fail_Sent_Items(9), 20);
     EXPECT_GE(Fail_Templates(9), 20);
-}
-
-TEST(Disk_Fails, While_It_Writes_Exclusion_Lists)
-{
     EXPECT_GE(Fail_Exclusion_Lists(9), 30);
-}
-
-TEST(Disk_Fails, While_It_Exports)
-{
     EXPECT_GE(Fail_Exports(29), 8);
 }
 
-TEST(Disk_Fails, For_Want_Of_Room)
+TEST(Disk_Fails, For_Want_Of_Room_And_Of_Permission)
 {
     Work_On_A_Full_Disk();
-}
-
-TEST(Disk_Fails, For_Want_Of_Permission)
-{
     Work_In_A_Read_Only_Folder();
 }

@@ -18,10 +18,9 @@ protected:
     /// Presses the main window's button and uses the first template.
     void Use_The_First()
     {
-        user.When_Opens("Templates", [](QWidget& window) {
-            EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
+        When_Filled(user, "Templates", [](QWidget& window) {
             window.findChild<QTableView*>()->selectRow(0);
-            QTest::mouseClick(window.findChild<QPushButton*>("Use_template_Btn"), Qt::LeftButton);
+            Click_In(window, "Use_template_Btn");
             EXPECT_FALSE(window.isVisible());
         });
         Click("View_Templates_Btn");
@@ -33,7 +32,7 @@ protected:
     {
         user.When_Opens("Long_SMS_Dlg", [over](QWidget& notice) {
             EXPECT_EQ(notice.parentWidget()->objectName(), over);
-            QTest::mouseClick(notice.findChild<QPushButton*>("OKPressed"), Qt::LeftButton);
+            Click_In(notice, "OKPressed");
         });
     }
 
@@ -41,7 +40,7 @@ protected:
     QString Counter() { return The<QLabel>("_Msg_char_count").text(); }
 };
 
-TEST_F(Templates_In_Composer, It_Stands_At_The_Cursor_And_Is_Counted)
+TEST_F(Templates_In_Composer, It_Stands_At_The_Cursor_Or_For_What_Is_Selected_And_Is_Counted)
 {
     Store("new\n");
     Composer().setPlainText("one two");
@@ -49,17 +48,12 @@ TEST_F(Templates_In_Composer, It_Stands_At_The_Cursor_And_Is_Counted)
     Use_The_First();
     EXPECT_EQ(Composer().toPlainText(), "newone two");
     EXPECT_EQ(Counter(), "10 Characters");
-}
-
-TEST_F(Templates_In_Composer, It_Takes_The_Place_Of_What_Is_Selected)
-{
-    Store("new|AP*|DX/line\n");
-    Composer().setPlainText("one two");
+    Store("last|AP*|DX/line\n");
     Composer().moveCursor(QTextCursor::End);
     Composer().moveCursor(QTextCursor::StartOfWord, QTextCursor::KeepAnchor);
     Use_The_First();
-    EXPECT_EQ(Composer().toPlainText(), "one new\nline");
-    EXPECT_EQ(Counter(), "12 Characters");
+    EXPECT_EQ(Composer().toPlainText(), "newone last\nline");
+    EXPECT_EQ(Counter(), "16 Characters");
 }
 
 TEST_F(Templates_In_Composer, One_That_Makes_The_Message_Long_Opens_The_Notice_Once)
@@ -96,8 +90,7 @@ TEST_F(Templates_In_Composer, The_Main_Window_Finds_A_Text_That_Is_A_Template_Al
 TEST_F(Templates_In_Composer, The_Button_Beside_It_Opens_The_Sent_Items)
 {
     EXPECT_TRUE(Replace_File(Sent_Item_Path, "\a1\vone\ad\v\n"));
-    user.When_Opens("Sent_Items", [](QWidget& window) {
-        EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
+    When_Filled(user, "Sent_Items", [](QWidget& window) {
         EXPECT_EQ(window.findChild<QLabel*>("_sent_list_count")->text(), "Total Items : 1");
         window.close();
     });

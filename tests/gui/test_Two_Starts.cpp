@@ -3,6 +3,7 @@
 #include "platform/Single_Start.h"
 #include "platform/Waiting.h"
 #include "records/Data_Paths.h"
+#include "support/Files.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -15,9 +16,10 @@
 #include <csignal>
 #include <map>
 #include <memory>
+#include <sstream>
 #include <sys/stat.h>
+#include <unistd.h>
 
-using testing::ElementsAre;
 using testing::HasSubstr;
 
 namespace {
@@ -30,11 +32,11 @@ class Started_Corvane
 {
 public:
     explicit Started_Corvane(const QString& data_home, const QStringList& arguments = {},
-                             const QString& screen = QStringLiteral("offscreen"))
+                             const QString& screen = "offscreen")
     {
         auto environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("XDG_DATA_HOME"), data_home);
-        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), screen);
+        environment.insert("XDG_DATA_HOME", data_home);
+        environment.insert("QT_QPA_PLATFORM", screen);
         m_process.setProcessEnvironment(environment);
         m_process.start(QStringLiteral(CORVANE_BUILD_DIR "/corvane"), arguments);
     }
@@ -67,41 +69,60 @@ private:
     QProcess m_process;
 };
 
+mode_t Mode_Of(const QString& path)
+{
+    struct stat status = {};
+    EXPECT_EQ(lstat(QFile::encodeName(path).constData(), &status), 0) << path.toStdString();
+    EXPECT_EQ(status.st_uid, geteuid()) << path.toStdString();
+    return status.st_mode;
+}
+
 class Two_Starts : public testing::Test
 {
 protected:
     QString Home() const { return m_home.path(); }
     QString In_Data(const char* name) const
     {
-        return Home() + QStringLiteral("/corvane/Resources/CORVANE_DATA/") + QLatin1String(name);
+        return Home() + QStringLiteral("/corvane/Resources/CORVANE_DATA/") + name;
     }
 
     // The last file that a start makes.
     static QString Last_File(const QString& home)
     {
-        return home + QStringLiteral("/corvane/Resources/CORVANE_DATA/Exclusion/ExListIndex.ZOVA");
+        return home + "/corvane/Resources/CORVANE_DATA/Exclusion/ExListIndex.ZOVA";
     }
     // Takes it away, so that the next program to come up can be told by it.
     void Remove_Last_File() const { ASSERT_TRUE(QFile::remove(Last_File(Home()))); }
 
     static bool Comes_Up(const Started_Corvane& started, const QString& home)
     {
-        const QByteArray last = QFile::encodeName(Last_File(home));
-        const auto is_made = [&last] { // with its permissions, which come after the file
-            struct stat status = {};
-            return stat(last.constData(), &status) == 0 && (status.st_mode & 07777U) == 0777U;
+        const auto is_made = [&] { // with its permissions, which come after the file
+            return QFile::exists(Last_File(home)) && (Mode_Of(Last_File(home)) & 07777U) == 0777U;
         };
         return Serve_Until([&] { return is_made() || started.Has_Ended(); }, 60) && started.Is_Running();
     }
 
     // A further start: the program that is there answers, and the further one ends.
-    static void Expect_Shown_By_The_First(const QString& home)
+    static void Expect_Shown_By_The_First(const QString& home, const QStringList& arguments = {},
+                                          const QString& screen = "offscreen")
     {
-        Started_Corvane second(home);
+        Started_Corvane second(home, arguments, screen);
         ASSERT_TRUE(second.Ends());
         EXPECT_EQ(second.Status(), 0);
         EXPECT_EQ(second.Output(), Shown_Line);
         EXPECT_EQ(second.Errors(), "");
+    }
+
+    // A further start: the program that is there does not answer, and nothing is touched.
+    void Expect_No_Answer() const
+    {
+        const auto before = Everything();
+        Started_Corvane second(Home());
+        ASSERT_TRUE(second.Ends());
+        EXPECT_EQ(second.Status(), 1);
+        EXPECT_EQ(second.Output(), "");
+        EXPECT_EQ(second.Errors(), No_Answer_Line);
+        EXPECT_EQ(Everything(), before);
     }
 
     // Everything under the data home: names, kinds, modes, sizes, times to the nanosecond, and contents.
@@ -114,15 +135,13 @@ protected:
             const QString path = walk.next();
             struct stat status = {};
             EXPECT_EQ(lstat(QFile::encodeName(path).constData(), &status), 0) << path.toStdString();
-            QByteArray state = QByteArray::number(static_cast<qulonglong>(status.st_ino)) + ' ' +
-                               QByteArray::number(status.st_mode, 8) + ' ' +
-                               QByteArray::number(static_cast<qlonglong>(status.st_size)) + ' ' +
-                               QByteArray::number(static_cast<qlonglong>(status.st_mtim.tv_sec)) + '.' +
-                               QByteArray::number(static_cast<qlonglong>(status.st_mtim.tv_nsec)) + ' ';
+            std::ostringstream state;
+            state << status.st_ino << ' ' << status.st_mode << ' ' << status.st_size << ' ' << status.st_mtim.tv_sec
+                  << '.' << status.st_mtim.tv_nsec << ' ';
             QFile file(path);
             if (S_ISREG(status.st_mode) && file.open(QIODevice::ReadOnly))
-                state += file.readAll();
-            found[path.toStdString()] = state.toStdString();
+                state << file.readAll().toStdString();
+            found[path.toStdString()] = state.str();
         }
         return found;
     }
@@ -178,16 +197,12 @@ protected:
 
 } // namespace
 
-TEST_F(First_Of_Two_Starts, The_Second_Brings_The_First_Window_To_The_Front_And_Ends)
+TEST_F(First_Of_Two_Starts, The_Second_Brings_The_First_Window_To_The_Front_As_It_Was_And_Ends)
 {
     const auto other = Something_Else();
     ASSERT_FALSE(Main().isActiveWindow());
     Expect_Shown_By_The_First(Home());
     EXPECT_TRUE(Serve_Until([this] { return Main().isActiveWindow(); }));
-}
-
-TEST_F(First_Of_Two_Starts, A_Window_Put_Away_Comes_Back_As_It_Was)
-{
     Main().showMaximized();
     Main().setWindowState(Main().windowState() | Qt::WindowMinimized);
     ASSERT_TRUE(Main().isMinimized());
@@ -206,7 +221,7 @@ TEST_F(First_Of_Two_Starts, A_Box_That_Is_Open_Comes_To_The_Front_With_Its_Windo
         EXPECT_TRUE(Serve_Until([&] { return box.isActiveWindow(); }));
         QTest::mouseClick(box.findChild<QAbstractButton*>(), Qt::LeftButton);
     });
-    QTest::mouseClick(Main().findChild<QPushButton*>(QStringLiteral("Add_Number")), Qt::LeftButton);
+    QTest::mouseClick(Main().findChild<QPushButton*>("Add_Number"), Qt::LeftButton);
     EXPECT_EQ(user.Was_Shown().size(), 1);
 }
 
@@ -230,102 +245,37 @@ TEST_F(First_Of_Two_Starts, Asked_Before_It_Has_A_Window_It_Shows_None_Yet)
     EXPECT_FALSE(Main().isVisible());
 }
 
-TEST(A_Start_On_A_Read_Only_Disk, Is_Told_And_Ends)
-{
-    // No account may make anything there, and none is kept from looking.
-    const QByteArray home_before = qgetenv("XDG_DATA_HOME");
-    qputenv("XDG_DATA_HOME", "/proc/sys/kernel");
-    {
-        User user;
-        user.Will_Press(QStringLiteral("OK"));
-        Single_Start single_start(QFileInfo(Default_Resource_Path()).path());
-        EXPECT_EQ(single_start.Begin(), Single_Start::Outcome::First);
-        Program program(Command_Line(), &single_start);
-        EXPECT_FALSE(program.Start());
-        EXPECT_THAT(user.Was_Shown(), ElementsAre(QStringLiteral("\nCan not access Corvane Data file.")));
-    }
-    Forget_The_End();
-    qputenv("XDG_DATA_HOME", home_before);
-}
-
 TEST_F(Two_Starts, The_Second_Leaves_Every_File_Of_The_First_Alone)
 {
     Started_Corvane first(Home());
     ASSERT_TRUE(Comes_Up(first, Home()));
     Expect_Shown_By_The_First(Home()); // everything is in place and quiet by then
-    QFile templates(In_Data("Templates.ZOVA"));
-    ASSERT_TRUE(templates.open(QIODevice::WriteOnly));
-    templates.write("kept\n");
-    templates.close();
+    Write_Bytes(In_Data("Templates.ZOVA"), "kept\n");
     ASSERT_TRUE(QFile::remove(In_Data("SentItem.ZOVA"))); // which every start of its own would make again
     const auto before = Everything();
     ASSERT_GE(before.size(), 9U);
-    for (const QStringList& arguments : {QStringList(), QStringList{"--demo"}, QStringList{"--device", "/dev/null"}}) {
-        Started_Corvane second(Home(), arguments);
-        ASSERT_TRUE(second.Ends());
-        EXPECT_EQ(second.Status(), 0);
-        EXPECT_EQ(second.Output(), Shown_Line);
-    }
+    for (const QStringList& arguments : {QStringList(), QStringList{"--demo"}, QStringList{"--device", "/dev/null"}})
+        Expect_Shown_By_The_First(Home(), arguments);
+    Expect_Shown_By_The_First(Home(), {}, "no such platform"); // it needs no screen
     EXPECT_EQ(Everything(), before);
     EXPECT_TRUE(first.Is_Running());
 }
 
-TEST_F(Two_Starts, The_Second_Needs_No_Screen)
+TEST_F(Two_Starts, Everything_That_A_Program_Keeps_Is_Behind_A_Folder_That_Only_The_User_Can_Enter)
 {
+    const mode_t mask_before = umask(0); // the user takes nothing away from what others may
     Started_Corvane first(Home());
     ASSERT_TRUE(Comes_Up(first, Home()));
-    Started_Corvane second(Home(), {}, QStringLiteral("no such platform"));
-    ASSERT_TRUE(second.Ends());
-    EXPECT_EQ(second.Status(), 0);
-    EXPECT_EQ(second.Errors(), "");
-}
-
-TEST_F(Two_Starts, A_Killed_Program_Keeps_Nobody_From_Starting)
-{
-    for (int round = 0; round < 5; ++round) {
-        Started_Corvane killed(Home());
-        ASSERT_TRUE(Comes_Up(killed, Home()));
-        Expect_Shown_By_The_First(Home()); // it is up and listens: its lock and its socket are there to be left behind
-        killed.Signal(SIGKILL);
-        ASSERT_TRUE(killed.Ends());
-        ASSERT_TRUE(QFileInfo::exists(Home() + QStringLiteral("/corvane/Running.lock")));
-        Remove_Last_File();
-        Started_Corvane next(Home());
-        ASSERT_TRUE(Comes_Up(next, Home()));
-        Expect_Shown_By_The_First(Home());
-        EXPECT_TRUE(next.Is_Running());
-        next.Kill();
-        Remove_Last_File();
-    }
-}
-
-TEST_F(Two_Starts, A_Program_Killed_In_The_Middle_Of_Its_Start_Keeps_Nobody_From_Starting)
-{
-    for (int milliseconds = 0; milliseconds < 100; milliseconds += 10) {
-        Started_Corvane killed(Home());
-        QTest::qWait(milliseconds); // wherever that is
-        killed.Signal(SIGKILL);
-        ASSERT_TRUE(killed.Ends());
-    }
-    QFile::remove(Last_File(Home()));
-    Started_Corvane next(Home());
-    ASSERT_TRUE(Comes_Up(next, Home()));
+    umask(mask_before);
     Expect_Shown_By_The_First(Home());
-}
-
-TEST_F(Two_Starts, Of_Two_At_The_Very_Same_Moment_One_Stays_And_One_Ends)
-{
-    for (int round = 0; round < 20; ++round) {
-        const QTemporaryDir home;
-        Started_Corvane one(home.path());
-        Started_Corvane other(home.path());
-        ASSERT_TRUE(Serve_Until([&] { return one.Has_Ended() || other.Has_Ended(); }, 60)) << "two windows";
-        Started_Corvane& ended = one.Has_Ended() ? one : other;
-        const Started_Corvane& stays = one.Has_Ended() ? other : one;
-        EXPECT_EQ(ended.Status(), 0);
-        EXPECT_EQ(ended.Output(), Shown_Line) << ended.Errors();
-        EXPECT_TRUE(stays.Is_Running());
-    }
+    const auto everything = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+    EXPECT_EQ(QDir(Home()).entryList(everything), QStringList{"corvane"});
+    EXPECT_EQ(Mode_Of(Home() + "/corvane"), S_IFDIR | 0700U);
+    EXPECT_EQ(Mode_Of(Home() + "/corvane/Running.lock"), S_IFREG | 0600U);
+    EXPECT_EQ(Mode_Of(Home() + "/corvane/Running.socket"), S_IFSOCK | 0600U);
+    QDirIterator walk(Home(), everything, QDirIterator::Subdirectories);
+    while (walk.hasNext())
+        EXPECT_FALSE(S_ISLNK(Mode_Of(walk.next()))) << walk.filePath().toStdString() << " leads out of the folder";
 }
 
 TEST_F(Two_Starts, A_First_That_Hangs_Is_Reported_And_Not_Touched)
@@ -334,29 +284,10 @@ TEST_F(Two_Starts, A_First_That_Hangs_Is_Reported_And_Not_Touched)
     ASSERT_TRUE(Comes_Up(first, Home()));
     Expect_Shown_By_The_First(Home());
     first.Signal(SIGSTOP);
-    const auto before = Everything();
-    Started_Corvane second(Home());
-    ASSERT_TRUE(second.Ends());
-    EXPECT_EQ(second.Status(), 1);
-    EXPECT_EQ(second.Output(), "");
-    EXPECT_EQ(second.Errors(), No_Answer_Line);
-    EXPECT_EQ(Everything(), before);
+    Expect_No_Answer();
     first.Signal(SIGCONT);
     Expect_Shown_By_The_First(Home());
     EXPECT_TRUE(first.Is_Running());
-}
-
-TEST_F(Two_Starts, Different_Data_Folders_Run_Side_By_Side)
-{
-    const QTemporaryDir elsewhere;
-    Started_Corvane here(Home());
-    Started_Corvane there(elsewhere.path());
-    EXPECT_TRUE(Comes_Up(here, Home()));
-    EXPECT_TRUE(Comes_Up(there, elsewhere.path()));
-    Expect_Shown_By_The_First(Home());
-    Expect_Shown_By_The_First(elsewhere.path());
-    EXPECT_TRUE(here.Is_Running());
-    EXPECT_TRUE(there.Is_Running());
 }
 
 TEST_F(Two_Starts, Help_And_Version_And_Mistakes_Touch_No_Folder_And_Wait_For_Nobody)
@@ -364,35 +295,22 @@ TEST_F(Two_Starts, Help_And_Version_And_Mistakes_Touch_No_Folder_And_Wait_For_No
     for (const char* option : {"--help", "--version", "--nonsense"}) {
         Started_Corvane asked(Home(), {QLatin1String(option)});
         ASSERT_TRUE(asked.Ends());
-        EXPECT_EQ(asked.Status(), QLatin1String(option) == QLatin1String("--nonsense") ? 2 : 0);
+        EXPECT_EQ(asked.Status(), QLatin1String(option) == "--nonsense" ? 2 : 0);
     }
     EXPECT_TRUE(Everything().empty());
     Started_Corvane first(Home());
     ASSERT_TRUE(Comes_Up(first, Home()));
     first.Signal(SIGSTOP);
-    Started_Corvane asked(Home(), {QStringLiteral("--version")});
+    Started_Corvane asked(Home(), {"--version"});
     ASSERT_TRUE(asked.Ends());
     EXPECT_EQ(asked.Status(), 0);
     EXPECT_THAT(asked.Output(), HasSubstr("corvane "));
 }
 
-TEST_F(Two_Starts, Without_A_Lock_File_The_Program_Starts_And_Is_Still_The_Only_One)
-{
-    ASSERT_TRUE(QDir().mkpath(Home() + QStringLiteral("/corvane/Running.lock"))); // a folder, which nobody can write to
-    Started_Corvane first(Home());
-    ASSERT_TRUE(Comes_Up(first, Home()));
-    Expect_Shown_By_The_First(Home());
-}
-
 TEST_F(Two_Starts, Without_A_Socket_The_Program_Starts_And_Is_Still_The_Only_One)
 {
-    ASSERT_TRUE(QDir().mkpath(Home() + QStringLiteral("/corvane/Running.socket/in the way")));
+    ASSERT_TRUE(QDir().mkpath(Home() + "/corvane/Running.socket/in the way"));
     Started_Corvane first(Home());
     ASSERT_TRUE(Comes_Up(first, Home()));
-    const auto before = Everything();
-    Started_Corvane second(Home());
-    ASSERT_TRUE(second.Ends());
-    EXPECT_EQ(second.Status(), 1);
-    EXPECT_EQ(second.Errors(), No_Answer_Line);
-    EXPECT_EQ(Everything(), before);
+    Expect_No_Answer();
 }

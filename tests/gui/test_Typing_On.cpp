@@ -4,13 +4,12 @@
 #include "support/Typist.h"
 #include "windows/main/Long_SMS_Dlg.h"
 
-#include <QClipboard>
 #include <QMessageBox>
 
 namespace {
 
 const QString Before = QString(158, u'a');
-const QString Typed = QStringLiteral("the quick brown fox\njumps over the dog");
+const QString Typed = "the quick brown fox\njumps over the dog";
 constexpr double Within_The_Wait = 0.5; // in seconds
 
 QString Long_Counter(qsizetype length)
@@ -27,26 +26,18 @@ protected:
 
     using Steps = std::function<void(QWidget& window, QPlainTextEdit& area, QLabel& counter)>;
 
-    void In_The_Composer(const Steps& steps)
-    {
-        steps(*m_delegate, The<QPlainTextEdit>("_messageEdit"), The<QLabel>("_Msg_char_count"));
-    }
-
     void In_A_Dialog(const char* name, const Steps& steps)
     {
-        user.When_Opens(name, [&](QWidget& dialog) {
-            EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
-            steps(dialog, *dialog.findChild<QPlainTextEdit*>("m_msg_str"), *dialog.findChild<QLabel*>("m_st_msg_cnt"));
+        When_Filled(user, name, [&](QWidget& dialog) {
+            steps(dialog, In<QPlainTextEdit>(dialog, "m_msg_str"), In<QLabel>(dialog, "m_st_msg_cnt"));
             dialog.close();
         });
-        Add(QStringLiteral("491701234567"));
-        if (qstrcmp(name, "Update_Num_SMS") == 0) {
-            Select_Rows({0});
+        Add("491701234567");
+        Select_Rows({0});
+        if (qstrcmp(name, "Update_Num_SMS") == 0)
             m_delegate->doubleClickInTable();
-        } else {
-            Select_Rows({0});
+        else
             Click("Update_Sel_Msgs_Btn");
-        }
     }
 
     /// Puts the text before the limit there, with the cursor behind it.
@@ -62,7 +53,7 @@ protected:
     {
         const auto* ok = notice.findChild<QPushButton*>("OKPressed");
         EXPECT_TRUE(Serve_Until([&] { return ok->hasFocus() && ok->isDefault(); }));
-        Press_Key(Qt::Key_Return, QStringLiteral("\r"));
+        Press_Key(Qt::Key_Return, "\r");
         EXPECT_TRUE(Serve_Until([&] { return !notice.isVisible(); }));
     }
 
@@ -87,12 +78,17 @@ protected:
         while (area.document()->isUndoAvailable())
             area.undo();
         EXPECT_EQ(area.toPlainText(), QString());
-        EXPECT_EQ(counter.text(), QStringLiteral("0 Characters"));
+        EXPECT_EQ(counter.text(), "0 Characters");
+    }
+
+    static void In_That_Second(const std::function<void()>& happens)
+    {
+        QTimer::singleShot(static_cast<int>(1000 * Paced(Within_The_Wait)), qApp, happens);
     }
 
     void Click_In_That_Second(QPushButton& button)
     {
-        QTimer::singleShot(static_cast<int>(1000 * Paced(Within_The_Wait)), &button, [&button] {
+        In_That_Second([&button] {
             const QPoint middle = button.mapTo(button.window(), button.rect().center());
             QTest::mouseClick(button.window()->windowHandle(), Qt::LeftButton, {}, middle);
         });
@@ -103,19 +99,14 @@ protected:
 
 TEST_F(Typing_On, In_The_Composer_Every_Key_Arrives)
 {
-    In_The_Composer([this](auto& window, auto& area, auto& counter) { Type_Past_The_Limit(window, area, counter); });
+    Type_Past_The_Limit(*m_delegate, The<QPlainTextEdit>("_messageEdit"), The<QLabel>("_Msg_char_count"));
 }
 
-TEST_F(Typing_On, In_The_Dialog_For_One_Item_Every_Key_Arrives)
+TEST_F(Typing_On, In_The_Dialogs_That_Edit_Every_Key_Arrives)
 {
-    In_A_Dialog("Update_Num_SMS",
-                [this](auto& window, auto& area, auto& counter) { Type_Past_The_Limit(window, area, counter); });
-}
-
-TEST_F(Typing_On, In_The_Dialog_For_The_Selected_Items_Every_Key_Arrives)
-{
-    In_A_Dialog("Update_Sel_Num_SMS",
-                [this](auto& window, auto& area, auto& counter) { Type_Past_The_Limit(window, area, counter); });
+    for (const char* dialog : {"Update_Num_SMS", "Update_Sel_Num_SMS"})
+        In_A_Dialog(dialog,
+                    [this](auto& window, auto& area, auto& counter) { Type_Past_The_Limit(window, area, counter); });
 }
 
 TEST_F(Typing_On, What_Is_Pasted_Into_The_Text_Meanwhile_Is_Cut_And_Counted)
@@ -131,29 +122,10 @@ TEST_F(Typing_On, What_Is_Pasted_Into_The_Text_Meanwhile_Is_Cut_And_Counted)
         Close_By_Return(notice);
         is_over = true;
     });
-    const Typist typist(QStringLiteral("xyz"));
+    const Typist typist("xyz");
     ASSERT_TRUE(Serve_Until([&] { return is_over; }));
     EXPECT_EQ(area.toPlainText(), Before + QStringLiteral("xyz") + QString(1439, u'b'));
-    EXPECT_EQ(The<QLabel>("_Msg_char_count").text(),
-              QStringLiteral("1600 Characters (Each Message will now consume 10 SMS)"));
-}
-
-TEST_F(Typing_On, The_Text_May_Have_Become_Short_Again)
-{
-    auto& area = The<QPlainTextEdit>("_messageEdit");
-    Begin_With(area, QString(160, u'a'));
-    user.When_Opens("Long_SMS_Dlg", [&](QWidget& notice) {
-        EXPECT_TRUE(Serve_Until([&] { return notice.isActiveWindow(); }));
-        for (int deleted = 0; deleted < 3; ++deleted)
-            Press_Key(Qt::Key_Backspace);
-        EXPECT_TRUE(Serve_Until([&] { return area.toPlainText().size() == 158; }));
-        Close_By_Return(notice);
-    });
-    const Typist typist(QStringLiteral("b"));
-    ASSERT_TRUE(Serve_Until([&] { return The<QLabel>("_Msg_char_count").text() == QStringLiteral("158 Characters"); }));
-    user.When_Opens("Long_SMS_Dlg", [&](QWidget& notice) { Close_By_Return(notice); });
-    area.insertPlainText(QStringLiteral("ccc"));
-    EXPECT_EQ(The<QLabel>("_Msg_char_count").text(), Long_Counter(161)) << "told of again, since it was short";
+    EXPECT_EQ(The<QLabel>("_Msg_char_count").text(), "1600 Characters (Each Message will now consume 10 SMS)");
 }
 
 TEST_F(Typing_On, Send_Pressed_In_That_Second_Does_Not_Go_Over_The_Notice)
@@ -167,7 +139,7 @@ TEST_F(Typing_On, Send_Pressed_In_That_Second_Does_Not_Go_Over_The_Notice)
         is_over = true;
     });
     Click_In_That_Second(The<QPushButton>("_sent_btn"));
-    area.insertPlainText(QStringLiteral("b"));
+    area.insertPlainText("b");
     EXPECT_TRUE(is_over);
     EXPECT_EQ(sms_thread_var, 0);
 }
@@ -178,7 +150,7 @@ TEST_F(Typing_On, OK_Pressed_In_That_Second_Leaves_The_Dialog_Open)
         Begin_With(area, QString(160, u'a'));
         user.When_Opens("Long_SMS_Dlg", [](QWidget& notice) { Close_By_Return(notice); });
         Click_In_That_Second(*window.findChild<QPushButton*>("OKPressed"));
-        area.insertPlainText(QStringLiteral("b"));
+        area.insertPlainText("b");
         EXPECT_TRUE(window.isVisible());
         EXPECT_EQ(area.toPlainText().size(), 161);
     });
@@ -188,11 +160,11 @@ TEST_F(Typing_On, A_Dialog_Closed_In_That_Second_Takes_The_Notice_Along)
 {
     In_A_Dialog("Update_Num_SMS", [](QWidget& window, QPlainTextEdit& area, QLabel& counter) {
         Begin_With(area, QString(160, u'a'));
-        QTimer::singleShot(static_cast<int>(1000 * Paced(Within_The_Wait)), &window, [&] { window.close(); });
-        area.insertPlainText(QStringLiteral("b"));
+        In_That_Second([&] { window.close(); });
+        area.insertPlainText("b");
         EXPECT_FALSE(window.isVisible());
         EXPECT_FALSE(Long_SMS_Dlg::defaultInstance()->isVisible());
-        EXPECT_EQ(counter.text(), QStringLiteral("0 Characters"));
+        EXPECT_EQ(counter.text(), "0 Characters");
     });
 }
 
@@ -206,7 +178,7 @@ TEST_F(Typing_On, Leaving_Asked_For_In_That_Second_Is_Asked_About_And_The_Notice
         Close_By_Return(notice);
         is_told = true;
     });
-    QTimer::singleShot(static_cast<int>(1000 * Paced(Within_The_Wait)), qApp, [this] { m_delegate->close(); });
-    area.insertPlainText(QStringLiteral("b"));
+    In_That_Second([this] { m_delegate->close(); });
+    area.insertPlainText("b");
     EXPECT_TRUE(is_told);
 }

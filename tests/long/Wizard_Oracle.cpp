@@ -81,10 +81,10 @@ private:
 
     QString Detail(qsizetype place) const
     {
-        const QString battery = m_moods.m_battery_status == 2 ? No_Battery : QStringLiteral("85%");
+        const QString battery = m_moods.m_battery_status == 2 ? No_Battery : "85%";
         const QString signal = m_moods.m_signal == 99 ? "Unknown" : "High (20)";
         const QString own_centre = m_moods.m_no_smsc ? QString() : QString::fromStdString(m_moods.m_smsc);
-        const QString centre = m_moods.m_smsc_not_supported ? QStringLiteral("COMMAND NOT SUPPORT") : own_centre;
+        const QString centre = m_moods.m_smsc_not_supported ? "COMMAND NOT SUPPORT" : own_centre;
         const QStringList details = {"Corvane",         "Virtual Phone", "490154203237518",
                                      "001010123456789", battery,         signal,
                                      "Corvane Test",    "1.0",           centre};

@@ -1,7 +1,3 @@
 #include "gui/Random_Moments.h"
 
-namespace {
-
-[[maybe_unused]] const bool Are_Registered = Register_Random_Moments(101, 300);
-
-} // namespace
+INSTANTIATE_TEST_SUITE_P(, Random_Moments, testing::Range(101U, 301U), testing::PrintToStringParamName());

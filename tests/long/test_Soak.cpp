@@ -5,7 +5,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
 #include <gmock/gmock.h>
 #include <random>
 
@@ -20,7 +19,7 @@ int Entries_In(const char* folder)
 /// What the process holds in memory, in KiB.
 long Resident_Memory()
 {
-    QFile status(QStringLiteral("/proc/self/status"));
+    QFile status("/proc/self/status");
     EXPECT_TRUE(status.open(QIODevice::ReadOnly));
     for (const QByteArray& line : status.readAll().split('\n')) {
         if (line.startsWith("VmRSS:"))
@@ -46,10 +45,10 @@ protected:
     {
         Set_Pace(1000);
         m_progress.m_at_step = [this](const QString& step) {
-            const QString position = step.section(QStringLiteral(" / "), 0, 0);
+            const QString position = step.section(" / ", 0, 0);
             bool is_number = false;
             const int item = position.toInt(&is_number);
-            if (is_number && step.contains(QStringLiteral(" / ")) && item % 100 == 0)
+            if (is_number && step.contains(" / ") && item % 100 == 0)
                 m_phone.Set_Moods(Manners(item / 100));
         };
     }
@@ -57,29 +56,12 @@ protected:
     /// Manners under which every message still arrives.
     static Phone_Moods Manners(int which)
     {
+        static constexpr bool Phone_Moods::*Kinds[] = {
+            &Phone_Moods::m_no_echo, &Phone_Moods::m_split_answers,        &Phone_Moods::m_unsolicited,
+            &Phone_Moods::m_cr_only, &Phone_Moods::m_prompt_without_blank, &Phone_Moods::m_no_prompt};
         Phone_Moods moods;
-        switch (which % 7) {
-        case 1:
-            moods.m_no_echo = true;
-            break;
-        case 2:
-            moods.m_split_answers = true;
-            break;
-        case 3:
-            moods.m_unsolicited = true;
-            break;
-        case 4:
-            moods.m_cr_only = true;
-            break;
-        case 5:
-            moods.m_prompt_without_blank = true;
-            break;
-        case 6:
-            moods.m_no_prompt = true;
-            break;
-        default:
-            break;
-        }
+        if (which % 7 > 0)
+            moods.*Kinds[which % 7 - 1] = true;
         return moods;
     }
 
@@ -91,7 +73,7 @@ protected:
         std::uniform_int_distribution<qsizetype> any_letter(0, letters.size() - 1);
         std::uniform_int_distribution<int> any_length(1, 20);
         const int length = any_length(m_random) == 20 ? 400 : any_length(m_random);
-        QString text = QStringLiteral("x");
+        QString text = "x";
         for (int at = 0; at < length; ++at)
             text += letters.at(any_letter(m_random));
         return text + u'x'; // no blanks at the ends, which a template would keep and a handset show
@@ -116,7 +98,7 @@ protected:
             if (is_excluded || is_repeated)
                 continue;
             ++expected.handled;
-            const QByteArray line = QString(message).replace(u'\n', QStringLiteral("|AP*|DX/")).toUtf8();
+            const QByteArray line = QString(message).replace(u'\n', "|AP*|DX/").toUtf8();
             expected.inbox.push_back(number.toStdString() + ": " + message.toStdString());
             expected.records += "\a" + number.toUtf8() + "\v" + line + "\a" + date + "\v\n";
             if (!templates.contains(message))
@@ -125,8 +107,8 @@ protected:
         }
         Send_Choices choices;
         choices.composer_text = m_window.m_previous_message;
-        choices.batch_size = QStringLiteral("500");
-        choices.pause_choice = QStringLiteral("10 Seconds");
+        choices.batch_size = "500";
+        choices.pause_choice = "10 Seconds";
         choices.exclusion = choices.skip_duplicates = choices.delayed_delivery = true;
         choices.save_sent_items = choices.save_templates = true;
         choices.unicode = is_unicode;
@@ -149,7 +131,7 @@ protected:
             ASSERT_EQ(inbox[message].m_number + ": " + inbox[message].m_text, expected.inbox[message]) << message;
         EXPECT_EQ(Bytes_Of(Sent_Item_Path), expected.records);
         EXPECT_EQ(Bytes_Of(Templates_Path), expected.templates);
-        EXPECT_EQ(m_progress.Steps().count(QStringLiteral("pause")), (expected.handled - 1) / 500);
+        EXPECT_EQ(m_progress.Steps().count("pause"), (expected.handled - 1) / 500);
         m_progress.Forget_Steps();
         m_phone.Forget();
         m_calls.Forget_Writes();

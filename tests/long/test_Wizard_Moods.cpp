@@ -63,27 +63,27 @@ public:
     int m_sheets = 0;
 };
 
-class Wizard_In_Moods : public Line_Test
+struct Combination
 {
-public:
-    Wizard_In_Moods(const Phone_Moods& moods, bool with_custom_centre)
-        : Line_Test(moods, {}), m_moods(moods),
-          m_custom_centre(with_custom_centre ? QStringLiteral("+447700900999") : QString())
-    {
-    }
-    void TestBody() override;
-
-private:
-    void Visit();
-    bool Mixes_Words_Into_Answers() const { return m_moods.m_unsolicited || m_moods.m_never_stops_talking; }
-
-    const Phone_Moods m_moods;
-    const QString m_custom_centre;
+    std::string name;
+    Moods moods;
+    bool with_custom_centre = false;
 };
 
-void Wizard_In_Moods::Visit()
+class Wizard_Moods : public Line_Test, public testing::WithParamInterface<Combination>
 {
-    const Wizard_Outcome expected = Expected_Visit(m_moods, m_custom_centre);
+protected:
+    Wizard_Moods() : Line_Test(GetParam().moods, {}) {}
+
+    void Visit(const Wizard_Outcome& expected);
+    bool Mixes_Words_Into_Answers() const { return m_moods.m_unsolicited || m_moods.m_never_stops_talking; }
+
+    const Moods m_moods = GetParam().moods;
+    const QString m_custom_centre = GetParam().with_custom_centre ? "+447700900999" : "";
+};
+
+void Wizard_Moods::Visit(const Wizard_Outcome& expected)
+{
     Seen seen;
     Phone_Probe probe(m_session, seen);
     probe.Read_Details(Device());
@@ -109,13 +109,14 @@ void Wizard_In_Moods::Visit()
     EXPECT_TRUE(m_phone.Parts().empty());
 }
 
-void Wizard_In_Moods::TestBody()
+TEST_P(Wizard_Moods, Tell_What_Is_Expected_And_The_Next_Job_Works)
 {
-    Visit();
+    const Wizard_Outcome expected = Expected_Visit(m_moods, m_custom_centre);
+    Visit(expected);
     ASSERT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
     Expect_Everything_Tidy();
     Expect_The_Line_Free();
-    if (Expected_Visit(m_moods, m_custom_centre).is_lost)
+    if (expected.is_lost)
         Plug_In_Again();
     else
         Lift_Moods();
@@ -141,38 +142,35 @@ bool Makes_A_Pair(const Mood& one, const Mood& other)
     return &one < &other && !exclude_each_other && !is_luck && !is_deaf;
 }
 
-void Register(const std::string& name, const Phone_Moods& moods, bool with_custom_centre)
+std::vector<Combination> All_Combinations()
 {
-    testing::RegisterTest("Wizard_Moods", (name + (with_custom_centre ? "_Custom_Centre" : "_Own_Centre")).c_str(),
-                          nullptr, nullptr, __FILE__, __LINE__, [moods, with_custom_centre]() -> Line_Test* {
-                              return new Wizard_In_Moods(moods, with_custom_centre);
-                          });
-}
-
-bool Register_All()
-{
-    Register("Good_Manners", {}, false);
-    Register("Good_Manners", {}, true);
+    std::vector<Combination> all;
+    const auto add = [&](const std::string& name, const Moods& moods, bool with_custom_centre) {
+        all.push_back({name + (with_custom_centre ? "_Custom_Centre" : "_Own_Centre"), moods, with_custom_centre});
+    };
+    add("Good_Manners", {}, false);
+    add("Good_Manners", {}, true);
     bool with_custom_centre = false;
     for (const Mood& one : All_Moods) {
-        Phone_Moods alone;
+        Moods alone;
         one.put(alone);
         if (Tells_Its_Centre_Clearly(alone))
-            Register(one.name, alone, false);
-        Register(one.name, alone, true);
+            add(one.name, alone, false);
+        add(one.name, alone, true);
         for (const Mood& other : All_Moods) {
             if (!Makes_A_Pair(one, other))
                 continue;
-            Phone_Moods both = alone;
+            Moods both = alone;
             other.put(both);
             with_custom_centre = !with_custom_centre;
-            Register(std::string(one.name) + "_And_" + other.name, both,
-                     with_custom_centre || !Tells_Its_Centre_Clearly(both));
+            add(std::string(one.name) + "_And_" + other.name, both,
+                with_custom_centre || !Tells_Its_Centre_Clearly(both));
         }
     }
-    return true;
+    return all;
 }
 
-const bool All_Registered = Register_All();
+INSTANTIATE_TEST_SUITE_P(, Wizard_Moods, testing::ValuesIn(All_Combinations()),
+                         [](const auto& row) { return row.param.name; });
 
 } // namespace

@@ -106,25 +106,6 @@ TEST(Interface_Thread, A_Step_That_Lay_Behind_The_Waiting_One_Is_Served_Inside_I
     EXPECT_TRUE(was_served_inside);
 }
 
-TEST(Interface_Thread, Finishing_Serves_A_Worker_Whose_Step_Lay_Behind_The_Finishing_One)
-{
-    std::atomic<bool> has_asked{false};
-    bool is_finished = false;
-    QObject context;
-    Post_To_Interface_Thread(&context, [&] {
-        Finish_Workers();
-        is_finished = true;
-    });
-    Start_Worker("asks", [&] {
-        Post_To_Interface_Thread(&context, [] {});
-        has_asked = true;
-        Run_On_Interface_Thread([] {});
-    });
-    while (!has_asked)
-        std::this_thread::yield();
-    EXPECT_TRUE(Serve_Until([&] { return is_finished; }));
-}
-
 TEST(Interface_Thread, What_The_User_Does_Waits_For_The_Work_Unless_It_Is_Served)
 {
     Watched_Mouse window;
@@ -168,6 +149,22 @@ TEST(Interface_Thread, Finishing_Serves_Workers_That_Still_Need_The_Windows)
     Finish_Workers();
     EXPECT_EQ(steps, 200);
     EXPECT_EQ(Workers_Running(), 0);
+
+    // Also one whose step lay behind the finishing one.
+    std::atomic<bool> has_asked{false};
+    bool is_finished = false;
+    QObject context;
+    Post_To_Interface_Thread(&context, [&] {
+        Finish_Workers();
+        is_finished = true;
+    });
+    Start_Worker("asks", [&] {
+        Post_To_Interface_Thread(&context, [] {});
+        has_asked = true;
+        Run_On_Interface_Thread([] {});
+    });
+    Wait_Until([&] { return has_asked.load(); });
+    EXPECT_TRUE(Serve_Until([&] { return is_finished; }));
 }
 
 TEST(Interface_Thread, A_Worker_Has_Its_Name_And_Counts_Until_It_Has_Ended_And_Let_Go)

@@ -77,6 +77,8 @@ TEST_F(Exclusion_Files_Test, Nothing_Outside_The_Folder_Is_Touched_Under_Any_Nam
 
 TEST_F(Exclusion_Files_Test, The_Files_Are_Written_Byte_For_Byte)
 {
+    EXPECT_TRUE(Exclusion_Files::Create_List_If_Missing("a"));
+    EXPECT_EQ(Bytes_Of(Path_Of_List("a")), "");
     EXPECT_TRUE(Exclusion_Files::Append_To_Index("Staff"));
     EXPECT_TRUE(Exclusion_Files::Append_To_Index("Küche \xF0\x9F\x98\x80"));
     EXPECT_EQ(Bytes_Of(Exclusion_Index_Path), "Staff\nKüche \xF0\x9F\x98\x80\n");
@@ -87,10 +89,14 @@ TEST_F(Exclusion_Files_Test, The_Files_Are_Written_Byte_For_Byte)
     EXPECT_TRUE(Exclusion_Files::Write_Applied({"a", "b"}));
     EXPECT_EQ(Bytes_Of(Applied_Exclusion_Path), "a\nb\n");
     EXPECT_TRUE(Exclusion_Files::Write_List("a", Numbers_Of({"004912", "7", "7"})));
-    EXPECT_EQ(Bytes_Of(Path_Of_List("a")), "004912\n7\n7\n");
+    EXPECT_TRUE(Exclusion_Files::Create_List_If_Missing("a"));
+    EXPECT_EQ(Bytes_Of(Path_Of_List("a")), "004912\n7\n7\n") << "left as it is";
     EXPECT_TRUE(Exclusion_Files::Write_List("a", {}));
     EXPECT_EQ(Bytes_Of(Path_Of_List("a")), "");
     EXPECT_EQ(Permissions_Of(Path_Of_List("a")), 0777U);
+    Exclusion_Files::Delete_List("a");
+    EXPECT_EQ(Bytes_Of(Path_Of_List("a")), "(no file)");
+    Exclusion_Files::Delete_List("a");
 }
 
 TEST_F(Exclusion_Files_Test, The_Golden_Files_Read_As_They_Were_Meant)
@@ -209,18 +215,6 @@ TEST_F(Exclusion_Files_Test, What_Is_No_File_Can_Not_Be_Written_And_Stays)
     Expect_Nothing_Is_Written();
     EXPECT_EQ(Exclusion_Files::Read_Index(), QStringList());
     EXPECT_EQ(Applied_Texts(), QStringList());
-}
-
-TEST_F(Exclusion_Files_Test, A_Missing_List_Is_Made_Empty_And_An_Existing_One_Is_Left_As_It_Is)
-{
-    EXPECT_TRUE(Exclusion_Files::Create_List_If_Missing("a"));
-    EXPECT_EQ(Bytes_Of(Path_Of_List("a")), "");
-    Write_Bytes(Path_Of_List("a"), "1\n");
-    EXPECT_TRUE(Exclusion_Files::Create_List_If_Missing("a"));
-    EXPECT_EQ(Bytes_Of(Path_Of_List("a")), "1\n");
-    Exclusion_Files::Delete_List("a");
-    EXPECT_EQ(Bytes_Of(Path_Of_List("a")), "(no file)");
-    Exclusion_Files::Delete_List("a");
 }
 
 TEST_F(Exclusion_Files_Test, What_Can_Not_Be_Read_Is_Kept_Beside_The_File_Before_It_Is_Replaced)

@@ -69,11 +69,7 @@ TEST(Sent_Item_List, Any_Lines_Are_Read_As_Their_Text_Is)
     pieces += {"\a", "\a", "\v", "\v", "\n", "\a1\vm\ad\v\n"};
     for (int round = 0; round < 20'000; ++round)
         ASSERT_NO_FATAL_FAILURE(Expect_Same(random.Some_Of(pieces, 24))) << "round " << round;
-}
-
-TEST(Sent_Item_List, Lines_With_All_Their_Separators_Are_Read_As_Their_Text_Is)
-{
-    Random_Pieces random(7);
+    // And lines with all their separators.
     for (int round = 0; round < 5'000; ++round) {
         QByteArray file;
         for (unsigned line = random.Below(5); line > 0; --line) {

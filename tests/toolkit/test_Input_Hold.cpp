@@ -19,10 +19,9 @@ protected:
     Input_Hold_Window()
     {
         auto* layout = new QVBoxLayout(&m_window);
-        for (QWidget* widget :
-             {static_cast<QWidget*>(m_button), static_cast<QWidget*>(m_field), static_cast<QWidget*>(m_choice)})
+        for (QWidget* widget : std::initializer_list<QWidget*>{m_button, m_field, m_choice})
             layout->addWidget(widget);
-        m_choice->addItems({QStringLiteral("one"), QStringLiteral("two")});
+        m_choice->addItems({"one", "two"});
         auto* action = new QAction(&m_window);
         action->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_G));
         m_window.addAction(action);
@@ -44,7 +43,7 @@ protected:
     }
 
     QWidget m_window;
-    QPushButton* m_button = new QPushButton(QStringLiteral("&Press"));
+    QPushButton* m_button = new QPushButton("&Press");
     QLineEdit* m_field = new QLineEdit;
     QComboBox* m_choice = new QComboBox;
     int m_clicks = 0;
@@ -68,14 +67,14 @@ TEST_F(Input_Hold_Window, Clicks_Keys_And_Shortcuts_Are_Dropped_While_It_Lives)
     Do_Everything();
     EXPECT_TRUE(Serve_Until([this] { return m_clicks == 2; }));
     EXPECT_EQ(m_actions, 1);
-    EXPECT_EQ(m_field->text(), QLatin1String("a"));
+    EXPECT_EQ(m_field->text(), "a");
 }
 
 TEST_F(Input_Hold_Window, A_Dialog_Over_The_Window_Works_As_Ever)
 {
     const Input_Hold hold(&m_window);
     QDialog dialog(&m_window);
-    auto* button = new QPushButton(QStringLiteral("Go on"), &dialog);
+    auto* button = new QPushButton("Go on", &dialog);
     int clicks = 0;
     QObject::connect(button, &QPushButton::clicked, [&] { ++clicks; });
     dialog.show();

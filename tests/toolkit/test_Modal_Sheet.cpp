@@ -18,75 +18,75 @@ public:
     int m_paints = 0;
 };
 
+class Modal_Sheets : public testing::Test
+{
+protected:
+    Modal_Sheets()
+    {
+        m_window.resize(600, 400);
+        m_window.show();
+    }
+    ~Modal_Sheets() override
+    {
+        m_sheet.End_Sheet();
+        m_sheet.setParent(nullptr);
+    }
+
+    QPushButton m_window{"Below"};
+    Modal_Sheet m_sheet;
+};
+
 } // namespace
 
-TEST(Modal_Sheet, It_Is_Drawn_When_Begin_Returns_And_Gone_When_End_Returns)
+TEST_F(Modal_Sheets, It_Is_Drawn_When_Begin_Returns_And_Gone_When_End_Returns)
 {
-    QWidget window;
-    window.resize(600, 400);
-    window.show();
-    Modal_Sheet sheet;
     Paint_Counter counter;
-    sheet.installEventFilter(&counter);
-    sheet.Begin_Sheet(&window);
-    EXPECT_TRUE(sheet.isVisible());
+    m_sheet.installEventFilter(&counter);
+    m_sheet.Begin_Sheet(&m_window);
+    EXPECT_TRUE(m_sheet.isVisible());
     EXPECT_GT(counter.m_paints, 0);
-    EXPECT_EQ(sheet.parentWidget(), &window);
-    EXPECT_EQ(sheet.windowModality(), Qt::WindowModal);
-    sheet.End_Sheet();
-    EXPECT_FALSE(sheet.isVisible());
-    sheet.End_Sheet();
-    EXPECT_FALSE(sheet.isVisible());
-    sheet.setParent(nullptr);
+    EXPECT_EQ(m_sheet.parentWidget(), &m_window);
+    EXPECT_EQ(m_sheet.windowModality(), Qt::WindowModal);
+    for (int end = 0; end < 2; ++end) {
+        m_sheet.End_Sheet();
+        EXPECT_FALSE(m_sheet.isVisible());
+    }
 }
 
-TEST(Modal_Sheet, Neither_Escape_Nor_Enter_Nor_The_Close_Button_Ends_It)
+TEST_F(Modal_Sheets, Neither_Escape_Nor_Enter_Nor_The_Close_Button_Ends_It)
 {
-    QWidget window;
-    window.show();
-    Modal_Sheet sheet(&window);
-    sheet.Begin_Sheet(&window);
-    QTest::keyClick(&sheet, Qt::Key_Escape);
-    QTest::keyClick(&sheet, Qt::Key_Return);
-    EXPECT_FALSE(sheet.close());
-    sheet.reject();
-    EXPECT_TRUE(sheet.isVisible());
-    sheet.End_Sheet();
-    EXPECT_FALSE(sheet.isVisible());
+    m_sheet.Begin_Sheet(&m_window);
+    QTest::keyClick(&m_sheet, Qt::Key_Escape);
+    QTest::keyClick(&m_sheet, Qt::Key_Return);
+    EXPECT_FALSE(m_sheet.close());
+    m_sheet.reject();
+    EXPECT_TRUE(m_sheet.isVisible());
 }
 
-TEST(Modal_Sheet, Begun_Again_It_Moves_Over_The_Other_Window)
+TEST_F(Modal_Sheets, Begun_Again_It_Moves_Over_The_Other_Window)
 {
-    QWidget first;
     QWidget second;
-    first.setGeometry(0, 0, 300, 200);
-    second.setGeometry(400, 300, 300, 200);
-    first.show();
+    second.setGeometry(700, 500, 300, 200);
     second.show();
-    Modal_Sheet sheet;
-    sheet.Begin_Sheet(&first);
-    sheet.Begin_Sheet(&second);
-    EXPECT_TRUE(sheet.isVisible());
-    EXPECT_EQ(sheet.parentWidget(), &second);
-    EXPECT_TRUE(second.geometry().contains(sheet.geometry().center()));
-    sheet.End_Sheet();
-    sheet.setParent(nullptr);
+    m_sheet.Begin_Sheet(&m_window);
+    m_sheet.Begin_Sheet(&second);
+    EXPECT_TRUE(m_sheet.isVisible());
+    EXPECT_EQ(m_sheet.parentWidget(), &second);
+    EXPECT_TRUE(second.geometry().contains(m_sheet.geometry().center()));
+    m_sheet.End_Sheet();
+    m_sheet.setParent(nullptr);
 }
 
-TEST(Modal_Sheet, It_Keeps_Clicks_From_The_Window_Below)
+TEST_F(Modal_Sheets, It_Keeps_Clicks_From_The_Window_Below)
 {
-    QPushButton window(QStringLiteral("Below"));
-    window.resize(300, 200);
-    window.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&m_window));
     int clicks = 0;
-    QObject::connect(&window, &QPushButton::clicked, [&] { ++clicks; });
-    Modal_Sheet sheet;
-    sheet.Begin_Sheet(&window);
-    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(20, 20));
+    QObject::connect(&m_window, &QPushButton::clicked, [&] { ++clicks; });
+    m_sheet.Begin_Sheet(&m_window);
+    QTest::mouseClick(m_window.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(20, 20));
     EXPECT_EQ(clicks, 0);
-    sheet.End_Sheet();
-    sheet.setParent(nullptr);
-    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(20, 20));
+    m_sheet.End_Sheet();
+    m_sheet.setParent(nullptr);
+    QTest::mouseClick(m_window.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(20, 20));
     EXPECT_EQ(clicks, 1);
 }

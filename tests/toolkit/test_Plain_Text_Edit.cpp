@@ -18,25 +18,24 @@ void Paste(QWidget& edit, const QString& text)
 TEST(Plain_Text_Edit, A_Text_Is_Taken_Out_As_It_Was_Entered)
 {
     Plain_Text_Edit edit;
-    for (const QString& text : {QString(), QStringLiteral(" a\u00A0b\n\nc "), QStringLiteral("\U0001F600"),
-                                QStringLiteral("%1 <b>&amp;</b>")}) {
+    for (const QString text : {"", " a\u00A0b\n\nc ", "\U0001F600", "%1 <b>&amp;</b>"}) {
         edit.setPlainText(text);
         EXPECT_EQ(Exact_Text(edit), text);
         EXPECT_EQ(Text_Length(edit), text.size());
     }
-    edit.setPlainText(QStringLiteral("a\u2028b\u2029c\r\nd"));
-    EXPECT_EQ(Exact_Text(edit), QStringLiteral("a\nb\nc\nd"));
+    edit.setPlainText("a\u2028b\u2029c\r\nd");
+    EXPECT_EQ(Exact_Text(edit), "a\nb\nc\nd");
 }
 
 TEST(Plain_Text_Edit, A_Text_Is_Cut_Only_Beyond_Its_Limit)
 {
     Plain_Text_Edit edit;
-    edit.setPlainText(QStringLiteral("abcde"));
+    edit.setPlainText("abcde");
     EXPECT_FALSE(Cut_Text(edit, 5));
-    EXPECT_EQ(Exact_Text(edit), QStringLiteral("abcde"));
+    EXPECT_EQ(Exact_Text(edit), "abcde");
     EXPECT_TRUE(Cut_Text(edit, 3));
-    EXPECT_EQ(Exact_Text(edit), QStringLiteral("abc"));
-    edit.setPlainText(QStringLiteral("a\U0001F600"));
+    EXPECT_EQ(Exact_Text(edit), "abc");
+    edit.setPlainText("a\U0001F600");
     EXPECT_TRUE(Cut_Text(edit, 2));
     EXPECT_EQ(Exact_Text(edit), QString(u'a') + QChar(0xD83D));
 }
@@ -44,13 +43,13 @@ TEST(Plain_Text_Edit, A_Text_Is_Cut_Only_Beyond_Its_Limit)
 TEST(Plain_Text_Edit, Undoing_A_Paste_That_Was_Cut_Brings_Back_What_Stood_There_Before)
 {
     Plain_Text_Edit edit;
-    edit.setPlainText(QStringLiteral("before"));
+    edit.setPlainText("before");
     edit.selectAll();
-    Paste(edit, QStringLiteral("0123456789"));
+    Paste(edit, "0123456789");
     Cut_Text(edit, 8);
-    EXPECT_EQ(Exact_Text(edit), QStringLiteral("01234567"));
+    EXPECT_EQ(Exact_Text(edit), "01234567");
     edit.undo();
-    EXPECT_EQ(Exact_Text(edit), QStringLiteral("before"));
+    EXPECT_EQ(Exact_Text(edit), "before");
 }
 
 TEST(Plain_Text_Edit, A_Huge_Paste_Leaves_No_More_Than_Can_Be_Kept_And_Holds_Up_Nothing)
@@ -59,7 +58,7 @@ TEST(Plain_Text_Edit, A_Huge_Paste_Leaves_No_More_Than_Can_Be_Kept_And_Holds_Up_
     edit.show();
     QString lines;
     for (int line = 0; line < 2000; ++line)
-        lines += QStringLiteral("x\r\n");
+        lines += "x\r\n";
     Paste(edit, lines);
     EXPECT_GE(Text_Length(edit), Longest_Message);
     EXPECT_LE(Text_Length(edit), 2 * Longest_Message);

