@@ -12,10 +12,12 @@ import json
 import os
 import pathlib
 import platform
+import shutil
 import statistics
 import subprocess
 import sys
 import tempfile
+import threading
 import time
 
 SIZES = [1_000, 10_000, 100_000, 1_000_000]
@@ -35,6 +37,30 @@ def seconds(value):
         if value * factor >= 1:
             return f"{value * factor:.3g} {unit}"
     return f"{value * 1e9:.3g} ns"
+
+
+class Phone:
+    """corvane-phone as a child that takes a while for each message, and when it got them."""
+
+    def __init__(self, program, result_after):
+        self.child = subprocess.Popen([program, "--until-stdin-closes", "--result-after", "1-", str(result_after)],
+                                      env=dict(os.environ, CORVANE_PACE="1"), stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+        self.device = self.child.stdout.readline().decode().strip()
+        self.arrivals = []
+        self.reader = threading.Thread(target=self.listen)
+        self.reader.start()
+
+    def listen(self):
+        for line in self.child.stdout:
+            if b'"event":"message"' in line:
+                self.arrivals.append(time.perf_counter())
+
+    def end(self):
+        """Seconds from one message to the next."""
+        self.child.stdin.close()
+        self.child.wait()
+        self.reader.join()
+        return (self.arrivals[-1] - self.arrivals[0]) / (len(self.arrivals) - 1)
 
 
 class Bench:
@@ -241,6 +267,51 @@ class Bench:
         self.row("memory that it takes more at its end", "-", f"{more:.0f} kB", "flat (up to 1 MB)", more <= 1024)
         self.gap("job", results[1], "job gap")
 
+    def through_a_phone(self, result_after, messages, command):
+        """Seconds from one message to the next, sent by what command makes of the device, a folder and the numbers."""
+        phone = Phone(self.build / "corvane-phone", result_after)
+        numbers = [f"+4477009{index:05}" for index in range(messages)]
+        with tempfile.TemporaryDirectory(dir=self.work) as folder:
+            try:
+                environment = dict(self.environment(folder), CORVANE_PACE="1", LC_ALL="C.UTF-8")
+                subprocess.run(command(phone.device, pathlib.Path(folder), numbers), env=environment, check=True,
+                               stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+            finally:
+                each = phone.end()
+        if len(phone.arrivals) != messages:
+            raise SystemExit(f"of {messages} messages {len(phone.arrivals)} came to the phone")
+        return each
+
+    def send(self):
+        """Confirmed sending, beside the device's own time and beside gammu, on one connection for all messages: the
+        quickest way that its command line has."""
+        text = "Choir practice moves to Thursday, 7 pm."
+
+        def ours(device, folder, numbers):
+            (folder / "numbers").write_text("\n".join(numbers) + "\n")
+            return [self.build / "corvane-send", "--device", device, "--numbers", folder / "numbers", "--message", text]
+
+        def theirs(device, folder, numbers):
+            (folder / "configuration").write_text(f"[gammu]\ndevice = {device}\nconnection = at\n")
+            (folder / "batch").write_text("".join(f'sendsms TEXT {number} -text "{text}"\n' for number in numbers))
+            return ["gammu", "-c", folder / "configuration", "batch", folder / "batch"]
+
+        has_peer = shutil.which("gammu") is not None
+        for result_after, messages, messages_of_peer in ((0.01, 100, 5), (0.3, 20, 5), (3, 4, 4)):
+            own = lambda: self.through_a_phone(result_after, messages, ours)
+            peer = lambda: self.through_a_phone(result_after, messages_of_peer, theirs)
+            results = self.in_turn(own, peer) if has_peer else self.in_turn(own)
+            each = statistics.median(results[0])
+            more = each - result_after
+            self.row(f"confirmed sending, each message judged, results after {seconds(result_after)}",
+                     f"the device's own time, {seconds(result_after)} each",
+                     f"{seconds(each)} each, {each / result_after:.3f} times, {more * 1e3:.1f} ms more",
+                     "at most 1 % and 20 ms more", each <= 1.01 * result_after + 0.02)
+            if has_peer:
+                other = statistics.median(results[1])
+                self.row("the same, messages a minute", f"`gammu batch` of `sendsms`, {60 / other:.1f}",
+                         f"{60 / each:.1f}, {other / each:.2f} times as many", "at least as many", each <= other)
+
     def rest(self, length):
         for work, command in (("idle", ["idle", length]),
                               ("pausing for an hour", ["pause", self.build / "corvane-phone", self.data("distinct", 1_000),
@@ -358,7 +429,7 @@ def main():
         bench = Bench(arguments.build.resolve(), pathlib.Path(work), arguments.runs)
         steps = {"encode": bench.encode, "import": bench.imports, "memory": bench.memory, "load": bench.load,
                  "table": bench.table, "start": bench.start, "growth": bench.growth,
-                 "job": lambda: bench.job(10_000 if arguments.long else 200), "rest": lambda: bench.rest(10)}
+                 "job": lambda: bench.job(10_000 if arguments.long else 200), "send": bench.send, "rest": lambda: bench.rest(10)}
         costs = None
         for name, step in steps.items():
             if not arguments.only or name in arguments.only:

@@ -1,10 +1,12 @@
 #include "device/At_Conversation.h"
 
+#include "handset/Report_Line.h"
 #include "platform/Log_Line.h"
 #include "platform/Waiting.h"
 
 #include <QLatin1String>
 #include <algorithm>
+#include <string_view>
 
 namespace {
 
@@ -12,23 +14,25 @@ constexpr double Longest_Drop = 2;
 constexpr double Longest_Wait_For_Ok = 0.5;
 constexpr double Longest_Hearing = 0.02; // real seconds
 constexpr double Longest_Talk = 0.5;     // real seconds of reports in a row
+constexpr qsizetype Most_Lines = 4096;   // of one answer
 
 void Log_Exchange(const char* what, const QByteArray& bytes)
 {
     Show_NSLog_Message(QLatin1String(what) + QLatin1String(" \"") + QString::fromUtf8(bytes) + QLatin1Char('"'));
 }
 
-// "+CDS: 25" and "+CDS: ,25" announce a frame; in text mode all fields stand on the line itself.
+// A received message and a broadcast always stand below their line, a status report in PDU mode alone.
 bool Announces_Frame(const QByteArray& line)
 {
-    const QByteArray fields = line.mid(line.indexOf(':') + 1).trimmed();
-    return std::all_of(fields.begin(), fields.end(), [](char c) { return c == ',' || (c >= '0' && c <= '9'); }) &&
-           fields.count(',') <= 1;
+    return line.startsWith("+CMT:") || line.startsWith("+CBM:") ||
+           Handset::Announces_A_Report(std::string_view(line.constData(), static_cast<std::size_t>(line.size())));
 }
 
 // A value alone begins with none of the signs of other lines, and is not the command's echo.
 bool Answers(const QByteArray& line, const QByteArray& prefix)
 {
+    if (prefix == At_Conversation::Any_Line)
+        return true;
     if (prefix != At_Conversation::Any_Value)
         return !prefix.isEmpty() && line.startsWith(prefix);
     return !QByteArrayView("+^*$%_").contains(line.front()) && !line.startsWith("AT") && line != "RING";
@@ -87,7 +91,7 @@ At_Answer At_Conversation::Ask(const QByteArray& command, double seconds, const 
             answer.m_end = answer.m_cause ? At_End::Refused : At_End::Ok;
             return answer;
         }
-        if (Answers(heard.m_line, prefix)) {
+        if (answer.m_lines.size() < Most_Lines && Answers(heard.m_line, prefix)) {
             answer.m_lines.append(heard.m_line);
             if (ok_line == Ok_Line::May_Be_Missing)
                 end = std::min(end, Now_Seconds() + Paced_Read_Timeout(Longest_Wait_For_Ok));
@@ -185,12 +189,11 @@ bool At_Conversation::Is_Report(const QByteArray& line)
             m_on_report(report);
         return true;
     }
-    const bool is_status = line.startsWith("+CDS:");
-    if (line.startsWith("+CMT:") || line.startsWith("+CBM:") || (is_status && Announces_Frame(line))) {
+    if (Announces_Frame(line)) {
         m_frame_is_due = line;
         return true;
     }
-    if (!is_status && !line.startsWith("+CDSI:"))
+    if (!line.startsWith("+CDS:") && !line.startsWith("+CDSI:"))
         return false;
     if (m_on_report)
         m_on_report({line, {}});

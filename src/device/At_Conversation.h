@@ -62,8 +62,12 @@ public:
 
     explicit At_Conversation(Device_Line& line) : m_line(line) {}
 
-    /// Stands for lines that say a value alone, such as an identity.
+    /// Long enough for a command that waits for nothing but the device itself, in seconds at pace 1.
+    static constexpr double Usual_Answer = 5;
+
+    /// Stand for lines that say a value alone, such as an identity, and for all lines, such as those of a list.
     static constexpr char Any_Value[] = "*";
+    static constexpr char Any_Line[] = "**";
 
     enum class Ok_Line
     {

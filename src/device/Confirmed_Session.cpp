@@ -9,7 +9,7 @@ namespace {
 constexpr double Silence_Before_Start = 0.3;
 constexpr double First_Answer = 1;
 constexpr int First_Tries = 3;
-constexpr double Usual_Answer = 5;
+constexpr double Usual_Answer = At_Conversation::Usual_Answer;
 constexpr double Sim_Answer = 10;
 
 // The first line's fields after its colon, without quotes.
@@ -110,19 +110,26 @@ bool Confirmed_Session::Choose_Format()
     return m_is_text_mode;
 }
 
-// The identity carries no prefix: the first line that is not the command's echo.
 void Confirmed_Session::Ask_Who_It_Is()
 {
-    const auto first_line = [this](const QByteArray& command) {
-        const QByteArrayList lines = m_conversation.Ask(command, Usual_Answer, At_Conversation::Any_Value).m_lines;
-        return lines.isEmpty() ? QString() : QString::fromUtf8(lines.first());
-    };
-    m_maker = first_line("AT+CGMI");
-    const QString imsi = first_line("AT+CIMI");
-    m_imsi = imsi.size() >= 6 && std::all_of(imsi.begin(), imsi.end(), [](QChar c) { return c.isDigit(); }) ? imsi
-                                                                                                            : QString();
+    m_maker = Ask_Identity("AT+CGMI");
+    Ask_Imsi();
     const QByteArrayList centre = m_conversation.Ask("AT+CSCA?", Usual_Answer, "+CSCA:").m_lines;
     m_own_centre = centre.isEmpty() ? QString() : QString::fromUtf8(centre.first().mid(6).trimmed());
+}
+
+// It carries no prefix: the first line that is not the command's echo.
+QString Confirmed_Session::Ask_Identity(const QByteArray& command)
+{
+    const QByteArrayList lines = m_conversation.Ask(command, Usual_Answer, At_Conversation::Any_Value).m_lines;
+    return lines.isEmpty() ? QString() : QString::fromUtf8(lines.first());
+}
+
+void Confirmed_Session::Ask_Imsi()
+{
+    const QString imsi = Ask_Identity("AT+CIMI");
+    m_imsi = imsi.size() >= 6 && std::all_of(imsi.begin(), imsi.end(), [](QChar c) { return c.isDigit(); }) ? imsi
+                                                                                                            : QString();
 }
 
 bool Confirmed_Session::Answers()
@@ -138,6 +145,8 @@ Device_Condition Confirmed_Session::Condition()
     if (!condition.m_answers)
         return condition;
     condition.m_sim = Ask_Sim();
+    if (condition.m_sim == Sim_State::Ready && m_imsi.isEmpty())
+        Ask_Imsi(); // a card says it no sooner than it has got its PIN
     condition.m_registration = Ask_Registration();
     return condition;
 }
@@ -192,14 +201,13 @@ std::optional<Late_Result> Confirmed_Session::Take_Late_Result()
     return m_conversation.Take_Late_Result();
 }
 
-QList<Raw_Report> Confirmed_Session::Take_Reports()
+QList<Told_Report> Confirmed_Session::Take_Reports()
 {
     m_conversation.Hear_What_Came();
-    m_reports.Fetch_Stored();
     return m_reports.Take();
 }
 
-void Confirmed_Session::Listen(double seconds)
+bool Confirmed_Session::Listen(double seconds)
 {
-    m_conversation.Hear(Now_Seconds() + Paced(seconds));
+    return m_conversation.Hear(Now_Seconds() + Paced(seconds)).m_kind != At_Conversation::Heard::Kind::Gone;
 }

@@ -131,14 +131,21 @@ public:
 
     /// Asks for delivery reports; whether the device takes a way of saying them.
     bool Ask_For_Reports() { return m_reports.Ask_For(m_maker); }
-    /// Reports that have come, also out of the device's memory. Without waiting where nothing lies there.
-    QList<Raw_Report> Take_Reports();
-    /// Waits for what the device says, for at most a time in seconds at pace 1.
-    void Listen(double seconds);
+    /// Reports that have come on the line, and those that the device has announced to lie in a memory. Without waiting
+    /// where it has not.
+    QList<Told_Report> Take_Reports();
+    /// All reports that lie in the device's memory for them.
+    QList<Told_Report> Read_Report_Memory() { return m_reports.Read_Memory(m_is_text_mode); }
+    /// Takes reports out of a memory, for good.
+    void Delete_Reports(const QList<Report_Place>& places) { m_reports.Delete(places); }
+    /// Waits for what the device says, for at most a time in seconds at pace 1. Whether the line is still there.
+    bool Listen(double seconds);
 
 private:
     bool Choose_Format();
     void Ask_Who_It_Is();
+    QString Ask_Identity(const QByteArray& command);
+    void Ask_Imsi();
     Sim_State Ask_Sim();
     Registration Ask_Registration();
     std::optional<Part_Result> Await_Prompt(Part_Watcher& watcher);

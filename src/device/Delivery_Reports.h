@@ -1,12 +1,32 @@
 #pragma once
 
 #include "device/At_Conversation.h"
+#include "handset/Status_Report.h"
 
 #include <QList>
 #include <QString>
+#include <optional>
 
-/// Asks a device for delivery reports and gathers those that come, as they were said: on the line or, where the device
-/// puts them into a memory first, from there. Belongs to a session; its thread.
+class Device_Memory;
+
+/// Where a report lies in a device.
+struct Report_Place
+{
+    QByteArray m_memory;
+    int m_index = 0;
+
+    bool operator==(const Report_Place&) const = default;
+};
+
+/// A delivery report that a device has told.
+struct Told_Report
+{
+    Handset::Status_Report m_report;
+    std::optional<Report_Place> m_place; ///< where it lies still; none where it came on the line
+};
+
+/// Asks a device for delivery reports and gathers those that come: on the line or, where the device puts them into a
+/// memory, from there. What lies in a memory stays there until it is deleted. Belongs to a session; its thread.
 class Delivery_Reports
 {
 public:
@@ -14,22 +34,17 @@ public:
 
     /// Whether the device takes any way of saying reports. The maker is the device's own word.
     bool Ask_For(const QString& maker);
-    /// Reads those that lie in the device's memory and takes them out of it.
-    void Fetch_Stored();
-    /// What has come since; the oldest first.
-    QList<Raw_Report> Take() { return std::exchange(m_reports, {}); }
+    /// What has come since, the oldest first, and what has been announced to lie in a memory.
+    QList<Told_Report> Take();
+    /// All that lie in the memory for reports; none where there is no such memory.
+    QList<Told_Report> Read_Memory(bool is_text_mode);
+    void Delete(const QList<Report_Place>& places);
 
 private:
-    struct Place
-    {
-        QByteArray m_memory;
-        int m_index = 0;
-    };
-
     void Take_In(const Raw_Report& report);
-    void Fetch(const Place& place);
+    void Fetch(const Report_Place& place, Device_Memory& memory);
 
     At_Conversation& m_conversation;
-    QList<Raw_Report> m_reports;
-    QList<Place> m_stored;
+    QList<Told_Report> m_reports;
+    QList<Report_Place> m_announced;
 };

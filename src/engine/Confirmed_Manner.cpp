@@ -5,13 +5,13 @@
 #include "engine/Confirmed_Row.h"
 #include "engine/Message_Frames.h"
 #include "engine/Send_Progress.h"
-#include "handset/Report_Line.h"
 #include "platform/Waiting.h"
 #include "records/Job_Shelf.h"
 #include "texts/Cause_Texts.h"
 #include "texts/Confirmed_Texts.h"
 #include "texts/Texts.h"
 
+#include <QFileInfo>
 #include <QRandomGenerator>
 
 namespace {
@@ -44,7 +44,7 @@ Confirmed_Manner::Confirmed_Manner(const Send_Order& order, const Confirmed_Opti
                                    Confirmed_Watcher& watcher, Stop_Flag& stop, Serial_Calls& calls)
     : m_order(order), m_options(options), m_progress(progress), m_watcher(watcher), m_stop(stop),
       m_session(Lasting_Device_Path(order.device_path), calls),
-      m_hold(m_session, progress, watcher, stop, options.hold_seconds)
+      m_hold(m_session, progress, watcher, stop, options.hold_seconds), m_late_reports(m_session, m_report_desk)
 {
 }
 
@@ -103,6 +103,23 @@ void Confirmed_Manner::Begin_Sending()
     if (Asks_For_Reports())
         m_session.Ask_For_Reports();
     Begin_Journal();
+    if (m_trouble.isEmpty())
+        Begin_Reports();
+}
+
+// Those that have come since an earlier job are counted before there are new ones.
+void Confirmed_Manner::Begin_Reports()
+{
+    if (m_record && Asks_For_Reports())
+        m_report_desk = Report_Desk::Of(*m_record);
+    m_late_reports.Set_Own_Job(m_journal.get(),
+                               [this](const Report_Desk::Part& part, const Handset::Status_Report& report) {
+                                   m_watcher.Report_Came(part.index, part.part, report.m_reference, report.m_status);
+                               });
+    const QString own_path = m_journal ? m_journal->Path() : QString();
+    const QString folder = own_path.isEmpty() ? m_options.folder : QFileInfo(own_path).path();
+    if (m_late_reports.Look_Into(folder, own_path) || !m_report_desk.Is_Empty())
+        m_late_reports.Read_Memory();
 }
 
 void Confirmed_Manner::Hold_Until_Ready()
@@ -286,28 +303,15 @@ void Confirmed_Manner::End_Sending()
     if (!Asks_For_Reports() || !m_trouble.isEmpty())
         return;
     const double end = Now_Seconds() + Paced(m_options.job.report_seconds);
-    while (!m_report_desk.Is_Empty() && m_stop == 0 && !Program_Is_Exiting() && Now_Seconds() < end) {
-        m_session.Listen(Seconds_Between_Looks);
+    while (!m_report_desk.Is_Empty() && m_stop == 0 && !Program_Is_Exiting() && Now_Seconds() < end &&
+           m_session.Listen(Seconds_Between_Looks))
         Take_Reports();
-    }
 }
 
 void Confirmed_Manner::Take_Reports()
 {
-    if (!Asks_For_Reports())
-        return;
-    const auto raw_reports = m_session.Take_Reports();
-    for (const Raw_Report& raw : raw_reports) {
-        const auto report = raw.m_frame.isEmpty() ? Handset::Read_Report(raw.m_line.toStdString()).m_report
-                                                  : Handset::Decode_Status_Report(raw.m_frame.toStdString()).m_report;
-        if (!report)
-            continue;
-        if (m_journal)
-            m_journal->Report(m_session.Imsi(), report->m_reference, QString::fromStdString(report->m_number),
-                              Local_Time().toSecsSinceEpoch(), report->m_status);
-        if (const auto part = m_report_desk.Match(*report))
-            m_watcher.Report_Came(part->index, part->part, report->m_reference, report->m_status);
-    }
+    if (Asks_For_Reports() || m_late_reports.Are_Awaited())
+        m_late_reports.Take(m_session.Take_Reports());
 }
 
 // A job that has nothing left to be decided or sent leaves nothing behind, unless that is wanted.

@@ -3,7 +3,7 @@
 #include "device/Confirmed_Session.h"
 #include "engine/Alike_Ends.h"
 #include "engine/Device_Hold.h"
-#include "engine/Report_Desk.h"
+#include "engine/Late_Reports.h"
 #include "engine/Row_Details.h"
 #include "engine/Send_Cause.h"
 #include "engine/Send_Manner.h"
@@ -67,6 +67,7 @@ private:
     void Open_Journal();
     Job_Row Row_At(int index);
     std::optional<Row_Details> Settled_Before(int index, const Job_Row& row) const;
+    void Begin_Reports();
     void Take_Reports();
     bool Asks_For_Reports() const { return m_options.job.report_seconds >= 0; }
     bool Is_Sent_Already(int index, int part) const;
@@ -80,6 +81,7 @@ private:
     Device_Hold m_hold;
     Alike_Ends m_alike_ends;
     Report_Desk m_report_desk;
+    Late_Reports m_late_reports;
     QString m_trouble;
     std::unique_ptr<Job_Journal> m_journal;
     std::optional<Job_Record> m_record; // of a job that is gone on with

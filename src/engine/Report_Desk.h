@@ -3,13 +3,18 @@
 #include "handset/Status_Report.h"
 
 #include <QString>
+#include <map>
 #include <optional>
+#include <tuple>
 #include <unordered_map>
 #include <vector>
 
+class Job_Record;
+struct Job_Report;
+
 // Finds the part that a delivery report is about: of those that are still open the one with its reference and its
 // number, by their last digits, since centres write numbers in other forms; of several the one whose time is nearest.
-// A value; one thread at a time.
+// The same report counts once. A value; one thread at a time.
 class Report_Desk
 {
 public:
@@ -19,14 +24,32 @@ public:
         int part = 1;
         int reference = 0;
         qint64 seconds = 0; ///< since 1970, when it was accepted
+        int job = 0;        ///< 0 is the job at hand; others are earlier ones
     };
 
+    /// The parts of a job that its journal still awaits reports for, and the reports that it has counted.
+    static Report_Desk Of(const Job_Record& record, int job = 0);
+
     void Expect(const QString& number, const Part& part);
-    /// The part; nothing where none fits. A report that is final for a part closes it.
+    /// Joins what another desk awaits and has counted.
+    void Take_Over(const Report_Desk& other);
+    /// The part; nothing where none fits, and for a report that has been counted. A report that is final for a part
+    /// closes it.
     std::optional<Part> Match(const Handset::Status_Report& report);
+    /// The job that this very report has been counted for; nothing for any other.
+    std::optional<int> Counted_For(const Handset::Status_Report& report) const;
+    /// Whether no part of the job at hand is open.
     bool Is_Empty() const { return m_open == 0; }
 
 private:
+    void Give_To(int job);
+
+    using Report_Key = std::tuple<quint64, int, qint64>; // reference and last digits, status, when it was submitted
+
     std::unordered_map<quint64, std::vector<Part>> m_parts; // by reference and last digits
-    std::size_t m_open = 0;
+    std::map<Report_Key, int> m_counted;
+    std::size_t m_open = 0; // of the job at hand
 };
+
+/// When the centre got the part, in seconds since 1970; nothing where the report does not tell a time.
+std::optional<qint64> Submission_Time(const Handset::Status_Report& report);

@@ -115,8 +115,9 @@ Job_Journal::Opened Job_Journal::Open_To_Go_On(const QString& path, Job_Clock cl
     if (reading.trouble != Job_Trouble::None)
         return failed(reading.trouble);
     const int rows = reading.record->Row_Count();
-    return {std::unique_ptr<Job_Journal>(new Job_Journal(std::move(file), path, rows, std::move(clock))),
-            std::move(reading.record), Job_Trouble::None};
+    std::unique_ptr<Job_Journal> journal(new Job_Journal(std::move(file), path, rows, std::move(clock)));
+    journal->m_is_synced = false; // a program that was killed may not have brought its last lines to the disk
+    return {std::move(journal), std::move(reading.record), Job_Trouble::None};
 }
 
 bool Job_Journal::Hand_Over(int row, int part, int of)
@@ -159,12 +160,16 @@ bool Job_Journal::Skipped(int row, const QString& reason)
                        : Die(Job_Trouble::Not_Written);
 }
 
-bool Job_Journal::Report(const QString& imsi, int reference, const QString& number, qint64 seconds, int status)
+bool Job_Journal::Report(const QString& imsi, int reference, const QString& number, qint64 seconds, int status,
+                         std::optional<qint64> submitted)
 {
     if (reference < 0 || reference > Most_Octet || status < 0 || status > Most_Octet)
         return m_trouble == Job_Trouble::None; // it came from a device, and says nothing that could be kept
-    return Append({Word(Job_Words::Report), Field(imsi), QByteArray::number(reference), Field(number),
-                   QByteArray::number(status), Job_Line::Time(seconds)});
+    QByteArrayList fields{Word(Job_Words::Report), Field(imsi), QByteArray::number(reference), Field(number),
+                          QByteArray::number(status)};
+    if (submitted)
+        fields.append(Job_Line::Time(*submitted));
+    return Append(fields << Job_Line::Time(seconds));
 }
 
 bool Job_Journal::Decide(int row, Job_Decision decision, const QString& who)

@@ -61,8 +61,10 @@ public:
     bool Unknown(int row, int part, const QString& why);
     /// The row will not be sent.
     bool Skipped(int row, const QString& reason);
-    /// A status report has come: for the number as it says, at a time in seconds since 1970, with its TP-ST.
-    bool Report(const QString& imsi, int reference, const QString& number, qint64 seconds, int status);
+    /// A status report has come: for the number as it says, at a time in seconds since 1970, with its TP-ST and, where
+    /// it told that, when the centre got the part, also since 1970.
+    bool Report(const QString& imsi, int reference, const QString& number, qint64 seconds, int status,
+                std::optional<qint64> submitted = {});
     /// A person, or what that person used, has decided about a row that may have been sent.
     bool Decide(int row, Job_Decision decision, const QString& who);
     /// The job has ended. Only reports may follow, unless it is gone on with.

@@ -3,6 +3,7 @@
 #include "platform/File_Steps.h"
 #include "platform/Folders_And_Files.h"
 #include "records/Job_Lines.h"
+#include "records/Job_List_Format.h"
 #include "records/Job_Paths.h"
 
 #include <fcntl.h>
@@ -107,6 +108,29 @@ private:
 };
 
 } // namespace
+
+std::optional<Job_Front> Read_Job_Front(const QString& path)
+{
+    // The line of a file, counted from 0.
+    const auto line_of = [](const QString& file, int wanted) {
+        QByteArray found;
+        const QByteArray name = File_Steps::Native_Name(file);
+        const Descriptor open_file =
+            File_Steps::Is_Regular_Or_Missing(name) ? File_Steps::Open(name, O_RDONLY) : Descriptor();
+        if (File_Steps::Regular_Size(open_file))
+            Take_Job_Lines(open_file, [&, number = 0](QByteArrayView line, qint64) mutable {
+                found = number == wanted ? line.toByteArray() : QByteArray();
+                return ++number <= wanted;
+            });
+        return found;
+    };
+    const QByteArray first = line_of(path, 0);
+    const auto header = Header_Of(Job_Line::Fields_Of(first));
+    if (!header || header->id != Job_Id_Of(path))
+        return std::nullopt;
+    const auto options = Job_List_Format::Options_Of(line_of(Job_List_Path(path), 1));
+    return options ? std::optional(Job_Front{*header, options->report_seconds}) : std::nullopt;
+}
 
 Job_Reading Read_Job(const QString& path)
 {

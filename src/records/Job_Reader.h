@@ -17,6 +17,15 @@ struct Job_Reading
     bool is_torn = false;  ///< whether there is such a line
 };
 
+/// What the beginnings of a job's two files tell, for looking through many jobs: the header, and how long reports were
+/// awaited, -1 where none were asked for. Nothing where they tell no such thing; the rest of the files is not judged.
+struct Job_Front
+{
+    Job_Header header;
+    int report_seconds = -1;
+};
+std::optional<Job_Front> Read_Job_Front(const QString& path);
+
 /// Reads the journal at a path.
 Job_Reading Read_Job(const QString& path);
 

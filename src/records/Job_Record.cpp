@@ -109,19 +109,21 @@ bool Job_Record::Take_Skipped(const Job_Line::Fields& fields)
     return true;
 }
 
-// D <imsi> <reference> <number> <status> <time>
+// D <imsi> <reference> <number> <status> <when the centre got the part, where that was told> <time>
 bool Job_Record::Take_Report(const Job_Line::Fields& fields)
 {
-    if (fields.size() != 6)
+    const bool has_submitted = fields.size() == 7;
+    if (fields.size() != 6 && !has_submitted)
         return false;
     const auto imsi = Job_Line::Text_Of(fields[1]);
     const auto reference = Job_Line::Number_Of(fields[2], 0, Most_Octet);
     const auto number = Job_Line::Text_Of(fields[3]);
     const auto status = Job_Line::Number_Of(fields[4], 0, Most_Octet);
-    const auto time = Job_Line::Seconds_Of(fields[5]);
-    if (!imsi || !reference || !number || !status || !time)
+    const auto submitted = has_submitted ? Job_Line::Seconds_Of(fields[5]) : std::nullopt;
+    const auto time = Job_Line::Seconds_Of(fields.last());
+    if (!imsi || !reference || !number || !status || !time || has_submitted != submitted.has_value())
         return false;
-    m_reports.append({*imsi, static_cast<int>(*reference), *number, *time, static_cast<int>(*status)});
+    m_reports.append({*imsi, static_cast<int>(*reference), *number, *time, static_cast<int>(*status), submitted});
     return true;
 }
 

@@ -8,6 +8,7 @@
 #include <QList>
 #include <QStringList>
 #include <memory>
+#include <optional>
 #include <vector>
 
 /// What became of a part or a row of a job; from the best to the worst.
@@ -53,8 +54,9 @@ struct Job_Report
     QString imsi;
     int reference = 0;
     QString number;
-    qint64 seconds = 0; ///< since 1970
-    int status = 0;     ///< TP-ST, 3GPP TS 23.040 clause 9.2.3.15
+    qint64 seconds = 0;              ///< since 1970, when it came
+    int status = 0;                  ///< TP-ST, 3GPP TS 23.040 clause 9.2.3.15
+    std::optional<qint64> submitted; ///< since 1970, when the centre got the part, if the report told it
 };
 
 struct Job_Header

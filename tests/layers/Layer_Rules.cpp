@@ -147,7 +147,7 @@ const std::vector<Room>& Rooms()
         {"pdu", {}, Room::Core},
         {"list", {"platform", "texts"}, Room::Core},
         {"records", {"platform", "list"}, Room::Core},
-        {"device", {"platform", "pdu"}, Room::Core},
+        {"device", {"platform", "handset", "pdu"}, Room::Core},
         {"engine", {"platform", "texts", "handset", "list", "records", "device"}, Room::Core},
         {"doctor", {"platform", "texts", "device"}, Room::Core},
         {"send", {"platform", "texts", "handset", "list", "records", "device", "engine", "doctor"}, Room::Core},

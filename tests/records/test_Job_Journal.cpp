@@ -267,3 +267,12 @@ TEST_F(Job_Journal_Test, A_Job_In_The_Middle_Of_A_Message_Goes_On_With_Its_Refer
     EXPECT_TRUE(opened.journal->Hand_Over(2, 2, 2) && opened.journal->Accepted(2, 2, 19));
     EXPECT_EQ(Read(), "S SS W K");
 }
+
+TEST_F(Job_Journal_Test, A_Report_May_Say_When_Its_Part_Was_Submitted)
+{
+    ASSERT_TRUE(Create().journal->Report("001", 17, "0123", 1795252509, 0, 1795252500));
+    EXPECT_TRUE(Bytes_Of(Path()).contains("\nD 001 17 0123 0 2026-11-21T09:15:00Z 2026-11-21T09:15:09Z "));
+    const Job_Report& report = Read_Job(Path()).record->Reports().first();
+    EXPECT_EQ(report.submitted, 1795252500);
+    EXPECT_EQ(report.seconds, 1795252509);
+}

@@ -152,6 +152,7 @@ TEST_F(Job_Reader_Test, A_Job_Has_Ended_Until_It_Is_Gone_On_With)
     const std::pair<QByteArrayList, bool> Table[] = {
         {{"Z @"}, true},
         {{"Z @", "D 1 2 3 4 @"}, true},
+        {{"Z @", "D 1 2 3 4 @ @"}, true},
         {{"H 1 1 1 @", "Z @", "S 1 1 1 @"}, true},
         {{"Z @", "H 1 1 1 @"}, false},
         {{"H 1 1 1 @", "Z @", "R 1 send-again:x @"}, false},
@@ -263,6 +264,8 @@ TEST_F(Job_Reader_Test, A_Line_That_Does_Not_Fit_The_Job_Is_Damage_Though_Its_Ch
                              "D 1 256 2 3 @",
                              "D 1 2 3 256 @",
                              "D 1 2 3 @",
+                             "D 1 2 3 4 5 @",
+                             "D 1 2 3 4 @ @ @",
                              "R 1 person @",
                              "R 5 send-again:x @",
                              "R 1 send-again:x",
@@ -357,4 +360,25 @@ TEST_F(Job_Reader_Test, Ten_Thousand_Rows_Are_Read_In_Well_Under_A_Second)
     EXPECT_EQ(reading.record->Counts().sent, Rows - 1);
     EXPECT_EQ(reading.record->Parts_Waiting(), 1);
     EXPECT_LT(watch.Lasted_For_The_Thread(), 1.0);
+}
+
+TEST_F(Job_Reader_Test, The_Front_Of_A_Job_Is_Told_Without_The_Rest)
+{
+    Put(Sample_Lines.first() + "torn");
+    const auto front = Read_Job_Front(Path());
+    ASSERT_TRUE(front);
+    EXPECT_EQ(front->header.imsi, "234150000000001");
+    EXPECT_EQ(front->report_seconds, 60);
+    const QString copy = Path("a-copy");
+    Write_Bytes(copy, Sample_Lines.first());
+    EXPECT_FALSE(Read_Job_Front(copy));
+    Write_Bytes(List_Path(), "L1\t" + Sample_Id.toLatin1() + "\nO\t\t-\t0\t0\tauto\n");
+    EXPECT_EQ(Read_Job_Front(Path())->report_seconds, -1);
+    Write_Bytes(List_Path(), "L1\n");
+    EXPECT_FALSE(Read_Job_Front(Path()));
+    ASSERT_TRUE(QFile::remove(List_Path()));
+    EXPECT_FALSE(Read_Job_Front(Path()));
+    Write_Bytes(Path(), "J2 ?\n");
+    EXPECT_FALSE(Read_Job_Front(Path()));
+    EXPECT_FALSE(Read_Job_Front(m_folder));
 }

@@ -134,6 +134,20 @@ TEST_F(Devices, Several_That_Answer_Are_Listed)
     EXPECT_THAT(Texts(), IsEmpty());
 }
 
+TEST_F(Devices, A_Report_That_Comes_After_Its_Job_Is_Noted_By_The_Next)
+{
+    Phone_Moods moods;
+    moods.m_reports_in_memory_alone = true;
+    moods.m_report_after_seconds = 0;
+    m_phone.Set_Moods(moods);
+    const auto first = Run_With_Device(QStringList{"--keep", "--reports=0"} + To_So_Many(1));
+    ASSERT_EQ(first.status, 0) << first.errors;
+    const QString journal = Jobs_Folder() + "/" + first.Of("job").first().value("job").toString() + ".journal";
+    const auto second = Run_With_Device(QStringList{"--reports=0"} + To_So_Many(1));
+    EXPECT_EQ(second.status, 0) << second.errors;
+    EXPECT_EQ(Bytes_Of(journal).count("\nD "), 1) << Bytes_Of(journal).constData();
+}
+
 TEST_F(Devices, Reports_Are_Told_As_They_Come)
 {
     const auto run = Start(To_So_Many(1) + QStringList{"--reports=60"});

@@ -2,7 +2,10 @@
 """Programs of others talk to the virtual phone as to any modem: what they read of it and what they send through it must
 arrive as it was given.
 
-    Clients.py gammu|smsd CORVANE-PHONE"""
+    Clients.py gammu|smsd CORVANE-PHONE
+    Clients.py hand_over CORVANE-PHONE CORVANE-SEND
+
+The last is smsd again, which sends what corvane-send has handed over to it."""
 
 import json
 import os
@@ -131,35 +134,69 @@ def stop(child):
         child.wait()
 
 
-def smsd(phone, folder):
+def run_smsd(phone, folder, files):
+    """The messages that smsd sends, in the order of their texts; files are name and bytes of each in its spool."""
     program = program_of("smsd", "smstools")
     for name in ("outgoing", "checked", "incoming", "sent", "failed"):
         (folder / name).mkdir()
     (folder / "smsd.conf").write_text(SMSD_CONFIGURATION.format(folder, phone.device), encoding="utf-8")
-    spool = ((SHORT, 1, "UTF-8", SHORT.encode()), (UNICODE, 1, "UCS2", UNICODE.encode("utf-16-be")),
-             (LONG, 3, "UTF-8", LONG.encode()))
-    for place, (_, _, alphabet, body) in enumerate(spool):
-        header = f"To: {NUMBER[1:]}\nAlphabet: {alphabet}\n\n"
-        (folder / "outgoing" / str(place)).write_bytes(header.encode() + body)
+    for name, content in files:
+        (folder / "outgoing" / name).write_bytes(content)
     child = subprocess.Popen([program, "-t", "-c", folder / "smsd.conf"], stdin=subprocess.DEVNULL,
                              stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, start_new_session=True)
     try:
-        arrived = sorted((phone.message() for _ in spool), key=lambda message: message["text"])
+        return sorted((phone.message() for _ in files), key=lambda message: message["text"])
     except Trouble as trouble:
         raise Trouble(f"{trouble}; smsd wrote:\n{(folder / 'log').read_text(errors='replace')}") from None
     finally:
         stop(child)
+
+
+def smsd(phone, folder):
+    spool = ((SHORT, 1, "UTF-8", SHORT.encode()), (UNICODE, 1, "UCS2", UNICODE.encode("utf-16-be")),
+             (LONG, 3, "UTF-8", LONG.encode()))
+    arrived = run_smsd(phone, folder, [(str(place), f"To: {NUMBER[1:]}\nAlphabet: {alphabet}\n\n".encode() + body)
+                                       for place, (_, _, alphabet, body) in enumerate(spool)])
     expected = sorted((text, parts, NUMBER) for text, parts, _, _ in spool)
     expect("messages", expected, [(message["text"], message["parts"], message["number"]) for message in arrived])
 
 
+def hand_over(phone, folder, corvane_send):
+    # What is handed over, and what the handset shows: number, parts, message class.
+    handed = (("short", NUMBER, SHORT, (), NUMBER, 1, None),
+              ("latin", NUMBER, "Grüße: 5 £ für Ñandú, Øre\nund mehr", (), NUMBER, 1, None),
+              ("long", NUMBER, LONG, (), NUMBER, 3, None),
+              ("brackets", NUMBER, "{€}[~]" * 40, (), NUMBER, 4, None),
+              ("unicode", NUMBER, UNICODE, (), NUMBER, 1, None),
+              ("long-unicode", NUMBER, UNICODE * 6, (), NUMBER, 2, None),
+              ("national", "015550001234", "Hello", (), "015550001234", 1, None),
+              ("greek", NUMBER, "Ω and Δ: 5 € @ 3 % _ §", (), NUMBER, 1, None),
+              ("blank-lines", NUMBER, "\n To: a line\r\n\nbelow it", (), NUMBER, 1, None),
+              ("flash", NUMBER, "Now: 5 €", ("--flash",), NUMBER, 1, 0),
+              ("flash-unicode", NUMBER, "Сейчас 😀", ("--flash",), NUMBER, 1, 0),
+              ("report", NUMBER, "Report, please", ("--reports", "--service-centre", "+15550009999"), NUMBER, 1, None))
+    files = []
+    for name, number, text, options, *_ in handed:
+        subprocess.run([corvane_send, "--to", number, "--message", text, *options, "--hand-over", folder / name],
+                       stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, timeout=PATIENCE, check=True,
+                       env={**os.environ, "XDG_DATA_HOME": str(folder)})
+        spool = list((folder / name / "spool").iterdir())
+        expect(f"files for {name}", 1, len(spool))
+        files.append((name, spool[0].read_bytes()))
+    arrived = run_smsd(phone, folder, files)
+    expected = sorted((text, shown_number, parts, shown_class)
+                      for _, _, text, _, shown_number, parts, shown_class in handed)
+    expect("messages", expected, [(message["text"], message["number"], message["parts"], message["class"])
+                                  for message in arrived])
+
+
 def main():
-    client, program = sys.argv[1:]
+    client, program, *others = sys.argv[1:]
     try:
         with tempfile.TemporaryDirectory(prefix="corvane-") as folder:
             phone = Phone(program)
             try:
-                {"gammu": gammu, "smsd": smsd}[client](phone, Path(folder))
+                {"gammu": gammu, "smsd": smsd, "hand_over": hand_over}[client](phone, Path(folder), *others)
             finally:
                 phone.end()
             if not phone.told.empty():

@@ -1,0 +1,48 @@
+#include "device/Device_Memory.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr char Name[] = "+CPMS:";
+
+// The field of an answer's first line, counted from 0; empty where there is none.
+QByteArray Field(const At_Answer& answer, qsizetype number)
+{
+    if (answer.m_lines.isEmpty())
+        return {};
+    const QByteArray& line = answer.m_lines.first();
+    return line.mid(line.indexOf(':') + 1).split(',').value(number).trimmed();
+}
+
+QByteArray Quoted(QByteArray name)
+{
+    return '"' + name.replace('"', "") + '"';
+}
+
+} // namespace
+
+Device_Memory::Device_Memory(At_Conversation& conversation) : m_conversation(conversation)
+{
+    const QByteArray own = Field(m_conversation.Ask("AT+CPMS?", At_Conversation::Usual_Answer, Name), 0);
+    if (!own.isEmpty())
+        m_chosen = m_own = Quoted(own);
+}
+
+Device_Memory::~Device_Memory()
+{
+    if (m_chosen != m_own)
+        m_conversation.Ask("AT+CPMS=" + m_own, At_Conversation::Usual_Answer);
+}
+
+std::optional<int> Device_Memory::Choose(const QByteArray& memory)
+{
+    if (m_own.isEmpty())
+        return std::nullopt;
+    const At_Answer answer = m_conversation.Ask("AT+CPMS=" + Quoted(memory), At_Conversation::Usual_Answer, Name);
+    if (answer.m_end != At_End::Refused)
+        m_chosen = Quoted(memory); // it may have been, where no answer came
+    if (answer.m_end != At_End::Ok)
+        return std::nullopt;
+    return std::max(Field(answer, 1).toInt(), 0);
+}

@@ -1,0 +1,143 @@
+#include "engine/Late_Reports.h"
+
+#include "device/Device_Paths.h"
+#include "platform/Waiting.h"
+#include "records/Job_Journal.h"
+
+#include <QDir>
+#include <algorithm>
+
+namespace {
+
+constexpr double Seconds_Between_Looks = 1;
+
+// The journals of the jobs that asked for reports, and their headers.
+std::vector<std::pair<QString, Job_Header>> Jobs_With_Reports(const QString& folder)
+{
+    std::vector<std::pair<QString, Job_Header>> jobs;
+    if (folder.isEmpty())
+        return jobs;
+    const QStringList names = QDir(folder).entryList({QStringLiteral("*.journal")}, QDir::Files, QDir::Name);
+    for (const QString& name : names) {
+        const QString path = folder + u'/' + name;
+        if (const auto front = Read_Job_Front(path); front && front->report_seconds >= 0)
+            jobs.emplace_back(path, front->header);
+    }
+    return jobs;
+}
+
+} // namespace
+
+Late_Reports::~Late_Reports() = default;
+
+void Late_Reports::Set_Own_Job(Job_Journal* journal, Own_Report on_report)
+{
+    m_own = journal;
+    m_on_own = std::move(on_report);
+}
+
+bool Late_Reports::Look_Into(const QString& folder, const QString& own_path)
+{
+    m_jobs.clear();
+    m_are_read = false;
+    for (const auto& [path, header] : Jobs_With_Reports(folder))
+        if (header.imsi == m_session.Imsi() && Job_Id_Of(path) != Job_Id_Of(own_path))
+            m_jobs.push_back({path, nullptr, false});
+    return Are_Awaited();
+}
+
+void Late_Reports::Read_Journals()
+{
+    if (std::exchange(m_are_read, true))
+        return;
+    for (std::size_t at = 0; at < m_jobs.size(); ++at)
+        if (const Job_Reading reading = Read_Job(m_jobs[at].path); reading.record)
+            m_desk.Take_Over(Report_Desk::Of(*reading.record, static_cast<int>(at) + 1));
+}
+
+void Late_Reports::Read_Memory()
+{
+    Take(m_session.Read_Report_Memory());
+}
+
+// A journal's lock is held no longer than it takes.
+void Late_Reports::Take(const QList<Told_Report>& reports)
+{
+    if (reports.isEmpty())
+        return;
+    Read_Journals();
+    QList<std::pair<int, Report_Place>> counted;
+    for (const Told_Report& told : reports)
+        if (const auto job = Count(told.m_report); job && told.m_place)
+            counted.append({*job, *told.m_place});
+    QList<Report_Place> done;
+    for (const auto& [job, place] : std::as_const(counted))
+        if (Is_On_Disk(job))
+            done.append(place);
+    for (Earlier_Job& job : m_jobs) {
+        if (job.journal)
+            job.is_closed_to_us = !job.journal->Sync();
+        job.journal.reset();
+    }
+    m_session.Delete_Reports(done);
+}
+
+// The job that it has been counted for, now or before.
+std::optional<int> Late_Reports::Count(const Handset::Status_Report& report)
+{
+    const auto part = m_desk.Match(report);
+    if (!part)
+        return m_desk.Counted_For(report);
+    if (Job_Journal* const journal = Journal_Of(part->job)) {
+        const bool is_noted =
+            journal->Report(m_session.Imsi(), report.m_reference, QString::fromStdString(report.m_number),
+                            Local_Time().toSecsSinceEpoch(), report.m_status, Submission_Time(report));
+        m_counted += part->job != 0 && is_noted ? 1 : 0;
+    }
+    if (part->job == 0 && m_on_own)
+        m_on_own(*part, report);
+    return part->job;
+}
+
+// None for the job at hand where it keeps none, and for one that cannot be written to.
+Job_Journal* Late_Reports::Journal_Of(int job)
+{
+    if (job == 0)
+        return m_own;
+    Earlier_Job& earlier = m_jobs[static_cast<std::size_t>(job) - 1];
+    if (!earlier.journal && !earlier.is_closed_to_us) {
+        earlier.journal = Job_Journal::Open_To_Go_On(earlier.path).journal;
+        earlier.is_closed_to_us = !earlier.journal;
+    }
+    return earlier.journal.get();
+}
+
+// A job that keeps no journal has told its report, and that is all it wants.
+bool Late_Reports::Is_On_Disk(int job)
+{
+    if (job == 0 && !m_own)
+        return true;
+    Job_Journal* const journal = Journal_Of(job);
+    return journal && journal->Sync();
+}
+
+int Collect_Late_Reports(const QString& device_path, const QString& folder, double seconds, const Stop_Flag& stop,
+                         Serial_Calls& calls)
+{
+    if (Jobs_With_Reports(folder).empty())
+        return 0;
+    Confirmed_Session session(Lasting_Device_Path(device_path), calls);
+    if (session.Open() != Confirmed_Session::Opening::Ready)
+        return 0;
+    Report_Desk desk;
+    Late_Reports late(session, desk);
+    if (late.Look_Into(folder)) {
+        session.Ask_For_Reports();
+        late.Read_Memory();
+        const double end = Now_Seconds() + Paced(seconds);
+        while (stop == 0 && !Program_Is_Exiting() && Now_Seconds() < end && session.Listen(Seconds_Between_Looks))
+            late.Take(session.Take_Reports());
+    }
+    session.Close();
+    return late.Counted();
+}
