@@ -66,7 +66,7 @@ At_Answer At_Conversation::Ask(const QByteArray& command, double seconds, const 
         return {At_End::Gone, {}, {}};
     At_Answer answer;
     double end = Now_Seconds() + Paced_Read_Timeout(seconds);
-    do { // some devices never stop talking, and there is no silence then
+    do { // what has come when the time is over is heard, but some devices never stop talking
         const Heard heard = Hear(end);
         switch (heard.m_kind) {
         case Heard::Kind::Gone:
@@ -96,7 +96,7 @@ At_Answer At_Conversation::Ask(const QByteArray& command, double seconds, const 
             if (ok_line == Ok_Line::May_Be_Missing)
                 end = std::min(end, Now_Seconds() + Paced_Read_Timeout(Longest_Wait_For_Ok));
         }
-    } while (Now_Seconds() < end);
+    } while (Now_Seconds() < end + Longest_Talk);
     return answer;
 }
 

@@ -12,12 +12,20 @@ constexpr double Longest_Result = 180;
 constexpr double Longest_Cancel = 1;
 constexpr double Seconds_To_Notice = 10;
 constexpr double Longest_Slice = 0.1; // real seconds, after which the clock and a stop are looked at
+constexpr double Longest_Rest = 0.5;  // real seconds, of what had come when the time was over
 
 // A Telit takes no command earlier after a result.
 constexpr char Slow_Maker[] = "Telit";
 constexpr double Seconds_After_Result = 0.02;
 
 using Heard = At_Conversation::Heard;
+
+// Whether the time is over, and what had come by then has been heard.
+bool Is_Over(const Heard& heard, double end)
+{
+    const double now = Now_Seconds();
+    return now >= end && (heard.m_kind == Heard::Kind::Silence || now >= end + Longest_Rest);
+}
 
 Part_Result Kept_Back(Part_Result::Obstacle obstacle)
 {
@@ -127,7 +135,7 @@ std::optional<Part_Result> Confirmed_Session::Await_Prompt(Part_Watcher& watcher
         }
         if (watcher.Is_Asked_To_Stop() || Program_Is_Exiting())
             return Leave_Prompt(Part_Result::Obstacle::Stopped);
-        if (Now_Seconds() >= end)
+        if (Is_Over(heard, end))
             return Leave_Prompt(Part_Result::Obstacle::No_Prompt);
     }
 }
@@ -166,7 +174,7 @@ Part_Result Confirmed_Session::Await_Result(const QByteArray& body, Part_Watcher
         }
         if (Program_Is_Exiting())
             return Doubtful(Part_Result::Doubt::Broken_Off);
-        if (Now_Seconds() >= end)
+        if (Is_Over(heard, end))
             return Doubtful(Part_Result::Doubt::No_Result);
         const double waited = (Now_Seconds() - begin) / Paced(1);
         if (waited >= next_notice) {

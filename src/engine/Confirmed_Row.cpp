@@ -49,6 +49,12 @@ QString Field_Of(Doubt doubt)
     return QStringLiteral("no-result");
 }
 
+bool Is_About_What_Was_Sent(Cause_Class cause_class)
+{
+    return cause_class == Cause_Class::Unknown_Outcome || cause_class == Cause_Class::Ignore ||
+           cause_class == Cause_Class::Counts_As_Sent;
+}
+
 Until Wait_For(const Device_Cause& cause)
 {
     const Device_Cause numbered =
@@ -158,6 +164,10 @@ Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Take_Refusal(co
 {
     const Send_Cause& row = Cause_Row(cause);
     const QString reason = ::Reason_Of(cause);
+    if (!m_was_handed_over && Is_About_What_Was_Sent(row.cause_class)) { // in place of the prompt: nothing was
+        Note_Refusal(cause);
+        return Be_Refused(cause, reason, Alike_In_A_Row);
+    }
     if (row.cause_class == Cause_Class::Unknown_Outcome || row.cause_class == Cause_Class::Ignore) {
         const Part_End end = Be_Unknown(Cause_Field(cause), reason);
         m_details.outcome.cause = cause;
@@ -165,8 +175,7 @@ Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Take_Refusal(co
     }
     if (row.cause_class == Cause_Class::Counts_As_Sent)
         return Take_Accepted(-1, {});
-    if (m_was_handed_over && m_manner.m_journal)
-        m_manner.m_journal->Refused(m_index + 1, m_part, Cause_Field(cause));
+    Note_Refusal(cause);
     switch (row.cause_class) {
     case Cause_Class::Retry_Slowly:
         m_manner.m_sends_slowly = true;
@@ -182,6 +191,13 @@ Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Take_Refusal(co
     }
     const bool is_about_number = row.this_number_if_others_passed && m_manner.m_has_sent;
     return Be_Refused(cause, reason, is_about_number ? Alike_In_A_Row : row.stops_at);
+}
+
+// Also of a part that got no prompt: the row has been refused all the same.
+void Confirmed_Manner::Row_Walk::Note_Refusal(const Device_Cause& cause)
+{
+    if (m_manner.m_journal)
+        m_manner.m_journal->Refused(m_index + 1, m_part, Cause_Field(cause));
 }
 
 Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Take_Doubt(Doubt doubt)

@@ -22,6 +22,7 @@ private:
     Part_End Send_Part(const Part_To_Send& part);
     Part_End Take_Accepted(int reference, const QByteArray& time);
     Part_End Take_Refusal(const Device_Cause& cause);
+    void Note_Refusal(const Device_Cause& cause);
     Part_End Take_Doubt(Part_Result::Doubt doubt);
     Part_End Take_Obstacle(Part_Result::Obstacle obstacle);
     Part_End Try_Again_Later();

@@ -119,6 +119,41 @@ TEST_F(Confirmed, Nothing_Is_Written_Before_The_Result)
 
 namespace {
 
+// Where a wait is over in vain, waits on until something has come: the line of a busy machine.
+class Slow_Calls : public Serial_Calls
+{
+public:
+    Line_Event Wait(int descriptor, short events, double seconds, int wake_descriptor) override
+    {
+        const Line_Event event = Serial_Calls::Wait(descriptor, events, seconds, wake_descriptor);
+        return event == Line_Event::Timed_Out && m_is_slow ? Serial_Calls::Wait(descriptor, events, 10, wake_descriptor)
+                                                           : event;
+    }
+
+    bool m_is_slow = false;
+};
+
+} // namespace
+
+TEST_F(Confirmed, What_Has_Come_When_The_Time_Is_Over_Is_Heard_To_Its_End)
+{
+    Slow_Calls calls;
+    Confirmed_Session session(QString::fromStdString(m_phone.Path()), calls);
+    ASSERT_EQ(session.Open(), Confirmed_Session::Opening::Ready);
+    Phone_Moods slow;
+    slow.m_answer_delay_ms = 60;
+    slow.m_late_prompt_ms = 60;
+    slow.m_between_lines = {"RING"};
+    m_phone.Set_Moods(slow);
+    calls.m_is_slow = true;
+    Set_Pace(1e6); // every time is over before anything comes
+    const Part_Result result = session.Submit(Hello, m_witness);
+    EXPECT_EQ(result.m_kind, Kind::Accepted);
+    EXPECT_TRUE(session.Answers());
+}
+
+namespace {
+
 struct Outcome_Row
 {
     const char* name;

@@ -84,6 +84,24 @@ TEST_F(Confirmed_Job, A_Cause_That_Hits_Everybody_Stops_The_Job)
     EXPECT_EQ(unfinished.first().counts.not_tried, 1);
 }
 
+TEST_F(Confirmed_Job, What_Is_Refused_In_Place_Of_The_Prompt_Was_Not_Sent_And_Is_Not_Tried_Again)
+{
+    Phone_Moods moods;
+    using Kind = Message_Manner::Kind;
+    moods.m_message_manners = {{Kind::Refused_At_Once, 1, 1, {}, "+CMS ERROR: 332"},
+                               {Kind::Without_Reference, 2, 2, {}, {}}};
+    m_phone.Set_Moods(moods);
+    Run();
+    EXPECT_THAT(m_witness.States(), ElementsAre(Row_State::Refused, Row_State::May_Have_Been_Sent, Row_State::Sent));
+    EXPECT_EQ(Kinds(), "JEHUHS");
+    m_witness = {};
+    m_options.resumed_path = Unfinished().first().path;
+    Run();
+    EXPECT_THAT(m_witness.States(), ElementsAre(Row_State::Refused, Row_State::May_Have_Been_Sent, Row_State::Sent));
+    EXPECT_TRUE(m_witness.m_rows[0].is_earlier);
+    EXPECT_THAT(Texts(), ElementsAre("Two", "Three"));
+}
+
 TEST_F(Confirmed_Job, A_Passing_Cause_Is_Tried_Again)
 {
     Cms(41);

@@ -295,6 +295,10 @@ CORVANE_PASSED_ON(int, ftruncate, (int descriptor, off_t size), Kind_Of(descript
                   descriptor, size);
 CORVANE_PASSED_ON(int, ftruncate64, (int descriptor, off_t size), Kind_Of(descriptor) == Kind::Written, "cut",
                   descriptor, descriptor, size);
+CORVANE_PASSED_ON(int, fallocate, (int descriptor, int mode, off_t from, off_t size),
+                  Kind_Of(descriptor) == Kind::Written, "reserve", descriptor, descriptor, mode, from, size);
+CORVANE_PASSED_ON(int, fallocate64, (int descriptor, int mode, off_t from, off_t size),
+                  Kind_Of(descriptor) == Kind::Written, "reserve", descriptor, descriptor, mode, from, size);
 CORVANE_PASSED_ON(int, fsync, (int descriptor), Kind_Of(descriptor) != Kind::Unwatched, "sync", descriptor, descriptor);
 CORVANE_PASSED_ON(int, fdatasync, (int descriptor), Kind_Of(descriptor) != Kind::Unwatched, "sync", descriptor,
                   descriptor);
