@@ -1,6 +1,7 @@
 #include "send/Arguments.h"
 
 #include "handset/Address.h"
+#include "list/Delimited_Text.h"
 
 #include <QCommandLineParser>
 #include <array>
@@ -21,6 +22,12 @@ struct Option
 constexpr std::array Options{
     Option{"to", "NUMBER", true},
     Option{"numbers", "FILE"},
+    Option{"table", "FILE"},
+    Option{"number-column", "NAME"},
+    Option{"sheet", "NAME"},
+    Option{"encoding", "NAME"},
+    Option{"delimiter", "CHARACTER"},
+    Option{"country", "CC"},
     Option{"message", "TEXT"},
     Option{"message-file", "FILE"},
     Option{"alphabet", "NAME"},
@@ -94,6 +101,8 @@ private:
     void Choose_Task();
     void Check_What_Goes_Together();
     void Read_Input();
+    void Read_Table_Choices();
+    void Read_Country();
     void Read_Manner();
     void Read_Journal();
     void Read_Alphabet();
@@ -197,12 +206,15 @@ void Reader::Check_What_Goes_Together()
     Refuse_Together("dry-run", {"hand-over", "resume", "list-jobs"});
     Refuse_Together("hand-over", {"resume", "list-jobs"});
     // What a job is made of was settled when it began.
-    Refuse_Together("resume",
-                    {"to", "numbers", "message", "message-file", "alphabet", "flash", "skip-duplicates", "exclude",
-                     "service-centre", "fixed-waits", "reports", "batch", "pause", "no-journal", "list-jobs"});
-    Refuse_Together("list-jobs", {"to", "numbers", "message", "message-file", "no-journal"});
+    Refuse_Together("resume", {"to", "numbers", "table", "country", "message", "message-file", "alphabet", "flash",
+                               "skip-duplicates", "exclude", "service-centre", "fixed-waits", "reports", "batch",
+                               "pause", "no-journal", "list-jobs"});
+    Refuse_Together("list-jobs", {"to", "numbers", "table", "country", "message", "message-file", "no-journal"});
     if (Is_Set("again-unknown") && !Is_Set("resume"))
         Complain(QStringLiteral("--again-unknown goes with --resume"));
+    for (const char* name : {"number-column", "sheet", "encoding", "delimiter"})
+        if (Is_Set(name) && !Is_Set("table"))
+            Complain(Dashed(name) + QLatin1String(" goes with --table"));
     if (Is_Set("batch") != Is_Set("pause"))
         Complain(QStringLiteral("--batch and --pause go together"));
 }
@@ -261,12 +273,37 @@ void Reader::Read_Input()
     m_result.message_file = Value("message-file");
     m_result.exclude_files = m_parser.values(QStringLiteral("exclude"));
     m_result.skip_duplicates = Is_Set("skip-duplicates");
+    Read_Table_Choices();
+    Read_Country();
     if (m_result.task == Task::Resume || m_result.task == Task::List_Jobs)
         return;
-    if (m_result.numbers.isEmpty() && m_result.numbers_file.isEmpty())
-        Complain(QStringLiteral("there are no recipients"), QStringLiteral("--to or --numbers names them"));
+    if (m_result.numbers.isEmpty() && m_result.numbers_file.isEmpty() && m_result.table_file.isEmpty())
+        Complain(QStringLiteral("there are no recipients"), QStringLiteral("--to, --numbers or --table names them"));
     if (m_result.message_file.isEmpty() && m_result.message.isEmpty())
         Complain(QStringLiteral("there is no message"), QStringLiteral("--message or --message-file gives it"));
+}
+
+void Reader::Read_Table_Choices()
+{
+    m_result.table_file = Value("table");
+    m_result.number_column = Value("number-column");
+    m_result.table_choices.sheet = Value("sheet");
+    m_result.table_choices.encoding = Value("encoding");
+    QString delimiter = Value("delimiter");
+    if (delimiter == QLatin1String("tab") || delimiter == QLatin1String("\\t"))
+        delimiter = QStringLiteral("\t");
+    if (delimiter.size() == 1 && Can_Be_Delimiter(delimiter.front()))
+        m_result.table_choices.delimiter = delimiter.front().toLatin1();
+    else if (Is_Set("delimiter"))
+        Complain(QStringLiteral("--delimiter takes one character, such as ; or tab, not \"%1\"").arg(delimiter));
+}
+
+void Reader::Read_Country()
+{
+    m_result.country = Country_With_Letters(Value("country"));
+    if (Is_Set("country") && !m_result.country)
+        Complain(QStringLiteral("--country takes the two letters of a country, such as GB, not \"%1\"")
+                     .arg(Value("country")));
 }
 
 } // namespace

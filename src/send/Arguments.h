@@ -1,5 +1,7 @@
 #pragma once
 
+#include "list/Country_Codes.h"
+#include "list/Table_File.h"
 #include "records/Job_Row.h"
 #include "send/Trouble.h"
 
@@ -20,8 +22,12 @@ struct Arguments
     };
     Task task = Task::Send;
 
-    QStringList numbers;  ///< each --to
-    QString numbers_file; ///< "-" for standard input; empty for none
+    QStringList numbers;   ///< each --to
+    QString numbers_file;  ///< "-" for standard input; empty for none
+    QString table_file;    ///< empty for none
+    QString number_column; ///< of the table; empty for the one that holds numbers
+    Table_Choices table_choices;
+    const Country* country = nullptr; ///< whose code national numbers get; null to leave them as written
     QString message;
     QString message_file;      ///< in place of the message; empty for none
     QStringList exclude_files; ///< of numbers that get nothing

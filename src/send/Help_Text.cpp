@@ -8,11 +8,19 @@ Sends a text message to many people through your own GSM phone or modem, without
 Recipients
   --to NUMBER            one recipient; may be given again. A leading + is kept as 00
   --numbers FILE         a text or RTF file, one number a line; "-" reads standard input
+  --table FILE           CSV or TSV; its first row names the columns
+    --number-column NAME the column of the numbers; by default the one that holds some, an error if several do
+    --sheet NAME         of a spreadsheet; by default its first
+    --encoding NAME  --delimiter CHARACTER
+                         where the guess would be wrong; --dry-run says what was guessed
+  --country CC           two letters: national numbers get that country's code, in exclusions as well. By default numbers
+                         stay as written
 Message
   --message TEXT         the message, up to 1,600 characters
   --message-file FILE    the same from a UTF-8 file, whose last line end does not count
-                         {{Column}} and {{Column|fallback}} stand for a recipient's own values: plain lists have none, so
-                         that the fallback is taken, and nothing is sent where there is none. {{{{ is a literal {{
+                         {{Column}} and {{Column|fallback}} stand for a recipient's own values, case and blanks in the
+                         name ignored. The fallback, which may be nothing, is taken where there is no such column or its
+                         field is blank; nothing is sent where there is no fallback. {{{{ is a literal {{
   --alphabet auto|gsm|unicode
                          auto (the default): 7-bit where the whole text fits the standard's alphabet and its extension,
                          else Unicode. gsm writes "?" for what has no place in it
@@ -53,7 +61,8 @@ Outcomes
   sent        the network acknowledged each part
   refused     the device or the network said why
   unknown     it may have been sent; never sent again unasked
-  skipped     duplicate, excluded, invalid-number, empty-field, unknown-field or too-long
+  skipped     duplicate, excluded, invalid-number, empty-field, unknown-field, too-long or
+              wrong-columns (more fields than the first row, or text after a closing quote)
   not-tried   the job ended before it
   written     handed to the device with --fixed-waits; nobody knows more
 
@@ -76,6 +85,7 @@ Environment
 Examples
   corvane-send --to +447700900100 --message "The heating has failed."
   corvane-send --numbers members.txt --exclude stop.txt --skip-duplicates --message-file text.txt --json
+  corvane-send --table members.csv --country GB --message "Dear {{First name|member}}, ..." --dry-run
   corvane-send --resume 20261121-101500-3f9a)TEXT";
 
 } // namespace

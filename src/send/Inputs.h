@@ -2,15 +2,17 @@
 
 #include "send/Arguments.h"
 #include "send/Planned_Row.h"
+#include "send/Table_Input.h"
 
 #include <vector>
 
 /// The recipients that the arguments name, each with its text and its verdict, in their order: those of --to, then
-/// those of --numbers.
+/// those of --numbers, then those of --table.
 struct Inputs
 {
     std::vector<Planned_Row> rows;
-    Trouble trouble; ///< what cannot be read, or is missing
+    std::optional<Table_Told> table; ///< how the table was read, if there is one
+    Trouble trouble;                 ///< what cannot be read, or is missing
 };
 
 /// Reads the files that the arguments name. Blocks, until the end of standard input where that is one of them.

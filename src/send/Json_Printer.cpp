@@ -43,6 +43,17 @@ QJsonArray Array_Of(const std::vector<Changed_Text>& changes)
     return array;
 }
 
+QJsonObject Object_Of(const Table_Told& table)
+{
+    QJsonObject object{{"format", table.facts.format}, {"number_column", table.number_column}};
+    for (const auto& [key, value] : {std::pair("encoding", table.facts.encoding),
+                                     {"delimiter", table.facts.delimiter},
+                                     {"sheet", table.facts.sheet}})
+        if (!value.isEmpty())
+            object.insert(QLatin1String(key), value);
+    return object;
+}
+
 } // namespace
 
 void Json_Printer::Print(const char* event, const QJsonObject& object)
@@ -63,24 +74,30 @@ void Json_Printer::Job(const Job_Facts& job)
 
 void Json_Printer::Row(const Planned_Row& row, const Row_Preview& preview)
 {
-    Print("row", {{"row", row.row},
-                  {"number", row.number},
-                  {"text", row.text},
-                  {"alphabet", preview.alphabet == Job_Alphabet::Ucs2 ? "unicode" : "gsm"},
-                  {"units", preview.units},
-                  {"parts", preview.parts},
-                  {"shown", preview.shown},
-                  {"changed", Array_Of(preview.changed)},
-                  {"verdict", row.Is_To_Be_Sent() ? QStringLiteral("send") : row.skipped}});
+    QJsonObject object{{"row", row.row},
+                       {"number", row.number},
+                       {"text", row.text},
+                       {"alphabet", preview.alphabet == Job_Alphabet::Ucs2 ? "unicode" : "gsm"},
+                       {"units", preview.units},
+                       {"parts", preview.parts},
+                       {"shown", preview.shown},
+                       {"changed", Array_Of(preview.changed)},
+                       {"verdict", row.Is_To_Be_Sent() ? QStringLiteral("send") : row.skipped}};
+    if (!row.note.isEmpty())
+        object.insert(QLatin1String("note"), row.note);
+    Print("row", object);
 }
 
 void Json_Printer::Plan(const Plan_Facts& plan)
 {
-    Print("plan", {{"recipients", plan.recipients},
-                   {"send", plan.send},
-                   {"parts", plan.parts},
-                   {"unicode", plan.unicode},
-                   {"seconds", plan.seconds}});
+    QJsonObject object{{"recipients", plan.recipients},
+                       {"send", plan.send},
+                       {"parts", plan.parts},
+                       {"unicode", plan.unicode},
+                       {"seconds", plan.seconds}};
+    if (plan.table)
+        object.insert(QLatin1String("table"), Object_Of(*plan.table));
+    Print("plan", object);
 }
 
 void Json_Printer::Ended(const Row_End& end)

@@ -10,6 +10,7 @@ inline constexpr char Invalid_Number[] = "invalid-number";
 inline constexpr char Empty_Field[] = "empty-field";
 inline constexpr char Unknown_Field[] = "unknown-field";
 inline constexpr char Too_Long[] = "too-long";
+inline constexpr char Wrong_Columns[] = "wrong-columns";
 } // namespace Skip_Words
 
 /// One recipient as the input holds it.
@@ -18,7 +19,8 @@ struct Planned_Row
     int row = 1;    ///< as it stands in the input
     QString number; ///< as a list holds it; of an invalid one the beginning of what stood there. Never empty
     QString text;
-    QString skipped; ///< one of Skip_Words; empty for a row that is to be sent
+    QString skipped;   ///< one of Skip_Words; empty for a row that is to be sent
+    QString note = {}; ///< what was made of its number, or what is wrong with its row, in words; mostly empty
 
     bool Is_To_Be_Sent() const { return skipped.isEmpty(); }
     /// Whether somebody wanted it to be skipped, or nobody had to.

@@ -3,6 +3,7 @@
 #include "device/Device_Cause.h"
 #include "records/Job_Shelf.h"
 #include "send/Row_Preview.h"
+#include "send/Table_Input.h"
 
 #include <QList>
 #include <memory>
@@ -42,6 +43,7 @@ struct Plan_Facts
     int parts = 0;
     int unicode = 0; ///< of those that are to be sent
     qint64 seconds = 0;
+    std::optional<Table_Told> table; ///< how the table was read, if there is one
 };
 
 struct Report_Facts

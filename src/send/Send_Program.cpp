@@ -128,7 +128,9 @@ int Send_Program::Plan()
         trouble = hand_over.End();
     if (trouble || Program_Is_Exiting())
         return Fail(trouble);
-    m_printer->Plan(sum.Facts(m_arguments));
+    Plan_Facts facts = sum.Facts(m_arguments);
+    facts.table = inputs.table;
+    m_printer->Plan(facts);
     return sum.Is_In_Order() ? Exit_Status::Done : Exit_Status::Not_All_Sent;
 }
 

@@ -61,6 +61,8 @@ void Word_Printer::Row(const Planned_Row& row, const Row_Preview& preview)
                                QStringLiteral(" changed"));
     else
         line += row.skipped;
+    if (!row.note.isEmpty())
+        line += QLatin1String(" (") + row.note + QLatin1Char(')');
     Print(line + QLatin1String("  ") + (preview.shown.isEmpty() ? row.text : preview.shown));
 }
 
@@ -69,6 +71,15 @@ void Word_Printer::Plan(const Plan_Facts& plan)
     Print(QStringLiteral("Plan: %1, %2 to be sent, %3, %4 in Unicode, about %5")
               .arg(Counted(plan.recipients, "recipient"), QString::number(plan.send), Counted(plan.parts, "part"),
                    QString::number(plan.unicode), Counted(plan.seconds, "second")));
+    if (!plan.table)
+        return;
+    const Table_Facts& facts = plan.table->facts;
+    QString line = QStringLiteral("Table: ") + facts.format;
+    if (!facts.encoding.isEmpty())
+        line += QStringLiteral(" in %1, %2 between fields").arg(facts.encoding, facts.delimiter);
+    if (!facts.sheet.isEmpty())
+        line += QStringLiteral(", sheet \"%1\"").arg(facts.sheet);
+    Print(line + QStringLiteral(", numbers in \"%1\"").arg(plan.table->number_column));
 }
 
 void Word_Printer::Ended(const Row_End& end)

@@ -1,3 +1,4 @@
+#include "list/Table_File.h"
 #include "send/Message_Filling.h"
 
 #include <gtest/gtest.h>
@@ -8,27 +9,66 @@ struct Filling
 {
     const char* message;
     const char* text;
-    bool is_complete = true;
+    const char* fault = "";
 };
 
-class Message_Filling : public testing::TestWithParam<Filling>
+class Message_Without_Values : public testing::TestWithParam<Filling>
 {
 };
+
+class Message_With_Values : public testing::TestWithParam<Filling>
+{
+};
+
+void Expect(const Filled_Message& filled, const Filling& wanted)
+{
+    EXPECT_EQ(filled.text.toStdString(), wanted.text);
+    EXPECT_EQ(filled.fault.toStdString(), wanted.fault);
+}
 
 } // namespace
 
-TEST_P(Message_Filling, Is_As_Written)
+TEST_P(Message_Without_Values, Is_As_Written)
 {
-    const Filled_Message filled = Fill_Message(QString::fromUtf8(GetParam().message));
-    EXPECT_EQ(filled.text.toStdString(), GetParam().text);
-    EXPECT_EQ(filled.is_complete, GetParam().is_complete);
+    Expect(Message_Filling(QString::fromUtf8(GetParam().message)).Without_Values(), GetParam());
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Messages, Message_Filling,
+    Messages, Message_Without_Values,
     testing::Values(Filling{"", ""}, Filling{"Plain { and } text", "Plain { and } text"},
                     Filling{"Dear {{Name|friend}}, hi", "Dear friend, hi"},
-                    Filling{"Dear {{Name}}, hi", "Dear {{Name}}, hi", false}, Filling{"{{A|}}", ""},
+                    Filling{"Dear {{Name}}, hi", "Dear {{Name}}, hi", "unknown-field"}, Filling{"{{A|}}", ""},
                     Filling{"{{A| }}{{B|x}}", " x"}, Filling{"{{A|b|c}}", "b|c"}, Filling{"{{{{Name}}", "{{Name}}"},
                     Filling{"{{{{", "{{"}, Filling{"{{{{{{A|b}}}}", "{{b}}"}, Filling{"{{not closed", "{{not closed"},
-                    Filling{"{{A}} {{B|c}}", "{{A}} c", false}, Filling{"a{{", "a{{"}, Filling{"{{}}", "{{}}", false}));
+                    Filling{"{{A}} {{B|c}}", "{{A}} c", "unknown-field"}, Filling{"a{{", "a{{"},
+                    Filling{"{{}}", "{{}}", "unknown-field"}, Filling{"}}{{", "}}{{"}, Filling{"{{A|b}}{{c", "b{{c"}));
+
+TEST_P(Message_With_Values, Has_Them)
+{
+    const Contact_Table table =
+        Table_Of_Bytes("First Name,City,Tip\nAnn, ,{{City}}\n", QStringLiteral("a.csv"), {}).table;
+    Expect(Message_Filling(QString::fromUtf8(GetParam().message), table).For_Row(table, 0), GetParam());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Messages, Message_With_Values,
+    testing::Values(Filling{"Dear {{First Name}}!", "Dear Ann!"}, Filling{"{{ firstname }}{{FIRST\tNAME|x}}", "AnnAnn"},
+                    Filling{"{{City}}", "{{City}}", "empty-field"}, Filling{"{{City|here}}", "here"},
+                    Filling{"<{{City|}}>", "<>"}, Filling{"{{Town}}", "{{Town}}", "unknown-field"},
+                    Filling{"{{Town|here}}", "here"}, Filling{"{{City}}{{Town}}", "{{City}}{{Town}}", "unknown-field"},
+                    Filling{"{{Town}}{{City}}", "{{Town}}{{City}}", "unknown-field"}, Filling{"{{Tip}}", "{{City}}"},
+                    Filling{"{{{{First Name}}", "{{First Name}}"}, Filling{"{{First Name", "{{First Name"},
+                    Filling{"no place", "no place"}));
+
+TEST(Message_Filling, Knows_A_Name_That_Two_Columns_Have)
+{
+    const Contact_Table table = Table_Of_Bytes("Name,Tel,name\nAnn,1,Ann Smith\n", {}, {}).table;
+    EXPECT_EQ(Message_Filling(QStringLiteral("{{Tel}} {{NAME|x}}"), table).Ambiguous(), "{{NAME|x}}");
+    EXPECT_EQ(Message_Filling(QStringLiteral("{{Tel}}"), table).Ambiguous(), "");
+}
+
+TEST(Message_Filling, Openings_Without_End_Take_No_Time)
+{
+    const QString openings = QStringLiteral("{{x").repeated(300'000);
+    EXPECT_EQ(Message_Filling(openings).Without_Values().text, openings);
+}

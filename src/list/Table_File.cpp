@@ -1,0 +1,110 @@
+#include "list/Table_File.h"
+
+#include "list/Delimited_Text.h"
+#include "list/Number_File.h"
+#include "list/Text_Encoding.h"
+#include "texts/Table_Texts.h"
+
+#include <QFileInfo>
+#include <array>
+
+namespace {
+
+struct Other_Kind
+{
+    QByteArrayView beginning;
+    const char* name;
+};
+
+constexpr std::array Other_Kinds{Other_Kind{"%PDF-", "a PDF document"},
+                                 Other_Kind{{"\x7F"
+                                             "ELF",
+                                             4},
+                                            "a program"},
+                                 Other_Kind{"MZ", "a program"},
+                                 Other_Kind{"{\\rtf", "rich text"},
+                                 Other_Kind{{"\x1F\x8B", 2}, "a compressed file"},
+                                 Other_Kind{"\x89PNG", "a picture"},
+                                 Other_Kind{{"\xFF\xD8\xFF", 3}, "a picture"},
+                                 Other_Kind{"<!DOCTYPE", "a web page"},
+                                 Other_Kind{"<!doctype", "a web page"},
+                                 Other_Kind{"<html", "a web page"},
+                                 Other_Kind{"<HTML", "a web page"},
+                                 Other_Kind{"<table", "a web page"},
+                                 Other_Kind{"<?xml", "an XML document"}};
+
+QString Of_Another_Kind(QByteArrayView bytes)
+{
+    for (const Other_Kind& kind : Other_Kinds)
+        if (bytes.startsWith(kind.beginning))
+            return QString(Texts::Table::Other_Kind).arg(QLatin1String(kind.name));
+    return {};
+}
+
+Table_In_A_File Failed(const QString& trouble)
+{
+    Table_In_A_File file;
+    file.trouble = trouble;
+    return file;
+}
+
+QString Delimiter_Name(char delimiter)
+{
+    return delimiter == '\t' ? QStringLiteral("tab") : QString(QLatin1Char(delimiter));
+}
+
+Table_In_A_File Delimited(const QByteArray& text, const QString& name, const Table_Choices& choices)
+{
+    const bool prefers_tab = QFileInfo(name).suffix().compare(QLatin1String("tsv"), Qt::CaseInsensitive) == 0;
+    const char delimiter = choices.delimiter != 0 ? choices.delimiter : Guessed_Delimiter(text, prefers_tab);
+    Table_In_A_File file;
+    file.facts.format = QStringLiteral("CSV");
+    file.facts.delimiter = Delimiter_Name(delimiter);
+    Table_Builder builder(text.size());
+    file.trouble = Read_Delimited(text, delimiter, builder);
+    file.table = builder.Take();
+    return file;
+}
+
+Table_In_A_File Table_Of_Text(QByteArray bytes, const QString& name, const Table_Choices& choices)
+{
+    if (!choices.sheet.isEmpty())
+        return Failed(Texts::Table::No_Sheets);
+    QString encoding = choices.encoding;
+    if (encoding.isEmpty()) {
+        const Encoding_Guess guess = Guess_Encoding(bytes);
+        if (!guess.trouble.isEmpty())
+            return Failed(guess.trouble);
+        encoding = guess.name;
+    }
+    const Utf8_Text text = Text_In_Utf8(std::move(bytes), encoding);
+    if (!text.trouble.isEmpty())
+        return Failed(text.trouble);
+    Table_In_A_File file = Delimited(text.bytes, name, choices);
+    file.facts.encoding = encoding;
+    return file;
+}
+
+} // namespace
+
+Table_In_A_File Read_Table(const QString& path, const Table_Choices& choices)
+{
+    const QFileInfo file(path);
+    if (!file.exists())
+        return Failed(Texts::Table::Missing);
+    if (!file.isFile())
+        return Failed(Texts::Table::No_File);
+    auto bytes = Bytes_Of_Number_File(path);
+    if (!bytes || (bytes->isEmpty() && file.size() > 0))
+        return Failed(QString(Texts::Table::Unreadable).arg(Largest_Number_File));
+    return Table_Of_Bytes(std::exchange(*bytes, {}), path, choices);
+}
+
+Table_In_A_File Table_Of_Bytes(QByteArray bytes, const QString& name, const Table_Choices& choices)
+{
+    if (bytes.isEmpty())
+        return Failed(Texts::Table::Empty);
+    if (const QString trouble = Of_Another_Kind(bytes); !trouble.isEmpty())
+        return Failed(trouble);
+    return Table_Of_Text(std::move(bytes), name, choices);
+}

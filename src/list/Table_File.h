@@ -1,0 +1,38 @@
+#pragma once
+
+#include "list/Contact_Table.h"
+
+#include <QByteArray>
+
+// The door to lists as people have them: tables as text. What a file is shows in its bytes, not in its name. Any
+// thread; a file is read as a whole.
+
+/// Where a guess would be wrong; what is empty is guessed.
+struct Table_Choices
+{
+    QString encoding;
+    QString sheet;
+    char delimiter = 0;
+};
+
+/// How a file was read.
+struct Table_Facts
+{
+    QString format;    ///< such as "CSV"
+    QString encoding;  ///< of a text
+    QString delimiter; ///< of a text; "tab" for one
+    QString sheet;     ///< of a spreadsheet
+};
+
+struct Table_In_A_File
+{
+    Contact_Table table;
+    Table_Facts facts;
+    QString trouble; ///< why there is no table, in words that follow a colon; empty for none
+};
+
+/// Reads a file of at most Largest_Number_File bytes.
+Table_In_A_File Read_Table(const QString& path, const Table_Choices& choices);
+
+/// The same for bytes that were read; of the file's name only its extension matters, and only for a guess.
+Table_In_A_File Table_Of_Bytes(QByteArray bytes, const QString& name, const Table_Choices& choices);
