@@ -3,7 +3,6 @@
 #include "engine/Report_Desk.h"
 #include "handset/Delivery_Status.h"
 
-#include <QDateTime>
 #include <algorithm>
 #include <tuple>
 
@@ -45,8 +44,7 @@ Part_Deliveries::Part_Deliveries(const Job_Record& record)
     Take(record, references);
 }
 
-// The journal holds when a report came. Most come within seconds, so that of several parts with one reference the
-// nearest is the one.
+// Of several parts with one reference the one is meant that was handed over nearest to what the report tells.
 void Part_Deliveries::Take(const Job_Record& record, const std::vector<bool>& references)
 {
     if (record.Reports().isEmpty())
@@ -66,12 +64,7 @@ void Part_Deliveries::Take(const Job_Record& record, const std::vector<bool>& re
     for (const Job_Report& report : record.Reports()) {
         if (!Is_About(record, report))
             continue;
-        Handset::Status_Report told;
-        told.m_reference = report.reference;
-        told.m_number = report.number.toStdString();
-        told.m_submitted = QDateTime::fromSecsSinceEpoch(report.seconds, Qt::UTC).toString(Qt::ISODate).toStdString();
-        told.m_status = static_cast<std::uint8_t>(report.status);
-        if (const auto part = desk.Match(told))
+        if (const auto part = desk.Match(Report_Of(report)))
             m_statuses[static_cast<std::size_t>(m_first_part[static_cast<std::size_t>(part->index) - 1] + part->part -
                                                 1)] = static_cast<qint16>(report.status);
     }

@@ -31,7 +31,15 @@ quint64 Key_Of(const Handset::Status_Report& report)
     return Key_Of(QString::fromStdString(report.m_number), report.m_reference);
 }
 
-// As the journal has kept it. When it came is a poor word for when the part was submitted, and the best there is.
+} // namespace
+
+std::optional<qint64> Submission_Time(const Handset::Status_Report& report)
+{
+    const QDateTime time = QDateTime::fromString(QString::fromStdString(report.m_submitted), Qt::ISODate);
+    return time.isValid() ? std::optional(time.toSecsSinceEpoch()) : std::nullopt;
+}
+
+// When it came is a poor word for when the part was submitted, and the best there is where the report did not tell.
 Handset::Status_Report Report_Of(const Job_Report& kept)
 {
     Handset::Status_Report report;
@@ -42,14 +50,6 @@ Handset::Status_Report Report_Of(const Job_Report& kept)
                              .toStdString();
     report.m_status = static_cast<std::uint8_t>(kept.status);
     return report;
-}
-
-} // namespace
-
-std::optional<qint64> Submission_Time(const Handset::Status_Report& report)
-{
-    const QDateTime time = QDateTime::fromString(QString::fromStdString(report.m_submitted), Qt::ISODate);
-    return time.isValid() ? std::optional(time.toSecsSinceEpoch()) : std::nullopt;
 }
 
 Report_Desk Report_Desk::Of(const Job_Record& record, int job)

@@ -53,3 +53,6 @@ private:
 
 /// When the centre got the part, in seconds since 1970; nothing where the report does not tell a time.
 std::optional<qint64> Submission_Time(const Handset::Status_Report& report);
+
+/// A report as a job's journal has kept it.
+Handset::Status_Report Report_Of(const Job_Report& kept);

@@ -25,7 +25,7 @@ const QString Card = QStringLiteral("234150000000001");
 
 Job_Report On(int part, int status, const QString& number = QStringLiteral("+447700900100"), const QString& card = Card)
 {
-    return {card, 10 + part, number, 1795252560, status};
+    return {card, 10 + part, number, 1795252560, status, {}};
 }
 
 // One row of a job, and how the receipt puts it.
