@@ -24,6 +24,17 @@ public:
     void Still_Waiting(int) override {}
 };
 
+// A report's frame (3GPP TS 23.040, 9.2.2.3): delivered to +447700900100, submitted at a time.
+std::string Report(int reference, const QDateTime& time)
+{
+    const std::string digits = time.toString(QStringLiteral("yyMMddhhmmss")).toStdString();
+    std::string swapped;
+    for (std::size_t at = 0; at < digits.size(); at += 2)
+        swapped += {digits[at + 1], digits[at]};
+    return "0006" + QByteArray::number(reference, 16).rightJustified(2, '0').toStdString() + "0C91447700091000" +
+           swapped + "00" + swapped + "0000";
+}
+
 // Jobs whose reports come when nobody waits for them any more, and lie in the phone's memory.
 class Late_Reports_Test : public Confirmed_Test
 {
@@ -185,6 +196,19 @@ TEST_F(Late_Reports_Test, That_Nobody_Knows_Are_Left_Alone)
     Expect_In_Memory(2);
 }
 
+TEST_F(Late_Reports_Test, On_What_Another_Program_Sent_Last_Week_Are_Left_Alone)
+{
+    const QString path = Send(QStringLiteral("kept"), {m_numbers.first()}, 1);
+    const std::string last_week = Report(0, QDateTime::currentDateTimeUtc().addDays(-7));
+    const std::string yesterday = Report(0, QDateTime::currentDateTimeUtc().addDays(-1));
+    m_phone.Will_Answer("AT+CMGL=4", "\r\n+CMGL: 1,0,,25\r\n" + last_week + "\r\n\r\nOK\r\n");
+    EXPECT_EQ(Collect(), 0);
+    EXPECT_THAT(m_phone.Heard(), Not(Contains(StartsWith("AT+CMGD"))));
+    m_phone.Will_Answer("AT+CMGL=4", "\r\n+CMGL: 1,0,,25\r\n" + yesterday + "\r\n\r\nOK\r\n");
+    EXPECT_EQ(Collect(), 1) << "clocks and zones differ";
+    EXPECT_THAT(m_phone.Heard(), Contains("AT+CMGD=1"));
+}
+
 TEST_F(Late_Reports_Test, Of_Another_Card_Are_Left_Alone)
 {
     const QString path = Send(QStringLiteral("kept"), m_numbers, 2);
@@ -244,14 +268,6 @@ TEST_F(Late_Reports_Test, That_Come_On_The_Line_While_The_Device_Is_Idle_Are_Not
 {
     const QString path = Send(QStringLiteral("kept"), {m_numbers.first()}, 1);
     m_phone.Will_Answer("AT+CMGL=4", "\r\nOK\r\n"); // this one does not lie there
-    const auto report = [](int reference) {
-        const QByteArray time = QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyMMddhhmmss")).toLatin1();
-        QByteArray swapped;
-        for (int at = 0; at < 12; at += 2)
-            swapped += QByteArray{1, time[at + 1]} + time[at];
-        return "\r\n+CDS: 25\r\n0006" + QByteArray::number(reference, 16).rightJustified(2, '0') + "0C91447700091000" +
-               swapped + "00" + swapped + "0000\r\n";
-    };
     std::thread line([&] {
         const QDeadlineTimer deadline(20'000);
         const auto until = [&](const std::function<bool()>& is_true) {
@@ -259,7 +275,7 @@ TEST_F(Late_Reports_Test, That_Come_On_The_Line_While_The_Device_Is_Idle_Are_Not
                 std::this_thread::yield();
         };
         until([&] { return Contains_Command("AT+CMGL=4"); });
-        m_phone.Says(report(0).toStdString());
+        m_phone.Says("\r\n+CDS: 25\r\n" + Report(0, QDateTime::currentDateTimeUtc()) + "\r\n");
         until([&] { return !Noted(path).empty(); });
         m_stop = 1;
     });
