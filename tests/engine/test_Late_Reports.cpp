@@ -5,6 +5,8 @@
 
 #include <QDeadlineTimer>
 #include <algorithm>
+#include <csignal>
+#include <sys/resource.h>
 #include <thread>
 
 using testing::Contains;
@@ -91,9 +93,9 @@ protected:
         EXPECT_EQ(session.Read_Report_Memory().size(), count);
     }
 
-    int Collect(double seconds = 0)
+    int Collect(double seconds = 0, Serial_Calls& calls = Real_Serial_Calls())
     {
-        return Collect_Late_Reports(QString::fromStdString(m_phone.Path()), m_options.folder, seconds, m_stop);
+        return Collect_Late_Reports(QString::fromStdString(m_phone.Path()), m_options.folder, seconds, m_stop, calls);
     }
 
     /// The references and states of the reports in a journal.
@@ -131,6 +133,44 @@ TEST_F(Late_Reports_Test, Are_Noted_In_The_Journal_Of_A_Kept_Job_And_Taken_Out_O
     EXPECT_THAT(m_phone.Heard(), Contains("AT+CMGL=4"));
     EXPECT_EQ(m_phone.Heard().back(), "AT+CPMS=\"SM\"");
     EXPECT_EQ(Noted(path).size(), 2U);
+}
+
+TEST_F(Late_Reports_Test, Are_Written_Down_Before_They_Are_Deleted)
+{
+    // What a journal says whenever something is deleted from the device.
+    class Watched_Deletions : public Serial_Calls
+    {
+    public:
+        explicit Watched_Deletions(QString path) : m_path(std::move(path)) {}
+        ssize_t Write(int descriptor, const void* bytes, size_t size) override
+        {
+            if (QByteArray(static_cast<const char*>(bytes), static_cast<qsizetype>(size)).startsWith("AT+CMGD="))
+                m_noted.push_back(Noted(m_path).size());
+            return Serial_Calls::Write(descriptor, bytes, size);
+        }
+        const QString m_path;
+        std::vector<std::size_t> m_noted;
+    };
+    Watched_Deletions calls(Send(QStringLiteral("kept"), m_numbers, 2));
+    EXPECT_EQ(Collect(0, calls), 2);
+    EXPECT_THAT(calls.m_noted, ElementsAre(2U, 2U));
+}
+
+TEST_F(Late_Reports_Test, That_The_Disk_Has_No_Room_For_Stay_In_The_Memory)
+{
+    const QString path = Send(QStringLiteral("kept"), m_numbers, 2);
+    rlimit limit{};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &limit), 0);
+    const auto at_limit = signal(SIGXFSZ, SIG_IGN);
+    const rlimit no_more{static_cast<rlim_t>(QFileInfo(path).size()), limit.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &no_more), 0);
+    const int counted = Collect();
+    setrlimit(RLIMIT_FSIZE, &limit);
+    signal(SIGXFSZ, at_limit);
+    EXPECT_EQ(counted, 0);
+    EXPECT_THAT(Noted(path), IsEmpty());
+    Expect_In_Memory(2);
+    EXPECT_EQ(Collect(), 2);
 }
 
 TEST_F(Late_Reports_Test, Are_Counted_Before_The_Next_Job_Sends)
