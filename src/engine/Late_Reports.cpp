@@ -5,6 +5,7 @@
 #include "records/Job_Journal.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <algorithm>
 
 namespace {
@@ -39,20 +40,27 @@ void Late_Reports::Set_Own_Job(Job_Journal* journal, Own_Report on_report)
 bool Late_Reports::Look_Into(const QString& folder, const QString& own_path)
 {
     m_jobs.clear();
-    m_are_read = false;
     for (const auto& [path, header] : Jobs_With_Reports(folder))
         if (header.imsi == m_session.Imsi() && Job_Id_Of(path) != Job_Id_Of(own_path))
-            m_jobs.push_back({path, nullptr, false});
+            m_jobs.push_back({path, header.seconds, QFileInfo(path).lastModified().toSecsSinceEpoch(), false, nullptr});
     return Are_Awaited();
 }
 
-void Late_Reports::Read_Journals()
+// Most kept jobs are too old for a report that comes today.
+void Late_Reports::Read_Jobs_Of(const QList<Told_Report>& reports)
 {
-    if (std::exchange(m_are_read, true))
-        return;
-    for (std::size_t at = 0; at < m_jobs.size(); ++at)
-        if (const Job_Reading reading = Read_Job(m_jobs[at].path); reading.record)
+    for (std::size_t at = 0; at < m_jobs.size(); ++at) {
+        Earlier_Job& job = m_jobs[at];
+        const bool may_be_meant = std::any_of(reports.begin(), reports.end(), [&](const Told_Report& told) {
+            const auto time = Submission_Time(told.m_report);
+            return !time || (*time >= job.begin - Report_Desk::Farthest && *time <= job.end + Report_Desk::Farthest);
+        });
+        if (job.is_read || !may_be_meant)
+            continue;
+        job.is_read = true;
+        if (const Job_Reading reading = Read_Job(job.path); reading.record)
             m_desk.Take_Over(Report_Desk::Of(*reading.record, static_cast<int>(at) + 1));
+    }
 }
 
 void Late_Reports::Read_Memory()
@@ -65,7 +73,7 @@ void Late_Reports::Take(const QList<Told_Report>& reports)
 {
     if (reports.isEmpty())
         return;
-    Read_Journals();
+    Read_Jobs_Of(reports);
     QList<std::pair<int, Report_Place>> counted;
     for (const Told_Report& told : reports)
         if (const auto job = Count(told.m_report); job && told.m_place)

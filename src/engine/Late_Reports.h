@@ -28,8 +28,9 @@ public:
     /// The journal of the job at hand, none where it keeps none, and who is told of its reports. The journal outlives
     /// the last Take.
     void Set_Own_Job(Job_Journal* journal, Own_Report on_report);
-    /// Looks for jobs in a folder that asked for reports through the device's SIM card, but for the one whose journal
-    /// is at own_path. Whether there are any. Their journals are read when the first report comes.
+    /// Looks once for jobs in a folder that asked for reports through the device's SIM card, but for the one whose
+    /// journal is at own_path. Whether there are any. A journal is read no sooner than a report comes that may be about
+    /// its job.
     bool Look_Into(const QString& folder, const QString& own_path = {});
     /// Whether Look_Into has found any.
     bool Are_Awaited() const { return !m_jobs.empty(); }
@@ -45,11 +46,14 @@ private:
     struct Earlier_Job
     {
         QString path;
+        qint64 begin = 0; // since 1970, when it was made and when its journal was written last
+        qint64 end = 0;
+        bool is_read = false;
         std::unique_ptr<Job_Journal> journal; // while reports are being noted
         bool is_closed_to_us = false;         // another program works on it, or it cannot be written
     };
 
-    void Read_Journals();
+    void Read_Jobs_Of(const QList<Told_Report>& reports);
     std::optional<int> Count(const Handset::Status_Report& report);
     Job_Journal* Journal_Of(int job);
     bool Is_On_Disk(int job);
@@ -59,7 +63,6 @@ private:
     Job_Journal* m_own = nullptr;
     Own_Report m_on_own;
     std::vector<Earlier_Job> m_jobs; // job n is at n - 1
-    bool m_are_read = false;
     int m_counted = 0;
 };
 

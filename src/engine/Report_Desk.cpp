@@ -12,10 +12,6 @@ namespace {
 
 constexpr qsizetype Digits_That_Count = 8;
 
-// A report on a message that another program sent last week would otherwise be taken for one on this week's. More than
-// any time zone that was set wrongly.
-constexpr qint64 Farthest_From_An_Earlier_Job = qint64{2} * 24 * 3600;
-
 constexpr qint64 No_Time = std::numeric_limits<qint64>::min();
 
 quint64 Key_Of(const QString& number, int reference)
@@ -111,7 +107,7 @@ std::optional<Report_Desk::Part> Report_Desk::Match(const Handset::Status_Report
     const auto distance = [&](const Part& part) { return submitted ? std::abs(*submitted - part.seconds) : 0; };
     auto nearest = parts.end();
     for (auto part = parts.begin(); part != parts.end(); ++part) {
-        const bool is_too_far = part->job != 0 && distance(*part) > Farthest_From_An_Earlier_Job;
+        const bool is_too_far = part->job != 0 && distance(*part) > Farthest;
         if (!is_too_far && (nearest == parts.end() || distance(*part) < distance(*nearest)))
             nearest = part;
     }

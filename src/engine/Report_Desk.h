@@ -27,6 +27,10 @@ public:
         int job = 0;        ///< 0 is the job at hand; others are earlier ones
     };
 
+    /// How many seconds the centre's time may be away from an earlier job's: a report on a message that another program
+    /// sent last week would otherwise be taken for one on this week's. More than any time zone that was set wrongly.
+    static constexpr qint64 Farthest = qint64{2} * 24 * 3600;
+
     /// The parts of a job that its journal still awaits reports for, and the reports that it has counted.
     static Report_Desk Of(const Job_Record& record, int job = 0);
 

@@ -5,6 +5,8 @@
 
 #include <QDeadlineTimer>
 #include <algorithm>
+#include <csignal>
+#include <sys/resource.h>
 #include <thread>
 
 using testing::Contains;
@@ -23,6 +25,17 @@ public:
     bool Is_Asked_To_Stop() override { return false; }
     void Still_Waiting(int) override {}
 };
+
+// A report's frame (3GPP TS 23.040, 9.2.2.3): delivered to +447700900100, submitted at a time.
+std::string Report(int reference, const QDateTime& time)
+{
+    const std::string digits = time.toString(QStringLiteral("yyMMddhhmmss")).toStdString();
+    std::string swapped;
+    for (std::size_t at = 0; at < digits.size(); at += 2)
+        swapped += {digits[at + 1], digits[at]};
+    return "0006" + QByteArray::number(reference, 16).rightJustified(2, '0').toStdString() + "0C91447700091000" +
+           swapped + "00" + swapped + "0000";
+}
 
 // Jobs whose reports come when nobody waits for them any more, and lie in the phone's memory.
 class Late_Reports_Test : public Confirmed_Test
@@ -80,9 +93,9 @@ protected:
         EXPECT_EQ(session.Read_Report_Memory().size(), count);
     }
 
-    int Collect(double seconds = 0)
+    int Collect(double seconds = 0, Serial_Calls& calls = Real_Serial_Calls())
     {
-        return Collect_Late_Reports(QString::fromStdString(m_phone.Path()), m_options.folder, seconds, m_stop);
+        return Collect_Late_Reports(QString::fromStdString(m_phone.Path()), m_options.folder, seconds, m_stop, calls);
     }
 
     /// The references and states of the reports in a journal.
@@ -120,6 +133,44 @@ TEST_F(Late_Reports_Test, Are_Noted_In_The_Journal_Of_A_Kept_Job_And_Taken_Out_O
     EXPECT_THAT(m_phone.Heard(), Contains("AT+CMGL=4"));
     EXPECT_EQ(m_phone.Heard().back(), "AT+CPMS=\"SM\"");
     EXPECT_EQ(Noted(path).size(), 2U);
+}
+
+TEST_F(Late_Reports_Test, Are_Written_Down_Before_They_Are_Deleted)
+{
+    // What a journal says whenever something is deleted from the device.
+    class Watched_Deletions : public Serial_Calls
+    {
+    public:
+        explicit Watched_Deletions(QString path) : m_path(std::move(path)) {}
+        ssize_t Write(int descriptor, const void* bytes, size_t size) override
+        {
+            if (QByteArray(static_cast<const char*>(bytes), static_cast<qsizetype>(size)).startsWith("AT+CMGD="))
+                m_noted.push_back(Noted(m_path).size());
+            return Serial_Calls::Write(descriptor, bytes, size);
+        }
+        const QString m_path;
+        std::vector<std::size_t> m_noted;
+    };
+    Watched_Deletions calls(Send(QStringLiteral("kept"), m_numbers, 2));
+    EXPECT_EQ(Collect(0, calls), 2);
+    EXPECT_THAT(calls.m_noted, ElementsAre(2U, 2U));
+}
+
+TEST_F(Late_Reports_Test, That_The_Disk_Has_No_Room_For_Stay_In_The_Memory)
+{
+    const QString path = Send(QStringLiteral("kept"), m_numbers, 2);
+    rlimit limit{};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &limit), 0);
+    const auto at_limit = signal(SIGXFSZ, SIG_IGN);
+    const rlimit no_more{static_cast<rlim_t>(QFileInfo(path).size()), limit.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &no_more), 0);
+    const int counted = Collect();
+    setrlimit(RLIMIT_FSIZE, &limit);
+    signal(SIGXFSZ, at_limit);
+    EXPECT_EQ(counted, 0);
+    EXPECT_THAT(Noted(path), IsEmpty());
+    Expect_In_Memory(2);
+    EXPECT_EQ(Collect(), 2);
 }
 
 TEST_F(Late_Reports_Test, Are_Counted_Before_The_Next_Job_Sends)
@@ -185,6 +236,19 @@ TEST_F(Late_Reports_Test, That_Nobody_Knows_Are_Left_Alone)
     Expect_In_Memory(2);
 }
 
+TEST_F(Late_Reports_Test, On_What_Another_Program_Sent_Last_Week_Are_Left_Alone)
+{
+    const QString path = Send(QStringLiteral("kept"), {m_numbers.first()}, 1);
+    const std::string last_week = Report(0, QDateTime::currentDateTimeUtc().addDays(-7));
+    const std::string yesterday = Report(0, QDateTime::currentDateTimeUtc().addDays(-1));
+    m_phone.Will_Answer("AT+CMGL=4", "\r\n+CMGL: 1,0,,25\r\n" + last_week + "\r\n\r\nOK\r\n");
+    EXPECT_EQ(Collect(), 0);
+    EXPECT_THAT(m_phone.Heard(), Not(Contains(StartsWith("AT+CMGD"))));
+    m_phone.Will_Answer("AT+CMGL=4", "\r\n+CMGL: 1,0,,25\r\n" + yesterday + "\r\n\r\nOK\r\n");
+    EXPECT_EQ(Collect(), 1) << "clocks and zones differ";
+    EXPECT_THAT(m_phone.Heard(), Contains("AT+CMGD=1"));
+}
+
 TEST_F(Late_Reports_Test, Of_Another_Card_Are_Left_Alone)
 {
     const QString path = Send(QStringLiteral("kept"), m_numbers, 2);
@@ -244,14 +308,6 @@ TEST_F(Late_Reports_Test, That_Come_On_The_Line_While_The_Device_Is_Idle_Are_Not
 {
     const QString path = Send(QStringLiteral("kept"), {m_numbers.first()}, 1);
     m_phone.Will_Answer("AT+CMGL=4", "\r\nOK\r\n"); // this one does not lie there
-    const auto report = [](int reference) {
-        const QByteArray time = QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyMMddhhmmss")).toLatin1();
-        QByteArray swapped;
-        for (int at = 0; at < 12; at += 2)
-            swapped += QByteArray{1, time[at + 1]} + time[at];
-        return "\r\n+CDS: 25\r\n0006" + QByteArray::number(reference, 16).rightJustified(2, '0') + "0C91447700091000" +
-               swapped + "00" + swapped + "0000\r\n";
-    };
     std::thread line([&] {
         const QDeadlineTimer deadline(20'000);
         const auto until = [&](const std::function<bool()>& is_true) {
@@ -259,7 +315,7 @@ TEST_F(Late_Reports_Test, That_Come_On_The_Line_While_The_Device_Is_Idle_Are_Not
                 std::this_thread::yield();
         };
         until([&] { return Contains_Command("AT+CMGL=4"); });
-        m_phone.Says(report(0).toStdString());
+        m_phone.Says("\r\n+CDS: 25\r\n" + Report(0, QDateTime::currentDateTimeUtc()) + "\r\n");
         until([&] { return !Noted(path).empty(); });
         m_stop = 1;
     });
