@@ -118,6 +118,8 @@ std::optional<Report_Desk::Part> Report_Desk::Match(const Handset::Status_Report
     if (Handset::Delivery_Status_Of(report.m_status).m_delivery != Handset::Delivery::Still_Trying) {
         parts.erase(nearest);
         m_open -= part.job == 0 ? 1 : 0;
+        if (parts.empty())
+            m_parts.erase(found);
     }
     return part;
 }
