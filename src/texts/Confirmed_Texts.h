@@ -9,6 +9,7 @@ namespace Texts::Confirmed {
 inline constexpr Fixed_Text Device_Is_Gone{"The device is gone. Waiting until it is back."};
 inline constexpr Fixed_Text Device_Is_Silent{"The device does not answer. Waiting until it does."};
 inline constexpr Fixed_Text Waiting_For_Network{"Still waiting for the network."};
+inline constexpr Fixed_Text Waiting_For_Reports{"Waiting for delivery reports."};
 
 // Why it ends.
 inline constexpr Fixed_Text Waited_Too_Long{"The device was not ready in time."};
