@@ -19,6 +19,7 @@
 #include "ui_CorvaneAppDelegate.h"
 #include "windows/exclusion/Exclusion_Wizard.h"
 #include "windows/main/Composer.h"
+#include "windows/main/Confirm_Boxes.h"
 #include "windows/main/Help_Wnd.h"
 #include "windows/main/Recipient_Rows.h"
 #include "windows/main/Send_Modeless.h"
@@ -97,6 +98,10 @@ bool CorvaneAppDelegate::awakeFromNib()
         box->setCurrentIndex(-1);
         box->lineEdit()->setAccessibleName(box->accessibleName()); // the keyboard focus is here when it is in the box
     }
+    m_confirm_boxes =
+        std::make_unique<Confirm_Boxes>(Confirm_Boxes::Boxes{m_ui->_Confirm_Chk, m_ui->_Reports_Chk,
+                                                             m_ui->_Keep_Receipt_Chk, m_ui->_Remember_Confirm_Chk},
+                                        Program_Settings(Settings_Path));
     m_import = std::make_unique<Number_Import>(Number_Import::Target{
         [this](int count, int percent) { Show_Import_Progress(count, percent); },
         [this](Recipient_List& recipients) { Take_Over_Imported(recipients); }, [this] { Leave_Import_Unread(); },
@@ -253,6 +258,7 @@ Send_Choices CorvaneAppDelegate::Read_Send_Choices() const
     choices.save_templates = m_ui->_Save_Templates_Chk->isChecked();
     choices.unicode = m_ui->_Unicode_SMS_Chk->isChecked();
     choices.flash = m_ui->_Msg_TypeComboBox->currentData().toBool();
+    choices.confirm = m_confirm_boxes->Choices();
     return choices;
 }
 

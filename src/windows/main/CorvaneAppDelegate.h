@@ -11,6 +11,7 @@
 #include <vector>
 
 class Composer;
+class Confirm_Boxes;
 class Number_Import;
 struct Number_Terms;
 class PleaseWait_Modeless;
@@ -176,6 +177,7 @@ private:
     Recipient_Rows* m_recipient_rows = nullptr;
     Row_Table_Model* m_exclusion_rows = nullptr;
     std::unique_ptr<Composer> m_composer;
+    std::unique_ptr<Confirm_Boxes> m_confirm_boxes;
     std::unique_ptr<Send_Runner> m_send_runner;
     std::unique_ptr<Number_Import> m_import;
     PleaseWait_Modeless* m_please_wait = nullptr;
