@@ -6,6 +6,8 @@
 #include "platform/Waiting.h"
 #include "texts/Confirmed_Texts.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace {
@@ -18,37 +20,34 @@ namespace T = Texts::Confirmed;
 constexpr int Alike_In_A_Row = 3;
 constexpr double Seconds_Between_Slow_Messages = 5;
 
-QString Reason_Of(Doubt doubt)
+struct Doubt_Row
 {
-    switch (doubt) {
-    case Doubt::Ok_Alone:
-        return T::No_Reference;
-    case Doubt::Line_Lost:
-        return T::Line_Lost;
-    case Doubt::Broken_Off:
-        return T::Broken_Off;
-    case Doubt::No_Result:
-    case Doubt::None:
-        break;
-    }
-    return T::No_Result;
+    Doubt doubt;
+    const char* field; ///< as the journal writes it
+    Fixed_Text sentence;
+};
+
+// The first is for what has no row of its own.
+constexpr Doubt_Row Doubts[] = {{Doubt::No_Result, "no-result", T::No_Result},
+                                {Doubt::Ok_Alone, "ok-alone", T::No_Reference},
+                                {Doubt::Line_Lost, "line-lost", T::Line_Lost},
+                                {Doubt::Broken_Off, "broken-off", T::Broken_Off}};
+
+const Doubt_Row& Row_Of(Doubt doubt)
+{
+    const auto* const row =
+        std::find_if(std::begin(Doubts), std::end(Doubts), [&](const Doubt_Row& each) { return each.doubt == doubt; });
+    return row == std::end(Doubts) ? Doubts[0] : *row;
 }
 
-// As the journal writes it.
+QString Reason_Of(Doubt doubt)
+{
+    return Row_Of(doubt).sentence;
+}
+
 QString Field_Of(Doubt doubt)
 {
-    switch (doubt) {
-    case Doubt::Ok_Alone:
-        return QStringLiteral("ok-alone");
-    case Doubt::Line_Lost:
-        return QStringLiteral("line-lost");
-    case Doubt::Broken_Off:
-        return QStringLiteral("broken-off");
-    case Doubt::No_Result:
-    case Doubt::None:
-        break;
-    }
-    return QStringLiteral("no-result");
+    return QLatin1String(Row_Of(doubt).field);
 }
 
 Until Wait_For(const Device_Cause& cause)
@@ -313,6 +312,13 @@ void Confirmed_Manner::Row_Walk::Still_Waiting(int seconds)
     m_manner.m_progress.Show_Waiting(T::Waiting_For_Network);
     m_is_waiting = true;
     m_manner.m_watcher.Still_Waiting(seconds);
+}
+
+QString Doubt_Sentence(const QString& field)
+{
+    const auto* const row = std::find_if(std::begin(Doubts), std::end(Doubts),
+                                         [&](const Doubt_Row& each) { return field == QLatin1String(each.field); });
+    return row == std::end(Doubts) ? QString() : row->sentence;
 }
 
 QString Cause_Field(const Device_Cause& cause)

@@ -51,3 +51,7 @@ private:
 /// The cause as the journal writes it: cms:500, cme:11, error, or words: and the device's own.
 QString Cause_Field(const Device_Cause& cause);
 std::optional<Device_Cause> Cause_Of_Field(const QString& field);
+
+/// Why there is no telling, for a person, from what the journal writes about a part without a result; empty where that
+/// is something else.
+QString Doubt_Sentence(const QString& field);

@@ -25,25 +25,44 @@ bool Is_In_Use(const Descriptor& file)
 
 } // namespace
 
+std::optional<Kept_Job> Look_At_Job(const QString& path)
+{
+    Kept_Job kept;
+    Unfinished_Job& job = kept.job;
+    job.path = path;
+    const Job_Reading reading = Read_Job(path);
+    job.trouble = reading.trouble;
+    if (job.trouble == Job_Trouble::Missing)
+        return std::nullopt;
+    job.id = Job_Id_Of(path);
+    job.is_in_use = Is_In_Use(File_Steps::Open(File_Steps::Native_Name(path), O_RDONLY));
+    if (reading.record) {
+        kept.has_ended = reading.record->Has_Ended();
+        job.seconds = reading.record->Header().seconds;
+        job.device = reading.record->Header().device;
+        job.counts = reading.record->Counts();
+    }
+    return kept;
+}
+
+QList<Kept_Job> Kept_Jobs(const QString& folder)
+{
+    QList<Kept_Job> jobs;
+    const QStringList names =
+        QDir(folder).entryList({QStringLiteral("*.journal")}, QDir::Files, QDir::Name | QDir::Reversed);
+    for (const QString& name : names) {
+        if (const auto kept = Look_At_Job(folder + u'/' + name))
+            jobs.append(*kept);
+    }
+    return jobs;
+}
+
 QList<Unfinished_Job> Unfinished_Jobs(const QString& folder)
 {
     QList<Unfinished_Job> jobs;
-    const QStringList names = QDir(folder).entryList({QStringLiteral("*.journal")}, QDir::Files, QDir::Name);
-    for (const QString& name : names) {
-        Unfinished_Job job;
-        job.path = folder + u'/' + name;
-        const Job_Reading reading = Read_Job(job.path);
-        job.trouble = reading.trouble;
-        if (job.trouble == Job_Trouble::Missing || (reading.record && reading.record->Has_Ended()))
-            continue;
-        job.id = Job_Id_Of(job.path);
-        job.is_in_use = Is_In_Use(File_Steps::Open(File_Steps::Native_Name(job.path), O_RDONLY));
-        if (reading.record) {
-            job.seconds = reading.record->Header().seconds;
-            job.device = reading.record->Header().device;
-            job.counts = reading.record->Counts();
-        }
-        jobs.append(job);
+    for (const Kept_Job& kept : Kept_Jobs(folder)) {
+        if (!kept.has_ended)
+            jobs.prepend(kept.job);
     }
     return jobs;
 }

@@ -4,6 +4,7 @@
 #include "records/Job_Trouble.h"
 
 #include <QList>
+#include <optional>
 
 // What the folder of jobs holds. For a worker: every journal is read.
 
@@ -18,6 +19,19 @@ struct Unfinished_Job
     QString device;
     Job_Counts counts;
 };
+
+// A job whose files are in the folder, whether it has ended or not.
+struct Kept_Job
+{
+    Unfinished_Job job;
+    bool has_ended = false;
+};
+
+/// What can be told of the job whose journal is at a path; nothing where none is there. Changes nothing.
+std::optional<Kept_Job> Look_At_Job(const QString& path);
+
+/// All jobs of a folder; the newest first.
+QList<Kept_Job> Kept_Jobs(const QString& folder);
 
 /// The jobs of a folder that have not ended, and those of which that cannot be told; the oldest first. Changes nothing.
 QList<Unfinished_Job> Unfinished_Jobs(const QString& folder);

@@ -1,8 +1,6 @@
 #include "send/Outcome_Book.h"
 
-#include "engine/Confirmed_Row.h"
-#include "engine/Send_Cause.h"
-#include "texts/Confirmed_Texts.h"
+#include "engine/Job_Details.h"
 
 namespace {
 
@@ -156,34 +154,4 @@ void Outcome_Book::Count(const Row_End& end)
         ++(m_counts.*row.count);
         m_is_all_well = m_is_all_well && row.is_well;
     }
-}
-
-Row_Details Details_Of_Record(const Job_Record& record, int row)
-{
-    const Job_Row_State state = record.State_Of(row);
-    Row_Details details;
-    details.parts = state.parts;
-    details.parts_sent = state.parts_sent;
-    details.references = state.references;
-    details.tries = state.tries;
-    details.is_earlier = true;
-    switch (state.state) {
-    case Sending_State::Accepted:
-        details.outcome.state = Row_State::Sent;
-        break;
-    case Sending_State::Refused:
-        details.outcome = {Row_State::Refused, Cause_Of_Field(state.words).value_or(Device_Cause{})};
-        details.reason = Reason_Of(details.outcome.cause);
-        break;
-    case Sending_State::Handing_Over:
-    case Sending_State::Unknown:
-        details.outcome = {Row_State::May_Have_Been_Sent, Cause_Of_Field(state.words).value_or(Device_Cause{})};
-        details.reason = Texts::Confirmed::No_Result;
-        break;
-    case Sending_State::Skipped:
-    case Sending_State::Waiting:
-        details.is_earlier = false;
-        break;
-    }
-    return details;
 }

@@ -44,6 +44,3 @@ private:
     bool m_is_all_well = true;
     End_Facts m_counts;
 };
-
-/// What a job's journal knows of a row, counted from 1.
-Row_Details Details_Of_Record(const Job_Record& record, int row);

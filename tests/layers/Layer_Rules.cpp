@@ -156,9 +156,10 @@ const std::vector<Room>& Rooms()
         {"windows/stores", {"platform", "texts", "records", "toolkit"}},
         {"windows/exclusion", {"platform", "texts", "list", "records", "toolkit"}},
         {"windows/phone", {"platform", "texts", "list", "device", "doctor", "toolkit"}},
+        {"windows/jobs", {"platform", "texts", "records", "engine", "toolkit"}},
         {"windows/main",
          {"platform", "texts", "list", "records", "device", "engine", "toolkit", "windows/list", "windows/stores",
-          "windows/exclusion", "windows/phone"}},
+          "windows/exclusion", "windows/phone", "windows/jobs"}},
         {"app", {"platform", "texts", "records", "device", "toolkit", "windows/main"}},
     };
     return Table;

@@ -91,6 +91,19 @@ TEST_F(Job_Shelf_Test, Unfinished_Jobs_Are_Named_With_What_Is_Left_Of_Them)
     EXPECT_EQ(jobs.at(3).trouble, Job_Trouble::List_Missing);
 }
 
+TEST_F(Job_Shelf_Test, All_Jobs_Are_Named_The_Newest_First)
+{
+    EXPECT_TRUE(Kept_Jobs(m_folder).isEmpty()) << "there is no folder yet";
+    ASSERT_TRUE(Make("1-ended", "SS").journal->End());
+    Make("2-broken-off", "SW");
+    Write_Bytes(Path("3-damaged"), "J1 damaged\n");
+    QStringList jobs;
+    for (const Kept_Job& kept : Kept_Jobs(m_folder))
+        jobs.append(kept.job.id + (kept.has_ended ? ", ended " : " ") + QString::number(kept.job.counts.sent));
+    EXPECT_EQ(jobs.join(u'|'), "3-damaged 0|2-broken-off 1|1-ended, ended 2");
+    EXPECT_FALSE(Look_At_Job(Path("4")));
+}
+
 TEST_F(Job_Shelf_Test, Any_Job_Can_Be_Removed_But_One_That_Is_Being_Worked_On)
 {
     auto made = Make("1", "W");

@@ -1,0 +1,39 @@
+#include "windows/jobs/Receipt_Rows.h"
+
+#include "texts/Receipt_Texts.h"
+
+#include <utility>
+
+namespace T = Texts::Receipts;
+
+std::vector<Row_Table_Model::Column> Receipt_Rows::Columns()
+{
+    return {{QStringLiteral("Row"), T::Row},           {QStringLiteral("Number"), T::Number},
+            {QStringLiteral("Message"), T::Message},   {QStringLiteral("Outcome"), T::Outcome},
+            {QStringLiteral("Reason"), T::Reason},     {QStringLiteral("Parts"), T::Parts_Sent},
+            {QStringLiteral("Delivery"), T::Delivery}, {QStringLiteral("Time"), T::Time}};
+}
+
+void Receipt_Rows::Take(std::shared_ptr<const Job_Receipt> receipt, Receipt_Kind kind)
+{
+    m_receipt = std::move(receipt);
+    m_rows = m_receipt ? m_receipt->Rows_Of(kind) : std::vector<int>();
+    m_last.reset();
+}
+
+QString Receipt_Rows::Cell(const QString& column, int index) const
+{
+    const int number = m_rows[static_cast<std::size_t>(index)];
+    if (!m_last || m_last->first != number)
+        m_last.emplace(number, m_receipt->Row(number));
+    const Receipt_Row& row = m_last->second;
+    const std::pair<const char*, QString> Cells[] = {{"Number", row.number},          {"Message", row.message},
+                                                     {"Outcome", row.signed_outcome}, {"Reason", row.reason},
+                                                     {"Delivery", row.delivery},      {"Time", row.time}};
+    for (const auto& [name, cell] : Cells) {
+        if (column == QLatin1String(name))
+            return cell;
+    }
+    return column == u"Row" ? QString::number(row.source_row)
+                            : QStringLiteral("%1 / %2").arg(row.parts_sent).arg(row.parts);
+}
