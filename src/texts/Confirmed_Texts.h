@@ -18,6 +18,9 @@ inline constexpr Fixed_Text Three_Alike{"Several messages in a row ended alike, 
 inline constexpr Fixed_Text Not_All_Sent{"Not every message was sent. The list says what became of each."};
 inline constexpr Fixed_Text No_Messages{"The device takes no text messages."};
 
+// What can be done about it.
+inline constexpr Fixed_Text Plain_May_Pass{"Those not taken may pass as normal text messages."};
+
 // Why a message was not sent, or may have been.
 inline constexpr Fixed_Text No_Prompt{"The device gave no prompt."};
 inline constexpr Fixed_Text No_Result{"The device gave no result in time."};

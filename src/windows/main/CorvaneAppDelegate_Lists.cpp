@@ -253,6 +253,7 @@ void CorvaneAppDelegate::Replace_Recipients(Recipient_List recipients)
 {
     recipients = Exchange_List(std::move(recipients));
     Redisplay_Recipients();
+    Update_List_Count();
     Let_Go_Of(recipients);
 }
 

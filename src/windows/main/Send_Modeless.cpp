@@ -135,7 +135,7 @@ void Send_Modeless::Show_Waiting(const QString& text)
 void Send_Modeless::Show_In_Place_Of_Number(const QString& text, bool is_waiting)
 {
     Run_On_Interface_Thread([&] {
-        m_ui->_current_send_label->setText(is_waiting ? tr("Waiting :") : m_item_caption);
+        m_ui->_current_send_label->setText(is_waiting ? tr("Now :") : m_item_caption);
         m_ui->_current_send_msg->setText(text);
         Tell_State(text);
     });

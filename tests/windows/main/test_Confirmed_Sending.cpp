@@ -80,7 +80,7 @@ TEST_F(Confirmed_Sending, Waits_For_A_Network_That_Is_Gone_And_Goes_On_When_It_I
     Send_With_One_Box();
     EXPECT_THAT(user.Was_Shown(), ElementsAre(Completed));
     EXPECT_THAT(Shown_Outcomes(), ElementsAre(Sent, Sent));
-    EXPECT_THAT(m_on_the_sheet, Contains("Waiting : There is no network."));
+    EXPECT_THAT(m_on_the_sheet, Contains("Now : There is no network."));
     EXPECT_EQ(m_on_the_sheet.last(), QStringLiteral("Sending to : 222"));
 }
 
@@ -90,7 +90,7 @@ TEST_F(Confirmed_Sending, Is_Stopped_While_It_Waits_Without_A_Box_Of_Its_Own)
     Add_All({"111", "222", "333"});
     bool was_pressed = false;
     Watch_The_Sheet([&was_pressed](const QString& text) {
-        if (text == QStringLiteral("Waiting : There is no network.") && !std::exchange(was_pressed, true))
+        if (text == QStringLiteral("Now : There is no network.") && !std::exchange(was_pressed, true))
             Press_Stop();
     });
     user.Will_Press(QStringLiteral("Yes"));
