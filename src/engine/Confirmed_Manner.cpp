@@ -21,6 +21,11 @@ using Until = Device_Hold::Until;
 
 constexpr double Seconds_Between_Looks = 1;
 
+// Why a row of a job is never sent, as its list says it.
+constexpr QLatin1String Is_Excluded("excluded");
+constexpr QLatin1String Is_Repeated("duplicate");
+constexpr QLatin1String Is_Left_Out("skipped");
+
 // What was said to wait for a better state was not the end of it.
 bool Is_Final(const QString& cause_field, int tries)
 {
@@ -188,8 +193,12 @@ void Confirmed_Manner::Open_Journal()
 // The same row whenever it is asked for.
 Job_Row Confirmed_Manner::Row_At(int index)
 {
-    if (m_record)
-        return m_record->Row(index + 1).value_or(Job_Row{});
+    if (m_record) {
+        Job_Row row = m_record->Row(index + 1).value_or(Job_Row{});
+        if (const Job_Row_State state = m_record->State_Of(index + 1); state.state == Sending_State::Skipped)
+            row.skipped = state.words.isEmpty() ? QString(Is_Left_Out) : state.words;
+        return row;
+    }
     const Recipient recipient = m_order.recipients.At(index);
     Job_Row row =
         Frozen_Row(index + 1, recipient.Number, Composer_Rules::Cut_To_Limit(recipient.Message), m_options.job.alphabet,
@@ -198,10 +207,10 @@ Job_Row Confirmed_Manner::Row_At(int index)
         row.skipped = *skipped;
     switch (Reason_To_Skip(m_order, index)) {
     case Skip_Reason::Excluded:
-        row.skipped = QStringLiteral("excluded");
+        row.skipped = Is_Excluded;
         break;
     case Skip_Reason::Repeated:
-        row.skipped = QStringLiteral("duplicate");
+        row.skipped = Is_Repeated;
         break;
     case Skip_Reason::None:
         break;
@@ -259,27 +268,45 @@ Send_Manner::Submission Confirmed_Manner::Submit(int index, const Recipient&)
         m_open_rows -= state == Row_State::May_Have_Been_Sent ? 0 : 1;
         m_has_failed = m_has_failed || state != Row_State::Sent;
         m_watcher.Row_Done(index, *earlier);
-        return {Next::Go_On, earlier->outcome, false, {}};
+        return {Next::Go_On, Shown_Outcome(*earlier), false, {}};
     }
-    if (!row.skipped.isEmpty()) { // other reasons than those that the walk has seen
-        Row_Details details;
-        details.outcome.state = Row_State::Invalid_Number;
-        details.reason = T::Number_Invalid;
-        --m_open_rows;
-        m_has_failed = true;
-        m_watcher.Row_Done(index, details);
-        return {Next::Go_On, details.outcome, false, {}};
-    }
+    if (!row.skipped.isEmpty())
+        return Pass_Over(index, row.skipped);
     Row_Walk walk(*this, index, row);
     const Submission submission = walk.Run();
     Take_Reports();
-    const Row_State state = submission.outcome.state;
+    const Row_State state = walk.Details().outcome.state;
     if (state == Row_State::Sent || state == Row_State::Refused)
         --m_open_rows;
     m_has_failed = m_has_failed || state != Row_State::Sent;
     if (state != Row_State::Not_Tried || walk.Details().parts_sent > 0)
         m_watcher.Row_Done(index, walk.Details());
     return submission;
+}
+
+// For reasons that the walk has not seen: the number, or what held when a job that is gone on with began.
+Send_Manner::Submission Confirmed_Manner::Pass_Over(int index, const QString& why)
+{
+    Row_Details details;
+    details.is_earlier = m_record.has_value();
+    if (why == Is_Excluded)
+        details.outcome.state = Row_State::Excluded;
+    else if (why == Is_Repeated)
+        details.outcome.state = Row_State::Repeated;
+    else {
+        const bool is_about_number = why == QLatin1String(Invalid_Number);
+        details.outcome.state = is_about_number ? Row_State::Invalid_Number : Row_State::Skipped;
+        details.reason = is_about_number ? QString(T::Number_Invalid) : why;
+        m_has_failed = true;
+    }
+    --m_open_rows;
+    m_watcher.Row_Done(index, details);
+    return {Next::Go_On, details.outcome, false, {}};
+}
+
+bool Confirmed_Manner::Is_Settled(int index)
+{
+    return m_record && Settled_Before(index, Row_At(index)).has_value();
 }
 
 void Confirmed_Manner::Skipped(int index, Skip_Reason reason)
@@ -302,6 +329,8 @@ void Confirmed_Manner::End_Sending()
 {
     if (!Asks_For_Reports() || !m_trouble.isEmpty())
         return;
+    if (!m_report_desk.Is_Empty())
+        m_progress.Show_Waiting(T::Waiting_For_Reports);
     const double end = Now_Seconds() + Paced(m_options.job.report_seconds);
     while (!m_report_desk.Is_Empty() && m_stop == 0 && !Program_Is_Exiting() && Now_Seconds() < end &&
            m_session.Listen(Seconds_Between_Looks))
@@ -323,6 +352,8 @@ void Confirmed_Manner::Close()
     const QString path = m_journal->Path();
     const bool has_ended = m_open_rows == 0 && m_journal->End();
     m_journal->Sync();
+    if (m_options.hands_out_record)
+        m_last_record = Read_Job(path).record;
     m_journal.reset();
     if (has_ended && !m_options.keeps_journal)
         Remove_Job(path);

@@ -20,9 +20,10 @@ struct Confirmed_Options
     QString id;     ///< of a new job, from New_Job_Id; one is made where it is empty
     QString folder; ///< of the journals; empty for a job that keeps none
     Job_Options job;
-    double hold_seconds = 0;     ///< how long a job that is held waits; 0 for as long as nobody stops it
-    bool keeps_journal = false;  ///< of a job that has ended
-    QHash<int, QString> skipped; ///< of a new job: the indexes of recipients that get nothing, and why
+    double hold_seconds = 0;       ///< how long a job that is held waits; 0 for as long as nobody stops it
+    bool keeps_journal = false;    ///< of a job that has ended
+    bool hands_out_record = false; ///< when the job is over
+    QHash<int, QString> skipped;   ///< of a new job: the indexes of recipients that get nothing, and why
 
     QString resumed_path;       ///< the journal of the job that is gone on with; empty for a new job
     bool sends_unknown = false; ///< rows that may have been sent are sent again, as a person decided
@@ -47,6 +48,7 @@ public:
     QString Completed() const override;
     void Begin_Sending() override;
     Submission Submit(int index, const Recipient& recipient) override;
+    bool Is_Settled(int index) override;
     void Skipped(int index, Skip_Reason reason) override;
     void Pause_Begins() override;
     void End_Sending() override;
@@ -55,6 +57,9 @@ public:
     /// The job's id; empty before Begin_Sending and without a journal.
     QString Job_Id() const;
     Job_Trouble Journal_Trouble() const { return m_journal_trouble; }
+    /// What the journal says after Close; nothing unless that is wanted, and for a job without a journal. It stays
+    /// readable when the job's files are gone.
+    const std::optional<Job_Record>& Record() const { return m_last_record; }
     /// Whether a part has been handed over, or was before the job was gone on with.
     bool Has_Handed_Over() const { return m_has_handed_over; }
 
@@ -68,6 +73,7 @@ private:
     Job_Row Row_At(int index);
     std::optional<Row_Details> Settled_Before(int index, const Job_Row& row) const;
     void Begin_Reports();
+    Submission Pass_Over(int index, const QString& why);
     void Take_Reports();
     bool Asks_For_Reports() const { return m_options.job.report_seconds >= 0; }
     bool Is_Sent_Already(int index, int part) const;
@@ -84,7 +90,8 @@ private:
     Late_Reports m_late_reports;
     QString m_trouble;
     std::unique_ptr<Job_Journal> m_journal;
-    std::optional<Job_Record> m_record; // of a job that is gone on with
+    std::optional<Job_Record> m_record;      // of a job that is gone on with, as it was before
+    std::optional<Job_Record> m_last_record; // at the end
     Job_Trouble m_journal_trouble = Job_Trouble::None;
     QString m_job_id;
     int m_first_reference = 0;

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace {
 
@@ -109,7 +110,7 @@ Send_Manner::Submission Confirmed_Manner::Row_Walk::Run()
         m_manner.m_has_sent = true;
         m_manner.m_alike_ends.Count({});
     }
-    m_submission.outcome = m_details.outcome;
+    m_submission.outcome = Shown_Outcome(m_details);
     if (m_manner.m_sends_slowly && m_submission.next == Next::Go_On)
         m_manner.m_stop.Wait(Seconds_Between_Slow_Messages);
     return m_submission;
@@ -122,6 +123,8 @@ Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Send_Part(const
     if (m_manner.m_session.Is_Text_Mode() && !Prepare_Text_Mode())
         return m_manner.m_session.Answers() ? Be_Refused({}, T::No_Messages, 1) : Take_Obstacle(Obstacle::Line_Lost);
     const Part_Result result = m_manner.m_session.Submit(part, *this);
+    if (std::exchange(m_is_waiting, false))
+        m_manner.m_progress.Show_Current(m_row.number);
     switch (result.m_kind) {
     case Part_Result::Kind::Accepted:
         return Take_Accepted(result.m_reference, result.m_time);
@@ -181,7 +184,7 @@ Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Take_Refusal(co
         m_manner.m_sends_slowly = true;
         [[fallthrough]];
     case Cause_Class::Retry:
-        if (Try_Again_Later() == Part_End::Again)
+        if (Try_Again_Later(reason) == Part_End::Again)
             return Part_End::Again;
         break;
     case Cause_Class::Hold:
@@ -235,15 +238,17 @@ Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Take_Obstacle(O
     }
     if (!m_manner.m_session.Answers())
         return Hold(Until::Device_Is_Back, T::Device_Is_Silent);
-    if (Try_Again_Later() == Part_End::Again)
+    if (Try_Again_Later(T::No_Prompt) == Part_End::Again)
         return Part_End::Again;
     return Be_Refused({}, T::No_Prompt, Alike_In_A_Row);
 }
 
-Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Try_Again_Later()
+Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Try_Again_Later(const QString& reason)
 {
     if (static_cast<std::size_t>(m_retries) >= Retry_Waits.size())
         return Part_End::Row_Is_Over;
+    m_manner.m_progress.Show_Waiting(reason);
+    m_is_waiting = true;
     m_manner.m_stop.Wait(Retry_Waits[static_cast<std::size_t>(m_retries++)]);
     return m_manner.m_stop == 1 || Program_Is_Exiting() ? Part_End::Row_Is_Over : Part_End::Again;
 }
@@ -320,7 +325,8 @@ bool Confirmed_Manner::Row_Walk::Is_Asked_To_Stop()
 
 void Confirmed_Manner::Row_Walk::Still_Waiting(int seconds)
 {
-    m_manner.m_progress.Show_Current(T::Waiting_For_Network);
+    m_manner.m_progress.Show_Waiting(T::Waiting_For_Network);
+    m_is_waiting = true;
     m_manner.m_watcher.Still_Waiting(seconds);
 }
 

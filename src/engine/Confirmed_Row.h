@@ -25,7 +25,7 @@ private:
     void Note_Refusal(const Device_Cause& cause);
     Part_End Take_Doubt(Part_Result::Doubt doubt);
     Part_End Take_Obstacle(Part_Result::Obstacle obstacle);
-    Part_End Try_Again_Later();
+    Part_End Try_Again_Later(const QString& reason);
     Part_End Hold(Device_Hold::Until until, const QString& reason);
     Part_End Be_Refused(const Device_Cause& cause, const QString& reason, int stops_at);
     Part_End Be_Unknown(const QString& why, const QString& reason);
@@ -46,6 +46,7 @@ private:
     int m_tries = 0;   // of this part
     int m_retries = 0; // of this part, after causes that pass by themselves
     bool m_was_handed_over = false;
+    bool m_is_waiting = false; // and that is being shown
 };
 
 /// The cause as the journal writes it: cms:500, cme:11, error, or words: and the device's own.

@@ -23,7 +23,7 @@ Device_Hold::End Device_Hold::Hold(Until until, const QString& reason)
 {
     const double begin = Now_Seconds();
     double told_after = until == Until::Device_Is_Back ? Seconds_To_Come_Back : 0;
-    m_progress.Show_Current(reason);
+    m_progress.Show_Waiting(reason);
     bool is_told = false;
     for (;;) {
         const double waited = (Now_Seconds() - begin) / Paced(1);

@@ -57,11 +57,15 @@ Row_Outcome Outcome_Of_Answer(const QString& answer)
 Row_Outcome Outcome_Of_Answers(const QStringList& answers)
 {
     Row_Outcome worst{answers.isEmpty() ? Row_State::Written : Row_State::Taken, {}};
+    bool has_taken = false;
     for (const QString& answer : answers) {
         const Row_Outcome outcome = Outcome_Of_Answer(answer);
+        has_taken = has_taken || outcome.state == Row_State::Taken;
         if (Badness(outcome.state) > Badness(worst.state))
             worst = outcome;
     }
+    if (worst.state == Row_State::Refused && has_taken)
+        worst.state = Row_State::Partly_Taken;
     return worst;
 }
 

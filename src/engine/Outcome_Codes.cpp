@@ -3,19 +3,25 @@
 quint8 Outcome_Codes::Code_Of(const Row_Outcome& outcome)
 {
     const auto code = static_cast<quint8>(outcome.state);
-    if (outcome.state != Row_State::Refused || outcome.cause == Device_Cause())
+    const bool is_of_parts = outcome.state == Row_State::Partly_Taken;
+    if ((outcome.state != Row_State::Refused && !is_of_parts) || outcome.cause == Device_Cause())
         return code;
-    auto place = m_causes.indexOf(outcome.cause);
+    QList<Device_Cause>& causes = is_of_parts ? m_causes_of_parts : m_causes;
+    auto place = causes.indexOf(outcome.cause);
     if (place < 0) {
-        if (m_causes.size() == Most_Causes)
+        if (causes.size() == (is_of_parts ? Most_Causes_Of_Parts : Most_Causes))
             return code;
-        place = m_causes.size();
-        m_causes.append(outcome.cause);
+        place = causes.size();
+        causes.append(outcome.cause);
     }
-    return static_cast<quint8>(First_Cause + place);
+    return static_cast<quint8>((is_of_parts ? First_Of_Parts : First_Cause) + place);
 }
 
 Row_Outcome Outcome_Codes::Outcome_Of(quint8 code) const
 {
-    return {State_Of(code), code < First_Cause ? Device_Cause() : m_causes.value(code - First_Cause)};
+    if (code < First_Of_Parts)
+        return {State_Of(code), {}};
+    const bool is_of_parts = code < First_Cause;
+    return {State_Of(code),
+            is_of_parts ? m_causes_of_parts.value(code - First_Of_Parts) : m_causes.value(code - First_Cause)};
 }

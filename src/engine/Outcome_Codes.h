@@ -5,12 +5,13 @@
 #include <QList>
 
 // Outcomes as bytes, so that a million of them take a megabyte: a state is its own code, and each cause of a refusal
-// gets the next code that is free. A value; a copy costs nothing, and knows the codes that had been given when it was
-// made.
+// gets the next code that is free, apart for those of whole messages and of parts. A value; a copy costs nothing, and
+// knows the codes that had been given when it was made.
 class Outcome_Codes
 {
 public:
-    static constexpr int Most_Causes = 240;
+    static constexpr int Most_Causes = 200;
+    static constexpr int Most_Causes_Of_Parts = 40;
 
     /// The code of an outcome; 0 for one that was not tried. Where more causes come than there are codes for, the code
     /// is that of a refusal without one.
@@ -22,11 +23,15 @@ public:
     /// The state in the outcome of a code.
     static Row_State State_Of(quint8 code)
     {
-        return code < First_Cause ? static_cast<Row_State>(code) : Row_State::Refused;
+        if (code < First_Of_Parts)
+            return static_cast<Row_State>(code);
+        return code < First_Cause ? Row_State::Partly_Taken : Row_State::Refused;
     }
 
 private:
-    static constexpr int First_Cause = 256 - Most_Causes; // below are the states
+    static constexpr int First_Cause = 256 - Most_Causes;
+    static constexpr int First_Of_Parts = First_Cause - Most_Causes_Of_Parts; // below are the states
 
     QList<Device_Cause> m_causes;
+    QList<Device_Cause> m_causes_of_parts;
 };

@@ -1,5 +1,6 @@
 #include "engine/Outcome_Words.h"
 
+#include "engine/Send_Cause.h"
 #include "platform/One_Line.h"
 #include "texts/Outcome_Texts.h"
 
@@ -22,10 +23,12 @@ constexpr Row Rows[] = {
     {Row_State::Taken, u'✓', Texts::Outcomes::Taken},
     {Row_State::Sent, u'✓', Texts::Outcomes::Sent},
     {Row_State::Refused, u'✗', Texts::Outcomes::Refused},
+    {Row_State::Partly_Taken, u'✗', Texts::Outcomes::Partly_Taken},
     {Row_State::No_Answer, u'?', Texts::Outcomes::No_Answer},
     {Row_State::May_Have_Been_Sent, u'?', Texts::Outcomes::May_Have_Been_Sent},
     {Row_State::Excluded, u'–', Texts::Outcomes::Excluded},
     {Row_State::Repeated, u'–', Texts::Outcomes::Repeated},
+    {Row_State::Skipped, u'–', Texts::Outcomes::Skipped},
     {Row_State::Invalid_Number, u'–', Texts::Outcomes::Invalid_Number},
 };
 
@@ -42,14 +45,27 @@ const Row& Row_Of(Row_State state)
     return Rows[static_cast<std::size_t>(state)];
 }
 
-// All that is said about a cause: its number, or the device's own words.
+// A sentence as it goes on behind a colon, without its full stop.
+QString Clause(QString sentence)
+{
+    if (sentence.endsWith(u'.'))
+        sentence.chop(1);
+    if (sentence.size() > 1 && sentence[1].isLower()) // no abbreviation
+        sentence[0] = sentence[0].toLower();
+    return sentence;
+}
+
+// All that is said about a cause: its number and what that means, or the device's own words.
 QString Cause_In_Words(const Device_Cause& cause)
 {
+    const auto numbered = [&] {
+        return QString::number(cause.number) + QStringLiteral(": ") + Clause(Reason_Of(cause));
+    };
     switch (cause.kind) {
     case Device_Cause::Kind::Cms:
-        return QString::number(cause.number);
+        return numbered();
     case Device_Cause::Kind::Cme:
-        return Texts::Outcomes::Own_Error + QString::number(cause.number);
+        return Texts::Outcomes::Own_Error + numbered();
     case Device_Cause::Kind::Words:
         return On_One_Line(cause.words);
     case Device_Cause::Kind::Error:
@@ -63,7 +79,8 @@ QString Cause_In_Words(const Device_Cause& cause)
 QString Outcome_Words(const Row_Outcome& outcome)
 {
     const QString words = Row_Of(outcome.state).words;
-    const QString cause = outcome.state == Row_State::Refused ? Cause_In_Words(outcome.cause) : QString();
+    const bool is_refused = outcome.state == Row_State::Refused || outcome.state == Row_State::Partly_Taken;
+    const QString cause = is_refused ? Cause_In_Words(outcome.cause) : QString();
     return cause.isEmpty() ? words : words + QStringLiteral(" (") + cause + u')';
 }
 
@@ -75,7 +92,10 @@ QString Signed_Outcome(const Row_Outcome& outcome)
 QStringList Usual_Signed_Outcomes()
 {
     QStringList texts;
-    for (const Row& row : Rows)
-        texts.append(Signed_Outcome({row.state, {Device_Cause::Kind::Cms, 500, {}}}));
+    for (const Row& row : Rows) {
+        const bool has_cause = row.state == Row_State::Refused;
+        texts.append(
+            Signed_Outcome({row.state, has_cause ? Device_Cause{Device_Cause::Kind::Cms, 500, {}} : Device_Cause{}}));
+    }
     return texts;
 }

@@ -7,17 +7,17 @@
 
 // How a person is told what became of a recipient's message. Any thread.
 
-/// In a few words on one line, "refused (500)".
+/// In a few words on one line, "refused (500: unknown error)".
 QString Outcome_Words(const Row_Outcome& outcome);
 
-/// The same behind a sign that can be told from the others at a glance, "✗ refused (500)".
+/// The same behind a sign that can be told from the others at a glance, "✗ refused (500: unknown error)".
 QString Signed_Outcome(const Row_Outcome& outcome);
 
 /// One of each kind, with their signs: what a column for them needs room for.
 QStringList Usual_Signed_Outcomes();
 
-/// Whether the message was certainly not taken, so that it arrives once if it is sent again. Whoever is to be left out
-/// does not count.
+/// Whether nothing of the message was taken, certainly, so that it arrives once if it is sent again. Whoever is to be
+/// left out does not count.
 inline bool Was_Not_Taken(Row_State state)
 {
     return state == Row_State::Refused || state == Row_State::Not_Tried;

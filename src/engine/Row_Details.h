@@ -17,6 +17,16 @@ struct Row_Details
     bool is_earlier = false; ///< settled before the job was gone on with
 };
 
+/// The outcome as a list of recipients shows it, where a message that is partly with its recipient is none that was not
+/// taken.
+inline Row_Outcome Shown_Outcome(const Row_Details& details)
+{
+    const Row_State state = details.outcome.state;
+    const bool is_partly_taken =
+        details.parts_sent > 0 && (state == Row_State::Refused || state == Row_State::Not_Tried);
+    return {is_partly_taken ? Row_State::Partly_Taken : state, details.outcome.cause};
+}
+
 /// Receives what a confirmed job has to say besides its progress. Called on the job's thread; each call returns when it
 /// is done.
 class Confirmed_Watcher

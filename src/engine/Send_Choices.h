@@ -1,5 +1,7 @@
 #pragma once
 
+#include "records/Program_Settings.h"
+
 #include <QString>
 
 // The state of the main window's controls at the moment a send job begins, copied once so that the job never reads a
@@ -17,4 +19,5 @@ struct Send_Choices
     bool save_templates = false;
     bool unicode = false;
     bool flash = false;
+    Confirm_Choices confirm;
 };

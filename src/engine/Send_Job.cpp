@@ -143,7 +143,7 @@ void Send_Job::Pause_If_Due(int index)
 bool Send_Job::Skip_Item(int index, const QString& number)
 {
     const Skip_Reason reason = Reason_To_Skip(m_order, index);
-    if (reason == Skip_Reason::None)
+    if (reason == Skip_Reason::None || m_manner.Is_Settled(index))
         return false;
     const QString note = reason == Skip_Reason::Excluded ? Texts::Sending::Is_Excluded : Texts::Sending::Is_Skipped;
     m_progress.Show_Current(number + note);

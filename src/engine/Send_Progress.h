@@ -18,6 +18,8 @@ public:
     virtual void Show_Item(int position, int total, const QString& number) = 0;
     /// Shows another text in place of the number.
     virtual void Show_Current(const QString& text) = 0;
+    /// Shows what the job waits for in its place, until another text or the next item is shown.
+    virtual void Show_Waiting(const QString& text) { Show_Current(text); }
     virtual void End() = 0;
 
     /// A pause between two batches: nothing is being sent, and the activity stands still.

@@ -14,6 +14,7 @@ QString Applied_Exclusion_Path;
 QString Exclusion_Folder_Path;
 QString Exclusion_Index_Path;
 QString Jobs_Folder_Path;
+QString Settings_Path;
 
 namespace {
 constexpr unsigned Everything_Allowed = 0777;
@@ -36,6 +37,7 @@ void Set_Data_Paths(const QString& resource_path)
     Exclusion_Folder_Path = Corvane_Data_Folder_Path + QStringLiteral("/Exclusion");
     Exclusion_Index_Path = Exclusion_Folder_Path + QStringLiteral("/ExListIndex.ZOVA");
     Jobs_Folder_Path = Resource_Path + QStringLiteral("/Jobs");
+    Settings_Path = QFileInfo(Resource_Path).path() + QStringLiteral("/Settings.ini");
 }
 
 bool Create_Resource_Folder()

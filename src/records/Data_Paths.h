@@ -4,7 +4,7 @@
 
 // Where the program keeps its data: <XDG_DATA_HOME>/corvane, private to the user, holds the resource folder, which
 // holds the data folder and, beside it, the folder of the send jobs. Everything inside has the permissions 0777, except
-// for the jobs, which are the user's alone; the private folder is what keeps other accounts out.
+// for the jobs and the settings beside it, which are the user's alone; the private folder keeps other accounts out.
 
 // Set once at start-up by Set_Data_Paths.
 extern QString Resource_Path;            ///< the application's resource folder
@@ -15,6 +15,7 @@ extern QString Applied_Exclusion_Path;   ///< the names of the applied exclusion
 extern QString Exclusion_Folder_Path;    ///< the folder of the exclusion lists
 extern QString Exclusion_Index_Path;     ///< the names of all exclusion lists
 extern QString Jobs_Folder_Path;         ///< the folder of the send jobs; made by the first of them
+extern QString Settings_Path;            ///< what the user wants remembered; made by that wish
 
 /// The resource folder for this user, from XDG_DATA_HOME or its default ~/.local/share. Nothing is created.
 QString Default_Resource_Path();

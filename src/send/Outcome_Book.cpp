@@ -10,11 +10,13 @@ const char* Word_For(Row_State state)
     case Row_State::Sent:
         return "sent";
     case Row_State::Refused:
+    case Row_State::Partly_Taken:
         return "refused";
     case Row_State::May_Have_Been_Sent:
         return "unknown";
     case Row_State::Excluded:
     case Row_State::Repeated:
+    case Row_State::Skipped:
     case Row_State::Invalid_Number:
         return "skipped";
     case Row_State::Written:

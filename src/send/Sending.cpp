@@ -3,6 +3,7 @@
 #include "device/MFCSMS.h"
 #include "device/Stop_Flag.h"
 #include "engine/Confirmed_Manner.h"
+#include "engine/Job_Order.h"
 #include "engine/Send_Job.h"
 #include "platform/Interface_Thread.h"
 #include "platform/Waiting.h"
@@ -85,13 +86,8 @@ void Sending::Choose()
 
 Send_Order Sending::Make_Order() const
 {
-    Send_Order order;
-    order.device_path = m_device;
-    order.service_centre = m_job.options.service_centre;
+    Send_Order order = Order_Of(m_job.options, m_device);
     order.choices.flash = m_job.flash;
-    order.choices.unicode = m_job.options.alphabet == Job_Alphabet_Choice::Unicode;
-    order.choices.delayed_delivery = m_job.options.batch > 0;
-    order.delivery = {m_job.options.batch, static_cast<qint64>(m_job.options.pause_seconds)};
     for (const int position : m_positions) {
         const Planned_Row& row = m_job.rows[static_cast<std::size_t>(position)];
         order.recipients.Append(row.number, row.text);

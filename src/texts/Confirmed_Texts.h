@@ -9,6 +9,7 @@ namespace Texts::Confirmed {
 inline constexpr Fixed_Text Device_Is_Gone{"The device is gone. Waiting until it is back."};
 inline constexpr Fixed_Text Device_Is_Silent{"The device does not answer. Waiting until it does."};
 inline constexpr Fixed_Text Waiting_For_Network{"Still waiting for the network."};
+inline constexpr Fixed_Text Waiting_For_Reports{"Waiting for delivery reports."};
 
 // Why it ends.
 inline constexpr Fixed_Text Waited_Too_Long{"The device was not ready in time."};
@@ -16,6 +17,9 @@ inline constexpr Fixed_Text Not_Recorded{"The job's journal cannot be written, s
 inline constexpr Fixed_Text Three_Alike{"Several messages in a row ended alike, so nothing more is sent"};
 inline constexpr Fixed_Text Not_All_Sent{"Not every message was sent. The list says what became of each."};
 inline constexpr Fixed_Text No_Messages{"The device takes no text messages."};
+
+// What can be done about it.
+inline constexpr Fixed_Text Plain_May_Pass{"Those not taken may pass as normal text messages."};
 
 // Why a message was not sent, or may have been.
 inline constexpr Fixed_Text No_Prompt{"The device gave no prompt."};

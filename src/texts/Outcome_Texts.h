@@ -13,10 +13,12 @@ inline constexpr Fixed_Text Written{"written"};
 inline constexpr Fixed_Text Taken{"taken by the phone"};
 inline constexpr Fixed_Text Sent{"sent"};
 inline constexpr Fixed_Text Refused{"refused"};
+inline constexpr Fixed_Text Partly_Taken{"partly taken"};
 inline constexpr Fixed_Text No_Answer{"no answer"};
 inline constexpr Fixed_Text May_Have_Been_Sent{"may have been sent"};
 inline constexpr Fixed_Text Excluded{"skipped: excluded"};
 inline constexpr Fixed_Text Repeated{"skipped: repeated"};
+inline constexpr Fixed_Text Skipped{"skipped"};
 inline constexpr Fixed_Text Invalid_Number{"skipped: invalid number"};
 
 // Before the number of a cause that counts among a device's own errors and not among those of messages.

@@ -8,6 +8,7 @@
 #include <vector>
 
 class Outcome_Codes;
+struct Confirmed_End;
 class QByteArray;
 class QWidget;
 
@@ -74,6 +75,8 @@ public:
     virtual void Take_Outcomes(int /*first_row*/, const QByteArray& /*marks*/, const Outcome_Codes& /*codes*/) {}
     /// The job has ended.
     virtual void End_Outcomes() {}
+    /// It was one that confirmed each message. After End_Outcomes; the job still counts as running.
+    virtual void Confirmed_Job_Ended(const Confirmed_End& /*end*/) {}
 
     /// The counter text for a message of this length; first runs the long-message dialog if that is allowed and due.
     virtual QString Long_SMS_Calculation(int length, const QString& msg_char_value, bool open_dlg) = 0;

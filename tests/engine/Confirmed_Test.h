@@ -92,6 +92,7 @@ protected:
         Send_Job(m_order, manner, m_witness, m_witness, m_stop).Send_SMS_Func();
         m_job = manner.Job_Id();
         m_has_handed_over = manner.Has_Handed_Over();
+        m_record = manner.Record();
     }
 
     /// What the handset shows, in the order of arrival.
@@ -111,4 +112,5 @@ protected:
     Stop_Flag m_stop;
     QString m_job;
     bool m_has_handed_over = false;
+    std::optional<Job_Record> m_record;
 };

@@ -42,14 +42,18 @@ INSTANTIATE_TEST_SUITE_P(Each, Outcome_In_Words, testing::Values(
     Case{"Taken", Row_State::Taken, {}, "taken by the phone", "✓", false},
     Case{"Sent", Row_State::Sent, {}, "sent", "✓", false},
     Case{"Refused", Row_State::Refused, {}, "refused", "✗", true},
-    Case{"Refused_Message", Row_State::Refused, {Kind::Cms, 500, {}}, "refused (500)", "✗", true},
-    Case{"Refused_By_Device", Row_State::Refused, {Kind::Cme, 30, {}}, "refused (CME 30)", "✗", true},
+    Case{"Refused_Message", Row_State::Refused, {Kind::Cms, 500, {}}, "refused (500: unknown error)", "✗", true},
+    Case{"Refused_By_Device", Row_State::Refused, {Kind::Cme, 30, {}}, "refused (CME 30: there is no network)", "✗", true},
     Case{"Refused_In_Words", Row_State::Refused, {Kind::Words, -1, "SIM busy"}, "refused (SIM busy)", "✗", true},
     Case{"Refused_In_Lines", Row_State::Refused, {Kind::Words, -1, "SIM\r\nbusy"}, "refused (SIM busy)", "✗", true},
+    Case{"Refused_By_The_Maker", Row_State::Refused, {Kind::Cms, 1234, {}}, "refused (1234: the modem gives a reason of its own)", "✗", true},
+    Case{"Partly_Taken", Row_State::Partly_Taken, {Kind::Cms, 195, {}}, "partly taken (195: the recipient's number is invalid)", "✗", false},
+    Case{"Partly_Taken_At_A_Stop", Row_State::Partly_Taken, {}, "partly taken", "✗", false},
     Case{"No_Answer", Row_State::No_Answer, {}, "no answer", "?", false},
     Case{"May_Have_Been_Sent", Row_State::May_Have_Been_Sent, {}, "may have been sent", "?", false},
     Case{"Excluded", Row_State::Excluded, {}, "skipped: excluded", "–", false},
     Case{"Repeated", Row_State::Repeated, {}, "skipped: repeated", "–", false},
+    Case{"Skipped", Row_State::Skipped, {}, "skipped", "–", false},
     Case{"Invalid_Number", Row_State::Invalid_Number, {}, "skipped: invalid number", "–", false},
     Case{"A_Cause_Without_A_Refusal", Row_State::Sent, {Kind::Cms, 500, {}}, "sent", "✓", false}),
     [](const auto& row) { return std::string(row.param.name); });
@@ -61,5 +65,5 @@ TEST(Outcome_Words, The_Usual_Ones_Are_One_Of_Each_State)
     ASSERT_EQ(usual.size(), static_cast<int>(Row_State::Invalid_Number) + 1);
     for (int state = 0; state < usual.size(); ++state)
         EXPECT_TRUE(usual.at(state).startsWith(Signed_Outcome({static_cast<Row_State>(state), {}}))) << state;
-    EXPECT_TRUE(usual.contains(QStringLiteral("✗ refused (500)")));
+    EXPECT_TRUE(usual.contains(QStringLiteral("✗ refused (500: unknown error)")));
 }

@@ -19,7 +19,9 @@
 #include "ui_CorvaneAppDelegate.h"
 #include "windows/exclusion/Exclusion_Wizard.h"
 #include "windows/main/Composer.h"
+#include "windows/main/Confirm_Boxes.h"
 #include "windows/main/Help_Wnd.h"
+#include "windows/main/Job_Follow_Up.h"
 #include "windows/main/Recipient_Rows.h"
 #include "windows/main/Send_Modeless.h"
 #include "windows/main/Send_Runner.h"
@@ -97,11 +99,17 @@ bool CorvaneAppDelegate::awakeFromNib()
         box->setCurrentIndex(-1);
         box->lineEdit()->setAccessibleName(box->accessibleName()); // the keyboard focus is here when it is in the box
     }
+    m_confirm_boxes =
+        std::make_unique<Confirm_Boxes>(Confirm_Boxes::Boxes{m_ui->_Confirm_Chk, m_ui->_Reports_Chk,
+                                                             m_ui->_Keep_Receipt_Chk, m_ui->_Remember_Confirm_Chk},
+                                        Program_Settings(Settings_Path));
     m_import = std::make_unique<Number_Import>(Number_Import::Target{
         [this](int count, int percent) { Show_Import_Progress(count, percent); },
         [this](Recipient_List& recipients) { Take_Over_Imported(recipients); }, [this] { Leave_Import_Unread(); },
         [this] { Finish_Import(); }, [this] { End_Import(); }});
     m_send_runner = std::make_unique<Send_Runner>(*this, *mfc_sms_obj, *Send_Modeless::defaultInstance());
+    m_follow_up =
+        std::make_unique<Job_Follow_Up>(*this, *m_work, *m_send_runner, *m_ui->_Job_Strip, *m_ui->Show_Receipt);
     Main_App_wnd = this;
     Show_Device_In_Ticker();
     return true;
@@ -113,6 +121,7 @@ void CorvaneAppDelegate::applicationDidFinishLaunching()
     raise();
     activateWindow();
     Focus(Field::Number);
+    m_follow_up->Look_For_Unfinished();
 }
 
 void CorvaneAppDelegate::Connect_Controls()
@@ -123,6 +132,9 @@ void CorvaneAppDelegate::Connect_Controls()
     connect(m_ui->Clear_All_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::Clear_All_Btn);
     connect(m_ui->Select_Not_Taken, &QPushButton::clicked, this, &CorvaneAppDelegate::Select_Not_Taken);
     connect(m_ui->Keep_Not_Taken, &QPushButton::clicked, this, &CorvaneAppDelegate::Keep_Not_Taken);
+    connect(m_ui->Choose_Plain_Kind, &QPushButton::clicked, this, &CorvaneAppDelegate::Choose_Plain_Kind);
+    connect(m_ui->Show_Receipt, &QPushButton::clicked, this, &CorvaneAppDelegate::Show_Receipt);
+    connect(m_ui->View_Receipts_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::View_Receipts_Btn);
     connect(m_ui->Reset_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::Reset_Btn);
     connect(m_ui->Help_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::Help_Btn);
     connect(m_ui->Exit_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::Exit_Btn);
@@ -253,6 +265,7 @@ Send_Choices CorvaneAppDelegate::Read_Send_Choices() const
     choices.save_templates = m_ui->_Save_Templates_Chk->isChecked();
     choices.unicode = m_ui->_Unicode_SMS_Chk->isChecked();
     choices.flash = m_ui->_Msg_TypeComboBox->currentData().toBool();
+    choices.confirm = m_confirm_boxes->Choices();
     return choices;
 }
 
@@ -282,6 +295,7 @@ void CorvaneAppDelegate::Search_All_Modem()
     m_ui->_NO_Device_Ticker->hide();
     Phone_List_Wnd::defaultInstance()->Open_Ph_List_Wnd();
     Show_Device_In_Ticker();
+    m_follow_up->Look_For_Unfinished();
 }
 
 void CorvaneAppDelegate::Show_Device_In_Ticker()

@@ -11,6 +11,8 @@
 #include <vector>
 
 class Composer;
+class Confirm_Boxes;
+class Job_Follow_Up;
 class Number_Import;
 struct Number_Terms;
 class PleaseWait_Modeless;
@@ -104,6 +106,7 @@ public:
     void Begin_Outcomes() override;
     void Take_Outcomes(int first_row, const QByteArray& marks, const Outcome_Codes& codes) override;
     void End_Outcomes() override;
+    void Confirmed_Job_Ended(const Confirmed_End& end) override;
 
     MFCSMS& Session() { return *mfc_sms_obj; }
 
@@ -115,6 +118,10 @@ public Q_SLOTS:
     void Select_Not_Taken();
     /// Removes all others.
     void Keep_Not_Taken();
+    /// After a job whose kind of message the network refused: chooses the normal one, and selects those not taken.
+    void Choose_Plain_Kind();
+    void Show_Receipt();
+    void View_Receipts_Btn();
     void Reset_Btn();
     void doubleClickInTable();
     void Load_Number();
@@ -156,6 +163,7 @@ private:
     void Look_For_Not_Taken();
     void Show_Outcomes();
     void Show_Outcome_Column(bool shown);
+    bool Offer_Plain_Kind(const Device_Cause& cause);
     void Show_Exclusion_Trouble(const QString& text);
     void Show_List_Count(int count);
     void Show_Import_Progress(int count, int percent);
@@ -169,14 +177,17 @@ private:
     Recipient_List nsListDataObject;
     Number_List nsExclusionListDataObject;
     QString prev_composer_msg;
-    int prev_list_item = 0;        // recipients before the import
-    Outcome_Codes m_outcome_codes; // what the marks of the recipients mean
-    bool m_takes_outcomes = false; // a job runs, and the list is still the one that it took
-    bool m_has_not_taken = false;  // whether there is a recipient with marks whose message was not taken
+    int prev_list_item = 0;             // recipients before the import
+    Outcome_Codes m_outcome_codes;      // what the marks of the recipients mean
+    bool m_takes_outcomes = false;      // a job runs, and the list is still the one that it took
+    bool m_is_alphabet_refused = false; // rather than that a message shows at once
+    bool m_has_not_taken = false;       // whether there is a recipient with marks whose message was not taken
     Recipient_Rows* m_recipient_rows = nullptr;
     Row_Table_Model* m_exclusion_rows = nullptr;
     std::unique_ptr<Composer> m_composer;
+    std::unique_ptr<Confirm_Boxes> m_confirm_boxes;
     std::unique_ptr<Send_Runner> m_send_runner;
+    std::unique_ptr<Job_Follow_Up> m_follow_up;
     std::unique_ptr<Number_Import> m_import;
     PleaseWait_Modeless* m_please_wait = nullptr;
     std::unique_ptr<Window_Work> m_work;

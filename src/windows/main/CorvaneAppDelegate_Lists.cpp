@@ -16,6 +16,7 @@
 #include "ui_CorvaneAppDelegate.h"
 #include "windows/list/List_Dialogs.h"
 #include "windows/main/Composer.h"
+#include "windows/main/Confirm_Boxes.h"
 #include "windows/main/CorvaneAppDelegate.h"
 #include "windows/main/List_Cells.h"
 #include "windows/main/Load_Num_Info.h"
@@ -205,6 +206,7 @@ void CorvaneAppDelegate::Reset_Btn()
     for (auto* box : {m_ui->_Delayed_Delivry_Chk, m_ui->_Exclusion_Chk, m_ui->_Save_Sent_Item_Chk,
                       m_ui->_Save_Templates_Chk, m_ui->_Skip_Duplicate_Chk, m_ui->_Unicode_SMS_Chk})
         box->setChecked(false);
+    m_confirm_boxes->Put_Back();
     m_ui->idExclusionTableView->hide();
     Show_Exclusion_Trouble({});
     Delayed_Delivery_Chk();
@@ -251,6 +253,7 @@ void CorvaneAppDelegate::Replace_Recipients(Recipient_List recipients)
 {
     recipients = Exchange_List(std::move(recipients));
     Redisplay_Recipients();
+    Update_List_Count();
     Let_Go_Of(recipients);
 }
 

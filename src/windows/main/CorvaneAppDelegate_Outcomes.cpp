@@ -102,6 +102,8 @@ void CorvaneAppDelegate::Show_Outcomes()
         button->setEnabled(m_has_not_taken);
         button->setVisible(are_complete);
     }
+    if (!are_complete || !m_has_not_taken)
+        m_ui->plain_offer->hide();
 }
 
 // The messages give the outcomes their room. Without outcomes the table is as it was without them.

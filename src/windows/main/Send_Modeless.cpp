@@ -4,6 +4,7 @@
 #include "platform/Interface_Thread.h"
 #include "platform/Log_Line.h"
 #include "platform/Waiting.h"
+#include "texts/Cause_Texts.h"
 #include "texts/Texts.h"
 #include "toolkit/Main_Window.h"
 #include "toolkit/Message_Boxes.h"
@@ -42,6 +43,7 @@ Send_Modeless::Send_Modeless(QWidget* parent) : Modal_Sheet(parent), m_ui(std::m
     m_ui->setupUi(this);
     Apply_Window_Look(*this);
     m_stop_caption = m_ui->_stop_btn->text();
+    m_item_caption = m_ui->_current_send_label->text();
     Offer_Close_Button();
     Make_Room_For_Texts();
     msend_modTimer.setObjectName(QStringLiteral("msend_modTimer"));
@@ -63,7 +65,7 @@ void Send_Modeless::Make_Room_For_Texts()
     heading.setBold(true);
     m_ui->_curr_msg_cnt->setFont(heading);
     Keep_Room_For(*m_ui->_curr_msg_cnt, Texts::Sending::Preparing);
-    Keep_Room_For(*m_ui->_current_send_msg, QString(20, u'0') + Texts::Sending::Is_Excluded);
+    Keep_Room_For(*m_ui->_current_send_msg, Texts::Causes::Phone_Pin_Wanted); // the longest that a job waits for
     Keep_Room_For(*m_ui->_pause_timer, QStringLiteral("Pausing the process for 1 Hour 59 Minute 59 Seconds."));
     for (QWidget* widget : {static_cast<QWidget*>(m_ui->_current_send_label),
                             static_cast<QWidget*>(m_ui->_current_send_msg), static_cast<QWidget*>(m_ui->_Tot_Progress)})
@@ -81,6 +83,7 @@ void Send_Modeless::Begin_Preparing(int total)
         m_ui->_Curr_Progress->setValue(0);
         m_ui->_pause_timer->clear();
         m_ui->_current_send_msg->clear();
+        m_ui->_current_send_label->setText(m_item_caption);
         m_ui->_tot_msg_cnt->setText(QString::number(total));
         m_ui->_curr_msg_cnt->setText(Texts::Sending::Preparing);
         Tell_State({});
@@ -109,6 +112,7 @@ void Send_Modeless::Show_Item(int position, int total, const QString& number)
         m_ui->_curr_msg_cnt->setText(QString::number(position) + QStringLiteral(" / ") + QString::number(total) +
                                      Texts::Sending::Of_Messages);
         m_ui->_current_send_msg->setText(number);
+        m_ui->_current_send_label->setText(m_item_caption);
         m_ui->_Curr_Progress->setValue(Activity_End);
         Tell_State(number);
     };
@@ -120,7 +124,18 @@ void Send_Modeless::Show_Item(int position, int total, const QString& number)
 
 void Send_Modeless::Show_Current(const QString& text)
 {
+    Show_In_Place_Of_Number(text, false);
+}
+
+void Send_Modeless::Show_Waiting(const QString& text)
+{
+    Show_In_Place_Of_Number(text, true);
+}
+
+void Send_Modeless::Show_In_Place_Of_Number(const QString& text, bool is_waiting)
+{
     Run_On_Interface_Thread([&] {
+        m_ui->_current_send_label->setText(is_waiting ? tr("Now :") : m_item_caption);
         m_ui->_current_send_msg->setText(text);
         Tell_State(text);
     });

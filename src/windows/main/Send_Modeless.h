@@ -29,6 +29,7 @@ public:
     void Begin_Sending() override;
     void Show_Item(int position, int total, const QString& number) override;
     void Show_Current(const QString& text) override;
+    void Show_Waiting(const QString& text) override;
     /// Hides the window. A stop question that is still open counts as answered No.
     void End() override;
     void Begin_Pause() override;
@@ -52,9 +53,11 @@ private:
     void Tell_State(const QString& detail);
     void Show_Sending_Controls(bool visible);
     void Show_Current_Item(bool visible);
+    void Show_In_Place_Of_Number(const QString& text, bool is_waiting);
 
     std::unique_ptr<Ui::Send_Modeless> m_ui;
     QString m_stop_caption; // as it was before being pressed
+    QString m_item_caption; // before the number, as it is unless the job waits
     QTimer msend_modTimer{this};
     std::atomic<bool> m_is_item_on_its_way{false}; // to the interface thread, which has not shown it yet
 };

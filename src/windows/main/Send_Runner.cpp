@@ -1,20 +1,48 @@
 #include "windows/main/Send_Runner.h"
 
 #include "device/Stop_Flag.h"
+#include "engine/Confirmed_End.h"
 #include "engine/Fixed_Wait_Manner.h"
+#include "engine/Job_Order.h"
 #include "engine/Job_State.h"
 #include "engine/Send_Job.h"
 #include "platform/Interface_Thread.h"
 #include "platform/Log_Line.h"
 #include "platform/Thread_Shortage.h"
+#include "records/Data_Paths.h"
 #include "texts/Texts.h"
 #include "toolkit/Main_Window.h"
 #include "toolkit/Message_Boxes.h"
 #include "windows/main/Send_Checks.h"
 
+#include <QScopeGuard>
 #include <exception>
-#include <memory>
 #include <utility>
+
+namespace {
+
+// What is to be shown while a job runs comes by its progress.
+class Silent_Watcher : public Confirmed_Watcher
+{
+    void Row_Done(int, const Row_Details&) override {}
+    void Held(const QString&) override {}
+    void Goes_On() override {}
+    void Report_Came(int, int, int, int) override {}
+    void Still_Waiting(int) override {}
+};
+
+std::optional<Confirmed_Options> Confirmed_Options_Of(const Send_Order& order)
+{
+    if (!order.choices.confirm.confirms)
+        return std::nullopt;
+    Confirmed_Options options;
+    options.folder = Jobs_Folder_Path;
+    options.job = Job_Options_Of(order);
+    options.keeps_journal = order.choices.confirm.keeps_receipt;
+    return options;
+}
+
+} // namespace
 
 // The right to send. It is claimed at the press and not by the thread that the press starts, so that two quick presses
 // start one job; it is released, along with the main window's input, wherever it ends.
@@ -56,25 +84,65 @@ void Send_Runner::Send_SMS_Btn()
     auto order = Take_Send_Order(m_window);
     if (!order)
         return;
-    const bool is_started = Start_Worker_If_Possible(
-        "send job", [this, claim, order = std::move(*order)]() mutable { Send_SMS_Thread(std::move(order)); });
-    claim.reset();
-    if (is_started)
-        m_window.Begin_Outcomes(); // before anything that the job hands over
-    else
-        Show_MessageBox(Texts::Sending::Not_Started);
+    Confirmed confirmed = Confirmed_Options_Of(*order);
+    Start(std::move(claim), std::move(*order), std::move(confirmed), true);
 }
 
-void Send_Runner::Send_SMS_Thread(Send_Order order)
+void Send_Runner::Send_Confirmed(Send_Order order, const Confirmed_Options& options, bool is_the_list)
 {
+    auto claim = std::make_shared<Claim>(m_window);
+    if (!claim->Is_Mine())
+        return;
+    m_window.Hold_Input();
+    Start(std::move(claim), std::move(order), options, is_the_list);
+}
+
+void Send_Runner::Start(std::shared_ptr<Claim> claim, Send_Order order, Confirmed confirmed, bool is_the_list)
+{
+    const bool is_started = Start_Worker_If_Possible(
+        "send job", [this, claim, order = std::move(order), confirmed = std::move(confirmed)]() mutable {
+            Send_SMS_Thread(order, confirmed);
+        });
+    claim.reset();
+    if (!is_started)
+        Show_MessageBox(Texts::Sending::Not_Started);
+    else if (is_the_list)
+        m_window.Begin_Outcomes(); // before anything that the job hands over
+}
+
+void Send_Runner::Send_SMS_Thread(Send_Order& order, const Confirmed& confirmed)
+{
+    Confirmed_End end;
     try {
-        Fixed_Wait_Manner manner(order, m_session);
-        Send_Job(order, manner, m_progress, *this, Stop_SMS_Sending_Now).Send_SMS_Func();
+        if (confirmed) {
+            Walk_Confirmed(order, *confirmed, end);
+        } else {
+            Fixed_Wait_Manner manner(order, m_session);
+            Send_Job(order, manner, m_progress, *this, Stop_SMS_Sending_Now).Send_SMS_Func();
+        }
     } catch (const std::exception& failure) {
         Show_NSLog_Message(QStringLiteral("The send job ended early: ") + QString::fromLocal8Bit(failure.what()));
         Show_MessageBox(Texts::Sending::Broken_Off);
     }
-    Run_On_Interface_Thread([this] { m_outcomes.End(); });
+    Run_On_Interface_Thread([&] {
+        m_outcomes.End();
+        if (confirmed)
+            m_window.Confirmed_Job_Ended(end);
+    });
+}
+
+void Send_Runner::Walk_Confirmed(Send_Order& order, const Confirmed_Options& options, Confirmed_End& end)
+{
+    Confirmed_Options handing_out = options;
+    handing_out.hands_out_record = true;
+    m_refused_kind.reset();
+    Silent_Watcher watcher;
+    Confirmed_Manner manner(order, handing_out, m_progress, watcher, Stop_SMS_Sending_Now);
+    const auto hand_out = qScopeGuard([&] {
+        end.record = manner.Record();
+        end.refused_kind = m_refused_kind;
+    });
+    Send_Job(order, manner, m_progress, *this, Stop_SMS_Sending_Now).Send_SMS_Func();
 }
 
 void Send_Runner::Tell(const QString& text)
@@ -90,5 +158,8 @@ void Send_Runner::Exclusions_Were_Read(const Exclusion_Files::Applied_Numbers& a
 
 void Send_Runner::Row_Ended(int index, const Row_Outcome& outcome)
 {
+    m_refused_kind.reset();
+    if (outcome.state == Row_State::Refused && Cause_Row(outcome.cause).offers_plain)
+        m_refused_kind = outcome.cause;
     m_outcomes.Add(index, outcome);
 }

@@ -1,12 +1,17 @@
 #pragma once
 
+#include "engine/Confirmed_Manner.h"
 #include "engine/Send_Listener.h"
 #include "engine/Send_Order.h"
 #include "windows/main/Outcome_Post.h"
 
+#include <memory>
+#include <optional>
+
 class MFCSMS;
 class Main_Window;
 class Send_Progress;
+struct Confirmed_End;
 
 // Starts send jobs, one at a time, each on a worker of its own, and shows the user what they report; sms_thread_var is
 // 1 from the press of Send until the job has cleaned up. Owned by the main window, which outlives Finish_Workers;
@@ -20,10 +25,17 @@ public:
     /// main window takes no input until the progress window covers it or it is clear that nothing will be sent.
     void Send_SMS_Btn();
 
+    /// Starts a job that confirms each message, without any check, unless one is running. The list shows what becomes
+    /// of its recipients only if it is the job's.
+    void Send_Confirmed(Send_Order order, const Confirmed_Options& options, bool is_the_list);
+
 private:
     class Claim;
+    using Confirmed = std::optional<Confirmed_Options>; // nothing for a job of fixed waits
 
-    void Send_SMS_Thread(Send_Order order);
+    void Start(std::shared_ptr<Claim> claim, Send_Order order, Confirmed confirmed, bool is_the_list);
+    void Send_SMS_Thread(Send_Order& order, const Confirmed& confirmed);
+    void Walk_Confirmed(Send_Order& order, const Confirmed_Options& options, Confirmed_End& end);
 
     void Tell(const QString& text) override;
     void Row_Ended(int index, const Row_Outcome& outcome) override;
@@ -33,4 +45,5 @@ private:
     MFCSMS& m_session;
     Send_Progress& m_progress;
     Outcome_Post m_outcomes;
+    std::optional<Device_Cause> m_refused_kind; // by the message that the job reached last; on its thread
 };

@@ -28,6 +28,11 @@ public:
         m_progress.Show_Current(text);
         Note(text);
     }
+    void Show_Waiting(const QString& text) override
+    {
+        m_progress.Show_Waiting(text);
+        Note("waiting: " + text);
+    }
     void Show_Pause(const QString& text) override
     {
         m_progress.Show_Pause(text);

@@ -48,8 +48,9 @@ TEST_F(Outcomes, Say_What_Was_Refused_And_Why_And_What_Was_Skipped)
     Tick("_Exclusion_Chk");
     Send_With_One_Box();
     EXPECT_THAT(user.Was_Shown(), ElementsAre(Completed));
-    EXPECT_THAT(Shown_Outcomes(), ElementsAre(Taken, "✗ refused (500)", "– skipped: excluded", "– skipped: repeated",
-                                              Taken, "✗ refused (38)", Taken));
+    EXPECT_THAT(Shown_Outcomes(),
+                ElementsAre(Taken, "✗ refused (500: unknown error)", "– skipped: excluded", "– skipped: repeated",
+                            Taken, "✗ refused (38: the network is out of order)", Taken));
     EXPECT_EQ(Buttons(), "on");
 }
 
@@ -138,7 +139,7 @@ TEST_F(Outcomes, Begin_Anew_With_Every_Job)
     Have([](Phone_Moods& moods) { moods.m_cms_error_at = {{1, 500}}; });
     Add_All({"111", "222"});
     Send_With_One_Box();
-    ASSERT_THAT(Shown_Outcomes(), ElementsAre("✗ refused (500)", Taken));
+    ASSERT_THAT(Shown_Outcomes(), ElementsAre("✗ refused (500: unknown error)", Taken));
     QStringList seen;
     m_phone.Forget();
     Have([](Phone_Moods& moods) { moods.m_cms_error_at.clear(); });
@@ -161,7 +162,7 @@ TEST_F(Outcomes, Show_Which_Messages_To_Select_Or_Keep_And_Nothing_Is_Sent_By_Th
     Add_All({"111", "222", "333", "444", "555", "666"});
     Send_With_One_Box();
     ASSERT_THAT(Shown_Outcomes(),
-                ElementsAre(Taken, "✗ refused (500)", Taken, May_Have_Been_Sent, Not_Tried, Not_Tried));
+                ElementsAre(Taken, "✗ refused (500: unknown error)", Taken, May_Have_Been_Sent, Not_Tried, Not_Tried));
     const auto sent = m_phone.Heard().size();
     Select_Rows({0, 3});
     Click("Select_Not_Taken");
@@ -171,7 +172,7 @@ TEST_F(Outcomes, Show_Which_Messages_To_Select_Or_Keep_And_Nothing_Is_Sent_By_Th
 
     Click("Keep_Not_Taken");
     EXPECT_THAT(Numbers(), ElementsAre("222", "555", "666"));
-    EXPECT_THAT(Shown_Outcomes(), ElementsAre("✗ refused (500)", Not_Tried, Not_Tried));
+    EXPECT_THAT(Shown_Outcomes(), ElementsAre("✗ refused (500: unknown error)", Not_Tried, Not_Tried));
     EXPECT_EQ(Count_Label(), QStringLiteral("Total Numbers : 3"));
     EXPECT_EQ(Buttons(), "on");
     EXPECT_EQ(m_phone.Heard().size(), sent);

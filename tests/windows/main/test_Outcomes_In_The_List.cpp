@@ -41,7 +41,7 @@ protected:
     static std::vector<Row_Outcome> One_Of_Each_State()
     {
         std::vector<Row_Outcome> outcomes;
-        for (int state = 0; state <= static_cast<int>(Row_State::Repeated); ++state)
+        for (int state = 0; state <= static_cast<int>(Row_State::Invalid_Number); ++state)
             outcomes.push_back({static_cast<Row_State>(state), {}});
         return outcomes;
     }
@@ -106,7 +106,7 @@ TEST_F(Outcomes_In_The_List, Follow_Their_Recipients_When_Others_Are_Removed)
     Have_Outcomes({{Row_State::Sent, {}}, Refused, {Row_State::Written, {}}, {Row_State::No_Answer, {}}});
     Select_Rows({0, 2});
     Click("Clear_Sel_Btn");
-    EXPECT_THAT(Shown_Outcomes(), ElementsAre("✗ refused (500)", "? no answer"));
+    EXPECT_THAT(Shown_Outcomes(), ElementsAre("✗ refused (500: unknown error)", "? no answer"));
     EXPECT_EQ(Buttons(), "on");
     Select_Rows({0});
     Click("Clear_Sel_Btn");
@@ -227,7 +227,7 @@ TEST_F(Outcomes_In_The_List, Are_Read_To_Nobody_As_A_Sign)
     m_delegate->End_Outcomes();
     EXPECT_EQ(told->columnCount(), 3);
     EXPECT_EQ(told->columnDescription(Outcome_Column), QStringLiteral("Outcome"));
-    EXPECT_EQ(told->cellAt(0, Outcome_Column)->text(QAccessible::Name), QStringLiteral("refused (500)"));
+    EXPECT_EQ(told->cellAt(0, Outcome_Column)->text(QAccessible::Name), QStringLiteral("refused (500: unknown error)"));
     EXPECT_EQ(told->cellAt(0, 0)->text(QAccessible::Name), QStringLiteral("1"));
 }
 

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "device/Device_Cause.h"
+#include "records/Job_Record.h"
+
+#include <optional>
+
+/// What is left of a confirmed job when it is over.
+struct Confirmed_End
+{
+    std::optional<Job_Record> record; ///< what its journal says; nothing where it has had none
+
+    /// The cause of a refusal that ended the job and was about the kind of message, so that the same text may pass
+    /// without that.
+    std::optional<Device_Cause> refused_kind;
+};

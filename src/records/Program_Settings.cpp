@@ -1,0 +1,84 @@
+#include "records/Program_Settings.h"
+
+#include "platform/File_Steps.h"
+#include "platform/Folders_And_Files.h"
+#include "platform/Text_Files.h"
+
+#include <QFileInfo>
+#include <QSettings>
+
+namespace {
+
+constexpr unsigned Only_The_User = 0600;
+constexpr qint64 Largest_File = 1 << 16;
+
+constexpr char Group[] = "Confirming";
+
+// The fields, each with the name that it has in the file.
+constexpr std::pair<const char*, bool Confirm_Choices::*> Fields[] = {
+    {"Confirming/ConfirmEachMessage", &Confirm_Choices::confirms},
+    {"Confirming/AskForReports", &Confirm_Choices::asks_for_reports},
+    {"Confirming/KeepReceipt", &Confirm_Choices::keeps_receipt},
+};
+
+// The lock of a write that was killed would be waited for; nobody else writes here.
+bool Has_No_Lock_Left(const QString& path)
+{
+    return Remove_File(path + QStringLiteral(".lock"));
+}
+
+bool Is_Written(QSettings& settings)
+{
+    settings.sync();
+    return settings.status() == QSettings::NoError;
+}
+
+} // namespace
+
+// Neither a pipe nor a disk image that somebody put there is opened.
+bool Program_Settings::Is_Usable() const
+{
+    return File_Steps::Is_Regular_Or_Missing(File_Steps::Native_Name(m_path)) &&
+           QFileInfo(m_path).size() <= Largest_File;
+}
+
+std::optional<Confirm_Choices> Program_Settings::Remembered() const
+{
+    if (Is_Missing(m_path) || !Is_Usable())
+        return std::nullopt;
+    const QSettings settings(m_path, QSettings::IniFormat);
+    if (settings.status() != QSettings::NoError)
+        return std::nullopt;
+    Confirm_Choices choices;
+    for (const auto& [name, field] : Fields) {
+        const QString value = settings.value(QLatin1String(name)).toString();
+        if (value != QLatin1String("true") && value != QLatin1String("false"))
+            return std::nullopt;
+        choices.*field = value == QLatin1String("true");
+    }
+    return choices;
+}
+
+bool Program_Settings::Remember(const Confirm_Choices& choices) const
+{
+    if (!Is_Usable() || !Has_No_Lock_Left(m_path))
+        return false;
+    if (QSettings(m_path, QSettings::IniFormat).status() != QSettings::NoError && !Remove_File(m_path))
+        return false;
+    QSettings settings(m_path, QSettings::IniFormat);
+    for (const auto& [name, field] : Fields)
+        settings.setValue(QLatin1String(name), choices.*field);
+    return Is_Written(settings) && Set_Permissions(m_path, Only_The_User);
+}
+
+bool Program_Settings::Forget() const
+{
+    if (Is_Missing(m_path))
+        return true;
+    if (!Is_Usable() || !Has_No_Lock_Left(m_path))
+        return false;
+    QSettings settings(m_path, QSettings::IniFormat);
+    settings.remove(QLatin1String(Group));
+    const bool is_empty = settings.allKeys().isEmpty();
+    return Is_Written(settings) && (!is_empty || Remove_File(m_path));
+}
