@@ -74,6 +74,16 @@ std::vector<Story::Message> Story::Messages()
             {Soloists.at(1), To_The_Soloists}};
 }
 
+// The first number goes out as an international one; one message is not known to have been sent and is sent again.
+std::vector<Story::Message> Story::Messages_Of_Second_List()
+{
+    std::vector<Message> messages;
+    for (const QString& number : {QString("+447700900123"), Concert_Helper, Silent_Member, Killed_Member, Killed_Member,
+                                  Second_List.constLast()})
+        messages.push_back({number, With_A_Price});
+    return messages;
+}
+
 QByteArray Story::Contacts_Export()
 {
     return (Rule + "\n\n\t\t\t[ Corvane - Contact List ]\t\t\t\n\n" + Rule).toUtf8() +

@@ -43,6 +43,16 @@ inline const QString Committee = "Committee";
 /// What the phone must have received at the end, in its order.
 std::vector<Message> Messages();
 
+/// Numbers of a second list, which goes out message by message while its phone has its troubles; and what the phone
+/// must have received of it.
+inline const QString Refused_Member = "07700900456";
+inline const QString Silent_Member = "07700900654";
+inline const QString Killed_Member = "07700900987";
+inline const QStringList Second_List = {First_Member,  Refused_Member, Concert_Helper,
+                                        Silent_Member, Killed_Member,  "07700900321"};
+inline const QString With_A_Price = "Tickets are 10 € [students 5 €]";
+std::vector<Message> Messages_Of_Second_List();
+
 /// What the files must hold, octet by octet; date is the day of the send job.
 QByteArray Contacts_Export();
 QByteArray Sent_Items(const QDate& date);

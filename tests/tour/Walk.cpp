@@ -2,8 +2,11 @@
 
 #include "records/Data_Paths.h"
 #include "tour/Story.h"
+#include "tour/Windows.h"
 
 #include <QFile>
+
+using namespace Windows;
 
 namespace {
 
@@ -14,28 +17,6 @@ const QString Fill_Selected_Question =
     "This action will copy the above message to the selected numbers in the list. The messages of rest "
     "of the numbers remain unchanged.\n\nDo you want to continue?";
 const QString Continue_Question = "Are you sure you want to continue";
-
-// The names of the program's windows, by which the visitor finds them.
-const QString Main = "CorvaneAppDelegate";
-const QString Connection = "Connection_Info";
-const QString Phone_Wizard = "Phone_List_Wnd";
-const QString Please_Wait = "PleaseWait_Modeless";
-const QString Exclusions = "Exclusion_Wizard";
-const QString Exclusion_Number = "Update_Ex_Num";
-const QString Templates = "Templates";
-const QString Template = "UpdateTemp";
-const QString Sent_Items = "Sent_Items";
-const QString Import_Question = "Load_Num_Info";
-const QString Fill = "Fill_Msg_In_List";
-const QString Edit_One_Window = "Update_Num_SMS";
-const QString Edit_Selected_Window = "Update_Sel_Num_SMS";
-const QString Long_Message = "Long_SMS_Dlg";
-const QString Before_Sending = "Send_Msg_Info";
-const QString Progress = "Send_Modeless";
-const QString Export_Format = "Export_Option";
-const QString Export_Done = "Open_Export_Log";
-const QString Help = "Help_Wnd";
-const QString Message_Box = "Message_Box";
 
 QByteArray Content_Of(const QString& path)
 {
