@@ -59,9 +59,7 @@ std::optional<Report_Place> Announced_Place(const QByteArray& line)
         field = field.trimmed().replace('"', "");
     bool is_number = false;
     const int index = fields.value(1).toInt(&is_number);
-    const bool is_name = std::all_of(fields.first().begin(), fields.first().end(),
-                                     [](char letter) { return letter >= 'A' && letter <= 'Z'; });
-    if (fields.size() != 2 || !is_number || index < 0 || !is_name)
+    if (fields.size() != 2 || !is_number || index < 0)
         return std::nullopt;
     return Report_Place{fields.first(), index};
 }
@@ -105,7 +103,8 @@ QList<Told_Report> Entries_Listed(const QByteArrayList& lines, const QByteArray&
         const QByteArray values = lines[at].mid(prefix.size());
         bool is_number = false;
         const int index = values.first(std::max<qsizetype>(values.indexOf(','), 0)).trimmed().toInt(&is_number);
-        if (const auto report = Report_Of(Behind_Comma(Behind_Comma(values)), lines.value(at + 1)); report && is_number)
+        if (const auto report = Report_Of(Behind_Comma(Behind_Comma(values)), lines.value(at + 1));
+            report && is_number && index >= 0)
             reports.append({*report, Report_Place{memory, index}});
     }
     return reports;

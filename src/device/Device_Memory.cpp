@@ -15,18 +15,22 @@ QByteArray Field(const At_Answer& answer, qsizetype number)
     return line.mid(line.indexOf(':') + 1).split(',').value(number).trimmed();
 }
 
+// In quotes, whether it is in any or not; empty where it is no name, which must not get into a command.
 QByteArray Quoted(QByteArray name)
 {
-    return '"' + name.replace('"', "") + '"';
+    name.replace('"', "");
+    const bool is_name = !name.isEmpty() && std::all_of(name.begin(), name.end(), [](char letter) {
+        return (letter >= 'A' && letter <= 'Z') || (letter >= '0' && letter <= '9') || letter == '_';
+    });
+    return is_name ? '"' + name + '"' : QByteArray();
 }
 
 } // namespace
 
 Device_Memory::Device_Memory(At_Conversation& conversation) : m_conversation(conversation)
 {
-    const QByteArray own = Field(m_conversation.Ask("AT+CPMS?", At_Conversation::Usual_Answer, Name), 0);
-    if (!own.isEmpty())
-        m_chosen = m_own = Quoted(own);
+    m_own = Quoted(Field(m_conversation.Ask("AT+CPMS?", At_Conversation::Usual_Answer, Name), 0));
+    m_chosen = m_own;
 }
 
 Device_Memory::~Device_Memory()
@@ -37,11 +41,12 @@ Device_Memory::~Device_Memory()
 
 std::optional<int> Device_Memory::Choose(const QByteArray& memory)
 {
-    if (m_own.isEmpty())
+    const QByteArray wanted = Quoted(memory);
+    if (m_own.isEmpty() || wanted.isEmpty())
         return std::nullopt;
-    const At_Answer answer = m_conversation.Ask("AT+CPMS=" + Quoted(memory), At_Conversation::Usual_Answer, Name);
+    const At_Answer answer = m_conversation.Ask("AT+CPMS=" + wanted, At_Conversation::Usual_Answer, Name);
     if (answer.m_end != At_End::Refused)
-        m_chosen = Quoted(memory); // it may have been, where no answer came
+        m_chosen = wanted; // it may have been, where no answer came
     if (answer.m_end != At_End::Ok)
         return std::nullopt;
     return std::max(Field(answer, 1).toInt(), 0);
