@@ -4,8 +4,11 @@
 #include "gui/In_Windows.h"
 #include "records/Exclusion_Files.h"
 #include "records/Exclusion_Trouble.h"
+#include "records/Job_Journal.h"
 #include "toolkit/PleaseWait_Modeless.h"
 #include "windows/exclusion/Exclusion_Wizard.h"
+#include "windows/jobs/Receipt_Wnd.h"
+#include "windows/jobs/Unknown_Rows_Sheet.h"
 #include "windows/list/Fill_Msg_In_List.h"
 #include "windows/list/Send_Msg_Info.h"
 #include "windows/list/Update_Num_SMS.h"
@@ -25,6 +28,7 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QTableView>
+#include <QTemporaryDir>
 
 namespace {
 
@@ -81,6 +85,36 @@ QWidget& Exclusion_Numbers(CorvaneAppDelegate& main)
     In<QLineEdit>(wizard, "m_ex_list_name_edit").setText("Customers of the northern region, without Scotland");
     Exclusion_Wizard::defaultInstance()->Next_Btn();
     return wizard;
+}
+
+/// The record of a job with one row that may have been sent.
+Job_Record Doubtful_Job()
+{
+    const QTemporaryDir folder;
+    auto made = Job_Journal::Create(folder.path(), {New_Job_Id(), "234150000000001", "/dev/ttyUSB0", {}},
+                                    [is_made = false]() mutable {
+                                        Job_Row row;
+                                        row.number = "00447700900100";
+                                        return std::exchange(is_made, true) ? std::nullopt : std::optional(row);
+                                    });
+    made.journal->Hand_Over(1, 1, 1);
+    made.journal->Unknown(1, 1, "no-result");
+    return *Read_Job(made.journal->Path()).record;
+}
+
+const QString Longest_Sums =
+    "Recipients: 1000000. Sent: 1000000. May have been sent: 1000000. Not tried: 1000000. Refused: 1000000. Skipped: "
+    "1000000. Delivered: 1000000. Still trying: 1000000. Not delivered: 1000000. No report: 1000000.";
+
+QWidget& Receipts_With_Everything(CorvaneAppDelegate& main)
+{
+    auto& window = *new Receipt_Wnd(&main);
+    const QTemporaryDir none;
+    window.Show_Kept(none.path());
+    EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
+    In<QWidget>(window, "Kept_Receipts").show();
+    In<QWidget>(window, "Removal_Question").show();
+    return window;
 }
 
 template <class Window>
@@ -153,6 +187,21 @@ const std::vector<Sight>& Every_Window()
              In<QLabel>(*Open_Export_Log::defaultInstance(), "_notice").show();
              return *Open_Export_Log::defaultInstance();
          }},
+        {"receipt", Made_Over<Receipt_Wnd>, {{"_Sums", Longest_Sums}}},
+        {"receipts with everything",
+         Receipts_With_Everything,
+         {{"_Facts", "Job: 20261121-101500-3f9a. Began: 21 November 2026, 10:15. Device: /dev/serial/by-id/usb-" +
+                         QString(60, u'L') + ". SIM card: ends with 0001. State: not ended."},
+          {"_Sums", Longest_Sums},
+          {"_Notice", "Written to /home/somebody/Documents/receipt.csv. An apostrophe is in front of each number, and "
+                      "of whatever else a spreadsheet would take for a formula."}}},
+        {"rows that may have been sent",
+         [](CorvaneAppDelegate& main) -> QWidget& {
+             return *new Unknown_Rows_Sheet({}, std::make_shared<const Job_Receipt>(Doubtful_Job()), &main);
+         },
+         {{"_Choices", "Leave as it is: 1000000. Send again: 1000000. Count as sent: 1000000."},
+          {"_Trouble", "The decisions could not be kept: the list beside its journal is not the one that the job began "
+                       "with."}}},
         {"exclusion lists", Exclusion_Lists},
         {"name of an exclusion list", Exclusion_Name},
         {"numbers of an exclusion list", Exclusion_Numbers, {{"m_st_num_count", "Total Numbers : 1000000"}}},

@@ -1,5 +1,7 @@
 #include "windows/jobs/Flow_Layout.h"
 
+#include <QStyle>
+#include <QWidget>
 #include <algorithm>
 
 Flow_Layout::Flow_Layout(QWidget* widget) : QLayout(widget)
@@ -65,7 +67,6 @@ void Flow_Layout::setGeometry(const QRect& place)
 
 int Flow_Layout::Height_In(const QRect& place, bool moves) const
 {
-    const bool is_from_right = parentWidget() && parentWidget()->isRightToLeft();
     int used = 0; // of the line
     int top = 0;
     int line_height = 0;
@@ -79,9 +80,9 @@ int Flow_Layout::Height_In(const QRect& place, bool moves) const
             line_height = 0;
         }
         used += used > 0 ? spacing() : 0;
+        const QRect spot(place.left() + used, place.top() + top, size.width(), size.height());
         if (moves)
-            item->setGeometry({is_from_right ? place.right() + 1 - used - size.width() : place.left() + used,
-                               place.top() + top, size.width(), size.height()});
+            item->setGeometry(QStyle::visualRect(parentWidget()->layoutDirection(), place, spot));
         used += size.width();
         line_height = std::max(line_height, size.height());
     }

@@ -32,7 +32,7 @@ Receipt_Wnd::Receipt_Wnd(QWidget* parent)
     m_ui->layout->insertWidget(0, m_kept);
     setTabOrder(m_kept, m_ui->_Filter);
     m_kept->hide();
-    Apply_Window_Look(*this, Letters{.columns = 150, .lines = 38});
+    Apply_Window_Look(*this, Letters{.columns = 195, .lines = 40});
     Set_Up_Table();
     Set_Up_Exports();
     Show_Empty({});
@@ -72,10 +72,10 @@ void Receipt_Wnd::Set_Up_Table()
     set_width(0, 8);
     set_width(Receipt_Rows::Number_Column, 20);
     table.setColumnWidth(Receipt_Rows::Outcome_Column, outcome_width + letters.averageCharWidth() * 3);
-    set_width(Receipt_Rows::Reason_Column, 32);
+    set_width(Receipt_Rows::Reason_Column, 30);
     set_width(Receipt_Rows::Parts_Column, 12);
-    set_width(Receipt_Rows::Delivery_Column, 22);
-    set_width(Receipt_Rows::Time_Column, 22);
+    set_width(Receipt_Rows::Delivery_Column, 20);
+    set_width(Receipt_Rows::Time_Column, 24);
     Give_Table_Keys(table, {});
 }
 

@@ -108,8 +108,13 @@ void Unfinished_Strip::Lay_Out()
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(12, 10, 12, 10);
     column->setSpacing(6);
-    for (QWidget* row : {static_cast<QWidget*>(m_words), static_cast<QWidget*>(m_counts), static_cast<QWidget*>(m_more),
-                         static_cast<QWidget*>(m_trouble), m_buttons, static_cast<QWidget*>(m_question)})
+    auto* heading = new QHBoxLayout;
+    heading->addWidget(m_words, 1);
+    heading->addWidget(m_more, 0, Qt::AlignTop);
+    m_more->setWordWrap(false);
+    column->addLayout(heading);
+    for (QWidget* row : {static_cast<QWidget*>(m_counts), static_cast<QWidget*>(m_trouble), m_buttons,
+                         static_cast<QWidget*>(m_question)})
         column->addWidget(row);
     QFont bold = font();
     bold.setBold(true);

@@ -38,7 +38,7 @@ Unknown_Rows_Sheet::Unknown_Rows_Sheet(QString journal_path, std::shared_ptr<con
 {
     m_ui->setupUi(this);
     m_ui->_Trouble->hide();
-    Apply_Window_Look(*this, Letters{.columns = 110, .lines = 28});
+    Apply_Window_Look(*this, Letters{.columns = 160, .lines = 30});
     Set_Up_Table();
     Connect_Buttons();
     Say_Choices();
@@ -64,9 +64,9 @@ void Unknown_Rows_Sheet::Set_Up_Table()
     const int letter = table.fontMetrics().averageCharWidth();
     table.horizontalHeader()->setStretchLastSection(false);
     table.horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
-    table.setColumnWidth(2, letter * 36);
-    table.setColumnWidth(3, letter * 22);
-    table.setColumnWidth(4, letter * 18);
+    table.setColumnWidth(2, letter * 38);
+    table.setColumnWidth(3, letter * 23);
+    table.setColumnWidth(4, letter * 19);
     Give_Table_Keys(table, {});
     m_table_model->Reload();
     if (!m_rows.empty())
