@@ -100,11 +100,6 @@ private:
     Remains& m_remains;
 };
 
-Line_Counts Counts_Of(const Virtual_Phone& phone)
-{
-    return {phone.Heard_Bytes().size(), phone.Said()};
-}
-
 // The child's end of the questions; an answer is a Line_Counts.
 Line_Counts Ask_Through(int socket)
 {

@@ -6,7 +6,14 @@
 
 namespace {
 constexpr double Longest_Patience = 10;
+constexpr std::chrono::milliseconds A_Moment(20);
 } // namespace
+
+Line_Counts Counts_Of(const Virtual_Phone& phone)
+{
+    const std::uint64_t heard = phone.Heard_Bytes().size();
+    return {heard, phone.Said(A_Moment)};
+}
 
 int Patient_Line::Open(const char* path, int flags)
 {

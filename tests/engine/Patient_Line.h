@@ -1,6 +1,7 @@
 #pragma once
 
 #include "device/Serial_Calls.h"
+#include "phone/Virtual_Phone.h"
 
 #include <cstdint>
 #include <functional>
@@ -12,13 +13,16 @@ struct Line_Counts
     std::uint64_t said = 0;
 };
 
+/// Serves the phone's line, and waits for what it says a moment later.
+Line_Counts Counts_Of(const Virtual_Phone& phone);
+
 // The system's calls on a phone's line, where a time-out means that the phone has nothing to say: a wait ends in vain
 // only when all that was written has been heard, and all that was said to it has been read. So at a fast pace no answer
 // is lost to a busy machine. For one line, and one thread.
 class Patient_Line : public Serial_Calls
 {
 public:
-    /// Asks the phone at the other end, which serves its line first.
+    /// Asks for the counts of the phone at the other end.
     explicit Patient_Line(std::function<Line_Counts()> ask) : m_ask(std::move(ask)) {}
 
     int Open(const char* path, int flags) override;

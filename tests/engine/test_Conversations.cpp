@@ -198,7 +198,7 @@ private:
     Expected_Talk m_expected;
     QTemporaryDir m_folder;
     Virtual_Phone m_phone;
-    Noted_Line m_line{[this] { return Line_Counts{m_phone.Heard_Bytes().size(), m_phone.Said()}; }};
+    Noted_Line m_line{[this] { return Counts_Of(m_phone); }};
     Send_Order m_order;
     Confirmed_Options m_options;
     Job_Witness m_witness;
