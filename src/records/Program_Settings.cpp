@@ -27,6 +27,14 @@ bool Has_No_Lock_Left(const QString& path)
     return Remove_File(path + QStringLiteral(".lock"));
 }
 
+// What is wrong with a file shows only once all of it was looked at.
+bool Is_Of_No_Use(const QString& path)
+{
+    const QSettings settings(path, QSettings::IniFormat);
+    const bool is_empty = settings.allKeys().isEmpty();
+    return is_empty || settings.status() != QSettings::NoError;
+}
+
 bool Is_Written(QSettings& settings)
 {
     settings.sync();
@@ -44,11 +52,9 @@ bool Program_Settings::Is_Usable() const
 
 std::optional<Confirm_Choices> Program_Settings::Remembered() const
 {
-    if (Is_Missing(m_path) || !Is_Usable())
+    if (Is_Missing(m_path) || !Is_Usable() || Is_Of_No_Use(m_path))
         return std::nullopt;
     const QSettings settings(m_path, QSettings::IniFormat);
-    if (settings.status() != QSettings::NoError)
-        return std::nullopt;
     Confirm_Choices choices;
     for (const auto& [name, field] : Fields) {
         const QString value = settings.value(QLatin1String(name)).toString();
@@ -63,7 +69,7 @@ bool Program_Settings::Remember(const Confirm_Choices& choices) const
 {
     if (!Is_Usable() || !Has_No_Lock_Left(m_path))
         return false;
-    if (QSettings(m_path, QSettings::IniFormat).status() != QSettings::NoError && !Remove_File(m_path))
+    if (Is_Of_No_Use(m_path) && !Remove_File(m_path))
         return false;
     QSettings settings(m_path, QSettings::IniFormat);
     for (const auto& [name, field] : Fields)

@@ -187,10 +187,11 @@ INSTANTIATE_TEST_SUITE_P(
                  "Some of its parts were sent.",
                  Receipt_Kind::Not_Tried,
                  1},
-        Row_Case{"Refused", {Plain_Row(Ann), "E"}, "✗ refused (500)", "Unknown error", Receipt_Kind::Refused},
+        Row_Case{
+            "Refused", {Plain_Row(Ann), "E"}, "✗ refused (500: unknown error)", "Unknown error", Receipt_Kind::Refused},
         Row_Case{"Refused_In_Part",
                  {Plain_Row(Ann, 2), "SE", "cms:21"},
-                 "✗ refused (21)",
+                 "✗ refused (21: the network rejects this message)",
                  "The network rejects this message.",
                  Receipt_Kind::Refused,
                  1},

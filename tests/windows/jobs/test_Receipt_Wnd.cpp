@@ -89,7 +89,8 @@ TEST_F(Receipt_Wnd_Test, Says_What_Became_Of_Each_Message_With_Sums_On_Top)
     ASSERT_EQ(Row_Count(), 4);
     QStringList first = Cells(Table(), 0);
     EXPECT_EQ(first.mid(1, 6).join(u'|'), QStringLiteral("0041|Hello\nyou|✓ sent||1 / 1|delivered"));
-    EXPECT_EQ(Cells(Table(), 1).mid(3, 3).join(u'|'), QStringLiteral("✗ refused (500)|Unknown error|0 / 1"));
+    EXPECT_EQ(Cells(Table(), 1).mid(3, 3).join(u'|'),
+              QStringLiteral("✗ refused (500: unknown error)|Unknown error|0 / 1"));
     EXPECT_EQ(Cells(Table(), 2).mid(3, 2).join(u'|'),
               QStringLiteral("? may have been sent|The device gave no result in time."));
     EXPECT_EQ(Column(Outcome).at(3), QStringLiteral("· not tried"));
@@ -257,8 +258,8 @@ TEST_F(Receipt_Wnd_Test, Is_Exported_In_Three_Formats)
     ASSERT_TRUE(In<QPushButton>(m_window, "Export_Btn").menu());
     Export("Export_Text", m_home.filePath("receipt"));
     EXPECT_EQ(Notice(), "Written to " + m_home.filePath("receipt.txt") + ".");
-    EXPECT_TRUE(
-        QString::fromUtf8(Bytes_Of(m_home.filePath("receipt.txt"))).contains(QStringLiteral("✗ refused (500)")));
+    EXPECT_TRUE(QString::fromUtf8(Bytes_Of(m_home.filePath("receipt.txt")))
+                    .contains(QStringLiteral("✗ refused (500: unknown error)")));
     Export("Export_Html", m_home.filePath("receipt"));
     EXPECT_TRUE(Bytes_Of(m_home.filePath("receipt.html")).startsWith("<!DOCTYPE html>"));
     Export("Export_Csv", m_home.filePath("receipt.csv"));
