@@ -8,7 +8,7 @@ logs="$root/build/logs"
 
 build_packages=(
     g++ cmake ninja-build ccache
-    qt6-base-dev qt6-serialport-dev libxcb1-dev
+    qt6-base-dev qt6-serialport-dev libxcb1-dev libzip-dev pkg-config
     libgtest-dev libgmock-dev
     xvfb xauth openbox fonts-dejavu-core fonts-noto-core fonts-liberation fonts-cantarell
     dbus at-spi2-core gir1.2-atspi-2.0 python3-pyatspi

@@ -8,7 +8,7 @@ class Table_Builder
 {
 public:
     static constexpr int Most_Columns = 16384; ///< as many as a spreadsheet has
-    static constexpr std::size_t Most_Fields = 64'000'000;
+    static constexpr std::size_t Most_Fields = 32'000'000;
     static constexpr std::size_t Most_Bytes = std::size_t{1} << 30;
 
     /// Makes room for so many bytes of text.

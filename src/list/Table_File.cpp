@@ -1,7 +1,9 @@
 #include "list/Table_File.h"
 
+#include "list/Contact_Cards.h"
 #include "list/Delimited_Text.h"
 #include "list/Number_File.h"
+#include "list/Spreadsheet_File.h"
 #include "list/Text_Encoding.h"
 #include "texts/Table_Texts.h"
 
@@ -66,11 +68,38 @@ Table_In_A_File Delimited(const QByteArray& text, const QString& name, const Tab
     return file;
 }
 
+// The values of cards may each be in an encoding of their own, so that only one that is no ASCII is undone for all.
+Table_In_A_File Cards(const QByteArray& bytes, const QString& encoding)
+{
+    Table_In_A_File file;
+    file.facts.format = QStringLiteral("vCard");
+    file.facts.encoding = encoding;
+    file.facts.number_column = QLatin1String(Card_Number_Column);
+    Table_Builder builder(bytes.size());
+    file.trouble = Read_Contact_Cards(bytes, builder);
+    file.table = builder.Take();
+    return file;
+}
+
+Table_In_A_File Spreadsheet(const QByteArray& bytes, const QString& sheet)
+{
+    Table_In_A_File file;
+    Table_Builder builder;
+    const Read_Sheet read = Read_Spreadsheet(bytes, sheet, builder);
+    file.facts.format = read.format;
+    file.facts.sheet = read.sheet;
+    file.trouble = read.trouble;
+    file.table = builder.Take();
+    return file;
+}
+
 Table_In_A_File Table_Of_Text(QByteArray bytes, const QString& name, const Table_Choices& choices)
 {
     if (!choices.sheet.isEmpty())
         return Failed(Texts::Table::No_Sheets);
     QString encoding = choices.encoding;
+    if (encoding.isEmpty() && Is_Contact_Cards(bytes))
+        return Cards(bytes, encoding);
     if (encoding.isEmpty()) {
         const Encoding_Guess guess = Guess_Encoding(bytes);
         if (!guess.trouble.isEmpty())
@@ -80,6 +109,8 @@ Table_In_A_File Table_Of_Text(QByteArray bytes, const QString& name, const Table
     const Utf8_Text text = Text_In_Utf8(std::move(bytes), encoding);
     if (!text.trouble.isEmpty())
         return Failed(text.trouble);
+    if (Is_Contact_Cards(text.bytes))
+        return Cards(text.bytes, encoding);
     Table_In_A_File file = Delimited(text.bytes, name, choices);
     file.facts.encoding = encoding;
     return file;
@@ -106,5 +137,7 @@ Table_In_A_File Table_Of_Bytes(QByteArray bytes, const QString& name, const Tabl
         return Failed(Texts::Table::Empty);
     if (const QString trouble = Of_Another_Kind(bytes); !trouble.isEmpty())
         return Failed(trouble);
-    return Table_Of_Text(std::move(bytes), name, choices);
+    if (const QString trouble = Trouble_Of_Old_Spreadsheet(bytes); !trouble.isEmpty())
+        return Failed(trouble);
+    return Is_Archive(bytes) ? Spreadsheet(bytes, choices.sheet) : Table_Of_Text(std::move(bytes), name, choices);
 }

@@ -4,8 +4,8 @@
 
 #include <QByteArray>
 
-// The door to lists as people have them: tables as text. What a file is shows in its bytes, not in its name. Any
-// thread; a file is read as a whole.
+// The door to lists as people have them: tables as text, spreadsheets and contacts. What a file is shows in its bytes,
+// not in its name. Any thread; a file is read as a whole.
 
 /// Where a guess would be wrong; what is empty is guessed.
 struct Table_Choices
@@ -18,10 +18,11 @@ struct Table_Choices
 /// How a file was read.
 struct Table_Facts
 {
-    QString format;    ///< such as "CSV"
-    QString encoding;  ///< of a text
-    QString delimiter; ///< of a text; "tab" for one
-    QString sheet;     ///< of a spreadsheet
+    QString format;        ///< "CSV", "vCard", "XLSX" or "ODS"
+    QString encoding;      ///< of a text
+    QString delimiter;     ///< of a text; "tab" for one
+    QString sheet;         ///< of a spreadsheet
+    QString number_column; ///< where the format itself says where the numbers are
 };
 
 struct Table_In_A_File

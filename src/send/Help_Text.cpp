@@ -8,7 +8,8 @@ Sends a text message to many people through your own GSM phone or modem, without
 Recipients
   --to NUMBER            one recipient; may be given again. A leading + is kept as 00
   --numbers FILE         a text or RTF file, one number a line; "-" reads standard input
-  --table FILE           CSV or TSV; its first row names the columns
+  --table FILE           CSV, TSV, XLSX, ODS or vCard; its first row names the columns (of contacts they are FN,
+                         N, First name, Last name, TEL, TEL 2, TEL 3, ORG and EMAIL)
     --number-column NAME the column of the numbers; by default the one that holds some, an error if several do
     --sheet NAME         of a spreadsheet; by default its first
     --encoding NAME  --delimiter CHARACTER

@@ -28,7 +28,7 @@ QStringList Names_Of(const Contact_Table& table, const std::vector<int>& columns
 Trouble Choose_Column(const Arguments& arguments, Table_Input& input)
 {
     const Contact_Table& table = input.table;
-    const QString& asked = arguments.number_column;
+    const QString asked = arguments.number_column.isEmpty() ? input.told.facts.number_column : arguments.number_column;
     const std::vector<int> found = asked.isEmpty() ? Number_Columns(table) : table.Columns_Named(asked);
     if (found.size() == 1) {
         input.number_column = found.front();

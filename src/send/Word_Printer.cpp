@@ -76,7 +76,9 @@ void Word_Printer::Plan(const Plan_Facts& plan)
     const Table_Facts& facts = plan.table->facts;
     QString line = QStringLiteral("Table: ") + facts.format;
     if (!facts.encoding.isEmpty())
-        line += QStringLiteral(" in %1, %2 between fields").arg(facts.encoding, facts.delimiter);
+        line += QStringLiteral(" in ") + facts.encoding;
+    if (!facts.delimiter.isEmpty())
+        line += QStringLiteral(", \"%1\" between fields").arg(facts.delimiter);
     if (!facts.sheet.isEmpty())
         line += QStringLiteral(", sheet \"%1\"").arg(facts.sheet);
     Print(line + QStringLiteral(", numbers in \"%1\"").arg(plan.table->number_column));

@@ -24,7 +24,12 @@ inline constexpr Fixed_Text Unknown_Encoding{"the encoding \"%1\" is not known"}
 inline constexpr Fixed_Text Wrong_Encoding{"it is not encoded in %1"};
 inline constexpr Fixed_Text Mixed_Encodings{"it mixes UTF-8 with another encoding; line %1 is not UTF-8"};
 inline constexpr Fixed_Text Quote_Not_Closed{"the quote that opens in line %1 is never closed"};
+
+// Spreadsheets and contacts.
 inline constexpr Fixed_Text No_Sheets{"it has no sheets"};
+inline constexpr Fixed_Text No_Such_Sheet{"it has no sheet \"%1\"; its sheets are %2"};
+inline constexpr Fixed_Text Damaged{"it is damaged, or only a part of it"};
+inline constexpr Fixed_Text Card_Without_End{"the contact that begins in line %1 has no end"};
 
 // A row's trouble.
 inline constexpr Fixed_Text Too_Many_Fields{"%1 fields where %2 have names"};

@@ -73,8 +73,8 @@ TEST(Text_Encoding, Is_Taken_As_Given)
 
 TEST(Text_Encoding, A_French_Text_In_Capitals_Is_No_Mixture)
 {
-    const auto guess =
-        Guess_Encoding("Nom;Tel\n\xAB" "CAF\xC9\xBB;1\n\xE9\xE8\xEA\xE0\xE9\xE8\xEA\xE0\xE9\xE8\xEA\xE0;2\n");
+    const auto guess = Guess_Encoding("Nom;Tel\n\xAB"
+                                      "CAF\xC9\xBB;1\n\xE9\xE8\xEA\xE0\xE9\xE8\xEA\xE0\xE9\xE8\xEA\xE0;2\n");
     EXPECT_EQ(guess.name, "windows-1252") << guess.trouble.toStdString();
 }
 

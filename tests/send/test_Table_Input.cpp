@@ -156,6 +156,6 @@ TEST_F(Table_Runs, A_Dry_Run_Says_How_The_Table_Was_Read)
         run.lines.last().value("table"),
         (QJsonObject{{"format", "CSV"}, {"encoding", "windows-1252"}, {"delimiter", ";"}, {"number_column", "Phone"}}));
     EXPECT_THAT(Run({"--dry-run", "--table", table, "--message", "Hi"}).output,
-                HasSubstr("Table: CSV in windows-1252, ; between fields, numbers in \"Phone\"\n"));
+                HasSubstr("Table: CSV in windows-1252, \";\" between fields, numbers in \"Phone\"\n"));
     EXPECT_EQ(Run({"--dry-run", "--table", table, "--delimiter", ",", "--message", "Hi"}).status, 1);
 }

@@ -1,0 +1,77 @@
+#!/usr/bin/env python3
+"""Makes the lists of this folder that a program writes; the others, *.vcf and quotes.csv, are written by hand.
+Needs python3-openpyxl and libreoffice-calc-nogui. What becomes of each of their rows stands in golden_lists.txt, which
+is not made here: it says what must come out."""
+import csv
+import datetime
+import os
+import shutil
+import subprocess
+import tempfile
+
+import openpyxl
+from openpyxl.styles import numbers
+
+HERE = os.path.dirname(os.path.abspath(__file__))
+PEOPLE = [
+    ["Name", "City", "Phone"],
+    ["Ann", "Bath", "07700 900100"],
+    ['Bob "Bo" Hill', "Stoke, north", "+44 7700 900101"],
+    ["J\u00f6rg\nand Eva", "", "0044 (0)7700/900-102"],
+    ["Zo\u00eb", "York", ""],
+    ["", "", ""],
+    ["Dee", "Ely", "7700900104"],
+    ["Eve", "Ayr", "4.477E+11"],
+]
+
+
+def path(name):
+    return os.path.join(HERE, name)
+
+
+def text(name, encoding, **dialect):
+    with open(path(name), "w", newline="", encoding=encoding) as file:
+        csv.writer(file, **dialect).writerows(PEOPLE)
+
+
+def workbook():
+    book = openpyxl.Workbook()
+    notes = book.active
+    notes.title = "Notes"
+    notes.append(["Nothing", "here"])
+    notes.sheet_state = "hidden"
+    sheet = book.create_sheet("People")
+    sheet.append(["Name", "Phone", "Born", "Fee", "Code", "Sum", "Late"])
+    sheet.append(["Ann", "07700 900100", datetime.date(1990, 2, 3), 12.5, 7, "=D2*2", True])
+    sheet.append(["J\u00f6rg & <Eva>", 447700900101, datetime.date(1899, 12, 31), 1234567.891, 42, "=1/0", False])
+    sheet.append(["Dee", 7700900102, datetime.datetime(2026, 12, 24, 18, 30), 0.1 + 0.2, 123456, '="x"&"y"', None])
+    sheet.append([])
+    sheet.append(["Eve", 4.47700900103e17, None, -3, None, None, None])
+    sheet.append(["  Fay ", "'07700900104", None, 0, 0, None, "late"])
+    for row in range(2, 8):
+        sheet.cell(row, 3).number_format = "dd/mm/yyyy"
+        sheet.cell(row, 4).number_format = numbers.FORMAT_NUMBER_COMMA_SEPARATED1
+        sheet.cell(row, 5).number_format = "00000"
+    sheet.cell(4, 3).number_format = 'd mmmm yyyy "at" h:mm AM/PM'
+    sheet["A2"].comment = openpyxl.comments.Comment("not for sending", "secretary")
+    book.create_sheet("Spare").append(["Phone", "Name"])
+    book["Spare"].append(["07700900105", "Gil"])
+    book.save(path("openpyxl.xlsx"))
+
+
+def convert():
+    with tempfile.TemporaryDirectory() as folder:
+        for kind in ("ods", "xlsx", "csv"):
+            subprocess.run(["soffice", "--headless", "--convert-to", kind, "--outdir", folder, path("openpyxl.xlsx")],
+                           check=True, stdout=subprocess.DEVNULL)
+            made = os.path.join(folder, "openpyxl." + kind)
+            if kind != "csv":  # of which it writes another sheet
+                shutil.copy(made, path("libreoffice." + kind))
+
+
+text("comma.csv", "utf-8", dialect="excel")
+text("semicolon.csv", "cp1252", delimiter=";", quoting=csv.QUOTE_ALL)
+text("tab.tsv", "utf-16", dialect="excel-tab")
+text("unix.csv", "utf-8-sig", dialect="unix")
+workbook()
+convert()
