@@ -39,7 +39,6 @@ void Confirmed_Walk::Go_On_With_The_Job()
     Click(Unknown_Rows, "Count_As_Sent_Btn");
     Click_Row_With(Unknown_Rows, "_Rows", Story::Killed_Member);
     Click(Unknown_Rows, "Send_Again_Btn");
-    Await_Text(Unknown_Rows, "_Choices", "");
     Take_Picture(Unknown_Rows, "may-have-been-sent");
     Leave(Unknown_Rows, "OKPressed");
     Press_In_Box("OK", "Not every message was sent. The list says what became of each.");

@@ -65,13 +65,25 @@ QModelIndex Row_With(const QWidget& table, const QString& text)
     return {};
 }
 
+// A key for a character that no key of a plain keyboard has stands for a combination of them.
+void Type_Character(QWidget& widget, QChar character)
+{
+    if (character.unicode() < 0x80) {
+        QTest::keyClick(&widget, character.toLatin1());
+        return;
+    }
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_unknown, {}, character);
+    QCoreApplication::sendEvent(&widget, &press);
+}
+
 void Type_Lines(QWidget& widget, const QString& text)
 {
     const auto lines = text.split(u'\n');
     for (qsizetype line = 0; line < lines.size(); ++line) {
         if (line > 0)
             QTest::keyClick(&widget, Qt::Key_Return);
-        QTest::keyClicks(&widget, lines.at(line));
+        for (const QChar character : lines.at(line))
+            Type_Character(widget, character);
     }
 }
 
