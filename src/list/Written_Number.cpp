@@ -162,7 +162,7 @@ Read_Number International(QString digits, Number_Reading reading)
     if (code == 0)
         return {{}, Number_Reading::Unknown_Code};
     const Country* country = Country_With_Code_Of(digits);
-    if (country && Latin(country->trunk) == Latin("0") && digits.size() > code && digits[code] == u'0')
+    while (country && Latin(country->trunk) == Latin("0") && digits.size() > code && digits[code] == u'0')
         digits.remove(code, 1); // a zero that only callers from within the country dial
     if (digits.size() < Fewest_International)
         return {{}, Number_Reading::Too_Short};
@@ -173,7 +173,8 @@ Read_Number International(QString digits, Number_Reading reading)
 
 Read_Number National(const QString& digits, const Country& country, Number_Reading reading)
 {
-    if (digits.size() < Fewest_National || digits.size() + More_Or_Less_Than_A_Mobile < country.fewest_digits)
+    if (digits.size() < Fewest_National || digits.size() + Latin(country.code).size() < Fewest_International ||
+        digits.size() + More_Or_Less_Than_A_Mobile < country.fewest_digits)
         return {{}, Number_Reading::Too_Short};
     if (digits.size() > country.most_digits + More_Or_Less_Than_A_Mobile ||
         digits.size() + Latin(country.code).size() > Most_International)

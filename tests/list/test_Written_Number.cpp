@@ -62,6 +62,10 @@ INSTANTIATE_TEST_SUITE_P(International, Written_Numbers,
                                          Written{"GB", "\xEF\xBC\x8B\xEF\xBC\x94\xEF\xBC\x94 7700 900123",
                                                  "00447700900123", International}));
 
+INSTANTIATE_TEST_SUITE_P(Found, Written_Numbers,
+                         testing::Values(Written{"GB", "+44 (0(0 900123", "0044900123", International},
+                                         Written{"AC", "993", "", Too_Short}));
+
 INSTANTIATE_TEST_SUITE_P(
     National, Written_Numbers,
     testing::Values(Written{"GB", "07700 900123", "00447700900123", National},
