@@ -43,6 +43,12 @@ std::vector<std::string_view> Sections_Of(std::string_view code)
     return sections;
 }
 
+// What is shown like a plain number: texts, and fractions after their digits.
+bool Is_Plain_From(std::string_view code, bool has_digits)
+{
+    return code.starts_with('@') || code.starts_with("General") || (code.starts_with('/') && has_digits);
+}
+
 const char* Code_Of_Built_In(int number)
 {
     switch (number) {
@@ -141,9 +147,7 @@ Cell_Format::Section Cell_Format::Section_Of(std::string_view code)
         } else if (byte == '\\' || byte == '_' || byte == '*') { // as it is; as wide as; as often as there is room
             if (++at < code.size() && byte == '\\')
                 add(Piece::Literal, code.substr(at, 1));
-        } else if (byte == '@' || rest.starts_with("General") || (Lower(byte) == 'e' && at > 0) ||
-                   (byte == '/' && std::any_of(section.pieces.begin(), section.pieces.end(),
-                                               [](const Piece& piece) { return piece.kind == Piece::Digit; }))) {
+        } else if (Is_Plain_From(rest, section.whole_digits > 0) || (Lower(byte) == 'e' && at > 0)) {
             section.is_plain = true; // as are exponents and fractions
             break;
         } else if (rest.starts_with("AM/PM") || rest.starts_with("A/P")) {
