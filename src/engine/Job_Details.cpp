@@ -34,6 +34,8 @@ Row_Details Details_Of_State(const Job_Row_State& state)
     switch (state.state) {
     case Sending_State::Accepted:
         details.outcome.state = Row_State::Sent;
+        if (!state.words.isEmpty())
+            details.reason = Texts::Confirmed::Counted_As_Sent;
         break;
     case Sending_State::Refused:
         details.outcome = {Row_State::Refused, Cause_Of_Field(state.words).value_or(Device_Cause{})};

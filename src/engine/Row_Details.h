@@ -13,7 +13,7 @@ struct Row_Details
     int parts_sent = 0;      ///< acknowledged by the network
     QList<int> references;   ///< of those, where one was given; 0 to 255
     int tries = 0;           ///< of the part that took most
-    QString reason;          ///< one sentence for a person; empty for Sent
+    QString reason;          ///< one sentence for a person; empty for what the network took
     bool is_earlier = false; ///< settled before the job was gone on with
 };
 

@@ -142,7 +142,7 @@ bool Job_Record::Take_Decision(const Job_Line::Fields& fields)
         if (!May_Have_Been_Sent(part->state))
             continue;
         part->state = goes_again ? Sending_State::Waiting : Sending_State::Accepted;
-        part->words = 0;
+        part->words = goes_again ? 0 : Text_Index(QString::fromUtf16(Counted_By_A_Person));
         m_has_ended = m_has_ended && !goes_again;
     }
     return true;
@@ -198,16 +198,14 @@ Job_Row_State Job_Record::State_Of(int row) const
     Job_Row_State state;
     state.state = Worst_Of(row);
     state.parts = Parts_Of(row);
-    bool has_words = false;
     for (int number = 1; number <= state.parts; ++number) {
         const Job_Part part = Part(row, number);
         state.parts_sent += part.state == Sending_State::Accepted;
         state.tries = std::max(state.tries, part.tries);
         if (part.reference >= 0)
             state.references.append(part.reference);
-        if (part.state == state.state && !has_words)
+        if (part.state == state.state && state.words.isEmpty())
             state.words = part.words;
-        has_words = has_words || part.state == state.state;
     }
     if (state.state == Sending_State::Skipped) {
         const auto reason = m_skipped.constFind(row);

@@ -21,12 +21,13 @@ inline constexpr Fixed_Text No_Messages{"The device takes no text messages."};
 // What can be done about it.
 inline constexpr Fixed_Text Plain_May_Pass{"Those not taken may pass as normal text messages."};
 
-// Why a message was not sent, or may have been.
+// Why a message was not sent, may have been, or counts as sent.
 inline constexpr Fixed_Text No_Prompt{"The device gave no prompt."};
 inline constexpr Fixed_Text No_Result{"The device gave no result in time."};
 inline constexpr Fixed_Text No_Reference{"The device said OK but gave no reference."};
 inline constexpr Fixed_Text Line_Lost{"The device was gone before its result."};
 inline constexpr Fixed_Text Broken_Off{"The program ended before the result."};
+inline constexpr Fixed_Text Counted_As_Sent{"Somebody has counted it as sent."};
 inline constexpr Fixed_Text Number_Invalid{"The number cannot be dialled."};
 
 } // namespace Texts::Confirmed

@@ -7,7 +7,7 @@
 #include <memory>
 
 // What is done to one row of a job that is made for a receipt, in letters: H handed over, S accepted, E refused, U
-// unknown, K skipped in the course of the job; each once for each part in its turn.
+// unknown, K skipped in the course of the job; each once for each part in its turn. C: a person counts it as sent.
 struct Receipt_Job_Row
 {
     Job_Row row;
@@ -59,6 +59,10 @@ private:
     {
         int part = 0;
         for (const QChar letter : job.letters) {
+            if (letter == u'C') {
+                EXPECT_TRUE(journal.Decide(row, Job_Decision::Count_As_Sent, QStringLiteral("user")));
+                continue;
+            }
             part = std::min(part + 1, job.row.parts);
             if (letter == u'K') {
                 EXPECT_TRUE(journal.Skipped(row, job.words));

@@ -180,6 +180,12 @@ INSTANTIATE_TEST_SUITE_P(
     Of_A_Journal, Receipt_Rows,
     testing::Values(
         Row_Case{"Sent", {Plain_Row(Ann, 2), "SS"}, "✓ sent", "", Receipt_Kind::Sent, 2},
+        Row_Case{"Counted_As_Sent",
+                 {Plain_Row(Ann, 2), "SUC"},
+                 "✓ sent",
+                 "Somebody has counted it as sent.",
+                 Receipt_Kind::Sent,
+                 2},
         Row_Case{"Not_Tried", {Plain_Row(Ann), ""}, "· not tried", "", Receipt_Kind::Not_Tried},
         Row_Case{"Begun",
                  {Plain_Row(Ann, 2), "S"},

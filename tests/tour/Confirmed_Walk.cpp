@@ -42,6 +42,7 @@ void Confirmed_Walk::Go_On_With_The_Job()
     Take_Picture(Unknown_Rows, "may-have-been-sent");
     Leave(Unknown_Rows, "OKPressed");
     Press_In_Box("OK", "Not every message was sent. The list says what became of each.");
+    Await_Input(Main, "Show_Receipt");
     Take_Picture(Main, "outcomes");
     Click(Main, "Show_Receipt");
     Await_Text(Receipt, "_Sums", "Recipients: 6.");

@@ -19,6 +19,8 @@ public:
     void Await_Until(const QString& what, const std::function<bool()>& is_so);
     /// Waits until a label or field begins with the text.
     void Await_Text(const QString& window, const QString& control, const QString& beginning);
+    /// Waits until a control is there and can be clicked.
+    void Await_Input(const QString& window, const QString& control);
 
     void Click(const QString& window, const QString& control);
     /// Clicks what closes the window.
@@ -53,7 +55,6 @@ private:
     static QWidget* Find_Window(const QString& name);
     static QWidget& Control(const QString& window, const QString& name);
     void Do(const QString& window, const QString& control, const std::function<void(QWidget&)>& action);
-    void Await_Input(const QString& window, const QString& control);
     void Save(const QPixmap& picture, const QString& name);
 
     QString m_folder;

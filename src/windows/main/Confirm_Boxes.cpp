@@ -54,4 +54,5 @@ void Confirm_Boxes::Enable()
 {
     for (QCheckBox* box : {m_boxes.reports, m_boxes.keep, m_boxes.remember})
         box->setEnabled(m_boxes.confirm->isChecked());
+    m_boxes.more->setVisible(m_boxes.confirm->isChecked());
 }

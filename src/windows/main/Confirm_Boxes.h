@@ -5,6 +5,7 @@
 #include <QObject>
 
 class QCheckBox;
+class QWidget;
 
 // The boxes about sending message by message: which of them can be used, and what the person wants remembered of them.
 // Works on the main window's own controls; owned by the main window; interface thread.
@@ -19,6 +20,7 @@ public:
         QCheckBox* reports;
         QCheckBox* keep;
         QCheckBox* remember;
+        QWidget* more; ///< what holds all but the first, and takes room only while that is ticked
     };
     Confirm_Boxes(const Boxes& boxes, const Program_Settings& settings);
 

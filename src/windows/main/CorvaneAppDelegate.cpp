@@ -99,10 +99,10 @@ bool CorvaneAppDelegate::awakeFromNib()
         box->setCurrentIndex(-1);
         box->lineEdit()->setAccessibleName(box->accessibleName()); // the keyboard focus is here when it is in the box
     }
-    m_confirm_boxes =
-        std::make_unique<Confirm_Boxes>(Confirm_Boxes::Boxes{m_ui->_Confirm_Chk, m_ui->_Reports_Chk,
-                                                             m_ui->_Keep_Receipt_Chk, m_ui->_Remember_Confirm_Chk},
-                                        Program_Settings(Settings_Path));
+    m_confirm_boxes = std::make_unique<Confirm_Boxes>(
+        Confirm_Boxes::Boxes{m_ui->_Confirm_Chk, m_ui->_Reports_Chk, m_ui->_Keep_Receipt_Chk,
+                             m_ui->_Remember_Confirm_Chk, m_ui->confirm_more},
+        Program_Settings(Settings_Path));
     m_import = std::make_unique<Number_Import>(Number_Import::Target{
         [this](int count, int percent) { Show_Import_Progress(count, percent); },
         [this](Recipient_List& recipients) { Take_Over_Imported(recipients); }, [this] { Leave_Import_Unread(); },
