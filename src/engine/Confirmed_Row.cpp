@@ -178,7 +178,8 @@ Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Take_Refusal(co
     }
     if (row.cause_class == Cause_Class::Counts_As_Sent)
         return Take_Accepted(-1, {});
-    Note_Refusal(cause);
+    if (m_was_handed_over || row.cause_class != Cause_Class::Hold) // what waits before that is as it was
+        Note_Refusal(cause);
     switch (row.cause_class) {
     case Cause_Class::Retry_Slowly:
         m_manner.m_sends_slowly = true;

@@ -12,6 +12,8 @@ namespace {
 
 constexpr qsizetype Digits_That_Count = 8;
 
+constexpr std::size_t Most_Counted = 1024; // of one job
+
 constexpr qint64 No_Time = std::numeric_limits<qint64>::min();
 
 quint64 Key_Of(const QString& number, int reference)
@@ -114,7 +116,7 @@ std::optional<Report_Desk::Part> Report_Desk::Match(const Handset::Status_Report
     if (nearest == parts.end())
         return std::nullopt;
     const Part part = *nearest;
-    m_counted.emplace(Report_Key{key, report.m_status, submitted.value_or(No_Time)}, part.job);
+    Note_As_Counted({key, report.m_status, submitted.value_or(No_Time)}, part.job);
     if (Handset::Delivery_Status_Of(report.m_status).m_delivery != Handset::Delivery::Still_Trying) {
         parts.erase(nearest);
         m_open -= part.job == 0 ? 1 : 0;
@@ -122,6 +124,17 @@ std::optional<Report_Desk::Part> Report_Desk::Match(const Handset::Status_Report
             m_parts.erase(found);
     }
     return part;
+}
+
+void Report_Desk::Note_As_Counted(const Report_Key& key, int job)
+{
+    if (!m_counted.emplace(key, job).second)
+        return;
+    m_newest.push_back(key);
+    if (m_newest.size() > Most_Counted) {
+        m_counted.erase(m_newest.front());
+        m_newest.pop_front();
+    }
 }
 
 std::optional<int> Report_Desk::Counted_For(const Handset::Status_Report& report) const

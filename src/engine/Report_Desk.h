@@ -3,6 +3,7 @@
 #include "handset/Status_Report.h"
 
 #include <QString>
+#include <deque>
 #include <map>
 #include <optional>
 #include <tuple>
@@ -46,12 +47,14 @@ public:
     bool Is_Empty() const { return m_open == 0; }
 
 private:
-    void Give_To(int job);
-
     using Report_Key = std::tuple<quint64, int, qint64>; // reference and last digits, status, when it was submitted
 
+    void Give_To(int job);
+    void Note_As_Counted(const Report_Key& key, int job);
+
     std::unordered_map<quint64, std::vector<Part>> m_parts; // by reference and last digits
-    std::map<Report_Key, int> m_counted;
+    std::map<Report_Key, int> m_counted;                    // the newest of a job: a report comes twice soon or never
+    std::deque<Report_Key> m_newest;
     std::size_t m_open = 0; // of the job at hand
 };
 

@@ -141,11 +141,12 @@ void Scrolling_Body::Watch_Boxes()
     }
 }
 
-// All of it, whereas the scroll area would settle for a text area's cursor.
+// All of it, from its top where the view is too low, whereas the scroll area would settle for a text area's cursor.
 void Scrolling_Body::Bring_Into_Sight(const QWidget* control)
 {
     if (!control || !widget()->isAncestorOf(control))
         return;
     const QRect place(control->mapTo(widget(), QPoint()), control->size());
-    ensureVisible(place.center().x(), place.center().y(), place.width() / 2 + 1, place.height() / 2 + 1);
+    auto& bar = *verticalScrollBar();
+    bar.setValue(std::min(std::max(bar.value(), place.bottom() + 1 - viewport()->height()), place.top()));
 }

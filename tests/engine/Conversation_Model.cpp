@@ -219,7 +219,7 @@ private:
     {
         Add_Manner(Message_Manner::Kind::Refused_At_Once, cause.said);
         const bool is_plain = cause.deal == Deal::Doubt || cause.deal == Deal::Counts; // nothing has gone out
-        Refuse(is_plain ? Cause{cause.said, cause.field, Deal::Pass_Over} : cause);
+        Refuse(is_plain ? Cause{cause.said, cause.field, Deal::Pass_Over} : cause, false);
     }
 
     void Pull_At_The_Prompt()
@@ -306,7 +306,8 @@ private:
         End_Row(Row_State::May_Have_Been_Sent, why, 3);
     }
 
-    void Refuse(const Cause& cause)
+    // A row that waits before anything was handed over is as it was.
+    void Refuse(const Cause& cause, bool is_handed_over = true)
     {
         if (cause.deal == Deal::Doubt) {
             Leave_In_Doubt(cause.field);
@@ -316,7 +317,10 @@ private:
             Be_Sent(QStringLiteral("-"));
             return;
         }
-        Note(QStringLiteral("E %1 %2").arg(Part_Name(m_row, m_part), QLatin1String(cause.field)));
+        const bool waits =
+            cause.deal == Deal::Wait_Card || cause.deal == Deal::Wait_Net || cause.deal == Deal::Wait_Time;
+        if (is_handed_over || !waits)
+            Note(QStringLiteral("E %1 %2").arg(Part_Name(m_row, m_part), QLatin1String(cause.field)));
         switch (cause.deal) {
         case Deal::Again:
             m_is_again = m_retries++ < Most_Retries;

@@ -5,9 +5,12 @@
 #include "records/Exclusion_Files.h"
 #include "records/Exclusion_Trouble.h"
 #include "records/Job_Journal.h"
+#include "texts/Cause_Texts.h"
+#include "texts/Confirmed_Texts.h"
 #include "toolkit/PleaseWait_Modeless.h"
 #include "windows/exclusion/Exclusion_Wizard.h"
 #include "windows/jobs/Receipt_Wnd.h"
+#include "windows/jobs/Unfinished_Strip.h"
 #include "windows/jobs/Unknown_Rows_Sheet.h"
 #include "windows/list/Fill_Msg_In_List.h"
 #include "windows/list/Send_Msg_Info.h"
@@ -43,6 +46,13 @@ QWidget& Main_Window_With_Everything(CorvaneAppDelegate& main)
 {
     In<QTableView>(main, "idExclusionTableView").show();
     In<QCheckBox>(main, "_Delayed_Delivry_Chk").setChecked(true);
+    In<QCheckBox>(main, "_Confirm_Chk").setChecked(true);
+    for (const char* name : {"Select_Not_Taken", "Keep_Not_Taken", "Show_Receipt", "plain_offer"})
+        In<QWidget>(main, name).show();
+    Unfinished_Job job;
+    job.id = "20261121-101500-3f9a";
+    job.counts = {1000000, 499999, 1, 100000, 100000, 300000};
+    In<Unfinished_Strip>(main, "_Job_Strip").Show_Jobs({job, job});
     return main;
 }
 
@@ -150,6 +160,7 @@ const std::vector<Sight>& Every_Window()
          Main_Window_With_Everything,
          {{"_Msg_char_count", Longest_Count},
           {"_gsm_list_count", "Total Numbers : 1000000"},
+          {"_Plain_Offer_Text", QString(Texts::Causes::Flash_Refused) + ' ' + Texts::Confirmed::Plain_May_Pass},
           {"_Device_Name_Ticker", "usb-Sierra_Wireless_EM7455-if03"},
           {"_Exclusion_Trouble", Exclusion_Trouble({{}, QStringList(5, QString(50, u'W'))})}}},
         {"help", Made_Over<Help_Wnd>},
@@ -161,7 +172,7 @@ const std::vector<Sight>& Every_Window()
          Shared<Send_Modeless>,
          {{"_curr_msg_cnt", "Initializing mobile phone device to send sms ..."},
           {"_tot_msg_cnt", "1000000"},
-          {"_current_send_msg", QString(20, u'0') + " is Excluded."},
+          {"_current_send_msg", Texts::Causes::Phone_Pin_Wanted},
           {"_pause_timer", "Pausing the process for 1 Hour 59 Minute 59 Seconds."}}},
         {"please wait", Made_Over<PleaseWait_Modeless>},
         {"fill", Shared<Fill_Msg_In_List>},

@@ -143,3 +143,35 @@ TEST(Exclusion_Trouble_Text, Names_What_Can_Not_Be_Used_And_Keeps_It_Short)
     EXPECT_EQ(Exclusion_Trouble(applied),
               "The file that says which exclusion lists are applied\ncan not be read: no number is excluded.");
 }
+
+TEST_F(Exclusion_Trouble_Line, A_Job_In_The_Main_Window_Shows_What_It_Has_Read)
+{
+    The<QPlainTextEdit>("_messageEdit").setPlainText("Hello");
+    Add("111");
+    Add("222");
+    Add("333");
+    Press_Box();
+    EXPECT_EQ(Line(), QString());
+    const auto shown = [this] {
+        const auto& rows = *The<QTableView>("idExclusionTableView").model();
+        QStringList numbers;
+        for (int row = 0; row < rows.rowCount(); ++row)
+            numbers.append(rows.index(row, 0).data().toString());
+        return numbers;
+    };
+    EXPECT_THAT(shown(), ElementsAre("111", "222"));
+    Spoil();
+    Write_Bytes(Path_Of_List("Sales"), "222\n333\n");
+    Select_The_Phone();
+    EXPECT_EQ(Send(), Box::Completed);
+    EXPECT_THAT(shown(), ElementsAre("222", "333"));
+    EXPECT_EQ(Line(), Staff_Is_Unusable);
+    EXPECT_FALSE(m_delegate->Check_Exclusion_Number("111"));
+    ASSERT_EQ(phone->Inbox().size(), 1U);
+    EXPECT_EQ(phone->Inbox().front().m_number, "111");
+    Mend();
+    EXPECT_EQ(Send(), Box::Completed);
+    EXPECT_THAT(shown(), ElementsAre("111", "222", "333"));
+    EXPECT_EQ(Line(), QString());
+    EXPECT_EQ(phone->Inbox().size(), 1U);
+}

@@ -106,7 +106,7 @@ INSTANTIATE_TEST_SUITE_P(
               "waiting 0/1 x1"},
         Story{"Sent_Again", {"H 1 1 1 @", "R 1 send-again:x @", "H 1 1 1 @", "S 1 1 3 @"}, 1, "accepted 1/1 #3 x2"},
         Story{"Broken_Off_Again", {"H 1 1 1 @", "R 1 send-again:x @", "H 1 1 1 @"}, 1, "handing over 0/1 x2"},
-        Story{"Counted_As_Sent", {"H 1 1 1 @", "R 1 count-as-sent:person @"}, 1, "accepted 1/1 x1"},
+        Story{"Counted_As_Sent", {"H 1 1 1 @", "R 1 count-as-sent:person @"}, 1, "accepted (counted) 1/1 x1"},
         Story{"Only_What_Is_Doubtful_Goes_Again",
               {"H 2 1 2 @", "S 2 1 7 @", "H 2 2 2 @", "R 2 send-again:x @"},
               2,

@@ -67,7 +67,7 @@ CorvaneAppDelegate* CorvaneAppDelegate::defaultInstance()
 
 bool CorvaneAppDelegate::awakeFromNib()
 {
-    Apply_Window_Look(*this, Letters{.columns = 146, .lines = 48});
+    Apply_Window_Look(*this, Letters{.columns = 146, .lines = 44});
     QFont link_font = font();
     link_font.setBold(true);
     link_font.setUnderline(true);
