@@ -185,7 +185,7 @@ Receipt_Row Job_Receipt::Row(int row) const
     if (state.state == Sending_State::Skipped)
         Tell_Skip(told, state.words);
     else
-        Tell_Outcome(told, details.outcome);
+        Tell_Outcome(told, Shown_Outcome(details));
     if (!frozen)
         told.reason = T::Cannot_Be_Read;
     else if (state.state == Sending_State::Waiting && details.parts_sent > 0)
