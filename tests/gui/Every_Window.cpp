@@ -1,9 +1,9 @@
 #include "gui/Every_Window.h"
 
 #include "engine/Composer_Rules.h"
-#include "gui/In_Windows.h"
 #include "records/Exclusion_Files.h"
 #include "records/Exclusion_Trouble.h"
+#include "support/In_Windows.h"
 #include "toolkit/PleaseWait_Modeless.h"
 #include "windows/exclusion/Exclusion_Wizard.h"
 #include "windows/list/Fill_Msg_In_List.h"
@@ -22,18 +22,9 @@
 #include "windows/stores/Templates.h"
 #include "windows/stores/UpdateTemp.h"
 
-#include <QCheckBox>
-#include <QLabel>
-#include <QTableView>
-
 namespace {
 
 const char* const Longest_Count = "1600 Characters (Each Message will now consume 23 SMS)";
-
-QWidget& The_Main_Window(CorvaneAppDelegate& main)
-{
-    return main;
-}
 
 QWidget& Main_Window_With_Everything(CorvaneAppDelegate& main)
 {
@@ -111,7 +102,7 @@ QWidget& Sight::Prepared(CorvaneAppDelegate& main) const
 const std::vector<Sight>& Every_Window()
 {
     static const std::vector<Sight> sights = {
-        {"main window", The_Main_Window},
+        {"main window", [](auto& main) -> QWidget& { return main; }},
         {"main window with everything",
          Main_Window_With_Everything,
          {{"_Msg_char_count", Longest_Count},
