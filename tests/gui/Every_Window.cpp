@@ -1,10 +1,10 @@
 #include "gui/Every_Window.h"
 
 #include "engine/Composer_Rules.h"
-#include "gui/In_Windows.h"
 #include "records/Exclusion_Files.h"
 #include "records/Exclusion_Trouble.h"
 #include "records/Job_Journal.h"
+#include "support/In_Windows.h"
 #include "texts/Cause_Texts.h"
 #include "texts/Confirmed_Texts.h"
 #include "toolkit/PleaseWait_Modeless.h"
@@ -36,11 +36,6 @@
 namespace {
 
 const char* const Longest_Count = "1600 Characters (Each Message will now consume 23 SMS)";
-
-QWidget& The_Main_Window(CorvaneAppDelegate& main)
-{
-    return main;
-}
 
 QWidget& Main_Window_With_Everything(CorvaneAppDelegate& main)
 {
@@ -155,7 +150,7 @@ QWidget& Sight::Prepared(CorvaneAppDelegate& main) const
 const std::vector<Sight>& Every_Window()
 {
     static const std::vector<Sight> sights = {
-        {"main window", The_Main_Window},
+        {"main window", [](auto& main) -> QWidget& { return main; }},
         {"main window with everything",
          Main_Window_With_Everything,
          {{"_Msg_char_count", Longest_Count},

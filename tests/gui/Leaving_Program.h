@@ -1,17 +1,10 @@
 #pragma once
 
 #include "app/Program.h"
-#include "device/Chosen_Device.h"
 #include "doctor/Phone_Search.h"
-#include "engine/Job_State.h"
 #include "gui/Sending_Program.h"
-#include "platform/Waiting.h"
 
-#include <QTimer>
-#include <algorithm>
-
-// The whole program, left at one of its awkward moments: with a worker under way, a box or a dialog open. Each time it
-// comes to its end at once, and nothing of it is left.
+// The whole program, left at one of its awkward moments: it ends at once, and nothing of it is left.
 class Leaving_Program : public testing::Test
 {
 protected:
@@ -68,19 +61,14 @@ protected:
     template <typename Control>
     Control& The(const char* name)
     {
-        return *m_program->Delegate().findChild<Control*>(name);
+        return In<Control>(m_program->Delegate(), name);
     }
     void Click(const char* name) { QTest::mouseClick(&The<QPushButton>(name), Qt::LeftButton); }
 
     /// Something to ask whether a window of this name is shown.
     static std::function<bool()> Is_Shown(const char* window_name)
     {
-        return [window_name] {
-            const auto windows = QApplication::topLevelWidgets();
-            return std::any_of(windows.begin(), windows.end(), [&](const QWidget* window) {
-                return window->isVisible() && window->objectName() == window_name;
-            });
-        };
+        return [window_name] { return ::Is_Shown(window_name); };
     }
     static bool A_Box_Is_Open() { return Is_Shown("Message_Box")(); }
     static bool A_Panel_Is_Open() { return Is_File_Panel(QApplication::activeModalWidget()); }

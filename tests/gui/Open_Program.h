@@ -1,25 +1,15 @@
 #pragma once
 
+#include "device/Chosen_Device.h"
 #include "device/Stop_Flag.h"
-#include "gui/In_Windows.h"
-#include "platform/Interface_Thread.h"
+#include "engine/Job_State.h"
 #include "platform/Pace.h"
+#include "records/Data_Paths.h"
+#include "support/Files.h"
+#include "support/In_Windows.h"
 #include "toolkit/Shared_Instance.h"
 #include "toolkit/Window_Look.h"
 #include "windows/main/CorvaneAppDelegate.h"
-
-#include <QApplication>
-#include <QCheckBox>
-#include <QClipboard>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QPushButton>
-#include <QScreen>
-#include <QTableView>
-#include <QTest>
-#include <gmock/gmock.h>
 
 // The main window as it stands after the program's start, for one test: real widgets, found by their names.
 class Open_Program : public testing::Test
@@ -50,12 +40,8 @@ protected:
     template <typename Widget>
     Widget& The(const char* name)
     {
-        auto* widget = m_delegate->findChild<Widget*>(QString::fromLatin1(name));
-        if (!widget)
-            qFatal("there is no %s in the main window", name);
-        return *widget;
+        return In<Widget>(*m_delegate, name);
     }
-
     void Click(const char* name) { QTest::mouseClick(&The<QPushButton>(name), Qt::LeftButton); }
     void Tick(const char* name) { The<QCheckBox>(name).setChecked(true); }
     void Type_Number(const QString& number)
@@ -70,8 +56,7 @@ protected:
     }
     QString Shown(int row, int column) const
     {
-        const auto* table = m_delegate->findChild<QTableView*>("idTableView");
-        return table->model()->index(row, column).data().toString();
+        return In<QTableView>(*m_delegate, "idTableView").model()->index(row, column).data().toString();
     }
     QString Count_Label() { return The<QLabel>("_gsm_list_count").text(); }
     QStringList Numbers() const
@@ -83,14 +68,7 @@ protected:
     }
     /// Whether keys go to the control once the window is in front, which only a desktop sees to.
     bool Has_Focus(const char* name) { return m_delegate->focusWidget() == &The<QWidget>(name); }
-    void Select_Rows(const std::vector<int>& rows)
-    {
-        auto& table = The<QTableView>("idTableView");
-        table.clearSelection();
-        for (const int row : rows)
-            table.selectionModel()->select(table.model()->index(row, 0),
-                                           QItemSelectionModel::Select | QItemSelectionModel::Rows);
-    }
+    void Select_Rows(const std::vector<int>& rows) { Select_Rows_In(The<QTableView>("idTableView"), rows); }
 
     const QFont m_font_before = QApplication::font();
     User user;

@@ -1,13 +1,7 @@
 #pragma once
 
-#include "device/Chosen_Device.h"
 #include "gui/Leaving_Program.h"
-#include "records/Data_Paths.h"
 
-#include <QFile>
-#include <QFileDialog>
-#include <QTemporaryDir>
-#include <QWindow>
 #include <random>
 #include <set>
 
@@ -21,10 +15,10 @@ protected:
     {
         Set_Pace(std::array{25, 100, 400}[m_random() % 3]);
         QFile::remove(QFile::decodeName(Sent_Item_Path.toLocal8Bit()));
-        QFile file(m_folder.filePath("numbers.txt"));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        QByteArray numbers;
         for (int line = 0; line < 20'000; ++line)
-            file.write(QByteArray::number(1'000'000 + line) + "\r\n");
+            numbers += QByteArray::number(1'000'000 + line) + "\r\n";
+        Write_Bytes(m_folder.filePath("numbers.txt"), numbers);
         m_impatience.setSingleShot(true);
         QObject::connect(&m_impatience, &QTimer::timeout, [this] {
             m_impatience.start(static_cast<int>(m_random() % 25));
@@ -95,8 +89,7 @@ protected:
             button = &The<QPushButton>(
                 std::array{"_sent_btn", "_sent_btn", "Search_All_Modem", "Load_Number"}[m_random() % 4]);
         m_pressed.append(window.objectName() + u':' + button->objectName() + u'/' + button->text());
-        QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {},
-                          button->mapTo(&window, QPoint(std::min(12, button->width() / 2), button->height() / 2)));
+        Click_At(*button, QPoint(std::min(12, button->width() / 2), button->height() / 2));
     }
 
     void Expect_A_Record_Of_Each_Message() const
@@ -106,12 +99,9 @@ protected:
         for (const auto& message : m_phone.Inbox())
             sent.push_back(message.m_number);
         std::vector<std::string> recorded;
-        QFile file(Sent_Item_Path);
-        if (file.open(QIODevice::ReadOnly)) {
-            for (const QByteArray& line : file.readAll().split('\n')) {
-                if (!line.isEmpty())
-                    recorded.push_back(line.mid(1, line.indexOf('\v') - 1).toStdString());
-            }
+        for (const QByteArray& line : Bytes_Of(Sent_Item_Path).split('\n')) {
+            if (line.startsWith('\a'))
+                recorded.push_back(line.mid(1, line.indexOf('\v') - 1).toStdString());
         }
         EXPECT_EQ(recorded, sent) << "after " << m_pressed.join(u' ').toStdString();
     }

@@ -1,17 +1,10 @@
 #include "gui/Sending_Program.h"
 
-#include "device/Chosen_Device.h"
-#include "device/Stop_Flag.h"
 #include "doctor/Phone_Search.h"
-#include "engine/Job_State.h"
 #include "toolkit/Plain_Text_Edit.h"
 #include "windows/main/Send_Modeless.h"
 #include "windows/phone/Phone_List_Wnd.h"
 
-#include <QMessageBox>
-#include <QTimer>
-#include <QWindow>
-#include <algorithm>
 #include <filesystem>
 #include <iostream>
 
@@ -59,11 +52,6 @@ std::string Message_Shown(int recipient, const QString& text, const Way& way, in
     message.m_parts = parts;
     message.m_text_mode = way.m_text_mode;
     return As_Shown(message);
-}
-
-void Click_On(QWidget& control, const QPoint& place)
-{
-    QTest::mouseClick(control.window()->windowHandle(), Qt::LeftButton, {}, control.mapTo(control.window(), place));
 }
 
 template <typename Control>
@@ -238,7 +226,7 @@ void Sending_Program::Expect_That_All_Is_Quiet()
     EXPECT_TRUE(Serve_Until([this] { return Descriptors_On(m_path) == m_lines_held; }, 10)) << m_path;
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     auto& field = The<QLineEdit>("_numberEdit");
-    Click_On(field, field.rect().center());
+    Click_Middle_Of(field);
     QTest::keyClick(m_delegate->windowHandle(), Qt::Key_7);
     EXPECT_EQ(field.text(), "7");
     field.clear();
@@ -279,14 +267,7 @@ bool Sending_Program::Wizard_Is_Open()
 
 QModelIndex Sending_Program::Row_Of(const QString& path)
 {
-    const auto* rows = In_Wizard<QTableView>("idPortList").model();
-    const auto found = rows->match(rows->index(0, 1), Qt::DisplayRole, path, 1, Qt::MatchExactly);
-    return found.isEmpty() ? QModelIndex() : found.constFirst();
-}
-
-bool Sending_Program::Wizard_Lists(const QString& path)
-{
-    return Row_Of(path).isValid();
+    return Row_With(In_Wizard<QTableView>("idPortList"), path, 1);
 }
 
 void Sending_Program::Click_The_Phone()
@@ -295,21 +276,21 @@ void Sending_Program::Click_The_Phone()
     const QModelIndex row = Row_Of(QString::fromStdString(m_path));
     m_sheets = 0;
     ASSERT_TRUE(row.isValid()) << "the wizard does not list " << m_path;
-    Click_On(*table.viewport(), table.visualRect(row).center());
+    Click_At(*table.viewport(), table.visualRect(row).center());
     EXPECT_TRUE(Serve_Until([this] { return m_sheets > 0 && Workers_Running() == 0; })) << "no probe comes to its end";
 }
 
 void Sending_Program::Click_In_Wizard(const char* button)
 {
     auto& control = In_Wizard<QAbstractButton>(button);
-    Click_On(control, QPoint(12, control.height() / 2));
+    Click_At(control, QPoint(12, control.height() / 2));
 }
 
 void Sending_Program::Type_Custom_Smsc(const QString& number)
 {
     Click_In_Wizard("_cus_smsc_chk");
     auto& field = In_Wizard<QLineEdit>("_cus_smsc_edit");
-    Click_On(field, field.rect().center());
+    Click_Middle_Of(field);
     QTest::keyClicks(&field, number);
 }
 

@@ -5,9 +5,6 @@
 #include "phone/Virtual_Phone.h"
 #include "support/Log_Lines.h"
 
-#include <functional>
-#include <memory>
-
 class QMessageBox;
 
 // The boxes that a job or the wizard ends in, as they are shown.
@@ -23,8 +20,6 @@ inline constexpr char Not_Working[] = "\nSelected device is not working properly
 inline constexpr char Default_Smsc_Blank[] = "\nDefault SMSC No. details should not be blanked.";
 inline constexpr char No_Sending[] = "\nSelected device do not provide a modem in the computer or the modem does not "
                                      "support SMS sending command.";
-inline constexpr char List_Empty[] = "\nDevice list is empty.";
-inline constexpr char None_Selected[] = "\nPlease select device from list.";
 } // namespace Box
 
 // How a list is sent; the phone's offer decides between PDU and text mode.
@@ -36,8 +31,7 @@ struct Way
 };
 
 // The open program and a phone on its line, used by clicks: a list of three recipients, the last with a long message,
-// is filled in and sent, or the wizard is visited. Afterwards nothing of a job or a visit may be left. Every read lasts
-// 20 ms.
+// is sent, or the wizard is visited. Nothing of either may be left. Every read lasts 20 ms.
 class Sending_Program : public Open_Program, public QObject
 {
 protected:
@@ -85,8 +79,6 @@ protected:
     void Click_The_Phone();
     /// The device's row in the wizard's list, or none.
     QModelIndex Row_Of(const QString& path);
-    /// Whether the device is in the wizard's list.
-    bool Wizard_Lists(const QString& path);
     void Click_In_Wizard(const char* button);
     void Type_Custom_Smsc(const QString& number);
     bool Wizard_Is_Open();

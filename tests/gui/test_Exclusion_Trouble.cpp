@@ -6,8 +6,6 @@
 
 using testing::ElementsAre;
 
-namespace {
-
 const QString Staff_Is_Unusable = "The exclusion list \"Staff\"\ncan not be used: its numbers are not excluded.";
 
 // The line in the real main window that tells of applied lists that exclude nobody, with real files.
@@ -41,8 +39,6 @@ protected:
         return line.isVisible() ? line.text() : QString();
     }
 };
-
-} // namespace
 
 TEST_F(Exclusion_Trouble_Line, It_Stands_From_The_Tick_Until_The_List_Is_Mended_And_Read_Again)
 {

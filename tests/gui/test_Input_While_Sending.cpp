@@ -1,8 +1,5 @@
-#include "engine/Job_State.h"
 #include "gui/Sending_Program.h"
 #include "windows/main/Send_Modeless.h"
-
-#include <QWindow>
 
 using testing::ElementsAre;
 
@@ -11,23 +8,14 @@ using testing::ElementsAre;
 class Input_While_Sending : public Sending_Program
 {
 protected:
-    /// As the window system tells it, which what stands over a window keeps away.
-    void Press_In_Window(const char* button)
-    {
-        auto& control = The<QWidget>(button);
-        QTest::mouseClick(m_delegate->windowHandle(), Qt::LeftButton, {},
-                          control.mapTo(m_delegate.get(), control.rect().center()));
-    }
-
     void Try_Everything()
     {
         for (const char* button :
              {"Reset_Btn", "Clear_Sel_Btn", "Clear_All_Btn", "Add_Number", "_sent_btn", "Search_All_Modem", "Help_Btn",
               "Exit_Btn", "_Skip_Duplicate_Chk", "Load_Number", "Export_Btn", "Fill_Msg_Btn", "Update_Sel_Msgs_Btn",
               "Sent_Item_Btn", "View_Templates_Btn", "View_ExclusionWizrd_Btn", "_Exclusion_Chk",
-              "_Delayed_Delivry_Chk"})
-            Press_In_Window(button);
-        Press_In_Window("_numberEdit");
+              "_Delayed_Delivry_Chk", "_numberEdit"})
+            Click_Middle_Of(The<QWidget>(button));
         QTest::keyClick(m_delegate->windowHandle(), Qt::Key_4);
         QTest::keyClick(m_delegate->windowHandle(), Qt::Key_R, Qt::AltModifier);
         EXPECT_EQ(The<QLineEdit>("_numberEdit").text(), QString());

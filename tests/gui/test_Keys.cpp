@@ -1,8 +1,6 @@
 #include "gui/Open_Program.h"
 #include "support/Keys.h"
 
-#include <QMessageBox>
-
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -10,8 +8,6 @@ using testing::IsEmpty;
 class Keys : public Open_Program
 {
 protected:
-    static constexpr int Many_Repeats = 10;
-
     /// With "1", "2" and so on.
     void Fill_List(int count)
     {
@@ -24,12 +20,6 @@ protected:
     {
         The<QLineEdit>("_numberEdit").setText(number);
         The<QLineEdit>("_numberEdit").setFocus();
-    }
-
-    void Serve_Repeats(const Held_Key& key)
-    {
-        const int enough = key.Repeats() + Many_Repeats;
-        EXPECT_TRUE(Serve_Until([&] { return key.Repeats() >= enough; }));
     }
 };
 
@@ -56,14 +46,12 @@ TEST_F(Keys, Return_In_The_Number_Field_Adds_The_Number_Or_Refuses_It)
 TEST_F(Keys, Return_Held_Down_Adds_A_Number_Once_And_Tells_Nothing_About_The_Empty_Field)
 {
     Begin_Number("123");
-    Held_Key held(Qt::Key_Return);
-    held.Press();
-    Serve_Repeats(held);
+    Hold_Down(Qt::Key_Return);
     EXPECT_THAT(Numbers(), ElementsAre("123"));
     EXPECT_THAT(user.Was_Shown(), IsEmpty());
 }
 
-TEST_F(Keys, F2_And_Return_Edit_The_Selected_Recipient)
+TEST_F(Keys, F2_And_Return_Edit_The_Selected_Recipient_And_Say_What_The_Double_Click_Says)
 {
     Fill_List(3);
     int row = 0;
@@ -76,11 +64,6 @@ TEST_F(Keys, F2_And_Return_Edit_The_Selected_Recipient)
         Press_Key(key);
     }
     EXPECT_THAT(Numbers(), ElementsAre("1", "2", "3"));
-}
-
-TEST_F(Keys, Editing_By_Key_Says_What_The_Double_Click_Says)
-{
-    Fill_List(3);
     for (const Qt::Key key : {Qt::Key_F2, Qt::Key_Return}) {
         The<QTableView>("idTableView").clearSelection();
         Press_Key(key); // with nothing selected it does nothing
@@ -92,71 +75,46 @@ TEST_F(Keys, Editing_By_Key_Says_What_The_Double_Click_Says)
     EXPECT_THAT(user.Was_Shown(), ElementsAre(told, told));
 }
 
-TEST_F(Keys, Return_Held_Down_Opens_One_Editor_And_Does_Not_Press_Its_OK)
+TEST_F(Keys, Return_Held_Down_Opens_One_Editor_And_Does_Not_Press_Its_OK_And_Leaves_A_Message_To_Be_Read)
 {
     Fill_List(2);
     Select_Rows({0});
-    Held_Key held(Qt::Key_Return);
+    std::optional<Held_Key> held(Qt::Key_Return);
     user.When_Opens("Update_Num_SMS", [&](QWidget& editor) {
-        Serve_Repeats(held);
+        Serve_Repeats(*held);
         EXPECT_TRUE(editor.isVisible());
         static_cast<QDialog&>(editor).reject();
     });
-    held.Press();
-    Serve_Repeats(held);
+    held->Press();
+    Serve_Repeats(*held);
+    held.reset();
     EXPECT_FALSE(QApplication::activeModalWidget());
-}
 
-TEST_F(Keys, Return_Held_Down_Leaves_A_Message_To_Be_Read)
-{
-    Fill_List(2);
     Select_Rows({0, 1});
-    Held_Key held(Qt::Key_Return);
+    Held_Key held_again(Qt::Key_Return);
     user.Will_Handle([&](QMessageBox& box) {
-        Serve_Repeats(held);
+        Serve_Repeats(held_again);
         EXPECT_TRUE(box.isVisible());
         box.reject();
     });
-    held.Press();
+    held_again.Press();
 }
 
-TEST_F(Keys, Delete_Clears_The_Selected_Recipients)
+TEST_F(Keys, Delete_Does_What_Clear_Selected_Does_Once_However_Long_It_Is_Held)
 {
+    The<QTableView>("idTableView").setFocus();
+    user.Will_Press("OK");
+    Press_Key(Qt::Key_Delete);
     Fill_List(4);
     Select_Rows({1, 2});
-    Press_Key(Qt::Key_Delete);
+    Hold_Down(Qt::Key_Delete);
     EXPECT_THAT(Numbers(), ElementsAre("1", "4"));
     EXPECT_EQ(Count_Label(), "Total Numbers : 2");
     Press_Key(Qt::Key_Delete); // row 0 is selected now
     Press_Key(Qt::Key_Delete);
     EXPECT_THAT(Numbers(), IsEmpty());
     EXPECT_TRUE(Has_Focus("_numberEdit"));
-    EXPECT_THAT(user.Was_Shown(), IsEmpty());
-}
-
-TEST_F(Keys, Delete_Says_What_Clear_Selected_Says)
-{
-    The<QTableView>("idTableView").setFocus();
-    user.Will_Press("OK");
-    Press_Key(Qt::Key_Delete);
-    Fill_List(1);
-    user.Will_Press("OK");
-    Press_Key(Qt::Key_Delete);
-    EXPECT_THAT(user.Was_Shown(),
-                ElementsAre("\nPhone numbers-Messages list is empty.",
-                            "\nPlease select at least one record from the phone numbers-messages list "
-                            "to continue."));
-    EXPECT_THAT(Numbers(), ElementsAre("1"));
-}
-
-TEST_F(Keys, Delete_Held_Down_Deletes_Once)
-{
-    Fill_List(3);
-    Select_Rows({0});
-    Held_Key held(Qt::Key_Delete);
-    held.Press();
-    Serve_Repeats(held);
-    EXPECT_THAT(Numbers(), ElementsAre("2", "3"));
+    EXPECT_THAT(user.Was_Shown(), ElementsAre("\nPhone numbers-Messages list is empty."));
 }
 
 TEST_F(Keys, Keys_With_Others_Held_Mean_Something_Else)

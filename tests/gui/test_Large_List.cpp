@@ -1,8 +1,7 @@
 #include "gui/Open_Program.h"
 #include "support/Heartbeat.h"
 
-// A million recipients in the real window, shown on demand: what is done with each of them must not keep the window
-// from its events.
+// What is done with each of a million recipients must not keep the window from its events.
 class Large_List : public Open_Program
 {
 protected:

@@ -1,11 +1,6 @@
-#include "device/Chosen_Device.h"
-#include "engine/Job_State.h"
 #include "gui/Leaving_Program.h"
 #include "platform/Text_Files.h"
-#include "records/Data_Paths.h"
-#include "support/Files.h"
 
-#include <QTemporaryDir>
 #include <atomic>
 
 using testing::IsEmpty;
@@ -16,9 +11,8 @@ const QByteArray Records = "\a1\vone\ad\vDelivered\n\a2\vtwo\ad\v\n";
 const QByteArray Rewritten = "\a1\vone\ad\v\n\a2\vtwo\ad\v\n";
 const QByteArray Texts = "one\ntwo\n" + QByteArray(1590, 'x') + '\n';
 
-// The program with three recipients, two sent items and three templates, left while one of the windows around them is
-// open or at work: each time without another box or dialog, and with the files as they were unless they were being
-// written.
+// Three recipients, two sent items and three templates, left while a window is open or at work: without another box or
+// dialog, and with the files as they were unless they were being written.
 class Leaving_Windows : public Leaving_Program
 {
 public:

@@ -1,16 +1,7 @@
 #include "gui/Sending_Program.h"
-#include "support/Files.h"
 #include "support/Opened_Files.h"
 #include "windows/main/Send_Modeless.h"
 #include "windows/phone/Phone_List_Wnd.h"
-
-#include <QDesktopServices>
-#include <QFile>
-#include <QImage>
-#include <QMessageBox>
-#include <QTemporaryDir>
-#include <QTextEdit>
-#include <set>
 
 using testing::IsEmpty;
 using testing::Not;
@@ -27,21 +18,14 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (event->type() != QEvent::Show && event->type() != QEvent::Paint)
-            return false;
-        if (const auto* label = qobject_cast<QLabel*>(watched)) {
-            m_shown.insert(label->text().toStdString());
-            if (label->textFormat() != Qt::PlainText)
-                m_offenders.insert(label->window()->objectName().toStdString() + "." +
-                                   label->objectName().toStdString() + ": " + label->text().toStdString());
-        } else if (qobject_cast<QTextEdit*>(watched)) {
-            m_offenders.insert("a rich text area: " + watched->objectName().toStdString());
-        }
+        const auto* label = qobject_cast<QLabel*>(watched);
+        if (label && (event->type() == QEvent::Show || event->type() == QEvent::Paint))
+            (label->textFormat() == Qt::PlainText ? m_shown : m_offenders).insert(label->text());
         return false;
     }
 
-    std::set<std::string> m_shown;
-    std::set<std::string> m_offenders;
+    QSet<QString> m_shown;
+    QSet<QString> m_offenders;
 };
 
 bool Shows_The_Poster(QWidget& window)
@@ -56,8 +40,7 @@ bool Shows_The_Poster(QWidget& window)
     return false;
 }
 
-// The open program, and texts from outside that would show a picture, or do worse, where somebody took them for more
-// than text.
+// Texts from outside that would show a picture, or do worse, where somebody took them for more than text.
 class Text_From_Outside : public Sending_Program
 {
 protected:
@@ -66,8 +49,6 @@ protected:
         QImage poster(64, 64, QImage::Format_RGB32);
         poster.fill(Poster_Colour);
         EXPECT_TRUE(poster.save(In_Folder("poster.png")));
-        for (const char* scheme : {"file", "http", "https"})
-            QDesktopServices::setUrlHandler(scheme, &m_opener, "Open");
         m_evil = QStringLiteral("<img src=\"%1\"><b>bold</b> <a href=\"http://example.org/\">http://example.org/</a> "
                                 "&lt;b&gt; `touch %2` $(touch %2) ;touch %2;")
                      .arg(In_Folder("poster.png"), In_Folder("run"));
@@ -75,8 +56,6 @@ protected:
 
     ~Text_From_Outside() override
     {
-        for (const char* scheme : {"file", "http", "https"})
-            QDesktopServices::unsetUrlHandler(scheme);
         EXPECT_THAT(m_opener.m_urls, IsEmpty());
         EXPECT_FALSE(QFile::exists(In_Folder("run")));
         EXPECT_THAT(m_watch.m_offenders, IsEmpty());
@@ -96,7 +75,7 @@ protected:
 
     QTemporaryDir m_folder;
     QString m_evil;
-    Opened_Files m_opener;
+    Opened_Files m_opener{{"file", "http", "https"}};
     Label_Watch m_watch;
 };
 
@@ -109,7 +88,7 @@ TEST_F(Text_From_Outside, Would_Show_Its_Picture_If_A_Label_Took_It_For_Markup)
     label.setText(m_evil);
     label.show();
     EXPECT_TRUE(Shows_The_Poster(label));
-    EXPECT_EQ(m_watch.m_offenders.size(), 1U);
+    EXPECT_EQ(m_watch.m_offenders.size(), 1);
     m_watch.m_offenders.clear();
 
     QLabel guessing;
@@ -128,10 +107,7 @@ TEST_F(Text_From_Outside, Is_Text_In_The_Wizard_And_The_Ticker_When_A_Device_Has
     Will_Click_In(user, "Connection_Info", "Continue_Btn");
     user.When_Opens("Phone_List_Wnd", [&](QWidget& window) {
         auto& table = In<QTableView>(window, "idPortList");
-        const auto found = table.model()->match(table.model()->index(0, 1), Qt::DisplayRole, path, 1,
-                                                Qt::MatchExactly | Qt::MatchCaseSensitive);
-        ASSERT_FALSE(found.isEmpty()) << "the wizard does not list the device";
-        table.selectRow(found.constFirst().row());
+        table.selectRow(Row_With(table, path, 1).row());
         EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
         EXPECT_EQ(In<QLineEdit>(window, "_port_det_edit").text(), path);
         Click_In(window, "_Select_Btn");

@@ -1,16 +1,13 @@
-#include "device/Chosen_Device.h"
 #include "gui/Sending_Program.h"
 #include "support/Patient_Calls.h"
 
-#include <algorithm>
 #include <fcntl.h>
-#include <sys/ioctl.h>
 #include <unistd.h>
 
 using testing::ElementsAre;
 
-// What a person sees of phones in their moods, of phones that are pulled out and of devices that are none: a job or a
-// visit to the wizard, and then one with everything in order. What the phone makes of each command is told below.
+// What a person sees of phones in their moods and of phones that are pulled out: a job or a visit to the wizard, and
+// then one with everything in order. What the phone makes of each command is told below.
 
 namespace {
 
@@ -29,6 +26,7 @@ public:
     ~Held_Line() { ::close(m_descriptor); }
     Held_Line(const Held_Line&) = delete;
 
+private:
     const int m_descriptor;
 };
 
@@ -60,27 +58,6 @@ protected:
         m_lines_held = 0;
         Plug_In_Again();
         Expect_That_Sending_Works();
-    }
-
-    /// A job through the device does not begin, and the wizard, which offers all that open, does not list it.
-    void Expect_That_It_Does_Not_Open(const std::string& path)
-    {
-        Select(QString::fromStdString(path));
-        Fill_The_List({}, 1);
-        EXPECT_EQ(Send(), Box::Does_Not_Open) << path;
-        Set_Extra_Device_Paths({QString::fromStdString(path)});
-        Will_Click_In(user, "Connection_Info", "Continue_Btn");
-        user.When_Opens("Phone_List_Wnd", [&](QWidget& wizard) {
-            EXPECT_FALSE(Wizard_Lists(QString::fromStdString(path)));
-            const auto* rows = wizard.findChild<QTableView*>("idPortList")->model();
-            user.Will_Press("OK");
-            Click_In_Wizard("_Select_Btn");
-            EXPECT_EQ(Boxes_Shown().back(), rows->rowCount() == 0 ? Box::List_Empty : Box::None_Selected);
-            Click_In_Wizard("_Cancel_Btn");
-        });
-        Click("Search_All_Modem");
-        EXPECT_TRUE(sel_port_bsd_str.isEmpty());
-        Expect_That_All_Is_Quiet();
     }
 
     /// From the wizard, which takes a phone without a service centre only with a custom one, to the handset.
@@ -175,18 +152,6 @@ TEST_P(Jobs_In_A_Mood, End_In_Their_Box_And_The_Next_One_Works)
 INSTANTIATE_TEST_SUITE_P(A_Phone, Jobs_In_A_Mood, testing::ValuesIn(Jobs),
                          [](const auto& row) { return std::string(row.param.name); });
 
-TEST_F(Moods, A_Phone_That_Is_Pulled_Out_Does_Not_Open_Until_It_Is_Back)
-{
-    Keep_The_Number();
-    Select_The_Phone();
-    Fill_The_List();
-    Pull_When([this] { return phone->Parts().size() == 1; });
-    EXPECT_EQ(Send(), Box::Connection_Error);
-    EXPECT_THAT(Inbox(), ElementsAre(Everything({}).front()));
-    EXPECT_EQ(Send(), Box::Does_Not_Open);
-    Expect_That_It_Works_When_Plugged_In_Again();
-}
-
 // ---- Visits to the wizard
 
 struct Visit
@@ -267,41 +232,6 @@ TEST_F(Moods, A_Custom_Service_Centre_Goes_From_The_Wizard_To_The_Handset)
     phone->Forget();
     Send_Through_A_Custom_Centre(Text);
     EXPECT_THAT(phone->Heard(), testing::Contains("AT+CSCA=\"+447700900999\",145"));
-}
-
-// ---- Devices that do not open
-
-TEST_F(Moods, What_Is_No_Device_Does_Not_Open)
-{
-    for (const char* path : {"/dev/no-such-device", "/dev/null"}) {
-        m_lines_held = Descriptors_On(path); // standard input may be one of them
-        Expect_That_It_Does_Not_Open(path);
-    }
-    m_lines_held = 0;
-    Expect_That_Sending_Works();
-}
-
-TEST_F(Moods, A_Port_That_Another_Program_Holds_Does_Not_Open_Until_It_Is_Let_Go)
-{
-    m_lines_held = 1;
-    const Held_Line other(phone->Path());
-    ASSERT_EQ(::ioctl(other.m_descriptor, TIOCEXCL), 0);
-    Expect_That_It_Does_Not_Open(phone->Path());
-    EXPECT_THAT(phone->Heard_Bytes(), testing::IsEmpty()) << "something was written to a port of another";
-    ASSERT_EQ(::ioctl(other.m_descriptor, TIOCNXCL), 0);
-    Visit_Wizard([&] {
-        Click_The_Phone();
-        EXPECT_EQ(Details(), Usual_Details());
-        ASSERT_EQ(::ioctl(other.m_descriptor, TIOCEXCL), 0);
-        user.Will_Press("OK");
-        Click_In_Wizard("_Select_Btn");
-        EXPECT_EQ(Boxes_Shown().back(), Box::Could_Not_Open);
-        ASSERT_EQ(::ioctl(other.m_descriptor, TIOCNXCL), 0);
-        Click_In_Wizard("_Select_Btn");
-        EXPECT_FALSE(Wizard_Is_Open());
-    });
-    EXPECT_EQ(sel_port_bsd_str.toStdString(), phone->Path());
-    Expect_That_Sending_Works();
 }
 
 } // namespace

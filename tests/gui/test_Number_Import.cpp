@@ -1,11 +1,6 @@
 #include "gui/Open_Program.h"
 #include "list/Number_Import.h"
-#include "platform/Waiting.h"
-#include "support/Files.h"
 
-#include <QProgressBar>
-#include <QTemporaryDir>
-#include <algorithm>
 #include <stdexcept>
 
 namespace {
@@ -39,10 +34,6 @@ protected:
             Enter_Path(*panel, path);
             EXPECT_EQ(static_cast<QFileDialog*>(panel)->fileMode(), QFileDialog::ExistingFile);
         });
-    }
-    void Will_Cancel_The_Panel()
-    {
-        user.Will_Do([](QDialog* panel) { panel->reject(); });
     }
     void Will_Answer(const char* button) { Will_Click_In(user, "Load_Num_Info", button); }
 
@@ -113,7 +104,7 @@ TEST_F(Import, Yes_Empties_The_List_Before_The_Panel_And_Cancelling_The_Panel_Do
     Add("999");
     Type_Number("1");
     Will_Answer("YESPressed");
-    Will_Cancel_The_Panel();
+    user.Will_Do([](QDialog* panel) { panel->reject(); });
     Press_Import();
     EXPECT_EQ(The<QLineEdit>("_numberEdit").text(), "");
     EXPECT_EQ(Numbers(), QStringList());
@@ -121,43 +112,23 @@ TEST_F(Import, Yes_Empties_The_List_Before_The_Panel_And_Cancelling_The_Panel_Do
     EXPECT_EQ(user.Was_Shown(), QStringList());
 }
 
-// Number_In_Line and Text_Of_Number_File say the whole of it.
+// Number_In_Line, Text_Of_Number_File and Rich_Text say the whole of it.
 TEST_F(Import, Lines_Are_Cleaned_And_What_Is_No_Number_Is_Passed_Over)
 {
-    const struct
-    {
-        QByteArray content;
-        QStringList numbers;
-        const char* name = "numbers.txt";
-    } files[] = {{"+44-20-7946-0000\n{\\12-34}\n", {"00442079460000", "1234"}},
-                 {"\xef\xbb\xbf"
-                  "111\r\n222\r\n333",
-                  {"111", "222", "333"}},
-                 {"Name;Number\n111\n12,34\n44+1\n123456789012345678901\n\n  222  \n22 22\n", {"111", "222"}},
-                 {QByteArray("111\n22\0002\n333\n", 13), {"111", "333"}},
-                 {"{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}\\f0 +44-20-7946-0000\\par 222\\par 333}",
-                  {"00442079460000", "222", "333"},
-                  "numbers.RTF"},
-                 {"{\\rtf1\\ansi\\trowd\\cellx2000\\cellx4000\\intbl 111\\cell Ann\\cell\\row"
-                  "\\trowd\\cellx2000\\cellx4000\\intbl Bob{\\v 999}\\cell +222\\cell\\row\\pard{\\v 888\\par}"
-                  "{\\deleted 777\\par}333{\\*\\annotation 666}\\par}",
-                  {"111", "00222", "333"},
-                  "table with hidden text.rtf"}};
-    for (const auto& [content, numbers, name] : files) {
-        Click("Reset_Btn");
-        Load(content, name);
-        EXPECT_EQ(Numbers(), numbers) << content.toStdString();
-    }
+    Load("\xef\xbb\xbf+44-20-7946-0000\r\nName;1\n{\\12-34}\n12,34\n123456789012345678901\n  222  \n22 22\n44+1");
+    EXPECT_EQ(Numbers(), (QStringList{"00442079460000", "1234", "222"}));
+    Click("Reset_Btn");
+    Load("{\\rtf1\\ansi\\trowd\\intbl 111\\cell Ann\\cell\\row\\trowd\\intbl Bob{\\v 999}\\cell +222\\cell\\row\\pard"
+         "{\\deleted 777\\par}333\\par}",
+         "table with hidden text.RTF");
+    EXPECT_EQ(Numbers(), (QStringList{"111", "00222", "333"}));
     EXPECT_EQ(user.Was_Shown(), QStringList());
 }
 
 TEST_F(Import, A_File_That_Gives_No_Number_Is_Told)
 {
-    const QString text = "111\n222\n";
-    const QByteArray sixteen_bit = "\xff\xfe" + QByteArray(reinterpret_cast<const char*>(text.utf16()), 16);
     QStringList told;
-    for (const QByteArray& content :
-         {QByteArray(), QByteArray("111\n\xff\n222\n"), QByteArray("111\r222\r"), QByteArray("word\n"), sixteen_bit}) {
+    for (const QByteArray content : {"", "111\n\xff\n222\n", "111\r222\r", "word\n"}) {
         user.Will_Press("OK");
         Load(content);
         told += Nothing_Imported;

@@ -3,15 +3,9 @@
 #include "records/Template_Store.h"
 #include "support/Opened_Files.h"
 
-#include <QDesktopServices>
-#include <QDirIterator>
-#include <QRadioButton>
-#include <QTemporaryDir>
 #include <set>
 
 using testing::IsEmpty;
-
-namespace {
 
 // Everything that the environment gives a program to write to is under one folder, where what is new shows.
 class Own_World
@@ -80,12 +74,10 @@ class Exports : public Own_World, public Open_Program
 protected:
     Exports()
     {
-        QDesktopServices::setUrlHandler("file", &m_opener, "Open");
         EXPECT_TRUE(Sent_Item_Store::Append({"111", "secret", QString(), QString()}));
         EXPECT_TRUE(Template_Store::Append("secret template"));
         m_delegate->Create_Num_Msg_List("111", "secret");
     }
-    ~Exports() override { QDesktopServices::unsetUrlHandler("file"); }
 
     void Will_Save_As(const QString& path)
     {
@@ -109,24 +101,7 @@ protected:
     Opened_Files m_opener;
 };
 
-} // namespace
-
-TEST_F(Exports, Go_Only_Where_The_Person_Says)
-{
-    const auto before = Files();
-    Will_Save_As(Picked("list.txt"));
-    Click("Export_Btn");
-    EXPECT_EQ(New_Since(before), QStringList{Picked("list.txt")});
-    Will_Save_As(Picked("sent.txt"));
-    Export_From("Sent_Item_Btn", "Sent_Items", "Export_In_Text_RD");
-    EXPECT_EQ(New_Since(before), (QStringList{Picked("list.txt"), Picked("sent.txt")}));
-    Will_Save_As(Picked("templates.html"));
-    Export_From("View_Templates_Btn", "Templates", "Export_In_Html_RD");
-    EXPECT_EQ(New_Since(before), (QStringList{Picked("list.txt"), Picked("sent.txt"), Picked("templates.html")}));
-    EXPECT_THAT(m_opener.m_urls, IsEmpty());
-}
-
-TEST_F(Exports, Go_Nowhere_When_The_Panel_Is_Cancelled)
+TEST_F(Exports, Go_Nowhere_When_The_Panel_Is_Cancelled_And_Only_Where_The_Person_Says)
 {
     const auto cancel = [](QDialog* panel) { panel->reject(); };
     const auto before = Files();
@@ -137,5 +112,14 @@ TEST_F(Exports, Go_Nowhere_When_The_Panel_Is_Cancelled)
     user.Will_Do(cancel);
     Export_From("View_Templates_Btn", "Templates", "Export_In_Text_RD");
     EXPECT_THAT(New_Since(before), IsEmpty());
+    Will_Save_As(Picked("list.txt"));
+    Click("Export_Btn");
+    EXPECT_EQ(New_Since(before), QStringList{Picked("list.txt")});
+    Will_Save_As(Picked("sent.txt"));
+    Export_From("Sent_Item_Btn", "Sent_Items", "Export_In_Text_RD");
+    EXPECT_EQ(New_Since(before), (QStringList{Picked("list.txt"), Picked("sent.txt")}));
+    Will_Save_As(Picked("templates.html"));
+    Export_From("View_Templates_Btn", "Templates", "Export_In_Html_RD");
+    EXPECT_EQ(New_Since(before), (QStringList{Picked("list.txt"), Picked("sent.txt"), Picked("templates.html")}));
     EXPECT_THAT(m_opener.m_urls, IsEmpty());
 }

@@ -24,11 +24,7 @@ protected:
         Click_Row(row, button);
         QTest::mouseDClick(The<QTableView>("idTableView").viewport(), button, {}, Middle_Of(row));
     }
-    QPoint Middle_Of(int row)
-    {
-        const auto& table = The<QTableView>("idTableView");
-        return table.visualRect(table.model()->index(row, 0)).center();
-    }
+    QPoint Middle_Of(int row) { return ::Middle_Of(The<QTableView>("idTableView"), row); }
 
     /// Adds a number that is refused with a box.
     void Expect_Refused(const QString& number, const char* box)
@@ -55,14 +51,18 @@ protected:
     static constexpr char Empty_List[] = "\nPhone numbers-Messages list is empty.";
 };
 
-TEST_F(Recipient_Window, A_Plus_Becomes_Two_Zeros_And_Dashes_Are_Left_Out)
+TEST_F(Recipient_Window, A_Plus_Becomes_Two_Zeros_And_Dashes_Are_Left_Out_And_The_Field_Keeps_Twenty_Characters)
 {
     Add("+447700-900123");
     EXPECT_THAT(Numbers(), ElementsAre("00447700900123"));
     EXPECT_EQ(Shown(0, 0), "00447700900123");
     EXPECT_EQ(Count_Label(), "Total Numbers : 1");
-    EXPECT_EQ(The<QLineEdit>("_numberEdit").text(), "");
+    auto& field = The<QLineEdit>("_numberEdit");
+    EXPECT_EQ(field.text(), "");
     EXPECT_TRUE(Has_Focus("_numberEdit"));
+    QApplication::clipboard()->setText("1234567890123456789012345");
+    QTest::keyClick(&field, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(field.text(), "12345678901234567890");
 }
 
 TEST_F(Recipient_Window, What_Is_No_Number_Is_Refused_And_Stays_In_The_Field)
@@ -72,36 +72,20 @@ TEST_F(Recipient_Window, What_Is_No_Number_Is_Refused_And_Stays_In_The_Field)
     EXPECT_THAT(Numbers(), IsEmpty());
 }
 
-TEST_F(Recipient_Window, The_Number_Field_Keeps_The_First_Twenty_Characters_Of_A_Paste)
-{
-    auto& field = The<QLineEdit>("_numberEdit");
-    field.setFocus();
-    QApplication::clipboard()->setText("1234567890123456789012345");
-    QTest::keyClick(&field, Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(field.text(), "12345678901234567890");
-}
-
-TEST_F(Recipient_Window, A_Duplicate_Is_Refused_Only_While_They_Are_Skipped_And_Before_An_Exclusion)
+TEST_F(Recipient_Window, Duplicates_And_Then_Excluded_Numbers_Are_Refused_Only_While_They_Are_Looked_For)
 {
     Add("123");
     Add("123");
     EXPECT_THAT(Numbers(), ElementsAre("123", "123"));
-    m_delegate->Create_Exclusion_List("123");
+    for (const char* excluded : {"123", " 555 ", "  "})
+        m_delegate->Create_Exclusion_List(excluded);
     Tick("_Skip_Duplicate_Chk");
     Tick("_Exclusion_Chk");
     Expect_Refused("123", "\nEntered number already exists.");
-    EXPECT_EQ(m_delegate->Recipients().Count(), 2);
-}
-
-TEST_F(Recipient_Window, An_Excluded_Number_Is_Refused_Only_While_Exclusions_Are_Heeded)
-{
-    m_delegate->Create_Exclusion_List(" 555 ");
-    m_delegate->Create_Exclusion_List("  ");
-    Tick("_Exclusion_Chk");
     Expect_Refused("555", "\nEntered number is in exclusion list.");
     The<QCheckBox>("_Exclusion_Chk").setChecked(false);
     Add("555");
-    EXPECT_THAT(Numbers(), ElementsAre("555"));
+    EXPECT_THAT(Numbers(), ElementsAre("123", "123", "555"));
 }
 
 TEST_F(Recipient_Window, A_Number_From_A_File_Is_Judged_By_The_Same_Rules_Without_A_Word)
@@ -278,18 +262,11 @@ TEST_F(Recipient_Window, A_Row_Outside_The_List_Shows_Nothing_And_Says_Why_Insid
     EXPECT_EQ(m_delegate->tableView(exclusion_table, "Number", 0), "");
     EXPECT_EQ(m_delegate->numberOfRowsInTableView(table), 1);
     EXPECT_EQ(m_delegate->numberOfRowsInTableView(exclusion_table), 0);
-    const auto reason = [](const auto& read) {
-        try {
-            read();
-        } catch (const Invalid_Parameter& failure) {
-            return std::string(failure.what());
-        }
-        return std::string();
-    };
-    EXPECT_EQ(reason([&] { Recipient_Cell(m_delegate->Recipients(), "Number", 1); }),
-              "Invalid parameter not satisfying: pRowIndex >= 0 && pRowIndex < [nsListDataObject count]");
-    EXPECT_EQ(reason([&] { Exclusion_Cell(m_delegate->Exclusions(), "Number", -1); }),
-              "Invalid parameter not satisfying: pRowIndex >= 0 && pRowIndex < [nsExclusionListDataObject count]");
+    const std::string reason = "Invalid parameter not satisfying: pRowIndex >= 0 && pRowIndex < [";
+    EXPECT_THAT([&] { Recipient_Cell(m_delegate->Recipients(), "Number", 1); },
+                testing::ThrowsMessage<Invalid_Parameter>(reason + "nsListDataObject count]"));
+    EXPECT_THAT([&] { Exclusion_Cell(m_delegate->Exclusions(), "Number", -1); },
+                testing::ThrowsMessage<Invalid_Parameter>(reason + "nsExclusionListDataObject count]"));
 }
 
 TEST_F(Recipient_Window, The_Table_Has_Headings_Stripes_And_Whole_Rows_And_Stays_Selected)

@@ -1,20 +1,12 @@
-#include "device/Chosen_Device.h"
 #include "doctor/Phone_Search.h"
-#include "engine/Job_State.h"
 #include "gui/Sending_Program.h"
 #include "platform/Text_Files.h"
-#include "records/Data_Paths.h"
 #include "records/Exclusion_Files.h"
 #include "support/Refused_Threads.h"
 #include "windows/phone/Phone_List_Wnd.h"
 
-#include <QFile>
-#include <QTemporaryDir>
-
 // The whole program on a system that refuses it a thread: whichever of those it asks for, and whether later ones are
 // refused as well. What was asked for is done, or is told not to have been begun; and the same can be done again.
-
-namespace {
 
 using And_Later = Refused_Threads::And_Later;
 
@@ -223,5 +215,3 @@ TEST_F(Refused, The_Selected_Numbers_Get_Their_Message)
         EXPECT_EQ(m_delegate->Recipients().At(1).Message, "Changed");
     });
 }
-
-} // namespace

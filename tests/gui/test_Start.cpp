@@ -1,10 +1,5 @@
 #include "gui/Open_Program.h"
-#include "platform/Waiting.h"
-#include "records/Data_Paths.h"
-#include "support/Files.h"
 #include "toolkit/Main_Window.h"
-
-#include <QTemporaryDir>
 
 using testing::ElementsAre;
 

@@ -1,13 +1,9 @@
 #include "gui/Open_Program.h"
 #include "platform/Text_Files.h"
-#include "records/Data_Paths.h"
 #include "windows/stores/Store_Globals.h"
 #include "windows/stores/Templates.h"
 
-namespace {
-
-// The main window with templates in its store: the buttons that open the two stores, and a template on its way into the
-// composer.
+// The buttons that open the two stores, and a template on its way into the composer.
 class Templates_In_Composer : public Open_Program
 {
 protected:
@@ -97,5 +93,3 @@ TEST_F(Templates_In_Composer, The_Button_Beside_It_Opens_The_Sent_Items)
     Click("Sent_Item_Btn");
     EXPECT_NE(SENT_WND, nullptr);
 }
-
-} // namespace

@@ -1,21 +1,9 @@
 #include "app/Program.h"
 #include "gui/Open_Program.h"
 #include "platform/Single_Start.h"
-#include "platform/Waiting.h"
-#include "records/Data_Paths.h"
-#include "support/Files.h"
 
-#include <QDir>
-#include <QDirIterator>
-#include <QFile>
-#include <QFileInfo>
-#include <QMessageBox>
-#include <QProcess>
-#include <QTemporaryDir>
-#include <QTimer>
 #include <csignal>
 #include <map>
-#include <memory>
 #include <sstream>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -199,6 +187,10 @@ protected:
 
 TEST_F(First_Of_Two_Starts, The_Second_Brings_The_First_Window_To_The_Front_As_It_Was_And_Ends)
 {
+    Main().hide();
+    m_program->Come_To_The_Front();
+    EXPECT_FALSE(Main().isVisible()) << "asked before it has a window it shows none yet";
+    Main().show();
     const auto other = Something_Else();
     ASSERT_FALSE(Main().isActiveWindow());
     Expect_Shown_By_The_First(Home());
@@ -238,18 +230,21 @@ TEST_F(First_Of_Two_Starts, Once_The_First_Is_Leaving_The_Next_Start_Waits_And_I
     EXPECT_TRUE(next.Is_Running());
 }
 
-TEST_F(First_Of_Two_Starts, Asked_Before_It_Has_A_Window_It_Shows_None_Yet)
+TEST_F(Two_Starts, What_The_First_Keeps_Is_Behind_A_Folder_Of_The_Users_Alone_And_The_Second_Leaves_Every_File_Alone)
 {
-    Main().hide();
-    m_program->Come_To_The_Front();
-    EXPECT_FALSE(Main().isVisible());
-}
-
-TEST_F(Two_Starts, The_Second_Leaves_Every_File_Of_The_First_Alone)
-{
+    const mode_t mask_before = umask(0); // the user takes nothing away from what others may
     Started_Corvane first(Home());
     ASSERT_TRUE(Comes_Up(first, Home()));
+    umask(mask_before);
     Expect_Shown_By_The_First(Home()); // everything is in place and quiet by then
+    const auto everything = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+    EXPECT_EQ(QDir(Home()).entryList(everything), QStringList{"corvane"});
+    EXPECT_EQ(Mode_Of(Home() + "/corvane"), S_IFDIR | 0700U);
+    EXPECT_EQ(Mode_Of(Home() + "/corvane/Running.lock"), S_IFREG | 0600U);
+    EXPECT_EQ(Mode_Of(Home() + "/corvane/Running.socket"), S_IFSOCK | 0600U);
+    for (const auto& [path, state] : Everything())
+        EXPECT_FALSE(S_ISLNK(Mode_Of(QString::fromStdString(path)))) << path << " leads out of the folder";
+
     Write_Bytes(In_Data("Templates.ZOVA"), "kept\n");
     ASSERT_TRUE(QFile::remove(In_Data("SentItem.ZOVA"))); // which every start of its own would make again
     const auto before = Everything();
@@ -258,35 +253,6 @@ TEST_F(Two_Starts, The_Second_Leaves_Every_File_Of_The_First_Alone)
         Expect_Shown_By_The_First(Home(), arguments);
     Expect_Shown_By_The_First(Home(), {}, "no such platform"); // it needs no screen
     EXPECT_EQ(Everything(), before);
-    EXPECT_TRUE(first.Is_Running());
-}
-
-TEST_F(Two_Starts, Everything_That_A_Program_Keeps_Is_Behind_A_Folder_That_Only_The_User_Can_Enter)
-{
-    const mode_t mask_before = umask(0); // the user takes nothing away from what others may
-    Started_Corvane first(Home());
-    ASSERT_TRUE(Comes_Up(first, Home()));
-    umask(mask_before);
-    Expect_Shown_By_The_First(Home());
-    const auto everything = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
-    EXPECT_EQ(QDir(Home()).entryList(everything), QStringList{"corvane"});
-    EXPECT_EQ(Mode_Of(Home() + "/corvane"), S_IFDIR | 0700U);
-    EXPECT_EQ(Mode_Of(Home() + "/corvane/Running.lock"), S_IFREG | 0600U);
-    EXPECT_EQ(Mode_Of(Home() + "/corvane/Running.socket"), S_IFSOCK | 0600U);
-    QDirIterator walk(Home(), everything, QDirIterator::Subdirectories);
-    while (walk.hasNext())
-        EXPECT_FALSE(S_ISLNK(Mode_Of(walk.next()))) << walk.filePath().toStdString() << " leads out of the folder";
-}
-
-TEST_F(Two_Starts, A_First_That_Hangs_Is_Reported_And_Not_Touched)
-{
-    Started_Corvane first(Home());
-    ASSERT_TRUE(Comes_Up(first, Home()));
-    Expect_Shown_By_The_First(Home());
-    first.Signal(SIGSTOP);
-    Expect_No_Answer();
-    first.Signal(SIGCONT);
-    Expect_Shown_By_The_First(Home());
     EXPECT_TRUE(first.Is_Running());
 }
 

@@ -1,10 +1,6 @@
-#include "engine/Job_State.h"
 #include "gui/Open_Program.h"
-#include "platform/Waiting.h"
 #include "support/Typist.h"
 #include "windows/main/Long_SMS_Dlg.h"
-
-#include <QMessageBox>
 
 namespace {
 
@@ -88,10 +84,7 @@ protected:
 
     void Click_In_That_Second(QPushButton& button)
     {
-        In_That_Second([&button] {
-            const QPoint middle = button.mapTo(button.window(), button.rect().center());
-            QTest::mouseClick(button.window()->windowHandle(), Qt::LeftButton, {}, middle);
-        });
+        In_That_Second([&button] { Click_Middle_Of(button); });
     }
 };
 

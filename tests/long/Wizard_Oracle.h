@@ -15,6 +15,5 @@ struct Wizard_Outcome
     bool is_lost = false; ///< the phone reads no further: only plugging in again helps
 };
 
-/// The described steps of the probe and of Select, taken one after the other with what a phone in these moods makes of
-/// them. The custom service centre is empty for the phone's own.
+/// Worked out from the described steps. The custom service centre is empty for the phone's own.
 Wizard_Outcome Expected_Visit(const Phone_Moods& moods, const QString& custom_centre);

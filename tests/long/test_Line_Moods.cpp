@@ -1,5 +1,4 @@
-// Every mood of the virtual phone in every way to send, and every two of them together. What must come of each is
-// worked out by Expected_Outcome.
+// Every mood of the virtual phone in every way to send, and every two of them together.
 #include "windows/main/Line_Test.h"
 
 static const bool Singles_Registered = Register_Combinations("Line_Moods", Single_Moods());

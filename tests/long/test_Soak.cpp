@@ -1,11 +1,5 @@
-#include "engine/Job_State.h"
-#include "platform/Waiting.h"
-#include "records/Data_Paths.h"
 #include "windows/main/Sending_Test.h"
 
-#include <QDir>
-#include <QFile>
-#include <gmock/gmock.h>
 #include <random>
 
 namespace {

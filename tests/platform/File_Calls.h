@@ -48,6 +48,5 @@ private:
     bool m_was_cut_off = false;
 };
 
-/// Runs the steps in a child process that a plan watches over. Returns whether it lived to the end of them. The child
-/// has this one thread and ends without any clean-up of its own.
+/// Whether a child process that a plan watches over lives to the end of the steps. It ends without any clean-up.
 bool Lives_Through(const File_Call_Plan& plan, const std::function<void()>& steps);

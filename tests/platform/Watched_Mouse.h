@@ -6,9 +6,8 @@
 #include <QWidget>
 #include <atomic>
 
-// A window that counts the moves of the mouse over it. A move comes in through the queue of the window system, like all
-// that the user does: it takes effect when the user's events are next served, and not before. (Clicks made by a test
-// are delivered at once and prove nothing about waiting.)
+// Counts the moves of the mouse over it. A move comes in through the queue of the window system and takes effect when
+// the user's events are next served. (Clicks made by a test are delivered at once and prove nothing about waiting.)
 class Watched_Mouse : public QWidget
 {
 public:

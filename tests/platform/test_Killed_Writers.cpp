@@ -76,9 +76,8 @@ protected:
             Write_Bytes(Path(), *content);
     }
 
-    /// Kills a writer just before and just after each of its file-system calls, each time from the same beginning, and
-    /// looks at what is left: what its last whole step left, or the one after it; or one of the extra contents. Returns
-    /// how often it was killed.
+    /// Kills a writer before and after each of its file-system calls: what is left is what its last whole step left, or
+    /// the one after it, or one of the extra contents. Returns how often it was killed.
     int Kill_Everywhere(const Content& before, const std::vector<Step>& steps, const File_Call_Plan& manners = {},
                         const std::vector<Content>& extra = {})
     {
@@ -117,8 +116,7 @@ protected:
         }
     }
 
-    /// A killed replacement may be left under the one name, and the next one takes it away. The note of an append has
-    /// gone with what it was for.
+    /// A killed replacement may be left under the one name, and the next one takes it away.
     void Expect_Nothing_Strange_Beside() const
     {
         const QStringList beside = Beside();

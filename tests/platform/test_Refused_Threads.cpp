@@ -17,8 +17,6 @@
 #include <sanitizer/lsan_interface.h>
 #endif
 
-namespace {
-
 class Thread_Shortage : public testing::Test
 {
 protected:
@@ -160,5 +158,3 @@ TEST_F(Net, What_Breaks_While_The_User_Is_Told_Is_Only_Logged)
     EXPECT_EQ(m_told, 1);
     EXPECT_TRUE(m_log.Has("An action ended early: second"));
 }
-
-} // namespace

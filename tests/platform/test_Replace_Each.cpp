@@ -27,7 +27,6 @@ TEST(Replace_Each, Ten_Million_Of_Them_Take_No_Longer_Each)
     const QString tokens = Replace_Each(QString(10'000'000, u'\n'), u"\n", u"|AP*|DX/");
     EXPECT_EQ(tokens.size(), 80'000'000);
     EXPECT_EQ(Replace_Each(tokens, u"|AP*|DX/", u"\n"), QString(10'000'000, u'\n'));
-    // Moving the rest once for every thousand would take a quarter of an hour. This allows for a slow machine under a
-    // sanitizer.
+    // Moving the rest for every thousand would take a quarter of an hour. This is for a slow machine.
     EXPECT_LT(Now_Seconds() - begin, 60);
 }

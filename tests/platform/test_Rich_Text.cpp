@@ -8,8 +8,7 @@
 
 namespace {
 
-// Written by word processors, a converter from Markdown, one from LaTeX, and a desktop's text editing classes, with
-// what each of them shows beside it.
+// Of word processors, two converters, and a desktop's text classes, with what each shows beside it.
 const QDir Documents(QStringLiteral(CORVANE_TEST_DATA "/rich_text"));
 
 QStringList Document_Names()

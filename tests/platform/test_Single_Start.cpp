@@ -220,18 +220,13 @@ TEST_F(Single_Start_Test, Of_Many_At_The_Same_Moment_Exactly_One_Is_The_First)
     }
 }
 
-TEST_F(Single_Start_Test, Another_Way_To_The_Same_Folder_Is_The_Same_Folder)
-{
-    Put_A_Folder_At(Folder());
-    ASSERT_TRUE(QFile::link(Folder(), Path("link")));
-    const auto first = First();
-    EXPECT_EQ(Single_Start(Path("link")).Begin(0), Outcome::No_Answer);
-}
-
-TEST_F(Single_Start_Test, The_Folder_Stays_Taken_When_The_Lock_File_Is_Deleted_Or_Can_Not_Be_Made)
+TEST_F(Single_Start_Test,
+       The_Folder_Stays_Taken_Whichever_Way_Leads_There_And_When_The_Lock_File_Is_Deleted_Or_Can_Not_Be_Made)
 {
     {
         const auto first = First();
+        ASSERT_TRUE(QFile::link(Folder(), Path("link")));
+        EXPECT_EQ(Single_Start(Path("link")).Begin(0), Outcome::No_Answer);
         ASSERT_TRUE(QFile::remove(In_Folder("Running.lock")));
         Expect_It_Is_Taken();
     }

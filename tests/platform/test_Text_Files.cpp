@@ -7,8 +7,6 @@
 #include <sys/un.h>
 #include <sys/wait.h>
 
-namespace {
-
 const QChar Nul(u'\0');
 
 class Text_Files : public Files_Test
@@ -44,8 +42,6 @@ protected:
         return {"folder", "pipe", "loop", "link to a pipe", "link to zeros", "socket", "plain/below", "no folder/file"};
     }
 };
-
-} // namespace
 
 TEST_F(Text_Files, What_Was_Written_Is_Read_Back_Byte_For_Byte)
 {

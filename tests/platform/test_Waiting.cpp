@@ -9,8 +9,6 @@
 #include <sys/resource.h>
 #include <thread>
 
-namespace {
-
 class Waiting : public testing::Test
 {
 protected:
@@ -53,8 +51,6 @@ protected:
         });
     }
 };
-
-} // namespace
 
 TEST_F(Waiting, The_Clock_Never_Goes_Back_And_Today_Is_The_Users_Date)
 {

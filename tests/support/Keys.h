@@ -1,13 +1,12 @@
 #pragma once
 
-#include <QApplication>
-#include <QKeyEvent>
-#include <QTest>
-#include <QTimer>
-#include <QWindow>
+#include "support/Serve_Until.h"
 
-// What a person does with the keyboard: keys go to the window in front, as the window system hands them out, and from
-// there to whatever has the focus. Interface thread.
+#include <QtTest>
+#include <QtWidgets>
+#include <gtest/gtest.h>
+
+// Keys go to the window in front, and from there to whatever has the focus. Interface thread.
 
 inline QWindow& Window_In_Front()
 {
@@ -67,3 +66,17 @@ private:
     QTimer m_timer;
     int m_repeats = 0;
 };
+
+/// Until it has repeated itself some more times.
+inline void Serve_Repeats(const Held_Key& key)
+{
+    const int enough = key.Repeats() + 10;
+    EXPECT_TRUE(Serve_Until([&] { return key.Repeats() >= enough; }));
+}
+
+inline void Hold_Down(Qt::Key key)
+{
+    Held_Key held(key);
+    held.Press();
+    Serve_Repeats(held);
+}

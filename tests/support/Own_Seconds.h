@@ -4,9 +4,8 @@
 
 #include <cstdio>
 
-/// The calling thread's own time, in seconds: as the clock's, less the time in which it wanted to run and a busy
-/// computer let others run. So what it says of the program does not depend on what else goes on. Only differences mean
-/// something, within one thread.
+/// The calling thread's own time, in seconds: the clock's, less the time in which it wanted to run and a busy computer
+/// let others run. Only differences mean something, within one thread.
 inline double Own_Seconds()
 {
     const double now = Now_Seconds();

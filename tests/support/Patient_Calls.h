@@ -7,10 +7,9 @@
 #include <mutex>
 #include <string>
 
-/// The system's calls on a serial line, for tests whose phone lives in the same process: a write ends when the phone at
-/// the other end has taken it and what it says to it at once has arrived. So no answer is lost to a machine that gives
-/// the phone no turn while a fast pace cuts the reads short. What the phone says later than within a read is not
-/// waited for. Any thread.
+/// The system's calls on a serial line, for tests whose phone lives in the same process: a write ends when the phone
+/// has taken it and what it says to it at once has arrived, so that no answer is lost to a machine that gives the phone
+/// no turn. What it says later than within a read is not waited for. Any thread.
 class Patient_Calls : public Serial_Calls
 {
 public:

@@ -24,8 +24,7 @@ bool Is_Refused()
 
 } // namespace
 
-// Stands before the system's own in every test program that it is linked into: the standard library and the toolkit
-// find this one first.
+// Stands before the system's own: the standard library and the toolkit find this one first.
 extern "C" int pthread_create(pthread_t* thread, const pthread_attr_t* attributes, void* (*run)(void*),
                               void* argument) noexcept
 {

@@ -8,8 +8,7 @@
 #include <QWindow>
 #include <cmath>
 
-/// Presses a key and lets it go: it goes to the window that has the keyboard at this moment, as if the window system
-/// had told of it.
+/// Presses a key and lets it go, in the window that has the keyboard at this moment.
 inline void Press_Key(Qt::Key key, const QString& text = {}, Qt::KeyboardModifiers modifiers = {})
 {
     QWindow* window = QGuiApplication::focusWindow();

@@ -1,17 +1,9 @@
 #include "support/Serve_Until.h"
 #include "toolkit/Input_Hold.h"
 
-#include <QAction>
-#include <QComboBox>
-#include <QDialog>
-#include <QLineEdit>
-#include <QListView>
-#include <QPushButton>
-#include <QTest>
-#include <QVBoxLayout>
+#include <QtTest>
+#include <QtWidgets>
 #include <gtest/gtest.h>
-
-namespace {
 
 class Input_Hold_Window : public testing::Test
 {
@@ -49,8 +41,6 @@ protected:
     int m_clicks = 0;
     int m_actions = 0;
 };
-
-} // namespace
 
 TEST_F(Input_Hold_Window, Clicks_Keys_And_Shortcuts_Are_Dropped_While_It_Lives)
 {

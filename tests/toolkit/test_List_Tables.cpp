@@ -3,21 +3,12 @@
 #include "toolkit/Whole_Text_Delegate.h"
 #include "toolkit/Window_Look.h"
 
-#include <QApplication>
-#include <QHelpEvent>
-#include <QItemSelectionModel>
-#include <QLabel>
-#include <QProxyStyle>
-#include <QStyleOptionViewItem>
-#include <QTableView>
-#include <QTest>
-#include <QToolTip>
+#include <QtTest>
+#include <QtWidgets>
 #include <gmock/gmock.h>
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-namespace {
 
 const QChar Ellipsis(0x2026);
 
@@ -80,8 +71,6 @@ protected:
     Noting_Style m_style;
     QTableView m_table;
 };
-
-} // namespace
 
 TEST_F(List_Tables, A_Row_Is_Selected_Alone_Whatever_Keys_Are_Held)
 {

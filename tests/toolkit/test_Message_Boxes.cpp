@@ -1,14 +1,10 @@
-#include "platform/Interface_Thread.h"
-#include "platform/Waiting.h"
 #include "support/Serve_Until.h"
 #include "support/User.h"
 #include "toolkit/Main_Window.h"
 #include "toolkit/Message_Boxes.h"
 
-#include <QDialog>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QTest>
+#include <QtTest>
+#include <QtWidgets>
 #include <atomic>
 #include <gtest/gtest.h>
 

@@ -4,8 +4,6 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
-namespace {
-
 class Paint_Counter : public QObject
 {
 public:
@@ -36,8 +34,6 @@ protected:
     Modal_Sheet m_sheet;
 };
 
-} // namespace
-
 TEST_F(Modal_Sheets, It_Is_Drawn_When_Begin_Returns_And_Gone_When_End_Returns)
 {
     Paint_Counter counter;
@@ -53,16 +49,6 @@ TEST_F(Modal_Sheets, It_Is_Drawn_When_Begin_Returns_And_Gone_When_End_Returns)
     }
 }
 
-TEST_F(Modal_Sheets, Neither_Escape_Nor_Enter_Nor_The_Close_Button_Ends_It)
-{
-    m_sheet.Begin_Sheet(&m_window);
-    QTest::keyClick(&m_sheet, Qt::Key_Escape);
-    QTest::keyClick(&m_sheet, Qt::Key_Return);
-    EXPECT_FALSE(m_sheet.close());
-    m_sheet.reject();
-    EXPECT_TRUE(m_sheet.isVisible());
-}
-
 TEST_F(Modal_Sheets, Begun_Again_It_Moves_Over_The_Other_Window)
 {
     QWidget second;
@@ -75,6 +61,16 @@ TEST_F(Modal_Sheets, Begun_Again_It_Moves_Over_The_Other_Window)
     EXPECT_TRUE(second.geometry().contains(m_sheet.geometry().center()));
     m_sheet.End_Sheet();
     m_sheet.setParent(nullptr);
+}
+
+TEST_F(Modal_Sheets, Neither_Escape_Nor_Enter_Nor_The_Close_Button_Ends_It)
+{
+    m_sheet.Begin_Sheet(&m_window);
+    QTest::keyClick(&m_sheet, Qt::Key_Escape);
+    QTest::keyClick(&m_sheet, Qt::Key_Return);
+    EXPECT_FALSE(m_sheet.close());
+    m_sheet.reject();
+    EXPECT_TRUE(m_sheet.isVisible());
 }
 
 TEST_F(Modal_Sheets, It_Keeps_Clicks_From_The_Window_Below)

@@ -1,10 +1,8 @@
-#include "platform/Waiting.h"
 #include "support/Own_Seconds.h"
 #include "toolkit/Plain_Text_Edit.h"
 
-#include <QClipboard>
-#include <QGuiApplication>
-#include <QTest>
+#include <QtTest>
+#include <QtWidgets>
 #include <gtest/gtest.h>
 
 namespace {
@@ -18,8 +16,11 @@ void Paste(QWidget& edit, const QString& text)
 TEST(Plain_Text_Edit, A_Text_Is_Taken_Out_As_It_Was_Entered)
 {
     Plain_Text_Edit edit;
-    for (const QString text : {"", " a\u00A0b\n\nc ", "\U0001F600", "%1 <b>&amp;</b>"}) {
-        edit.setPlainText(text);
+    for (const QString& text : {QString(" a\u00A0b\n\nc "), QString("\U0001F600\U0001F469\u200D\U0001F680"),
+                                QString("%1 %n <b>&amp;</b>"), QString("\u05E9\u05DC\u05D5\u05DD abc \u202E def"),
+                                QChar(0xD83D) + QString(u'x') + QChar(0xDE00), QString(u'a') + QChar(0) + u'b'}) {
+        edit.selectAll();
+        Paste(edit, text);
         EXPECT_EQ(Exact_Text(edit), text);
         EXPECT_EQ(Text_Length(edit), text.size());
     }

@@ -1,15 +1,9 @@
 #include "toolkit/List_Tables.h"
 #include "toolkit/Row_Table_Model.h"
 
-#include <QAbstractItemModelTester>
-#include <QItemSelectionModel>
-#include <QPixmap>
-#include <QSignalSpy>
-#include <QTableView>
-#include <QTest>
+#include <QtTest>
+#include <QtWidgets>
 #include <gtest/gtest.h>
-
-namespace {
 
 class Row_Table : public testing::Test
 {
@@ -25,8 +19,6 @@ protected:
                                 return identifier + ' ' + QString::number(row);
                             }};
 };
-
-} // namespace
 
 TEST_F(Row_Table, A_Cell_Shows_The_Value_Under_Its_Columns_Identifier_And_A_Heading_Its_Title)
 {

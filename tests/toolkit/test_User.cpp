@@ -20,17 +20,18 @@ bool Ask()
 }
 
 // Apart, since what is to fail may use nothing of its test.
-void Ask_Somebody_Who_Will(const std::function<void(User&)>& do_what)
-{
-    User user;
-    do_what(user);
-    EXPECT_FALSE(Ask());
-}
-
 void Leave_Somebody_Who_Will(const std::function<void(User&)>& do_what)
 {
     User user;
     do_what(user);
+}
+
+void Ask_Somebody_Who_Will(const std::function<void(User&)>& do_what)
+{
+    Leave_Somebody_Who_Will([&](User& user) {
+        do_what(user);
+        EXPECT_FALSE(Ask());
+    });
 }
 
 } // namespace

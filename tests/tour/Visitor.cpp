@@ -199,8 +199,7 @@ void Visitor::Save(const QPixmap& picture, const QString& name)
     fflush(stdout);
 }
 
-// It is left for the interface thread and not waited for: a click that opens a dialog returns only when the dialog has
-// closed.
+// Not waited for: a click that opens a dialog returns only when the dialog has closed.
 void Visitor::Do(const QString& window, const QString& control, const std::function<void(QWidget&)>& action)
 {
     Await_Input(window, control);

@@ -4,8 +4,7 @@
 
 #include <QDate>
 
-// A visitor who knows the way of the tour: its steps one after the other, each through the real windows. Every step
-// throws Tour_Failed when a window, a box or a file is not what it must be.
+// A visitor who knows the way of the tour. Every step throws Tour_Failed when something is not what it must be.
 class Walk : public Visitor
 {
 public:

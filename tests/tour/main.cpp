@@ -18,8 +18,7 @@
 
 namespace {
 
-// A home of the tour's own, with nothing in it: neither are the user's own files touched nor do they get into pictures.
-// Returns where the file panels begin.
+// A home of the tour's own, with nothing in it. Returns where the file panels begin.
 QString Settle_In(const QString& home)
 {
     const QString documents = home + "/Documents";

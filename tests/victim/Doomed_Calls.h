@@ -4,8 +4,7 @@
 #include <cstddef>
 #include <string>
 
-/// What is to happen to the calls of this process that change files, and to what it writes to the phone. They are
-/// counted from 1, over all threads.
+/// The fate of the calls that change files and of what is written to the phone, counted from 1 over all threads.
 struct Doom
 {
     enum class Way : char

@@ -1,9 +1,8 @@
 #pragma once
 
 // Each of these lets the program do one kind of work, again and again from the same beginning, while one of the calls
-// by which it changes a file fails, or all of them from one on, for each of the reasons that a disk has. What is shown
-// is what is described, and every file is the old or the new. They return how often something failed. A stride of 3
-// leaves out two of three calls.
+// by which it changes a file fails, or all from one on, for each of the reasons that a disk has. What is shown is what
+// is described, and every file is the old or the new. They return how often something failed.
 
 int Fail_First_Starts(int stride);
 int Fail_Jobs(int stride);

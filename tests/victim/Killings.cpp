@@ -4,7 +4,6 @@
 #include "victim/Trial.h"
 
 #include <algorithm>
-#include <gtest/gtest.h>
 
 namespace {
 

@@ -1,15 +1,6 @@
 #include "victim/Person.h"
 
-#include "support/User.h"
-
-#include <QAbstractButton>
-#include <QApplication>
-#include <QEvent>
-#include <QFileDialog>
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QTest>
-#include <utility>
+#include "support/In_Windows.h"
 
 Person::Person()
 {
@@ -33,10 +24,8 @@ QStringList Person::Boxes_Since()
 
 void Person::Click_In(QWidget& window, const char* button)
 {
-    auto* found = window.findChild<QAbstractButton*>(QLatin1String(button));
-    if (!found)
-        qFatal("there is no %s in %s", button, qPrintable(window.objectName()));
-    QTest::mouseClick(found, Qt::LeftButton, {}, QPoint(8, found->height() / 2));
+    auto& found = In<QAbstractButton>(window, button);
+    QTest::mouseClick(&found, Qt::LeftButton, {}, QPoint(8, found.height() / 2));
 }
 
 bool Person::eventFilter(QObject* watched, QEvent* event)
@@ -59,9 +48,7 @@ void Person::Handle(QWidget& window) const
         if (!Click_First(*box, {"Yes", "OK"}))
             qFatal("nothing to agree to: %s", qPrintable(box->text()));
     } else if (auto* panel = qobject_cast<QFileDialog*>(&window)) {
-        auto* name = panel->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-        name->setText(m_path);
-        QTest::keyClick(name, Qt::Key_Return);
+        Enter_Path(*panel, m_path);
     } else if (const auto steps = m_windows.find(window.objectName()); steps != m_windows.end()) {
         steps->second(window);
     }

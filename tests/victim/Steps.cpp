@@ -3,25 +3,14 @@
 #include "app/Program.h"
 #include "device/Chosen_Device.h"
 #include "engine/Job_State.h"
-#include "platform/Interface_Thread.h"
 #include "platform/Pace.h"
 #include "platform/Single_Start.h"
 #include "records/Data_Paths.h"
 #include "support/Files.h"
-#include "support/Serve_Until.h"
+#include "support/In_Windows.h"
 #include "victim/Person.h"
 #include "victim/Spoilt_Disk.h"
 #include "windows/main/CorvaneAppDelegate.h"
-
-#include <QApplication>
-#include <QCheckBox>
-#include <QDirIterator>
-#include <QFileInfo>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QTableView>
-#include <QTest>
-#include <QTimer>
 
 namespace {
 
@@ -104,15 +93,9 @@ private:
     QString In_World(const QString& name) const { return QString::fromStdString(m_order.world) + u'/' + name; }
     QString Phone() const { return QString::fromStdString(m_order.phone); }
 
-    template <typename Widget>
-    static Widget* Find(QWidget& window, const char* name)
-    {
-        return window.findChild<Widget*>(QLatin1String(name));
-    }
-
     void Add_Number(const QString& number)
     {
-        Find<QLineEdit>(Main_Window_Shown(), "_numberEdit")->setText(number);
+        In<QLineEdit>(Main_Window_Shown(), "_numberEdit").setText(number);
         Click("Add_Number");
     }
 
@@ -130,10 +113,9 @@ private:
 
     static void Select(QWidget& window, const char* table, int first, int last)
     {
-        auto* rows = Find<QTableView>(window, table);
-        rows->clearSelection();
-        rows->selectionModel()->select(QItemSelection(rows->model()->index(first, 0), rows->model()->index(last, 0)),
-                                       QItemSelectionModel::Select | QItemSelectionModel::Rows);
+        auto& rows = In<QTableView>(window, table);
+        rows.selectionModel()->select(QItemSelection(rows.model()->index(first, 0), rows.model()->index(last, 0)),
+                                      QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     }
 
     void Do_The_Steps()
@@ -166,7 +148,7 @@ private:
 
     void Note_Rows(const QByteArray& what, QWidget& window, const char* table)
     {
-        const auto* rows = Find<QTableView>(window, table)->model();
+        const auto* rows = In<QTableView>(window, table).model();
         for (int row = 0; row < rows->rowCount(); ++row) {
             QStringList cells;
             for (int column = 0; column < rows->columnCount(); ++column)
@@ -184,7 +166,7 @@ private:
             Add_Number(QString::number(item));
         }
         for (const char* box : {"_Save_Sent_Item_Chk", "_Save_Templates_Chk"})
-            Find<QCheckBox>(Main_Window_Shown(), box)->setChecked(true);
+            In<QCheckBox>(Main_Window_Shown(), box).setChecked(true);
         Mark("list");
         Click("_sent_btn");
         Serve_Until([] { return sms_thread_var == 0; }, 50);
@@ -196,11 +178,9 @@ private:
     {
         m_person.In_Window("Phone_List_Wnd", [this](QWidget& window) {
             Serve_Until_Quiet();
-            auto* table = Find<QTableView>(window, "idPortList");
-            const auto* rows = table->model();
-            const auto found = rows->match(rows->index(0, 1), Qt::DisplayRole, Phone(), 1, Qt::MatchExactly);
-            if (!found.isEmpty())
-                QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, table->visualRect(found.front()).center());
+            auto& table = In<QTableView>(window, "idPortList");
+            if (const auto row = Row_With(table, Phone(), 1); row.isValid())
+                QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, table.visualRect(row).center());
             Serve_Until_Quiet();
             Person::Click_In(window, "_Select_Btn");
             if (window.isVisible())
@@ -225,7 +205,7 @@ private:
     void Edit_Templates()
     {
         m_person.In_Window("UpdateTemp", [](QWidget& dialog) {
-            Find<QPlainTextEdit>(dialog, "m_templ_msg_str")->insertPlainText(u"entered"_qs);
+            In<QPlainTextEdit>(dialog, "m_templ_msg_str").insertPlainText(u"entered"_qs);
             Person::Click_In(dialog, "OKPressed");
         });
         Visit(Templates_Window, [](QWidget& window) {
@@ -276,9 +256,9 @@ private:
         Visit(Exclusion_Window, [this](QWidget& wizard) {
             const auto click = [&](const char* button) { Person::Click_In(wizard, button); };
             click("m_addnew_btn");
-            Find<QLineEdit>(wizard, "m_ex_list_name_edit")->setText(u"Fresh"_qs);
+            In<QLineEdit>(wizard, "m_ex_list_name_edit").setText(u"Fresh"_qs);
             click("m_next_btn");
-            Find<QLineEdit>(wizard, "m_loadfile_edit")->setText(In_World("numbers.txt"));
+            In<QLineEdit>(wizard, "m_loadfile_edit").setText(In_World("numbers.txt"));
             click("m_load_btn");
             Serve_Until_Quiet();
             click("m_finish_btn");
@@ -290,8 +270,8 @@ private:
             Select(wizard, "m_exclusion_list", 0, 0);
             click("m_update_btn");
             Serve_Until_Quiet();
-            if (auto* number = Find<QLineEdit>(wizard, "m_loadnum_edit"); number->isVisible()) {
-                number->setText(u"999"_qs);
+            if (auto& number = In<QLineEdit>(wizard, "m_loadnum_edit"); number.isVisible()) {
+                number.setText(u"999"_qs);
                 click("m_add_num_btn");
                 click("m_finish_btn");
             }

@@ -1,7 +1,6 @@
 #include "victim/Trial.h"
 
 #include <QDate>
-#include <atomic>
 #include <gtest/gtest.h>
 #include <thread>
 

@@ -4,7 +4,6 @@
 #include "victim/Victim.h"
 #include "victim/World.h"
 
-#include <functional>
 #include <vector>
 
 // A victim with a world of its own and a phone.
@@ -33,8 +32,7 @@ struct Trial
     std::function<void(Lane&)> look_closer = [](Lane&) {}; ///< is done after some of the lives
 };
 
-/// Lets the work be done once with nothing wrong, and then with every fate that is thought of after that, in several
-/// lanes at a time. Returns how many of them came true.
+/// Does the work once whole and then with every fate thought of after that. Returns how many of them came true.
 int Try_All(const Trial& trial, const std::function<std::vector<Doom>(const Ending& whole)>& fates);
 
 /// The next start finds nobody else at work, has nothing to say, and leaves nothing about.

@@ -32,8 +32,7 @@ struct Ending
     QByteArrayList Rows(const QByteArray& what) const;
 };
 
-// A running corvane-victim, which lives through one order after the other, each as a program of its own. For one
-// thread.
+// A running corvane-victim, which lives through orders, each as a program of its own. For one thread.
 class Victim
 {
 public:

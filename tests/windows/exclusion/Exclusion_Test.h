@@ -1,27 +1,15 @@
 #pragma once
 
-#include "platform/Interface_Thread.h"
 #include "platform/Pace.h"
-#include "platform/Waiting.h"
 #include "support/Data_Folder.h"
 #include "support/Heartbeat.h"
-#include "support/Serve_Until.h"
-#include "support/User.h"
+#include "support/In_Windows.h"
 #include "support/Window_For_Tests.h"
 #include "toolkit/List_Tables.h"
 #include "toolkit/Window_Look.h"
 #include "windows/exclusion/Exclusion_Wizard.h"
 
-#include <QApplication>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTableView>
-#include <QTest>
-#include <QWindow>
-#include <gmock/gmock.h>
 #include <set>
-#include <string>
 
 inline const char* const Info_1 =
     "Exclusion List Wizard allows you to maintain the Lists of contacts or Groups, which you may need to exclude time "
@@ -97,10 +85,7 @@ protected:
     template <typename Type = QWidget>
     Type& Control(const char* name) const
     {
-        auto* control = m_window->findChild<Type*>(name);
-        if (!control)
-            throw std::runtime_error(std::string("no control ") + name);
-        return *control;
+        return In<Type>(*m_window, name);
     }
     QString Text(const char* name) const { return Control<QLineEdit>(name).text(); }
     QString Label(const char* name) const { return Control<QLabel>(name).text(); }
@@ -110,28 +95,12 @@ protected:
     QTableView& Available() const { return Control<QTableView>("m_exclusion_list"); }
     QTableView& Applied() const { return Control<QTableView>("m_applied_axclusion_list"); }
     QTableView& Numbers() const { return Control<QTableView>("m_ex_num_list"); }
-    static QStringList Rows_Of(const QTableView& table)
-    {
-        QStringList rows;
-        for (int row = 0; row < table.model()->rowCount(); ++row)
-            rows.append(table.model()->index(row, 0).data().toString());
-        return rows;
-    }
-    static void Select(QTableView& table, const std::vector<int>& rows)
-    {
-        table.clearSelection();
-        for (const int row : rows)
-            table.selectionModel()->select(table.model()->index(row, 0),
-                                           QItemSelectionModel::Select | QItemSelectionModel::Rows);
-    }
 
     // What the person does, as events of the window system, which modal windows hold back.
     void Click(const char* name, Qt::KeyboardModifiers keys = {}) const
     {
-        QWidget& control = Control(name);
-        ASSERT_TRUE(control.isVisible()) << name;
-        QTest::mouseClick(m_window->windowHandle(), Qt::LeftButton, keys,
-                          control.mapTo(m_window.get(), control.rect().center()));
+        ASSERT_TRUE(Control(name).isVisible()) << name;
+        Click_Middle_Of(Control(name), keys);
     }
     /// While Control is held down, as the keyboard says, too.
     void Click_Holding_Control(const char* name) const
@@ -141,17 +110,14 @@ protected:
         EXPECT_EQ(QGuiApplication::keyboardModifiers(), Qt::ControlModifier);
         QTest::keyRelease(m_window.get(), Qt::Key_Control);
     }
-    static QPoint Middle_Of(const QTableView& table, int row)
+    static void Click_Row(const QTableView& table, int row, Qt::KeyboardModifiers keys = {})
     {
-        return table.viewport()->mapTo(table.window(), table.visualRect(table.model()->index(row, 0)).center());
+        Click_At(*table.viewport(), Middle_Of(table, row), keys);
     }
-    void Click_Row(const QTableView& table, int row, Qt::KeyboardModifiers keys = {}) const
+    static void Double_Click_Row(const QTableView& table, int row)
     {
-        QTest::mouseClick(m_window->windowHandle(), Qt::LeftButton, keys, Middle_Of(table, row));
-    }
-    void Double_Click_Row(const QTableView& table, int row) const
-    {
-        QTest::mouseDClick(m_window->windowHandle(), Qt::LeftButton, {}, Middle_Of(table, row));
+        QTest::mouseDClick(table.window()->windowHandle(), Qt::LeftButton, {},
+                           table.viewport()->mapTo(table.window(), Middle_Of(table, row)));
     }
 
     struct Box
@@ -236,8 +202,9 @@ protected:
         Type("m_loadnum_edit", number);
         Click("m_add_num_btn");
     }
-    /// Presses Finish and says Yes.
-    void Finish() { Expect_Boxes("m_finish_btn", {{Continue_Question, "Yes"}}); }
+    /// Presses a button and says Yes.
+    void Agree_To(const char* button) { Expect_Boxes(button, {{Continue_Question, "Yes"}}); }
+    void Finish() { Agree_To("m_finish_btn"); }
 
     Data_Folder m_data;
     Window_For_Tests m_main_window;

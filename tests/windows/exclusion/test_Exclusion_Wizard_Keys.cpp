@@ -3,8 +3,6 @@
 
 // The exclusion wizard with the keyboard alone, and the double click, which does what the keys do.
 
-namespace {
-
 class Exclusion_Keys_Test : public Exclusion_Test
 {
 protected:
@@ -18,21 +16,13 @@ protected:
     static void Take(QTableView& table, const std::vector<int>& rows)
     {
         table.setFocus();
-        Select(table, rows);
-    }
-    static void Hold_Down(Qt::Key key)
-    {
-        Held_Key held(key);
-        held.Press();
-        EXPECT_TRUE(Serve_Until([&] { return held.Repeats() >= 10; }));
+        Select_Rows_In(table, rows);
     }
 };
 
 const auto F2 = [] { Press_Key(Qt::Key_F2); };
 const auto Return = [] { Press_Key(Qt::Key_Return); };
 const auto Delete = [] { Press_Key(Qt::Key_Delete); };
-
-} // namespace
 
 TEST_F(Exclusion_Keys_Test, F2_Return_And_A_Double_Click_Open_The_Selected_List_From_Either_Table)
 {

@@ -1,7 +1,5 @@
 #include "windows/exclusion/Exclusion_Test.h"
 
-namespace {
-
 constexpr int Million = 1000000;
 
 class Exclusion_Large_Test : public Exclusion_Test
@@ -95,5 +93,3 @@ TEST_F(Exclusion_Large_Test, Clicks_And_The_Close_Button_Do_Nothing_While_A_File
         EXPECT_EQ(Numbers().model()->rowCount(), Million / 4 + 1);
     });
 }
-
-} // namespace

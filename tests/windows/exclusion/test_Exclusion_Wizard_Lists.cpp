@@ -1,9 +1,5 @@
 #include "windows/exclusion/Exclusion_Test.h"
 
-#include <QDir>
-
-namespace {
-
 class Exclusion_Lists_Test : public Exclusion_Test
 {
 protected:
@@ -17,7 +13,7 @@ protected:
     {
         std::vector<Box> boxes = {{Delete_Question, "Yes"}};
         boxes.insert(boxes.end(), errors.begin(), errors.end());
-        Select(Available(), rows);
+        Select_Rows_In(Available(), rows);
         Expect_Boxes("m_delete_btn", boxes);
     }
 };
@@ -45,9 +41,9 @@ TEST_F(Exclusion_Lists_Test, With_Nothing_Or_Too_Much_Selected_The_Buttons_Say_S
         const char* const none_selected = "\nPlease select a record from Exclude when sending SMS list to continue.";
         Expect_Told("m_dellist_btn", none_selected, "m_applied_axclusion_list");
         Expect_Told(update_applied, none_selected, "m_applied_axclusion_list");
-        Select(Available(), {0, 1});
+        Select_Rows_In(Available(), {0, 1});
         Expect_Told("m_update_btn", Select_One, "m_exclusion_list");
-        Select(Applied(), {0, 1});
+        Select_Rows_In(Applied(), {0, 1});
         Expect_Told(update_applied, Select_One, "m_applied_axclusion_list");
         EXPECT_EQ(Shown(), On_First_Screen);
         EXPECT_EQ(Rows_Of(Available()).size(), 3);
@@ -61,7 +57,7 @@ TEST_F(Exclusion_Lists_Test, The_Lists_Are_Read_Each_Time_The_Wizard_Opens)
     Run([&] {
         EXPECT_EQ(Rows_Of(Available()), QStringList({"Admin", "Staff", "Sales"}));
         EXPECT_EQ(Rows_Of(Applied()), QStringList("Staff"));
-        Select(Available(), {0, 1});
+        Select_Rows_In(Available(), {0, 1});
     });
     Write_Bytes(Exclusion_Index_Path, "Other\nOne more\n");
     Write_Bytes(Applied_Exclusion_Path, "\xFF");
@@ -81,10 +77,10 @@ TEST_F(Exclusion_Lists_Test, Lists_Are_Applied_In_Table_Order_Until_None_Is_Left
         Click("m_addlist_btn");
         EXPECT_EQ(Rows_Of(Applied()), QStringList({"Elsewhere", "Admin", "Sales"}));
         Expect_Told("m_addlist_btn", "\nSelected list is already in use.", "m_exclusion_list");
-        Select(Available(), {0, 1}); // of which one is applied
+        Select_Rows_In(Available(), {0, 1}); // of which one is applied
         Click("m_addlist_btn");
         EXPECT_EQ(Rows_Of(Applied()), QStringList({"Elsewhere", "Admin", "Sales", "Staff"}));
-        Select(Applied(), {1, 3});
+        Select_Rows_In(Applied(), {1, 3});
         Click("m_dellist_btn");
         Click("m_addAll_list_btn");
         EXPECT_EQ(Rows_Of(Applied()), QStringList({"Elsewhere", "Sales", "Admin", "Staff"}));
@@ -122,11 +118,11 @@ TEST_F(Exclusion_Lists_Test, Applied_Lists_Are_Saved_After_A_Yes_And_Stay_When_T
         Expect_Boxes("m_saveapplied_btn", {{Continue_Question, "No"}});
         EXPECT_EQ(Bytes_Of(Applied_Exclusion_Path), "");
         EXPECT_EQ(m_main_window.m_exclusion_fills, 0);
-        Expect_Boxes("m_saveapplied_btn", {{Continue_Question, "Yes"}});
+        Agree_To("m_saveapplied_btn");
         EXPECT_EQ(Bytes_Of(Applied_Exclusion_Path), "Admin\nStaff\nSales\n");
         EXPECT_EQ(m_main_window.m_exclusion_fills, 1);
         Click("m_delall_list_btn");
-        Expect_Boxes("m_saveapplied_btn", {{Continue_Question, "Yes"}});
+        Agree_To("m_saveapplied_btn");
         EXPECT_EQ(Bytes_Of(Applied_Exclusion_Path), "");
         EXPECT_EQ(m_main_window.m_exclusion_fills, 2);
         Click("m_addAll_list_btn");
@@ -222,5 +218,3 @@ TEST_F(Exclusion_Lists_Test, Each_Table_Answers_For_Its_Own_Identifier_And_Its_O
         }
     });
 }
-
-} // namespace

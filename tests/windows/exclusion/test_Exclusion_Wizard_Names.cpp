@@ -1,9 +1,5 @@
 #include "windows/exclusion/Exclusion_Test.h"
 
-#include <QDir>
-
-namespace {
-
 TEST_F(Exclusion_Test, A_New_List_Goes_Through_All_Screens_Into_Its_Files)
 {
     Make_List("Staff", "7\n");
@@ -124,7 +120,7 @@ TEST_F(Exclusion_Test, A_Name_That_Leads_Out_Of_The_Folder_Gets_The_Error_And_To
             EXPECT_EQ(Rows_Of(Available()).last(), name) << "in the table all the same";
         }
         EXPECT_EQ(Bytes_Of(Exclusion_Index_Path), QByteArray("../x\na/b\na\0b\n", 13));
-        Select(Available(), {0});
+        Select_Rows_In(Available(), {0});
         Expect_Told("m_update_btn", File_Error, "m_exclusion_list");
         EXPECT_EQ(Shown(), On_First_Screen);
         Expect_Counts(0, 0);
@@ -249,5 +245,3 @@ TEST_F(Exclusion_Test, An_Edited_List_That_Can_Not_Be_Saved_Is_Told_About_And_Wi
     });
     EXPECT_EQ(Bytes_Of(Path_Of_List("Sales")), "1\n");
 }
-
-} // namespace

@@ -1,12 +1,5 @@
 #include "windows/exclusion/Exclusion_Test.h"
 
-#include <QDir>
-#include <QFileDialog>
-#include <QSignalSpy>
-#include <sys/stat.h>
-
-namespace {
-
 class Exclusion_Numbers_Test : public Exclusion_Test
 {
 protected:
@@ -161,7 +154,7 @@ TEST_F(Exclusion_Numbers_Test, Without_Numbers_Or_Selection_The_Buttons_Say_So_A
             Expect_Told(button, "\nPlease select at least one record from the exclusion number list to continue.",
                         "m_ex_num_list");
         m_window->OnGetSelected();
-        Select(Numbers(), {0, 1});
+        Select_Rows_In(Numbers(), {0, 1});
         Expect_Told("m_update_num_btn", Select_One, "m_ex_num_list");
         for (const int row_outside : {-1, 2})
             m_window->Replace_Number(row_outside, "3");
@@ -211,5 +204,3 @@ TEST_F(Exclusion_Numbers_Test, A_Number_Is_Edited_In_Its_Place_And_One_Left_As_I
         Expect_Back_Asks();
     });
 }
-
-} // namespace

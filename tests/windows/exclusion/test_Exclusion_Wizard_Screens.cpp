@@ -1,5 +1,4 @@
 #include "platform/Text_Files.h"
-#include "records/Exclusion_Files.h"
 #include "toolkit/Shared_Instance.h"
 #include "windows/exclusion/Exclusion_Test.h"
 
@@ -115,7 +114,7 @@ TEST_F(Exclusion_Test, After_Finish_The_Next_List_Is_Asked_About_Though_Nothing_
     });
 }
 
-TEST_F(Exclusion_Test, Cancel_Ends_The_Wizard_Without_A_Question_Whatever_Is_Unsaved)
+TEST_F(Exclusion_Test, Cancel_Ends_The_Wizard_Whatever_Is_Unsaved_And_On_The_First_Screen_Escape_And_The_Close_Button)
 {
     Run([&] {
         Begin_New_List("Staff", "1");
@@ -126,10 +125,6 @@ TEST_F(Exclusion_Test, Cancel_Ends_The_Wizard_Without_A_Question_Whatever_Is_Uns
     EXPECT_EQ(Workers_Running(), 0);
     EXPECT_EQ(Bytes_Of(Exclusion_Index_Path), "");
     Run([&] { Expect_First_Screen(); });
-}
-
-TEST_F(Exclusion_Test, On_The_First_Screen_Escape_And_The_Close_Button_End_The_Wizard)
-{
     for (const auto way : {Escape, Close_Button}) {
         Run([&] {
             Begin_New_List("Staff", "1");

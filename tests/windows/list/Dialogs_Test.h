@@ -1,48 +1,20 @@
 #pragma once
 
 #include "engine/Job_State.h"
-#include "platform/Interface_Thread.h"
 #include "platform/Pace.h"
-#include "platform/Waiting.h"
 #include "records/Data_Paths.h"
-#include "support/User.h"
+#include "support/In_Windows.h"
 #include "support/Window_For_Tests.h"
 #include "toolkit/Plain_Text_Edit.h"
 #include "toolkit/Shared_Instance.h"
 #include "windows/list/List_Dialogs.h"
-
-#include <QCheckBox>
-#include <QClipboard>
-#include <QDialog>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QPointer>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTableView>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QTimer>
-#include <gtest/gtest.h>
-
-inline void PrintTo(const QString& text, std::ostream* stream)
-{
-    *stream << '"' << text.toStdString() << '"';
-}
-
-inline void PrintTo(const QStringList& texts, std::ostream* stream)
-{
-    *stream << texts.join(QStringLiteral(" | ")).toStdString();
-}
 
 inline const QString List_Empty = "\nPhone numbers-Messages list is empty.";
 inline const QString None_Selected =
     "\nPlease select at least one record from the phone numbers-messages list to continue.";
 inline const QString Enter_Message = "\nPlease enter some text message.";
 
-// Keeps what the fake main window does not: what a dialog's counter showed while its message was counted, and how often
-// the composer was written to.
+// Keeps what a dialog's counter showed while its message was counted, and how often the composer was written to.
 class Watched_Window : public Window_For_Tests
 {
 public:
@@ -72,7 +44,6 @@ protected:
         Set_Pace(1000);
         Message_IS.clear();
     }
-
     ~Dialogs_Test() override
     {
         Finish_Workers();
@@ -86,14 +57,12 @@ protected:
     {
         m_window.m_recipients.Append(number, message);
     }
-
     void Put_Many(int many, const QString& message = QString())
     {
         m_window.m_recipients.Clear();
         for (int row = 0; row < many; ++row)
             Add(QString::number(10'000'000'000 + row), message);
     }
-
     /// Every recipient as "number: message".
     QStringList List() const
     {
@@ -129,16 +98,11 @@ protected:
     template <typename Control>
     Control& In(const char* name) const
     {
-        auto* control = m_dialog->findChild<Control*>(QLatin1String(name));
-        if (!control)
-            qFatal("there is no %s in %s", name, m_name);
-        return *control;
+        return ::In<Control>(*m_dialog, name);
     }
-
     QString Message() const { return Exact_Text(In<QPlainTextEdit>("m_msg_str")); }
     QString Counter() const { return In<QLabel>("m_st_msg_cnt").text(); }
     QString Focused() const { return m_dialog->focusWidget() ? m_dialog->focusWidget()->objectName() : QString(); }
-
     QStringList Radios_On() const
     {
         QStringList on;
@@ -149,9 +113,7 @@ protected:
         }
         return on;
     }
-
     void Click(const char* button) const { QTest::mouseClick(&In<QAbstractButton>(button), Qt::LeftButton); }
-
     /// A radio button reacts where its caption is.
     void Pick(const char* radio) const
     {
@@ -159,13 +121,11 @@ protected:
         QTest::mouseClick(&button, Qt::LeftButton, Qt::NoModifier, QPoint(8, button.height() / 2));
         EXPECT_EQ(Radios_On(), QStringList{radio});
     }
-
     void Type_Number(const QString& number) const
     {
         In<QLineEdit>("m_num_str").clear();
         QTest::keyClicks(&In<QLineEdit>("m_num_str"), number);
     }
-
     void Type_Message(const QString& message) const
     {
         auto& field = In<QPlainTextEdit>("m_msg_str");
@@ -173,7 +133,6 @@ protected:
         field.selectAll();
         QTest::keyClicks(&field, message);
     }
-
     void Paste_Message(const QString& message) const
     {
         auto& field = In<QPlainTextEdit>("m_msg_str");

@@ -1,9 +1,6 @@
 #include "windows/list/Fill_Msg_In_List.h"
 
-#include "toolkit/Main_Window.h"
 #include "windows/list/Dialogs_Test.h"
-
-namespace {
 
 const QString Ask_All =
     "This action will copy the message of composer box to all numbers in the list.\n\nDo you want to continue?";
@@ -143,5 +140,3 @@ TEST_F(Fill_Msg_In_List_Test, A_Choice_That_Means_No_Recipient_Is_Refused_And_Th
     EXPECT_EQ(m_user.Was_Shown(), (QStringList{None_Selected, None_Blank}));
     EXPECT_EQ(List(), (QStringList{"1: one", "3:  "}));
 }
-
-} // namespace

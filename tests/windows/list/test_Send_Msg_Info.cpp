@@ -2,8 +2,6 @@
 
 #include "windows/list/Dialogs_Test.h"
 
-namespace {
-
 class Send_Msg_Info_Test : public Dialogs_Test
 {
 protected:
@@ -20,7 +18,6 @@ protected:
         Run(steps);
         return m_code;
     }
-
     QString Explanation()
     {
         QString text;
@@ -35,19 +32,7 @@ protected:
     int m_code = -5;
 };
 
-TEST_F(Send_Msg_Info_Test, OK_With_Blank_On_Fills_Empty_Messages_But_Not_One_Of_Spaces_And_Answers_One_Without_Any)
-{
-    for (int time = 0; time < 2; ++time) {
-        EXPECT_EQ(Ask([&] {
-                      Pick("_fill_msg_blank");
-                      Click("OKPressed");
-                  }),
-                  1);
-        EXPECT_EQ(List(), (QStringList{"1: one", "2: new", "3:  "}));
-    }
-}
-
-TEST_F(Send_Msg_Info_Test, Continue_Answers_Zero_And_Leaves_The_List)
+TEST_F(Send_Msg_Info_Test, Continue_Answers_Zero_And_OK_With_Blank_On_Fills_Empty_Messages_But_Not_One_Of_Spaces)
 {
     EXPECT_EQ(Ask([&] {
                   Pick("_fill_msg_blank");
@@ -56,6 +41,14 @@ TEST_F(Send_Msg_Info_Test, Continue_Answers_Zero_And_Leaves_The_List)
               0);
     EXPECT_EQ(List(), m_unchanged);
     EXPECT_EQ(m_window.m_redisplays, 0);
+    for (int time = 0; time < 2; ++time) {
+        EXPECT_EQ(Ask([&] {
+                      Pick("_fill_msg_blank");
+                      Click("OKPressed");
+                  }),
+                  1);
+        EXPECT_EQ(List(), (QStringList{"1: one", "2: new", "3:  "}));
+    }
 }
 
 TEST_F(Send_Msg_Info_Test, With_An_Emptied_Composer_It_Says_So_And_OK_Blanks_Every_Message)
@@ -95,5 +88,3 @@ TEST_F(Send_Msg_Info_Test, A_Run_That_Ends_Without_An_Answer_Is_Cancelled_Whatev
     Begin_Program_Exit();
     EXPECT_EQ(Ask_Send_Msg_Info(m_window), Send_Msg_Info::Cancelled);
 }
-
-} // namespace

@@ -2,8 +2,6 @@
 
 #include "windows/list/Dialogs_Test.h"
 
-namespace {
-
 const char* const Not_A_Number = "\nPlease enter a valid phone number.";
 const char* const Exists = "\nEntered number already exists.";
 const char* const Excluded = "\nEntered number is in exclusion list.";
@@ -23,13 +21,12 @@ protected:
         m_row = row;
         return Run(steps);
     }
-
     QString Line(const char* name) const { return In<QLineEdit>(name).text(); }
 
     int m_row = 0;
 };
 
-TEST_F(Update_Num_SMS_Test, It_Opens_With_What_The_Row_Holds)
+TEST_F(Update_Num_SMS_Test, It_Opens_With_What_The_Row_Holds_And_Not_For_A_Row_That_The_List_Does_Not_Have)
 {
     Edit(1, [&] {
         EXPECT_EQ(Line("m_num_str"), "12345");
@@ -41,19 +38,14 @@ TEST_F(Update_Num_SMS_Test, It_Opens_With_What_The_Row_Holds)
             EXPECT_FALSE(In<QLineEdit>(field).isVisible()) << field;
         Click("CancelPressed");
     });
-    ASSERT_EQ(m_window.m_counted.size(), 1U);
-    EXPECT_EQ(m_window.m_counted[0].length, 3);
-    EXPECT_EQ(m_window.m_counted[0].counter_before, "0 Characters");
-    EXPECT_FALSE(m_window.m_counted[0].open_dialog);
-}
-
-TEST_F(Update_Num_SMS_Test, It_Does_Not_Open_For_A_Row_That_The_List_Does_Not_Have)
-{
     for (const int row : {-1, 3})
         Open_Edit_Dialog(m_window, row);
     m_window.m_recipients.Clear();
     Open_Edit_Dialog(m_window, 0);
-    EXPECT_TRUE(m_window.m_counted.empty());
+    ASSERT_EQ(m_window.m_counted.size(), 1U) << "it opened for a row that the list does not have";
+    EXPECT_EQ(m_window.m_counted[0].length, 3);
+    EXPECT_EQ(m_window.m_counted[0].counter_before, "0 Characters");
+    EXPECT_FALSE(m_window.m_counted[0].open_dialog);
 }
 
 TEST_F(Update_Num_SMS_Test, A_Number_That_The_Rules_Would_Refuse_Is_Shown_Whole_And_Kept_While_Unchanged)
@@ -77,7 +69,7 @@ TEST_F(Update_Num_SMS_Test, A_Number_That_The_Rules_Would_Refuse_Is_Shown_Whole_
     EXPECT_TRUE(m_user.Was_Shown().isEmpty());
 }
 
-TEST_F(Update_Num_SMS_Test, A_Changed_Number_Is_Saved_Normalised_In_The_Same_Place_And_The_Others_Stay_Where_They_Are)
+TEST_F(Update_Num_SMS_Test, A_Changed_Number_Is_Cut_To_20_Characters_And_Saved_Normalised_In_The_Same_Place)
 {
     const QString* const first = &std::as_const(m_window.m_recipients).Message_At(0);
     const int result = Edit(1, [&] {
@@ -90,6 +82,12 @@ TEST_F(Update_Num_SMS_Test, A_Changed_Number_Is_Saved_Normalised_In_The_Same_Pla
     EXPECT_EQ(m_window.m_recipients.Numbers().Count_Of("12345"), 0);
     EXPECT_EQ(&std::as_const(m_window.m_recipients).Message_At(0), first) << "a copy of a million takes its time";
     EXPECT_GT(m_window.m_redisplays, 0);
+    Edit(1, [&] {
+        Type_Number("123456789012345678901");
+        EXPECT_EQ(Line("m_num_str"), "12345678901234567890");
+        Click("OKPressed");
+    });
+    EXPECT_EQ(List()[1], "12345678901234567890: two");
 }
 
 TEST_F(Update_Num_SMS_Test, An_Unchanged_Message_Is_Saved_Byte_For_Byte_And_Cut)
@@ -203,16 +201,6 @@ TEST_F(Update_Num_SMS_Test, Its_Check_Boxes_Begin_As_The_Main_Windows_And_Are_Ne
     }
 }
 
-TEST_F(Update_Num_SMS_Test, The_Number_Field_Keeps_Its_First_20_Characters)
-{
-    Edit(1, [&] {
-        Type_Number("123456789012345678901");
-        EXPECT_EQ(Line("m_num_str"), "12345678901234567890");
-        Click("OKPressed");
-    });
-    EXPECT_EQ(List()[1], "12345678901234567890: two");
-}
-
 TEST_F(Update_Num_SMS_Test, Each_Change_Of_The_Message_Is_Counted_With_The_Counter_Before_It)
 {
     Edit(1, [&] {
@@ -246,5 +234,3 @@ TEST_F(Update_Num_SMS_Test, Enter_In_The_Number_Field_Saves_And_In_The_Message_B
     });
     EXPECT_EQ(List()[1], "12345: ");
 }
-
-} // namespace

@@ -2,10 +2,7 @@
 
 #include "windows/list/Dialogs_Test.h"
 
-#include <QAbstractItemModel>
 #include <numeric>
-
-namespace {
 
 const QString Question =
     "This action will copy the above message to the selected numbers in the list. The messages of rest of "
@@ -22,7 +19,6 @@ protected:
     }
 
     void Cancel() const { Click("CancelPressed"); }
-
     /// Types the message and presses OK.
     void Fill_With(const QString& message) const
     {
@@ -30,17 +26,8 @@ protected:
         Click("OKPressed");
     }
 
-    QStringList Shown() const
-    {
-        const auto& rows = *In<QTableView>("List_View").model();
-        QStringList numbers;
-        for (int row = 0; row < rows.rowCount(); ++row)
-            numbers.append(rows.index(row, 0).data().toString());
-        return numbers;
-    }
-
+    QStringList Shown() const { return Rows_Of(In<QTableView>("List_View")); }
     QString Count() const { return In<QLabel>("m_st_num_cnt").text(); }
-
     void Select_Many(int many)
     {
         Put_Many(many, "old");
@@ -68,11 +55,11 @@ private:
 
 TEST_F(Update_Sel_Num_SMS_Test, No_Selected_Row_Is_Refused_And_So_Is_An_Empty_List)
 {
-    m_window.m_selected_rows.clear();
     m_user.Will_Press("OK");
+    m_user.Will_Press("OK");
+    m_window.m_selected_rows.clear();
     Open_Update_Selected(m_window);
     m_window.m_recipients.Clear();
-    m_user.Will_Press("OK");
     Open_Update_Selected(m_window);
     EXPECT_EQ(m_user.Was_Shown(), (QStringList{None_Selected, List_Empty}));
 }
@@ -213,5 +200,3 @@ TEST_F(Update_Sel_Num_SMS_Test, The_Table_Answers_With_An_Empty_Text_Where_There
     End_Shared_Instances();
     EXPECT_EQ(Up_Sel_Num_SMS, nullptr);
 }
-
-} // namespace

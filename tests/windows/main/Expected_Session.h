@@ -2,8 +2,7 @@
 
 #include "windows/main/Expected_Phone.h"
 
-// A session's exchanges with a phone in given moods: commands that are written, and answers that are judged by an
-// expected text. What works out a job or a visit to the wizard builds on it.
+// A session's exchanges with a phone in given moods: commands, and answers that are judged by an expected text.
 class Expected_Session
 {
 protected:

@@ -3,7 +3,6 @@
 #include "windows/main/Line_Oracle.h"
 
 #include <string>
-#include <vector>
 
 // One of the virtual phone's moods under a name that reads well in a test's.
 struct Line_Mood

@@ -183,8 +183,7 @@ private:
     bool Writes_Pdu(int octets, const Expected_Part& part)
     {
         m_outcome.log.append(QStringLiteral("Write \"PDU\"\n"));
-        return Goes_Out(QStringLiteral("PDU"),
-                        [&] { return m_phone.Hears_Pdu(QByteArray(2 * (octets + 1), '0'), part); });
+        return Goes_Out(QStringLiteral("PDU"), [&] { return m_phone.Hears_Pdu(octets, part); });
     }
 
     // Too short to be logged.

@@ -50,7 +50,6 @@ struct Line_Outcome
     bool may_give_up_at_once = false; ///< whether the first answer is more than an echo is a matter of luck
 };
 
-/// What a job of these items must do with a phone in these moods: the described steps of the job, the session and the
-/// submission, taken one after the other with what such a phone makes of them.
+/// What a job of these items must do with a phone in these moods, worked out from its described steps.
 Line_Outcome Expected_Outcome(const Phone_Moods& moods, const Line_Way& way, const std::vector<Line_Item>& items,
                               const Line_Pull& pull = {});

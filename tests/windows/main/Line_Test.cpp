@@ -1,6 +1,5 @@
 #include "windows/main/Line_Test.h"
 
-#include <QDir>
 #include <fcntl.h>
 #include <termios.h>
 #include <unistd.h>
@@ -9,8 +8,7 @@ namespace {
 
 constexpr double Fast_Pace = 1000;
 
-// With a phone that never stops talking nobody knows when its answer has arrived: the reads that are judged last
-// longer.
+// Nobody knows when the answer of one who never stops talking has arrived: reads that are judged last longer.
 constexpr double Preparing_A_Talker = 10;
 constexpr double Sending_To_A_Talker = 100;
 

@@ -5,9 +5,6 @@
 #include "windows/main/Line_Moods.h"
 #include "windows/main/Sending_Test.h"
 
-#include <QTemporaryDir>
-#include <memory>
-
 // A phone under a name that stays when it is plugged in again, a list of two recipients with records and templates
 // kept, and a look at everything that a job leaves: boxes, wire, phone, files, list, log, descriptors.
 class Line_Test : public Sending_Test

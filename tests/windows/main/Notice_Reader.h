@@ -1,14 +1,7 @@
 #pragma once
 
+#include "support/In_Windows.h"
 #include "windows/main/Long_SMS_Dlg.h"
-
-#include <QApplication>
-#include <QEvent>
-#include <QLabel>
-#include <QPushButton>
-#include <QStringList>
-#include <QTimer>
-#include <functional>
 
 // Reads every long-message notice that opens, does with it what the test wants, and presses its OK.
 class Notice_Reader : public QObject
@@ -16,7 +9,7 @@ class Notice_Reader : public QObject
 public:
     Notice_Reader() { qApp->installEventFilter(this); }
 
-    static QPushButton& OK_Of(const Long_SMS_Dlg& dialog) { return *dialog.findChild<QPushButton*>("OKPressed"); }
+    static QPushButton& OK_Of(const Long_SMS_Dlg& dialog) { return In<QPushButton>(dialog, "OKPressed"); }
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {

@@ -2,10 +2,7 @@
 
 #include "windows/main/Line_Test.h"
 
-#include <string>
-
-// A job during which the cable is pulled at one of its writes, what the program says as long as the phone is gone, and
-// the next job when it is back.
+// A job during which the cable is pulled at a write, what is said while the phone is gone, and the job when it is back.
 class Pulled_Phone : public Line_Test
 {
 public:

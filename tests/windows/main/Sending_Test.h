@@ -5,11 +5,9 @@
 #include "device/Stop_Flag.h"
 #include "engine/Job_State.h"
 #include "phone/Virtual_Phone.h"
-#include "platform/Interface_Thread.h"
 #include "platform/Pace.h"
 #include "support/Data_Folder.h"
-#include "support/Serve_Until.h"
-#include "support/User.h"
+#include "support/In_Windows.h"
 #include "support/Window_For_Tests.h"
 #include "toolkit/Message_Boxes.h"
 #include "toolkit/Shared_Instance.h"
@@ -18,10 +16,6 @@
 #include "windows/main/Watched_Calls.h"
 #include "windows/main/Watched_Progress.h"
 
-#include <QLabel>
-#include <QProgressBar>
-#include <QPushButton>
-#include <gtest/gtest.h>
 #include <stdexcept>
 
 inline const QString Completed = "\nMessage Sending Process Completed.";
@@ -32,12 +26,6 @@ inline const QString Does_Not_Open = "\n\nSelected device is not working properl
 inline const QString List_Is_Empty = "\nPhone numbers-Messages list is empty.";
 inline const QString Stop_Sending = "\nTerminating the current process will stop sending text messages to the "
                                     "remaining contact. Are you sure you want to continue?";
-
-// So that a failed comparison of texts shows the texts. Found by argument-dependent look-up.
-inline void PrintTo(const QString& text, std::ostream* out)
-{
-    *out << '"' << text.toStdString() << '"';
-}
 
 // A main window, a phone on its line, and the person who presses Send.
 class Sending_Test : public testing::Test
@@ -162,7 +150,7 @@ protected:
     template <typename Control>
     static Control& In_Progress_Window(const char* name)
     {
-        return *Progress_Window().findChild<Control*>(QLatin1String(name));
+        return In<Control>(Progress_Window(), name);
     }
 
     /// Presses the stop button, from the job's thread, and returns when the question has been answered.
@@ -179,12 +167,7 @@ protected:
     }
 
     /// The composer's text will be offered for the list, and one of these buttons pressed.
-    void Will_Answer_The_Offer(const char* button)
-    {
-        m_user.When_Opens("Send_Msg_Info", [button](QWidget& dialog) {
-            dialog.findChild<QPushButton*>(QLatin1String(button))->click();
-        });
-    }
+    void Will_Answer_The_Offer(const char* button) { Will_Click_In(m_user, "Send_Msg_Info", button); }
 
     /// Numbers and texts as the handset shows them, "number: text".
     QStringList Received() const

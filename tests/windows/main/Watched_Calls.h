@@ -5,14 +5,10 @@
 
 #include <QByteArray>
 #include <cerrno>
-#include <functional>
-#include <map>
-#include <mutex>
 #include <numeric>
 #include <vector>
 
-// The real system calls, watched: what was written and when, and which descriptors were opened and closed. What a test
-// wants to happen at a write is called before it and may throw.
+// The real system calls, watched. What a test wants to happen at a write is called before it and may throw.
 class Watched_Calls : public Patient_Calls
 {
     template <typename Work>

@@ -6,8 +6,8 @@
 #include <functional>
 #include <mutex>
 
-// Passes a job's steps on to the real progress window and keeps them as lines of text. What a test wants to happen at a
-// step is called on the job's thread, after the step.
+// Passes a job's steps on to the real progress window and keeps them as text. What happens at a step does so on its
+// thread.
 class Watched_Progress : public Send_Progress
 {
 public:

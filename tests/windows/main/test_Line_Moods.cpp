@@ -1,5 +1,4 @@
-// Every second mood of the virtual phone in one of the ways to send; the long tests have all of them in all ways, and
-// in pairs.
+// Every second mood in one of the ways to send; the long tests have all of them in all ways, and in pairs.
 #include "windows/main/Line_Test.h"
 
 static bool Register_Every_Second()

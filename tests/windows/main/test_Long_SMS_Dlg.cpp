@@ -1,18 +1,9 @@
 #include "engine/Composer_Rules.h"
 #include "platform/Pace.h"
-#include "platform/Waiting.h"
-#include "support/Serve_Until.h"
 #include "toolkit/Shared_Instance.h"
-#include "toolkit/Window_Look.h"
 #include "windows/main/Notice_Reader.h"
 
-#include <QCheckBox>
-#include <QInputMethodEvent>
-#include <QPlainTextEdit>
-#include <QTest>
 #include <gtest/gtest.h>
-
-namespace {
 
 class Long_SMS_Dlg_Test : public testing::Test
 {
@@ -45,7 +36,6 @@ TEST_F(Long_SMS_Dlg_Test, It_Shows_The_Text_And_The_Unicode_Box_As_They_Are)
             EXPECT_FALSE(box->isEnabled());
             EXPECT_TRUE(dialog.isModal());
             EXPECT_EQ(dialog.objectName(), "Long_SMS_Dlg");
-            EXPECT_EQ(dialog.palette().color(QPalette::Window), Window_Background());
         };
         Open(unicode);
         EXPECT_EQ(m_reader.m_texts.back(), Composer_Rules::Long_SMS_Text(unicode));
@@ -54,20 +44,15 @@ TEST_F(Long_SMS_Dlg_Test, It_Shows_The_Text_And_The_Unicode_Box_As_They_Are)
 
 TEST_F(Long_SMS_Dlg_Test, Whichever_Way_It_Is_Closed_It_Ends_With_One)
 {
-    const auto wait_for_ok = [](Long_SMS_Dlg& dialog) {
+    const auto press_once_it_is_ready = [](Long_SMS_Dlg& dialog, Qt::Key key) {
         EXPECT_TRUE(Serve_Until([&] { return Notice_Reader::OK_Of(dialog).isDefault(); }));
+        QTest::keyClick(dialog.focusWidget(), key);
     };
     const std::function<void(Long_SMS_Dlg&)> ways[] = {
-        [](Long_SMS_Dlg& dialog) { QTest::mouseClick(&Notice_Reader::OK_Of(dialog), Qt::LeftButton); },
+        [](Long_SMS_Dlg& dialog) { Click_In(dialog, "OKPressed"); },
         [](Long_SMS_Dlg& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); },
-        [&](Long_SMS_Dlg& dialog) {
-            wait_for_ok(dialog);
-            QTest::keyClick(&dialog, Qt::Key_Return);
-        },
-        [&](Long_SMS_Dlg& dialog) {
-            wait_for_ok(dialog);
-            QTest::keyClick(dialog.focusWidget(), Qt::Key_Space);
-        },
+        [&](Long_SMS_Dlg& dialog) { press_once_it_is_ready(dialog, Qt::Key_Return); },
+        [&](Long_SMS_Dlg& dialog) { press_once_it_is_ready(dialog, Qt::Key_Space); },
         [](Long_SMS_Dlg& dialog) { dialog.close(); },
     };
     for (const auto& way : ways) {
@@ -123,14 +108,6 @@ TEST_F(Long_SMS_Dlg_Test, It_Opens_A_Second_After_It_Was_Asked_For_And_Once_When
     EXPECT_EQ(m_reader.m_texts, QStringList{Composer_Rules::Long_SMS_Text(false)});
 }
 
-TEST_F(Long_SMS_Dlg_Test, Once_The_Program_Is_Exiting_It_Does_Not_Open)
-{
-    Begin_Program_Exit();
-    Open();
-    Forget_Program_Exit();
-    EXPECT_TRUE(m_reader.m_texts.isEmpty());
-}
-
 TEST_F(Long_SMS_Dlg_Test, Its_Text_Fits_Whatever_The_Size_Of_Its_Letters)
 {
     m_reader.m_meanwhile = [&](Long_SMS_Dlg& dialog) {
@@ -150,8 +127,12 @@ TEST_F(Long_SMS_Dlg_Test, Its_Text_Fits_Whatever_The_Size_Of_Its_Letters)
     EXPECT_EQ(m_reader.m_texts.size(), 36);
 }
 
-TEST_F(Long_SMS_Dlg_Test, There_Is_One_Instance_And_It_Is_Made_Anew_After_Its_Window_Has_Gone)
+TEST_F(Long_SMS_Dlg_Test, There_Is_One_Instance_Made_Anew_After_Its_Window_Has_Gone_That_Does_Not_Open_At_The_Exit)
 {
+    Begin_Program_Exit();
+    Open();
+    Forget_Program_Exit();
+    EXPECT_TRUE(m_reader.m_texts.isEmpty());
     auto over = std::make_unique<QWidget>();
     Long_SMS_Dlg* first = Long_SMS_Dlg::defaultInstance();
     EXPECT_EQ(first, Long_SMS_Dlg::defaultInstance());
@@ -160,5 +141,3 @@ TEST_F(Long_SMS_Dlg_Test, There_Is_One_Instance_And_It_Is_Made_Anew_After_Its_Wi
     Open();
     EXPECT_EQ(m_reader.m_texts.size(), 1);
 }
-
-} // namespace

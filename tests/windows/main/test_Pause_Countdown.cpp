@@ -2,8 +2,6 @@
 
 #include "windows/main/Sending_Test.h"
 
-namespace {
-
 // A pause in the real progress window, on a worker of its own as in a job.
 class Pause_Countdown_Test : public Sending_Test
 {
@@ -102,5 +100,3 @@ TEST_F(Pause_Countdown_Test, A_Stop_From_The_Window_Wakes_The_Sleeping_Pause)
     EXPECT_EQ(m_progress.Steps().mid(0, 2), (QStringList{"pause", Pausing("3 Seconds.")}));
     EXPECT_EQ(m_progress.Steps().last(), "pause over");
 }
-
-} // namespace

@@ -1,8 +1,5 @@
-// A phone whose cable is pulled at each step of a job and that is plugged in again. The long tests do the same in every
-// way to send.
+// A cable pulled at each step of a job and plugged in again. The long tests do so in every way to send.
 #include "windows/main/Pulled_Phone.h"
-
-#include "platform/System_Log.h"
 
 namespace {
 

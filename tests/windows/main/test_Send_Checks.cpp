@@ -2,8 +2,6 @@
 
 #include "windows/main/Sending_Test.h"
 
-#include <gmock/gmock.h>
-
 namespace {
 
 using Field = Main_Window::Field;

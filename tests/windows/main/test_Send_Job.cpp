@@ -1,15 +1,11 @@
 #include "support/Log_Lines.h"
 #include "windows/main/Sending_Test.h"
 
-#include <QTemporaryFile>
-#include <gmock/gmock.h>
-
 namespace {
 
 using Send_Job_Test = Sending_Test;
 
-// A job with everything switched on: two recipients are sent to, with a pause between them; one is excluded and one is
-// repeated.
+// With everything switched on: two are sent to, with a pause between them; one is excluded and one repeated.
 TEST_F(Send_Job_Test, Takes_Every_Step_In_Its_Order)
 {
     Set_Pace(100);
@@ -101,11 +97,7 @@ TEST_F(Send_Job_Test, A_List_That_Is_Empty_By_Then_Ends_Without_A_Completion_Mes
     Add("111", "");
     m_user.Will_Handle([this](QMessageBox& box) {
         m_window.m_recipients.Clear();
-        const auto buttons = box.buttons();
-        for (QAbstractButton* button : buttons) {
-            if (box.buttonRole(button) == QMessageBox::YesRole)
-                button->click();
-        }
+        EXPECT_TRUE(Click_First(box, {"Yes"}));
     });
     Send();
     EXPECT_EQ(m_user.Was_Shown().size(), 1);
@@ -135,10 +127,16 @@ TEST_F(Send_Job_Test, A_Device_That_Does_Not_Open_Is_Told_Of_Before_Anything_Is_
     Add("111");
     QTemporaryFile file;
     ASSERT_TRUE(file.open());
-    for (const QString& path : {QString("/dev/no-such-device"), QString("/dev/null"), QString("/"), file.fileName()}) {
+    const Virtual_Phone held;
+    const QString held_path = QString::fromStdString(held.Path());
+    KVSerialPort other(held_path, "other", "other");
+    ASSERT_TRUE(other.openExclusively());
+    for (const QString& path :
+         {QString("/dev/no-such-device"), QString("/dev/null"), QString("/"), file.fileName(), held_path}) {
         sel_port_bsd_str = path;
         Send_And_Read({Does_Not_Open});
     }
+    EXPECT_TRUE(held.Heard_Bytes().empty()) << "something was written to a port of another";
     EXPECT_FALSE(m_progress.Steps().contains("preparing 1"));
 }
 

@@ -1,10 +1,6 @@
 #include "windows/main/Sending_Test.h"
 
-#include <gmock/gmock.h>
-
 // Jobs with everything that surrounds a message: records, templates, exclusions, batches.
-
-namespace {
 
 class Job_With_Records : public Sending_Test
 {
@@ -192,45 +188,3 @@ TEST_F(Job_With_Records, The_Composers_Text_Is_Offered_Once_For_Each_Change)
     EXPECT_EQ(Received().mid(4), (QStringList{"111: newest", "222: newest"}));
     EXPECT_EQ(m_window.m_previous_message, "newest");
 }
-
-// ---- Everything at once
-
-TEST_F(Job_With_Records, Five_Hundred_Messages_With_Everything_Switched_On)
-{
-    QStringList expected;
-    QByteArray records;
-    QByteArray templates;
-    QSet<QString> seen;
-    for (int item = 0; item < 500; ++item) {
-        // Every tenth number is excluded, every seventh comes again, every message is one of fifty.
-        const QString number = QStringLiteral("7%1").arg(item % 7 == 6 ? item - 1 : item, 4, 10, QChar(u'0'));
-        const QString message = QStringLiteral("Message %1\nwith a line").arg(item % 50);
-        Add(number, message);
-        if (item % 10 == 0)
-            Exclude(number);
-    }
-    for (int item = 0; item < 500; ++item) {
-        const auto [number, message] = m_window.m_recipients.At(item);
-        if (seen.contains(number) || m_window.m_exclusions.Count_Of(number) > 0)
-            continue;
-        expected.append(number + ": " + message);
-        const QString line = QString(message).replace('\n', "|AP*|DX/");
-        records += Record(number, line);
-        if (!seen.contains(message))
-            templates += line.toUtf8() + '\n';
-        seen << number << message;
-    }
-    m_window.m_choices.exclusion = m_window.m_choices.skip_duplicates = true;
-    Keep_Everything();
-    Pause_After_Each("50", "5  Seconds");
-    Set_Pace(400);
-    m_user.Will_Press("OK");
-    m_runner.Send_SMS_Btn();
-    Wait_For_The_End(240);
-    EXPECT_EQ(m_user.Was_Shown(), QStringList{Completed});
-    EXPECT_EQ(Received(), expected);
-    Expect_Kept(records, templates);
-    EXPECT_EQ(m_progress.Steps().count("pause"), (expected.size() - 1) / 50);
-}
-
-} // namespace

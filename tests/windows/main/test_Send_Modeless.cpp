@@ -1,12 +1,6 @@
 #include "windows/main/Send_Modeless.h"
 
-#include "toolkit/Window_Look.h"
 #include "windows/main/Sending_Test.h"
-
-#include <QTest>
-#include <QWindow>
-
-namespace {
 
 class Send_Modeless_Test : public Sending_Test
 {
@@ -32,7 +26,6 @@ TEST_F(Send_Modeless_Test, While_Preparing_It_Says_So_And_Can_Not_Be_Stopped)
     EXPECT_TRUE(m_shown.isVisible());
     EXPECT_EQ(m_shown.parentWidget(), &m_window);
     EXPECT_EQ(m_shown.objectName(), "Send_Modeless");
-    EXPECT_EQ(m_shown.palette().color(QPalette::Window), Window_Background());
     EXPECT_EQ(Text("_curr_msg_cnt"), "Initializing mobile phone device to send sms ...");
     EXPECT_EQ(Text("_tot_msg_cnt"), "12");
     EXPECT_EQ(Text("_pause_timer"), "");
@@ -189,5 +182,3 @@ TEST_F(Send_Modeless_Test, Once_The_Program_Is_Exiting_It_Is_Not_Shown)
     m_shown.Begin_Preparing(2);
     EXPECT_FALSE(m_shown.isVisible());
 }
-
-} // namespace

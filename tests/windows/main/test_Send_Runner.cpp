@@ -1,25 +1,12 @@
 #include "windows/main/Sending_Test.h"
 
-namespace {
-
 class Send_Runner_Test : public Sending_Test
 {
 protected:
     Send_Runner_Test() { Add_Each({"111", "222", "333"}); }
 };
 
-TEST_F(Send_Runner_Test, Two_Quick_Presses_Start_One_Job)
-{
-    m_runner.Send_SMS_Btn();
-    m_runner.Send_SMS_Btn();
-    EXPECT_EQ(Workers_Running(), 1);
-    EXPECT_EQ(sms_thread_var, 1);
-    m_user.Will_Press("OK");
-    Wait_For_The_End();
-    EXPECT_EQ(m_phone.Inbox().size(), 3U);
-}
-
-TEST_F(Send_Runner_Test, Pressing_Send_While_A_Job_Runs_Does_Nothing)
+TEST_F(Send_Runner_Test, Two_Quick_Presses_Start_One_Job_And_Pressing_Send_While_It_Runs_Does_Nothing)
 {
     At_Step("2 / 3 222", [this] {
         Run_On_Interface_Thread([this] {
@@ -29,7 +16,12 @@ TEST_F(Send_Runner_Test, Pressing_Send_While_A_Job_Runs_Does_Nothing)
             EXPECT_FALSE(m_window.Is_Held());
         });
     });
-    Send_And_Read({Completed});
+    m_runner.Send_SMS_Btn();
+    m_runner.Send_SMS_Btn();
+    EXPECT_EQ(Workers_Running(), 1);
+    EXPECT_EQ(sms_thread_var, 1);
+    m_user.Will_Press("OK");
+    Wait_For_The_End();
     EXPECT_EQ(m_phone.Inbox().size(), 3U);
 }
 
@@ -60,22 +52,18 @@ TEST_F(Send_Runner_Test, A_Check_That_Fails_Gives_The_Window_Its_Input_Back)
     EXPECT_TRUE(m_phone.Heard().empty());
 }
 
-TEST_F(Send_Runner_Test, A_Stop_Is_Seen_Before_The_Next_Item_And_Ends_Without_A_Message)
+TEST_F(Send_Runner_Test,
+       A_Stop_Is_Seen_Before_The_Next_Item_And_Ends_Without_A_Message_And_One_Not_Meant_Changes_Nothing)
 {
     At_Step("2 / 3 222", [] { Press_Stop(); });
     Send_And_Read({Stop_Sending});
     EXPECT_EQ(Received(), (QStringList{"111: Hello", "222: Hello"}));
     EXPECT_EQ(Stop_SMS_Sending_Now, 1);
-}
-
-TEST_F(Send_Runner_Test, A_Stop_That_Is_Not_Meant_Changes_Nothing)
-{
-    At_Step("1 / 3 111", [] { Press_Stop(); });
     m_user.Will_Press("No");
     m_user.Will_Press("OK");
     Send();
-    EXPECT_EQ(m_phone.Inbox().size(), 3U);
-    EXPECT_EQ(m_user.Was_Shown(), (QStringList{Stop_Sending, Completed}));
+    EXPECT_EQ(m_phone.Inbox().size(), 5U);
+    EXPECT_EQ(m_user.Was_Shown(), (QStringList{Stop_Sending, Stop_Sending, Completed}));
 }
 
 TEST_F(Send_Runner_Test, A_Stop_Is_Seen_Between_The_Parts_Of_A_Long_Message_Which_Is_Recorded)
@@ -151,5 +139,3 @@ TEST_F(Send_Runner_Test, A_Million_Recipients_Cost_The_Job_No_Time_To_Begin)
     EXPECT_LT(Now_Seconds() - begin, 10.0);
     EXPECT_EQ(m_phone.Inbox().size(), 1U);
 }
-
-} // namespace

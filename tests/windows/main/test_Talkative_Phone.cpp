@@ -3,8 +3,6 @@
 
 // What a phone says by itself between two messages in text mode, where an answer is awaited without a read.
 
-namespace {
-
 const QString Polish = "Zażółć gęślą jaźń";
 
 class Talkative_Phone_Test : public Sending_Test
@@ -90,5 +88,3 @@ TEST_F(Talkative_Phone_Test, An_Answer_That_Nobody_Has_Read_Yet_Is_Found_By_The_
     }
     EXPECT_EQ(m_phone.Inbox().size(), 4u);
 }
-
-} // namespace

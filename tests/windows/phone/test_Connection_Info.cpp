@@ -1,22 +1,8 @@
 #include "windows/phone/Connection_Info.h"
 
-#include "support/Serve_Until.h"
-#include "support/User.h"
+#include "support/In_Windows.h"
 #include "toolkit/Shared_Instance.h"
 #include "toolkit/Window_Look.h"
-
-#include <QApplication>
-#include <QGroupBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPointer>
-#include <QPushButton>
-#include <QScrollArea>
-#include <QTest>
-#include <QWindow>
-#include <gmock/gmock.h>
-
-namespace {
 
 class Connection_Info_Test : public testing::Test
 {
@@ -33,12 +19,7 @@ protected:
         return m_window.exec();
     }
 
-    template <typename Control>
-    Control& In(const char* name)
-    {
-        return *m_window.findChild<Control*>(name);
-    }
-    bool Advises() { return In<QGroupBox>("advice_box").isVisible(); }
+    bool Advises() { return In<QGroupBox>(m_window, "advice_box").isVisible(); }
     QStringList Commands()
     {
         QStringList commands;
@@ -55,11 +36,7 @@ protected:
 TEST_F(Connection_Info_Test, Every_Way_Out_Ends_With_One)
 {
     const std::function<void()> ways[] = {
-        [&] {
-            const auto& button = In<QPushButton>("Continue_Btn");
-            QTest::mouseClick(m_window.windowHandle(), Qt::LeftButton, {},
-                              button.mapTo(&m_window, button.rect().center()));
-        },
+        [&] { Click_Middle_Of(In<QPushButton>(m_window, "Continue_Btn")); },
         [&] { QTest::keyClick(m_window.windowHandle(), Qt::Key_Return); },
         [&] { QTest::keyClick(m_window.windowHandle(), Qt::Key_Escape); },
         [&] { m_window.windowHandle()->close(); },
@@ -77,12 +54,11 @@ TEST_F(Connection_Info_Test, How_A_Phone_Is_Switched_Is_Always_Told_Without_Much
 {
     Run([&] {
         for (const char* name : {"usb_text", "bluetooth_text"})
-            EXPECT_TRUE(In<QLabel>(name).isVisible()) << name;
-        EXPECT_TRUE(In<QLineEdit>("bind_command").text().contains("rfcomm bind"));
+            EXPECT_TRUE(In<QLabel>(m_window, name).isVisible()) << name;
+        EXPECT_TRUE(In<QLineEdit>(m_window, "bind_command").text().contains("rfcomm bind"));
         QApplication::processEvents();
-        const auto& body = In<QScrollArea>("body");
+        const auto& body = In<QScrollArea>(m_window, "body");
         EXPECT_LE(body.widget()->height(), body.viewport()->height());
-        EXPECT_EQ(m_window.palette().color(QPalette::Window), QColor(241, 244, 250));
     });
 }
 
@@ -92,9 +68,9 @@ TEST_F(Connection_Info_Test, What_Applies_Is_Found_Out_Anew_At_Each_Opening_And_
     Run([&] {
         EXPECT_TRUE(Advises());
         EXPECT_EQ(Commands(), QStringList({"sudo usermod -aG dialout $USER", "sudo systemctl stop ModemManager"}));
-        EXPECT_TRUE(In<QLineEdit>("advice_command").isReadOnly());
-        EXPECT_EQ(In<QLabel>("advice_text").textFormat(), Qt::PlainText);
-        EXPECT_TRUE(In<QLabel>("advice_text").text().contains("<b>x</b>"));
+        EXPECT_TRUE(In<QLineEdit>(m_window, "advice_command").isReadOnly());
+        EXPECT_EQ(In<QLabel>(m_window, "advice_text").textFormat(), Qt::PlainText);
+        EXPECT_TRUE(In<QLabel>(m_window, "advice_text").text().contains("<b>x</b>"));
     });
     m_facts = {0, {}, false};
     Run([&] {
@@ -116,5 +92,3 @@ TEST(Connection_Info, The_Shared_Instance_Finds_Out_About_This_Computer)
     End_Shared_Instances();
     EXPECT_TRUE(info.isNull());
 }
-
-} // namespace

@@ -1,10 +1,6 @@
 // The connection wizard with the keyboard alone.
-#include "device/Chosen_Device.h"
-#include "doctor/Phone_Search.h"
 #include "support/Keys.h"
 #include "windows/phone/Wizard_Test.h"
-
-namespace {
 
 class Wizard_Keys : public Wizard_Test, public testing::WithParamInterface<Qt::Key>
 {
@@ -59,5 +55,3 @@ TEST_F(Wizard_Test, The_First_Of_Two_Devices_Is_Reached_By_The_First_Key)
         }
     });
 }
-
-} // namespace

@@ -1,12 +1,9 @@
 #pragma once
 
-#include "platform/Interface_Thread.h"
 #include "platform/Pace.h"
-#include "platform/Waiting.h"
-#include "records/Data_Paths.h"
+#include "platform/Text_Files.h"
 #include "records/Store_Files.h"
-#include "support/Serve_Until.h"
-#include "support/User.h"
+#include "support/In_Windows.h"
 #include "support/Window_For_Tests.h"
 #include "toolkit/List_Tables.h"
 #include "toolkit/Shared_Instance.h"
@@ -14,18 +11,6 @@
 #include "windows/stores/Sent_Items.h"
 #include "windows/stores/Store_Globals.h"
 #include "windows/stores/Templates.h"
-
-#include <QApplication>
-#include <QFileDialog>
-#include <QItemSelectionModel>
-#include <QLabel>
-#include <QPlainTextEdit>
-#include <QPushButton>
-#include <QRegularExpression>
-#include <QStyledItemDelegate>
-#include <QTableView>
-#include <QTest>
-#include <functional>
 
 /// So many lines of the sent items' file, with the numbers from 1000 on.
 inline QByteArray Records(int count)
@@ -45,7 +30,6 @@ protected:
         Set_Pace(100);
         Apply_Application_Look(*qApp);
     }
-
     ~Stores_Test() override
     {
         Finish_Workers();
@@ -54,8 +38,7 @@ protected:
         Set_Pace(1);
     }
 
-    /// Opens the window and returns when it is closed; meanwhile, once the whole list is in, the person does the visit.
-    /// What the visit leaves open is closed with the window's own button.
+    /// Opens the window, does the visit once the whole list is in, and closes what the visit leaves open.
     void Visit_Sent_Items(const std::function<void()>& visit) { Visit(*Sent_Items::defaultInstance(), visit); }
     void Visit(Sent_Items& window, const std::function<void()>& visit)
     {
@@ -79,15 +62,6 @@ protected:
         });
     }
 
-    template <typename Control>
-    static Control& In(const QWidget& window, const char* name)
-    {
-        auto* control = window.findChild<Control*>(QLatin1String(name));
-        if (!control)
-            qFatal("there is no %s in %s", name, qPrintable(window.objectName()));
-        return *control;
-    }
-
     /// What the window of the present visit holds.
     template <typename Control>
     Control& The(const char* name) const
@@ -107,7 +81,7 @@ protected:
     static void Click_In(QWidget& window, const char* button)
     {
         In<QPushButton>(window, button).setFocus();
-        QTest::mouseClick(&In<QPushButton>(window, button), Qt::LeftButton);
+        ::Click_In(window, button);
     }
     void Click(const char* button) const { Click_In(*m_visited, button); }
     /// Clicks a button, which must show exactly this box and put the focus on the table.
@@ -151,21 +125,11 @@ protected:
     }
     void Double_Click(int row) const
     {
-        const QPoint place = Table().visualRect(Table().model()->index(row, 0)).center();
-        QTest::mouseClick(Table().viewport(), Qt::LeftButton, {}, place);
-        QTest::mouseDClick(Table().viewport(), Qt::LeftButton, {}, place);
+        QTest::mouseClick(Table().viewport(), Qt::LeftButton, {}, Middle_Of(Table(), row));
+        QTest::mouseDClick(Table().viewport(), Qt::LeftButton, {}, Middle_Of(Table(), row));
     }
-
     void Expect_Focus_On_Table() const { EXPECT_EQ(m_visited->focusWidget(), &Table()); }
 
-    /// The person picks this path in the panel that opens next.
-    void Will_Save_As(const QString& path)
-    {
-        m_user.Will_Do([path](QDialog* panel) {
-            qobject_cast<QFileDialog*>(panel)->selectFile(path);
-            panel->accept();
-        });
-    }
     /// The person enters this text in the dialog of a template that opens next.
     void Will_Enter(const QString& text)
     {

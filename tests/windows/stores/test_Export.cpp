@@ -1,32 +1,7 @@
+#include "support/Opened_Files.h"
 #include "windows/stores/Export_Option.h"
 #include "windows/stores/Open_Export_Log.h"
 #include "windows/stores/Stores_Test.h"
-
-#include <QCheckBox>
-#include <QDesktopServices>
-#include <QDir>
-#include <QRadioButton>
-#include <QUrl>
-
-namespace {
-
-// Stands for the desktop, which would start a program for the file, if it has one.
-class Desktop : public QObject
-{
-    Q_OBJECT
-
-public:
-    Desktop() { Has_A_Program(); }
-    ~Desktop() override { QDesktopServices::unsetUrlHandler(QStringLiteral("file")); }
-
-    void Has_A_Program() { QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "Open"); }
-    void Has_No_Program() { QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "Nothing"); } // no such slot
-
-    QList<QUrl> m_opened;
-
-public Q_SLOTS:
-    void Open(const QUrl& url) { m_opened.append(url); }
-};
 
 class Export_Test : public Stores_Test
 {
@@ -66,14 +41,12 @@ protected:
     {
         Will_Choose(is_html);
         Will_Be_Offered_The_File();
-        Will_Save_As(m_folder.Beside(typed));
+        Will_Enter_Path(m_user, m_folder.Beside(typed));
         Click("Export_Btn");
     }
 
-    Desktop m_desktop;
+    Opened_Files m_desktop;
 };
-
-} // namespace
 
 TEST_F(Export_Test, Both_Lists_In_Both_Modes)
 {
@@ -87,7 +60,7 @@ TEST_F(Export_Test, Both_Lists_In_Both_Modes)
         EXPECT_EQ(Bytes_Of(m_folder.Beside(name)), Golden(name)) << name;
     EXPECT_EQ(Bytes_Of(Sent_Item_Path), Golden("SentItem.ZOVA"));
     EXPECT_EQ(Bytes_Of(Templates_Path), Golden("Templates.ZOVA"));
-    EXPECT_TRUE(m_desktop.m_opened.isEmpty());
+    EXPECT_TRUE(m_desktop.m_urls.isEmpty());
 }
 
 TEST_F(Export_Test, An_Extension_In_Any_Case_Is_Kept_And_Any_Other_Gets_One_More)
@@ -134,7 +107,7 @@ TEST_F(Export_Test, Leaving_The_Choice_Or_The_Panel_And_Any_Other_Mode_End_The_E
     EXPECT_FALSE(QFile::exists(m_folder.Beside("list.txt")));
 }
 
-TEST_F(Export_Test, The_Choice_Goes_With_The_Arrow_Keys_And_OK_Keeps_The_Mode)
+TEST_F(Export_Test, The_Choice_Goes_With_The_Arrow_Keys_OK_Keeps_The_Mode_And_Nothing_Opens_Once_The_Program_Exits)
 {
     m_user.When_Opens("Export_Option", [](QWidget& dialog) {
         auto& text = In<QRadioButton>(dialog, "Export_In_Text_RD");
@@ -150,6 +123,9 @@ TEST_F(Export_Test, The_Choice_Goes_With_The_Arrow_Keys_And_OK_Keeps_The_Mode)
     EXPECT_EQ(Export_Option::defaultInstance()->Open_Dialog(&m_window), 1);
     EXPECT_EQ(SENT_EXPORT_MODE, 1);
     EXPECT_TRUE(In<QRadioButton>(*Export_Option::defaultInstance(), "Export_In_Text_RD").isChecked());
+    Begin_Program_Exit();
+    EXPECT_EQ(Export_Option::defaultInstance()->Open_Dialog(&m_window), 0);
+    EXPECT_EQ(Offer_The_File(), 0);
 }
 
 TEST_F(Export_Test, A_File_That_Can_Not_Be_Written_Is_An_Error)
@@ -166,7 +142,7 @@ TEST_F(Export_Test, A_File_That_Can_Not_Be_Written_Is_An_Error)
         Click("Export_Btn");
         EXPECT_TRUE(m_visited->isVisible());
     });
-    EXPECT_EQ(m_user.Was_Shown(), QStringList{QStringLiteral("\nError in file accessing.")});
+    EXPECT_EQ(m_user.Was_Shown(), QStringList{"\nError in file accessing."});
     EXPECT_EQ(Bytes_Of(Sent_Item_Path), Golden("SentItem.ZOVA"));
 }
 
@@ -179,10 +155,10 @@ TEST_F(Export_Test, The_File_Is_Opened_By_The_Desktop_When_The_Box_Is_Ticked_And
     EXPECT_EQ(Offer_The_File(), 0);
     m_user.When_Opens("Open_Export_Log", [](QWidget& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
     EXPECT_EQ(Offer_The_File(), 0);
-    EXPECT_TRUE(m_desktop.m_opened.isEmpty());
+    EXPECT_TRUE(m_desktop.m_urls.isEmpty());
     Will_Be_Offered_The_File("OKPressed");
     EXPECT_EQ(Offer_The_File(), 1);
-    EXPECT_EQ(m_desktop.m_opened, QList{QUrl::fromLocalFile(Export_File_Path)});
+    EXPECT_EQ(m_desktop.m_urls, QList{QUrl::fromLocalFile(Export_File_Path)});
 }
 
 TEST_F(Export_Test, A_File_That_Nothing_Opens_Is_Told_Of_In_The_Dialog_Which_Closes_All_The_Same_Or_Tries_Again)
@@ -216,21 +192,12 @@ TEST_F(Export_Test, A_File_That_Nothing_Opens_Is_Told_Of_In_The_Dialog_Which_Clo
             EXPECT_TRUE(dialog.isVisible());
             EXPECT_FALSE(box.isChecked());
             EXPECT_TRUE(notice.isVisible());
-            EXPECT_TRUE(notice.text().startsWith(QStringLiteral("The file could not be opened")));
+            EXPECT_TRUE(notice.text().startsWith("The file could not be opened"));
             EXPECT_TRUE(Serve_Until([&] { return dialog.height() > size.height(); })) << "the line has its own room";
             leave(dialog);
             EXPECT_FALSE(dialog.isVisible());
         });
         EXPECT_EQ(Offer_The_File(), code);
     }
-    EXPECT_EQ(m_desktop.m_opened, QList{QUrl::fromLocalFile(Export_File_Path)});
+    EXPECT_EQ(m_desktop.m_urls, QList{QUrl::fromLocalFile(Export_File_Path)});
 }
-
-TEST_F(Export_Test, No_Dialog_Opens_Once_The_Program_Exits)
-{
-    Begin_Program_Exit();
-    EXPECT_EQ(Export_Option::defaultInstance()->Open_Dialog(&m_window), 0);
-    EXPECT_EQ(Offer_The_File(), 0);
-}
-
-#include "test_Export.moc"

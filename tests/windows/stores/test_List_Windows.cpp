@@ -1,4 +1,3 @@
-#include "platform/Text_Files.h"
 #include "records/Sent_Item_Store.h"
 #include "records/Template_Store.h"
 #include "support/Heartbeat.h"
@@ -7,8 +6,6 @@
 #include "windows/stores/Open_Export_Log.h"
 #include "windows/stores/Stores_Test.h"
 #include "windows/stores/UpdateTemp.h"
-
-#include <gmock/gmock.h>
 
 // What the windows of the two stores do alike.
 
@@ -81,7 +78,7 @@ INSTANTIATE_TEST_SUITE_P(Of, Each_List, testing::ValuesIn(Both), [](const auto& 
 
 } // namespace
 
-TEST_P(Each_List, Opens_After_One_Second_And_Only_Once)
+TEST_P(Each_List, Opens_After_One_Second_Only_Once_And_Not_When_The_Program_Exits)
 {
     Set_Pace(10);
     const double pressed_at = Now_Seconds();
@@ -91,10 +88,6 @@ TEST_P(Each_List, Opens_After_One_Second_And_Only_Once)
         EXPECT_EQ(GetParam().open(), 0);
     });
     EXPECT_GE(shown_at - pressed_at, 0.1);
-}
-
-TEST_P(Each_List, Does_Not_Open_Once_The_Program_Exits)
-{
     const QByteArray as_no_window_writes_it = Lines({"1"}) + "\n";
     Store(as_no_window_writes_it);
     Begin_Program_Exit();
@@ -106,7 +99,7 @@ TEST_P(Each_List, Does_Not_Open_Once_The_Program_Exits)
 TEST_P(Each_List, An_Empty_Missing_Or_Undecodable_File_Is_An_Empty_Table_Without_A_Word)
 {
     const auto expect_empty = [this] {
-        EXPECT_EQ(Count_Label(), QStringLiteral("Total Items : 0"));
+        EXPECT_EQ(Count_Label(), "Total Items : 0");
         EXPECT_EQ(Table().model()->rowCount(), 0);
     };
     Visit(expect_empty);
@@ -128,7 +121,7 @@ TEST_P(Each_List, Selected_Rows_Leave_It_At_Once_And_The_File_On_Close)
         QTest::mouseClick(&The<QPushButton>("Clear_Sel_Btn"), Qt::LeftButton, Qt::ControlModifier);
         QTest::keyRelease(&Table(), Qt::Key_Control);
         EXPECT_EQ(Shown(), (QStringList{"1", "3", "5"}));
-        EXPECT_EQ(Count_Label(), QStringLiteral("Total Items : 3"));
+        EXPECT_EQ(Count_Label(), "Total Items : 3");
         EXPECT_EQ(Selected(), std::vector{0}) << "and no other, whatever keys are held";
         EXPECT_EQ(Stored(), Lines({"1", "2", "3", "4", "5"}));
     });
@@ -138,7 +131,7 @@ TEST_P(Each_List, Selected_Rows_Leave_It_At_Once_And_The_File_On_Close)
         EXPECT_NE(Detail(), QString());
         Click("Clear_Sel_Btn");
         EXPECT_EQ(Shown(), QStringList());
-        EXPECT_EQ(Count_Label(), QStringLiteral("Total Items : 0"));
+        EXPECT_EQ(Count_Label(), "Total Items : 0");
         EXPECT_EQ(Detail(), QString());
     });
     EXPECT_EQ(Stored(), QByteArray());
@@ -155,12 +148,12 @@ TEST_P(Each_List, Clearing_All_Asks_And_Empties_It_And_The_File_At_Once)
         EXPECT_EQ(Shown(), (QStringList{"1", "2", "3"}));
         Click("Clear_All_Btn");
         EXPECT_EQ(Shown(), QStringList());
-        EXPECT_EQ(Count_Label(), QStringLiteral("Total Items : 0"));
+        EXPECT_EQ(Count_Label(), "Total Items : 0");
         EXPECT_EQ(Detail(), QString());
         EXPECT_EQ(Stored(), QByteArray());
     });
-    const QString question = QStringLiteral("\nThis option will clear the entire list contents. Are you sure you want "
-                                            "to continue clearing the entire list?");
+    const QString question = "\nThis option will clear the entire list contents. Are you sure you want "
+                             "to continue clearing the entire list?";
     EXPECT_EQ(m_user.Was_Shown(), (QStringList{question, question}));
     EXPECT_EQ(Stored(), QByteArray());
 }
@@ -204,9 +197,7 @@ TEST_P(Each_List, The_Delete_Key_Takes_The_Selected_Row_Out_Once_And_Alt_And_A_N
         Press_Key(Qt::Key_A, Qt::AltModifier);
         EXPECT_EQ(Shown(), (QStringList{"1", "2", "3"}));
         Select(1);
-        Held_Key held(Qt::Key_Delete);
-        held.Press();
-        EXPECT_TRUE(Serve_Until([&] { return held.Repeats() >= 10; }));
+        Hold_Down(Qt::Key_Delete);
         EXPECT_EQ(Shown(), (QStringList{"1", "3"}));
         EXPECT_EQ(Selected(), std::vector{0});
     });
@@ -218,7 +209,7 @@ TEST_P(Each_List, The_Count_Label_Reloads_The_Table_Once_At_Exactly_Ten)
     Visit([this] {
         for (int i = 1; i <= 12; ++i) {
             GetParam().create(QString::number(i));
-            EXPECT_EQ(Count_Label(), QStringLiteral("Total Items : %1").arg(i));
+            EXPECT_EQ(Count_Label(), QString("Total Items : %1").arg(i));
             EXPECT_EQ(Table().model()->rowCount(), i < 10 ? 0 : 10);
         }
     });
@@ -245,7 +236,7 @@ TEST_P(Each_List, A_Row_Outside_It_Is_An_Invalid_Parameter)
     Visit([&] {
         for (const int row : {-1, 1})
             EXPECT_THAT([&] { GetParam().value(Table(), row); }, testing::ThrowsMessage<Invalid_Parameter>(message));
-        EXPECT_EQ(GetParam().value(Table(), 0), QStringLiteral("1"));
+        EXPECT_EQ(GetParam().value(Table(), 0), "1");
         const QTableView other;
         EXPECT_EQ(GetParam().window().numberOfRowsInTableView(&Table()), 1);
         EXPECT_EQ(GetParam().window().numberOfRowsInTableView(&other), 0);
@@ -260,7 +251,7 @@ TEST_F(Stores_Test, The_Interface_Thread_Goes_On_With_Its_Events_While_Many_Reco
     double load_gap = 0;
     Visit_Sent_Items([&] {
         load_gap = heartbeat.Longest_Gap();
-        EXPECT_EQ(Count_Label(), QStringLiteral("Total Items : 200000"));
+        EXPECT_EQ(Count_Label(), "Total Items : 200000");
         EXPECT_EQ(Table().model()->rowCount(), Many);
         Clear(0, Many / 2 - 1);
         EXPECT_EQ(Table().model()->rowCount(), Many / 2);
@@ -271,25 +262,20 @@ TEST_F(Stores_Test, The_Interface_Thread_Goes_On_With_Its_Events_While_Many_Reco
     EXPECT_EQ(Bytes_Of(Sent_Item_Path).count('\n'), Many / 2);
 }
 
-TEST_F(Stores_Test, The_Shared_Windows_Are_Known_By_Their_Globals)
+TEST_F(Stores_Test, The_Shared_Windows_Are_Known_By_Their_Globals_And_Have_The_Colour_Of_The_Exported_Page)
 {
     EXPECT_EQ(Template_Window, nullptr);
     EXPECT_EQ(Sent_Items::defaultInstance(), Sent_Items::defaultInstance());
     EXPECT_EQ(Templates::defaultInstance(), Templates::defaultInstance());
     EXPECT_EQ(SENT_WND, Sent_Items::defaultInstance());
     EXPECT_EQ(Template_Window, Templates::defaultInstance());
-    EXPECT_EQ(SENT_WND->objectName(), QStringLiteral("Sent_Items"));
+    EXPECT_EQ(SENT_WND->objectName(), "Sent_Items");
     EXPECT_EQ(UpdateTemp::defaultInstance()->parentWidget(), Template_Window);
+    const QColor page(0xf1, 0xf4, 0xfa);
+    EXPECT_EQ(In<QPlainTextEdit>(*SENT_WND, "_Mess_det_edit").palette().color(QPalette::Base), page);
+    EXPECT_EQ(Export_Option::defaultInstance()->palette().color(QPalette::Window), page);
+    EXPECT_EQ(Open_Export_Log::defaultInstance()->palette().color(QPalette::Window), page);
     End_Shared_Instances();
     EXPECT_EQ(SENT_WND, nullptr);
     EXPECT_EQ(Template_Window, nullptr);
-}
-
-TEST_F(Stores_Test, The_Detail_View_And_The_Dialogs_Have_The_Colour_Of_The_Exported_Page)
-{
-    const QColor page(0xf1, 0xf4, 0xfa);
-    const auto& detail = In<QPlainTextEdit>(*Sent_Items::defaultInstance(), "_Mess_det_edit");
-    EXPECT_EQ(detail.palette().color(QPalette::Base), page);
-    EXPECT_EQ(Export_Option::defaultInstance()->palette().color(QPalette::Window), page);
-    EXPECT_EQ(Open_Export_Log::defaultInstance()->palette().color(QPalette::Window), page);
 }

@@ -1,22 +1,15 @@
-#include "platform/Text_Files.h"
 #include "support/Keys.h"
 #include "windows/stores/Stores_Test.h"
 #include "windows/stores/UpdateTemp.h"
 
-#include <QClipboard>
-#include <QWindow>
-
-namespace {
-
-const QString List_Empty = QStringLiteral("\nTemplates list is empty.");
-const QString Empty_At_Update = QStringLiteral("\nTemplates number list is empty.");
-const QString None_Selected =
-    QStringLiteral("\nPlease select at least one record from the templates list to continue.");
-const QString Select_One = QStringLiteral("\nPlease select only one record to update.");
-const QString Exists_Already = QStringLiteral("\nEntered template already exists.");
-const QString Too_Long_Question = QStringLiteral(
+const QString List_Empty = "\nTemplates list is empty.";
+const QString Empty_At_Update = "\nTemplates number list is empty.";
+const QString None_Selected = "\nPlease select at least one record from the templates list to continue.";
+const QString Select_One = "\nPlease select only one record to update.";
+const QString Exists_Already = "\nEntered template already exists.";
+const QString Too_Long_Question =
     "Maximum characters limit is 1600.\r\n\r\nPress 'Yes to continue to composer window and it will show first 1600 "
-    "characters of your message otherwise press 'No''");
+    "characters of your message otherwise press 'No''";
 
 class Templates_Test : public Stores_Test
 {
@@ -43,18 +36,16 @@ protected:
         EXPECT_EQ(Text_In(dialog).toPlainText(), QString());
         EXPECT_EQ(Label_In(dialog, "m_templ_index"), QString());
         EXPECT_EQ(Label_In(dialog, "m_s_temp_str"), QString());
-        EXPECT_EQ(Count_In(dialog), QStringLiteral("0 Characters"));
+        EXPECT_EQ(Count_In(dialog), "0 Characters");
     }
 };
-
-} // namespace
 
 TEST_F(Templates_Test, The_File_Is_Shown_And_Written_Again_On_Close)
 {
     Store(Golden("Templates.ZOVA"));
     Visit_Templates([this] {
-        EXPECT_EQ(Count_Label(), QStringLiteral("Total Items : 3"));
-        EXPECT_EQ(Shown().first(), QStringLiteral("Dear  customer, your parcel is here."));
+        EXPECT_EQ(Count_Label(), "Total Items : 3");
+        EXPECT_EQ(Shown().first(), "Dear  customer, your parcel is here.");
         Expect_Focus_On_Table();
     });
     EXPECT_EQ(Stored(), Golden("Templates.ZOVA"));
@@ -62,7 +53,7 @@ TEST_F(Templates_Test, The_File_Is_Shown_And_Written_Again_On_Close)
 
 TEST_F(Templates_Test, The_Selected_Template_Is_Shown_In_Full)
 {
-    const QString long_text = QStringLiteral("first\n") + QString(1500, u'x') + QStringLiteral("\nlast");
+    const QString long_text = "first\n" + QString(1500, u'x') + "\nlast";
     Store("short\n" + QString(long_text).replace(u"\n"_qs, u"|AP*|DX/"_qs).toUtf8() + '\n');
     Visit_Templates([&] {
         EXPECT_TRUE(Detail_View().isReadOnly());
@@ -70,11 +61,11 @@ TEST_F(Templates_Test, The_Selected_Template_Is_Shown_In_Full)
         Select(1);
         EXPECT_EQ(Detail(), long_text);
         EXPECT_EQ(Table().model()->index(1, 0).data().toString(), long_text);
-        Will_Enter(QStringLiteral("changed"));
+        Will_Enter("changed");
         Click("Update_Btn");
-        EXPECT_EQ(Detail(), QStringLiteral("changed"));
+        EXPECT_EQ(Detail(), "changed");
         Click("Clear_Sel_Btn");
-        EXPECT_EQ(Detail(), QStringLiteral("short"));
+        EXPECT_EQ(Detail(), "short");
         Click("Clear_Sel_Btn");
         EXPECT_EQ(Detail(), QString());
     });
@@ -85,7 +76,7 @@ TEST_F(Templates_Test, What_A_Button_Or_Key_Can_Not_Do_Is_Told_And_The_Table_Has
     Visit_Templates([this] {
         Expect_Told("Update_Btn", Empty_At_Update);
         Expect_Told("Clear_Sel_Btn", List_Empty);
-        Expect_Told("Clear_All_Btn", QStringLiteral("\nTemplates items list is empty."));
+        Expect_Told("Clear_All_Btn", "\nTemplates items list is empty.");
         Expect_Told("Use_template_Btn", List_Empty);
         Expect_Told("Export_Btn", List_Empty);
         for (const Qt::Key key : {Qt::Key_F2, Qt::Key_Delete}) {
@@ -99,10 +90,10 @@ TEST_F(Templates_Test, What_A_Button_Or_Key_Can_Not_Do_Is_Told_And_The_Table_Has
     Visit_Templates([this] {
         for (const char* button : {"Update_Btn", "Clear_Sel_Btn", "Use_template_Btn"})
             Expect_Told(button, None_Selected);
-        Template_Window->Replace_Template(0, QStringLiteral(" \n "));
+        Template_Window->Replace_Template(0, " \n ");
         Select(0);
         Expect_Told("Update_Btn", None_Selected); // a blank one can not be edited
-        Template_Window->Replace_Template(0, QStringLiteral("a"));
+        Template_Window->Replace_Template(0, "a");
         Select(0, 1);
         Expect_Told("Use_template_Btn", Select_One);
     });
@@ -114,17 +105,17 @@ TEST_F(Templates_Test, A_New_Template_Is_Trimmed_Added_And_Written_On_Close)
 {
     Store("a\n");
     In_The_Dialog([](QWidget& dialog) {
-        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Add Templates"));
-        EXPECT_EQ(Count_In(dialog), QStringLiteral("0 Characters"));
+        EXPECT_EQ(dialog.windowTitle(), "Add Templates");
+        EXPECT_EQ(Count_In(dialog), "0 Characters");
         EXPECT_EQ(dialog.focusWidget(), &Text_In(dialog));
-        Text_In(dialog).setPlainText(QStringLiteral("  line one\nline two\n\nline\u00a0four \n"));
-        EXPECT_EQ(Count_In(dialog), QStringLiteral("32 Characters"));
+        Text_In(dialog).setPlainText("  line one\nline two\n\nline\u00a0four \n");
+        EXPECT_EQ(Count_In(dialog), "32 Characters");
         Click_In(dialog, "OKPressed");
     });
     Visit_Templates([this] {
         Click("AddNew_Btn");
-        EXPECT_EQ(Shown(), (QStringList{"a", QStringLiteral("line one line two  line\u00a0four")}));
-        EXPECT_EQ(Count_Label(), QStringLiteral("Total Items : 2"));
+        EXPECT_EQ(Shown(), (QStringList{"a", "line one line two  line\u00a0four"}));
+        EXPECT_EQ(Count_Label(), "Total Items : 2");
         EXPECT_EQ(Stored(), QByteArray("a\n")) << "memory only";
         Expect_Cleared();
     });
@@ -140,7 +131,7 @@ TEST_F(Templates_Test, A_Blank_Text_And_One_That_Exists_Are_Refused_And_The_Text
         const char* button;
         const char* text;
         QString told;
-    } cases[] = {{"AddNew_Btn", "  \n ", QStringLiteral("\nPlease type template message.")},
+    } cases[] = {{"AddNew_Btn", "  \n ", "\nPlease type template message."},
                  {"AddNew_Btn", " a ", Exists_Already},
                  {"Update_Btn", "a", Exists_Already},
                  {"Update_Btn", "b ", Exists_Already}}; // itself, but for a blank
@@ -177,7 +168,7 @@ TEST_F(Templates_Test, A_Long_Paste_Is_Cut_To_1600_Characters_And_In_The_Middle_
                 QApplication::clipboard()->setText(text);
                 Text_In(dialog).paste();
                 EXPECT_EQ(Text_In(dialog).toPlainText(), text.left(1600));
-                EXPECT_EQ(Count_In(dialog), QStringLiteral("1600 Characters"));
+                EXPECT_EQ(Count_In(dialog), "1600 Characters");
             }
             Click_In(dialog, "OKPressed");
             EXPECT_EQ(dialog.isVisible(), is_there);
@@ -200,14 +191,14 @@ TEST_F(Templates_Test, Editing_Shows_The_Selected_Template_And_Puts_The_New_Text
 {
     Store("a\nb|AP*|DX/b\nc\n");
     In_The_Dialog([](QWidget& dialog) {
-        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Update Templates"));
-        EXPECT_EQ(Text_In(dialog).toPlainText(), QStringLiteral("b\nb"));
-        EXPECT_EQ(Label_In(dialog, "m_s_temp_str"), QStringLiteral("b\nb"));
-        EXPECT_EQ(Label_In(dialog, "m_templ_index"), QStringLiteral("1"));
+        EXPECT_EQ(dialog.windowTitle(), "Update Templates");
+        EXPECT_EQ(Text_In(dialog).toPlainText(), "b\nb");
+        EXPECT_EQ(Label_In(dialog, "m_s_temp_str"), "b\nb");
+        EXPECT_EQ(Label_In(dialog, "m_templ_index"), "1");
         EXPECT_FALSE(In<QLabel>(dialog, "m_templ_index").isVisible());
         EXPECT_FALSE(In<QLabel>(dialog, "m_s_temp_str").isVisible());
-        EXPECT_EQ(Count_In(dialog), QStringLiteral("3 Characters"));
-        Text_In(dialog).setPlainText(QStringLiteral(" changed "));
+        EXPECT_EQ(Count_In(dialog), "3 Characters");
+        Text_In(dialog).setPlainText(" changed ");
         Click_In(dialog, "OKPressed");
     });
     Visit_Templates([this] {
@@ -245,7 +236,7 @@ TEST_F(Templates_Test, F2_Return_Enter_And_A_Double_Click_Edit_The_Selected_Temp
         for (const auto& open : ways) {
             Select(static_cast<int>(seen.size()));
             In_The_Dialog([&](QWidget& dialog) {
-                EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Update Templates"));
+                EXPECT_EQ(dialog.windowTitle(), "Update Templates");
                 seen.append(Text_In(dialog).toPlainText());
                 Press_Key(Qt::Key_Escape);
             });
@@ -261,7 +252,7 @@ TEST_F(Templates_Test, With_Several_Selected_Edit_Takes_The_First_And_A_Double_C
 {
     Store("a\nb\nc\n");
     In_The_Dialog([](QWidget& dialog) {
-        EXPECT_EQ(Text_In(dialog).toPlainText(), QStringLiteral("b"));
+        EXPECT_EQ(Text_In(dialog).toPlainText(), "b");
         Click_In(dialog, "CancelPressed");
     });
     m_user.Will_Press("OK");
@@ -280,12 +271,12 @@ TEST_F(Templates_Test, With_Several_Selected_Edit_Takes_The_First_And_A_Double_C
 TEST_F(Templates_Test, A_Created_Template_Is_Trimmed_And_Cut_And_A_Blank_One_Passed_Over)
 {
     Visit_Templates([this] {
-        Template_Window->Create_Template_List(QStringLiteral(" \n "));
+        Template_Window->Create_Template_List(" \n ");
         Template_Window->Create_Template_List(u' ' + QString(1700, u'x') + u' ');
-        Template_Window->Create_Template_List(QStringLiteral(" b "));
-        EXPECT_EQ(Count_Label(), QStringLiteral("Total Items : 2"));
-        EXPECT_TRUE(Template_Window->Check_Duplicate_Template(QStringLiteral("b")));
-        EXPECT_FALSE(Template_Window->Check_Duplicate_Template(QStringLiteral(" b")));
+        Template_Window->Create_Template_List(" b ");
+        EXPECT_EQ(Count_Label(), "Total Items : 2");
+        EXPECT_TRUE(Template_Window->Check_Duplicate_Template("b"));
+        EXPECT_FALSE(Template_Window->Check_Duplicate_Template(" b"));
     });
     EXPECT_EQ(Stored(), QByteArray(1600, 'x') + "\nb\n");
 }
@@ -293,7 +284,7 @@ TEST_F(Templates_Test, A_Created_Template_Is_Trimmed_And_Cut_And_A_Blank_One_Pas
 TEST_F(Templates_Test, A_Template_Takes_The_Place_Of_The_Composers_Selection_And_The_File_Is_Written)
 {
     Store("a\nnew\nc\n");
-    m_window.m_choices.composer_text = QStringLiteral("one two three");
+    m_window.m_choices.composer_text = "one two three";
     m_window.m_selection_start = 4;
     m_window.m_selection_length = 3;
     Visit_Templates([this] {
@@ -301,7 +292,7 @@ TEST_F(Templates_Test, A_Template_Takes_The_Place_Of_The_Composers_Selection_And
         Click("Use_template_Btn");
         EXPECT_FALSE(m_visited->isVisible());
     });
-    EXPECT_EQ(m_window.m_choices.composer_text, QStringLiteral("one new three"));
+    EXPECT_EQ(m_window.m_choices.composer_text, "one new three");
     EXPECT_EQ(Stored(), QByteArray("new\nc\n"));
 }
 
@@ -326,7 +317,7 @@ TEST_F(Templates_Test, While_The_File_Is_Written_Neither_A_Second_Press_Nor_Esca
                           press_once_more); // a slow load has had its own by now
         Click("Use_template_Btn");
     });
-    EXPECT_EQ(m_window.m_choices.composer_text, QStringLiteral("b"));
+    EXPECT_EQ(m_window.m_choices.composer_text, "b");
     EXPECT_EQ(Stored(), QByteArray("a\nb\n"));
 }
 

@@ -1,19 +1,13 @@
-#include "platform/Text_Files.h"
 #include "windows/stores/Stores_Test.h"
 
-#include <QDir>
-#include <sys/stat.h>
-
 // What somebody enters in the templates window while the templates can not be read or written.
-
-namespace {
 
 class Unreadable_Templates : public Stores_Test
 {
 protected:
     void Enter()
     {
-        Will_Enter(QStringLiteral("entered"));
+        Will_Enter("entered");
         Click("AddNew_Btn");
     }
     QString Notice() const
@@ -23,18 +17,16 @@ protected:
     }
 };
 
-const QString Can_Not_Be_Read = QStringLiteral("can not be read");
-const QString In_The_List_Again = QStringLiteral("could not be saved the last time");
-
-} // namespace
+const QString Can_Not_Be_Read = "can not be read";
+const QString In_The_List_Again = "could not be saved the last time";
 
 TEST_F(Unreadable_Templates, What_Is_Entered_While_Something_Else_Stands_There_Is_Stored_And_That_Is_Kept)
 {
     const std::pair<std::function<void()>, const char*> cases[] = {
         {[] { Write_Bytes(Templates_Path, "\xff\n"); }, ""},
-        {[] { ASSERT_TRUE(QDir().mkpath(Templates_Path + QStringLiteral("/in it"))); }, ".2"},
+        {[] { ASSERT_TRUE(QDir().mkpath(Templates_Path + "/in it")); }, ".2"},
         {[] { ASSERT_EQ(mkfifo(qPrintable(Templates_Path), 0600), 0); }, ".3"},
-        {[] { ASSERT_TRUE(QFile::link(Templates_Path + QStringLiteral(".nowhere"), Templates_Path)); }, ".4"},
+        {[] { ASSERT_TRUE(QFile::link(Templates_Path + ".nowhere", Templates_Path)); }, ".4"},
     };
     for (const auto& [put_in_the_way, kept_as] : cases) {
         ASSERT_TRUE(QFile::remove(Templates_Path));
@@ -51,7 +43,7 @@ TEST_F(Unreadable_Templates, What_Is_Entered_While_Something_Else_Stands_There_I
             EXPECT_EQ(Shown(), QStringList("entered"));
         });
     }
-    EXPECT_TRUE(QFileInfo(Kept_Path(Templates_Path) + QStringLiteral(".2/in it")).isDir());
+    EXPECT_TRUE(QFileInfo(Kept_Path(Templates_Path) + ".2/in it").isDir());
 }
 
 TEST_F(Unreadable_Templates, What_Can_Not_Be_Read_Stays_Where_It_Is_When_Nothing_Is_Entered)
@@ -89,7 +81,7 @@ TEST_F(Unreadable_Templates, A_Folder_That_Takes_Nothing_Is_Told_Of_Before_Anyth
 {
     m_folder.Take_Away();
     Visit_Templates([this] {
-        EXPECT_TRUE(Notice().contains(QStringLiteral("Changes can not be saved at present"))) << qPrintable(Notice());
+        EXPECT_TRUE(Notice().contains("Changes can not be saved at present")) << qPrintable(Notice());
         Enter();
     });
     m_folder.Bring_Back();
