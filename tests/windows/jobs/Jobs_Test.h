@@ -1,7 +1,7 @@
 #pragma once
 
 #include "engine/Receipts_Test.h"
-#include "gui/In_Windows.h"
+#include "support/In_Windows.h"
 #include "platform/Pace.h"
 #include "platform/Waiting.h"
 #include "records/Job_Shelf.h"
