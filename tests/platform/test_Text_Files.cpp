@@ -277,7 +277,7 @@ TEST_F(Text_Files, A_Lock_Keeps_Others_Out_However_The_Path_Is_Written_And_Its_O
         std::vector<std::jthread> threads;
         for (const char* name : {"folder/file", "link/file", "folder/../folder/./file", "link/../link//file"})
             threads.emplace_back([&, path = Path(name)] {
-                for (int i = 0; i < 500; ++i) {
+                for (int i = 0; i < 100; ++i) { // on a busy machine each yield is a long one
                     const File_Lock lock(path);
                     const int before = count;
                     std::this_thread::yield();
@@ -285,7 +285,7 @@ TEST_F(Text_Files, A_Lock_Keeps_Others_Out_However_The_Path_Is_Written_And_Its_O
                 }
             });
     }
-    EXPECT_EQ(count, 2000);
+    EXPECT_EQ(count, 400);
 
     const File_Lock outer(Path("file"));
     std::optional<File_Lock>(std::in_place, Path("file")).reset();

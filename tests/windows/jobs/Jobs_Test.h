@@ -1,10 +1,10 @@
 #pragma once
 
 #include "engine/Receipts_Test.h"
-#include "support/In_Windows.h"
 #include "platform/Pace.h"
 #include "platform/Waiting.h"
 #include "records/Job_Shelf.h"
+#include "support/In_Windows.h"
 #include "toolkit/Window_Look.h"
 #include "windows/jobs/Receipt_Wnd.h"
 #include "windows/jobs/Unfinished_Strip.h"
