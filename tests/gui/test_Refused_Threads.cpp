@@ -186,6 +186,7 @@ TEST_F(Refused, The_Exclusion_Wizard_Shows_Changes_And_Applies_Its_Lists)
         EXPECT_EQ(m_delegate->Exclusions().Count(), 1);
         Exclusion_Files::Delete_List("Staff");
     });
+    EXPECT_TRUE(Exclusion_Files::Write_Index({}) && Exclusion_Files::Write_Applied({}));
 }
 
 TEST_F(Refused, The_List_Is_Exported)
