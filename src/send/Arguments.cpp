@@ -312,3 +312,9 @@ Read_Arguments_Result Read_Arguments(const QStringList& arguments)
 {
     return Reader().Read(arguments);
 }
+
+Plan_Manner Arguments::Manner() const
+{
+    return {
+        fixed_waits, alphabet, flash, report_seconds >= 0, service_centre, batch, static_cast<double>(pause_seconds)};
+}

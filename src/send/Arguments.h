@@ -2,7 +2,7 @@
 
 #include "list/Country_Codes.h"
 #include "list/Table_File.h"
-#include "records/Job_Row.h"
+#include "plan/Plan_Manner.h"
 #include "send/Trouble.h"
 
 #include <QStringList>
@@ -53,6 +53,8 @@ struct Arguments
     bool keeps_journal = false; ///< of a job that has ended
 
     bool json = false;
+
+    Plan_Manner Manner() const;
 };
 
 struct Read_Arguments_Result

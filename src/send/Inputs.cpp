@@ -2,13 +2,13 @@
 
 #include "engine/Composer_Rules.h"
 #include "handset/Address.h"
+#include "list/Message_Filling.h"
 #include "list/Number_File.h"
 #include "list/Number_List.h"
 #include "list/Number_Rules.h"
 #include "list/Written_Number.h"
 #include "platform/String_Helpers.h"
 #include "send/Input_Files.h"
-#include "send/Message_Filling.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "plan/Planned_Row.h"
 #include "send/Arguments.h"
-#include "send/Planned_Row.h"
 #include "send/Table_Input.h"
 
 #include <vector>

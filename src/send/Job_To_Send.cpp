@@ -1,19 +1,16 @@
 #include "send/Job_To_Send.h"
 
+#include "plan/Plan_Time.h"
+#include "plan/Row_Preview.h"
 #include "records/Data_Paths.h"
 #include "records/Job_Journal.h"
 #include "records/Job_Paths.h"
 #include "send/Inputs.h"
-#include "send/Row_Preview.h"
 
 #include <QDir>
 #include <QFileInfo>
 
 namespace {
-
-constexpr qint64 Seconds_For_A_Judged_Part = 4; // by experience; networks differ
-constexpr qint64 Seconds_For_A_Fixed_Part = 12; // two reads of five seconds, and two afterwards
-constexpr qint64 Seconds_After_Fixed_Parts = 2;
 
 Trouble Not_Gone_On_With(const QString& job, Job_Trouble trouble)
 {
@@ -53,21 +50,11 @@ qint64 Job_To_Send::Seconds() const
     for (std::size_t i = 0; i < rows.size(); ++i)
         if (rows[i].Is_To_Be_Sent())
             of_messages.push_back(parts[i]);
-    return Seconds_For(of_messages, fixed_waits, options.batch, options.pause_seconds);
-}
-
-qint64 Seconds_For(const std::vector<int>& parts_of_messages, bool fixed_waits, int batch, double pause_seconds)
-{
-    qint64 seconds = 0;
-    for (const int parts : parts_of_messages) {
-        seconds += parts * (fixed_waits ? Seconds_For_A_Fixed_Part : Seconds_For_A_Judged_Part);
-        if (fixed_waits && parts > 1)
-            seconds += Seconds_After_Fixed_Parts;
-    }
-    const auto messages = static_cast<qint64>(parts_of_messages.size());
-    if (batch > 0 && messages > 0)
-        seconds += static_cast<qint64>(static_cast<double>((messages - 1) / batch) * pause_seconds);
-    return seconds;
+    Plan_Manner manner;
+    manner.fixed_waits = fixed_waits;
+    manner.batch = options.batch;
+    manner.pause_seconds = options.pause_seconds;
+    return Seconds_For(of_messages, manner);
 }
 
 Journal_Folder Journal_Folder_Of(const Arguments& arguments)
@@ -94,8 +81,9 @@ Job_Or_Trouble New_Job(const Arguments& arguments)
     job.options = {arguments.service_centre, arguments.report_seconds, arguments.batch,
                    static_cast<double>(arguments.pause_seconds), arguments.alphabet};
     job.rows = std::move(inputs.rows);
+    const Plan_Manner manner = arguments.Manner();
     for (const Planned_Row& row : job.rows)
-        job.parts.push_back(Parts_Of_Row(row, arguments));
+        job.parts.push_back(Parts_Of_Row(row, manner));
     const Trouble trouble = Prepare_Journal(arguments, job);
     return {std::move(job), trouble};
 }

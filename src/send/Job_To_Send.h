@@ -1,8 +1,8 @@
 #pragma once
 
+#include "plan/Planned_Row.h"
 #include "records/Job_Record.h"
 #include "send/Arguments.h"
-#include "send/Planned_Row.h"
 
 #include <optional>
 #include <vector>
@@ -44,6 +44,3 @@ struct Journal_Folder
     Trouble trouble;
 };
 Journal_Folder Journal_Folder_Of(const Arguments& arguments);
-
-/// How long messages take at pace 1, at a guess.
-qint64 Seconds_For(const std::vector<int>& parts_of_messages, bool fixed_waits, int batch, double pause_seconds);

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "device/Device_Cause.h"
+#include "plan/Row_Preview.h"
 #include "records/Job_Shelf.h"
-#include "send/Row_Preview.h"
 #include "send/Table_Input.h"
 
 #include <QList>

@@ -1,9 +1,10 @@
 #include "send/Send_Program.h"
 
+#include "plan/Hand_Over.h"
+#include "plan/Plan_Time.h"
 #include "platform/Waiting.h"
 #include "records/Data_Paths.h"
 #include "records/Job_Shelf.h"
-#include "send/Hand_Over.h"
 #include "send/Inputs.h"
 #include "send/Printer.h"
 #include "send/Sending.h"
@@ -30,9 +31,9 @@ public:
         m_parts.push_back(preview.parts);
     }
 
-    Plan_Facts Facts(const Arguments& arguments)
+    Plan_Facts Facts(const Plan_Manner& manner)
     {
-        m_facts.seconds = Seconds_For(m_parts, arguments.fixed_waits, arguments.batch, arguments.pause_seconds);
+        m_facts.seconds = Seconds_For(m_parts, manner);
         return m_facts;
     }
 
@@ -111,13 +112,14 @@ int Send_Program::Plan()
     if (inputs.trouble)
         return Fail(inputs.trouble);
     const bool hands_over = m_arguments.task == Arguments::Task::Hand_Over;
-    Hand_Over hand_over(m_arguments);
-    Trouble trouble = hands_over ? hand_over.Begin() : Trouble();
+    const Plan_Manner manner = m_arguments.Manner();
+    Hand_Over hand_over(m_arguments.hand_over_folder, manner);
+    Hand_Over_Trouble trouble = hands_over ? hand_over.Begin() : Hand_Over_Trouble();
     Planned_Sum sum;
     for (const Planned_Row& row : inputs.rows) {
         if (trouble || Program_Is_Exiting())
             break;
-        const Row_Preview preview = Preview_Of(row, m_arguments);
+        const Row_Preview preview = Preview_Of(row, manner);
         sum.Add(row, preview);
         if (hands_over && row.Is_To_Be_Sent())
             trouble = hand_over.Add(row, preview);
@@ -127,8 +129,8 @@ int Send_Program::Plan()
     if (hands_over && !trouble && !Program_Is_Exiting())
         trouble = hand_over.End();
     if (trouble || Program_Is_Exiting())
-        return Fail(trouble);
-    Plan_Facts facts = sum.Facts(m_arguments);
+        return Fail({trouble.what, trouble.why});
+    Plan_Facts facts = sum.Facts(manner);
     facts.table = inputs.table;
     m_printer->Plan(facts);
     return sum.Is_In_Order() ? Exit_Status::Done : Exit_Status::Not_All_Sent;

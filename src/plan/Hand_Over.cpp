@@ -1,4 +1,4 @@
-#include "send/Hand_Over.h"
+#include "plan/Hand_Over.h"
 
 #include "handset/Address.h"
 #include "handset/Text_Parts.h"
@@ -15,7 +15,7 @@ namespace {
 
 constexpr unsigned Only_The_User = 0700;
 
-Trouble Not_Written(const QString& path)
+Hand_Over_Trouble Not_Written(const QString& path)
 {
     return {path + QLatin1String(" cannot be written"), QString::fromLocal8Bit(std::strerror(errno))};
 }
@@ -62,9 +62,9 @@ QByteArray Recipient_Lines(const QString& number)
 
 } // namespace
 
-Trouble Hand_Over::Begin()
+Hand_Over_Trouble Hand_Over::Begin()
 {
-    const QString folder = m_arguments.hand_over_folder;
+    const QString folder = m_folder;
     const QString spool = folder + QLatin1String("/spool");
     const bool has_files = !QDir(spool).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).isEmpty();
     if (has_files || QFile::exists(folder + QLatin1String("/list.csv")))
@@ -75,28 +75,28 @@ Trouble Hand_Over::Begin()
     return {};
 }
 
-Trouble Hand_Over::Add(const Planned_Row& row, const Row_Preview& preview)
+Hand_Over_Trouble Hand_Over::Add(const Planned_Row& row, const Row_Preview& preview)
 {
     const QString text = Text_As_Written(row, preview);
     const bool is_unicode = preview.alphabet == Job_Alphabet::Ucs2;
     m_list += QByteArray::number(row.row) + ',' + row.number.toUtf8() + ',' + Csv_Field(text) + ',' +
               (is_unicode ? "unicode" : "gsm") + ',' + QByteArray::number(preview.parts) + '\n';
-    const QString path = QStringLiteral("%1/spool/corvane-%2")
-                             .arg(m_arguments.hand_over_folder, QString::number(row.row).rightJustified(7, u'0'));
-    return Replace_File(path, Spool_File(row, preview)) ? Trouble() : Not_Written(path);
+    const QString path =
+        QStringLiteral("%1/spool/corvane-%2").arg(m_folder, QString::number(row.row).rightJustified(7, u'0'));
+    return Replace_File(path, Spool_File(row, preview)) ? Hand_Over_Trouble() : Not_Written(path);
 }
 
 QByteArray Hand_Over::Spool_File(const Planned_Row& row, const Row_Preview& preview) const
 {
     const QString text = Text_As_Written(row, preview);
     QByteArray file = Recipient_Lines(row.number);
-    if (!m_arguments.service_centre.isEmpty())
+    if (!m_manner.service_centre.isEmpty())
         file += "SMSC: " +
-                QByteArray::fromStdString(Handset::Destination_Of(m_arguments.service_centre.toStdString()).m_digits) +
+                QByteArray::fromStdString(Handset::Destination_Of(m_manner.service_centre.toStdString()).m_digits) +
                 '\n';
-    if (m_arguments.flash)
+    if (m_manner.is_flash)
         file += "Flash: yes\n";
-    if (m_arguments.report_seconds >= 0)
+    if (m_manner.asks_for_reports)
         file += "Report: yes\n";
     if (preview.alphabet == Job_Alphabet::Ucs2)
         return file + "Alphabet: UCS\n\n" + Utf_16_Big_Endian(text);
@@ -105,8 +105,8 @@ QByteArray Hand_Over::Spool_File(const Planned_Row& row, const Row_Preview& prev
     return file + "Alphabet: UTF-8\n\n" + text.toUtf8();
 }
 
-Trouble Hand_Over::End()
+Hand_Over_Trouble Hand_Over::End()
 {
-    const QString path = m_arguments.hand_over_folder + QLatin1String("/list.csv");
-    return Replace_File(path, m_list) ? Trouble() : Not_Written(path);
+    const QString path = m_folder + QLatin1String("/list.csv");
+    return Replace_File(path, m_list) ? Hand_Over_Trouble() : Not_Written(path);
 }

@@ -1,34 +1,33 @@
-#include "send/Row_Preview.h"
+#include "plan/Row_Preview.h"
 
 #include "device/Submission_Plan.h"
 #include "engine/Message_Frames.h"
 #include "handset/Message_Joiner.h"
 #include "handset/Submit_Decoder.h"
 #include "handset/Text_Parts.h"
-#include "send/Arguments.h"
 
 namespace {
 
-Job_Row Confirmed_Row(const Planned_Row& row, const Arguments& arguments)
+Job_Row Confirmed_Row(const Planned_Row& row, const Plan_Manner& manner)
 {
-    return Frozen_Row(row.row, row.number, row.text, arguments.alphabet, arguments.flash, 0, false);
+    return Frozen_Row(row.row, row.number, row.text, manner.alphabet, manner.is_flash, 0, false);
 }
 
-Submission_Plan Plan_With_Fixed_Waits(const Planned_Row& row, const Arguments& arguments)
+Submission_Plan Plan_With_Fixed_Waits(const Planned_Row& row, const Plan_Manner& manner)
 {
-    const bool is_unicode = arguments.alphabet == Job_Alphabet_Choice::Unicode;
-    return Plan_Pdu({row.text, row.number, arguments.service_centre, arguments.flash, is_unicode}, {});
+    const bool is_unicode = manner.alphabet == Job_Alphabet_Choice::Unicode;
+    return Plan_Pdu({row.text, row.number, manner.service_centre, manner.is_flash, is_unicode}, {});
 }
 
-QByteArrayList Frames_Of(const Planned_Row& row, const Arguments& arguments)
+QByteArrayList Frames_Of(const Planned_Row& row, const Plan_Manner& manner)
 {
     QByteArrayList frames;
-    if (arguments.fixed_waits) {
-        for (const Pdu_Frame& frame : Plan_With_Fixed_Waits(row, arguments).m_frames)
+    if (manner.fixed_waits) {
+        for (const Pdu_Frame& frame : Plan_With_Fixed_Waits(row, manner).m_frames)
             frames.append(frame.m_digits);
     } else {
         for (const Part_To_Send& part :
-             Parts_Of(Confirmed_Row(row, arguments), arguments.service_centre, arguments.report_seconds >= 0, false))
+             Parts_Of(Confirmed_Row(row, manner), manner.service_centre, manner.asks_for_reports, false))
             frames.append(part.m_body);
     }
     return frames;
@@ -76,26 +75,26 @@ std::optional<std::vector<Changed_Text>> Changes_In_Step(const QString& text, co
 
 } // namespace
 
-Row_Preview Preview_Of(const Planned_Row& row, const Arguments& arguments)
+Row_Preview Preview_Of(const Planned_Row& row, const Plan_Manner& manner)
 {
     Row_Preview preview;
-    preview.alphabet = Confirmed_Row(row, arguments).alphabet;
+    preview.alphabet = Confirmed_Row(row, manner).alphabet;
     preview.units = static_cast<int>(Handset::Written_Units(
         {reinterpret_cast<const char16_t*>(row.text.utf16()), static_cast<std::size_t>(row.text.size())},
         preview.alphabet == Job_Alphabet::Ucs2 ? Handset::Alphabet::Ucs2 : Handset::Alphabet::Gsm_7_Bit));
-    preview.parts = Parts_Of_Row(row, arguments);
+    preview.parts = Parts_Of_Row(row, manner);
     const bool has_frames = row.skipped != QLatin1String(Skip_Words::Invalid_Number) && !row.text.isEmpty() &&
                             row.skipped != QLatin1String(Skip_Words::Too_Long);
     if (!has_frames)
         return preview;
-    preview.shown = Shown_By_A_Handset(Frames_Of(row, arguments));
+    preview.shown = Shown_By_A_Handset(Frames_Of(row, manner));
     preview.changed = Changes_Between(row.text, preview.shown);
     return preview;
 }
 
-int Parts_Of_Row(const Planned_Row& row, const Arguments& arguments)
+int Parts_Of_Row(const Planned_Row& row, const Plan_Manner& manner)
 {
-    return arguments.fixed_waits ? Plan_With_Fixed_Waits(row, arguments).m_parts : Confirmed_Row(row, arguments).parts;
+    return manner.fixed_waits ? Plan_With_Fixed_Waits(row, manner).m_parts : Confirmed_Row(row, manner).parts;
 }
 
 QString Shown_By_A_Handset(const QByteArrayList& frames)

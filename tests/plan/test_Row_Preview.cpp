@@ -1,5 +1,4 @@
-#include "send/Arguments.h"
-#include "send/Row_Preview.h"
+#include "plan/Row_Preview.h"
 
 #include <gmock/gmock.h>
 
@@ -10,10 +9,10 @@ namespace {
 
 Row_Preview Previewed(const QString& text, Job_Alphabet_Choice alphabet, bool fixed_waits = false)
 {
-    Arguments arguments;
-    arguments.alphabet = alphabet;
-    arguments.fixed_waits = fixed_waits;
-    return Preview_Of({1, QStringLiteral("00447700900100"), text, {}}, arguments);
+    Plan_Manner manner;
+    manner.alphabet = alphabet;
+    manner.fixed_waits = fixed_waits;
+    return Preview_Of({1, QStringLiteral("00447700900100"), text, {}}, manner);
 }
 
 } // namespace

@@ -1,6 +1,6 @@
-#include "send/Message_Filling.h"
+#include "list/Message_Filling.h"
 
-#include "send/Planned_Row.h"
+#include "list/Skip_Words.h"
 
 namespace {
 

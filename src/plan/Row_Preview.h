@@ -1,12 +1,10 @@
 #pragma once
 
-#include "records/Job_Row.h"
-#include "send/Planned_Row.h"
+#include "plan/Plan_Manner.h"
+#include "plan/Planned_Row.h"
 
 #include <QByteArrayList>
 #include <vector>
-
-struct Arguments;
 
 /// A character, or a stretch of them, that arrives as another.
 struct Changed_Text
@@ -28,10 +26,10 @@ struct Row_Preview
     std::vector<Changed_Text> changed;
 };
 
-Row_Preview Preview_Of(const Planned_Row& row, const Arguments& arguments);
+Row_Preview Preview_Of(const Planned_Row& row, const Plan_Manner& manner);
 
 /// The parts of a row alone.
-int Parts_Of_Row(const Planned_Row& row, const Arguments& arguments);
+int Parts_Of_Row(const Planned_Row& row, const Plan_Manner& manner);
 
 /// What a handset shows of a message's frames, given in hexadecimal as AT+CMGS takes them.
 QString Shown_By_A_Handset(const QByteArrayList& frames);

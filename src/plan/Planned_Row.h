@@ -1,17 +1,8 @@
 #pragma once
 
-#include <QString>
+#include "list/Skip_Words.h"
 
-/// Why a row gets nothing.
-namespace Skip_Words {
-inline constexpr char Duplicate[] = "duplicate";
-inline constexpr char Excluded[] = "excluded";
-inline constexpr char Invalid_Number[] = "invalid-number";
-inline constexpr char Empty_Field[] = "empty-field";
-inline constexpr char Unknown_Field[] = "unknown-field";
-inline constexpr char Too_Long[] = "too-long";
-inline constexpr char Wrong_Columns[] = "wrong-columns";
-} // namespace Skip_Words
+#include <QString>
 
 /// One recipient as the input holds it.
 struct Planned_Row

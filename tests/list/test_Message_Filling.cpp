@@ -1,5 +1,5 @@
+#include "list/Message_Filling.h"
 #include "list/Table_File.h"
-#include "send/Message_Filling.h"
 
 #include <gtest/gtest.h>
 

@@ -1,0 +1,23 @@
+#include "plan/Plan_Time.h"
+
+namespace {
+
+constexpr qint64 Seconds_For_A_Judged_Part = 4; // by experience; networks differ
+constexpr qint64 Seconds_For_A_Fixed_Part = 12; // two reads of five seconds, and two afterwards
+constexpr qint64 Seconds_After_Fixed_Parts = 2;
+
+} // namespace
+
+qint64 Seconds_For(const std::vector<int>& parts_of_messages, const Plan_Manner& manner)
+{
+    qint64 seconds = 0;
+    for (const int parts : parts_of_messages) {
+        seconds += parts * (manner.fixed_waits ? Seconds_For_A_Fixed_Part : Seconds_For_A_Judged_Part);
+        if (manner.fixed_waits && parts > 1)
+            seconds += Seconds_After_Fixed_Parts;
+    }
+    const auto messages = static_cast<qint64>(parts_of_messages.size());
+    if (manner.batch > 0 && messages > 0)
+        seconds += static_cast<qint64>(static_cast<double>((messages - 1) / manner.batch) * manner.pause_seconds);
+    return seconds;
+}

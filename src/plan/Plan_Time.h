@@ -1,0 +1,8 @@
+#pragma once
+
+#include "plan/Plan_Manner.h"
+
+#include <vector>
+
+/// How many seconds messages of so many parts take at pace 1, at a guess.
+qint64 Seconds_For(const std::vector<int>& parts_of_messages, const Plan_Manner& manner);
