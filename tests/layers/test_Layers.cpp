@@ -80,7 +80,7 @@ TEST(Layer_Rules, The_Table_Goes_Upwards_Only)
     EXPECT_THAT(Rooms().front().may_include, IsEmpty());
     EXPECT_EQ(below,
               (std::vector<std::string>{"platform", "texts", "handset", "pdu", "list", "records", "device", "engine",
-                                        "doctor", "send", "toolkit", "windows/list", "windows/stores",
+                                        "plan", "doctor", "send", "toolkit", "windows/list", "windows/stores",
                                         "windows/exclusion", "windows/phone", "windows/jobs", "windows/main", "app"}));
 }
 
