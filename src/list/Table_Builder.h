@@ -3,7 +3,7 @@
 #include "list/Contact_Table.h"
 
 // Takes a table's fields one by one from whatever reads its file. The first row with any text in it names the columns;
-// rows without any are left out. Lives for one file, on its reader's thread.
+// rows without any are left out, if nobody wants them. Lives for one file, on its reader's thread.
 class Table_Builder
 {
 public:
@@ -11,8 +11,14 @@ public:
     static constexpr std::size_t Most_Fields = 32'000'000;
     static constexpr std::size_t Most_Bytes = std::size_t{1} << 30;
 
+    enum class Blank_Rows : std::uint8_t
+    {
+        Left_Out,
+        Kept ///< also that of the names
+    };
+
     /// Makes room for so many bytes of text.
-    explicit Table_Builder(qsizetype expected_bytes = 0);
+    explicit Table_Builder(qsizetype expected_bytes = 0, Blank_Rows blank_rows = Blank_Rows::Left_Out);
 
     /// Adds a field in UTF-8 to the row.
     void Add_Field(QByteArrayView utf8)
@@ -49,6 +55,7 @@ private:
     void Name_Columns();
 
     Contact_Table m_table;
+    Blank_Rows m_blank_rows;
     std::size_t m_first_field = 0; // of the row that is being filled
     std::size_t m_first_byte = 0;
     bool m_has_columns = false;
