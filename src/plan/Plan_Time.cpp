@@ -16,8 +16,16 @@ qint64 Seconds_For(const std::vector<int>& parts_of_messages, const Plan_Manner&
         if (manner.fixed_waits && parts > 1)
             seconds += Seconds_After_Fixed_Parts;
     }
-    const auto messages = static_cast<qint64>(parts_of_messages.size());
-    if (manner.batch > 0 && messages > 0)
-        seconds += static_cast<qint64>(static_cast<double>((messages - 1) / manner.batch) * manner.pause_seconds);
-    return seconds;
+    const int pauses = Pauses_Between(static_cast<int>(parts_of_messages.size()), manner);
+    return seconds + static_cast<qint64>(pauses * manner.pause_seconds);
+}
+
+double Usual_Seconds_For_A_Part(bool fixed_waits)
+{
+    return static_cast<double>(fixed_waits ? Seconds_For_A_Fixed_Part : Seconds_For_A_Judged_Part);
+}
+
+int Pauses_Between(int messages, const Plan_Manner& manner)
+{
+    return manner.batch > 0 && manner.pause_seconds > 0 && messages > 0 ? (messages - 1) / manner.batch : 0;
 }
