@@ -16,6 +16,7 @@
 #include "windows/main/List_Arrivals.h"
 #include "windows/main/List_Cells.h"
 #include "windows/main/Recipient_Rows.h"
+#include "windows/main/Send_Promise.h"
 
 #include <utility>
 
@@ -40,6 +41,7 @@ void CorvaneAppDelegate::Create_Num_Msg_List(const QString& number, const QStrin
     const QString trimmed_number = Trim_Str(number);
     if (trimmed_number.isEmpty())
         return;
+    m_promise->List_Will_Change();
     nsListDataObject.Append(trimmed_number, message_val);
     Recipient_Changed(nsListDataObject.Count() - 1);
     Update_List_Count();
@@ -160,6 +162,7 @@ Recipient_List CorvaneAppDelegate::Exchange_List(Recipient_List list)
     std::swap(nsListDataObject, list);
     if (nsListDataObject.Count() == 0)
         m_arrivals->Forget();
+    m_promise->Changed();
     Forget_Outcomes_Of_Job();
     Look_For_Not_Taken();
     return list;
@@ -253,6 +256,7 @@ void CorvaneAppDelegate::Replace_Recipients(Recipient_List recipients)
 
 void CorvaneAppDelegate::Replace_Recipient(int row, const QString& number, const QString& message)
 {
+    m_promise->List_Will_Change();
     nsListDataObject.Replace(row, number, message);
     Recipient_Changed(row);
     Redisplay_Recipients();
