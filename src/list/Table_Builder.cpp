@@ -110,6 +110,12 @@ void Table_Builder::Forget_Row()
     m_table.m_text.resize(m_first_byte);
 }
 
+void Table_Builder::Add_Column(const QString& name)
+{
+    m_table.m_columns.append(name);
+    m_table.m_compared_columns.append(Compared_Column_Name(name));
+}
+
 // A column without a name gets one that can be written in a message.
 void Table_Builder::Name_Columns()
 {
@@ -120,7 +126,7 @@ void Table_Builder::Name_Columns()
         const QString trimmed = name.simplified();
         if (Is_A_Number(trimmed) && m_trouble.isEmpty())
             m_trouble = QString(Texts::Table::Header_Is_Number).arg(trimmed);
-        m_table.m_columns.append(trimmed.isEmpty() ? Name_By_Place(m_table.m_columns.size()) : trimmed);
+        Add_Column(trimmed.isEmpty() ? Name_By_Place(m_table.m_columns.size()) : trimmed);
         begin = end;
     }
     m_has_columns = true;
@@ -131,6 +137,6 @@ void Table_Builder::Name_Columns()
 void Table_Builder::Number_Columns()
 {
     for (int column = 0; column < Fields_In_Row(); ++column)
-        m_table.m_columns.append(Name_By_Place(column));
+        Add_Column(Name_By_Place(column));
     m_has_columns = true;
 }

@@ -47,6 +47,7 @@ private:
     bool Is_Blank() const;
     void Make_Room_By_Sample();
     void Forget_Row();
+    void Add_Column(const QString& name);
     void Name_Columns();
     void Number_Columns();
 
