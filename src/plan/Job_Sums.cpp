@@ -30,6 +30,8 @@ const char* Word_For(Skip_Reason reason)
         return Skip_Words::Excluded;
     case Skip_Reason::Repeated:
         return Skip_Words::Duplicate;
+    case Skip_Reason::Not_Filled:
+        return Skip_Words::Empty_Field;
     case Skip_Reason::None:
         break;
     }
@@ -64,8 +66,11 @@ Planned_Row Row_Of_Order(const Send_Order& order, const Plan_Manner& manner, int
     Planned_Row row;
     row.row = index + 1;
     row.number = order.recipients.Numbers().At(index);
-    row.text = Composer_Rules::Cut_To_Limit(order.recipients.Message_At(index));
+    const Filled_Message filled = Text_To_Send(order.recipients, index);
+    row.text = filled.text;
     row.skipped = QLatin1String(Word_For(Reason_To_Skip(order, index)));
+    if (row.skipped == QLatin1String(Skip_Words::Empty_Field))
+        row.skipped = filled.fault; // or one of the others
     if (row.skipped.isEmpty() && !Can_Be_Tried(row.number, manner))
         row.skipped = QLatin1String(Skip_Words::Invalid_Number);
     return row;
