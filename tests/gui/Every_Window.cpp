@@ -154,6 +154,7 @@ QWidget& Receipts_With_Everything(CorvaneAppDelegate& main)
     const QTemporaryDir none;
     window.Show_Kept(none.path());
     EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
+    QCoreApplication::processEvents(); // what the worker has found hides it
     In<QWidget>(window, "Kept_Receipts").show();
     In<QWidget>(window, "Removal_Question").show();
     return window;
