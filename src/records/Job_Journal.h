@@ -15,6 +15,7 @@ struct Job_Start
     QString imsi;   ///< of the SIM card; may be empty
     QString device; ///< its path
     Job_Options options;
+    std::optional<bool> keeps_receipt = std::nullopt; ///< see Job_Header
 };
 
 // The journal of a job that is being sent: what was begun and what came of it, so that after a crash no message is sent

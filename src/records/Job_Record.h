@@ -71,6 +71,8 @@ struct Job_Header
     QString device;
     int rows = 0;
     int parts = 0; ///< of the rows that are not skipped
+    /// Whether the job's files stay when it has ended; nothing where the journal does not say, as older ones do not.
+    std::optional<bool> keeps_receipt = std::nullopt;
 };
 
 struct Job_Counts

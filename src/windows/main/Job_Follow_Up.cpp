@@ -121,6 +121,6 @@ void Job_Follow_Up::Send_The_Rest(const QString& journal_path, const Job_Record&
     Confirmed_Options options;
     options.resumed_path = journal_path;
     options.job = record.Options();
-    options.keeps_journal = choices.confirm.keeps_receipt;
+    options.keeps_journal = record.Header().keeps_receipt.value_or(choices.confirm.keeps_receipt);
     m_runner.Send_Confirmed(std::move(order), options, is_the_list);
 }
