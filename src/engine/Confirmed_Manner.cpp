@@ -243,7 +243,7 @@ std::optional<Row_Details> Confirmed_Manner::Settled_Before(int index, const Job
         if (!Is_Final(state.words, state.tries))
             return std::nullopt;
         details.outcome = {Row_State::Refused, Cause_Of_Field(state.words).value_or(Device_Cause{})};
-        details.reason = Reason_Of(details.outcome.cause);
+        details.reason = Refusal_Sentence(state.words);
         return details;
     }
     case Sending_State::Handing_Over:
