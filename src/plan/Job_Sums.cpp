@@ -1,6 +1,5 @@
 #include "plan/Job_Sums.h"
 
-#include "engine/Composer_Rules.h"
 #include "handset/Address.h"
 #include "list/Skip_Words.h"
 #include "plan/Plan_Time.h"
