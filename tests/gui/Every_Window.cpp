@@ -13,6 +13,7 @@
 #include "windows/jobs/Unfinished_Strip.h"
 #include "windows/jobs/Unknown_Rows_Sheet.h"
 #include "windows/list/Fill_Msg_In_List.h"
+#include "windows/list/Handset_Bubble.h"
 #include "windows/list/Send_Msg_Info.h"
 #include "windows/list/Update_Num_SMS.h"
 #include "windows/list/Update_Sel_Num_SMS.h"
@@ -35,6 +36,9 @@
 
 namespace {
 
+// Something of every kind gets lost, or makes it Unicode.
+const QString Costly_Message = QStringLiteral("Grüße – “10 €” für ő, \u00A0Привет, ΐ 🙂");
+
 const char* const Longest_Count = "1600 Characters (Each Message will now consume 23 SMS)";
 
 QWidget& Main_Window_With_Everything(CorvaneAppDelegate& main)
@@ -48,6 +52,7 @@ QWidget& Main_Window_With_Everything(CorvaneAppDelegate& main)
     job.id = "20261121-101500-3f9a";
     job.counts = {1000000, 499999, 1, 100000, 100000, 300000};
     In<Unfinished_Strip>(main, "_Job_Strip").Show_Jobs({job, job});
+    main.Set_Composer_Text(Costly_Message);
     return main;
 }
 
@@ -123,6 +128,14 @@ QWidget& Receipts_With_Everything(CorvaneAppDelegate& main)
 }
 
 template <class Window>
+QWidget& With_A_Message(CorvaneAppDelegate& /*main*/)
+{
+    auto& window = *Window::defaultInstance();
+    In<Handset_Bubble>(window, "_Bubble").Show_Message(Costly_Message, {});
+    return window;
+}
+
+template <class Window>
 QWidget& Shared(CorvaneAppDelegate& /*main*/)
 {
     return *Window::defaultInstance();
@@ -170,11 +183,11 @@ const std::vector<Sight>& Every_Window()
           {"_current_send_msg", Texts::Causes::Phone_Pin_Wanted},
           {"_pause_timer", "Pausing the process for 1 Hour 59 Minute 59 Seconds."}}},
         {"please wait", Made_Over<PleaseWait_Modeless>},
-        {"fill", Shared<Fill_Msg_In_List>},
+        {"fill", With_A_Message<Fill_Msg_In_List>},
         {"before sending", Shared<Send_Msg_Info>},
-        {"edit of one", Shared<Update_Num_SMS>, {{"m_st_msg_cnt", Longest_Count}}},
+        {"edit of one", With_A_Message<Update_Num_SMS>, {{"m_st_msg_cnt", Longest_Count}}},
         {"edit of the selected",
-         Shared<Update_Sel_Num_SMS>,
+         With_A_Message<Update_Sel_Num_SMS>,
          {{"m_st_msg_cnt", Longest_Count}, {"m_st_num_cnt", "Total Selected Numbers : 1000000"}}},
         {"sent items", Shared<Sent_Items>},
         {"templates", Shared<Templates>},

@@ -150,6 +150,7 @@ protected:
 
 private:
     void Connect_Controls();
+    void Show_What_Handsets_Show();
     void Give_Tables_Their_Models();
     void Show_Device_In_Ticker();
     void Remember_Composer_Text();
