@@ -149,7 +149,7 @@ const std::vector<Room>& Rooms()
         {"records", {"platform", "list"}, Room::Core},
         {"device", {"platform", "handset", "pdu"}, Room::Core},
         {"engine", {"platform", "texts", "handset", "list", "records", "device"}, Room::Core},
-        {"plan", {"platform", "handset", "list", "records", "device", "engine"}, Room::Core},
+        {"plan", {"platform", "texts", "handset", "list", "records", "device", "engine"}, Room::Core},
         {"doctor", {"platform", "texts", "device"}, Room::Core},
         {"send", {"platform", "texts", "handset", "list", "records", "device", "engine", "plan", "doctor"}, Room::Core},
         {"toolkit", {"platform", "list", "engine"}},
@@ -158,9 +158,10 @@ const std::vector<Room>& Rooms()
         {"windows/exclusion", {"platform", "texts", "list", "records", "toolkit"}},
         {"windows/phone", {"platform", "texts", "list", "device", "doctor", "toolkit"}},
         {"windows/jobs", {"platform", "texts", "records", "engine", "toolkit"}},
+        {"windows/handover", {"platform", "records", "engine", "plan", "toolkit"}},
         {"windows/main",
          {"platform", "texts", "list", "records", "device", "engine", "plan", "toolkit", "windows/list",
-          "windows/stores", "windows/exclusion", "windows/phone", "windows/jobs"}},
+          "windows/stores", "windows/exclusion", "windows/phone", "windows/jobs", "windows/handover"}},
         {"app", {"platform", "texts", "records", "device", "toolkit", "windows/main"}},
     };
     return Table;
