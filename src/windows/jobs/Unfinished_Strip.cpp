@@ -6,7 +6,7 @@
 #include "platform/One_Line.h"
 #include "records/Job_Reader.h"
 #include "toolkit/Dialog_Over.h"
-#include "windows/jobs/Flow_Layout.h"
+#include "toolkit/Flow_Layout.h"
 #include "windows/jobs/Removal_Question.h"
 #include "windows/jobs/Unknown_Rows_Sheet.h"
 
