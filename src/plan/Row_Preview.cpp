@@ -5,6 +5,7 @@
 #include "handset/Message_Joiner.h"
 #include "handset/Submit_Decoder.h"
 #include "handset/Text_Parts.h"
+#include "plan/Septet_Changes.h"
 
 namespace {
 
@@ -61,10 +62,10 @@ std::optional<std::vector<Changed_Text>> Changes_In_Step(const QString& text, co
     qsizetype at = 0;
     qsizetype shown_at = 0;
     while (at < text.size() && shown_at < shown.size()) {
-        const QString from = text.mid(at, Units_At(text, at));
-        const QString to = shown.mid(shown_at, Units_At(shown, shown_at));
+        const auto from = QStringView(text).sliced(at, Units_At(text, at));
+        const auto to = QStringView(shown).sliced(shown_at, Units_At(shown, shown_at));
         if (from != to)
-            changes.push_back({static_cast<int>(at), from, to});
+            changes.push_back({static_cast<int>(at), from.toString(), to.toString()});
         at += from.size();
         shown_at += to.size();
     }
@@ -87,8 +88,11 @@ Row_Preview Preview_Of(const Planned_Row& row, const Plan_Manner& manner)
                             row.skipped != QLatin1String(Skip_Words::Too_Long);
     if (!has_frames)
         return preview;
-    preview.shown = Shown_By_A_Handset(Frames_Of(row, manner));
-    preview.changed = Changes_Between(row.text, preview.shown);
+    const QByteArrayList frames = Frames_Of(row, manner);
+    preview.shown = Shown_By_A_Handset(frames);
+    auto by_septets = manner.fixed_waits && preview.alphabet == Job_Alphabet::Gsm ? Changes_By_Septets(row.text, frames)
+                                                                                  : std::nullopt;
+    preview.changed = by_septets ? std::move(*by_septets) : Changes_Between(row.text, preview.shown);
     return preview;
 }
 

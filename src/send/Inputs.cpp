@@ -32,7 +32,7 @@ public:
     std::shared_ptr<const Contact_Table> Take() { return std::make_shared<const Contact_Table>(m_builder.Take()); }
 
 private:
-    Table_Builder m_builder{0, Table_Builder::Blank_Rows::Kept};
+    Table_Builder m_builder{0, true, Table_Builder::Blank_Rows::Kept};
     int m_row = 0;
 };
 

@@ -7,12 +7,16 @@
 #include "support/In_Windows.h"
 #include "texts/Cause_Texts.h"
 #include "texts/Confirmed_Texts.h"
+#include "toolkit/Import_Strip.h"
 #include "toolkit/PleaseWait_Modeless.h"
+#include "toolkit/Unused_Lines_Wnd.h"
 #include "windows/exclusion/Exclusion_Wizard.h"
+#include "windows/handover/Hand_Over_Wnd.h"
 #include "windows/jobs/Receipt_Wnd.h"
 #include "windows/jobs/Unfinished_Strip.h"
 #include "windows/jobs/Unknown_Rows_Sheet.h"
 #include "windows/list/Fill_Msg_In_List.h"
+#include "windows/list/Handset_Bubble.h"
 #include "windows/list/Send_Msg_Info.h"
 #include "windows/list/Update_Num_SMS.h"
 #include "windows/list/Update_Sel_Num_SMS.h"
@@ -35,19 +39,43 @@
 
 namespace {
 
+// Something of every kind gets lost, or makes it Unicode.
+const QString Costly_Message = QStringLiteral("Grüße – “10 €” für ő, \u00A0Привет, ΐ 🙂");
+
 const char* const Longest_Count = "1600 Characters (Each Message will now consume 23 SMS)";
+
+const char* const Longest_Promise = "1000000 recipients, 1000000 messages, about 23 h 59 min, until 30 September 2026, "
+                                    "23:59, to be kept: sent items and "
+                                    "templates and a receipt\nThat is much for one phone.";
+
+/// A million lines of which half were used, and an early end.
+const Import_Report& Longest_Report()
+{
+    static const Import_Report report = [] {
+        Import_Report made;
+        for (int line = 0; line < 1'000'000; ++line) {
+            made.Count_Added();
+            made.Accepts(QString(200, u'W'), {}, {});
+        }
+        made.Set_End(Import_Report::End::Early);
+        return made;
+    }();
+    return report;
+}
 
 QWidget& Main_Window_With_Everything(CorvaneAppDelegate& main)
 {
     In<QTableView>(main, "idExclusionTableView").show();
     In<QCheckBox>(main, "_Delayed_Delivry_Chk").setChecked(true);
     In<QCheckBox>(main, "_Confirm_Chk").setChecked(true);
-    for (const char* name : {"Select_Not_Taken", "Keep_Not_Taken", "Show_Receipt", "plain_offer"})
+    for (const char* name : {"Select_Not_Taken", "Keep_Not_Taken", "Show_Receipt", "plain_offer", "Other_Ways_Btn"})
         In<QWidget>(main, name).show();
     Unfinished_Job job;
     job.id = "20261121-101500-3f9a";
     job.counts = {1000000, 499999, 1, 100000, 100000, 300000};
     In<Unfinished_Strip>(main, "_Job_Strip").Show_Jobs({job, job});
+    main.Set_Composer_Text(Costly_Message);
+    In<Import_Strip>(main, "_Import_Strip").Show_Report(Longest_Report());
     return main;
 }
 
@@ -92,6 +120,20 @@ QWidget& Exclusion_Numbers(CorvaneAppDelegate& main)
     return wizard;
 }
 
+QWidget& Exclusion_Numbers_Loaded(CorvaneAppDelegate& main)
+{
+    auto& wizard = Exclusion_Numbers(main);
+    In<Import_Strip>(wizard, "m_import_strip").Show_Report(Longest_Report());
+    return wizard;
+}
+
+QWidget& Unused_Lines(CorvaneAppDelegate& main)
+{
+    auto& window = *new Unused_Lines_Wnd(&main);
+    window.Show_Report(Longest_Report());
+    return window;
+}
+
 /// The record of a job with one row that may have been sent.
 Job_Record Doubtful_Job()
 {
@@ -117,8 +159,17 @@ QWidget& Receipts_With_Everything(CorvaneAppDelegate& main)
     const QTemporaryDir none;
     window.Show_Kept(none.path());
     EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
+    QCoreApplication::processEvents(); // what the worker has found hides it
     In<QWidget>(window, "Kept_Receipts").show();
     In<QWidget>(window, "Removal_Question").show();
+    return window;
+}
+
+template <class Window>
+QWidget& With_A_Message(CorvaneAppDelegate& /*main*/)
+{
+    auto& window = *Window::defaultInstance();
+    In<Handset_Bubble>(window, "_Bubble").Show_Message(Costly_Message, {});
     return window;
 }
 
@@ -157,6 +208,7 @@ const std::vector<Sight>& Every_Window()
           {"_gsm_list_count", "Total Numbers : 1000000"},
           {"_Plain_Offer_Text", QString(Texts::Causes::Flash_Refused) + ' ' + Texts::Confirmed::Plain_May_Pass},
           {"_Device_Name_Ticker", "usb-Sierra_Wireless_EM7455-if03"},
+          {"_Promise_Lbl", Longest_Promise},
           {"_Exclusion_Trouble", Exclusion_Trouble({{}, QStringList(5, QString(50, u'W'))})}}},
         {"help", Made_Over<Help_Wnd>},
         {"import question", Made_Over<Load_Num_Info>},
@@ -168,13 +220,20 @@ const std::vector<Sight>& Every_Window()
          {{"_curr_msg_cnt", "Initializing mobile phone device to send sms ..."},
           {"_tot_msg_cnt", "1000000"},
           {"_current_send_msg", Texts::Causes::Phone_Pin_Wanted},
+          {"_Time_Left_Lbl", "about 23 h 59 min left, until 30 September 2026, 23:59"},
           {"_pause_timer", "Pausing the process for 1 Hour 59 Minute 59 Seconds."}}},
+        {"other ways to send",
+         [](CorvaneAppDelegate& main) -> QWidget& {
+             return *new Hand_Over_Wnd([] { return Hand_Over_Wnd::Plan(); }, Program_Settings({}), &main);
+         },
+         {{"_Hand_Over_Result", "Handed over: 1000000 messages, in /home/somebody/Documents/Newsletter for the "
+                                "northern region. Nothing was sent. Recipients left out: 1000000."}}},
         {"please wait", Made_Over<PleaseWait_Modeless>},
-        {"fill", Shared<Fill_Msg_In_List>},
+        {"fill", With_A_Message<Fill_Msg_In_List>},
         {"before sending", Shared<Send_Msg_Info>},
-        {"edit of one", Shared<Update_Num_SMS>, {{"m_st_msg_cnt", Longest_Count}}},
+        {"edit of one", With_A_Message<Update_Num_SMS>, {{"m_st_msg_cnt", Longest_Count}}},
         {"edit of the selected",
-         Shared<Update_Sel_Num_SMS>,
+         With_A_Message<Update_Sel_Num_SMS>,
          {{"m_st_msg_cnt", Longest_Count}, {"m_st_num_cnt", "Total Selected Numbers : 1000000"}}},
         {"sent items", Shared<Sent_Items>},
         {"templates", Shared<Templates>},
@@ -211,6 +270,14 @@ const std::vector<Sight>& Every_Window()
         {"exclusion lists", Exclusion_Lists},
         {"name of an exclusion list", Exclusion_Name},
         {"numbers of an exclusion list", Exclusion_Numbers, {{"m_st_num_count", "Total Numbers : 1000000"}}},
+        {"numbers of an exclusion list after a file",
+         Exclusion_Numbers_Loaded,
+         {{"m_st_num_count", "Total Numbers : 1000000"}}},
+        {"lines that were not used",
+         Unused_Lines,
+         {{"_Sums",
+           "Lines not used: 1000000. No phone number: 1000000. Already in the list: 1000000. In an exclusion list: "
+           "1000000. These are the first 10000."}}},
         {"edit of an excluded number",
          [](CorvaneAppDelegate&) -> QWidget& {
              return In<QDialog>(*Exclusion_Wizard::defaultInstance(), "Update_Ex_Num");

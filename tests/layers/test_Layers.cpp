@@ -81,7 +81,7 @@ TEST(Layer_Rules, The_Table_Goes_Upwards_Only)
     EXPECT_EQ(below,
               (std::vector<std::string>{"platform", "texts", "handset", "pdu", "list", "records", "device", "engine",
                                         "plan", "doctor", "send", "toolkit", "windows/list", "windows/stores",
-                                        "windows/exclusion", "windows/phone", "windows/jobs", "windows/main", "app"}));
+                                        "windows/exclusion", "windows/phone", "windows/jobs", "windows/handover", "windows/main", "app"}));
 }
 
 TEST(Layer_Rules, The_Deepest_Room_Counts)

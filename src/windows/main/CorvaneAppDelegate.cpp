@@ -18,12 +18,16 @@
 #include "toolkit/Window_Work.h"
 #include "ui_CorvaneAppDelegate.h"
 #include "windows/exclusion/Exclusion_Wizard.h"
+#include "windows/list/Handset_Bubble.h"
+#include "windows/main/Awaited_Reports.h"
 #include "windows/main/Composer.h"
 #include "windows/main/Confirm_Boxes.h"
 #include "windows/main/Help_Wnd.h"
 #include "windows/main/Job_Follow_Up.h"
+#include "windows/main/List_Arrivals.h"
 #include "windows/main/Recipient_Rows.h"
 #include "windows/main/Send_Modeless.h"
+#include "windows/main/Send_Promise.h"
 #include "windows/main/Send_Runner.h"
 #include "windows/phone/Connection_Info.h"
 #include "windows/phone/Phone_List_Wnd.h"
@@ -51,11 +55,14 @@ CorvaneAppDelegate::CorvaneAppDelegate()
     m_composer = std::make_unique<Composer>(m_ui->_messageEdit, m_ui->_Msg_char_count, m_ui->_Unicode_SMS_Chk);
     m_please_wait = new PleaseWait_Modeless(this);
     m_work = std::make_unique<Window_Work>(*this, *m_please_wait);
+    m_arrivals = std::make_unique<List_Arrivals>(*m_ui->recipients_group, *m_ui->idTableView, *m_ui->_Import_Strip);
     Connect_Controls();
 }
 
 CorvaneAppDelegate::~CorvaneAppDelegate()
 {
+    if (m_awaited_reports)
+        m_awaited_reports->Stop();
     The_Delegate = nullptr;
     Main_App_wnd = nullptr;
 }
@@ -103,13 +110,19 @@ bool CorvaneAppDelegate::awakeFromNib()
         Confirm_Boxes::Boxes{m_ui->_Confirm_Chk, m_ui->_Reports_Chk, m_ui->_Keep_Receipt_Chk,
                              m_ui->_Remember_Confirm_Chk, m_ui->confirm_more},
         Program_Settings(Settings_Path));
-    m_import = std::make_unique<Number_Import>(Number_Import::Target{
-        [this](int count, int percent) { Show_Import_Progress(count, percent); },
-        [this](Recipient_List& recipients) { Take_Over_Imported(recipients); }, [this] { Leave_Import_Unread(); },
-        [this] { Finish_Import(); }, [this] { End_Import(); }});
-    m_send_runner = std::make_unique<Send_Runner>(*this, *mfc_sms_obj, *Send_Modeless::defaultInstance());
+    Show_What_Handsets_Show();
+    m_import = std::make_unique<Number_Import>(
+        Number_Import::Target{[this](int count, int percent) { Show_Import_Progress(count, percent); },
+                              [this](Recipient_List& recipients) { Take_Over_Imported(recipients); },
+                              [this] { Leave_Import_Unread(); }, [this] { Finish_Import(); }, [this] { End_Import(); },
+                              [this](const Import_Report& report) { m_arrivals->Note(report); }});
+    m_awaited_reports = std::make_unique<Awaited_Reports>(*m_work);
+    m_send_runner = std::make_unique<Send_Runner>(*this, *mfc_sms_obj, *Send_Modeless::defaultInstance(),
+                                                  [this] { return m_awaited_reports->Device_Turn(); });
     m_follow_up =
         std::make_unique<Job_Follow_Up>(*this, *m_work, *m_send_runner, *m_ui->_Job_Strip, *m_ui->Show_Receipt);
+    connect(m_awaited_reports.get(), &Awaited_Reports::Came, m_follow_up.get(), &Job_Follow_Up::Take_Reports);
+    Make_Promise();
     Main_App_wnd = this;
     Show_Device_In_Ticker();
     return true;
@@ -121,7 +134,7 @@ void CorvaneAppDelegate::applicationDidFinishLaunching()
     raise();
     activateWindow();
     Focus(Field::Number);
-    m_follow_up->Look_For_Unfinished();
+    m_follow_up->Look_For_Unfinished([this] { m_awaited_reports->Look(sel_port_bsd_str); });
 }
 
 void CorvaneAppDelegate::Connect_Controls()
@@ -144,6 +157,8 @@ void CorvaneAppDelegate::Connect_Controls()
     connect(m_ui->_messageEdit, &QPlainTextEdit::textChanged, this, &CorvaneAppDelegate::textDidChange);
     connect(m_ui->_Unicode_SMS_Chk, &QCheckBox::clicked, this, &CorvaneAppDelegate::Unicode_Chk);
     connect(m_ui->Load_Number, &QPushButton::clicked, this, &CorvaneAppDelegate::Load_Number);
+    connect(m_arrivals.get(), &List_Arrivals::Paste_Wanted, this, &CorvaneAppDelegate::Paste_Numbers);
+    connect(m_arrivals.get(), &List_Arrivals::Dropped, this, &CorvaneAppDelegate::Dropped_File);
     connect(m_ui->Export_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::Export_Btn);
     connect(m_ui->Fill_Msg_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::Fill_Msg_Btn);
     connect(m_ui->Update_Sel_Msgs_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::Update_Sel_Msgs_Btn);
@@ -173,6 +188,8 @@ void CorvaneAppDelegate::Give_Tables_Their_Models()
         new Row_Table_Model(Columns{{QStringLiteral("Number"), tr("Excluded number")}},
                             rows_of(m_ui->idExclusionTableView), cells_of(m_ui->idExclusionTableView), this);
     Prepare_List_Table(*m_ui->idTableView, *m_recipient_rows);
+    connect(m_ui->idTableView->selectionModel(), &QItemSelectionModel::selectionChanged, m_ui->_Bubble,
+            &Handset_Bubble::Look_Again);
     Prepare_List_Table(*m_ui->idExclusionTableView, *m_exclusion_rows);
 }
 
@@ -191,43 +208,6 @@ void CorvaneAppDelegate::closeEvent(QCloseEvent* event)
 void CorvaneAppDelegate::Check_Path_And_Create_Files()
 {
     ::Check_Path_And_Create_Files();
-}
-
-// ---- The composer
-
-void CorvaneAppDelegate::textDidChange()
-{
-    m_composer->textDidChange();
-}
-
-void CorvaneAppDelegate::Unicode_Chk()
-{
-    m_composer->Unicode_Chk();
-}
-
-QString CorvaneAppDelegate::Long_SMS_Calculation(int length, const QString& msg_char_value, bool open_dlg)
-{
-    return m_composer->Long_SMS_Calculation(length, msg_char_value, open_dlg);
-}
-
-int CorvaneAppDelegate::Composer_Length() const
-{
-    return m_composer->Length();
-}
-
-int CorvaneAppDelegate::Composer_Selection_Length() const
-{
-    return m_composer->Selection_Length();
-}
-
-void CorvaneAppDelegate::Use_In_Composer(const QString& text)
-{
-    m_composer->Use_Text(text);
-}
-
-void CorvaneAppDelegate::Set_Composer_Text(const QString& text)
-{
-    m_composer->Set_Text(text);
 }
 
 // ---- Sending
@@ -288,6 +268,7 @@ void CorvaneAppDelegate::No_Device_Ticker_Click()
 
 void CorvaneAppDelegate::Search_All_Modem()
 {
+    std::shared_ptr<void> device = m_awaited_reports->Device_Turn();
     sel_port_name_str.clear();
     sel_port_bsd_str.clear();
     m_ui->_Device_Name_Ticker->setText(Texts::Main::No_Device);
@@ -295,7 +276,11 @@ void CorvaneAppDelegate::Search_All_Modem()
     m_ui->_NO_Device_Ticker->hide();
     Phone_List_Wnd::defaultInstance()->Open_Ph_List_Wnd();
     Show_Device_In_Ticker();
-    m_follow_up->Look_For_Unfinished();
+    device.reset();
+    m_follow_up->Look_For_Unfinished([this] {
+        if (!sel_port_bsd_str.isEmpty())
+            m_awaited_reports->Look(sel_port_bsd_str);
+    });
 }
 
 void CorvaneAppDelegate::Show_Device_In_Ticker()
