@@ -42,7 +42,7 @@ std::vector<int> Contact_Table::Columns_Named(QStringView name) const
     std::vector<int> found;
     const QString compared = Compared_Column_Name(name);
     for (int column = 0; column < Column_Count() && !compared.isEmpty(); ++column)
-        if (Compared_Column_Name(m_columns[column]) == compared)
+        if (m_compared_columns[column] == compared)
             found.push_back(column);
     return found;
 }

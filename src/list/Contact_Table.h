@@ -53,6 +53,7 @@ private:
     const Row& At(int row) const { return m_rows[static_cast<std::size_t>(row)]; }
 
     QStringList m_columns;
+    QStringList m_compared_columns; // the same as they are compared
     std::string m_text;
     std::vector<std::uint32_t> m_ends; // of the fields, in the text
     std::vector<Row> m_rows;

@@ -1,6 +1,10 @@
 #include "list/Message_Filling.h"
 
 #include "list/Skip_Words.h"
+#include "platform/One_Line.h"
+#include "texts/Table_Texts.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -8,7 +12,29 @@ constexpr QLatin1String Opening("{{");
 constexpr QLatin1String Closing("}}");
 constexpr qsizetype Mark = 2; // characters of either
 
+constexpr qsizetype Longest_Named = 40; // of a placeholder in a sentence, in characters
+
+bool Is_Blank(QByteArrayView utf8)
+{
+    const auto is_plain = [](char byte) { return byte > ' ' && byte < '\x7F'; };
+    if (std::any_of(utf8.begin(), utf8.end(), is_plain))
+        return false;
+    return QString::fromUtf8(utf8).trimmed().isEmpty(); // other scripts have blanks, too
+}
+
 } // namespace
+
+QString Words_For_Fault(const Filled_Message& filled)
+{
+    QString name = On_One_Line(filled.placeholder);
+    if (name.size() > Longest_Named)
+        name = name.left(Longest_Named - 1 - (name[Longest_Named - 2].isHighSurrogate() ? 1 : 0)) + u'\u2026';
+    if (filled.fault == QLatin1String(Skip_Words::Too_Long))
+        return Texts::Table::Text_Too_Long;
+    if (filled.fault == QLatin1String(Skip_Words::Empty_Field))
+        return name.isEmpty() ? QString(Texts::Table::No_Text_Left) : QString(Texts::Table::Is_Empty).arg(name);
+    return filled.fault.isEmpty() ? QString() : QString(Texts::Table::Is_Unknown).arg(name);
+}
 
 Message_Filling::Message_Filling(const QString& message, const Contact_Table& table)
 {
@@ -32,6 +58,13 @@ Message_Filling::Message_Filling(const QString& message, const Contact_Table& ta
     }
 }
 
+Message_Filling Message_Filling::As_It_Is(const QString& message)
+{
+    Message_Filling filling{QString()};
+    filling.Add_Literal(message);
+    return filling;
+}
+
 void Message_Filling::Add_Literal(QStringView text)
 {
     if (text.isEmpty())
@@ -48,29 +81,42 @@ void Message_Filling::Add_Placeholder(QStringView written, const Contact_Table& 
     const std::vector<int> columns = table.Columns_Named(bar < 0 ? inside : inside.left(bar));
     if (columns.size() > 1 && m_ambiguous.isEmpty())
         m_ambiguous = written.toString();
-    m_pieces.push_back({written.toString(), true, columns.empty() ? -1 : columns.front(), bar >= 0,
-                        bar < 0 ? QString() : inside.mid(bar + 1).toString()});
+    const bool is_clear = columns.size() == 1;
+    const bool has_fallback = bar >= 0 && columns.size() <= 1;
+    m_pieces.push_back({written.toString(), true, is_clear ? columns.front() : -1, has_fallback,
+                        has_fallback ? inside.mid(bar + 1).toString() : QString()});
+}
+
+Message_Filling::Given Message_Filling::Given_By(const Piece& piece, const Contact_Table& table, int row)
+{
+    if (!piece.is_placeholder)
+        return {};
+    const QByteArrayView value = piece.column < 0 || row < 0 ? QByteArrayView() : table.Bytes_At(row, piece.column);
+    if (!value.isEmpty() && !Is_Blank(value))
+        return {Becomes::Value, value};
+    if (piece.has_fallback)
+        return {Becomes::Fallback};
+    return {piece.column < 0 ? Becomes::Unknown : Becomes::Empty};
 }
 
 Filled_Message Message_Filling::For_Row(const Contact_Table& table, int row) const
 {
     if (m_pieces.size() == 1 && !m_pieces.front().is_placeholder)
-        return {m_pieces.front().text, {}}; // one text for all
+        return {m_pieces.front().text}; // one text for all
     Filled_Message filled;
     for (const Piece& piece : m_pieces) {
-        const QString value = piece.column < 0 || row < 0 ? QString() : table.Field(row, piece.column);
-        if (!piece.is_placeholder)
-            filled.text += piece.text;
-        else if (!QStringView(value).trimmed().isEmpty())
-            filled.text += value;
-        else if (piece.has_fallback)
-            filled.text += piece.fallback;
-        else {
-            filled.text += piece.text;
-            if (piece.column < 0)
-                filled.fault = QLatin1String(Skip_Words::Unknown_Field);
-            else if (filled.fault.isEmpty())
-                filled.fault = QLatin1String(Skip_Words::Empty_Field);
+        const Given given = Given_By(piece, table, row);
+        if (given.what == Becomes::Value)
+            filled.text += QString::fromUtf8(given.value);
+        else
+            filled.text += given.what == Becomes::Fallback ? piece.fallback : piece.text;
+        const bool is_unknown = given.what == Becomes::Unknown;
+        if (!is_unknown && given.what != Becomes::Empty)
+            continue;
+        const QLatin1String fault(is_unknown ? Skip_Words::Unknown_Field : Skip_Words::Empty_Field);
+        if (filled.fault.isEmpty() || (is_unknown && filled.fault != fault)) {
+            filled.fault = fault;
+            filled.placeholder = piece.text;
         }
     }
     return filled;

@@ -34,6 +34,30 @@ void Recipient_List::Append_Number(const Number& number, const QString& message)
     }
 }
 
+template <typename Number>
+void Recipient_List::Append_From_Table(const Number& number, const QString& message,
+                                       const std::shared_ptr<const Contact_Table>& table, int table_row)
+{
+    const bool has_fields = Has_Fields();
+    try {
+        if (!has_fields)
+            m_fields = new Recipient_Fields;
+        m_fields->Set(Count(), table, table_row);
+        Append_Number(number, message);
+    } catch (...) { // out of memory: nobody's fields may wait for the next recipient
+        if (has_fields)
+            m_fields->Forget(Count());
+        else
+            m_fields.reset();
+        throw;
+    }
+}
+
+template void Recipient_List::Append_From_Table(const QString&, const QString&,
+                                                const std::shared_ptr<const Contact_Table>&, int);
+template void Recipient_List::Append_From_Table(const Packed_Number&, const QString&,
+                                                const std::shared_ptr<const Contact_Table>&, int);
+
 void Recipient_List::Replace(int index, const QString& number, const QString& message)
 {
     if (m_marks && (Message_At(index) != message || m_numbers.At(index) != number))
@@ -63,8 +87,20 @@ void Recipient_List::Remove_Rows(const std::vector<int>& rows)
     Remove_Rows_From(m_messages->texts, rows);
     if (m_marks)
         Remove_Rows_From(*m_marks, rows);
+    if (m_fields && !m_fields->Remove_Rows(rows))
+        m_fields.reset();
     if (Count() == 0)
         m_marks.reset();
+}
+
+Filled_Message Recipient_List::Text_At(int index) const
+{
+    if (!Has_Fields())
+        return {Message_At(index)};
+    const Recipient_Fields::Place place = m_fields->At(index);
+    const Contact_Table no_values;
+    const Contact_Table& table = place.table ? *place.table : no_values;
+    return Message_Filling(Message_At(index), table).For_Row(table, place.row);
 }
 
 void Recipient_List::Set_Marks(int first, const QByteArray& marks)

@@ -115,6 +115,7 @@ void Table_Builder::Name_Columns()
             m_trouble = QString(Texts::Table::Header_Is_Number).arg(trimmed);
         m_table.m_columns.append(trimmed.isEmpty() ? QStringLiteral("Column %1").arg(m_table.m_columns.size() + 1)
                                                    : trimmed);
+        m_table.m_compared_columns.append(Compared_Column_Name(m_table.m_columns.back()));
         begin = end;
     }
     m_has_columns = true;

@@ -35,6 +35,12 @@ inline constexpr Fixed_Text Card_Without_End{"the contact that begins in line %1
 inline constexpr Fixed_Text Too_Many_Fields{"%1 fields where %2 have names"};
 inline constexpr Fixed_Text Stray_Quote{"text follows a closing quote"};
 
+// Why a message cannot be sent to a row, with the placeholder; or how its text is.
+inline constexpr Fixed_Text Is_Empty{"%1 is empty"};
+inline constexpr Fixed_Text Is_Unknown{"%1 is unknown"};
+inline constexpr Fixed_Text No_Text_Left{"its text is empty"};
+inline constexpr Fixed_Text Text_Too_Long{"its text is too long"};
+
 // What became of a written number, or why it cannot be used.
 inline constexpr Fixed_Text National{"national, taken as one of %1"};
 inline constexpr Fixed_Text Code_Added{"the code of %1 was put in front"};
