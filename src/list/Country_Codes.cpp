@@ -270,6 +270,11 @@ constexpr std::array Other_Prefixes{Other_Prefix{"1", "011"},   Other_Prefix{"7"
 
 } // namespace
 
+std::span<const Country> All_Countries()
+{
+    return Countries;
+}
+
 QString Country::Name() const
 {
     return QLocale::territoryToString(QLocale::codeToTerritory(QString::fromLatin1(letters)));

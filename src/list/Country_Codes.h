@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <span>
 
 // How the numbers of a country are written: ITU-T E.164 and the national numbering plans. A row of a table; any thread.
 struct Country
@@ -15,6 +16,8 @@ struct Country
     /// Its name in English.
     QString Name() const;
 };
+
+std::span<const Country> All_Countries();
 
 /// The country with these two letters in upper or lower case, also UK; null for none.
 const Country* Country_With_Letters(QStringView letters);

@@ -197,6 +197,7 @@ Read_Sheet Read_Ods(Zip_Archive& archive, const QString& sheet, Table_Builder& b
     archive.Open(Content);
     const std::vector<Named_Sheet> sheets = Ods_Reader(archive, builder).Names();
     const Chosen_Sheet chosen = Choose_Sheet(sheets, sheet);
+    read.sheets = Names_Of(sheets);
     read.trouble = chosen.trouble;
     if (chosen.index < 0)
         return read;

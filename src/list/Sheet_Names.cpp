@@ -22,6 +22,14 @@ QString In_Words(const std::vector<Named_Sheet>& sheets)
 
 } // namespace
 
+QStringList Names_Of(const std::vector<Named_Sheet>& sheets)
+{
+    QStringList names;
+    for (const Named_Sheet& sheet : sheets)
+        names.append(sheet.name);
+    return names;
+}
+
 Chosen_Sheet Choose_Sheet(const std::vector<Named_Sheet>& sheets, const QString& name)
 {
     if (sheets.empty())

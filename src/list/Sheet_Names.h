@@ -10,6 +10,8 @@ struct Named_Sheet
     bool is_hidden = false;
 };
 
+QStringList Names_Of(const std::vector<Named_Sheet>& sheets);
+
 struct Chosen_Sheet
 {
     int index = -1;

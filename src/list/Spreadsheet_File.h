@@ -13,6 +13,7 @@ struct Read_Sheet
 {
     QString format; ///< "XLSX" or "ODS"
     QString sheet;  ///< the one that was read
+    QStringList sheets;
     QString trouble;
 };
 

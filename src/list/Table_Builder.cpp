@@ -24,9 +24,15 @@ bool Is_A_Number(const QString& name)
            std::all_of(name.begin(), name.end(), [&](QChar each) { return each.isDigit() || between.contains(each); });
 }
 
+QString Name_By_Place(qsizetype column)
+{
+    return QStringLiteral("Column %1").arg(column + 1);
+}
+
 } // namespace
 
-Table_Builder::Table_Builder(qsizetype expected_bytes)
+Table_Builder::Table_Builder(qsizetype expected_bytes, bool has_names, Blank_Rows blank_rows)
+    : m_blank_rows(blank_rows), m_has_names(has_names)
 {
     m_table.m_text.reserve(std::min(static_cast<std::size_t>(expected_bytes), Most_Bytes));
 }
@@ -47,14 +53,16 @@ bool Table_Builder::End_Row(int source_row, bool has_stray_quote)
         m_trouble = QString(Texts::Table::Too_Many_Columns).arg(source_row).arg(Most_Columns);
         return false;
     }
-    if (Is_Blank()) {
+    if (m_blank_rows == Blank_Rows::Left_Out && Is_Blank()) {
         Forget_Row();
         return true;
     }
-    if (!m_has_columns) {
+    if (!m_has_columns && m_has_names) {
         Name_Columns();
         return m_trouble.isEmpty();
     }
+    if (!m_has_columns)
+        Number_Columns();
     m_table.m_rows.push_back({static_cast<std::uint32_t>(m_first_field),
                               static_cast<std::uint32_t>(std::max(0, source_row)) & 0x7FFFFFFF, has_stray_quote});
     m_first_field = m_table.m_ends.size();
@@ -103,6 +111,12 @@ void Table_Builder::Forget_Row()
     m_table.m_text.resize(m_first_byte);
 }
 
+void Table_Builder::Add_Column(const QString& name)
+{
+    m_table.m_columns.append(name);
+    m_table.m_compared_columns.append(Compared_Column_Name(name));
+}
+
 // A column without a name gets one that can be written in a message.
 void Table_Builder::Name_Columns()
 {
@@ -113,11 +127,17 @@ void Table_Builder::Name_Columns()
         const QString trimmed = name.simplified();
         if (Is_A_Number(trimmed) && m_trouble.isEmpty())
             m_trouble = QString(Texts::Table::Header_Is_Number).arg(trimmed);
-        m_table.m_columns.append(trimmed.isEmpty() ? QStringLiteral("Column %1").arg(m_table.m_columns.size() + 1)
-                                                   : trimmed);
-        m_table.m_compared_columns.append(Compared_Column_Name(m_table.m_columns.back()));
+        Add_Column(trimmed.isEmpty() ? Name_By_Place(m_table.m_columns.size()) : trimmed);
         begin = end;
     }
     m_has_columns = true;
     Forget_Row();
+}
+
+// The row stays one.
+void Table_Builder::Number_Columns()
+{
+    for (int column = 0; column < Fields_In_Row(); ++column)
+        Add_Column(Name_By_Place(column));
+    m_has_columns = true;
 }

@@ -62,7 +62,7 @@ Table_In_A_File Delimited(const QByteArray& text, const QString& name, const Tab
     Table_In_A_File file;
     file.facts.format = QStringLiteral("CSV");
     file.facts.delimiter = Delimiter_Name(delimiter);
-    Table_Builder builder(text.size());
+    Table_Builder builder(text.size(), !choices.has_no_names);
     file.trouble = Read_Delimited(text, delimiter, builder);
     file.table = builder.Take();
     return file;
@@ -81,13 +81,14 @@ Table_In_A_File Cards(const QByteArray& bytes, const QString& encoding)
     return file;
 }
 
-Table_In_A_File Spreadsheet(const QByteArray& bytes, const QString& sheet)
+Table_In_A_File Spreadsheet(const QByteArray& bytes, const Table_Choices& choices)
 {
     Table_In_A_File file;
-    Table_Builder builder;
-    const Read_Sheet read = Read_Spreadsheet(bytes, sheet, builder);
+    Table_Builder builder(0, !choices.has_no_names);
+    const Read_Sheet read = Read_Spreadsheet(bytes, choices.sheet, builder);
     file.facts.format = read.format;
     file.facts.sheet = read.sheet;
+    file.facts.sheets = read.sheets;
     file.trouble = read.trouble;
     file.table = builder.Take();
     return file;
@@ -139,5 +140,5 @@ Table_In_A_File Table_Of_Bytes(QByteArray bytes, const QString& name, const Tabl
         return Failed(trouble);
     if (const QString trouble = Trouble_Of_Old_Spreadsheet(bytes); !trouble.isEmpty())
         return Failed(trouble);
-    return Is_Archive(bytes) ? Spreadsheet(bytes, choices.sheet) : Table_Of_Text(std::move(bytes), name, choices);
+    return Is_Archive(bytes) ? Spreadsheet(bytes, choices) : Table_Of_Text(std::move(bytes), name, choices);
 }

@@ -13,6 +13,7 @@ struct Table_Choices
     QString encoding;
     QString sheet;
     char delimiter = 0;
+    bool has_no_names = false; ///< the first row is one like the others, and the columns are numbered
 };
 
 /// How a file was read.
@@ -22,6 +23,7 @@ struct Table_Facts
     QString encoding;      ///< of a text
     QString delimiter;     ///< of a text; "tab" for one
     QString sheet;         ///< of a spreadsheet
+    QStringList sheets;    ///< all of its sheets, also where the one that was asked for is none of them
     QString number_column; ///< where the format itself says where the numbers are
 };
 

@@ -158,6 +158,7 @@ Read_Sheet Read_Xlsx(Zip_Archive& archive, const QString& sheet, Table_Builder& 
         return read;
     }
     const Chosen_Sheet chosen = Choose_Sheet(workbook.Sheets(), sheet);
+    read.sheets = Names_Of(workbook.Sheets());
     read.trouble = chosen.trouble;
     if (chosen.index < 0)
         return read;

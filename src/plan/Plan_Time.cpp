@@ -17,6 +17,16 @@ qint64 Seconds_For(const Planned_Messages& messages, const Plan_Manner& manner)
     return seconds + static_cast<qint64>(pauses * manner.pause_seconds);
 }
 
+double Usual_Seconds_For_A_Part(bool fixed_waits)
+{
+    return static_cast<double>(fixed_waits ? Seconds_For_A_Fixed_Part : Seconds_For_A_Judged_Part);
+}
+
+int Pauses_Between(int messages, const Plan_Manner& manner)
+{
+    return manner.batch > 0 && manner.pause_seconds > 0 && messages > 0 ? (messages - 1) / manner.batch : 0;
+}
+
 qint64 Seconds_For(const std::vector<int>& parts_of_messages, const Plan_Manner& manner)
 {
     Planned_Messages sum;
@@ -26,14 +36,4 @@ qint64 Seconds_For(const std::vector<int>& parts_of_messages, const Plan_Manner&
         sum.of_several_parts += parts > 1 ? 1 : 0;
     }
     return Seconds_For(sum, manner);
-}
-
-double Usual_Seconds_For_A_Part(bool fixed_waits)
-{
-    return static_cast<double>(fixed_waits ? Seconds_For_A_Fixed_Part : Seconds_For_A_Judged_Part);
-}
-
-int Pauses_Between(int messages, const Plan_Manner& manner)
-{
-    return manner.batch > 0 && manner.pause_seconds > 0 && messages > 0 ? (messages - 1) / manner.batch : 0;
 }

@@ -1,4 +1,5 @@
 #include "list/Card_Line.h"
+#include "list/Card_Numbers.h"
 #include "list/Shown_Table.h"
 
 #include <gtest/gtest.h>
@@ -88,6 +89,17 @@ TEST(Contact_Card_Files, That_Are_Cut_Are_Refused)
     EXPECT_EQ(Shown(Read(whole + "BEGIN:VCARD\nTEL:2\n")), "the contact that begins in line 4 has no end");
     EXPECT_EQ(Shown(Read("BEGIN:VCARD\nTEL:2\n" + whole)), "the contact that begins in line 1 has no end");
     EXPECT_EQ(Shown(Read("BEGIN:VCARD\nEND:VCARD\n")), Header);
+}
+
+TEST(Contact_Card_Files, Can_Have_A_Row_For_Each_Number)
+{
+    const auto file = Read("BEGIN:VCARD\nFN:A\nTEL:1\nTEL;TYPE=cell:2\nTEL:3\nEND:VCARD\n"
+                           "BEGIN:VCARD\nFN:B\nEND:VCARD\nBEGIN:VCARD\nFN:C\nTEL:4\nEND:VCARD\n");
+    Table_In_A_File rows;
+    rows.table = One_Row_For_Each_Number(file.table);
+    EXPECT_EQ(Shown(rows), Header + "/A||||2|1|3||/A||||1|1|3||/A||||3|1|3||/B||||||||/C||||4||||");
+    EXPECT_EQ(rows.table.Source_Row(2), 1);
+    EXPECT_EQ(rows.table.Source_Row(4), 10);
 }
 
 TEST(Card_Line, Quoted_Printable_Text_Is_Undone)

@@ -155,3 +155,13 @@ TEST(Delimited_Text, A_Tab_Is_Preferred_By_Name)
     EXPECT_EQ(file.facts.delimiter, "tab");
     EXPECT_EQ(Read("A\n1\n").facts.delimiter, ",");
 }
+
+TEST(Delimited_Text_Files, May_Have_No_Names_For_Their_Columns)
+{
+    Table_Choices choices;
+    choices.has_no_names = true;
+    const auto shown = [&](const char* text) { return Shown(Table_Of_Bytes(text, QStringLiteral("a.csv"), choices)); };
+    EXPECT_EQ(shown("\n+44 7700 900100,Ann\n2,Bob\n"), "Column 1|Column 2/+44 7700 900100|Ann/2|Bob");
+    EXPECT_EQ(shown("Ann\nBob,2\n"), "Column 1/Ann/Bob|2");
+    EXPECT_EQ(shown("\n \n"), "it is empty");
+}

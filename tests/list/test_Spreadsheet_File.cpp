@@ -246,3 +246,10 @@ TEST(Zip_Archive, Unpacks_No_More_Than_Its_Limit)
     EXPECT_EQ(archive.Trouble_So_Far(), Zip_Archive::Trouble::Too_Large);
     EXPECT_FALSE(archive.Open("a"));
 }
+
+TEST(Spreadsheets, Name_Their_Sheets)
+{
+    const QStringList sheets{QStringLiteral("Spare"), QStringLiteral("People"), QStringLiteral("June & July")};
+    EXPECT_EQ(Table_Of_Bytes(Xlsx(Header), {}, {}).facts.sheets, sheets);
+    EXPECT_EQ(Table_Of_Bytes(Xlsx(Header), {}, {{}, QStringLiteral("May"), 0}).facts.sheets, sheets);
+}

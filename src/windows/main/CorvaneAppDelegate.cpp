@@ -18,10 +18,12 @@
 #include "toolkit/Window_Work.h"
 #include "ui_CorvaneAppDelegate.h"
 #include "windows/exclusion/Exclusion_Wizard.h"
+#include "windows/main/Awaited_Reports.h"
 #include "windows/main/Composer.h"
 #include "windows/main/Confirm_Boxes.h"
 #include "windows/main/Help_Wnd.h"
 #include "windows/main/Job_Follow_Up.h"
+#include "windows/main/List_Arrivals.h"
 #include "windows/main/Recipient_Rows.h"
 #include "windows/main/Send_Modeless.h"
 #include "windows/main/Send_Promise.h"
@@ -52,11 +54,14 @@ CorvaneAppDelegate::CorvaneAppDelegate()
     m_composer = std::make_unique<Composer>(m_ui->_messageEdit, m_ui->_Msg_char_count, m_ui->_Unicode_SMS_Chk);
     m_please_wait = new PleaseWait_Modeless(this);
     m_work = std::make_unique<Window_Work>(*this, *m_please_wait);
+    m_arrivals = std::make_unique<List_Arrivals>(*m_ui->recipients_group, *m_ui->idTableView, *m_ui->_Import_Strip);
     Connect_Controls();
 }
 
 CorvaneAppDelegate::~CorvaneAppDelegate()
 {
+    if (m_awaited_reports)
+        m_awaited_reports->Stop();
     The_Delegate = nullptr;
     Main_App_wnd = nullptr;
 }
@@ -104,13 +109,17 @@ bool CorvaneAppDelegate::awakeFromNib()
         Confirm_Boxes::Boxes{m_ui->_Confirm_Chk, m_ui->_Reports_Chk, m_ui->_Keep_Receipt_Chk,
                              m_ui->_Remember_Confirm_Chk, m_ui->confirm_more},
         Program_Settings(Settings_Path));
-    m_import = std::make_unique<Number_Import>(Number_Import::Target{
-        [this](int count, int percent) { Show_Import_Progress(count, percent); },
-        [this](Recipient_List& recipients) { Take_Over_Imported(recipients); }, [this] { Leave_Import_Unread(); },
-        [this] { Finish_Import(); }, [this] { End_Import(); }});
-    m_send_runner = std::make_unique<Send_Runner>(*this, *mfc_sms_obj, *Send_Modeless::defaultInstance());
+    m_import = std::make_unique<Number_Import>(
+        Number_Import::Target{[this](int count, int percent) { Show_Import_Progress(count, percent); },
+                              [this](Recipient_List& recipients) { Take_Over_Imported(recipients); },
+                              [this] { Leave_Import_Unread(); }, [this] { Finish_Import(); }, [this] { End_Import(); },
+                              [this](const Import_Report& report) { m_arrivals->Note(report); }});
+    m_awaited_reports = std::make_unique<Awaited_Reports>(*m_work);
+    m_send_runner = std::make_unique<Send_Runner>(*this, *mfc_sms_obj, *Send_Modeless::defaultInstance(),
+                                                  [this] { return m_awaited_reports->Device_Turn(); });
     m_follow_up =
         std::make_unique<Job_Follow_Up>(*this, *m_work, *m_send_runner, *m_ui->_Job_Strip, *m_ui->Show_Receipt);
+    connect(m_awaited_reports.get(), &Awaited_Reports::Came, m_follow_up.get(), &Job_Follow_Up::Take_Reports);
     Make_Promise();
     Main_App_wnd = this;
     Show_Device_In_Ticker();
@@ -123,7 +132,7 @@ void CorvaneAppDelegate::applicationDidFinishLaunching()
     raise();
     activateWindow();
     Focus(Field::Number);
-    m_follow_up->Look_For_Unfinished();
+    m_follow_up->Look_For_Unfinished([this] { m_awaited_reports->Look(sel_port_bsd_str); });
 }
 
 void CorvaneAppDelegate::Connect_Controls()
@@ -146,6 +155,8 @@ void CorvaneAppDelegate::Connect_Controls()
     connect(m_ui->_messageEdit, &QPlainTextEdit::textChanged, this, &CorvaneAppDelegate::textDidChange);
     connect(m_ui->_Unicode_SMS_Chk, &QCheckBox::clicked, this, &CorvaneAppDelegate::Unicode_Chk);
     connect(m_ui->Load_Number, &QPushButton::clicked, this, &CorvaneAppDelegate::Load_Number);
+    connect(m_arrivals.get(), &List_Arrivals::Paste_Wanted, this, &CorvaneAppDelegate::Paste_Numbers);
+    connect(m_arrivals.get(), &List_Arrivals::Dropped, this, &CorvaneAppDelegate::Dropped_File);
     connect(m_ui->Export_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::Export_Btn);
     connect(m_ui->Fill_Msg_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::Fill_Msg_Btn);
     connect(m_ui->Update_Sel_Msgs_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::Update_Sel_Msgs_Btn);
@@ -290,6 +301,7 @@ void CorvaneAppDelegate::No_Device_Ticker_Click()
 
 void CorvaneAppDelegate::Search_All_Modem()
 {
+    std::shared_ptr<void> device = m_awaited_reports->Device_Turn();
     sel_port_name_str.clear();
     sel_port_bsd_str.clear();
     m_ui->_Device_Name_Ticker->setText(Texts::Main::No_Device);
@@ -297,7 +309,11 @@ void CorvaneAppDelegate::Search_All_Modem()
     m_ui->_NO_Device_Ticker->hide();
     Phone_List_Wnd::defaultInstance()->Open_Ph_List_Wnd();
     Show_Device_In_Ticker();
-    m_follow_up->Look_For_Unfinished();
+    device.reset();
+    m_follow_up->Look_For_Unfinished([this] {
+        if (!sel_port_bsd_str.isEmpty())
+            m_awaited_reports->Look(sel_port_bsd_str);
+    });
 }
 
 void CorvaneAppDelegate::Show_Device_In_Ticker()

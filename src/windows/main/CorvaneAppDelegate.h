@@ -10,9 +10,11 @@
 #include <optional>
 #include <vector>
 
+class Awaited_Reports;
 class Composer;
 class Confirm_Boxes;
 class Job_Follow_Up;
+class List_Arrivals;
 class Number_Import;
 struct Number_Terms;
 class PleaseWait_Modeless;
@@ -126,6 +128,10 @@ public Q_SLOTS:
     void Reset_Btn();
     void doubleClickInTable();
     void Load_Number();
+    /// Adds the numbers in the clipboard's lines, with the composer's text as their message.
+    void Paste_Numbers();
+    /// A file was dropped on the recipient list.
+    void Dropped_File(const QString& path);
     void Export_Btn();
     void Fill_Msg_Btn();
     void Update_Sel_Msgs_Btn();
@@ -168,6 +174,8 @@ private:
     bool Offer_Plain_Kind(const Device_Cause& cause);
     void Show_Exclusion_Trouble(const QString& text);
     void Show_List_Count(int count);
+    bool May_Import_File();
+    void Start_Import(const QString& path, const std::optional<QString>& pasted);
     void Show_Import_Progress(int count, int percent);
     void Take_Over_Imported(Recipient_List& recipients);
     void Leave_Import_Unread();
@@ -180,6 +188,7 @@ private:
     Number_List nsExclusionListDataObject;
     QString prev_composer_msg;
     int prev_list_item = 0;             // recipients before the import
+    bool m_is_pasting = false;          // rather than importing a file
     Outcome_Codes m_outcome_codes;      // what the marks of the recipients mean
     bool m_takes_outcomes = false;      // a job runs, and the list is still the one that it took
     bool m_is_alphabet_refused = false; // rather than that a message shows at once
@@ -188,9 +197,11 @@ private:
     Row_Table_Model* m_exclusion_rows = nullptr;
     std::unique_ptr<Composer> m_composer;
     std::unique_ptr<Confirm_Boxes> m_confirm_boxes;
+    std::unique_ptr<Awaited_Reports> m_awaited_reports;
     std::unique_ptr<Send_Runner> m_send_runner;
     std::unique_ptr<Job_Follow_Up> m_follow_up;
     std::unique_ptr<Number_Import> m_import;
+    std::unique_ptr<List_Arrivals> m_arrivals;
     PleaseWait_Modeless* m_please_wait = nullptr;
     std::unique_ptr<Window_Work> m_work;
     std::unique_ptr<Send_Promise> m_promise; // none before the start state is built

@@ -1,6 +1,5 @@
 #include "windows/main/Timed_Progress.h"
 
-#include "engine/Composer_Rules.h"
 #include "plan/Chosen_Manner.h"
 #include "plan/Row_Preview.h"
 #include "plan/Time_Words.h"
@@ -66,8 +65,8 @@ void Timed_Progress::Count_What_Is_Ahead()
 
 void Timed_Progress::Show_Item(int position, int total, const QString& number)
 {
-    const QString text = m_order.recipients.Text_At(position - 1).text;
-    m_row_parts = Parts_Of_Row({position, number, Composer_Rules::Cut_To_Limit(text), {}}, m_manner);
+    const QString text = Text_To_Send(m_order.recipients, position - 1).text;
+    m_row_parts = Parts_Of_Row({position, number, text, {}}, m_manner);
     m_was_settled = false;
     m_time_left->Row_Begins(m_row_parts, Now_Seconds());
     m_shown.Show_Item(position, total, number);
@@ -85,6 +84,7 @@ void Timed_Progress::Row_Ended(const Row_Outcome& outcome)
     case Row_State::Repeated:
     case Row_State::Skipped:
     case Row_State::Invalid_Number:
+    case Row_State::Not_Filled:
         m_time_left->Row_Ends(Time_Left::Row_End::Left_Out, Now_Seconds());
         return;
     case Row_State::Not_Tried: // it was stopped meanwhile
