@@ -58,6 +58,13 @@ Message_Filling::Message_Filling(const QString& message, const Contact_Table& ta
     }
 }
 
+Message_Filling Message_Filling::As_It_Is(const QString& message)
+{
+    Message_Filling filling{QString()};
+    filling.Add_Literal(message);
+    return filling;
+}
+
 void Message_Filling::Add_Literal(QStringView text)
 {
     if (text.isEmpty())

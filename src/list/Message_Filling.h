@@ -51,6 +51,9 @@ public:
     /// For recipients with the values of a table, or, without columns, with none.
     explicit Message_Filling(const QString& message, const Contact_Table& table = {});
 
+    /// A message in which braces mean nothing.
+    static Message_Filling As_It_Is(const QString& message);
+
     /// A placeholder that two columns could be meant by, which therefore stands for nothing; empty for none.
     QString Ambiguous() const { return m_ambiguous; }
     const std::vector<Piece>& Pieces() const { return m_pieces; }

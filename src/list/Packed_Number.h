@@ -27,6 +27,8 @@ public:
         m_words[0] = m_words[0] << 4 | static_cast<std::uint32_t>(digit - u'0' + 1); // so that no digit is zero
         return true;
     }
+    /// The text of a number that consists of digits alone.
+    QString Digits() const;
     bool Is_Empty() const { return m_words[0] == 0 && m_words[2] == 0; }
 
     std::uint32_t Hash(std::uint64_t seed) const
@@ -44,8 +46,6 @@ public:
 
 private:
     friend class Number_Texts;
-
-    QString Digits() const;
 
     std::array<std::uint32_t, 3> m_words{}; // the last digit is in the lowest bits of the first word
 };

@@ -8,16 +8,24 @@ constexpr qint64 Seconds_After_Fixed_Parts = 2;
 
 } // namespace
 
+qint64 Seconds_For(const Planned_Messages& messages, const Plan_Manner& manner)
+{
+    qint64 seconds = messages.parts * (manner.fixed_waits ? Seconds_For_A_Fixed_Part : Seconds_For_A_Judged_Part);
+    if (manner.fixed_waits)
+        seconds += messages.of_several_parts * Seconds_After_Fixed_Parts;
+    if (manner.batch > 0 && messages.messages > 0)
+        seconds +=
+            static_cast<qint64>(static_cast<double>((messages.messages - 1) / manner.batch) * manner.pause_seconds);
+    return seconds;
+}
+
 qint64 Seconds_For(const std::vector<int>& parts_of_messages, const Plan_Manner& manner)
 {
-    qint64 seconds = 0;
+    Planned_Messages sum;
+    sum.messages = static_cast<qint64>(parts_of_messages.size());
     for (const int parts : parts_of_messages) {
-        seconds += parts * (manner.fixed_waits ? Seconds_For_A_Fixed_Part : Seconds_For_A_Judged_Part);
-        if (manner.fixed_waits && parts > 1)
-            seconds += Seconds_After_Fixed_Parts;
+        sum.parts += parts;
+        sum.of_several_parts += parts > 1 ? 1 : 0;
     }
-    const auto messages = static_cast<qint64>(parts_of_messages.size());
-    if (manner.batch > 0 && messages > 0)
-        seconds += static_cast<qint64>(static_cast<double>((messages - 1) / manner.batch) * manner.pause_seconds);
-    return seconds;
+    return Seconds_For(sum, manner);
 }

@@ -4,5 +4,16 @@
 
 #include <vector>
 
-/// How many seconds messages of so many parts take at pace 1, at a guess.
+/// Messages in figures.
+struct Planned_Messages
+{
+    qint64 messages = 0;
+    qint64 parts = 0;            ///< of all of them
+    qint64 of_several_parts = 0; ///< messages
+};
+
+/// How many seconds messages take at pace 1, at a guess.
+qint64 Seconds_For(const Planned_Messages& messages, const Plan_Manner& manner);
+
+/// The same for messages of so many parts.
 qint64 Seconds_For(const std::vector<int>& parts_of_messages, const Plan_Manner& manner);

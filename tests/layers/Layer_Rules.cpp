@@ -149,7 +149,7 @@ const std::vector<Room>& Rooms()
         {"records", {"platform", "list"}, Room::Core},
         {"device", {"platform", "handset", "pdu"}, Room::Core},
         {"engine", {"platform", "texts", "handset", "list", "records", "device"}, Room::Core},
-        {"plan", {"platform", "handset", "list", "records", "device", "engine"}, Room::Core},
+        {"plan", {"platform", "texts", "handset", "list", "records", "device", "engine"}, Room::Core},
         {"doctor", {"platform", "texts", "device"}, Room::Core},
         {"send", {"platform", "texts", "handset", "list", "records", "device", "engine", "plan", "doctor"}, Room::Core},
         {"toolkit", {"platform", "list", "engine"}},
