@@ -20,6 +20,7 @@
 #include "windows/exclusion/Exclusion_Wizard.h"
 #include "windows/main/Composer.h"
 #include "windows/main/Confirm_Boxes.h"
+#include "windows/main/Contact_Desk.h"
 #include "windows/main/Help_Wnd.h"
 #include "windows/main/Job_Follow_Up.h"
 #include "windows/main/Recipient_Rows.h"
@@ -110,6 +111,8 @@ bool CorvaneAppDelegate::awakeFromNib()
     m_send_runner = std::make_unique<Send_Runner>(*this, *mfc_sms_obj, *Send_Modeless::defaultInstance());
     m_follow_up =
         std::make_unique<Job_Follow_Up>(*this, *m_work, *m_send_runner, *m_ui->_Job_Strip, *m_ui->Show_Receipt);
+    m_contacts = std::make_unique<Contact_Desk>(
+        *this, *m_work, Contact_Desk::Controls{*m_ui->Insert_Field, *m_ui->idTableView, *m_ui->_Contacts_Strip});
     Main_App_wnd = this;
     Show_Device_In_Ticker();
     return true;
@@ -144,6 +147,8 @@ void CorvaneAppDelegate::Connect_Controls()
     connect(m_ui->_messageEdit, &QPlainTextEdit::textChanged, this, &CorvaneAppDelegate::textDidChange);
     connect(m_ui->_Unicode_SMS_Chk, &QCheckBox::clicked, this, &CorvaneAppDelegate::Unicode_Chk);
     connect(m_ui->Load_Number, &QPushButton::clicked, this, &CorvaneAppDelegate::Load_Number);
+    connect(m_ui->Import_Contacts, &QPushButton::clicked, this, &CorvaneAppDelegate::Import_Contacts);
+    connect(m_ui->Check_List, &QPushButton::clicked, this, &CorvaneAppDelegate::Check_List);
     connect(m_ui->Export_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::Export_Btn);
     connect(m_ui->Fill_Msg_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::Fill_Msg_Btn);
     connect(m_ui->Update_Sel_Msgs_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::Update_Sel_Msgs_Btn);

@@ -12,6 +12,7 @@
 
 class Composer;
 class Confirm_Boxes;
+class Contact_Desk;
 class Job_Follow_Up;
 class Number_Import;
 struct Number_Terms;
@@ -125,6 +126,8 @@ public Q_SLOTS:
     void Reset_Btn();
     void doubleClickInTable();
     void Load_Number();
+    void Import_Contacts();
+    void Check_List();
     void Export_Btn();
     void Fill_Msg_Btn();
     void Update_Sel_Msgs_Btn();
@@ -189,6 +192,7 @@ private:
     std::unique_ptr<Send_Runner> m_send_runner;
     std::unique_ptr<Job_Follow_Up> m_follow_up;
     std::unique_ptr<Number_Import> m_import;
+    std::unique_ptr<Contact_Desk> m_contacts;
     PleaseWait_Modeless* m_please_wait = nullptr;
     std::unique_ptr<Window_Work> m_work;
 };

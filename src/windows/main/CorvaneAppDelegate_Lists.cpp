@@ -17,6 +17,7 @@
 #include "windows/list/List_Dialogs.h"
 #include "windows/main/Composer.h"
 #include "windows/main/Confirm_Boxes.h"
+#include "windows/main/Contact_Desk.h"
 #include "windows/main/CorvaneAppDelegate.h"
 #include "windows/main/List_Cells.h"
 #include "windows/main/Load_Num_Info.h"
@@ -93,6 +94,7 @@ void CorvaneAppDelegate::Update_List_Count()
 void CorvaneAppDelegate::Show_List_Count(int count)
 {
     m_ui->_gsm_list_count->setText(Texts::Total_Numbers + QString::number(count));
+    m_contacts->List_Changed();
 }
 
 bool CorvaneAppDelegate::Blank_Msg_Chk() const
@@ -283,6 +285,16 @@ void CorvaneAppDelegate::Load_Number()
     }
     if (const auto path = Ask_For_File_To_Open(this))
         Load_NUM_Thread(*path);
+}
+
+void CorvaneAppDelegate::Import_Contacts()
+{
+    m_contacts->Import_Contacts();
+}
+
+void CorvaneAppDelegate::Check_List()
+{
+    m_contacts->Check_List();
 }
 
 void CorvaneAppDelegate::Load_NUM_Thread(const QString& path)

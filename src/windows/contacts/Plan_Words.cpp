@@ -1,0 +1,88 @@
+#include "windows/contacts/Plan_Words.h"
+
+#include <QLocale>
+#include <algorithm>
+#include <array>
+
+namespace {
+
+constexpr int Seconds_A_Minute = 60;
+constexpr int Minutes_An_Hour = 60;
+constexpr std::size_t Most_Named = 6; // characters
+
+struct Verdict_Words
+{
+    char16_t sign;
+    const char* word;
+};
+
+// In the order of the verdicts.
+constexpr std::array Verdicts{Verdict_Words{u'✓', QT_TRANSLATE_NOOP("Plan_Words", "to be sent")},
+                              Verdict_Words{u'–', QT_TRANSLATE_NOOP("Plan_Words", "repeated")},
+                              Verdict_Words{u'–', QT_TRANSLATE_NOOP("Plan_Words", "excluded")},
+                              Verdict_Words{u'✗', QT_TRANSLATE_NOOP("Plan_Words", "no usable number")},
+                              Verdict_Words{u'✗', QT_TRANSLATE_NOOP("Plan_Words", "empty field")},
+                              Verdict_Words{u'✗', QT_TRANSLATE_NOOP("Plan_Words", "unknown field")},
+                              Verdict_Words{u'✗', QT_TRANSLATE_NOOP("Plan_Words", "too long")},
+                              Verdict_Words{u'✗', QT_TRANSLATE_NOOP("Plan_Words", "fields misplaced")}};
+
+// A character as a person sees it: what cannot be seen is named by its number.
+QString Shown(char32_t character)
+{
+    if (QChar::isPrint(character) && !QChar::isSpace(character) && !QChar::isMark(character))
+        return QString::fromUcs4(&character, 1);
+    return QStringLiteral("U+") + QString::number(character, 16).toUpper().rightJustified(4, u'0');
+}
+
+} // namespace
+
+QString Plan_Words::Signed_Verdict(Row_Verdict verdict)
+{
+    const Verdict_Words& words = Verdicts[static_cast<std::size_t>(verdict)];
+    return QString(QChar(words.sign)) + u' ' + tr(words.word);
+}
+
+QString Plan_Words::Sums(const Plan_Sums& sums, const QDateTime& now)
+{
+    QStringList lines{tr("%n message(s) to be sent", nullptr, sums.send)};
+    if (sums.send > 0)
+        lines.front() +=
+            tr(" in %n part(s)", nullptr, static_cast<int>(sums.parts)) +
+            tr(", %1, until %2")
+                .arg(About(sums.seconds), QLocale().toString(now.addSecs(sums.seconds).time(), QLocale::ShortFormat));
+    QStringList reasons;
+    for (std::size_t verdict = 1; verdict < sums.by_verdict.size(); ++verdict) {
+        if (sums.by_verdict[verdict] > 0)
+            reasons.append(QStringLiteral("%1 %2").arg(sums.by_verdict[verdict]).arg(tr(Verdicts[verdict].word)));
+    }
+    lines.front() += u'.';
+    if (!reasons.isEmpty())
+        lines.append(tr("%n left out: ", nullptr, sums.recipients - sums.send) + reasons.join(QLatin1String(", ")) +
+                     u'.');
+    return lines.join(u' ');
+}
+
+QString Plan_Words::Causes(const Plan_Sums& sums)
+{
+    if (sums.unicode == 0)
+        return {};
+    QStringList characters;
+    for (const Unicode_Cause& cause : sums.causes) {
+        if (characters.size() == Most_Named) {
+            characters.append(tr("others"));
+            break;
+        }
+        characters.append(QStringLiteral("%1 (%2)").arg(Shown(cause.character)).arg(cause.rows));
+    }
+    const QString words = tr("%n message(s) go as Unicode", nullptr, sums.unicode);
+    return characters.isEmpty() ? words + u'.'
+                                : words + tr(", because of ") + characters.join(QLatin1String(", ")) + u'.';
+}
+
+QString Plan_Words::About(qint64 seconds)
+{
+    const auto minutes = static_cast<int>(std::max<qint64>(1, (seconds + Seconds_A_Minute / 2) / Seconds_A_Minute));
+    if (minutes < 2 * Minutes_An_Hour)
+        return tr("about %n minute(s)", nullptr, minutes);
+    return tr("about %n hour(s)", nullptr, (minutes + Minutes_An_Hour / 2) / Minutes_An_Hour);
+}
