@@ -87,7 +87,7 @@ void Plan_Page::Set_Up_Table()
         table.setColumnWidth(column, letters.averageCharWidth() * columns);
     Give_Table_Keys(table, {[&table] {
                                 const QModelIndex row = table.currentIndex();
-                                if (row.isValid())
+                                if (row.isValid() && table.hasFocus()) // and no editor in it has
                                     table.edit(row.siblingAtColumn(Plan_Rows::Written));
                             },
                             {}});

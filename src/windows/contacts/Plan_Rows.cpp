@@ -69,7 +69,7 @@ QString Plan_Rows::Cell(Column column, int row) const
     case Text:
         return plan.Text_Of(row);
     case Parts:
-        return QString::number(plan.Parts_Of(row));
+        return plan.Verdict_Of(row) == Row_Verdict::Send ? QString::number(plan.Parts_Of(row)) : QString();
     case Verdict:
         return Plan_Words::Signed_Verdict(plan.Verdict_Of(row));
     case Reason:
