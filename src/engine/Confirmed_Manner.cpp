@@ -4,6 +4,7 @@
 #include "engine/Composer_Rules.h"
 #include "engine/Confirmed_Row.h"
 #include "engine/Message_Frames.h"
+#include "engine/Outcome_Words.h"
 #include "engine/Send_Progress.h"
 #include "platform/Waiting.h"
 #include "records/Job_Shelf.h"
@@ -199,10 +200,10 @@ Job_Row Confirmed_Manner::Row_At(int index)
             row.skipped = state.words.isEmpty() ? QString(Is_Left_Out) : state.words;
         return row;
     }
-    const Recipient recipient = m_order.recipients.At(index);
+    const Filled_Message filled = Text_To_Send(m_order.recipients, index);
     Job_Row row =
-        Frozen_Row(index + 1, recipient.Number, Composer_Rules::Cut_To_Limit(recipient.Message), m_options.job.alphabet,
-                   m_order.choices.flash, m_first_reference + index, m_session.Is_Text_Mode());
+        Frozen_Row(index + 1, m_order.recipients.Numbers().At(index), Composer_Rules::Cut_To_Limit(filled.text),
+                   m_options.job.alphabet, m_order.choices.flash, m_first_reference + index, m_session.Is_Text_Mode());
     if (const auto skipped = m_options.skipped.constFind(index); skipped != m_options.skipped.constEnd())
         row.skipped = *skipped;
     switch (Reason_To_Skip(m_order, index)) {
@@ -211,6 +212,9 @@ Job_Row Confirmed_Manner::Row_At(int index)
         break;
     case Skip_Reason::Repeated:
         row.skipped = Is_Repeated;
+        break;
+    case Skip_Reason::Not_Filled:
+        row.skipped = filled.fault;
         break;
     case Skip_Reason::None:
         break;
@@ -295,7 +299,10 @@ Send_Manner::Submission Confirmed_Manner::Pass_Over(int index, const QString& wh
         details.outcome.state = Row_State::Repeated;
     else {
         const bool is_about_number = why == QLatin1String(Invalid_Number);
+        const QString words = Words_For_Skip(why);
         details.outcome.state = is_about_number ? Row_State::Invalid_Number : Row_State::Skipped;
+        if (!words.isEmpty())
+            details.outcome = {Row_State::Not_Filled, {Device_Cause::Kind::Words, -1, words}};
         details.reason = is_about_number ? QString(T::Number_Invalid) : why;
         m_has_failed = true;
     }
@@ -312,7 +319,9 @@ bool Confirmed_Manner::Is_Settled(int index)
 void Confirmed_Manner::Skipped(int index, Skip_Reason reason)
 {
     Row_Details details;
-    details.outcome.state = reason == Skip_Reason::Excluded ? Row_State::Excluded : Row_State::Repeated;
+    details.outcome = Outcome_Of_Skipped(m_order, index, reason);
+    details.reason = details.outcome.cause.words;
+    m_has_failed = m_has_failed || reason == Skip_Reason::Not_Filled;
     details.is_earlier = m_record.has_value();
     --m_open_rows;
     m_watcher.Row_Done(index, details);

@@ -47,10 +47,9 @@ bool Are_The_Same(const Recipient_List& one, const Recipient_List& other)
     if (one.Count() != other.Count())
         return false;
     for (int index = 0; index < one.Count(); ++index) {
-        const Recipient left = one.At(index);
-        const Recipient right = other.At(index);
-        if (left.Number != right.Number ||
-            Composer_Rules::Cut_To_Limit(left.Message) != Composer_Rules::Cut_To_Limit(right.Message))
+        if (one.Numbers().At(index) != other.Numbers().At(index) ||
+            Composer_Rules::Cut_To_Limit(Text_To_Send(one, index).text) !=
+                Composer_Rules::Cut_To_Limit(Text_To_Send(other, index).text))
             return false;
     }
     return true;

@@ -20,5 +20,6 @@ Send_Order Order_Of(const Job_Options& options, const QString& device_path);
 /// Everybody in a job's list, those that are skipped included; nothing when the list cannot be read any more.
 std::optional<Recipient_List> Recipients_Of(const Job_Record& record);
 
-/// Whether two lists have the same numbers and the same messages, as far as a message is sent, in the same order.
+/// Whether two lists have the same numbers and the same messages, as far as a message is sent and as it is filled, in
+/// the same order.
 bool Are_The_Same(const Recipient_List& one, const Recipient_List& other);

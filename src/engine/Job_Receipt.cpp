@@ -36,7 +36,7 @@ Receipt_Kind Kind_Of(Sending_State state)
     return Receipt_Kind::Not_Tried;
 }
 
-// Why a row was skipped, as jobs write it: what the table of recipients has a state for, and what it has none for.
+// Why a row was skipped, as jobs write it, where the table of recipients has a state for it.
 struct Skip_Row
 {
     const char* field;
@@ -46,24 +46,6 @@ constexpr Skip_Row Skip_States[] = {{"duplicate", Row_State::Repeated},
                                     {"excluded", Row_State::Excluded},
                                     {"invalid-number", Row_State::Invalid_Number}};
 
-struct Skip_Words
-{
-    const char* field;
-    Fixed_Text words;
-};
-constexpr Skip_Words Other_Skips[] = {{"empty-field", T::Empty_Field},
-                                      {"unknown-field", T::Unknown_Field},
-                                      {"wrong-columns", T::Wrong_Columns},
-                                      {"too-long", T::Too_Long}};
-
-template <class Row, std::size_t Count>
-const Row* Row_Called(const Row (&rows)[Count], const QString& field)
-{
-    const Row* const row = std::find_if(std::begin(rows), std::end(rows),
-                                        [&](const Row& each) { return field == QLatin1String(each.field); });
-    return row == std::end(rows) ? nullptr : row;
-}
-
 void Tell_Outcome(Receipt_Row& row, const Row_Outcome& outcome)
 {
     row.outcome = Outcome_Words(outcome);
@@ -72,13 +54,15 @@ void Tell_Outcome(Receipt_Row& row, const Row_Outcome& outcome)
 
 void Tell_Skip(Receipt_Row& row, const QString& reason)
 {
-    const Skip_Row* const known = Row_Called(Skip_States, reason);
-    Tell_Outcome(row, {known ? known->state : Row_State::Excluded, {}});
-    if (known)
+    const auto* const known = std::find_if(std::begin(Skip_States), std::end(Skip_States),
+                                           [&](const Skip_Row& each) { return reason == QLatin1String(each.field); });
+    const bool has_state = known != std::end(Skip_States);
+    Tell_Outcome(row, {has_state ? known->state : Row_State::Excluded, {}});
+    if (has_state)
         return;
-    const Skip_Words* const other = Row_Called(Other_Skips, reason);
+    const QString words = Words_For_Skip(reason);
     const QString before = row.outcome;
-    row.outcome = QString(T::Skipped_Because) + (other ? QString(other->words) : On_One_Line(reason));
+    row.outcome = QString(T::Skipped_Because) + (words.isEmpty() ? On_One_Line(reason) : words);
     row.signed_outcome = row.signed_outcome.chopped(before.size()) + row.outcome;
 }
 

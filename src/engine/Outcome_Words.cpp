@@ -1,8 +1,10 @@
 #include "engine/Outcome_Words.h"
 
 #include "engine/Send_Cause.h"
+#include "list/Skip_Words.h"
 #include "platform/One_Line.h"
 #include "texts/Outcome_Texts.h"
+#include "texts/Receipt_Texts.h"
 
 #include <algorithm>
 #include <iterator>
@@ -30,6 +32,7 @@ constexpr Row Rows[] = {
     {Row_State::Repeated, u'–', Texts::Outcomes::Repeated},
     {Row_State::Skipped, u'–', Texts::Outcomes::Skipped},
     {Row_State::Invalid_Number, u'–', Texts::Outcomes::Invalid_Number},
+    {Row_State::Not_Filled, u'–', Texts::Outcomes::Not_Filled},
 };
 
 constexpr bool Each_Row_Is_In_Its_Place()
@@ -79,6 +82,8 @@ QString Cause_In_Words(const Device_Cause& cause)
 QString Outcome_Words(const Row_Outcome& outcome)
 {
     const QString words = Row_Of(outcome.state).words;
+    if (outcome.state == Row_State::Not_Filled && !outcome.cause.words.isEmpty())
+        return Texts::Outcomes::Skipped_Because + On_One_Line(outcome.cause.words);
     const bool is_refused = outcome.state == Row_State::Refused || outcome.state == Row_State::Partly_Taken;
     const QString cause = is_refused ? Cause_In_Words(outcome.cause) : QString();
     return cause.isEmpty() ? words : words + QStringLiteral(" (") + cause + u')';
@@ -87,6 +92,22 @@ QString Outcome_Words(const Row_Outcome& outcome)
 QString Signed_Outcome(const Row_Outcome& outcome)
 {
     return QChar(Row_Of(outcome.state).sign) + QStringLiteral(" ") + Outcome_Words(outcome);
+}
+
+QString Words_For_Skip(const QString& word)
+{
+    struct Skip
+    {
+        const char* word;
+        Fixed_Text words;
+    };
+    constexpr Skip skips[] = {{Skip_Words::Empty_Field, Texts::Receipts::Empty_Field},
+                              {Skip_Words::Unknown_Field, Texts::Receipts::Unknown_Field},
+                              {Skip_Words::Wrong_Columns, Texts::Receipts::Wrong_Columns},
+                              {Skip_Words::Too_Long, Texts::Receipts::Too_Long}};
+    const auto* const skip = std::find_if(std::begin(skips), std::end(skips),
+                                          [&](const Skip& each) { return word == QLatin1String(each.word); });
+    return skip == std::end(skips) ? QString() : QString(skip->words);
 }
 
 QStringList Usual_Signed_Outcomes()

@@ -13,6 +13,10 @@ QString Outcome_Words(const Row_Outcome& outcome);
 /// The same behind a sign that can be told from the others at a glance, "✗ refused (500: unknown error)".
 QString Signed_Outcome(const Row_Outcome& outcome);
 
+/// Why a row was not filled or does not fit its table, by one of Skip_Words as jobs write it: "a placeholder is empty".
+/// Empty for any other word.
+QString Words_For_Skip(const QString& word);
+
 /// One of each kind, with their signs: what a column for them needs room for.
 QStringList Usual_Signed_Outcomes();
 

@@ -18,13 +18,15 @@ enum class Row_State : quint8
     Excluded,           ///< skipped: its number is in an exclusion list
     Repeated,           ///< skipped: an earlier recipient has the same number
     Skipped,            ///< for a reason that only its job's list knows
-    Invalid_Number      ///< skipped: no frame can carry its number
+    Invalid_Number,     ///< skipped: no frame can carry its number
+    Not_Filled          ///< skipped: its placeholders leave no text that can be sent; the cause says so in words
 };
 
 struct Row_Outcome
 {
     Row_State state = Row_State::Not_Tried;
-    Device_Cause cause; ///< of Refused, and of Partly_Taken and May_Have_Been_Sent where the device gave one
+    Device_Cause
+        cause; ///< of Refused and Not_Filled, and of Partly_Taken and May_Have_Been_Sent where the device gave one
 
     bool operator==(const Row_Outcome&) const = default;
 };

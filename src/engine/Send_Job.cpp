@@ -1,6 +1,5 @@
 #include "engine/Send_Job.h"
 
-#include "engine/Composer_Rules.h"
 #include "engine/Job_State.h"
 #include "engine/Pause_Countdown.h"
 #include "engine/Send_Listener.h"
@@ -39,6 +38,7 @@ void Send_Job::Run()
         return;
     }
     Reload_Exclusions();
+    Find_Repeats(m_order);
     m_progress.Begin_Preparing(m_order.recipients.Count());
     m_progress.startTimerThread();
     if (!m_manner.Connect()) {
@@ -95,8 +95,7 @@ void Send_Job::Send_Items()
 // Returns whether another item may follow.
 bool Send_Job::Send_Item(int index)
 {
-    Recipient recipient = m_order.recipients.At(index);
-    recipient.Message = Composer_Rules::Cut_To_Limit(recipient.Message);
+    const Recipient recipient{m_order.recipients.Numbers().At(index), Text_To_Send(m_order.recipients, index).text};
     m_progress.Show_Item(index + 1, m_order.recipients.Count(), recipient.Number);
     Pause_Timer_Running = false;
     if (Skip_Item(index, recipient.Number))
@@ -147,7 +146,7 @@ bool Send_Job::Skip_Item(int index, const QString& number)
         return false;
     const QString note = reason == Skip_Reason::Excluded ? Texts::Sending::Is_Excluded : Texts::Sending::Is_Skipped;
     m_progress.Show_Current(number + note);
-    m_listener.Row_Ended(index, {reason == Skip_Reason::Excluded ? Row_State::Excluded : Row_State::Repeated, {}});
+    m_listener.Row_Ended(index, Outcome_Of_Skipped(m_order, index, reason));
     m_manner.Skipped(index, reason);
     return true;
 }

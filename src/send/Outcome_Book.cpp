@@ -18,6 +18,7 @@ const char* Word_For(Row_State state)
     case Row_State::Repeated:
     case Row_State::Skipped:
     case Row_State::Invalid_Number:
+    case Row_State::Not_Filled:
         return "skipped";
     case Row_State::Written:
     case Row_State::Taken:

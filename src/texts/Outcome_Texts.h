@@ -20,6 +20,8 @@ inline constexpr Fixed_Text Excluded{"skipped: excluded"};
 inline constexpr Fixed_Text Repeated{"skipped: repeated"};
 inline constexpr Fixed_Text Skipped{"skipped"};
 inline constexpr Fixed_Text Invalid_Number{"skipped: invalid number"};
+inline constexpr Fixed_Text Not_Filled{"skipped: not filled"};
+inline constexpr Fixed_Text Skipped_Because{"skipped: "};
 
 // Before the number of a cause that counts among a device's own errors and not among those of messages.
 inline constexpr Fixed_Text Own_Error{"CME "};

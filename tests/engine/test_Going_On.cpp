@@ -41,7 +41,7 @@ TEST_F(Going_On, Rows_That_Were_Skipped_Stay_So_And_Say_Why)
     m_order.choices.skip_duplicates = false;
     Run();
     EXPECT_THAT(m_witness.m_outcomes, ElementsAre(Pair(0, Row_State::Sent), Pair(1, Row_State::Repeated),
-                                                  Pair(2, Row_State::Skipped), Pair(3, Row_State::Sent)));
+                                                  Pair(2, Row_State::Not_Filled), Pair(3, Row_State::Sent)));
     EXPECT_EQ(Texts().size(), 2U);
     EXPECT_THAT(Unfinished_Jobs(m_options.folder), IsEmpty());
 }

@@ -24,7 +24,7 @@ TEST(Outcome_Codes, Every_State_Comes_Back_From_Its_Code_And_One_That_Was_Not_Tr
 {
     Outcome_Codes codes;
     std::set<int> given;
-    for (int state = 0; state <= static_cast<int>(Row_State::Invalid_Number); ++state) {
+    for (int state = 0; state <= static_cast<int>(Row_State::Not_Filled); ++state) {
         const Row_Outcome outcome{static_cast<Row_State>(state), {}};
         const quint8 code = codes.Code_Of(outcome);
         EXPECT_EQ(codes.Outcome_Of(code), outcome) << state;
@@ -43,7 +43,9 @@ TEST(Outcome_Codes, Each_Cause_Has_A_Code_Of_Its_Own_And_Keeps_It)
                                     Refused(Kind::Words, -1, "SIM full"),
                                     Refused(Kind::Error, -1),
                                     {Row_State::Partly_Taken, {Kind::Cms, 500, {}}},
-                                    {Row_State::Partly_Taken, {Kind::Cms, 21, {}}}};
+                                    {Row_State::Partly_Taken, {Kind::Cms, 21, {}}},
+                                    {Row_State::Not_Filled, {Kind::Words, -1, "{{Name}} is empty"}},
+                                    {Row_State::Not_Filled, {Kind::Words, -1, "{{City}} is empty"}}};
     Outcome_Codes codes;
     std::set<int> given;
     for (const Row_Outcome& outcome : outcomes)
@@ -78,15 +80,17 @@ TEST(Outcome_Codes, Where_There_Are_More_Causes_Than_Codes_The_Last_Are_Refusals
               Row_State::May_Have_Been_Sent);
 }
 
-TEST(Outcome_Codes, Causes_Of_Parts_Take_No_Codes_From_Those_Of_Whole_Messages)
+TEST(Outcome_Codes, Causes_Of_Parts_And_Faults_Take_No_Codes_From_Those_Of_Whole_Messages)
 {
     Outcome_Codes codes;
     std::set<int> given;
     for (int number = 0; number < 1000; ++number) {
         given.insert(codes.Code_Of({Row_State::Partly_Taken, {Kind::Cms, number, {}}}));
         given.insert(codes.Code_Of(Refused_With(number)));
+        given.insert(codes.Code_Of({Row_State::Not_Filled, {Kind::Words, -1, QString::number(number)}}));
     }
-    EXPECT_EQ(given.size(), Outcome_Codes::Most_Causes + Outcome_Codes::Most_Causes_Of_Parts + 2U);
+    EXPECT_EQ(given.size(),
+              Outcome_Codes::Most_Causes + Outcome_Codes::Most_Causes_Of_Parts + Outcome_Codes::Most_Faults + 3U);
     for (const int code : given)
         EXPECT_EQ(Was_Not_Taken(Outcome_Codes::State_Of(static_cast<quint8>(code))),
                   codes.Outcome_Of(static_cast<quint8>(code)).state == Row_State::Refused);

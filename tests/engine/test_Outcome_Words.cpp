@@ -55,6 +55,8 @@ INSTANTIATE_TEST_SUITE_P(Each, Outcome_In_Words, testing::Values(
     Case{"Repeated", Row_State::Repeated, {}, "skipped: repeated", "–", false},
     Case{"Skipped", Row_State::Skipped, {}, "skipped", "–", false},
     Case{"Invalid_Number", Row_State::Invalid_Number, {}, "skipped: invalid number", "–", false},
+    Case{"Not_Filled", Row_State::Not_Filled, {}, "skipped: not filled", "–", false},
+    Case{"Not_Filled_For_A_Reason", Row_State::Not_Filled, {Kind::Words, -1, "{{Name}}\nis empty"}, "skipped: {{Name}} is empty", "–", false},
     Case{"A_Cause_Without_A_Refusal", Row_State::Sent, {Kind::Cms, 500, {}}, "sent", "✓", false}),
     [](const auto& row) { return std::string(row.param.name); });
 // clang-format on
@@ -62,7 +64,7 @@ INSTANTIATE_TEST_SUITE_P(Each, Outcome_In_Words, testing::Values(
 TEST(Outcome_Words, The_Usual_Ones_Are_One_Of_Each_State)
 {
     const QStringList usual = Usual_Signed_Outcomes();
-    ASSERT_EQ(usual.size(), static_cast<int>(Row_State::Invalid_Number) + 1);
+    ASSERT_EQ(usual.size(), static_cast<int>(Row_State::Not_Filled) + 1);
     for (int state = 0; state < usual.size(); ++state)
         EXPECT_TRUE(usual.at(state).startsWith(Signed_Outcome({static_cast<Row_State>(state), {}}))) << state;
     EXPECT_TRUE(usual.contains(QStringLiteral("✗ refused (500: unknown error)")));
