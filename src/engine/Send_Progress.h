@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <functional>
 
 // What a send job shows while it runs, as the job sees it: no widgets, only steps. The job calls every operation from
 // its own thread, possibly in any order and more than once. The effects appear in that order; all but Show_Item are
@@ -20,6 +21,9 @@ public:
     virtual void Show_Current(const QString& text) = 0;
     /// Shows what the job waits for in its place, until another text or the next item is shown.
     virtual void Show_Waiting(const QString& text) { Show_Current(text); }
+    /// How words about the time that is left are made, until End. They are asked for on the interface thread, as often
+    /// as they may have changed, and are empty where nothing can be said. A display without room for them leaves them.
+    virtual void Tell_Time_Left(std::function<QString()> /*words*/) {}
     virtual void End() = 0;
 
     /// A pause between two batches: nothing is being sent, and the activity stands still.

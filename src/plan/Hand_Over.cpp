@@ -52,6 +52,13 @@ QByteArray Utf_16_Big_Endian(const QString& text)
     return bytes;
 }
 
+// ITU-T E.164 with + in front; a national number stays as it is, since nobody knows its country.
+QByteArray Number_For_Providers(const QString& number)
+{
+    const Handset::Address address = Handset::Destination_Of(number.toStdString());
+    return (address.m_international ? "+" : "") + QByteArray::fromStdString(address.m_digits);
+}
+
 // A number with 00 in front is an international one and goes without it.
 QByteArray Recipient_Lines(const QString& number)
 {
@@ -71,7 +78,7 @@ Hand_Over_Trouble Hand_Over::Begin()
         return {folder + QLatin1String(" is not used"), QStringLiteral("it holds an earlier hand-over")};
     if (!Make_Folder_If_Missing(folder, Only_The_User) || !Make_Folder_If_Missing(spool, Only_The_User))
         return Not_Written(spool);
-    m_list = "row,number,text,alphabet,parts\n";
+    m_list = "\xEF\xBB\xBFnumber,text,encoding,parts\r\n"; // with the mark by which spreadsheets know UTF-8
     return {};
 }
 
@@ -79,8 +86,8 @@ Hand_Over_Trouble Hand_Over::Add(const Planned_Row& row, const Row_Preview& prev
 {
     const QString text = Text_As_Written(row, preview);
     const bool is_unicode = preview.alphabet == Job_Alphabet::Ucs2;
-    m_list += QByteArray::number(row.row) + ',' + row.number.toUtf8() + ',' + Csv_Field(text) + ',' +
-              (is_unicode ? "unicode" : "gsm") + ',' + QByteArray::number(preview.parts) + '\n';
+    m_list += Number_For_Providers(row.number) + ',' + Csv_Field(text) + ',' + (is_unicode ? "unicode" : "gsm") + ',' +
+              QByteArray::number(preview.parts) + "\r\n";
     const QString path =
         QStringLiteral("%1/spool/corvane-%2").arg(m_folder, QString::number(row.row).rightJustified(7, u'0'));
     return Replace_File(path, Spool_File(row, preview)) ? Hand_Over_Trouble() : Not_Written(path);

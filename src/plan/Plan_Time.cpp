@@ -13,10 +13,18 @@ qint64 Seconds_For(const Planned_Messages& messages, const Plan_Manner& manner)
     qint64 seconds = messages.parts * (manner.fixed_waits ? Seconds_For_A_Fixed_Part : Seconds_For_A_Judged_Part);
     if (manner.fixed_waits)
         seconds += messages.of_several_parts * Seconds_After_Fixed_Parts;
-    if (manner.batch > 0 && messages.messages > 0)
-        seconds +=
-            static_cast<qint64>(static_cast<double>((messages.messages - 1) / manner.batch) * manner.pause_seconds);
-    return seconds;
+    const int pauses = Pauses_Between(static_cast<int>(messages.messages), manner);
+    return seconds + static_cast<qint64>(pauses * manner.pause_seconds);
+}
+
+double Usual_Seconds_For_A_Part(bool fixed_waits)
+{
+    return static_cast<double>(fixed_waits ? Seconds_For_A_Fixed_Part : Seconds_For_A_Judged_Part);
+}
+
+int Pauses_Between(int messages, const Plan_Manner& manner)
+{
+    return manner.batch > 0 && manner.pause_seconds > 0 && messages > 0 ? (messages - 1) / manner.batch : 0;
 }
 
 qint64 Seconds_For(const std::vector<int>& parts_of_messages, const Plan_Manner& manner)

@@ -13,6 +13,7 @@ constexpr unsigned Only_The_User = 0600;
 constexpr qint64 Largest_File = 1 << 16;
 
 constexpr char Group[] = "Confirming";
+constexpr char Not_Wanted[] = "false";
 
 // The fields, each with the name that it has in the file.
 constexpr std::pair<const char*, bool Confirm_Choices::*> Fields[] = {
@@ -33,6 +34,11 @@ bool Is_Of_No_Use(const QString& path)
     const QSettings settings(path, QSettings::IniFormat);
     const bool is_empty = settings.allKeys().isEmpty();
     return is_empty || settings.status() != QSettings::NoError;
+}
+
+QString Key_Of_Notice(const QString& name)
+{
+    return QStringLiteral("Notices/") + name;
 }
 
 bool Is_Written(QSettings& settings)
@@ -65,11 +71,14 @@ std::optional<Confirm_Choices> Program_Settings::Remembered() const
     return choices;
 }
 
+bool Program_Settings::Make_Usable() const
+{
+    return Is_Usable() && Has_No_Lock_Left(m_path) && (!Is_Of_No_Use(m_path) || Remove_File(m_path));
+}
+
 bool Program_Settings::Remember(const Confirm_Choices& choices) const
 {
-    if (!Is_Usable() || !Has_No_Lock_Left(m_path))
-        return false;
-    if (Is_Of_No_Use(m_path) && !Remove_File(m_path))
+    if (!Make_Usable())
         return false;
     QSettings settings(m_path, QSettings::IniFormat);
     for (const auto& [name, field] : Fields)
@@ -79,12 +88,37 @@ bool Program_Settings::Remember(const Confirm_Choices& choices) const
 
 bool Program_Settings::Forget() const
 {
+    return Remove_Key(QLatin1String(Group));
+}
+
+bool Program_Settings::Wants_Notice(const QString& name) const
+{
+    if (Is_Missing(m_path) || !Is_Usable() || Is_Of_No_Use(m_path))
+        return true;
+    const QSettings settings(m_path, QSettings::IniFormat);
+    return settings.value(Key_Of_Notice(name)).toString() != QLatin1String(Not_Wanted);
+}
+
+bool Program_Settings::Want_Notice(const QString& name, bool is_wanted) const
+{
+    if (is_wanted)
+        return Remove_Key(Key_Of_Notice(name));
+    if (!Make_Usable())
+        return false;
+    QSettings settings(m_path, QSettings::IniFormat);
+    settings.setValue(Key_Of_Notice(name), QLatin1String(Not_Wanted));
+    return Is_Written(settings) && Set_Permissions(m_path, Only_The_User);
+}
+
+// A key with all below it.
+bool Program_Settings::Remove_Key(const QString& key) const
+{
     if (Is_Missing(m_path))
         return true;
     if (!Is_Usable() || !Has_No_Lock_Left(m_path))
         return false;
     QSettings settings(m_path, QSettings::IniFormat);
-    settings.remove(QLatin1String(Group));
+    settings.remove(key);
     const bool is_empty = settings.allKeys().isEmpty();
     return Is_Written(settings) && (!is_empty || Remove_File(m_path));
 }

@@ -28,7 +28,14 @@ public:
     /// The file goes with the last that it holds. Answers no when it stays.
     bool Forget() const;
 
+    /// Whether a notice, by its name, is to be shown: each one is until it is not wanted.
+    bool Wants_Notice(const QString& name) const;
+    /// Answers no when the file cannot be written.
+    bool Want_Notice(const QString& name, bool is_wanted) const;
+
 private:
+    bool Make_Usable() const;
+    bool Remove_Key(const QString& key) const;
     bool Is_Usable() const;
 
     QString m_path;

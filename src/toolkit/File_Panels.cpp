@@ -68,6 +68,15 @@ std::optional<QString> Ask_For_File_To_Open(QWidget* over)
     return panel.Ask();
 }
 
+std::optional<QString> Ask_For_Folder(QWidget* over)
+{
+    File_Panel panel(over);
+    panel.setAcceptMode(QFileDialog::AcceptOpen);
+    panel.setFileMode(QFileDialog::Directory);
+    panel.setOption(QFileDialog::ShowDirsOnly);
+    return panel.Ask();
+}
+
 std::optional<QString> Ask_For_File_To_Save(QWidget* over, const QString& extension)
 {
     return Save_Panel(over, extension).Ask();

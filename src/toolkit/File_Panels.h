@@ -5,10 +5,14 @@
 
 class QWidget;
 
-// The one door for asking the user for a file. Interface thread only; both functions run until the panel is closed.
+// The one door for asking the user for a file or a folder. Interface thread only; each function runs until the panel is
+// closed.
 
 /// The path of an existing file that the user picked; nothing when the panel was cancelled.
 std::optional<QString> Ask_For_File_To_Open(QWidget* over);
+
+/// The path of an existing folder, which the user may have made in the panel; nothing when it was cancelled.
+std::optional<QString> Ask_For_Folder(QWidget* over);
 
 /// The path to write to; nothing when the panel was cancelled. A name typed without the extension (given without its
 /// dot) gets it, so that the panel's own question is about the very file that will be replaced.

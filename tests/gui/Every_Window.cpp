@@ -9,6 +9,7 @@
 #include "texts/Confirmed_Texts.h"
 #include "toolkit/PleaseWait_Modeless.h"
 #include "windows/exclusion/Exclusion_Wizard.h"
+#include "windows/handover/Hand_Over_Wnd.h"
 #include "windows/jobs/Receipt_Wnd.h"
 #include "windows/jobs/Unfinished_Strip.h"
 #include "windows/jobs/Unknown_Rows_Sheet.h"
@@ -37,12 +38,16 @@ namespace {
 
 const char* const Longest_Count = "1600 Characters (Each Message will now consume 23 SMS)";
 
+const char* const Longest_Promise = "1000000 recipients, 1000000 messages, about 23 h 59 min, until 30 September 2026, "
+                                    "23:59, to be kept: sent items and "
+                                    "templates and a receipt\nThat is much for one phone.";
+
 QWidget& Main_Window_With_Everything(CorvaneAppDelegate& main)
 {
     In<QTableView>(main, "idExclusionTableView").show();
     In<QCheckBox>(main, "_Delayed_Delivry_Chk").setChecked(true);
     In<QCheckBox>(main, "_Confirm_Chk").setChecked(true);
-    for (const char* name : {"Select_Not_Taken", "Keep_Not_Taken", "Show_Receipt", "plain_offer"})
+    for (const char* name : {"Select_Not_Taken", "Keep_Not_Taken", "Show_Receipt", "plain_offer", "Other_Ways_Btn"})
         In<QWidget>(main, name).show();
     Unfinished_Job job;
     job.id = "20261121-101500-3f9a";
@@ -157,6 +162,7 @@ const std::vector<Sight>& Every_Window()
           {"_gsm_list_count", "Total Numbers : 1000000"},
           {"_Plain_Offer_Text", QString(Texts::Causes::Flash_Refused) + ' ' + Texts::Confirmed::Plain_May_Pass},
           {"_Device_Name_Ticker", "usb-Sierra_Wireless_EM7455-if03"},
+          {"_Promise_Lbl", Longest_Promise},
           {"_Exclusion_Trouble", Exclusion_Trouble({{}, QStringList(5, QString(50, u'W'))})}}},
         {"help", Made_Over<Help_Wnd>},
         {"import question", Made_Over<Load_Num_Info>},
@@ -168,7 +174,14 @@ const std::vector<Sight>& Every_Window()
          {{"_curr_msg_cnt", "Initializing mobile phone device to send sms ..."},
           {"_tot_msg_cnt", "1000000"},
           {"_current_send_msg", Texts::Causes::Phone_Pin_Wanted},
+          {"_Time_Left_Lbl", "about 23 h 59 min left, until 30 September 2026, 23:59"},
           {"_pause_timer", "Pausing the process for 1 Hour 59 Minute 59 Seconds."}}},
+        {"other ways to send",
+         [](CorvaneAppDelegate& main) -> QWidget& {
+             return *new Hand_Over_Wnd([] { return Hand_Over_Wnd::Plan(); }, Program_Settings({}), &main);
+         },
+         {{"_Hand_Over_Result", "Handed over: 1000000 messages, in /home/somebody/Documents/Newsletter for the "
+                                "northern region. Nothing was sent. Recipients left out: 1000000."}}},
         {"please wait", Made_Over<PleaseWait_Modeless>},
         {"fill", Shared<Fill_Msg_In_List>},
         {"before sending", Shared<Send_Msg_Info>},

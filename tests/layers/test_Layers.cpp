@@ -96,6 +96,7 @@ TEST(Layer_Rules, The_Table_Goes_Upwards_Only)
                                                "windows/phone",
                                                "windows/jobs",
                                                "windows/contacts",
+                                               "windows/handover",
                                                "windows/main",
                                                "app"}));
 }

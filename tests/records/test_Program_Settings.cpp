@@ -56,6 +56,37 @@ TEST_F(Remembered_Settings, Leave_What_Others_Have_Written_In_The_File)
     EXPECT_EQ(m_settings.Remembered(), std::nullopt);
 }
 
+TEST_F(Remembered_Settings, A_Notice_Is_Wanted_Until_It_Is_Not_And_The_File_Goes_With_The_Last_Wish)
+{
+    EXPECT_TRUE(m_settings.Wants_Notice("One"));
+    EXPECT_TRUE(m_settings.Want_Notice("One", true));
+    EXPECT_FALSE(QFile::exists(m_path));
+    ASSERT_TRUE(m_settings.Want_Notice("One", false));
+    EXPECT_EQ(Permissions_Of(m_path), 0600U);
+    EXPECT_FALSE(Program_Settings(m_path).Wants_Notice("One"));
+    EXPECT_TRUE(m_settings.Wants_Notice("Other"));
+    EXPECT_EQ(m_settings.Remembered(), std::nullopt);
+    ASSERT_TRUE(m_settings.Remember(One));
+    EXPECT_FALSE(m_settings.Wants_Notice("One"));
+    EXPECT_TRUE(m_settings.Want_Notice("One", true));
+    EXPECT_EQ(m_settings.Remembered(), One);
+    EXPECT_TRUE(m_settings.Want_Notice("One", false));
+    EXPECT_TRUE(m_settings.Forget());
+    EXPECT_FALSE(m_settings.Wants_Notice("One"));
+    EXPECT_TRUE(m_settings.Want_Notice("One", true));
+    EXPECT_FALSE(QFile::exists(m_path));
+}
+
+TEST_F(Remembered_Settings, A_Notice_Is_Wanted_Where_The_File_Is_Of_No_Use)
+{
+    Write_Bytes(m_path, QByteArray("\x00\xFF[=", 4));
+    EXPECT_TRUE(m_settings.Wants_Notice("One"));
+    QFile::remove(m_path);
+    ASSERT_TRUE(QDir().mkdir(m_path));
+    EXPECT_TRUE(m_settings.Wants_Notice("One"));
+    EXPECT_FALSE(m_settings.Want_Notice("One", false));
+}
+
 TEST_F(Remembered_Settings, Are_Written_Although_A_Killed_Program_Left_Its_Lock)
 {
     Write_Bytes(m_path + ".lock", "not a lock at all");

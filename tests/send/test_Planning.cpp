@@ -86,9 +86,9 @@ TEST_F(Planning, A_Hand_Over_Is_A_List_And_A_Spool)
                                       "Ann", "--flash", "--message", "Say \"hi\", \xC3\xBC"});
     EXPECT_EQ(run.status, 1);
     EXPECT_EQ(run.Of("row").size(), 3);
-    EXPECT_EQ(Bytes("out/list.csv"), "row,number,text,alphabet,parts\n"
-                                     "1,00447700900100,\"Say \"\"hi\"\", \xC3\xBC\",gsm,1\n"
-                                     "2,0170,\"Say \"\"hi\"\", \xC3\xBC\",gsm,1\n");
+    EXPECT_EQ(Bytes("out/list.csv"), "\xEF\xBB\xBFnumber,text,encoding,parts\r\n"
+                                     "+447700900100,\"Say \"\"hi\"\", \xC3\xBC\",gsm,1\r\n"
+                                     "0170,\"Say \"\"hi\"\", \xC3\xBC\",gsm,1\r\n");
     EXPECT_EQ(Bytes("out/spool/corvane-0000001"), "To: 447700900100\nFlash: yes\nAlphabet: ISO\n\nSay \"hi\", \xFC");
     EXPECT_EQ(Bytes("out/spool/corvane-0000002"),
               "To: 0170\nTo_TOA: unknown\nFlash: yes\nAlphabet: ISO\n\nSay \"hi\", \xFC");

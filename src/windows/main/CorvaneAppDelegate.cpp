@@ -25,6 +25,7 @@
 #include "windows/main/Job_Follow_Up.h"
 #include "windows/main/Recipient_Rows.h"
 #include "windows/main/Send_Modeless.h"
+#include "windows/main/Send_Promise.h"
 #include "windows/main/Send_Runner.h"
 #include "windows/phone/Connection_Info.h"
 #include "windows/phone/Phone_List_Wnd.h"
@@ -113,6 +114,7 @@ bool CorvaneAppDelegate::awakeFromNib()
         std::make_unique<Job_Follow_Up>(*this, *m_work, *m_send_runner, *m_ui->_Job_Strip, *m_ui->Show_Receipt);
     m_contacts = std::make_unique<Contact_Desk>(
         *this, *m_work, Contact_Desk::Controls{*m_ui->Insert_Field, *m_ui->idTableView, *m_ui->_Contacts_Strip});
+    Make_Promise();
     Main_App_wnd = this;
     Show_Device_In_Ticker();
     return true;

@@ -21,6 +21,7 @@ class QTableView;
 class Recipient_Rows;
 class Row_Table_Model;
 class Send_Modeless;
+class Send_Promise;
 class Send_Runner;
 class Window_Work;
 
@@ -153,6 +154,7 @@ protected:
 
 private:
     void Connect_Controls();
+    void Make_Promise();
     void Give_Tables_Their_Models();
     void Show_Device_In_Ticker();
     void Remember_Composer_Text();
@@ -195,4 +197,5 @@ private:
     std::unique_ptr<Contact_Desk> m_contacts;
     PleaseWait_Modeless* m_please_wait = nullptr;
     std::unique_ptr<Window_Work> m_work;
+    std::unique_ptr<Send_Promise> m_promise; // none before the start state is built
 };

@@ -6,6 +6,7 @@
 #include "toolkit/Row_Table_Model.h"
 #include "ui_CorvaneAppDelegate.h"
 #include "windows/main/CorvaneAppDelegate.h"
+#include "windows/main/Send_Promise.h"
 
 #include <utility>
 
@@ -21,7 +22,9 @@ void CorvaneAppDelegate::Create_Exclusion_List(const QString& number)
     const QString trimmed_number = Trim_Str(number);
     if (trimmed_number.isEmpty())
         return;
+    m_promise->List_Will_Change();
     nsExclusionListDataObject.Append(trimmed_number);
+    m_promise->Changed();
     m_exclusion_rows->Reload();
 }
 
@@ -55,6 +58,7 @@ void CorvaneAppDelegate::Fill_Exclusion_Num_List()
 void CorvaneAppDelegate::Take_Exclusions(const Exclusion_Files::Applied_Numbers& applied)
 {
     Number_List before = std::exchange(nsExclusionListDataObject, applied.numbers);
+    m_promise->Changed();
     m_exclusion_rows->Reload();
     Show_Exclusion_Trouble(Exclusion_Trouble(applied));
     Run_On_Worker([&] { before.Clear(); }); // maybe a million

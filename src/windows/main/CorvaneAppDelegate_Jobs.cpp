@@ -1,12 +1,17 @@
 #include "engine/Confirmed_End.h"
 #include "engine/Send_Cause.h"
+#include "platform/Waiting.h"
+#include "records/Data_Paths.h"
 #include "texts/Confirmed_Texts.h"
 #include "ui_CorvaneAppDelegate.h"
 #include "windows/main/Composer.h"
 #include "windows/main/CorvaneAppDelegate.h"
 #include "windows/main/Job_Follow_Up.h"
+#include "windows/main/Send_Promise.h"
+#include "windows/main/Send_Runner.h"
 
-// What is left of jobs that confirm each message: receipts, jobs that have not ended, and another kind of message.
+// What a job comes to before it is sent, and what is left of jobs that confirm each message: receipts, jobs that have
+// not ended, and another kind of message.
 
 namespace {
 
@@ -14,6 +19,18 @@ constexpr int Normal_Message_Index = 1;
 constexpr int Class_Refused = 145; // 3GPP TS 23.040, 9.2.3.22
 
 } // namespace
+
+void CorvaneAppDelegate::Make_Promise()
+{
+    m_promise = std::make_unique<Send_Promise>(
+        Send_Promise::Controls{m_ui->_Promise_Lbl, m_ui->Other_Ways_Btn, m_ui->_sent_btn}, *this,
+        m_send_runner->Pace_So_Far(), Program_Settings(Settings_Path), Local_Time);
+    for (QWidget* control : std::initializer_list<QWidget*>{
+             m_ui->_Unicode_SMS_Chk, m_ui->_Skip_Duplicate_Chk, m_ui->_Exclusion_Chk, m_ui->_Save_Sent_Item_Chk,
+             m_ui->_Save_Templates_Chk, m_ui->_Confirm_Chk, m_ui->_Keep_Receipt_Chk, m_ui->_Delayed_Delivry_Chk,
+             m_ui->_delayed_msg_count_combo, m_ui->_delayed_time_combo})
+        m_promise->Depend_On(control);
+}
 
 // A rest that would be refused like the message before it is not offered to be sent as it is.
 void CorvaneAppDelegate::Confirmed_Job_Ended(const Confirmed_End& end)

@@ -22,6 +22,7 @@
 #include "windows/main/List_Cells.h"
 #include "windows/main/Load_Num_Info.h"
 #include "windows/main/Recipient_Rows.h"
+#include "windows/main/Send_Promise.h"
 #include "windows/stores/Open_Export_Log.h"
 #include "windows/stores/Store_Globals.h"
 
@@ -49,6 +50,7 @@ void CorvaneAppDelegate::Create_Num_Msg_List(const QString& number, const QStrin
     const QString trimmed_number = Trim_Str(number);
     if (trimmed_number.isEmpty())
         return;
+    m_promise->List_Will_Change();
     nsListDataObject.Append(trimmed_number, message_val);
     Recipient_Changed(nsListDataObject.Count() - 1);
     Update_List_Count();
@@ -168,6 +170,7 @@ void CorvaneAppDelegate::Remove_Recipients(const std::function<void(Recipient_Li
 Recipient_List CorvaneAppDelegate::Exchange_List(Recipient_List list)
 {
     std::swap(nsListDataObject, list);
+    m_promise->Changed();
     Forget_Outcomes_Of_Job();
     Look_For_Not_Taken();
     return list;
@@ -261,6 +264,7 @@ void CorvaneAppDelegate::Replace_Recipients(Recipient_List recipients)
 
 void CorvaneAppDelegate::Replace_Recipient(int row, const QString& number, const QString& message)
 {
+    m_promise->List_Will_Change();
     nsListDataObject.Replace(row, number, message);
     Recipient_Changed(row);
     Redisplay_Recipients();

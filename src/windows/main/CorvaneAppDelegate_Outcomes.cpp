@@ -2,6 +2,7 @@
 #include "ui_CorvaneAppDelegate.h"
 #include "windows/main/CorvaneAppDelegate.h"
 #include "windows/main/Recipient_Rows.h"
+#include "windows/main/Send_Promise.h"
 
 #include <QHeaderView>
 #include <QItemSelectionModel>
@@ -56,6 +57,7 @@ void CorvaneAppDelegate::Take_Outcomes(int first_row, const QByteArray& marks, c
 void CorvaneAppDelegate::End_Outcomes()
 {
     m_takes_outcomes = false;
+    m_promise->Changed(); // it is known better now how long a message takes
     Look_For_Not_Taken();
 }
 
@@ -77,6 +79,7 @@ std::optional<Row_Outcome> CorvaneAppDelegate::Outcome_Of(int row) const
 // A new recipient, or one that was changed in its place. It costs the same however long the list is.
 void CorvaneAppDelegate::Recipient_Changed(int row)
 {
+    m_promise->Changed();
     if (!nsListDataObject.Has_Marks())
         return;
     Forget_Outcomes_Of_Job();

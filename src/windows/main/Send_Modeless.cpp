@@ -16,6 +16,7 @@
 #include <algorithm>
 #include <cmath>
 #include <exception>
+#include <utility>
 
 namespace {
 
@@ -67,6 +68,7 @@ void Send_Modeless::Make_Room_For_Texts()
     Keep_Room_For(*m_ui->_curr_msg_cnt, Texts::Sending::Preparing);
     Keep_Room_For(*m_ui->_current_send_msg, Texts::Causes::Phone_Pin_Wanted); // the longest that a job waits for
     Keep_Room_For(*m_ui->_pause_timer, QStringLiteral("Pausing the process for 1 Hour 59 Minute 59 Seconds."));
+    Keep_Room_For(*m_ui->_Time_Left_Lbl, tr("about 23 h 59 min left, until 30 September 2026, 23:59"));
     for (QWidget* widget : {static_cast<QWidget*>(m_ui->_current_send_label),
                             static_cast<QWidget*>(m_ui->_current_send_msg), static_cast<QWidget*>(m_ui->_Tot_Progress)})
         Keep_Room_When_Hidden(*widget);
@@ -82,6 +84,8 @@ void Send_Modeless::Begin_Preparing(int total)
         m_ui->_Curr_Progress->setRange(0, Activity_End);
         m_ui->_Curr_Progress->setValue(0);
         m_ui->_pause_timer->clear();
+        m_time_left = {};
+        Show_Time_Left();
         m_ui->_current_send_msg->clear();
         m_ui->_current_send_label->setText(m_item_caption);
         m_ui->_tot_msg_cnt->setText(QString::number(total));
@@ -115,6 +119,7 @@ void Send_Modeless::Show_Item(int position, int total, const QString& number)
         m_ui->_current_send_label->setText(m_item_caption);
         m_ui->_Curr_Progress->setValue(Activity_End);
         Tell_State(number);
+        Show_Time_Left();
     };
     if (Is_Interface_Thread() || m_is_item_on_its_way.exchange(true))
         Run_On_Interface_Thread(show);
@@ -138,7 +143,22 @@ void Send_Modeless::Show_In_Place_Of_Number(const QString& text, bool is_waiting
         m_ui->_current_send_label->setText(is_waiting ? tr("Now :") : m_item_caption);
         m_ui->_current_send_msg->setText(text);
         Tell_State(text);
+        Show_Time_Left();
     });
+}
+
+void Send_Modeless::Tell_Time_Left(std::function<QString()> words)
+{
+    Run_On_Interface_Thread([&] {
+        m_time_left = std::move(words);
+        Show_Time_Left();
+    });
+}
+
+// Made anew with everything else that is shown, and with each step of the activity bar, since time goes by.
+void Send_Modeless::Show_Time_Left()
+{
+    m_ui->_Time_Left_Lbl->setText(m_time_left ? m_time_left() : QString());
 }
 
 void Send_Modeless::End()
@@ -146,6 +166,7 @@ void Send_Modeless::End()
     Run_On_Interface_Thread([this] {
         Close_Message_Boxes(this);
         End_Sheet();
+        m_time_left = {};
     });
 }
 
@@ -164,6 +185,7 @@ void Send_Modeless::Show_Pause(const QString& text)
         if (m_ui->_pause_timer->text().isEmpty())
             Tell_State(text); // not repeated every second
         m_ui->_pause_timer->setText(text);
+        Show_Time_Left();
     });
 }
 
@@ -172,6 +194,7 @@ void Send_Modeless::End_Pause()
     Run_On_Interface_Thread([this] {
         Show_Current_Item(true);
         m_ui->_pause_timer->clear();
+        Show_Time_Left();
     });
     startTimerThread();
 }
@@ -217,6 +240,7 @@ void Send_Modeless::Timer_Curr_Prg_Send_Modeless()
     try {
         const int value = m_ui->_Curr_Progress->value();
         m_ui->_Curr_Progress->setValue((value == Activity_End ? 0 : value) + Activity_Step);
+        Show_Time_Left();
     } catch (const std::exception& failure) {
         Show_NSLog_Message(QString::fromLocal8Bit(failure.what()));
         Show_NSLog_Message(QStringLiteral("Timer curr prgs send modeless catch"));

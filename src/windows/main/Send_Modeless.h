@@ -31,6 +31,7 @@ public:
     void Show_Current(const QString& text) override;
     void Show_Waiting(const QString& text) override;
     /// Hides the window. A stop question that is still open counts as answered No.
+    void Tell_Time_Left(std::function<QString()> words) override;
     void End() override;
     void Begin_Pause() override;
     void Show_Pause(const QString& text) override;
@@ -50,14 +51,16 @@ protected:
 private:
     void Make_Room_For_Texts();
     void Show_Stop_Asked_For(bool is_asked_for);
+    void Show_Time_Left();
     void Tell_State(const QString& detail);
     void Show_Sending_Controls(bool visible);
     void Show_Current_Item(bool visible);
     void Show_In_Place_Of_Number(const QString& text, bool is_waiting);
 
     std::unique_ptr<Ui::Send_Modeless> m_ui;
-    QString m_stop_caption; // as it was before being pressed
-    QString m_item_caption; // before the number, as it is unless the job waits
+    QString m_stop_caption;               // as it was before being pressed
+    QString m_item_caption;               // before the number, as it is unless the job waits
+    std::function<QString()> m_time_left; // in words; none between two jobs
     QTimer msend_modTimer{this};
     std::atomic<bool> m_is_item_on_its_way{false}; // to the interface thread, which has not shown it yet
 };

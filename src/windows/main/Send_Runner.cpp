@@ -14,22 +14,13 @@
 #include "toolkit/Main_Window.h"
 #include "toolkit/Message_Boxes.h"
 #include "windows/main/Send_Checks.h"
+#include "windows/main/Timed_Progress.h"
 
 #include <QScopeGuard>
 #include <exception>
 #include <utility>
 
 namespace {
-
-// What is to be shown while a job runs comes by its progress.
-class Silent_Watcher : public Confirmed_Watcher
-{
-    void Row_Done(int, const Row_Details&) override {}
-    void Held(const QString&) override {}
-    void Goes_On() override {}
-    void Report_Came(int, int, int, int) override {}
-    void Still_Waiting(int) override {}
-};
 
 std::optional<Confirmed_Options> Confirmed_Options_Of(const Send_Order& order)
 {
@@ -114,11 +105,14 @@ void Send_Runner::Send_SMS_Thread(Send_Order& order, const Confirmed& confirmed)
 {
     Confirmed_End end;
     try {
+        Timed_Progress progress(m_progress, order, m_pace);
+        m_timed = &progress;
+        const auto forget = qScopeGuard([this] { m_timed = nullptr; });
         if (confirmed) {
-            Walk_Confirmed(order, *confirmed, end);
+            Walk_Confirmed(order, *confirmed, progress, end);
         } else {
             Fixed_Wait_Manner manner(order, m_session);
-            Send_Job(order, manner, m_progress, *this, Stop_SMS_Sending_Now).Send_SMS_Func();
+            Send_Job(order, manner, progress, *this, Stop_SMS_Sending_Now).Send_SMS_Func();
         }
     } catch (const std::exception& failure) {
         Show_NSLog_Message(QStringLiteral("The send job ended early: ") + QString::fromLocal8Bit(failure.what()));
@@ -131,18 +125,18 @@ void Send_Runner::Send_SMS_Thread(Send_Order& order, const Confirmed& confirmed)
     });
 }
 
-void Send_Runner::Walk_Confirmed(Send_Order& order, const Confirmed_Options& options, Confirmed_End& end)
+void Send_Runner::Walk_Confirmed(Send_Order& order, const Confirmed_Options& options, Timed_Progress& progress,
+                                 Confirmed_End& end)
 {
     Confirmed_Options handing_out = options;
     handing_out.hands_out_record = true;
     m_refused_kind.reset();
-    Silent_Watcher watcher;
-    Confirmed_Manner manner(order, handing_out, m_progress, watcher, Stop_SMS_Sending_Now);
+    Confirmed_Manner manner(order, handing_out, progress, progress, Stop_SMS_Sending_Now);
     const auto hand_out = qScopeGuard([&] {
         end.record = manner.Record();
         end.refused_kind = m_refused_kind;
     });
-    Send_Job(order, manner, m_progress, *this, Stop_SMS_Sending_Now).Send_SMS_Func();
+    Send_Job(order, manner, progress, *this, Stop_SMS_Sending_Now).Send_SMS_Func();
 }
 
 void Send_Runner::Tell(const QString& text)
@@ -158,6 +152,7 @@ void Send_Runner::Exclusions_Were_Read(const Exclusion_Files::Applied_Numbers& a
 
 void Send_Runner::Row_Ended(int index, const Row_Outcome& outcome)
 {
+    m_timed->Row_Ended(outcome);
     m_refused_kind.reset();
     if (outcome.state == Row_State::Refused && Cause_Row(outcome.cause).offers_plain)
         m_refused_kind = outcome.cause;

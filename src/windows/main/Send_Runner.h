@@ -3,6 +3,7 @@
 #include "engine/Confirmed_Manner.h"
 #include "engine/Send_Listener.h"
 #include "engine/Send_Order.h"
+#include "plan/Plan_Pace.h"
 #include "windows/main/Outcome_Post.h"
 
 #include <memory>
@@ -11,6 +12,7 @@
 class MFCSMS;
 class Main_Window;
 class Send_Progress;
+class Timed_Progress;
 struct Confirmed_End;
 
 // Starts send jobs, one at a time, each on a worker of its own, and shows the user what they report; sms_thread_var is
@@ -29,13 +31,17 @@ public:
     /// of its recipients only if it is the job's.
     void Send_Confirmed(Send_Order order, const Confirmed_Options& options, bool is_the_list);
 
+    /// What the parts of this session's jobs have needed.
+    const Plan_Pace& Pace_So_Far() const { return m_pace; }
+
 private:
     class Claim;
     using Confirmed = std::optional<Confirmed_Options>; // nothing for a job of fixed waits
 
     void Start(std::shared_ptr<Claim> claim, Send_Order order, Confirmed confirmed, bool is_the_list);
     void Send_SMS_Thread(Send_Order& order, const Confirmed& confirmed);
-    void Walk_Confirmed(Send_Order& order, const Confirmed_Options& options, Confirmed_End& end);
+    void Walk_Confirmed(Send_Order& order, const Confirmed_Options& options, Timed_Progress& progress,
+                        Confirmed_End& end);
 
     void Tell(const QString& text) override;
     void Row_Ended(int index, const Row_Outcome& outcome) override;
@@ -45,5 +51,7 @@ private:
     MFCSMS& m_session;
     Send_Progress& m_progress;
     Outcome_Post m_outcomes;
+    Plan_Pace m_pace;
+    Timed_Progress* m_timed = nullptr;          // of the job that runs; on its thread
     std::optional<Device_Cause> m_refused_kind; // by the message that the job reached last; on its thread
 };

@@ -38,6 +38,7 @@ public:
         m_progress.Show_Pause(text);
         Note(text);
     }
+    void Tell_Time_Left(std::function<QString()> words) override { m_progress.Tell_Time_Left(std::move(words)); }
     void Begin_Sending() override { Pass_On(&Send_Progress::Begin_Sending, "sending"); }
     void End() override { Pass_On(&Send_Progress::End, "end"); }
     void Begin_Pause() override { Pass_On(&Send_Progress::Begin_Pause, "pause"); }

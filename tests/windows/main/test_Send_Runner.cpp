@@ -139,3 +139,36 @@ TEST_F(Send_Runner_Test, A_Million_Recipients_Cost_The_Job_No_Time_To_Begin)
     EXPECT_LT(Now_Seconds() - begin, 10.0);
     EXPECT_EQ(m_phone.Inbox().size(), 1U);
 }
+
+TEST_F(Send_Runner_Test, Once_A_Message_Was_Sent_The_Window_Says_How_Long_The_Rest_Will_Take)
+{
+    QStringList said;
+    m_progress.m_at_step = [&](const QString& step) {
+        if (step.contains(" / 3 ")) {
+            Run_On_Interface_Thread([&] { said.append(In_Progress_Window<QLabel>("_Time_Left_Lbl").text()); });
+        }
+    };
+    Send_And_Read({Completed});
+    ASSERT_EQ(said.size(), 3);
+    EXPECT_EQ(said.at(0), "");
+    EXPECT_TRUE(said.at(1).startsWith("less than a minute left, until ")) << qPrintable(said.at(1));
+    EXPECT_TRUE(said.at(2).startsWith("less than a minute left, until ")) << qPrintable(said.at(2));
+    EXPECT_TRUE(m_runner.Pace_So_Far().Has_Measured(true));
+    EXPECT_GE(m_runner.Pace_So_Far().Seconds_For_A_Part(true), 12 / Usual_Pace * 0.9);
+    m_progress.m_at_step = {};
+}
+
+TEST_F(Send_Runner_Test, The_Time_That_Is_Left_Stays_In_Sight_During_A_Pause)
+{
+    Pause_After_Each("2", "10 Seconds");
+    QStringList said;
+    m_progress.m_at_step = [&](const QString& step) {
+        if (step.startsWith("Pausing"))
+            Run_On_Interface_Thread([&] { said.append(In_Progress_Window<QLabel>("_Time_Left_Lbl").text()); });
+    };
+    Send_And_Read({Completed});
+    ASSERT_EQ(said.size(), 10);
+    for (const QString& words : said)
+        EXPECT_TRUE(words.startsWith("less than a minute left, until ")) << qPrintable(words);
+    m_progress.m_at_step = {};
+}

@@ -1,0 +1,173 @@
+#include "windows/main/Send_Promise.h"
+
+#include "device/Chosen_Device.h"
+#include "plan/Chosen_Manner.h"
+#include "plan/Plan_Pace.h"
+#include "plan/Time_Words.h"
+#include "platform/Interface_Thread.h"
+#include "platform/Thread_Shortage.h"
+#include "platform/Waiting.h"
+#include "toolkit/Main_Window.h"
+#include "windows/handover/Hand_Over_Wnd.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QScopeGuard>
+#include <atomic>
+#include <semaphore>
+#include <utility>
+
+namespace {
+
+// So few are counted within a few milliseconds, whatever their texts are.
+constexpr int Few_Recipients = 100;
+
+constexpr int Milliseconds_In_Minute = 60000;
+
+} // namespace
+
+// What the worker that counts shares with the window.
+struct Send_Promise::Count
+{
+    Send_Order order;
+    Plan_Manner manner;
+    std::atomic<bool> is_stopped{false};
+    std::binary_semaphore has_let_go{0}; // of the order
+};
+
+Send_Promise::Send_Promise(const Controls& controls, Main_Window& window, const Plan_Pace& pace,
+                           const Program_Settings& settings, std::function<QDateTime()> clock)
+    : m_controls(controls), m_window(window), m_pace(pace), m_settings(settings), m_clock(std::move(clock)),
+      m_wants_notice(settings.Wants_Notice(QLatin1String(Hand_Over_Wnd::Notice)))
+{
+    m_minute.setSingleShot(true);
+    connect(&m_minute, &QTimer::timeout, this, &Send_Promise::Show);
+    connect(m_controls.other_ways, &QPushButton::clicked, this, &Send_Promise::Other_Ways);
+    Show();
+}
+
+Send_Promise::~Send_Promise()
+{
+    List_Will_Change();
+}
+
+void Send_Promise::Depend_On(QWidget* control)
+{
+    if (const auto* box = qobject_cast<QComboBox*>(control))
+        connect(box, &QComboBox::currentTextChanged, this, &Send_Promise::Changed);
+    else if (const auto* button = qobject_cast<QAbstractButton*>(control))
+        connect(button, &QAbstractButton::toggled, this, &Send_Promise::Changed);
+}
+
+// Several changes that come together are counted once, when they are over.
+void Send_Promise::Changed()
+{
+    m_sums.reset();
+    if (!std::exchange(m_is_due, true))
+        Post_To_Interface_Thread(this, [this] { Begin_Count(); });
+}
+
+// The worker looks every few hundred rows whether it is to stop, so this is no wait that anybody sees.
+void Send_Promise::List_Will_Change()
+{
+    if (const auto count = std::exchange(m_count, nullptr)) {
+        count->is_stopped = true;
+        count->has_let_go.acquire();
+        Changed();
+    }
+}
+
+Send_Order Send_Promise::Present_Order() const
+{
+    return {{}, Cus_SMS_Num_STR, m_window.Read_Send_Choices(), m_window.Recipients(), m_window.Exclusions()};
+}
+
+void Send_Promise::Begin_Count()
+{
+    List_Will_Change();
+    m_is_due = false;
+    Send_Order order = Present_Order();
+    const Plan_Manner manner = Manner_Of(order.choices, order.service_centre);
+    if (order.recipients.Count() <= Few_Recipients) {
+        Take(Sums_Of(order, manner));
+        return;
+    }
+    auto count = std::make_shared<Count>();
+    count->order = std::move(order);
+    count->manner = manner;
+    const bool is_started = Start_Worker_If_Possible("promise", [this, count] {
+        const auto end = qScopeGuard([&] { count->has_let_go.release(); });
+        const Job_Sums sums =
+            Sums_Of(count->order, count->manner, [&] { return count->is_stopped.load() || Program_Is_Exiting(); });
+        count->order = {};
+        if (count->is_stopped || Program_Is_Exiting())
+            return;
+        Post_To_Interface_Thread(this, [this, count, sums] {
+            if (count == m_count) {
+                m_count.reset();
+                Take(sums);
+            }
+        });
+    });
+    if (is_started)
+        m_count = std::move(count);
+    Show_Words(is_started ? tr("Counting ...") : QString());
+}
+
+void Send_Promise::Take(const Job_Sums& sums)
+{
+    m_sums = sums;
+    Show();
+}
+
+void Send_Promise::Show()
+{
+    const bool has_recipients = m_window.Recipients().Count() > 0;
+    m_controls.other_ways->setVisible(has_recipients);
+    m_is_notice_shown = false;
+    if (m_sums && has_recipients) {
+        const Send_Choices choices = m_window.Read_Send_Choices();
+        const Plan_Manner manner = Manner_Of(choices, Cus_SMS_Num_STR);
+        const double seconds = Seconds_For(*m_sums, manner, m_pace.Seconds_For_A_Part(manner.fixed_waits));
+        const QDateTime now = m_clock();
+        m_is_notice_shown = m_wants_notice && Is_Much_For_One_Phone(*m_sums, seconds);
+        const QString words = Time_Words::Promise(*m_sums, seconds, choices, now);
+        Show_Words(m_is_notice_shown ? words + u'\n' + tr("That is much for one phone.") : words);
+        m_minute.start(Milliseconds_In_Minute - now.time().msecsSinceStartOfDay() % Milliseconds_In_Minute);
+    } else if (!m_is_due) {
+        Show_Words({});
+    }
+    m_controls.other_ways->setText(m_is_notice_shown ? tr("What to do instead") : tr("Other ways ..."));
+}
+
+void Send_Promise::Show_Words(const QString& words)
+{
+    m_minute.stop();
+    m_controls.words->setText(words);
+    m_controls.send->setAccessibleDescription(words);
+}
+
+// Who has looked need not be told again in this session.
+void Send_Promise::Other_Ways()
+{
+    if (!m_other_ways) {
+        m_other_ways = new Hand_Over_Wnd(
+            [this] {
+                Send_Order order = Present_Order();
+                const Plan_Manner manner = Manner_Of(order.choices, order.service_centre);
+                return Hand_Over_Wnd::Plan{std::move(order), manner};
+            },
+            m_settings, m_window.Window());
+        connect(m_other_ways, &Hand_Over_Wnd::Notice_Chosen, this, [this](bool is_wanted) {
+            m_wants_notice = is_wanted;
+            Show();
+        });
+    }
+    m_other_ways->Open();
+    if (m_is_notice_shown) {
+        m_wants_notice = false;
+        Show();
+    }
+}
