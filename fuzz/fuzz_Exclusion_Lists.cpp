@@ -7,6 +7,8 @@
 #include "records/Exclusion_Files.h"
 
 #include <QTemporaryDir>
+#include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -28,12 +30,31 @@ QString Number_By_The_Rule(QString line)
     return Number_Rules::Normalised_Number(line);
 }
 
+// Each line is blank, gave a number, or is noted as it stood.
+void Check_Report(const Import_Report& report, const QString& text)
+{
+    const QStringList lines = text.split(u'\n');
+    const auto blank =
+        std::count_if(lines.begin(), lines.end(), [](const QString& line) { return line.trimmed().isEmpty(); });
+    MUST(report.Added() + report.Unused() + blank == lines.size());
+    MUST(report.Noted().size() == std::min(report.Unused(), Import_Report::Most_Noted));
+    int before = 0;
+    for (const Import_Report::Unused_Line& noted : report.Noted()) {
+        MUST(noted.line > std::exchange(before, noted.line));
+        const QString line = lines.value(noted.line - 1).trimmed();
+        MUST(!noted.text.isEmpty() && noted.text.size() <= Import_Report::Longest_Noted);
+        MUST(noted.is_cut ? line.startsWith(noted.text) && line != noted.text : line == noted.text);
+        MUST(Number_By_The_Rule(line).isEmpty() == (noted.reason == Number_Verdict::Not_Valid));
+    }
+}
+
 Number_List Check_Numbers(const QString& text)
 {
     Number_List numbers;
-    const int added = Exclusion_Rules::Add_Numbers_Of_Text(text, numbers, [](int) {});
-    MUST(added == numbers.Count());
-    MUST(Exclusion_Rules::Add_Numbers_Of_Text(text, numbers, [](int) {}) == 0);
+    const Import_Report report = Exclusion_Rules::Add_Numbers_Of_Text(text, numbers, [](int) {});
+    MUST(report.Added() == numbers.Count());
+    MUST(Exclusion_Rules::Add_Numbers_Of_Text(text, numbers, [](int) {}).Added() == 0);
+    Check_Report(report, text);
     int row = 0;
     Number_List again;
     for (const QString& line : text.split(u'\n')) {

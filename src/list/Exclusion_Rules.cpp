@@ -50,19 +50,20 @@ Exclusion_Rules::Name_Verdict Exclusion_Rules::Judge_List_Name(const QString& na
     return existing_names.contains(name) ? Name_Verdict::Exists : Name_Verdict::Accepted;
 }
 
-int Exclusion_Rules::Add_Numbers_Of_Text(const QString& text, Number_List& numbers,
-                                         const std::function<void(int)>& progress)
+Import_Report Exclusion_Rules::Add_Numbers_Of_Text(const QString& text, Number_List& numbers,
+                                                   const std::function<void(int)>& progress)
 {
-    int added = 0;
+    Import_Report report;
     for (const QStringView line : qTokenize(text, u'\n')) {
         const Packed_Number number = Number_In_Line(line);
-        if (number.Is_Empty() || numbers.Contains(number))
+        if (!report.Accepts(line, number, {&numbers, nullptr}))
             continue;
         numbers.Append(number);
-        if (++added % Numbers_Between_Reports == 0)
+        report.Count_Added();
+        if (report.Added() % Numbers_Between_Reports == 0)
             progress(numbers.Count());
     }
-    return added;
+    return report;
 }
 
 QStringList Exclusion_Rules::Not_Yet_Applied(const QStringList& chosen, const QStringList& applied)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "list/Import_Report.h"
 #include "list/Number_List.h"
 
 #include <QString>
@@ -36,9 +37,9 @@ QStringView Without_Byte_Order_Mark(QStringView line);
 /// Judges a name as returned by List_Name, in the order of the verdicts.
 Name_Verdict Judge_List_Name(const QString& name, const QStringList& existing_names);
 
-/// Adds the number of each line that holds one not yet present; returns how many were added. progress receives, now and
-/// then, how many numbers there are so far.
-int Add_Numbers_Of_Text(const QString& text, Number_List& numbers, const std::function<void(int)>& progress);
+/// Adds the number of each line that holds one not yet present; returns what became of the lines. progress receives,
+/// now and then, how many numbers there are so far.
+Import_Report Add_Numbers_Of_Text(const QString& text, Number_List& numbers, const std::function<void(int)>& progress);
 
 /// The chosen names that are not applied yet, in their order and without repeats.
 QStringList Not_Yet_Applied(const QStringList& chosen, const QStringList& applied);

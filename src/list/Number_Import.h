@@ -1,15 +1,17 @@
 #pragma once
 
+#include "list/Import_Report.h"
 #include "list/Number_List.h"
 #include "list/Recipient_List.h"
 
 #include <QString>
 #include <functional>
+#include <optional>
 #include <vector>
 
-// Reads a file of phone numbers, one per line, and adds those that may join to a list of recipients: all on a worker,
-// on a list of its own, which is handed over whole. Owned by the main window; started on the interface thread, where
-// everything handed over arrives as well.
+// Reads phone numbers, one per line, from a file or a text, and adds those that may join to a list of recipients: all
+// on a worker, on a list of its own, which is handed over whole. Owned by the main window; started on the interface
+// thread, where everything handed over arrives as well.
 class Number_Import
 {
 public:
@@ -22,6 +24,7 @@ public:
         QString message; ///< given to every imported number
         bool skip_duplicates = false;
         bool heed_exclusions = false;
+        std::optional<QString> text = std::nullopt; ///< the lines, if they come from no file
     };
 
     // What the import needs from the main window; all are called on the interface thread.
@@ -38,6 +41,8 @@ public:
         std::function<void()> finish;
         /// The import ended early by an exception, which is in the log; what was imported stays.
         std::function<void()> break_off;
+        /// What became of the lines; after the last take_over, and before one of the three ends above. May be left out.
+        std::function<void(const Import_Report& report)> report = nullptr;
     };
 
     /// The first recipients are shown when there are exactly this many.
@@ -49,10 +54,17 @@ public:
     void Load_NUM_Thread(Order order);
 
 private:
+    struct Line
+    {
+        QStringView text;
+        Packed_Number number;
+    };
+
     void Load_Num_Func(Order& order) const;
-    void Take_In_Lines(Order& order, const QString& text) const;
-    void Take_In(Order& order, const std::vector<Packed_Number>& numbers) const;
+    void Take_In_Lines(Order& order, const QString& text, Import_Report& report) const;
+    void Take_In(Order& order, const std::vector<Line>& lines, Import_Report& report) const;
     void Hand_Over(Recipient_List& recipients) const;
+    void Tell(Import_Report& report, Import_Report::End end) const;
 
     Target m_target;
 };

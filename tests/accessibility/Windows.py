@@ -11,6 +11,7 @@ from Reader import Trouble, Window, begin, complaints_about, find_window, press_
 F2 = 0xFFBF
 MESSAGE = "Rehearsal on Friday. " * 5  # one SMS, but two in Unicode
 NUMBERS = ["004479001", "004479002"]
+LOADED = "numbers.txt"
 NO_DEVICE = "No Mobile Phone Device is selected."
 
 
@@ -21,11 +22,13 @@ def fill(data_folder):
     (data_folder / "Exclusion/ExListIndex.ZOVA").write_text("Admin\nStaff\n", encoding="utf-8")
     for name in ("Admin", "Staff"):
         (data_folder / "Exclusion" / (name + ".ZOVA")).write_text("12345\n67890\n", encoding="utf-8")
+    (data_folder / LOADED).write_text("12345\nAnn\n55555\n", encoding="utf-8")
 
 
 class Walk:
-    def __init__(self):
+    def __init__(self, data_folder):
         self.complaints = []
+        self.data_folder = data_folder
         self.main = Window("Corvane")
 
     def look(self, title, **expected):
@@ -129,7 +132,24 @@ def read_the_exclusions(walk):
     wizard.select_row("Numbers of the list", 0)
     wizard.press("Update ...")
     walk.look("Edit number", fields=[("Phone number", "12345")]).leave_by("Cancel")
+    load_a_file(walk, wizard)
     wizard.leave_by("Cancel")
+
+
+def load_a_file(walk, wizard):
+    announcements = Announcements()
+    wizard.write("File of numbers", str(walk.data_folder / LOADED))
+    wizard.press("Load")
+    said = "1 added, 2 lines not used."
+    until(f"'{said}' to be announced", lambda: said in announcements.names)
+    wizard.the(said, pyatspi.ROLE_STATUS_BAR)
+    walk.complaints += complaints_about(wizard)
+    wizard.press("Show ...")
+    title = "Lines that were not used"
+    rows = [["1", "12345", "Already in the list"], ["2", "Ann", "No phone number"]]
+    walk.look(title, reads=["Lines not used: 2. No phone number: 1. Already in the list: 1."],
+              tables=[(title, ["Line", "As it stood there", "Why it was not used"], rows)]).leave_by("Close")
+    wizard.press("Dismiss")
 
 
 def choose_the_phone(walk):
@@ -198,7 +218,7 @@ def visit(data_folder, start):
     fill(data_folder)
     begin()
     start()
-    walk = Walk()
+    walk = Walk(data_folder)
     try:
         for step in (read_the_main_window, read_the_dialogs_of_the_list, read_the_stores, read_the_exclusions,
                      choose_the_phone, send):

@@ -7,7 +7,9 @@
 #include "support/In_Windows.h"
 #include "texts/Cause_Texts.h"
 #include "texts/Confirmed_Texts.h"
+#include "toolkit/Import_Strip.h"
 #include "toolkit/PleaseWait_Modeless.h"
+#include "toolkit/Unused_Lines_Wnd.h"
 #include "windows/exclusion/Exclusion_Wizard.h"
 #include "windows/handover/Hand_Over_Wnd.h"
 #include "windows/jobs/Receipt_Wnd.h"
@@ -42,6 +44,21 @@ const char* const Longest_Promise = "1000000 recipients, 1000000 messages, about
                                     "23:59, to be kept: sent items and "
                                     "templates and a receipt\nThat is much for one phone.";
 
+/// A million lines of which half were used, and an early end.
+const Import_Report& Longest_Report()
+{
+    static const Import_Report report = [] {
+        Import_Report made;
+        for (int line = 0; line < 1'000'000; ++line) {
+            made.Count_Added();
+            made.Accepts(QString(200, u'W'), {}, {});
+        }
+        made.Set_End(Import_Report::End::Early);
+        return made;
+    }();
+    return report;
+}
+
 QWidget& Main_Window_With_Everything(CorvaneAppDelegate& main)
 {
     In<QTableView>(main, "idExclusionTableView").show();
@@ -53,6 +70,7 @@ QWidget& Main_Window_With_Everything(CorvaneAppDelegate& main)
     job.id = "20261121-101500-3f9a";
     job.counts = {1000000, 499999, 1, 100000, 100000, 300000};
     In<Unfinished_Strip>(main, "_Job_Strip").Show_Jobs({job, job});
+    In<Import_Strip>(main, "_Import_Strip").Show_Report(Longest_Report());
     return main;
 }
 
@@ -95,6 +113,20 @@ QWidget& Exclusion_Numbers(CorvaneAppDelegate& main)
     In<QLineEdit>(wizard, "m_ex_list_name_edit").setText("Customers of the northern region, without Scotland");
     Exclusion_Wizard::defaultInstance()->Next_Btn();
     return wizard;
+}
+
+QWidget& Exclusion_Numbers_Loaded(CorvaneAppDelegate& main)
+{
+    auto& wizard = Exclusion_Numbers(main);
+    In<Import_Strip>(wizard, "m_import_strip").Show_Report(Longest_Report());
+    return wizard;
+}
+
+QWidget& Unused_Lines(CorvaneAppDelegate& main)
+{
+    auto& window = *new Unused_Lines_Wnd(&main);
+    window.Show_Report(Longest_Report());
+    return window;
 }
 
 /// The record of a job with one row that may have been sent.
@@ -224,6 +256,14 @@ const std::vector<Sight>& Every_Window()
         {"exclusion lists", Exclusion_Lists},
         {"name of an exclusion list", Exclusion_Name},
         {"numbers of an exclusion list", Exclusion_Numbers, {{"m_st_num_count", "Total Numbers : 1000000"}}},
+        {"numbers of an exclusion list after a file",
+         Exclusion_Numbers_Loaded,
+         {{"m_st_num_count", "Total Numbers : 1000000"}}},
+        {"lines that were not used",
+         Unused_Lines,
+         {{"_Sums",
+           "Lines not used: 1000000. No phone number: 1000000. Already in the list: 1000000. In an exclusion list: "
+           "1000000. These are the first 10000."}}},
         {"edit of an excluded number",
          [](CorvaneAppDelegate&) -> QWidget& {
              return In<QDialog>(*Exclusion_Wizard::defaultInstance(), "Update_Ex_Num");

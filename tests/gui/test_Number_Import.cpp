@@ -1,4 +1,4 @@
-#include "gui/Open_Program.h"
+#include "gui/Importing_Program.h"
 #include "list/Number_Import.h"
 
 #include <stdexcept>
@@ -18,52 +18,7 @@ QByteArray Lines_From_100000000(int count)
     return lines;
 }
 
-// The main window, and files of numbers in a folder of the test's own.
-class Import : public Open_Program
-{
-protected:
-    QString File(const QString& name, const QByteArray& content)
-    {
-        Write_Bytes(m_folder.filePath(name), content);
-        return m_folder.filePath(name);
-    }
-
-    void Will_Pick(const QString& path)
-    {
-        user.Will_Do([path](QDialog* panel) {
-            Enter_Path(*panel, path);
-            EXPECT_EQ(static_cast<QFileDialog*>(panel)->fileMode(), QFileDialog::ExistingFile);
-        });
-    }
-    void Will_Answer(const char* button) { Will_Click_In(user, "Load_Num_Info", button); }
-
-    /// Returns when the import has ended.
-    void Press_Import(double seconds = 20)
-    {
-        Click("Load_Number");
-        EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }, seconds));
-    }
-    void Load(const QByteArray& content, const QString& name = "numbers.txt")
-    {
-        Will_Pick(File(name, content));
-        Press_Import();
-    }
-    void Load_Past_The_Panel(const QString& path)
-    {
-        m_delegate->Load_NUM_Thread(path);
-        ASSERT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
-    }
-
-    QWidget& Please_Wait() { return *m_delegate->findChild<QWidget*>("PleaseWait_Modeless"); }
-    void Expect_The_Window_Free()
-    {
-        EXPECT_FALSE(Please_Wait().isVisible());
-        EXPECT_TRUE(The<QPushButton>("_sent_btn").isEnabled());
-        EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
-    }
-
-    QTemporaryDir m_folder;
-};
+using Import = Importing_Program;
 
 } // namespace
 
@@ -239,12 +194,17 @@ struct Imported
     Recipient_List recipients;
     QStringList events;
     QList<int> percents;
+    Import_Report report;
     std::function<void(int numbers)> when_told = [](int) {}; ///< of progress
 
     void Import(int count)
     {
         QTemporaryDir folder;
         Write_Bytes(folder.filePath("numbers.txt"), Lines_From_100000000(count));
+        Import({folder.filePath("numbers.txt"), {}, {}, "text", false, false});
+    }
+    void Import(const Number_Import::Order& order)
+    {
         Number_Import import({[&](int numbers, int percent) {
                                   EXPECT_GE(numbers, recipients.Count());
                                   percents.append(percent);
@@ -255,8 +215,12 @@ struct Imported
                                   events.append(QString::number(recipients.Count()));
                               },
                               [&] { events.append("unread"); }, [&] { events.append("finished"); },
-                              [&] { events.append("broken off"); }});
-        import.Load_NUM_Thread({folder.filePath("numbers.txt"), {}, {}, "text", false, false});
+                              [&] { events.append("broken off"); },
+                              [&](const Import_Report& told) {
+                                  report = told;
+                                  events.append("report");
+                              }});
+        import.Load_NUM_Thread(order);
         EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
     }
 };
@@ -271,18 +235,49 @@ TEST(Number_Import_Test, An_Exception_Breaks_It_Off_Quietly_With_What_Came_Befor
             throw std::runtime_error("out of memory");
     };
     imported.Import(2500);
-    EXPECT_EQ(imported.events, (QStringList{"10", "2500", "broken off"}));
+    EXPECT_EQ(imported.events, (QStringList{"10", "2500", "report", "broken off"}));
     EXPECT_EQ(imported.recipients.At(2499).Number, "100002499");
+    EXPECT_EQ(imported.report.Added(), 2500);
+    EXPECT_EQ(imported.report.Ended(), Import_Report::End::Early);
 }
 
 TEST(Number_Import_Test, Hands_Over_Every_Number_And_Tells_How_Far_It_Has_Come)
 {
     Imported imported;
     imported.Import(250'000);
-    EXPECT_EQ(imported.events, (QStringList{"10", "250000", "finished"}));
+    EXPECT_EQ(imported.events, (QStringList{"10", "250000", "report", "finished"}));
     EXPECT_EQ(imported.recipients.At(249'999).Number, "100249999");
     EXPECT_EQ(imported.recipients.At(249'999).Message, "text");
     ASSERT_FALSE(imported.percents.isEmpty());
     EXPECT_TRUE(std::is_sorted(imported.percents.begin(), imported.percents.end()));
     EXPECT_EQ(imported.percents.last(), 100);
+}
+
+TEST(Number_Import_Test, Keeps_Account_Of_Every_Line_Of_A_Text_Across_Its_Batches)
+{
+    QString text;
+    for (int number = 0; number < 3000; ++number)
+        text += QString::number(number) + (number % 3 == 0 ? "\n\n" : "\nname\n") + QString::number(number / 2) + '\n';
+    Number_List exclusions;
+    exclusions.Append(QString("2999"));
+    Imported imported;
+    imported.Import({{}, {}, exclusions, "text", true, true, text});
+    EXPECT_EQ(imported.recipients.Count(), 2999);
+    EXPECT_EQ(imported.report.Added(), 2999);
+    EXPECT_EQ(imported.report.Unused(Number_Verdict::Not_Valid), 2000);
+    EXPECT_EQ(imported.report.Unused(Number_Verdict::Repeated), 3000);
+    EXPECT_EQ(imported.report.Unused(Number_Verdict::Excluded), 1);
+    EXPECT_EQ(imported.report.Ended(), Import_Report::End::Complete);
+    const QStringList lines = text.split('\n');
+    ASSERT_EQ(imported.report.Noted().size(), 5001);
+    for (const Import_Report::Unused_Line& noted : imported.report.Noted())
+        ASSERT_EQ(lines.value(noted.line - 1), noted.text);
+}
+
+TEST(Number_Import_Test, What_Can_Not_Be_Read_Is_Told_As_That)
+{
+    Imported imported;
+    imported.Import({"/nowhere/gone.txt", {}, {}, "text", false, false});
+    EXPECT_EQ(imported.events, (QStringList{"report", "unread"}));
+    EXPECT_EQ(imported.report.Ended(), Import_Report::End::Unread);
 }

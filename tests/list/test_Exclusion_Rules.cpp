@@ -55,19 +55,19 @@ TEST(Exclusion_Rules, A_Text_Adds_Each_New_Number_Once_Skips_The_Rest_And_Tells_
 {
     Number_List numbers;
     numbers.Append("1");
-    EXPECT_EQ(Add_Numbers_Of_Text("1\n2\r\n\nname\n2\n+3\n003\n4", numbers, [](int) {}), 3);
+    EXPECT_EQ(Add_Numbers_Of_Text("1\n2\r\n\nname\n2\n+3\n003\n4", numbers, [](int) {}).Added(), 3);
     ASSERT_EQ(numbers.Count(), 4);
     EXPECT_EQ(numbers.At(1), "2");
     EXPECT_EQ(numbers.At(2), "003");
     EXPECT_EQ(numbers.At(3), "4");
-    EXPECT_EQ(Add_Numbers_Of_Text("", numbers, [](int) {}), 0);
+    EXPECT_EQ(Add_Numbers_Of_Text("", numbers, [](int) {}).Added(), 0);
 
     numbers.Clear();
     QString text;
     for (int number = 0; number < 50000; ++number)
         text += QString::number(number) + "\n";
     std::vector<int> told;
-    EXPECT_EQ(Add_Numbers_Of_Text(text, numbers, [&](int count) { told.push_back(count); }), 50000);
+    EXPECT_EQ(Add_Numbers_Of_Text(text, numbers, [&](int count) { told.push_back(count); }).Added(), 50000);
     EXPECT_EQ(told, (std::vector<int>{20000, 40000}));
 }
 

@@ -1,35 +1,17 @@
 #include "windows/contacts/Contacts_Strip.h"
 
 #include "platform/One_Line.h"
+#include "toolkit/Status_Label.h"
 
 #include <QGridLayout>
 #include <QLabel>
-#include <QPainter>
 #include <QPushButton>
+#include <algorithm>
 
 namespace {
 
 constexpr qsizetype Most_Named = 8;     // fields
 constexpr qsizetype Longest_Named = 24; // characters of each
-
-QLabel* Made_Label(const char* name)
-{
-    auto* label = new QLabel;
-    label->setObjectName(QLatin1String(name));
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    return label;
-}
-
-QPushButton* Made_Button(const char* name, const QString& text, const QString& tool_tip)
-{
-    auto* button = new QPushButton(text);
-    button->setObjectName(QLatin1String(name));
-    button->setToolTip(tool_tip);
-    button->setFlat(true);
-    button->setAutoDefault(false);
-    return button;
-}
 
 QString In_Words(const QStringList& names)
 {
@@ -46,13 +28,18 @@ QString In_Words(const QStringList& names)
 } // namespace
 
 Contacts_Strip::Contacts_Strip(QWidget* parent)
-    : QWidget(parent), m_fields(Made_Label("_List_Fields")),
+    : Quiet_Strip("Contacts_Strip", parent), m_fields(Made_Label("_List_Fields")),
       m_save(Made_Button("Save_With_Fields", tr("Save with fields ..."),
                          tr("Write the list with its messages and fields into a table that can be opened again"))),
-      m_words(Made_Label("_Rows_Words")),
+      m_words(new Status_Label),
       m_show(Made_Button("Show_Rows_Btn", tr("Show ..."), tr("Show these rows, and what is wrong with each"))),
       m_dismiss(Made_Button("Dismiss_Rows_Btn", tr("Dismiss"), tr("Say no more of it")))
 {
+    m_words->setObjectName(QStringLiteral("_Rows_Words"));
+    m_words->setTextFormat(Qt::PlainText);
+    m_words->setWordWrap(true);
+    for (QPushButton* button : {m_save, m_show, m_dismiss})
+        button->setFlat(true);
     setAccessibleName(tr("Fields and rows of the list"));
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(12, 4, 4, 4);
@@ -81,24 +68,14 @@ void Contacts_Strip::Show_Fields(const QStringList& names)
 
 void Contacts_Strip::Say(const QString& words, bool has_rows)
 {
-    m_words->setText(words);
     m_words->setVisible(!words.isEmpty());
     m_show->setVisible(!words.isEmpty() && has_rows);
     m_dismiss->setVisible(!words.isEmpty());
     Appear();
+    m_words->Say(words);
 }
 
 void Contacts_Strip::Appear()
 {
     setVisible(!m_fields->isHidden() || !m_words->isHidden());
-}
-
-// With an edge, since it lies among other things of its window.
-void Contacts_Strip::paintEvent(QPaintEvent* event)
-{
-    QWidget::paintEvent(event);
-    QPainter painter(this);
-    painter.setPen(palette().color(QPalette::Mid));
-    painter.setBrush(palette().color(QPalette::Base));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }

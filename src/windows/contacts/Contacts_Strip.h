@@ -1,15 +1,17 @@
 #pragma once
 
+#include "toolkit/Quiet_Strip.h"
+
 #include <QStringList>
-#include <QWidget>
 
 class QLabel;
 class QPushButton;
+class Status_Label;
 
 // A quiet strip under a list: the fields that its recipients have, and what became of rows that are not among those
 // sent to. It takes no focus and opens nothing by itself. Hidden as long as there is nothing to say; part of its
 // window; interface thread.
-class Contacts_Strip : public QWidget
+class Contacts_Strip : public Quiet_Strip
 {
     Q_OBJECT
 
@@ -25,15 +27,12 @@ Q_SIGNALS:
     void Save_Wanted();
     void Show_Wanted();
 
-protected:
-    void paintEvent(QPaintEvent* event) override;
-
 private:
     void Appear();
 
     QLabel* m_fields;
     QPushButton* m_save;
-    QLabel* m_words;
+    Status_Label* m_words;
     QPushButton* m_show;
     QPushButton* m_dismiss;
 };

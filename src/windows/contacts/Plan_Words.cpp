@@ -1,13 +1,11 @@
 #include "windows/contacts/Plan_Words.h"
 
-#include <QLocale>
-#include <algorithm>
+#include "plan/Time_Words.h"
+
 #include <array>
 
 namespace {
 
-constexpr int Seconds_A_Minute = 60;
-constexpr int Minutes_An_Hour = 60;
 constexpr std::size_t Most_Named = 6; // characters
 
 struct Verdict_Words
@@ -77,12 +75,4 @@ QString Plan_Words::Causes(const Plan_Sums& sums)
     const QString words = tr("%n message(s) go as Unicode", nullptr, sums.unicode);
     return characters.isEmpty() ? words + u'.'
                                 : words + tr(", because of ") + characters.join(QLatin1String(", ")) + u'.';
-}
-
-QString Plan_Words::About(qint64 seconds)
-{
-    const auto minutes = static_cast<int>(std::max<qint64>(1, (seconds + Seconds_A_Minute / 2) / Seconds_A_Minute));
-    if (minutes < 2 * Minutes_An_Hour)
-        return tr("about %n minute(s)", nullptr, minutes);
-    return tr("about %n hour(s)", nullptr, (minutes + Minutes_An_Hour / 2) / Minutes_An_Hour);
 }

@@ -18,6 +18,4 @@ public:
     static QString Sums(const Plan_Sums& sums, const QDateTime& now);
     /// Which characters make messages Unicode; empty where none does.
     static QString Causes(const Plan_Sums& sums);
-    /// About how long so many seconds are.
-    static QString About(qint64 seconds);
 };

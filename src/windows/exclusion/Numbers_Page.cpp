@@ -9,6 +9,7 @@
 #include "records/Exclusion_Files.h"
 #include "texts/Texts.h"
 #include "toolkit/File_Panels.h"
+#include "toolkit/Import_Strip.h"
 #include "toolkit/List_Tables.h"
 #include "ui_Exclusion_Wizard.h"
 #include "windows/exclusion/Exclusion_Steps.h"
@@ -28,13 +29,15 @@ const QString Key_Number = QStringLiteral("Exclusion_Num_List");
 
 Numbers_Page::Numbers_Page(const Ui::Exclusion_Wizard& form, Page_Work& work, Exclusion_Steps& steps)
     : m_loadfile_edit(*form.m_loadfile_edit), m_loadnum_edit(*form.m_loadnum_edit), m_ex_num_list(*form.m_ex_num_list),
-      m_st_num_count(*form.m_st_num_count), m_work(work), m_steps(steps),
+      m_st_num_count(*form.m_st_num_count), m_strip(*form.m_import_strip), m_work(work), m_steps(steps),
       m_rows(
           {{Key_Number, tr("Excluded number")}}, [this] { return Count(); },
           [this](const QString& identifier, int row) { return Value(identifier, row); }),
       Update_Excl_Num_Window(std::make_unique<Update_Ex_Num>(*this, m_ex_num_list.window()))
 {
     Prepare_List_Table(m_ex_num_list, m_rows);
+    m_strip.Follow(m_ex_num_list);
+    m_strip.Give_Letters();
 }
 
 Numbers_Page::~Numbers_Page() = default;
@@ -95,6 +98,7 @@ bool Numbers_Page::Tells_It_Is_Empty()
 
 void Numbers_Page::Take(Number_List numbers)
 {
+    m_strip.Forget();
     std::swap(m_ex_num_list_Data, numbers);
     m_rows.Reload();
     Update_Exclusion_Num_Count();
@@ -151,24 +155,27 @@ void Numbers_Page::Load_File_Btn()
         Tell_And_Focus(Texts::Exclusion::Not_A_File, m_loadfile_edit);
         return;
     }
-    const auto sheet = m_work.Sheet();
+    auto sheet = m_work.Sheet();
     Number_List numbers = m_ex_num_list_Data;
-    int added = 0;
+    Import_Report report;
     const auto show_progress = [this](int count) { Run_On_Interface_Thread([&] { Show_Count(count); }); };
     try {
         m_work.Wait_For(
-            [&] { added = Exclusion_Rules::Add_Numbers_Of_Text(Text_Of_Number_File(path), numbers, show_progress); },
+            [&] { report = Exclusion_Rules::Add_Numbers_Of_Text(Text_Of_Number_File(path), numbers, show_progress); },
             User_Input::Served);
     } catch (const std::exception& failure) {
         Show_NSLog_Message(QStringLiteral("A file of numbers was not loaded: ") +
                            QString::fromLocal8Bit(failure.what()));
-        added = 0;
+        report = {}; // nothing of it is kept
+        report.Set_End(Import_Report::End::Early);
     }
-    if (added > 0)
+    if (report.Added() > 0)
         m_steps.Note_Unsaved_Numbers();
     else
         numbers = m_ex_num_list_Data;
     Take(std::move(numbers));
+    sheet.reset();
+    m_strip.Show_Report(report);
 }
 
 void Numbers_Page::Add_Number_Btn()
@@ -224,6 +231,8 @@ void Numbers_Page::Remove_Number_Btn()
     Number_List numbers = m_ex_num_list_Data; // the table shows the present ones until these are whole
     m_work.Wait_For([&] { numbers.Remove_Rows(rows); }, User_Input::Served);
     std::swap(m_ex_num_list_Data, numbers);
+    if (Count() == 0)
+        m_strip.Forget();
     Reload_And_Select_First(m_ex_num_list, m_rows);
     Update_Exclusion_Num_Count();
     m_ex_num_list.setFocus();

@@ -9,6 +9,7 @@
 #include <vector>
 
 class Exclusion_Steps;
+class Import_Strip;
 class Page_Work;
 class QLabel;
 class QLineEdit;
@@ -68,6 +69,7 @@ private:
     QLineEdit& m_loadnum_edit;
     QTableView& m_ex_num_list;
     QLabel& m_st_num_count;
+    Import_Strip& m_strip;
     Page_Work& m_work;
     Exclusion_Steps& m_steps;
     Number_List m_ex_num_list_Data;

@@ -12,31 +12,12 @@
 
 #include <QFile>
 #include <QLabel>
-#include <QPainter>
 #include <QPointer>
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <algorithm>
 
 namespace {
-
-QLabel* Made_Label(const char* name)
-{
-    auto* label = new QLabel;
-    label->setObjectName(QLatin1String(name));
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    return label;
-}
-
-QPushButton* Made_Button(const char* name, const QString& text, const QString& tool_tip)
-{
-    auto* button = new QPushButton(text);
-    button->setObjectName(QLatin1String(name));
-    button->setToolTip(tool_tip);
-    button->setAutoDefault(false);
-    return button;
-}
 
 QString Printable_Line(const QString& text)
 {
@@ -71,8 +52,9 @@ bool Has_Something_To_Send(const Job_Counts& counts)
 } // namespace
 
 Unfinished_Strip::Unfinished_Strip(QWidget* parent)
-    : QWidget(parent), m_words(Made_Label("_Strip_Words")), m_counts(Made_Label("_Strip_Counts")),
-      m_more(Made_Label("_Strip_More")), m_trouble(Made_Label("_Strip_Trouble")), m_buttons(new QWidget),
+    : Quiet_Strip("Unfinished_Strip", parent), m_words(Made_Label("_Strip_Words")),
+      m_counts(Made_Label("_Strip_Counts")), m_more(Made_Label("_Strip_More")), m_trouble(Made_Label("_Strip_Trouble")),
+      m_buttons(new QWidget),
       m_go_on(Made_Button("Go_On_Btn", {}, tr("Sends what was not sent. What was sent is not sent again."))),
       m_decide(Made_Button("Decide_Btn", tr("Rows that may have been sent ..."),
                            tr("Lists them, so that you can say what is to become of each"))),
@@ -81,7 +63,6 @@ Unfinished_Strip::Unfinished_Strip(QWidget* parent)
       m_later(Made_Button("Later_Btn", tr("Later"), tr("Leaves the job as it is and says no more of it for now"))),
       m_question(new Removal_Question)
 {
-    setObjectName(QStringLiteral("Unfinished_Strip"));
     setAccessibleName(tr("Job that has not ended"));
     Lay_Out();
     connect(m_go_on, &QPushButton::clicked, this, &Unfinished_Strip::Go_On_Btn);
@@ -119,9 +100,6 @@ void Unfinished_Strip::Lay_Out()
     QFont bold = font();
     bold.setBold(true);
     m_words->setFont(bold);
-    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
-    policy.setHeightForWidth(true);
-    setSizePolicy(policy);
 }
 
 void Unfinished_Strip::Show_Jobs(const QList<Unfinished_Job>& jobs)
@@ -271,14 +249,4 @@ void Unfinished_Strip::Drop(const QString& path)
 {
     m_jobs.removeIf([&](const Unfinished_Job& job) { return job.path == path; });
     Show_First();
-}
-
-// With an edge, since it lies among other things of its window.
-void Unfinished_Strip::paintEvent(QPaintEvent* event)
-{
-    QWidget::paintEvent(event);
-    QPainter painter(this);
-    painter.setPen(palette().color(QPalette::Mid));
-    painter.setBrush(palette().color(QPalette::Base));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }

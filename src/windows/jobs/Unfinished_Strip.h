@@ -1,18 +1,16 @@
 #pragma once
 
 #include "records/Job_Shelf.h"
+#include "toolkit/Quiet_Strip.h"
 
 #include <QList>
-#include <QWidget>
 
-class QLabel;
-class QPushButton;
 class Removal_Question;
 
 // A quiet strip for a window: the jobs that have not ended, one at a time, and what can be done about them. It opens
 // nothing by itself and sends nothing. Part of its window, hidden as long as there is nothing to say; interface thread,
 // which goes on serving everything but input while files are read or written.
-class Unfinished_Strip : public QWidget
+class Unfinished_Strip : public Quiet_Strip
 {
     Q_OBJECT
 
@@ -37,9 +35,6 @@ Q_SIGNALS:
     void Let_Go(const QString& journal_path);
     /// The strip has removed the job's files, as the person wanted.
     void Removed(const QString& journal_path);
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
 
 private:
     enum class Answer

@@ -10,6 +10,7 @@
 #include "windows/contacts/Empty_List_Hint.h"
 
 #include <QClipboard>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QMenu>
 #include <QPushButton>
@@ -62,6 +63,16 @@ void Contact_Desk::Import_File(const QString& path)
     Window().Import({path});
 }
 
+bool Contact_Desk::Import_Dropped(const QString& path)
+{
+    const QStringList kinds{QStringLiteral("csv"), QStringLiteral("tsv"), QStringLiteral("xlsx"), QStringLiteral("xls"),
+                            QStringLiteral("ods"), QStringLiteral("vcf"), QStringLiteral("vcard")};
+    if (!kinds.contains(QFileInfo(path).suffix().toLower()))
+        return false;
+    Import_File(path);
+    return true;
+}
+
 bool Contact_Desk::Import_Clipboard_Table()
 {
     const QString text = QGuiApplication::clipboard()->text();
@@ -84,6 +95,8 @@ void Contact_Desk::List_Changed()
 {
     const Recipient_List& list = m_window.Recipients();
     m_hint->setVisible(list.Count() == 0);
+    if (list.Count() == 0)
+        m_controls.strip.Say({}, false);
     const QStringList names = list.Field_Names();
     if (names == m_names)
         return;

@@ -34,6 +34,8 @@ public:
     /// Asks for a file and shows what is in it.
     void Import_Contacts();
     void Import_File(const QString& path);
+    /// The same for a file whose name says that it holds a table or contacts; answers no for another.
+    bool Import_Dropped(const QString& path);
     /// Shows the cells that were copied from a spreadsheet. Answers no when the clipboard holds none.
     bool Import_Clipboard_Table();
     /// Shows what would be sent to the list as it is.

@@ -23,6 +23,7 @@
 #include "windows/main/Contact_Desk.h"
 #include "windows/main/Help_Wnd.h"
 #include "windows/main/Job_Follow_Up.h"
+#include "windows/main/List_Arrivals.h"
 #include "windows/main/Recipient_Rows.h"
 #include "windows/main/Send_Modeless.h"
 #include "windows/main/Send_Promise.h"
@@ -53,6 +54,7 @@ CorvaneAppDelegate::CorvaneAppDelegate()
     m_composer = std::make_unique<Composer>(m_ui->_messageEdit, m_ui->_Msg_char_count, m_ui->_Unicode_SMS_Chk);
     m_please_wait = new PleaseWait_Modeless(this);
     m_work = std::make_unique<Window_Work>(*this, *m_please_wait);
+    m_arrivals = std::make_unique<List_Arrivals>(*m_ui->recipients_group, *m_ui->idTableView, *m_ui->_Import_Strip);
     Connect_Controls();
 }
 
@@ -105,10 +107,11 @@ bool CorvaneAppDelegate::awakeFromNib()
         Confirm_Boxes::Boxes{m_ui->_Confirm_Chk, m_ui->_Reports_Chk, m_ui->_Keep_Receipt_Chk,
                              m_ui->_Remember_Confirm_Chk, m_ui->confirm_more},
         Program_Settings(Settings_Path));
-    m_import = std::make_unique<Number_Import>(Number_Import::Target{
-        [this](int count, int percent) { Show_Import_Progress(count, percent); },
-        [this](Recipient_List& recipients) { Take_Over_Imported(recipients); }, [this] { Leave_Import_Unread(); },
-        [this] { Finish_Import(); }, [this] { End_Import(); }});
+    m_import = std::make_unique<Number_Import>(
+        Number_Import::Target{[this](int count, int percent) { Show_Import_Progress(count, percent); },
+                              [this](Recipient_List& recipients) { Take_Over_Imported(recipients); },
+                              [this] { Leave_Import_Unread(); }, [this] { Finish_Import(); }, [this] { End_Import(); },
+                              [this](const Import_Report& report) { m_arrivals->Note(report); }});
     m_send_runner = std::make_unique<Send_Runner>(*this, *mfc_sms_obj, *Send_Modeless::defaultInstance());
     m_follow_up =
         std::make_unique<Job_Follow_Up>(*this, *m_work, *m_send_runner, *m_ui->_Job_Strip, *m_ui->Show_Receipt);
@@ -151,6 +154,8 @@ void CorvaneAppDelegate::Connect_Controls()
     connect(m_ui->Load_Number, &QPushButton::clicked, this, &CorvaneAppDelegate::Load_Number);
     connect(m_ui->Import_Contacts, &QPushButton::clicked, this, &CorvaneAppDelegate::Import_Contacts);
     connect(m_ui->Check_List, &QPushButton::clicked, this, &CorvaneAppDelegate::Check_List);
+    connect(m_arrivals.get(), &List_Arrivals::Paste_Wanted, this, &CorvaneAppDelegate::Paste_Numbers);
+    connect(m_arrivals.get(), &List_Arrivals::Dropped, this, &CorvaneAppDelegate::Dropped_File);
     connect(m_ui->Export_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::Export_Btn);
     connect(m_ui->Fill_Msg_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::Fill_Msg_Btn);
     connect(m_ui->Update_Sel_Msgs_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::Update_Sel_Msgs_Btn);

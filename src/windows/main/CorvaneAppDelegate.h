@@ -14,6 +14,7 @@ class Composer;
 class Confirm_Boxes;
 class Contact_Desk;
 class Job_Follow_Up;
+class List_Arrivals;
 class Number_Import;
 struct Number_Terms;
 class PleaseWait_Modeless;
@@ -129,6 +130,10 @@ public Q_SLOTS:
     void Load_Number();
     void Import_Contacts();
     void Check_List();
+    /// Adds the numbers in the clipboard's lines, with the composer's text as their message.
+    void Paste_Numbers();
+    /// A file was dropped on the recipient list.
+    void Dropped_File(const QString& path);
     void Export_Btn();
     void Fill_Msg_Btn();
     void Update_Sel_Msgs_Btn();
@@ -171,6 +176,8 @@ private:
     bool Offer_Plain_Kind(const Device_Cause& cause);
     void Show_Exclusion_Trouble(const QString& text);
     void Show_List_Count(int count);
+    bool May_Import_File();
+    void Start_Import(const QString& path, const std::optional<QString>& pasted);
     void Show_Import_Progress(int count, int percent);
     void Take_Over_Imported(Recipient_List& recipients);
     void Leave_Import_Unread();
@@ -183,6 +190,7 @@ private:
     Number_List nsExclusionListDataObject;
     QString prev_composer_msg;
     int prev_list_item = 0;             // recipients before the import
+    bool m_is_pasting = false;          // rather than importing a file
     Outcome_Codes m_outcome_codes;      // what the marks of the recipients mean
     bool m_takes_outcomes = false;      // a job runs, and the list is still the one that it took
     bool m_is_alphabet_refused = false; // rather than that a message shows at once
@@ -195,6 +203,7 @@ private:
     std::unique_ptr<Job_Follow_Up> m_follow_up;
     std::unique_ptr<Number_Import> m_import;
     std::unique_ptr<Contact_Desk> m_contacts;
+    std::unique_ptr<List_Arrivals> m_arrivals;
     PleaseWait_Modeless* m_please_wait = nullptr;
     std::unique_ptr<Window_Work> m_work;
     std::unique_ptr<Send_Promise> m_promise; // none before the start state is built

@@ -2,16 +2,11 @@
 #include "list/Number_Judge.h"
 #include "list/Number_Rules.h"
 #include "platform/Interface_Thread.h"
-#include "platform/Log_Line.h"
 #include "platform/String_Helpers.h"
-#include "platform/Waiting.h"
-#include "records/Contact_Export.h"
 #include "texts/Texts.h"
-#include "toolkit/File_Panels.h"
 #include "toolkit/Line_Edit_Limit.h"
 #include "toolkit/List_Tables.h"
 #include "toolkit/Message_Boxes.h"
-#include "toolkit/PleaseWait_Modeless.h"
 #include "toolkit/Window_Work.h"
 #include "ui_CorvaneAppDelegate.h"
 #include "windows/list/List_Dialogs.h"
@@ -19,17 +14,14 @@
 #include "windows/main/Confirm_Boxes.h"
 #include "windows/main/Contact_Desk.h"
 #include "windows/main/CorvaneAppDelegate.h"
+#include "windows/main/List_Arrivals.h"
 #include "windows/main/List_Cells.h"
-#include "windows/main/Load_Num_Info.h"
 #include "windows/main/Recipient_Rows.h"
 #include "windows/main/Send_Promise.h"
-#include "windows/stores/Open_Export_Log.h"
-#include "windows/stores/Store_Globals.h"
 
-#include <exception>
 #include <utility>
 
-// The recipient list and the number rules: what fills the list, changes it, imports it and exports it.
+// The recipient list and the number rules: what fills the list and changes it.
 
 namespace {
 
@@ -171,6 +163,8 @@ Recipient_List CorvaneAppDelegate::Exchange_List(Recipient_List list)
 {
     std::swap(nsListDataObject, list);
     m_promise->Changed();
+    if (nsListDataObject.Count() == 0)
+        m_arrivals->Forget();
     Forget_Outcomes_Of_Job();
     Look_For_Not_Taken();
     return list;
@@ -273,107 +267,6 @@ void CorvaneAppDelegate::Replace_Recipient(int row, const QString& number, const
 void CorvaneAppDelegate::Redisplay_Recipients()
 {
     m_recipient_rows->Reload();
-}
-
-// ---- Import and export
-
-void CorvaneAppDelegate::Load_Number()
-{
-    m_ui->_numberEdit->clear();
-    if (nsListDataObject.Count() > 0) {
-        const int answer = Load_Num_Info(this).exec();
-        if (Program_Is_Exiting() || (answer != Load_Num_Info::Remove_Numbers && answer != Load_Num_Info::Keep_Numbers))
-            return; // leaving ends the dialog as well
-        if (answer == Load_Num_Info::Remove_Numbers)
-            Remove_All_Recipients();
-    }
-    if (const auto path = Ask_For_File_To_Open(this))
-        Load_NUM_Thread(*path);
-}
-
-void CorvaneAppDelegate::Import_Contacts()
-{
-    m_contacts->Import_Contacts();
-}
-
-void CorvaneAppDelegate::Check_List()
-{
-    m_contacts->Check_List();
-}
-
-void CorvaneAppDelegate::Load_NUM_Thread(const QString& path)
-{
-    prev_list_item = nsListDataObject.Count();
-    m_ui->_sent_btn->setEnabled(false);
-    Show_Create_Modeless();
-    m_import->Load_NUM_Thread({path, nsListDataObject, nsExclusionListDataObject, m_composer->Text(),
-                               m_ui->_Skip_Duplicate_Chk->isChecked(), m_ui->_Exclusion_Chk->isChecked()});
-}
-
-// What broke off an import is in the log; the recipients imported so far stay.
-void CorvaneAppDelegate::End_Import()
-{
-    Hide_Destroy_Modeless();
-    Redisplay_Recipients();
-    m_ui->_sent_btn->setEnabled(true);
-}
-
-void CorvaneAppDelegate::Show_Import_Progress(int count, int percent)
-{
-    Show_List_Count(count);
-    m_please_wait->Show_Progress(percent);
-}
-
-void CorvaneAppDelegate::Take_Over_Imported(Recipient_List& recipients)
-{
-    recipients = Exchange_List(std::move(recipients));
-    if (nsListDataObject.Count() != prev_list_item)
-        Remember_Composer_Text();
-    Update_List_Count();
-}
-
-void CorvaneAppDelegate::Leave_Import_Unread()
-{
-    Redisplay_Recipients();
-    m_ui->_sent_btn->setEnabled(true);
-    m_please_wait->Let_Go(); // nothing is reported: the sheet stays, and the user closes it
-}
-
-void CorvaneAppDelegate::Finish_Import()
-{
-    Hide_Destroy_Modeless();
-    Redisplay_Recipients();
-    if (nsListDataObject.Count() == 0 || nsListDataObject.Count() == prev_list_item)
-        Show_MessageBox(Texts::Main::Nothing_Imported);
-    End_Import();
-}
-
-void CorvaneAppDelegate::Export_Btn()
-{
-    if (nsListDataObject.Count() == 0) {
-        Tell_And_Focus(Texts::Main::List_Empty, Field::Number);
-        return;
-    }
-    const auto path = Ask_For_File_To_Save(this, QStringLiteral("txt"));
-    if (!path)
-        return;
-    auto sheet = m_work->Sheet();
-    Export_File_Path = With_Extension(*path, QStringLiteral("txt"));
-    bool is_written = false;
-    try {
-        Run_On_Worker(
-            [&, path = Export_File_Path, list = nsListDataObject] { is_written = Write_Contact_List(path, list); });
-    } catch (const std::exception& failure) {
-        Show_NSLog_Message(QString::fromLocal8Bit(failure.what()));
-    }
-    sheet.reset();
-    if (!is_written) {
-        Show_MessageBox(Texts::File_Error);
-        return;
-    }
-    raise();
-    activateWindow();
-    Open_Export_Log::defaultInstance()->Open_Dialog(this);
 }
 
 void CorvaneAppDelegate::controlTextDidChange()

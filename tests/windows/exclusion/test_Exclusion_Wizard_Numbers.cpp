@@ -121,6 +121,47 @@ TEST_F(Exclusion_Numbers_Test, A_File_Adds_What_Is_A_Number_And_New_And_Skips_Th
     });
 }
 
+TEST_F(Exclusion_Numbers_Test, A_Strip_Says_What_A_File_Gave_And_Shows_The_Lines_That_Were_Not_Used)
+{
+    Write_Bytes(m_path, "2\n\nname\n1\n2\n");
+    Run_On_Numbers("1\n", [&] {
+        const auto& strip = Control("m_import_strip");
+        EXPECT_FALSE(strip.isVisible()) << "though the screen shows all of its controls";
+        Load(m_path);
+        EXPECT_TRUE(strip.isVisible());
+        EXPECT_EQ(Label("_Import_Words"), "1 added, 3 lines not used.");
+        EXPECT_TRUE(m_user.Was_Shown().isEmpty());
+        Click("Show_Unused_Btn");
+        const auto& lines = Control("Unused_Lines_Wnd");
+        ASSERT_TRUE(lines.isVisible());
+        const auto& rows = In<QTableView>(lines, "_Rows");
+        EXPECT_EQ(Rows_Of(rows, 0).join(u' '), "3 4 5");
+        EXPECT_EQ(Rows_Of(rows, 2), QStringList({"No phone number", "Already in the list", "Already in the list"}));
+        Click_Middle_Of(In<QPushButton>(lines, "Close_Btn")); // it takes clicks beside the wizard, which is modal
+        EXPECT_FALSE(lines.isVisible());
+        Add_Number("7");
+        EXPECT_TRUE(strip.isVisible());
+        Click("Show_Unused_Btn");
+        Write_Bytes(m_path, "8\n");
+        Load(m_path);
+        EXPECT_EQ(Label("_Import_Words"), "1 added.");
+        EXPECT_FALSE(lines.isVisible());
+        EXPECT_EQ(Focused(), &Control("m_load_btn"));
+        Expect_Back_Asks();
+        Edit_List(0);
+        EXPECT_FALSE(strip.isVisible());
+        Write_Bytes(m_path, "name");
+        Load(m_path);
+        EXPECT_EQ(Label("_Import_Words"), "0 added, 1 line not used.");
+        Click("Dismiss_Import_Btn");
+        EXPECT_FALSE(strip.isVisible());
+        Load(m_path);
+        Select_Rows_In(Numbers(), {0});
+        Click("m_del_num_btn");
+        EXPECT_FALSE(strip.isVisible()) << "the list is empty";
+    });
+}
+
 TEST_F(Exclusion_Numbers_Test, What_Is_No_Regular_File_Is_Refused_And_What_Can_Not_Be_Decoded_Adds_Nothing)
 {
     ASSERT_TRUE(QDir().mkpath(m_data.Beside("folder")));
