@@ -1,6 +1,5 @@
 #include "plan/Job_Sums.h"
 
-#include "engine/Composer_Rules.h"
 #include "handset/Address.h"
 #include "list/Skip_Words.h"
 #include "plan/Plan_Time.h"
@@ -30,6 +29,7 @@ const char* Word_For(Skip_Reason reason)
         return Skip_Words::Excluded;
     case Skip_Reason::Repeated:
         return Skip_Words::Duplicate;
+    case Skip_Reason::Not_Filled:
     case Skip_Reason::None:
         break;
     }
@@ -64,8 +64,10 @@ Planned_Row Row_Of_Order(const Send_Order& order, const Plan_Manner& manner, int
     Planned_Row row;
     row.row = index + 1;
     row.number = order.recipients.Numbers().At(index);
-    row.text = Composer_Rules::Cut_To_Limit(order.recipients.Message_At(index));
-    row.skipped = QLatin1String(Word_For(Reason_To_Skip(order, index)));
+    const Filled_Message filled = Text_To_Send(order.recipients, index);
+    const Skip_Reason reason = Reason_To_Skip(order, index);
+    row.text = filled.text;
+    row.skipped = reason == Skip_Reason::Not_Filled ? filled.fault : QLatin1String(Word_For(reason));
     if (row.skipped.isEmpty() && !Can_Be_Tried(row.number, manner))
         row.skipped = QLatin1String(Skip_Words::Invalid_Number);
     return row;

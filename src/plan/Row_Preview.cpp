@@ -5,6 +5,7 @@
 #include "handset/Message_Joiner.h"
 #include "handset/Submit_Decoder.h"
 #include "handset/Text_Parts.h"
+#include "plan/Septet_Changes.h"
 
 namespace {
 
@@ -87,8 +88,11 @@ Row_Preview Preview_Of(const Planned_Row& row, const Plan_Manner& manner)
                             row.skipped != QLatin1String(Skip_Words::Too_Long);
     if (!has_frames)
         return preview;
-    preview.shown = Shown_By_A_Handset(Frames_Of(row, manner));
-    preview.changed = Changes_Between(row.text, preview.shown);
+    const QByteArrayList frames = Frames_Of(row, manner);
+    preview.shown = Shown_By_A_Handset(frames);
+    auto by_septets = manner.fixed_waits && preview.alphabet == Job_Alphabet::Gsm ? Changes_By_Septets(row.text, frames)
+                                                                                  : std::nullopt;
+    preview.changed = by_septets ? std::move(*by_septets) : Changes_Between(row.text, preview.shown);
     return preview;
 }
 

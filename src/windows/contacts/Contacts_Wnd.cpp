@@ -55,7 +55,7 @@ void Contacts_Wnd::Import(const Contact_Source& source)
     Read({}, true);
 }
 
-void Contacts_Wnd::Check_List()
+void Contacts_Wnd::Check_List(bool left_out_alone)
 {
     m_is_import = false;
     setWindowTitle(tr("Check before sending"));
@@ -64,6 +64,8 @@ void Contacts_Wnd::Check_List()
     m_plan_page->Show_Plan([list = m_window.Recipients(), terms = Terms()](const Plan_Watch& watch) {
         return Job_Plan::Of_List(list, terms, watch);
     });
+    if (left_out_alone)
+        m_plan_page->Show_Left_Out();
 }
 
 void Contacts_Wnd::Show_Not_Used()

@@ -30,8 +30,8 @@ public:
 
     /// Shows the sheet with contacts that are read now, and returns.
     void Import(const Contact_Source& source);
-    /// Shows what would be sent to the list as it is, and returns.
-    void Check_List();
+    /// Shows what would be sent to the list as it is, or what would not, and returns.
+    void Check_List(bool left_out_alone = false);
     /// Shows the second page as it was left, with those rows alone that did not join the list.
     void Show_Not_Used();
 

@@ -42,22 +42,21 @@ QString Plan_Words::Signed_Verdict(Row_Verdict verdict)
 
 QString Plan_Words::Sums(const Plan_Sums& sums, const QDateTime& now)
 {
-    QStringList lines{tr("%n message(s) to be sent", nullptr, sums.send)};
-    if (sums.send > 0)
-        lines.front() +=
-            tr(" in %n part(s)", nullptr, static_cast<int>(sums.parts)) +
-            tr(", %1, until %2")
-                .arg(About(sums.seconds), QLocale().toString(now.addSecs(sums.seconds).time(), QLocale::ShortFormat));
+    QString words = sums.send == 1 ? tr("1 message to be sent") : tr("%1 messages to be sent").arg(sums.send);
+    if (sums.send > 0) {
+        const auto seconds = static_cast<double>(sums.seconds);
+        words += sums.parts == 1 ? tr(", 1 part") : tr(", %1 parts").arg(sums.parts);
+        words += QStringLiteral(", %1, %2").arg(Time_Words::About(seconds), Time_Words::Until(seconds, now));
+    }
     QStringList reasons;
     for (std::size_t verdict = 1; verdict < sums.by_verdict.size(); ++verdict) {
         if (sums.by_verdict[verdict] > 0)
             reasons.append(QStringLiteral("%1 %2").arg(sums.by_verdict[verdict]).arg(tr(Verdicts[verdict].word)));
     }
-    lines.front() += u'.';
-    if (!reasons.isEmpty())
-        lines.append(tr("%n left out: ", nullptr, sums.recipients - sums.send) + reasons.join(QLatin1String(", ")) +
-                     u'.');
-    return lines.join(u' ');
+    if (reasons.isEmpty())
+        return words + u'.';
+    return words + QLatin1String(". ") +
+           tr("%1 left out: %2.").arg(sums.recipients - sums.send).arg(reasons.join(QLatin1String(", ")));
 }
 
 QString Plan_Words::Causes(const Plan_Sums& sums)
@@ -72,7 +71,8 @@ QString Plan_Words::Causes(const Plan_Sums& sums)
         }
         characters.append(QStringLiteral("%1 (%2)").arg(Shown(cause.character)).arg(cause.rows));
     }
-    const QString words = tr("%n message(s) go as Unicode", nullptr, sums.unicode);
+    const QString words =
+        sums.unicode == 1 ? tr("1 message goes as Unicode") : tr("%1 messages go as Unicode").arg(sums.unicode);
     return characters.isEmpty() ? words + u'.'
                                 : words + tr(", because of ") + characters.join(QLatin1String(", ")) + u'.';
 }

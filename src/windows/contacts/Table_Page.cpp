@@ -37,6 +37,15 @@ QString Letters_Of_Locale()
     return QLocale::territoryToCode(QLocale::system().territory());
 }
 
+QString Sizes_In_Words(const QString& name, const Contact_Table& table)
+{
+    const QString rows =
+        table.Row_Count() == 1 ? Table_Page::tr("1 row") : Table_Page::tr("%1 rows").arg(table.Row_Count());
+    const int columns = table.Column_Count();
+    return columns == 1 ? Table_Page::tr("%1: %2 in 1 column.").arg(name, rows)
+                        : Table_Page::tr("%1: %2 in %3 columns.").arg(name, rows).arg(columns);
+}
+
 } // namespace
 
 Table_Page::Table_Page(QWidget* parent)
@@ -128,10 +137,9 @@ void Table_Page::Show_Contacts(const QString& name, const Contact_Reading& readi
     else if (m_table->Row_Count() == 0)
         Say(tr("%1 holds no rows below the names of its columns.").arg(name), {});
     else
-        Say(tr("%1: %n row(s)", nullptr, m_table->Row_Count()).arg(name) + u' ' +
-                tr("in %n column(s).", nullptr, m_table->Column_Count()),
-            reading.number_column < 0 ? tr("No column looks as if it held numbers. Choose the one that does.")
-                                      : QString());
+        Say(Sizes_In_Words(name, *m_table), reading.number_column < 0
+                                                ? tr("No column looks as if it held numbers. Choose the one that does.")
+                                                : QString());
     Choose_Number_Column();
 }
 

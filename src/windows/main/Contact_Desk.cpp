@@ -1,13 +1,15 @@
 #include "windows/main/Contact_Desk.h"
 
+#include "engine/Outcome_Codes.h"
+#include "engine/Send_Order.h"
 #include "platform/Interface_Thread.h"
-#include "platform/String_Helpers.h"
 #include "toolkit/File_Panels.h"
+#include "toolkit/Import_Strip.h"
 #include "toolkit/Main_Window.h"
 #include "toolkit/Window_Work.h"
-#include "windows/contacts/Contacts_Strip.h"
 #include "windows/contacts/Contacts_Wnd.h"
 #include "windows/contacts/Empty_List_Hint.h"
+#include "windows/contacts/Fields_Strip.h"
 
 #include <QClipboard>
 #include <QFileInfo>
@@ -36,8 +38,7 @@ Contact_Desk::Contact_Desk(Main_Window& window, Window_Work& work, const Control
     m_controls.insert_field.setMenu(m_fields);
     connect(m_hint, &QPushButton::clicked, this, &Contact_Desk::Import_Contacts);
     connect(m_fields, &QMenu::aboutToShow, this, &Contact_Desk::Offer_Fields);
-    connect(&m_controls.strip, &Contacts_Strip::Save_Wanted, this, &Contact_Desk::Save_With_Fields);
-    connect(&m_controls.strip, &Contacts_Strip::Show_Wanted, this, &Contact_Desk::Show_Rows);
+    connect(&m_controls.fields, &Fields_Strip::Save_Wanted, this, &Contact_Desk::Save_With_Fields);
     List_Changed();
 }
 
@@ -84,9 +85,12 @@ bool Contact_Desk::Import_Clipboard_Table()
 
 void Contact_Desk::Say_What_Was_Added(int rows, int not_used)
 {
-    m_shows_list = false;
-    const QString added = tr("%n row(s) added", nullptr, rows);
-    m_controls.strip.Say(not_used == 0 ? added + u'.' : added + tr(", %n not used.", nullptr, not_used), not_used > 0);
+    if (not_used == 0)
+        m_controls.strip.Show_News(tr("%1 added.").arg(rows), {});
+    else
+        m_controls.strip.Show_News(not_used == 1 ? tr("%1 added, 1 row not used.").arg(rows)
+                                                 : tr("%1 added, %2 rows not used.").arg(rows).arg(not_used),
+                                   [this] { Window().Show_Not_Used(); });
 }
 
 // ------------------------------------------------------------------------------------------------- the list
@@ -95,13 +99,11 @@ void Contact_Desk::List_Changed()
 {
     const Recipient_List& list = m_window.Recipients();
     m_hint->setVisible(list.Count() == 0);
-    if (list.Count() == 0)
-        m_controls.strip.Say({}, false);
     const QStringList names = list.Field_Names();
     if (names == m_names)
         return;
     m_names = names;
-    m_controls.strip.Show_Fields(names);
+    m_controls.fields.Show_Fields(names);
     m_controls.insert_field.setVisible(!names.isEmpty());
 }
 
@@ -127,13 +129,28 @@ void Contact_Desk::Check_List()
     Window().Check_List();
 }
 
-void Contact_Desk::Show_Rows()
-{
-    if (m_shows_list)
-        Window().Check_List();
-    Window().Show_Not_Used();
-}
-
 void Contact_Desk::Save_With_Fields() {}
 
-void Contact_Desk::Job_Ended() {}
+// A list without fields has nothing to say, and what is to be counted of another is counted behind the window.
+void Contact_Desk::Job_Ended()
+{
+    if (!m_window.Recipients().Has_Fields())
+        return;
+    m_work.Start("rows not sent", [this, list = m_window.Recipients()] {
+        int count = 0;
+        int first = -1;
+        for (int row = 0; row < list.Count(); ++row) {
+            if (Outcome_Codes::State_Of(list.Mark_At(row)) == Row_State::Not_Filled && count++ == 0)
+                first = row;
+        }
+        if (count == 0)
+            return;
+        const QString reason = Words_For_Fault(Text_To_Send(list, first));
+        Post_To_Interface_Thread(this, [this, count, reason] {
+            m_controls.strip.Show_News(count == 1
+                                           ? tr("1 row was not sent: %1.").arg(reason)
+                                           : tr("%1 rows were not sent. Of the first, %2.").arg(count).arg(reason),
+                                       [this] { Window().Check_List(true); });
+        });
+    });
+}

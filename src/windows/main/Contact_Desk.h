@@ -4,9 +4,10 @@
 #include <QStringList>
 #include <memory>
 
-class Contacts_Strip;
 class Contacts_Wnd;
 class Empty_List_Hint;
+class Fields_Strip;
+class Import_Strip;
 class Main_Window;
 class QMenu;
 class QPushButton;
@@ -25,7 +26,8 @@ public:
     {
         QPushButton& insert_field; ///< gets a menu
         QTableView& table;
-        Contacts_Strip& strip;
+        Fields_Strip& fields;
+        Import_Strip& strip; ///< says what became of rows
     };
 
     /// All outlive it.
@@ -52,7 +54,6 @@ private:
     Contacts_Wnd& Window();
     void Offer_Fields();
     void Say_What_Was_Added(int rows, int not_used);
-    void Show_Rows();
 
     Main_Window& m_window;
     Window_Work& m_work;
@@ -61,5 +62,4 @@ private:
     QMenu* m_fields;
     QStringList m_names;                // of the list's fields
     Contacts_Wnd* m_contacts = nullptr; // the main window's child
-    bool m_shows_list = false;          // rather than what was not added
 };

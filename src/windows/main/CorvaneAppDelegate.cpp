@@ -116,7 +116,7 @@ bool CorvaneAppDelegate::awakeFromNib()
     m_follow_up =
         std::make_unique<Job_Follow_Up>(*this, *m_work, *m_send_runner, *m_ui->_Job_Strip, *m_ui->Show_Receipt);
     m_contacts = std::make_unique<Contact_Desk>(
-        *this, *m_work, Contact_Desk::Controls{*m_ui->Insert_Field, *m_ui->idTableView, *m_ui->_Contacts_Strip});
+        *this, *m_work, Contact_Desk::Controls{*m_ui->Insert_Field, *m_ui->idTableView, *m_ui->_Fields_Strip, *m_ui->_Import_Strip});
     Make_Promise();
     Main_App_wnd = this;
     Show_Device_In_Ticker();

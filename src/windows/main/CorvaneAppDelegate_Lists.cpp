@@ -162,9 +162,9 @@ void CorvaneAppDelegate::Remove_Recipients(const std::function<void(Recipient_Li
 Recipient_List CorvaneAppDelegate::Exchange_List(Recipient_List list)
 {
     std::swap(nsListDataObject, list);
-    m_promise->Changed();
     if (nsListDataObject.Count() == 0)
         m_arrivals->Forget();
+    m_promise->Changed();
     Forget_Outcomes_Of_Job();
     Look_For_Not_Taken();
     return list;

@@ -66,7 +66,7 @@ TEST_F(Table_Page_Test, The_First_Twenty_Rows_Are_Shown_Under_Their_Names_With_T
     EXPECT_EQ(Headings(Sample()), (QStringList{"Name", "Phone (number)"}));
     EXPECT_EQ(Sample().model()->rowCount(), 20);
     EXPECT_EQ(First_Row(), "Ann 0|07700900100");
-    EXPECT_EQ(Words(), "list.csv: 30 row(s) in 2 column(s).");
+    EXPECT_EQ(Words(), "list.csv: 30 rows in 2 columns.");
     EXPECT_TRUE(m_sheet->isModal());
     EXPECT_TRUE(Can_Go_On());
 }
@@ -160,7 +160,7 @@ TEST_F(Table_Page_Test, Cells_From_The_Clipboard_Need_No_Encoding)
     m_sheet->Import({{}, "Name\tPhone\nJ\xC3\xB6rg\t07700900100\n"});
     Await();
     EXPECT_FALSE(Is_Offered("_Encoding"));
-    EXPECT_EQ(Words(), "The clipboard: 1 row(s) in 2 column(s).");
+    EXPECT_EQ(Words(), "The clipboard: 1 row in 2 columns.");
     EXPECT_EQ(First_Row(), "J\xC3\xB6rg|07700900100");
     EXPECT_TRUE(Can_Go_On());
 }

@@ -8,6 +8,10 @@ TEST_F(Wizard_Test, A_Device_Selected_With_Its_Own_Centre_Becomes_The_One_To_Sen
             EXPECT_EQ(Text("_comport_edit"), "");
             Probe_Row(0);
             Cus_SMS_Num_STR = "left from before";
+            if (time == 2) {
+                Type_Custom_Smsc("+44-7700-900");
+                Click("_cus_smsc_chk"); // which was on: another centre is not wanted after all
+            }
             Click("_Select_Btn");
             EXPECT_FALSE(m_window->isVisible());
             EXPECT_EQ(Sheets_So_Far(), 2 * time + 2);
