@@ -162,13 +162,13 @@ void Confirmed_Manner::Begin_Journal()
 void Confirmed_Manner::Make_Journal()
 {
     m_job_id = m_options.id.isEmpty() ? New_Job_Id() : m_options.id;
-    auto opened =
-        Job_Journal::Create(m_options.folder, {m_job_id, m_session.Imsi(), m_order.device_path, m_options.job},
-                            [this, index = 0]() mutable -> std::optional<Job_Row> {
-                                if (index == m_order.recipients.Count())
-                                    return std::nullopt;
-                                return Row_At(index++);
-                            });
+    auto opened = Job_Journal::Create(
+        m_options.folder, {m_job_id, m_session.Imsi(), m_order.device_path, m_options.job, m_options.keeps_journal},
+        [this, index = 0]() mutable -> std::optional<Job_Row> {
+            if (index == m_order.recipients.Count())
+                return std::nullopt;
+            return Row_At(index++);
+        });
     m_journal = std::move(opened.journal);
     m_journal_trouble = opened.trouble;
 }
@@ -247,7 +247,7 @@ std::optional<Row_Details> Confirmed_Manner::Settled_Before(int index, const Job
         if (!Is_Final(state.words, state.tries))
             return std::nullopt;
         details.outcome = {Row_State::Refused, Cause_Of_Field(state.words).value_or(Device_Cause{})};
-        details.reason = Reason_Of(details.outcome.cause);
+        details.reason = Refusal_Sentence(state.words);
         return details;
     }
     case Sending_State::Handing_Over:

@@ -241,6 +241,10 @@ Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Take_Obstacle(O
         return Hold(Until::Device_Is_Back, T::Device_Is_Silent);
     if (Try_Again_Later(T::No_Prompt) == Part_End::Again)
         return Part_End::Again;
+    if (m_manner.m_stop == 1 || Program_Is_Exiting())
+        return Take_Obstacle(Obstacle::Stopped);
+    if (m_manner.m_journal)
+        m_manner.m_journal->Refused(m_index + 1, m_part, No_Prompt_Field);
     return Be_Refused({}, T::No_Prompt, Alike_In_A_Row);
 }
 
@@ -329,6 +333,11 @@ void Confirmed_Manner::Row_Walk::Still_Waiting(int seconds)
     m_manner.m_progress.Show_Waiting(T::Waiting_For_Network);
     m_is_waiting = true;
     m_manner.m_watcher.Still_Waiting(seconds);
+}
+
+QString Refusal_Sentence(const QString& field)
+{
+    return field == No_Prompt_Field ? QString(T::No_Prompt) : Reason_Of(Cause_Of_Field(field).value_or(Device_Cause{}));
 }
 
 QString Doubt_Sentence(const QString& field)

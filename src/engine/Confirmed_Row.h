@@ -49,6 +49,12 @@ private:
     bool m_is_waiting = false; // and that is being shown
 };
 
+/// What the journal writes of a part that the device gave no prompt for, however often it was asked: nothing was sent.
+inline constexpr QLatin1String No_Prompt_Field("no-prompt");
+
+/// Why a part was refused, for a person, from what the journal writes.
+QString Refusal_Sentence(const QString& field);
+
 /// The cause as the journal writes it: cms:500, cme:11, error, or words: and the device's own.
 QString Cause_Field(const Device_Cause& cause);
 std::optional<Device_Cause> Cause_Of_Field(const QString& field);

@@ -31,7 +31,8 @@ QString Name_By_Place(qsizetype column)
 
 } // namespace
 
-Table_Builder::Table_Builder(qsizetype expected_bytes, bool has_names) : m_has_names(has_names)
+Table_Builder::Table_Builder(qsizetype expected_bytes, bool has_names, Blank_Rows blank_rows)
+    : m_blank_rows(blank_rows), m_has_names(has_names)
 {
     m_table.m_text.reserve(std::min(static_cast<std::size_t>(expected_bytes), Most_Bytes));
 }
@@ -52,7 +53,7 @@ bool Table_Builder::End_Row(int source_row, bool has_stray_quote)
         m_trouble = QString(Texts::Table::Too_Many_Columns).arg(source_row).arg(Most_Columns);
         return false;
     }
-    if (Is_Blank()) {
+    if (m_blank_rows == Blank_Rows::Left_Out && Is_Blank()) {
         Forget_Row();
         return true;
     }

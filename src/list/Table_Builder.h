@@ -3,8 +3,8 @@
 #include "list/Contact_Table.h"
 
 // Takes a table's fields one by one from whatever reads its file. The first row with any text in it names the columns,
-// unless names are missing: then they are numbered. Rows without any text are left out. Lives for one file, on its
-// reader's thread.
+// unless names are missing: then they are numbered. Rows without any text are left out, if nobody wants them. Lives for
+// one file, on its reader's thread.
 class Table_Builder
 {
 public:
@@ -12,8 +12,15 @@ public:
     static constexpr std::size_t Most_Fields = 32'000'000;
     static constexpr std::size_t Most_Bytes = std::size_t{1} << 30;
 
+    enum class Blank_Rows : std::uint8_t
+    {
+        Left_Out,
+        Kept ///< also that of the names
+    };
+
     /// Makes room for so many bytes of text.
-    explicit Table_Builder(qsizetype expected_bytes = 0, bool has_names = true);
+    explicit Table_Builder(qsizetype expected_bytes = 0, bool has_names = true,
+                           Blank_Rows blank_rows = Blank_Rows::Left_Out);
 
     /// Adds a field in UTF-8 to the row.
     void Add_Field(QByteArrayView utf8)
@@ -52,6 +59,7 @@ private:
     void Number_Columns();
 
     Contact_Table m_table;
+    Blank_Rows m_blank_rows;
     std::size_t m_first_field = 0; // of the row that is being filled
     std::size_t m_first_byte = 0;
     bool m_has_names;

@@ -155,8 +155,7 @@ Filled_Message Job_Plan::Filled_At(int row) const
         return {Composer_Rules::Cut_To_Limit(m_list.Message_At(row))};
     if (Is_Of_List())
         return m_list.Text_At(row);
-    return Has_Fields() ? Message_Filling(m_message, *m_table).For_Row(*m_table, row)
-                        : Message_Filling(m_message).Without_Values();
+    return Has_Fields() ? m_filling->For_Row(*m_table, row) : m_filling->Without_Values();
 }
 
 // --------------------------------------------------------------------------------------------------------- verdicts

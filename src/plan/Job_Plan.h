@@ -106,7 +106,8 @@ private:
     Plan_Terms m_terms;
     std::shared_ptr<const Contact_Table> m_table; // null for a plan of a list
     int m_number_column = 0;
-    QString m_message; // of all rows of the table
+    QString m_message;                                // of all rows of the table
+    std::shared_ptr<const Message_Filling> m_filling; // the same, taken apart
     Recipient_List m_list;
     std::vector<Entry> m_entries;
     QHash<int, QString> m_written; // numbers that were put right

@@ -30,6 +30,7 @@ const char* Word_For(Skip_Reason reason)
     case Skip_Reason::Repeated:
         return Skip_Words::Duplicate;
     case Skip_Reason::Not_Filled:
+        return Skip_Words::Empty_Field;
     case Skip_Reason::None:
         break;
     }
@@ -65,9 +66,10 @@ Planned_Row Row_Of_Order(const Send_Order& order, const Plan_Manner& manner, int
     row.row = index + 1;
     row.number = order.recipients.Numbers().At(index);
     const Filled_Message filled = Text_To_Send(order.recipients, index);
-    const Skip_Reason reason = Reason_To_Skip(order, index);
     row.text = filled.text;
-    row.skipped = reason == Skip_Reason::Not_Filled ? filled.fault : QLatin1String(Word_For(reason));
+    row.skipped = QLatin1String(Word_For(Reason_To_Skip(order, index)));
+    if (row.skipped == QLatin1String(Skip_Words::Empty_Field))
+        row.skipped = filled.fault; // or one of the others
     if (row.skipped.isEmpty() && !Can_Be_Tried(row.number, manner))
         row.skipped = QLatin1String(Skip_Words::Invalid_Number);
     return row;

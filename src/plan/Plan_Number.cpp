@@ -35,16 +35,22 @@ Read_Number Number_Of_Input(QStringView written, Plan_Numbers numbers, const Cou
 
 std::optional<Packed_Number> Plain_Number_In(QByteArrayView utf8)
 {
+    if (utf8.size() > Longest_Shown)
+        return std::nullopt;
     Packed_Number number;
     const bool has_plus = utf8.startsWith('+');
     if (has_plus) {
         number.Add_Digit(u'0');
         number.Add_Digit(u'0');
     }
-    for (const char byte : utf8.sliced(has_plus ? 1 : 0))
-        if (byte < '0' || byte > '9' || !number.Add_Digit(static_cast<char16_t>(byte)))
+    bool has_digits = false;
+    for (const char byte : utf8.sliced(has_plus ? 1 : 0)) {
+        const bool is_digit = byte >= '0' && byte <= '9';
+        if (is_digit ? !number.Add_Digit(static_cast<char16_t>(byte)) : byte != '-' && byte != ' ')
             return std::nullopt;
-    return utf8.size() > (has_plus ? 1 : 0) ? std::optional(number) : std::nullopt;
+        has_digits = has_digits || is_digit;
+    }
+    return has_digits ? std::optional(number) : std::nullopt;
 }
 
 bool Can_Be_Dialled(const QString& number)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <optional>
 
@@ -25,5 +26,9 @@ constexpr char End = 'Z';
 /// The field of a decision: what was decided, and, behind a colon, by whom or through what.
 QString Text_Of(Job_Decision decision, const QString& who);
 std::optional<Job_Decision> Decision_Of(const QString& text);
+
+/// The header's last field, where it is there: whether the job's files stay when it has ended.
+QByteArray Text_Of_Keeping(bool keeps_receipt);
+std::optional<bool> Keeping_Of(QByteArrayView field);
 
 } // namespace Job_Words

@@ -1,18 +1,10 @@
 #include "send/Inputs.h"
 
-#include "engine/Composer_Rules.h"
-#include "handset/Address.h"
-#include "list/Message_Filling.h"
-#include "list/Number_File.h"
-#include "list/Number_List.h"
-#include "list/Number_Rules.h"
-#include "list/Written_Number.h"
-#include "platform/String_Helpers.h"
+#include "list/Table_Builder.h"
+#include "plan/Job_Plan.h"
 #include "send/Input_Files.h"
 
 namespace {
-
-constexpr qsizetype Longest_Shown = 100; // of a line that is no number, in characters
 
 /// Passes on each line without its end.
 template <typename Take>
@@ -26,38 +18,46 @@ void For_Each_Line(const QString& text, Take take)
     }
 }
 
-// Half of a pair at the cut would be no character.
-QString Beginning_Of(QStringView line)
+// Numbers one below another, as a table of one column.
+class Number_Lines
 {
-    QString beginning = Trim_Str(line.left(Longest_Shown).toString());
-    if (!beginning.isEmpty() && beginning.back().isHighSurrogate())
-        beginning.chop(1);
-    return beginning;
-}
+public:
+    Number_Lines() { Add(u"Number"); }
 
-bool Can_Be_Dialled(const QString& number)
-{
-    return !number.isEmpty() &&
-           Handset::Fault_Of(Handset::Destination_Of(number.toStdString())) == Handset::Address_Fault::None;
-}
+    void Add(QStringView line)
+    {
+        m_builder.Add_Field(line.toUtf8());
+        m_builder.End_Row(m_row++);
+    }
+    std::shared_ptr<const Contact_Table> Take() { return std::make_shared<const Contact_Table>(m_builder.Take()); }
+
+private:
+    Table_Builder m_builder{0, true, Table_Builder::Blank_Rows::Kept};
+    int m_row = 0;
+};
 
 class Input_Reader
 {
 public:
-    explicit Input_Reader(const Arguments& arguments) : m_arguments(arguments) {}
+    explicit Input_Reader(const Arguments& arguments) : m_arguments(arguments)
+    {
+        m_terms.manner = arguments.Manner();
+        m_terms.skip_duplicates = arguments.skip_duplicates;
+        m_terms.country = arguments.country;
+    }
 
     Inputs Read()
     {
         Read_Message();
         for (const QString& path : m_arguments.exclude_files)
             Read_Exclusions(path);
-        for (const QString& number : m_arguments.numbers)
-            Add_Plain(Number_Rules::Normalised_Number(number), number);
+        Read_Typed_Numbers();
         Read_Numbers();
         Read_Table_Rows();
         const QString& path = m_arguments.table_file.isEmpty() ? m_arguments.numbers_file : m_arguments.table_file;
         if (!m_inputs.trouble && m_inputs.rows.empty())
             m_inputs.trouble = {QStringLiteral("there are no recipients"), path + QStringLiteral(" holds no numbers")};
+        m_inputs.sums = m_counter.Sums(m_terms.manner);
         return std::move(m_inputs);
     }
 
@@ -72,43 +72,45 @@ private:
     void Read_Message()
     {
         const QString& path = m_arguments.message_file;
-        const QString message = path.isEmpty() ? m_arguments.message : Take(Read_Message_File(path));
-        if (message.isEmpty() && !m_inputs.trouble)
+        m_message = path.isEmpty() ? m_arguments.message : Take(Read_Message_File(path));
+        if (m_message.isEmpty() && !m_inputs.trouble)
             m_inputs.trouble = {QStringLiteral("there is no message"), path + QStringLiteral(" is empty")};
-        m_message = message;
-        m_filled = Message_Filling(message).Without_Values();
     }
 
     void Read_Exclusions(const QString& path)
     {
-        Number_List one; // gives the text of a packed number
         For_Each_Line(Take(Read_Numbers_File(path)), [&](QStringView line) {
-            one.Clear();
-            one.Append(Number_In_Line(line));
-            if (const QString number = Of_Country(one.At(0), line).number; !number.isEmpty())
-                m_excluded.Append(number);
+            const QString number = Number_Of_Input(line, Plan_Numbers::On_A_Line, m_arguments.country).number;
+            if (!number.isEmpty())
+                m_terms.excluded.Append(number);
         });
+    }
+
+    void Read_Typed_Numbers()
+    {
+        Number_Lines lines;
+        for (const QString& number : m_arguments.numbers)
+            lines.Add(number);
+        Add(lines.Take(), 0, Plan_Numbers::Typed);
     }
 
     void Read_Numbers()
     {
         if (m_arguments.numbers_file.isEmpty() || m_inputs.trouble)
             return;
-        Number_List one;
+        Number_Lines lines;
         For_Each_Line(Take(Read_Numbers_File(m_arguments.numbers_file)), [&](QStringView line) {
-            if (Is_Blank_Line(line))
-                return;
-            one.Clear();
-            one.Append(Number_In_Line(line));
-            Add_Plain(one.At(0), line);
+            if (!Is_Blank_Line(line))
+                lines.Add(line);
         });
+        Add(lines.Take(), 0, Plan_Numbers::On_A_Line);
     }
 
     void Read_Table_Rows()
     {
         if (m_arguments.table_file.isEmpty() || m_inputs.trouble)
             return;
-        const Table_Input input = Read_Table_Input(m_arguments);
+        Table_Input input = Read_Table_Input(m_arguments);
         const Message_Filling filling(m_message, input.table);
         m_inputs.trouble = input.trouble;
         if (!m_inputs.trouble && !filling.Ambiguous().isEmpty())
@@ -117,75 +119,30 @@ private:
         if (m_inputs.trouble)
             return;
         m_inputs.table = input.told;
-        for (int row = 0; row < input.table.Row_Count(); ++row) {
-            const QString written = input.table.Field(row, input.number_column);
-            Planned_Row planned =
-                Judged(Number_As_Written(written, m_arguments.country), written, filling.For_Row(input.table, row));
-            if (const QString trouble = input.table.Words_For_Trouble(row); !trouble.isEmpty()) {
-                planned.skipped = QLatin1String(Skip_Words::Wrong_Columns);
-                planned.note = trouble;
-            }
-            Add(std::move(planned));
+        Add(std::make_shared<const Contact_Table>(std::move(input.table)), input.number_column,
+            Plan_Numbers::In_A_Table);
+    }
+
+    void Add(const std::shared_ptr<const Contact_Table>& table, int number_column, Plan_Numbers numbers)
+    {
+        m_terms.numbers = numbers;
+        const Job_Plan plan = Job_Plan::Of_Table(table, number_column, m_message, m_terms);
+        for (int row = 0; row < plan.Count(); ++row) {
+            Planned_Row planned = plan.At(row);
+            planned.row = static_cast<int>(m_inputs.rows.size()) + 1;
+            if (m_terms.skip_duplicates && planned.Is_To_Be_Sent())
+                m_terms.present.Append(planned.number);
+            m_counter.Add(planned.row, plan.Verdict_Of(row), plan.Parts_Of(row), plan.Is_Unicode(row));
+            m_inputs.parts.push_back(plan.Parts_Of(row));
+            m_inputs.rows.push_back(std::move(planned));
         }
-    }
-
-    // A number of a plain list, as the desktop program reads it; with a country by the rules of tables.
-    Read_Number Of_Country(const QString& number, QStringView as_written) const
-    {
-        if (!m_arguments.country)
-            return {number, Number_Reading::As_Written};
-        constexpr QStringView passed_over = u"\\{}";
-        QString kept;
-        for (const QChar character : as_written.left(Longest_Shown + 1))
-            if (!passed_over.contains(character))
-                kept += character;
-        return Number_As_Written(kept, m_arguments.country);
-    }
-
-    void Add_Plain(const QString& number, QStringView as_written)
-    {
-        Add(Judged(Of_Country(number, as_written), as_written, m_filled));
-    }
-
-    Planned_Row Judged(const Read_Number& read, QStringView as_written, const Filled_Message& filled) const
-    {
-        Planned_Row row;
-        row.text = filled.text;
-        row.number = read.number.isEmpty() ? Beginning_Of(as_written) : read.number;
-        row.note = Words_For_Reading(read.reading, m_arguments.country);
-        if (row.number.isEmpty()) // blanks alone
-            row.number = QStringLiteral("-");
-        if (!Can_Be_Dialled(read.number))
-            row.skipped = QLatin1String(Skip_Words::Invalid_Number);
-        else if (m_excluded.Contains(read.number))
-            row.skipped = QLatin1String(Skip_Words::Excluded);
-        else if (!filled.fault.isEmpty())
-            row.skipped = filled.fault;
-        else if (row.text.isEmpty())
-            row.skipped = QLatin1String(Skip_Words::Empty_Field);
-        else if (row.text.size() > Composer_Rules::Most_Characters)
-            row.skipped = QLatin1String(Skip_Words::Too_Long);
-        return row;
-    }
-
-    void Add(Planned_Row row)
-    {
-        row.row = static_cast<int>(m_inputs.rows.size()) + 1;
-        if (row.Is_To_Be_Sent() && m_arguments.skip_duplicates) {
-            if (m_to_be_sent.Contains(row.number))
-                row.skipped = QLatin1String(Skip_Words::Duplicate);
-            else
-                m_to_be_sent.Append(row.number);
-        }
-        m_inputs.rows.push_back(std::move(row));
     }
 
     const Arguments& m_arguments;
     Inputs m_inputs;
     QString m_message;
-    Filled_Message m_filled; // for recipients without values
-    Number_List m_excluded;
-    Number_List m_to_be_sent;
+    Plan_Terms m_terms;
+    Plan_Counter m_counter;
 };
 
 } // namespace

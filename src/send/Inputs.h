@@ -1,5 +1,6 @@
 #pragma once
 
+#include "plan/Plan_Sums.h"
 #include "plan/Planned_Row.h"
 #include "send/Arguments.h"
 #include "send/Table_Input.h"
@@ -11,6 +12,8 @@
 struct Inputs
 {
     std::vector<Planned_Row> rows;
+    std::vector<int> parts;          ///< of each row
+    Plan_Sums sums;                  ///< of all of them, without causes
     std::optional<Table_Told> table; ///< how the table was read, if there is one
     Trouble trouble;                 ///< what cannot be read, or is missing
 };

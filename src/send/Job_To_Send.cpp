@@ -1,7 +1,6 @@
 #include "send/Job_To_Send.h"
 
 #include "plan/Plan_Time.h"
-#include "plan/Row_Preview.h"
 #include "records/Data_Paths.h"
 #include "records/Job_Journal.h"
 #include "records/Job_Paths.h"
@@ -81,9 +80,7 @@ Job_Or_Trouble New_Job(const Arguments& arguments)
     job.options = {arguments.service_centre, arguments.report_seconds, arguments.batch,
                    static_cast<double>(arguments.pause_seconds), arguments.alphabet};
     job.rows = std::move(inputs.rows);
-    const Plan_Manner manner = arguments.Manner();
-    for (const Planned_Row& row : job.rows)
-        job.parts.push_back(Parts_Of_Row(row, manner));
+    job.parts = std::move(inputs.parts);
     const Trouble trouble = Prepare_Journal(arguments, job);
     return {std::move(job), trouble};
 }

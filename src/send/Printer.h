@@ -40,7 +40,7 @@ struct Plan_Facts
 {
     int recipients = 0;
     int send = 0;
-    int parts = 0;
+    qint64 parts = 0;
     int unicode = 0; ///< of those that are to be sent
     qint64 seconds = 0;
     std::optional<Table_Told> table; ///< how the table was read, if there is one

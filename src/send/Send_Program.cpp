@@ -1,7 +1,6 @@
 #include "send/Send_Program.h"
 
 #include "plan/Hand_Over.h"
-#include "plan/Plan_Time.h"
 #include "platform/Waiting.h"
 #include "records/Data_Paths.h"
 #include "records/Job_Shelf.h"
@@ -10,40 +9,17 @@
 #include "send/Sending.h"
 #include "send/Stop_Signals.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 
 namespace {
 
-// What a dry run counts.
-class Planned_Sum
+bool Is_In_Order(const Inputs& inputs)
 {
-public:
-    void Add(const Planned_Row& row, const Row_Preview& preview)
-    {
-        ++m_facts.recipients;
-        m_is_in_order = m_is_in_order && row.Is_In_Order();
-        if (!row.Is_To_Be_Sent())
-            return;
-        ++m_facts.send;
-        m_facts.parts += preview.parts;
-        m_facts.unicode += preview.alphabet == Job_Alphabet::Ucs2 ? 1 : 0;
-        m_parts.push_back(preview.parts);
-    }
-
-    Plan_Facts Facts(const Plan_Manner& manner)
-    {
-        m_facts.seconds = Seconds_For(m_parts, manner);
-        return m_facts;
-    }
-
-    bool Is_In_Order() const { return m_is_in_order; }
-
-private:
-    Plan_Facts m_facts;
-    std::vector<int> m_parts;
-    bool m_is_in_order = true;
-};
+    return std::all_of(inputs.rows.begin(), inputs.rows.end(),
+                       [](const Planned_Row& row) { return row.Is_In_Order(); });
+}
 
 } // namespace
 
@@ -115,12 +91,10 @@ int Send_Program::Plan()
     const Plan_Manner manner = m_arguments.Manner();
     Hand_Over hand_over(m_arguments.hand_over_folder, manner);
     Hand_Over_Trouble trouble = hands_over ? hand_over.Begin() : Hand_Over_Trouble();
-    Planned_Sum sum;
     for (const Planned_Row& row : inputs.rows) {
         if (trouble || Program_Is_Exiting())
             break;
         const Row_Preview preview = Preview_Of(row, manner);
-        sum.Add(row, preview);
         if (hands_over && row.Is_To_Be_Sent())
             trouble = hand_over.Add(row, preview);
         if (!trouble)
@@ -130,10 +104,9 @@ int Send_Program::Plan()
         trouble = hand_over.End();
     if (trouble || Program_Is_Exiting())
         return Fail({trouble.what, trouble.why});
-    Plan_Facts facts = sum.Facts(manner);
-    facts.table = inputs.table;
-    m_printer->Plan(facts);
-    return sum.Is_In_Order() ? Exit_Status::Done : Exit_Status::Not_All_Sent;
+    const Plan_Sums& sums = inputs.sums;
+    m_printer->Plan({sums.recipients, sums.send, sums.parts, sums.unicode, sums.seconds, inputs.table});
+    return Is_In_Order(inputs) ? Exit_Status::Done : Exit_Status::Not_All_Sent;
 }
 
 int Send_Program::List_Jobs()

@@ -19,7 +19,7 @@ QString Import_In_Words(const Import_Report& report)
     else if (unused > 1)
         words = Import_Strip::tr("%1 added, %2 lines not used.").arg(report.Added()).arg(unused);
     if (report.Ended() == Import_Report::End::Early)
-        return Import_Strip::tr("%1 Then it ended early.").arg(words);
+        return Import_Strip::tr("%1\nThen it ended early.").arg(words);
     return report.Added() + unused > 0 ? words : Import_Strip::tr("0 added: there was no text that could be read.");
 }
 
@@ -31,7 +31,7 @@ Import_Strip::Import_Strip(QWidget* parent)
     setAccessibleName(tr("What the last import did"));
     m_words->setObjectName(QStringLiteral("_Import_Words"));
     m_words->setTextFormat(Qt::PlainText);
-    m_words->setWordWrap(true);
+    // The words do not wrap: beside a height that depends on the width, layouts cut what is below and beside the strip.
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(12, 4, 4, 4);
     row->setSpacing(4);

@@ -9,7 +9,7 @@
 class Status_Label;
 class Unused_Lines_Wnd;
 
-/// What an import did, in a sentence: "198 added, 2 lines not used."
+/// What an import did, on a line or two: "198 added, 2 lines not used."
 QString Import_In_Words(const Import_Report& report);
 
 // A quiet strip that says what the last import did, and shows the lines that were not used when it is asked to. It

@@ -20,7 +20,12 @@ public:
     void Begin_Preparing(int) override {}
     void Begin_Sending() override {}
     void Show_Item(int, int, const QString&) override {}
-    void Show_Current(const QString& text) override { m_shown.append(text); }
+    void Show_Current(const QString& text) override
+    {
+        m_shown.append(text);
+        if (m_on_shown)
+            m_on_shown();
+    }
     void End() override {}
     void Begin_Pause() override {}
     void Show_Pause(const QString&) override {}
@@ -64,6 +69,7 @@ public:
     std::vector<std::array<int, 3>> m_reports; // index, part, status
     std::vector<Row_Details> m_rows;
     std::vector<std::pair<int, Row_State>> m_outcomes;
+    std::function<void()> m_on_shown;
     std::function<void()> m_on_row;
     std::function<void()> m_on_held;
 };

@@ -66,6 +66,14 @@ TEST_F(List_Arrivals_Test, An_Import_Says_What_It_Did_And_Shows_The_Lines_That_I
     EXPECT_EQ(user.Was_Shown(), QStringList());
 }
 
+TEST_F(List_Arrivals_Test, Tab_Comes_To_What_Is_Said_After_The_List)
+{
+    Load("111\nname\n");
+    The<QTableView>("idTableView").setFocus();
+    EXPECT_TRUE(
+        Tab_Order(*m_delegate).join(u' ').startsWith("idTableView Show_Unused_Btn Dismiss_Import_Btn Export_Btn "));
+}
+
 TEST_F(List_Arrivals_Test, The_Next_Import_Takes_The_Place_Of_The_Last)
 {
     Load("111\nname\n");

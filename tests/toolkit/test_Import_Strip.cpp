@@ -47,8 +47,8 @@ INSTANTIATE_TEST_SUITE_P(
         Said{"More_Than_Are_Noted", 0, 10'500, Import_Report::End::Complete, "0 added, 10500 lines not used."},
         Said{"No_Text", 0, 0, Import_Report::End::Complete, "0 added: there was no text that could be read."},
         Said{"No_File", 0, 0, Import_Report::End::Unread, "0 added: the file could not be read."},
-        Said{"Broken_Off", 5, 2, Import_Report::End::Early, "5 added, 2 lines not used. Then it ended early."},
-        Said{"Broken_Off_At_Once", 0, 0, Import_Report::End::Early, "0 added. Then it ended early."}),
+        Said{"Broken_Off", 5, 2, Import_Report::End::Early, "5 added, 2 lines not used.\nThen it ended early."},
+        Said{"Broken_Off_At_Once", 0, 0, Import_Report::End::Early, "0 added.\nThen it ended early."}),
     [](const auto& each) { return each.param.name; });
 
 // A strip between a field and a button of a window.

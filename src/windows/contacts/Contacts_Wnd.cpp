@@ -70,8 +70,12 @@ void Contacts_Wnd::Check_List(bool left_out_alone)
 
 void Contacts_Wnd::Show_Not_Used()
 {
+    m_is_import = true;
+    m_is_added = true;
+    setWindowTitle(tr("Import contacts"));
     Show_Page(*m_plan_page);
     open();
+    m_plan_page->Show_Again(m_last_added);
     m_plan_page->Show_Left_Out();
 }
 
@@ -80,8 +84,7 @@ void Contacts_Wnd::reject()
     if (m_work.Is_Sheet_Shown())
         return;
     ++m_turn;
-    if (!m_is_added)
-        m_plan_page->Clear();
+    m_plan_page->Clear();
     QDialog::reject();
 }
 
@@ -158,11 +161,13 @@ void Contacts_Wnd::Add_To_List()
         const auto sheet = m_work.Sheet();
         Run_On_Worker([&] { plan->Add_To(list, m_message); }, User_Input::Served);
     }
-    const Plan_Sums& sums = m_plan_page->Sums();
+    const Plan_Sums sums = m_plan_page->Sums();
     m_window.Replace_Recipients(std::move(list));
     if (m_window.Previous_Composer_Message().isEmpty() && sums.send > 0)
         m_window.Set_Previous_Composer_Message(m_message);
     m_is_added = true;
+    m_last_added = m_plan_page->Shown();
+    m_plan_page->Clear();
     accept();
     Q_EMIT Added(sums.send, sums.recipients - sums.send);
 }

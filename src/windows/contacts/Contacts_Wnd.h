@@ -11,6 +11,7 @@ class Plan_Page;
 class PleaseWait_Modeless;
 class Table_Page;
 struct Plan_Terms;
+struct Plan_View;
 
 namespace Ui {
 class Contacts_Wnd;
@@ -32,7 +33,7 @@ public:
     void Import(const Contact_Source& source);
     /// Shows what would be sent to the list as it is, or what would not, and returns.
     void Check_List(bool left_out_alone = false);
-    /// Shows the second page as it was left, with those rows alone that did not join the list.
+    /// Shows the rows of the last import that did not join the list, and returns.
     void Show_Not_Used();
 
     void reject() override; ///< Escape and the close button, but not while rows join the list
@@ -63,5 +64,6 @@ private:
     QString m_message;        // that the rows of the plan get
     bool m_is_import = false; // rather than a look at the list
     bool m_is_added = false;  // and its rows are in the list
-    int m_turn = 0;           // what an earlier reading brings is too late
+    std::shared_ptr<const Plan_View> m_last_added;
+    int m_turn = 0; // what an earlier reading brings is too late
 };

@@ -128,6 +128,12 @@ void Plan_Page::Show_Plan(Make_Plan make)
     });
 }
 
+void Plan_Page::Show_Again(const std::shared_ptr<const Plan_View>& view)
+{
+    Clear();
+    Take(view);
+}
+
 void Plan_Page::Start(std::function<View(const Plan_Watch&, int filter)> make, const std::vector<int>& put_right)
 {
     m_is_busy = true;

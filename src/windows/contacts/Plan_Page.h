@@ -31,6 +31,9 @@ public:
 
     /// Shows the plan that is made by this on a worker, from now on. What was shown goes.
     void Show_Plan(Make_Plan make);
+    /// What is shown, and may be shown again later.
+    std::shared_ptr<const Plan_View> Shown() const { return m_view; }
+    void Show_Again(const std::shared_ptr<const Plan_View>& view);
     /// Shows nothing, and lets what is being made go.
     void Clear();
     /// The plan, when it is there; null as long as it is being made or put right.

@@ -13,8 +13,6 @@
 
 namespace {
 
-constexpr int Each_Number = -2; // in place of a column
-
 // The widespread ones.
 const char* const Encodings[] = {"UTF-8",        "UTF-16",       "windows-1252", "windows-1250", "windows-1251",
                                  "windows-1253", "windows-1254", "windows-1257", "ISO-8859-2",   "ISO-8859-15",
@@ -94,7 +92,7 @@ void Table_Page::Connect_Controls()
     connect(m_ui->_Names_Chk, &QCheckBox::toggled, this, &Table_Page::Ask_To_Read);
     connect(m_ui->_Number_Column, &QComboBox::currentIndexChanged, this, &Table_Page::Choose_Number_Column);
     connect(m_ui->_Sample->horizontalHeader(), &QHeaderView::sectionClicked, this,
-            [this](int column) { m_ui->_Number_Column->setCurrentIndex(m_ui->_Number_Column->findData(column)); });
+            [this](int column) { m_ui->_Number_Column->setCurrentIndex(column + m_choices_before_columns); });
 }
 
 void Table_Page::Ask_To_Read()
@@ -178,20 +176,21 @@ void Table_Page::Show_Choices(bool encoding, bool delimiter, bool sheet)
     m_ui->_Names_Chk->setVisible(delimiter || sheet);
 }
 
+// All at once: there may be thousands.
 void Table_Page::Show_Columns(const Contact_Reading& reading)
 {
     const QSignalBlocker muted(m_ui->_Number_Column);
     m_ui->_Number_Column->clear();
+    m_choices_before_columns = 0;
     if (!m_table)
         return;
-    if (reading.facts.format == u"vCard") {
-        m_ui->_Number_Column->addItem(tr("One for each person, mobile ones first"), reading.number_column);
-        m_ui->_Number_Column->addItem(tr("Each number of a person"), Each_Number);
-    }
-    int column = 0;
-    for (const QString& name : m_table->Columns())
-        m_ui->_Number_Column->addItem(name, column++);
-    m_ui->_Number_Column->setCurrentIndex(m_ui->_Number_Column->findData(reading.number_column));
+    QStringList entries;
+    if (reading.facts.format == u"vCard")
+        entries << tr("One for each person, mobile ones first") << tr("Each number of a person");
+    m_choices_before_columns = static_cast<int>(entries.size());
+    m_likeliest_column = reading.number_column;
+    m_ui->_Number_Column->addItems(entries + m_table->Columns());
+    m_ui->_Number_Column->setCurrentIndex(entries.isEmpty() ? reading.number_column : 0);
 }
 
 void Table_Page::Choose_Number_Column()
@@ -209,15 +208,14 @@ bool Table_Page::Is_Ready() const
 
 int Table_Page::Number_Column() const
 {
-    if (m_ui->_Number_Column->currentIndex() < 0)
-        return -1;
-    return Wants_Each_Number() ? m_ui->_Number_Column->itemData(0).toInt()
-                               : m_ui->_Number_Column->currentData().toInt();
+    const int entry = m_ui->_Number_Column->currentIndex();
+    return entry >= 0 && entry < m_choices_before_columns ? m_likeliest_column
+                                                          : std::max(-1, entry - m_choices_before_columns);
 }
 
 bool Table_Page::Wants_Each_Number() const
 {
-    return m_ui->_Number_Column->currentData() == Each_Number;
+    return m_choices_before_columns > 0 && m_ui->_Number_Column->currentIndex() == 1;
 }
 
 const Country* Table_Page::Chosen_Country() const

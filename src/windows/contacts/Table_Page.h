@@ -58,4 +58,6 @@ private:
     const std::unique_ptr<Ui::Table_Page> m_ui;
     std::shared_ptr<const Contact_Table> m_table;
     Sample_Rows* m_sample;
+    int m_choices_before_columns = 0; // among those of the numbers: for contacts there are two
+    int m_likeliest_column = -1;
 };

@@ -38,6 +38,7 @@ Kept_Receipts::Kept_Receipts(QWidget* parent)
 {
     setObjectName(QStringLiteral("Kept_Receipts"));
     m_jobs->setObjectName(QStringLiteral("_Jobs"));
+    m_jobs->setAccessibleName(tr("Job"));
     m_jobs->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_jobs->setMinimumContentsLength(Letters_Always_In_Sight);
     m_remove->setObjectName(QStringLiteral("Remove_Btn"));

@@ -18,6 +18,7 @@
 #include "toolkit/Window_Work.h"
 #include "ui_CorvaneAppDelegate.h"
 #include "windows/exclusion/Exclusion_Wizard.h"
+#include "windows/main/Awaited_Reports.h"
 #include "windows/main/Composer.h"
 #include "windows/main/Confirm_Boxes.h"
 #include "windows/main/Contact_Desk.h"
@@ -60,6 +61,8 @@ CorvaneAppDelegate::CorvaneAppDelegate()
 
 CorvaneAppDelegate::~CorvaneAppDelegate()
 {
+    if (m_awaited_reports)
+        m_awaited_reports->Stop();
     The_Delegate = nullptr;
     Main_App_wnd = nullptr;
 }
@@ -112,11 +115,13 @@ bool CorvaneAppDelegate::awakeFromNib()
                               [this](Recipient_List& recipients) { Take_Over_Imported(recipients); },
                               [this] { Leave_Import_Unread(); }, [this] { Finish_Import(); }, [this] { End_Import(); },
                               [this](const Import_Report& report) { m_arrivals->Note(report); }});
-    m_send_runner = std::make_unique<Send_Runner>(*this, *mfc_sms_obj, *Send_Modeless::defaultInstance());
+    m_awaited_reports = std::make_unique<Awaited_Reports>(*m_work);
+    m_send_runner = std::make_unique<Send_Runner>(*this, *mfc_sms_obj, *Send_Modeless::defaultInstance(),
+                                                  [this] { return m_awaited_reports->Device_Turn(); });
     m_follow_up =
         std::make_unique<Job_Follow_Up>(*this, *m_work, *m_send_runner, *m_ui->_Job_Strip, *m_ui->Show_Receipt);
-    m_contacts = std::make_unique<Contact_Desk>(
-        *this, *m_work, Contact_Desk::Controls{*m_ui->Insert_Field, *m_ui->idTableView, *m_ui->_Fields_Strip, *m_ui->_Import_Strip});
+    connect(m_awaited_reports.get(), &Awaited_Reports::Came, m_follow_up.get(), &Job_Follow_Up::Take_Reports);
+    Make_Contact_Desk();
     Make_Promise();
     Main_App_wnd = this;
     Show_Device_In_Ticker();
@@ -129,7 +134,7 @@ void CorvaneAppDelegate::applicationDidFinishLaunching()
     raise();
     activateWindow();
     Focus(Field::Number);
-    m_follow_up->Look_For_Unfinished();
+    m_follow_up->Look_For_Unfinished([this] { m_awaited_reports->Look(sel_port_bsd_str); });
 }
 
 void CorvaneAppDelegate::Connect_Controls()
@@ -300,6 +305,7 @@ void CorvaneAppDelegate::No_Device_Ticker_Click()
 
 void CorvaneAppDelegate::Search_All_Modem()
 {
+    std::shared_ptr<void> device = m_awaited_reports->Device_Turn();
     sel_port_name_str.clear();
     sel_port_bsd_str.clear();
     m_ui->_Device_Name_Ticker->setText(Texts::Main::No_Device);
@@ -307,7 +313,11 @@ void CorvaneAppDelegate::Search_All_Modem()
     m_ui->_NO_Device_Ticker->hide();
     Phone_List_Wnd::defaultInstance()->Open_Ph_List_Wnd();
     Show_Device_In_Ticker();
-    m_follow_up->Look_For_Unfinished();
+    device.reset();
+    m_follow_up->Look_For_Unfinished([this] {
+        if (!sel_port_bsd_str.isEmpty())
+            m_awaited_reports->Look(sel_port_bsd_str);
+    });
 }
 
 void CorvaneAppDelegate::Show_Device_In_Ticker()

@@ -10,6 +10,7 @@
 #include <optional>
 #include <vector>
 
+class Awaited_Reports;
 class Composer;
 class Confirm_Boxes;
 class Contact_Desk;
@@ -184,6 +185,8 @@ private:
     void Finish_Import();
     void End_Import();
 
+    void Make_Contact_Desk();
+
     std::unique_ptr<Ui::CorvaneAppDelegate> m_ui;
     std::unique_ptr<MFCSMS> mfc_sms_obj;
     Recipient_List nsListDataObject;
@@ -199,6 +202,7 @@ private:
     Row_Table_Model* m_exclusion_rows = nullptr;
     std::unique_ptr<Composer> m_composer;
     std::unique_ptr<Confirm_Boxes> m_confirm_boxes;
+    std::unique_ptr<Awaited_Reports> m_awaited_reports;
     std::unique_ptr<Send_Runner> m_send_runner;
     std::unique_ptr<Job_Follow_Up> m_follow_up;
     std::unique_ptr<Number_Import> m_import;

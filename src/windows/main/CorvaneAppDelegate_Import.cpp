@@ -32,6 +32,13 @@ void CorvaneAppDelegate::Load_Number()
         Load_NUM_Thread(*path);
 }
 
+void CorvaneAppDelegate::Make_Contact_Desk()
+{
+    m_contacts = std::make_unique<Contact_Desk>(
+        *this, *m_work,
+        Contact_Desk::Controls{*m_ui->Insert_Field, *m_ui->idTableView, *m_ui->_Fields_Strip, *m_ui->_Import_Strip});
+}
+
 void CorvaneAppDelegate::Import_Contacts()
 {
     m_contacts->Import_Contacts();

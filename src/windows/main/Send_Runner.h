@@ -6,6 +6,7 @@
 #include "plan/Plan_Pace.h"
 #include "windows/main/Outcome_Post.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -21,7 +22,11 @@ struct Confirmed_End;
 class Send_Runner : private Send_Listener
 {
 public:
-    Send_Runner(Main_Window& window, MFCSMS& session, Send_Progress& progress);
+    /// What take_device returns is kept from before a job uses the device until it has ended; it may wait until nobody
+    /// else does. On the job's thread.
+    using Take_Device = std::function<std::shared_ptr<void>()>;
+
+    Send_Runner(Main_Window& window, MFCSMS& session, Send_Progress& progress, Take_Device take_device = {});
 
     /// Send was pressed: checks what is to be sent, with the user's help, and starts a job, unless one is running. The
     /// main window takes no input until the progress window covers it or it is clear that nothing will be sent.
@@ -50,6 +55,7 @@ private:
     Main_Window& m_window;
     MFCSMS& m_session;
     Send_Progress& m_progress;
+    const Take_Device m_take_device;
     Outcome_Post m_outcomes;
     Plan_Pace m_pace;
     Timed_Progress* m_timed = nullptr;          // of the job that runs; on its thread

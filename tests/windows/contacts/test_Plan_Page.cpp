@@ -253,6 +253,12 @@ TEST_F(Plan_Page_Test, Rows_That_Did_Not_Join_Can_Be_Looked_At_Afterwards_And_No
     EXPECT_FALSE(Rows().model()->flags(Rows().model()->index(0, 1)).testFlag(Qt::ItemIsEditable));
     Press("Close_Btn");
     EXPECT_EQ(m_window.m_recipients.Count(), 3);
+    m_sheet->Check_List();
+    Await();
+    Press("Close_Btn");
+    m_sheet->Show_Not_Used();
+    Await();
+    EXPECT_EQ(Rows_Of(Rows(), 3), (QStringList{"Bob", "Dee"}));
 }
 
 TEST_F(Plan_Page_Test, Numbers_Of_The_List_And_Of_Exclusion_Lists_Are_Left_Out_Where_That_Is_Wanted)
