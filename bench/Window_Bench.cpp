@@ -16,9 +16,11 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTableView>
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <vector>
 
 // One measurement of the real main window for each process: bench-window <measurement> <arguments>. The data folder is
 // the one that XDG_DATA_HOME leads to. Prints one JSON object; seconds, and gaps in milliseconds.
@@ -180,6 +182,46 @@ int Measure_Table(Measured_Program& program, char** arguments)
     return program.Window().Recipients().Count();
 }
 
+// The median of many keys at the end of the text, each until it and all that follows from it has been painted.
+double Seconds_For_A_Key(QPlainTextEdit& edit)
+{
+    constexpr int keys = 201;
+    edit.moveCursor(QTextCursor::End);
+    std::vector<double> seconds;
+    for (int key = 0; key < keys; ++key) {
+        const double begin = Now_Seconds();
+        edit.insertPlainText(QStringLiteral("y"));
+        QCoreApplication::processEvents();
+        seconds.push_back(Now_Seconds() - begin);
+        edit.textCursor().deletePreviousChar();
+        QCoreApplication::processEvents();
+    }
+    std::nth_element(seconds.begin(), seconds.begin() + keys / 2, seconds.end());
+    return seconds[keys / 2];
+}
+
+// typing: a key in a message of nearly 1,600 characters, of which many are marked; in the described manner, in the
+// confirmed one, and in a text area that nobody watches.
+int Measure_Typing(Measured_Program& program, char** /*arguments*/)
+{
+    const QString text = QStringLiteral("“Grüße” – 10 € für ő, ą… ").repeated(64).left(1590);
+    QPlainTextEdit alone;
+    alone.resize(program.The<QPlainTextEdit>("_messageEdit").size());
+    alone.show();
+    alone.setPlainText(text);
+    program.Put("key alone", Seconds_For_A_Key(alone));
+    program.Window().Set_Composer_Text(text);
+    QCoreApplication::processEvents();
+    program.When_Opens(QStringLiteral("Long_SMS_Dlg"),
+                       [](QWidget& notice) { Measured_Program::Part<QPushButton>(notice, "OKPressed").click(); });
+    Seconds_For_A_Key(program.The<QPlainTextEdit>("_messageEdit")); // the first one opens the notice
+    program.Put("key described", Seconds_For_A_Key(program.The<QPlainTextEdit>("_messageEdit")));
+    program.Tick("_Confirm_Chk");
+    QCoreApplication::processEvents();
+    program.Put("key confirmed", Seconds_For_A_Key(program.The<QPlainTextEdit>("_messageEdit")));
+    return 0;
+}
+
 // start: what main() does up to the first painted window. Ends there.
 int Measure_Start(int argument_count, char** arguments)
 {
@@ -211,7 +253,7 @@ struct Measurement
 constexpr Measurement Measurements[] = {{"import", 2, Measure_Import}, {"memory", 1, Measure_Memory},
                                         {"load", 1, Measure_Load},     {"table", 1, Measure_Table},
                                         {"idle", 1, Measure_Idle},     {"job", 4, Measure_Job},
-                                        {"pause", 3, Measure_Pause}};
+                                        {"pause", 3, Measure_Pause},   {"typing", 0, Measure_Typing}};
 
 } // namespace
 
@@ -228,6 +270,6 @@ int main(int argument_count, char** arguments)
         program.Print();
         return left;
     }
-    std::fprintf(stderr, "bench-window start|import|memory|load|table|idle|job|pause <arguments>\n");
+    std::fprintf(stderr, "bench-window start|import|memory|load|table|typing|idle|job|pause <arguments>\n");
     return 2;
 }

@@ -220,6 +220,15 @@ class Bench:
                      f"{seconds(large)}, {large / small:.1f} times", "the same (up to 1.3 times)", large <= 1.3 * small)
             self.gap(step, many, step + " gap")
 
+    def typing(self):
+        results = [self.window("typing") for _ in range(self.runs)]
+        middle = lambda key: statistics.median(result[key] for result in results)
+        alone = middle("key alone")
+        for manner in ("described", "confirmed"):
+            own = middle("key " + manner)
+            self.row(f"a key in a {manner} message of 1,590 characters, previewed", f"a text area alone, {seconds(alone)}",
+                     f"{seconds(own)}, {seconds(own - alone)} more", "at most 2 ms more", own - alone <= 0.002)
+
     def start(self):
         store = self.data("sent", MOST)
         with tempfile.TemporaryDirectory(dir=self.work) as empty, tempfile.TemporaryDirectory(dir=self.work) as full:
@@ -428,7 +437,7 @@ def main():
     with tempfile.TemporaryDirectory(prefix="corvane-bench-") as work:
         bench = Bench(arguments.build.resolve(), pathlib.Path(work), arguments.runs)
         steps = {"encode": bench.encode, "import": bench.imports, "memory": bench.memory, "load": bench.load,
-                 "table": bench.table, "start": bench.start, "growth": bench.growth,
+                 "table": bench.table, "typing": bench.typing, "start": bench.start, "growth": bench.growth,
                  "job": lambda: bench.job(10_000 if arguments.long else 200), "send": bench.send, "rest": lambda: bench.rest(10)}
         costs = None
         for name, step in steps.items():

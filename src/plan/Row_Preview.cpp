@@ -62,10 +62,10 @@ std::optional<std::vector<Changed_Text>> Changes_In_Step(const QString& text, co
     qsizetype at = 0;
     qsizetype shown_at = 0;
     while (at < text.size() && shown_at < shown.size()) {
-        const QString from = text.mid(at, Units_At(text, at));
-        const QString to = shown.mid(shown_at, Units_At(shown, shown_at));
+        const auto from = QStringView(text).sliced(at, Units_At(text, at));
+        const auto to = QStringView(shown).sliced(shown_at, Units_At(shown, shown_at));
         if (from != to)
-            changes.push_back({static_cast<int>(at), from, to});
+            changes.push_back({static_cast<int>(at), from.toString(), to.toString()});
         at += from.size();
         shown_at += to.size();
     }

@@ -19,10 +19,11 @@ std::optional<Septets> Septets_Of(const QByteArrayList& frames)
     return septets;
 }
 
-// What the handset shows for each septet: nothing for an escape that the next one completes.
-std::vector<QString> Shown_For_Each(const Septets& septets)
+// What the handset shows for each septet: nothing, which is 0, for an escape that the next one completes. No character
+// of either table takes two UTF-16 units.
+std::vector<char16_t> Shown_For_Each(const Septets& septets)
 {
-    std::vector<QString> shown(septets.size());
+    std::vector<char16_t> shown(septets.size());
     bool is_escaped = false;
     for (std::size_t at = 0; at < septets.size(); ++at) {
         const bool is_escape = septets[at] == Handset::Gsm_Escape;
@@ -30,8 +31,12 @@ std::vector<QString> Shown_For_Each(const Septets& septets)
             is_escaped = true;
             continue;
         }
-        const auto code = is_escaped ? Septets{Handset::Gsm_Escape, septets[at]} : Septets{septets[at]};
-        shown[at] = QString::fromStdString(Handset::Text_Of_Septets(code));
+        if (is_escape || is_escaped) {
+            const Septets code = is_escaped ? Septets{Handset::Gsm_Escape, septets[at]} : Septets{septets[at]};
+            shown[at] = QString::fromStdString(Handset::Text_Of_Septets(code)).front().unicode();
+        } else {
+            shown[at] = static_cast<char16_t>(Handset::Gsm_Default_Table.at(septets[at]));
+        }
         is_escaped = false;
     }
     return shown;
@@ -53,14 +58,21 @@ public:
                 return std::nullopt;
         }
         Changed_Text behind{static_cast<int>(m_at), {}, {}};
-        for (; m_next < m_septets.size(); ++m_next)
-            behind.to += m_shown[m_next];
+        Take_Shown(behind.to, m_septets.size());
         if (!behind.to.isEmpty())
             m_changes.push_back(behind);
         return std::move(m_changes);
     }
 
 private:
+    void Take_Shown(QString& shown, std::size_t end)
+    {
+        for (; m_next < end; ++m_next) {
+            if (m_shown[m_next] != 0)
+                shown += QChar(m_shown[m_next]);
+        }
+    }
+
     // A unit without a place in the alphabet goes out as its lowest seven bits. One that is an escape by that has no
     // code behind it.
     bool Take_Unit(Changed_Text& change)
@@ -73,14 +85,18 @@ private:
         if (end > m_septets.size())
             return false;
         change.from += m_text[m_at];
-        for (; m_next < end; ++m_next)
-            change.to += m_shown[m_next];
+        Take_Shown(change.to, end);
         ++m_at;
         return true;
     }
 
     bool Take_Character()
     {
+        if (m_next < m_septets.size() && m_shown[m_next] == m_text[m_at].unicode()) { // by far the most
+            ++m_next;
+            ++m_at;
+            return true;
+        }
         Changed_Text change{static_cast<int>(m_at), {}, {}};
         const bool is_pair =
             m_text[m_at].isHighSurrogate() && m_at + 1 < m_text.size() && m_text[m_at + 1].isLowSurrogate();
@@ -105,7 +121,7 @@ private:
 
     const QString& m_text;
     const Septets& m_septets;
-    std::vector<QString> m_shown;
+    std::vector<char16_t> m_shown;
     qsizetype m_at = 0;
     std::size_t m_next = 0;
     std::vector<Changed_Text> m_changes;

@@ -2,8 +2,8 @@
 
 #include <QComboBox>
 
-// A combo box to type in, for where no visible label says what it is for: a screen reader calls it by its accessible
-// name, whatever it holds. The toolkit's own presents its contents as its name. Part of its window; interface thread.
+// A combo box that a screen reader calls by its accessible name, whatever it holds. The toolkit's own presents its
+// contents as its name. Part of its window; interface thread.
 class Named_Combo_Box : public QComboBox
 {
     Q_OBJECT

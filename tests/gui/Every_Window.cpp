@@ -18,6 +18,7 @@
 #include "windows/jobs/Unfinished_Strip.h"
 #include "windows/jobs/Unknown_Rows_Sheet.h"
 #include "windows/list/Fill_Msg_In_List.h"
+#include "windows/list/Handset_Bubble.h"
 #include "windows/list/Send_Msg_Info.h"
 #include "windows/list/Update_Num_SMS.h"
 #include "windows/list/Update_Sel_Num_SMS.h"
@@ -39,6 +40,9 @@
 #include <QTemporaryDir>
 
 namespace {
+
+// Something of every kind gets lost, or makes it Unicode.
+const QString Costly_Message = QStringLiteral("Grüße – “10 €” für ő, \u00A0Привет, ΐ 🙂");
 
 const char* const Longest_Count = "1600 Characters (Each Message will now consume 23 SMS)";
 
@@ -73,6 +77,7 @@ QWidget& Main_Window_With_Everything(CorvaneAppDelegate& main)
     job.id = "20261121-101500-3f9a";
     job.counts = {1000000, 499999, 1, 100000, 100000, 300000};
     In<Unfinished_Strip>(main, "_Job_Strip").Show_Jobs({job, job});
+    main.Set_Composer_Text(Costly_Message);
     In<Import_Strip>(main, "_Import_Strip").Show_Report(Longest_Report());
     In<Fields_Strip>(main, "_Fields_Strip").Show_Fields(QStringList(20, QString(40, u'W')));
     return main;
@@ -199,6 +204,14 @@ QWidget& Receipts_With_Everything(CorvaneAppDelegate& main)
 }
 
 template <class Window>
+QWidget& With_A_Message(CorvaneAppDelegate& /*main*/)
+{
+    auto& window = *Window::defaultInstance();
+    In<Handset_Bubble>(window, "_Bubble").Show_Message(Costly_Message, {});
+    return window;
+}
+
+template <class Window>
 QWidget& Shared(CorvaneAppDelegate& /*main*/)
 {
     return *Window::defaultInstance();
@@ -269,11 +282,11 @@ const std::vector<Sight>& Every_Window()
          {{"_Hand_Over_Result", "Handed over: 1000000 messages, in /home/somebody/Documents/Newsletter for the "
                                 "northern region. Nothing was sent. Recipients left out: 1000000."}}},
         {"please wait", Made_Over<PleaseWait_Modeless>},
-        {"fill", Shared<Fill_Msg_In_List>},
+        {"fill", With_A_Message<Fill_Msg_In_List>},
         {"before sending", Shared<Send_Msg_Info>},
-        {"edit of one", Shared<Update_Num_SMS>, {{"m_st_msg_cnt", Longest_Count}}},
+        {"edit of one", With_A_Message<Update_Num_SMS>, {{"m_st_msg_cnt", Longest_Count}}},
         {"edit of the selected",
-         Shared<Update_Sel_Num_SMS>,
+         With_A_Message<Update_Sel_Num_SMS>,
          {{"m_st_msg_cnt", Longest_Count}, {"m_st_num_cnt", "Total Selected Numbers : 1000000"}}},
         {"sent items", Shared<Sent_Items>},
         {"templates", Shared<Templates>},

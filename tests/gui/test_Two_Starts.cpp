@@ -230,6 +230,20 @@ TEST_F(First_Of_Two_Starts, Once_The_First_Is_Leaving_The_Next_Start_Waits_And_I
     EXPECT_TRUE(next.Is_Running());
 }
 
+TEST_F(Two_Starts, A_Start_After_A_Kill_Takes_Away_The_Half_Of_A_Record_That_Was_Left)
+{
+    {
+        Started_Corvane killed(Home());
+        ASSERT_TRUE(Comes_Up(killed, Home()));
+    }
+    const QString store = In_Data("SentItem.ZOVA");
+    Write_Bytes(store, "a record\nanother re");
+    Write_Bytes(store + ".appending", "9\nanother record\n");
+    const Started_Corvane next(Home());
+    EXPECT_TRUE(Serve_Until([&] { return Bytes_Of(store) == "a record\n" || next.Has_Ended(); }, 60));
+    EXPECT_EQ(Bytes_Of(store), "a record\n");
+}
+
 TEST_F(Two_Starts, What_The_First_Keeps_Is_Behind_A_Folder_Of_The_Users_Alone_And_The_Second_Leaves_Every_File_Alone)
 {
     const mode_t mask_before = umask(0); // the user takes nothing away from what others may

@@ -4,6 +4,7 @@
 #include "engine/Receipt_Cells.h"
 #include "platform/One_Line.h"
 #include "platform/Waiting.h"
+#include "toolkit/Named_Combo_Box.h"
 #include "windows/jobs/Removal_Question.h"
 
 #include <QComboBox>
@@ -33,7 +34,7 @@ QString Name_Of_Job(const Kept_Job& kept)
 } // namespace
 
 Kept_Receipts::Kept_Receipts(QWidget* parent)
-    : QWidget(parent), m_jobs(new QComboBox), m_remove(new QPushButton(tr("Re&move ..."))),
+    : QWidget(parent), m_jobs(new Named_Combo_Box), m_remove(new QPushButton(tr("Re&move ..."))),
       m_question(new Removal_Question)
 {
     setObjectName(QStringLiteral("Kept_Receipts"));

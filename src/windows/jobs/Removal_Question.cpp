@@ -1,6 +1,6 @@
 #include "windows/jobs/Removal_Question.h"
 
-#include "windows/jobs/Flow_Layout.h"
+#include "toolkit/Flow_Layout.h"
 
 #include <QLabel>
 #include <QPushButton>

@@ -6,7 +6,7 @@
 #include "platform/One_Line.h"
 #include "records/Job_Reader.h"
 #include "toolkit/Dialog_Over.h"
-#include "windows/jobs/Flow_Layout.h"
+#include "toolkit/Flow_Layout.h"
 #include "windows/jobs/Removal_Question.h"
 #include "windows/jobs/Unknown_Rows_Sheet.h"
 
@@ -64,6 +64,7 @@ Unfinished_Strip::Unfinished_Strip(QWidget* parent)
       m_question(new Removal_Question)
 {
     setAccessibleName(tr("Job that has not ended"));
+    m_receipt->setAccessibleName(tr("Receipt of the job that has not ended ...")); // the window may have another
     Lay_Out();
     connect(m_go_on, &QPushButton::clicked, this, &Unfinished_Strip::Go_On_Btn);
     connect(m_decide, &QPushButton::clicked, this, &Unfinished_Strip::Decide_Btn);

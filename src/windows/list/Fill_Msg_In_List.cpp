@@ -7,6 +7,7 @@
 #include "toolkit/Main_Window.h"
 #include "toolkit/Message_Boxes.h"
 #include "ui_Fill_Msg_In_List.h"
+#include "windows/list/Handset_Bubble.h"
 #include "windows/list/List_Change.h"
 
 using Fill_Rules::Choice;
@@ -37,6 +38,7 @@ int Fill_Msg_In_List::Open_Dialog(Main_Window& window)
 {
     m_window = &window;
     Fill_To_ALL_Pressed();
+    m_ui->_Bubble->Show_Message(Message_IS, Handset_Bubble::Terms_For(window, 0));
     m_ui->_fill_msg_all->setFocus();
     return Run_Dialog_Over(*this, window.Window());
 }

@@ -14,6 +14,7 @@
 Update_Num_SMS::Update_Num_SMS(QWidget* parent) : Form_Dialog(parent, Letters{.columns = 66, .lines = 28})
 {
     m_message = std::make_unique<Counted_Message>(*m_ui->m_msg_str, *m_ui->m_st_msg_cnt);
+    m_ui->_Bubble->Follow(*m_ui->m_msg_str, *m_ui->_Part_Count, [this] { return Terms_Of_Message(); });
     connect(m_ui->m_num_str, &QLineEdit::textChanged, this, &Update_Num_SMS::controlTextDidChange);
     connect(m_ui->m_msg_str, &QPlainTextEdit::textChanged, this, &Update_Num_SMS::textDidChange);
     connect(m_ui->_Exclusion_Chk, &QCheckBox::clicked, this, &Update_Num_SMS::Exclusion_Chk);
@@ -39,6 +40,12 @@ int Update_Num_SMS::Open_Dialog(Main_Window& window, int row)
     m_ui->_Skip_Duplicate_Chk->setChecked(choices.skip_duplicates);
     m_ui->m_num_str->setFocus();
     return Run_Dialog_Over(*this, window.Window());
+}
+
+Handset_Bubble::Terms Update_Num_SMS::Terms_Of_Message() const
+{
+    return m_window ? Handset_Bubble::Terms_For(*m_window, m_ui->m_s_indx_str->text().toInt())
+                    : Handset_Bubble::Terms();
 }
 
 // While the main window's own box is off, its exclusion set is not kept up to date and may never have been filled.

@@ -3,6 +3,7 @@
 #include "list/Number_List.h"
 #include "toolkit/Form_Dialog.h"
 #include "windows/list/Counted_Message.h"
+#include "windows/list/Handset_Bubble.h"
 
 #include <memory>
 
@@ -34,6 +35,7 @@ public:
     void textDidChange() { m_message->textDidChange(*m_window); }
 
 private:
+    Handset_Bubble::Terms Terms_Of_Message() const;
     void End_With(int code);
 
     std::unique_ptr<Counted_Message> m_message;

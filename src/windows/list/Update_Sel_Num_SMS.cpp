@@ -12,6 +12,7 @@
 #include "toolkit/Row_Table_Model.h"
 #include "toolkit/Shared_Instance.h"
 #include "ui_Update_Sel_Num_SMS.h"
+#include "windows/list/Handset_Bubble.h"
 #include "windows/list/List_Change.h"
 
 #include <utility>
@@ -34,6 +35,9 @@ Update_Sel_Num_SMS::Update_Sel_Num_SMS(QWidget* parent) : Working_Dialog(parent,
         [this](const QString& identifier, int row) { return tableView(identifier, row); });
     Prepare_List_Table(*m_ui->List_View, *m_rows);
     m_message = std::make_unique<Counted_Message>(*m_ui->m_msg_str, *m_ui->m_st_msg_cnt);
+    m_ui->_Bubble->Follow(*m_ui->m_msg_str, *m_ui->_Part_Count, [this] {
+        return m_window ? Handset_Bubble::Terms_For(*m_window, m_first_row) : Handset_Bubble::Terms();
+    });
     connect(m_ui->m_msg_str, &QPlainTextEdit::textChanged, this, &Update_Sel_Num_SMS::textDidChange);
     connect(m_ui->OKPressed, &QPushButton::clicked, this, &Update_Sel_Num_SMS::OKPressed);
     connect(m_ui->CancelPressed, &QPushButton::clicked, this, &Update_Sel_Num_SMS::CancelPressed);
@@ -55,6 +59,8 @@ Update_Sel_Num_SMS* Update_Sel_Num_SMS::defaultInstance()
 int Update_Sel_Num_SMS::Open_Dialog(Main_Window& window)
 {
     m_window = &window;
+    const auto selected_rows = window.Selected_Recipient_Rows();
+    m_first_row = selected_rows.empty() ? 0 : selected_rows.front();
     m_message->Clear();
     m_is_left = false;
     m_is_loading = true;

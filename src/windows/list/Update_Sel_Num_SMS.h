@@ -57,6 +57,7 @@ private:
     std::deque<QString> List_data_Object; // the rows, each its value for "Number"
     std::unique_ptr<Row_Table_Model> m_rows;
 
+    int m_first_row = 0; // of the selected ones
     bool m_is_loading = false;
     bool m_is_left = false;        // closed during the load, which ends the dialog afterwards
     std::vector<QString> m_loaded; // what the worker has found but not yet published

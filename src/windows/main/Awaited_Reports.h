@@ -4,6 +4,7 @@
 
 #include <QObject>
 #include <QString>
+#include <atomic>
 #include <memory>
 #include <mutex>
 
@@ -24,8 +25,8 @@ public:
     void Look(const QString& device_path);
     /// Ends the look that there may be, as soon as the device has answered.
     void Stop() { m_stop = 1; }
-    /// The same, and returns when the device is free; nothing looks for reports for as long as what it returns lives,
-    /// which goes on the same thread. The interface thread is served meanwhile. Any thread.
+    /// The same, and returns when the device is free; nothing looks for reports for as long as what it returns lives.
+    /// The interface thread is served meanwhile. Any thread.
     [[nodiscard]] std::shared_ptr<void> Device_Turn();
 
 Q_SIGNALS:
@@ -37,5 +38,6 @@ private:
 
     Window_Work& m_work;
     Stop_Flag m_stop;
-    std::mutex m_turn; // whoever uses the device has it
+    std::atomic<int> m_wanted{0}; // by so many others is the device
+    std::mutex m_looking;         // held by the look that has the device
 };

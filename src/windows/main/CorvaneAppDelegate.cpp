@@ -18,6 +18,7 @@
 #include "toolkit/Window_Work.h"
 #include "ui_CorvaneAppDelegate.h"
 #include "windows/exclusion/Exclusion_Wizard.h"
+#include "windows/list/Handset_Bubble.h"
 #include "windows/main/Awaited_Reports.h"
 #include "windows/main/Composer.h"
 #include "windows/main/Confirm_Boxes.h"
@@ -110,6 +111,7 @@ bool CorvaneAppDelegate::awakeFromNib()
         Confirm_Boxes::Boxes{m_ui->_Confirm_Chk, m_ui->_Reports_Chk, m_ui->_Keep_Receipt_Chk,
                              m_ui->_Remember_Confirm_Chk, m_ui->confirm_more},
         Program_Settings(Settings_Path));
+    Show_What_Handsets_Show();
     m_import = std::make_unique<Number_Import>(
         Number_Import::Target{[this](int count, int percent) { Show_Import_Progress(count, percent); },
                               [this](Recipient_List& recipients) { Take_Over_Imported(recipients); },
@@ -190,6 +192,8 @@ void CorvaneAppDelegate::Give_Tables_Their_Models()
         new Row_Table_Model(Columns{{QStringLiteral("Number"), tr("Excluded number")}},
                             rows_of(m_ui->idExclusionTableView), cells_of(m_ui->idExclusionTableView), this);
     Prepare_List_Table(*m_ui->idTableView, *m_recipient_rows);
+    connect(m_ui->idTableView->selectionModel(), &QItemSelectionModel::selectionChanged, m_ui->_Bubble,
+            &Handset_Bubble::Look_Again);
     Prepare_List_Table(*m_ui->idExclusionTableView, *m_exclusion_rows);
 }
 
@@ -208,43 +212,6 @@ void CorvaneAppDelegate::closeEvent(QCloseEvent* event)
 void CorvaneAppDelegate::Check_Path_And_Create_Files()
 {
     ::Check_Path_And_Create_Files();
-}
-
-// ---- The composer
-
-void CorvaneAppDelegate::textDidChange()
-{
-    m_composer->textDidChange();
-}
-
-void CorvaneAppDelegate::Unicode_Chk()
-{
-    m_composer->Unicode_Chk();
-}
-
-QString CorvaneAppDelegate::Long_SMS_Calculation(int length, const QString& msg_char_value, bool open_dlg)
-{
-    return m_composer->Long_SMS_Calculation(length, msg_char_value, open_dlg);
-}
-
-int CorvaneAppDelegate::Composer_Length() const
-{
-    return m_composer->Length();
-}
-
-int CorvaneAppDelegate::Composer_Selection_Length() const
-{
-    return m_composer->Selection_Length();
-}
-
-void CorvaneAppDelegate::Use_In_Composer(const QString& text)
-{
-    m_composer->Use_Text(text);
-}
-
-void CorvaneAppDelegate::Set_Composer_Text(const QString& text)
-{
-    m_composer->Set_Text(text);
 }
 
 // ---- Sending

@@ -160,6 +160,7 @@ protected:
 
 private:
     void Connect_Controls();
+    void Show_What_Handsets_Show();
     void Make_Promise();
     void Give_Tables_Their_Models();
     void Show_Device_In_Ticker();

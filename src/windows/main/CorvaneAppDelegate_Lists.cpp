@@ -9,6 +9,7 @@
 #include "toolkit/Message_Boxes.h"
 #include "toolkit/Window_Work.h"
 #include "ui_CorvaneAppDelegate.h"
+#include "windows/list/Handset_Bubble.h"
 #include "windows/list/List_Dialogs.h"
 #include "windows/main/Composer.h"
 #include "windows/main/Confirm_Boxes.h"
@@ -81,6 +82,7 @@ bool CorvaneAppDelegate::Check_Duplicate_Number(const QString& number) const
 void CorvaneAppDelegate::Update_List_Count()
 {
     Show_List_Count(nsListDataObject.Count());
+    m_ui->_Bubble->Look_Again();
     if (nsListDataObject.Count() == Redisplay_Count)
         Redisplay_Recipients();
 }

@@ -1,4 +1,4 @@
-#include "windows/jobs/Flow_Layout.h"
+#include "toolkit/Flow_Layout.h"
 
 #include <QStyle>
 #include <QWidget>

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "plan/Message_Preview.h"
+
+class QPlainTextEdit;
+
+// Places of a text that is being written, marked and replaced. Interface thread.
+
+/// Underlines these places with a wave, and no others. The text itself, its history and its listeners notice nothing.
+void Mark_Places(QPlainTextEdit& edit, const std::vector<Marked_Place>& places);
+
+/// Makes these changes, which are in the order of the text, as one step that the editor can undo. The cursor stays
+/// where it is in the text.
+void Change_Text(QPlainTextEdit& edit, const std::vector<Changed_Text>& changes);
