@@ -8,6 +8,7 @@
 //   bench-data numbers <lines> <file> <file of excluded numbers>
 //   bench-data distinct <lines> <file>
 //   bench-data sent <records> <file>
+//   bench-data table <rows> <file>
 
 namespace {
 
@@ -66,23 +67,46 @@ void Put(FILE* file, const std::string& text)
     }
 }
 
-// Three lines in ten repeat an earlier number, and every twentieth line's number is excluded.
-void Make_Numbers(std::uint64_t lines, const char* path, const char* excluded_path)
+/// Passes on each line, and its ten digits alone. Three lines in ten repeat an earlier number.
+template <typename Take>
+void For_Each_Written(std::uint64_t lines, Take take)
 {
-    FILE* file = Opened(path);
-    FILE* excluded = Opened(excluded_path);
     Random random;
     std::uint64_t distinct = 0;
     for (std::uint64_t line = 0; line < lines; ++line) {
         const bool repeats = line % 10 == 3 || line % 10 == 6 || line % 10 == 9;
         const std::uint64_t n = repeats ? random.Below(static_cast<std::uint32_t>(distinct)) : distinct++;
         const std::string ten = Ten_Digits(n);
-        Put(file, Written(ten, random.Below(4)));
+        take(line, Written(ten, random.Below(4)), ten);
+    }
+}
+
+// Every twentieth line's number is excluded.
+void Make_Numbers(std::uint64_t lines, const char* path, const char* excluded_path)
+{
+    FILE* file = Opened(path);
+    FILE* excluded = Opened(excluded_path);
+    For_Each_Written(lines, [&](std::uint64_t line, const std::string& written, const std::string& ten) {
+        Put(file, written);
         if (line % 20 == 0)
             Put(excluded, "0044" + ten + "\n");
-    }
+    });
     std::fclose(file);
     std::fclose(excluded);
+}
+
+// The same numbers with four further columns, as spreadsheets save them.
+void Make_Table(std::uint64_t rows, const char* path)
+{
+    constexpr const char* names[] = {"Ann Baker", "Jörg Müller", "Cem Yıldız", "\"Dee \"\"D\"\" Evans\"", "Zoë"};
+    constexpr const char* cities[] = {"Bath", "Stoke-on-Trent", "Ely", "York", "\"Ashby, North\"", "St Ives", "Ayr"};
+    FILE* file = Opened(path);
+    Put(file, "Phone,Name,City,Member,Since\r\n");
+    For_Each_Written(rows, [&](std::uint64_t row, const std::string& written, const std::string&) {
+        Put(file, written.substr(0, written.find_first_of("\r\n")) + ',' + names[row % 5] + ',' + cities[row % 7] +
+                      ',' + std::to_string(100'000 + row) + ",2026-11-" + std::to_string(10 + row % 20) + "\r\n");
+    });
+    std::fclose(file);
 }
 
 void Make_Distinct(std::uint64_t lines, const char* path)
@@ -114,8 +138,10 @@ int main(int argument_count, char** arguments)
         Make_Distinct(count, arguments[3]);
     else if (argument_count == 4 && std::strcmp(arguments[1], "sent") == 0)
         Make_Sent(count, arguments[3]);
+    else if (argument_count == 4 && std::strcmp(arguments[1], "table") == 0)
+        Make_Table(count, arguments[3]);
     else {
-        std::fprintf(stderr, "bench-data numbers|distinct|sent <count> <file> [<file of excluded numbers>]\n");
+        std::fprintf(stderr, "bench-data numbers|distinct|sent|table <count> <file> [<file of excluded numbers>]\n");
         return 2;
     }
     return 0;

@@ -7,6 +7,7 @@ their medians. Nothing here passes or fails: the table says what was reached and
 
 import argparse
 import collections
+import csv
 import datetime
 import json
 import os
@@ -19,6 +20,11 @@ import sys
 import tempfile
 import threading
 import time
+
+try:
+    import openpyxl
+except ImportError:
+    openpyxl = None  # its rows are left out
 
 SIZES = [1_000, 10_000, 100_000, 1_000_000]
 MOST = SIZES[-1]
@@ -202,6 +208,68 @@ class Bench:
             file.flush()
             os.fsync(file.fileno())
         return time.perf_counter() - begin
+
+    def csv_list(self, path):
+        """What Python's own reader of tables needs for the texts of bench-table."""
+        begin = time.perf_counter()
+        count = characters = 0
+        with open(path, newline="", encoding="utf-8-sig") as file:
+            rows = csv.reader(file)
+            next(rows)
+            for row in rows:
+                count += 1
+                characters += len(f"Dear {row[1]}, your appointment in {row[2]} is on Monday at 10:15.")
+        return {"seconds": time.perf_counter() - begin, "count": count, "characters": characters}
+
+    def xlsx_list(self, path):
+        """The same for a spreadsheet."""
+        begin = time.perf_counter()
+        count = characters = 0
+        rows = openpyxl.load_workbook(path, read_only=True).active.iter_rows(min_row=2, values_only=True)
+        for row in rows:
+            count += 1
+            characters += len(f"Dear {row[1]}, your appointment in {row[2]} is on Monday at 10:15.")
+        return {"seconds": time.perf_counter() - begin, "count": count, "characters": characters}
+
+    def spreadsheet(self, rows):
+        path = self.work / f"table-{rows}.xlsx"
+        if not path.exists():
+            book = openpyxl.Workbook(write_only=True)
+            sheet = book.create_sheet()
+            with open(self.data("table", rows), newline="", encoding="utf-8") as file:
+                for row in csv.reader(file):
+                    sheet.append(row)
+            book.save(path)
+        return path
+
+    def tables(self):
+        """From files of contacts to lists whose texts are filled, and the plan of a job."""
+        def beside(work, path, peer, peer_name, mark, most_bytes):
+            theirs, ours = self.in_turn(lambda: peer(path), lambda: self.program("bench-table", "list", path))
+            if len({(result["count"], result["characters"]) for result in theirs + ours}) != 1:
+                raise SystemExit(f"the texts and those of {peer_name} are not the same")
+            middle = lambda results, key: statistics.median(result[key] for result in results)
+            own, other, each = middle(ours, "seconds"), middle(theirs, "seconds"), middle(ours, "bytes each")
+            self.row(work, f"{peer_name}, {seconds(other)}", f"{seconds(own)}, {other / own:.1f} times its rate",
+                     f"{mark} times", other / own >= mark)
+            self.row("memory of that list with its fields", "-", f"{each:.0f} bytes each",
+                     f"{most_bytes} bytes each", each <= most_bytes)
+
+        beside("CSV of 1,000,000 rows of 5 columns to a list and its texts, two placeholders each", self.data("table", MOST),
+               self.csv_list, "Python's csv and the same texts", 4, 200)
+        if openpyxl:
+            beside("XLSX of 100,000 rows of 5 columns to a list and its texts", self.spreadsheet(100_000), self.xlsx_list,
+                   "openpyxl, read-only, and the same texts", 8, 200)
+        numbers, excluded = self.data("numbers", MOST), self.work / f"excluded-{MOST}.txt"
+        imports, plans = self.in_turn(
+            lambda: self.program("bench-table", "import", numbers, excluded),
+            lambda: self.program("bench-table", "plan", self.data("table", MOST), excluded))
+        if len({result["count"] for result in imports + plans}) != 1:
+            raise SystemExit("the plan and the import do not agree")
+        own = statistics.median(result["seconds"] for result in plans)
+        peer = statistics.median(result["seconds"] for result in imports)
+        self.row("plan of 1,000,000 rows: verdicts, parts and sums", f"the import of the same numbers, {seconds(peer)}",
+                 f"{seconds(own)}, {own / peer:.2f} times its time", "at most 3 times", own <= 3 * peer)
 
     def table(self):
         few, many = self.in_turn(lambda: self.window("table", self.data("distinct", 1_000)),
@@ -437,7 +505,8 @@ def main():
     with tempfile.TemporaryDirectory(prefix="corvane-bench-") as work:
         bench = Bench(arguments.build.resolve(), pathlib.Path(work), arguments.runs)
         steps = {"encode": bench.encode, "import": bench.imports, "memory": bench.memory, "load": bench.load,
-                 "table": bench.table, "typing": bench.typing, "start": bench.start, "growth": bench.growth,
+                 "tables": bench.tables, "table": bench.table, "typing": bench.typing, "start": bench.start,
+                 "growth": bench.growth,
                  "job": lambda: bench.job(10_000 if arguments.long else 200), "send": bench.send, "rest": lambda: bench.rest(10)}
         costs = None
         for name, step in steps.items():

@@ -264,8 +264,9 @@ struct Other_Prefix
     const char* prefix;
 };
 
-constexpr std::array Other_Prefixes{Other_Prefix{"1", "011"},   Other_Prefix{"7", "810"},  Other_Prefix{"53", "119"},
-                                    Other_Prefix{"61", "0011"}, Other_Prefix{"81", "010"}, Other_Prefix{"375", "810"},
+constexpr std::array Other_Prefixes{Other_Prefix{"1", "011"},   Other_Prefix{"7", "810"},   Other_Prefix{"53", "119"},
+                                    Other_Prefix{"61", "0011"}, Other_Prefix{"81", "010"},  Other_Prefix{"254", "000"},
+                                    Other_Prefix{"255", "000"}, Other_Prefix{"256", "000"}, Other_Prefix{"375", "810"},
                                     Other_Prefix{"993", "810"}};
 
 } // namespace

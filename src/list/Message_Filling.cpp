@@ -4,6 +4,7 @@
 #include "platform/One_Line.h"
 #include "texts/Table_Texts.h"
 
+#include <QVarLengthArray>
 #include <algorithm>
 
 namespace {
@@ -12,7 +13,44 @@ constexpr QLatin1String Opening("{{");
 constexpr QLatin1String Closing("}}");
 constexpr qsizetype Mark = 2; // characters of either
 
+constexpr int Usual_Pieces = 8;
 constexpr qsizetype Longest_Named = 40; // of a placeholder in a sentence, in characters
+
+using Piece = Message_Filling::Piece;
+using Becomes = Message_Filling::Becomes;
+
+const QString& Text_Of(const Piece& piece, const Message_Filling::Given& given)
+{
+    return given.what == Becomes::Fallback ? piece.fallback : piece.text;
+}
+
+// What is unknown is worse than what is empty, and of the like the first is told.
+void Note_Fault(Filled_Message& filled, const Piece& piece, Becomes what)
+{
+    if (what != Becomes::Unknown && what != Becomes::Empty)
+        return;
+    const QLatin1String fault(what == Becomes::Unknown ? Skip_Words::Unknown_Field : Skip_Words::Empty_Field);
+    if (!filled.fault.isEmpty() && (what == Becomes::Empty || filled.fault == fault))
+        return;
+    filled.fault = fault;
+    filled.placeholder = piece.text;
+}
+
+QChar* Put(QStringView text, QChar* to)
+{
+    return std::copy(text.begin(), text.end(), to);
+}
+
+QChar* Put(QByteArrayView utf8, QChar* to)
+{
+    QChar* end = to;
+    for (const char byte : utf8) {
+        if (static_cast<unsigned char>(byte) > 0x7F)
+            return Put(QStringView(QString::fromUtf8(utf8)), to);
+        *end++ = QLatin1Char(byte);
+    }
+    return end;
+}
 
 bool Is_Blank(QByteArrayView utf8)
 {
@@ -104,20 +142,19 @@ Filled_Message Message_Filling::For_Row(const Contact_Table& table, int row) con
     if (m_pieces.size() == 1 && !m_pieces.front().is_placeholder)
         return {m_pieces.front().text}; // one text for all
     Filled_Message filled;
+    QVarLengthArray<Given, Usual_Pieces> given;
+    qsizetype most = 0; // no text has more units in UTF-16 than bytes in UTF-8
     for (const Piece& piece : m_pieces) {
-        const Given given = Given_By(piece, table, row);
-        if (given.what == Becomes::Value)
-            filled.text += QString::fromUtf8(given.value);
-        else
-            filled.text += given.what == Becomes::Fallback ? piece.fallback : piece.text;
-        const bool is_unknown = given.what == Becomes::Unknown;
-        if (!is_unknown && given.what != Becomes::Empty)
-            continue;
-        const QLatin1String fault(is_unknown ? Skip_Words::Unknown_Field : Skip_Words::Empty_Field);
-        if (filled.fault.isEmpty() || (is_unknown && filled.fault != fault)) {
-            filled.fault = fault;
-            filled.placeholder = piece.text;
-        }
+        given.append(Given_By(piece, table, row));
+        most += given.back().what == Becomes::Value ? given.back().value.size() : Text_Of(piece, given.back()).size();
+        Note_Fault(filled, piece, given.back().what);
     }
+    filled.text.resize(most);
+    QChar* end = filled.text.data();
+    for (qsizetype place = 0; place < given.size(); ++place)
+        end = given[place].what == Becomes::Value
+                  ? Put(given[place].value, end)
+                  : Put(Text_Of(m_pieces[static_cast<std::size_t>(place)], given[place]), end);
+    filled.text.truncate(end - filled.text.constData());
     return filled;
 }

@@ -12,6 +12,7 @@ constexpr qsizetype Longest_Written = 100;
 constexpr qsizetype Digits_Of_One_Of_Several = 7;
 constexpr qsizetype Fewest_International = 7; // with the country's code
 constexpr qsizetype Most_International = 15;  // ITU-T E.164, 6.2.1
+constexpr qsizetype All_North_American = 11;  // every one with the code 1 has as many
 constexpr qsizetype Fewest_National = 3;
 constexpr int More_Or_Less_Than_A_Mobile = 3; // digits that a number of another kind may have
 
@@ -163,10 +164,11 @@ Read_Number International(QString digits, Number_Reading reading)
         return {{}, Number_Reading::Unknown_Code};
     const Country* country = Country_With_Code_Of(digits);
     while (country && Latin(country->trunk) == Latin("0") && digits.size() > code && digits[code] == u'0')
-        digits.remove(code, 1); // a zero that only callers from within the country dial
-    if (digits.size() < Fewest_International)
+        digits.remove(code, 1);                             // a zero that only callers from within the country dial
+    const bool is_north_american = digits.startsWith(u'1'); // or dialled in a country where 001 is the "+"
+    if (digits.size() < (is_north_american ? All_North_American : Fewest_International))
         return {{}, Number_Reading::Too_Short};
-    if (digits.size() > Most_International)
+    if (digits.size() > (is_north_american ? All_North_American : Most_International))
         return {{}, Number_Reading::Too_Long};
     return {QLatin1String("00") + digits, reading};
 }

@@ -9,6 +9,8 @@
 
 namespace {
 
+constexpr int Rows_Ahead = 16; // whose look-ups overlap
+
 QString Sentence(QString clause)
 {
     if (clause.isEmpty())
@@ -67,6 +69,8 @@ void Job_Plan::Add_To(Recipient_List& recipients, const QString& message) const
             recipients.Append(number, message);
     };
     for (int row = 0; row < Count(); ++row) {
+        if (row + Rows_Ahead < Count())
+            recipients.Numbers().Fetch(Entry_At(row + Rows_Ahead).number);
         if (Verdict_Of(row) != Row_Verdict::Send)
             continue;
         if (const Packed_Number& packed = Entry_At(row).number; !packed.Is_Empty())

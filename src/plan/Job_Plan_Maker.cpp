@@ -17,8 +17,8 @@ Job_Plan Job_Plan::Of_Table(std::shared_ptr<const Contact_Table> table, int numb
     plan.m_number_column = number_column;
     plan.m_message = message;
     plan.m_table = std::move(table);
-    plan.m_filling =
-        std::make_shared<const Message_Filling>(message, plan.Has_Fields() ? *plan.m_table : Contact_Table());
+    plan.m_filling = plan.Has_Fields() ? std::make_shared<const Message_Filling>(message, *plan.m_table)
+                                       : std::make_shared<const Message_Filling>(message);
     Maker(plan, plan.m_table->Row_Count(), watch).Run();
     return plan;
 }

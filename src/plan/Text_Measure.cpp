@@ -71,11 +71,12 @@ Text_Measure::Size Size_Of(QByteArrayView utf8)
 
 void Take_Outsiders(const QString& text, std::vector<char32_t>& outsiders)
 {
+    const Costs& costs = Septets_Of_Units();
     const std::u16string_view units(reinterpret_cast<const char16_t*>(text.utf16()),
                                     static_cast<std::size_t>(text.size()));
     for (std::size_t at = 0; at < units.size();) {
         const char32_t character = Handset::Code_Point_At(units, at);
-        if (!Handset::Gsm_Place_Of(character))
+        if (character >= Units || costs[character] == 0)
             outsiders.push_back(character);
         at += Handset::Utf16_Units_Of(character);
     }

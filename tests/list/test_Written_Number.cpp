@@ -54,6 +54,8 @@ INSTANTIATE_TEST_SUITE_P(International, Written_Numbers,
                                          Written{"DE", "+39 0612345678", "00390612345678", International},
                                          Written{"US", "011 44 7700 900123", "00447700900123", International},
                                          Written{"AU", "0011 44 7700 900123", "00447700900123", International},
+                                         Written{"KE", "000 44 7700 900123", "00447700900123", International},
+                                         Written{"HK", "+1 212 555 0123", "0012125550123", International},
                                          Written{"RU", "8 10 44 7700 900123", "00447700900123", International},
                                          Written{"JP", "010-44-7700-900123", "00447700900123", International},
                                          Written{"DE", "+881 6 31234567", "00881631234567", International},
@@ -64,6 +66,8 @@ INSTANTIATE_TEST_SUITE_P(International, Written_Numbers,
 
 INSTANTIATE_TEST_SUITE_P(Found, Written_Numbers,
                          testing::Values(Written{"GB", "+44 (0(0 900123", "0044900123", International},
+                                         Written{"HK", "001 44 7700 900123", "", Too_Long},
+                                         Written{"GB", "+1 555 0123", "", Too_Short},
                                          Written{"AC", "993", "", Too_Short}));
 
 INSTANTIATE_TEST_SUITE_P(
