@@ -25,7 +25,7 @@ QString Message_In(const Contact_Table& table, int row)
 
 Contact_Table Fields_In(const Contact_Table& table, QString& trouble)
 {
-    Table_Builder builder(0, Table_Builder::Blank_Rows::Kept);
+    Table_Builder builder(0, true, Table_Builder::Blank_Rows::Kept);
     for (const QString& name : table.Columns().sliced(Columns_Before_Fields))
         builder.Add_Field(name.toUtf8());
     builder.End_Row(1);

@@ -86,8 +86,7 @@ class Golden_Contacts : public Contacts, public testing::WithParamInterface<std:
 TEST_P(Golden_Contacts, Get_Their_Own_Names_On_The_Handset)
 {
     const auto& [file, confirms] = GetParam();
-    if (confirms)
-        Tick("_Confirm_Chk");
+    Tick(confirms ? "_Confirm_Chk" : "_Unicode_SMS_Chk"); // not every letter gets through otherwise
     Write_Message(file.message);
     Import(QStringLiteral(CORVANE_TEST_DATA "/tables/") + file.name);
     EXPECT_EQ(m_delegate->Recipients().Count(), file.texts.size());
@@ -222,4 +221,27 @@ TEST_F(Contacts, A_Table_That_Is_Dropped_Opens_The_Sheet_And_A_Plain_List_Is_Imp
     Await();
     EXPECT_FALSE(Sheet().isVisible());
     EXPECT_EQ(Numbers(), (QStringList{"111", "222"}));
+}
+
+TEST_F(Contacts, A_List_Is_Saved_With_Its_Fields_And_Opened_Again)
+{
+    Write_Message("Dear {{Name|friend}}, \"quoted\"\nand on a second line");
+    Import_People();
+    const Recipient_List before = m_delegate->Recipients();
+    Will_Enter_Path(user, m_folder.filePath("saved"));
+    Click("Save_With_Fields");
+    EXPECT_EQ(Strip(), "Written to " + m_folder.filePath("saved.csv") + '.');
+    Click("Reset_Btn");
+    EXPECT_FALSE(The<QPushButton>("Insert_Field").isVisible());
+    Write_Message("another");
+    Import(m_folder.filePath("saved.csv"));
+    const Recipient_List& after = m_delegate->Recipients();
+    ASSERT_EQ(after.Count(), 3);
+    EXPECT_EQ(after.Field_Names(), before.Field_Names());
+    for (int row = 0; row < 3; ++row) {
+        EXPECT_EQ(after.At(row).Number, before.At(row).Number);
+        EXPECT_EQ(after.Message_At(row), before.Message_At(row));
+        EXPECT_EQ(after.Text_At(row).text, before.Text_At(row).text);
+    }
+    EXPECT_EQ(Strip(), "3 added.");
 }

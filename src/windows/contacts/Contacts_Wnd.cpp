@@ -1,6 +1,7 @@
 #include "windows/contacts/Contacts_Wnd.h"
 
 #include "list/Card_Numbers.h"
+#include "list/Contact_List_File.h"
 #include "plan/Chosen_Manner.h"
 #include "plan/Job_Plan.h"
 #include "platform/Interface_Thread.h"
@@ -14,6 +15,34 @@
 
 #include <new>
 #include <utility>
+
+namespace {
+
+// Its text can still be mended in the list; its number is needed there.
+bool May_Join(Row_Verdict verdict)
+{
+    return verdict == Row_Verdict::Send || verdict == Row_Verdict::Empty_Field ||
+           verdict == Row_Verdict::Unknown_Field || verdict == Row_Verdict::Too_Long;
+}
+
+// Appends the rows of a saved list, each with its own message and fields. Returns how many.
+int Append_Saved(const Recipient_List& saved, const Job_Plan& plan, Recipient_List& list)
+{
+    int added = 0;
+    for (int row = 0; row < plan.Count(); ++row) {
+        if (!May_Join(plan.Verdict_Of(row)))
+            continue;
+        const QString number = plan.Number_Of(row);
+        if (const auto table = saved.Table_At(row))
+            list.Append_From_Table(number, saved.Message_At(row), table, saved.Table_Row_At(row));
+        else
+            list.Append(number, saved.Message_At(row));
+        ++added;
+    }
+    return added;
+}
+
+} // namespace
 
 Contacts_Wnd::Contacts_Wnd(Main_Window& window)
     : QDialog(window.Window()), m_window(window), m_ui(std::make_unique<Ui::Contacts_Wnd>()),
@@ -123,13 +152,36 @@ void Contacts_Wnd::Back_Btn()
 void Contacts_Wnd::Continue_Btn()
 {
     m_message = m_window.Read_Send_Choices().composer_text;
+    m_saved.reset();
+    const auto table = m_table_page->Table();
+    if (Contact_List_File::Is_One(*table) && m_table_page->Number_Column() == 0)
+        Plan_Saved_List();
+    else
+        Plan_Table();
+    Show_Page(*m_plan_page);
+}
+
+void Contacts_Wnd::Plan_Table()
+{
     m_plan_page->Show_Plan([table = m_table_page->Table(), column = m_table_page->Number_Column(),
                             each = m_table_page->Wants_Each_Number(), message = m_message,
                             terms = Terms()](const Plan_Watch& watch) {
         return Job_Plan::Of_Table(each ? std::make_shared<const Contact_Table>(One_Row_For_Each_Number(*table)) : table,
                                   column, message, terms, watch);
     });
-    Show_Page(*m_plan_page);
+}
+
+// A list that was saved with its fields: its numbers and messages are as they stand there.
+void Contacts_Wnd::Plan_Saved_List()
+{
+    m_saved = std::make_shared<Recipient_List>();
+    Plan_Terms terms = Terms();
+    terms.numbers = Plan_Numbers::Typed;
+    terms.country = nullptr;
+    m_plan_page->Show_Plan([table = m_table_page->Table(), saved = m_saved, terms](const Plan_Watch& watch) {
+        *saved = Contact_List_File::List_In(*table).recipients;
+        return Job_Plan::Of_List(*saved, terms, watch);
+    });
 }
 
 Plan_Terms Contacts_Wnd::Terms() const
@@ -157,19 +209,27 @@ void Contacts_Wnd::Add_To_List()
     if (!plan || !m_is_import)
         return;
     Recipient_List list = m_window.Recipients();
+    const int recipients = m_plan_page->Sums().recipients;
+    int added = m_plan_page->Sums().send;
     {
         const auto sheet = m_work.Sheet();
-        Run_On_Worker([&] { plan->Add_To(list, m_message); }, User_Input::Served);
+        Run_On_Worker(
+            [&] {
+                if (m_saved)
+                    added = Append_Saved(*m_saved, *plan, list);
+                else
+                    plan->Add_To(list, m_message);
+            },
+            User_Input::Served);
     }
-    const Plan_Sums sums = m_plan_page->Sums();
     m_window.Replace_Recipients(std::move(list));
-    if (m_window.Previous_Composer_Message().isEmpty() && sums.send > 0)
+    if (m_window.Previous_Composer_Message().isEmpty() && added > 0)
         m_window.Set_Previous_Composer_Message(m_message);
     m_is_added = true;
     m_last_added = m_plan_page->Shown();
     m_plan_page->Clear();
     accept();
-    Q_EMIT Added(sums.send, sums.recipients - sums.send);
+    Q_EMIT Added(added, recipients - added);
 }
 
 // Where the list itself is looked at, it gets the numbers that can be used.
@@ -203,6 +263,6 @@ void Contacts_Wnd::Show_Buttons()
     m_ui->Continue_Btn->setEnabled(m_table_page->Is_Ready());
     m_ui->Back_Btn->setVisible(!is_first && m_is_import && !m_is_added);
     m_ui->Add_To_List->setVisible(!is_first && m_is_import && !m_is_added);
-    m_ui->Add_To_List->setEnabled(m_plan_page->Plan() && m_plan_page->Sums().send > 0);
+    m_ui->Add_To_List->setEnabled(m_plan_page->Plan() && (m_saved || m_plan_page->Sums().send > 0));
     m_ui->Close_Btn->setText(m_is_import && !m_is_added ? tr("Cancel") : tr("Close"));
 }

@@ -6,8 +6,10 @@
 #include <QDialog>
 #include <memory>
 
+class Job_Plan;
 class Main_Window;
 class Plan_Page;
+class Recipient_List;
 class PleaseWait_Modeless;
 class Table_Page;
 struct Plan_Terms;
@@ -53,6 +55,8 @@ private:
     void Show_Page(QWidget& page);
     void Show_Buttons();
     Plan_Terms Terms() const;
+    void Plan_Table();
+    void Plan_Saved_List();
 
     Main_Window& m_window;
     const std::unique_ptr<Ui::Contacts_Wnd> m_ui;
@@ -61,9 +65,10 @@ private:
     Table_Page* m_table_page;
     Plan_Page* m_plan_page;
     Contact_Source m_source;
-    QString m_message;        // that the rows of the plan get
-    bool m_is_import = false; // rather than a look at the list
-    bool m_is_added = false;  // and its rows are in the list
+    QString m_message;                       // that the rows of the plan get
+    std::shared_ptr<Recipient_List> m_saved; // with messages of their own; null for contacts
+    bool m_is_import = false;                // rather than a look at the list
+    bool m_is_added = false;                 // and its rows are in the list
     std::shared_ptr<const Plan_View> m_last_added;
     int m_turn = 0; // what an earlier reading brings is too late
 };

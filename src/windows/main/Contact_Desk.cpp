@@ -2,7 +2,9 @@
 
 #include "engine/Outcome_Codes.h"
 #include "engine/Send_Order.h"
+#include "list/Contact_List_File.h"
 #include "platform/Interface_Thread.h"
+#include "records/Export_Writer.h"
 #include "toolkit/File_Panels.h"
 #include "toolkit/Import_Strip.h"
 #include "toolkit/Main_Window.h"
@@ -12,6 +14,7 @@
 #include "windows/contacts/Fields_Strip.h"
 
 #include <QClipboard>
+#include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QMenu>
@@ -129,7 +132,26 @@ void Contact_Desk::Check_List()
     Window().Check_List();
 }
 
-void Contact_Desk::Save_With_Fields() {}
+void Contact_Desk::Save_With_Fields()
+{
+    const QString extension = QStringLiteral("csv");
+    const auto chosen = Ask_For_File_To_Save(m_window.Window(), extension);
+    if (!chosen)
+        return;
+    const QString path = With_Extension(*chosen, extension);
+    bool is_written = false;
+    {
+        const auto sheet = m_work.Sheet();
+        Run_On_Worker([&, list = m_window.Recipients()] {
+            const auto line = [&](qsizetype index) { return Contact_List_File::Line(list, static_cast<int>(index)); };
+            is_written = Write_Export(path, {Contact_List_File::Heading(list), list.Count(), line});
+        });
+    }
+    const QString shown_path = QDir::toNativeSeparators(path);
+    m_controls.strip.Show_News(is_written ? tr("Written to %1.").arg(shown_path)
+                                          : tr("The file %1 could not be written.").arg(shown_path),
+                               {});
+}
 
 // A list without fields has nothing to say, and what is to be counted of another is counted behind the window.
 void Contact_Desk::Job_Ended()
