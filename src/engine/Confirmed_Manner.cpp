@@ -275,6 +275,8 @@ Send_Manner::Submission Confirmed_Manner::Submit(int index, const Recipient&)
     Row_Walk walk(*this, index, row);
     const Submission submission = walk.Run();
     Take_Reports();
+    if (m_open_case)
+        Settle_Open_Case();
     const Row_State state = walk.Details().outcome.state;
     if (state == Row_State::Sent || state == Row_State::Refused)
         --m_open_rows;
@@ -282,6 +284,36 @@ Send_Manner::Submission Confirmed_Manner::Submit(int index, const Recipient&)
     if (state != Row_State::Not_Tried || walk.Details().parts_sent > 0)
         m_watcher.Row_Done(index, walk.Details());
     return submission;
+}
+
+void Confirmed_Manner::Note_Accepted(const Open_Case& part, int reference, const QByteArray& time)
+{
+    if (m_journal)
+        m_journal->Accepted(part.index + 1, part.part, reference, QString::fromUtf8(time));
+    if (reference >= 0 && Asks_For_Reports())
+        m_report_desk.Expect(part.number, {part.index, part.part, reference, Local_Time().toSecsSinceEpoch()});
+}
+
+// The result of a part that came too late to be told. What was said of its row stays; the journal knows better.
+void Confirmed_Manner::Settle_Open_Case()
+{
+    const auto late = m_session.Take_Late_Result();
+    if (!late)
+        return;
+    const Open_Case part = *std::exchange(m_open_case, std::nullopt);
+    const auto cause_class = late->m_cause ? Cause_Row(*late->m_cause).cause_class : Cause_Class::Counts_As_Sent;
+    if (cause_class == Cause_Class::Unknown_Outcome || cause_class == Cause_Class::Ignore)
+        return;
+    bool is_final = part.part == part.parts;
+    if (cause_class == Cause_Class::Counts_As_Sent) {
+        Note_Accepted(part, late->m_reference, late->m_time);
+    } else {
+        const QString field = Cause_Field(*late->m_cause);
+        is_final = Is_Final(field, 1);
+        if (m_journal)
+            m_journal->Refused(part.index + 1, part.part, field);
+    }
+    m_open_rows -= is_final ? 1 : 0;
 }
 
 // For reasons that the walk has not seen: the number, or what held when a job that is gone on with began.
@@ -346,6 +378,8 @@ void Confirmed_Manner::Take_Reports()
 // A job that has nothing left to be decided or sent leaves nothing behind, unless that is wanted.
 void Confirmed_Manner::Close()
 {
+    if (m_open_case)
+        Settle_Open_Case();
     m_session.Close();
     if (!m_journal)
         return;

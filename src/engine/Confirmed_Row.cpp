@@ -31,7 +31,8 @@ struct Doubt_Row
 constexpr Doubt_Row Doubts[] = {{Doubt::No_Result, "no-result", T::No_Result},
                                 {Doubt::Ok_Alone, "ok-alone", T::No_Reference},
                                 {Doubt::Line_Lost, "line-lost", T::Line_Lost},
-                                {Doubt::Broken_Off, "broken-off", T::Broken_Off}};
+                                {Doubt::Broken_Off, "broken-off", T::Broken_Off},
+                                {Doubt::Not_Told_Apart, "not-told-apart", T::Not_Told_Apart}};
 
 const Doubt_Row& Row_Of(Doubt doubt)
 {
@@ -125,6 +126,8 @@ Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Send_Part(const
     const Part_Result result = m_manner.m_session.Submit(part, *this);
     if (std::exchange(m_is_waiting, false))
         m_manner.m_progress.Show_Current(m_row.number);
+    if (m_manner.m_open_case) // before there is another
+        m_manner.Settle_Open_Case();
     switch (result.m_kind) {
     case Part_Result::Kind::Accepted:
         return Take_Accepted(result.m_reference, result.m_time);
@@ -152,14 +155,10 @@ bool Confirmed_Manner::Row_Walk::Prepare_Text_Mode()
 
 Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Take_Accepted(int reference, const QByteArray& time)
 {
-    if (m_manner.m_journal)
-        m_manner.m_journal->Accepted(m_index + 1, m_part, reference, QString::fromUtf8(time));
+    m_manner.Note_Accepted({m_index, m_part, m_row.parts, m_row.number}, reference, time);
     ++m_details.parts_sent;
-    if (reference >= 0) {
+    if (reference >= 0)
         m_details.references.append(reference);
-        if (m_manner.Asks_For_Reports())
-            m_manner.m_report_desk.Expect(m_row.number, {m_index, m_part, reference, Local_Time().toSecsSinceEpoch()});
-    }
     return Part_End::Sent;
 }
 
@@ -208,15 +207,31 @@ Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Take_Doubt(Doub
 {
     if (doubt == Doubt::Broken_Off)
         m_submission.next = Next::Break_Off;
-    else if (doubt != Doubt::Line_Lost && m_manner.m_session.Answers()) {
-        if (const auto late = m_manner.m_session.Take_Late_Result())
-            return late->m_cause ? Take_Refusal(*late->m_cause) : Take_Accepted(late->m_reference, late->m_time);
-        return Be_Unknown(Field_Of(doubt), Reason_Of(doubt));
-    }
+    const bool may_come_late = doubt == Doubt::No_Result || doubt == Doubt::Ok_Alone;
+    const bool answers = doubt != Doubt::Broken_Off && doubt != Doubt::Line_Lost && m_manner.m_session.Answers();
+    if (const auto end = may_come_late ? Take_Late_Result() : std::nullopt)
+        return *end;
     Be_Unknown(Field_Of(doubt), Reason_Of(doubt));
-    if (m_submission.next == Next::Go_On)
-        Hold(Until::Device_Is_Back, doubt == Doubt::Line_Lost ? T::Device_Is_Gone : T::Device_Is_Silent);
-    return Part_End::Row_Is_Over;
+    if (may_come_late)
+        m_manner.m_open_case = {m_index, m_part, m_row.parts, m_row.number};
+    if (answers || m_submission.next != Next::Go_On)
+        return Part_End::Row_Is_Over;
+    const bool is_back = Hold(Until::Device_Is_Back,
+                              doubt == Doubt::Line_Lost ? T::Device_Is_Gone : T::Device_Is_Silent) == Part_End::Again;
+    const auto end = is_back && may_come_late ? Take_Late_Result() : std::nullopt;
+    return end.value_or(Part_End::Row_Is_Over);
+}
+
+// What comes before the next command settles it.
+std::optional<Confirmed_Manner::Row_Walk::Part_End> Confirmed_Manner::Row_Walk::Take_Late_Result()
+{
+    const auto late = m_manner.m_session.Take_Late_Result();
+    if (!late)
+        return std::nullopt;
+    m_manner.m_open_case.reset();
+    m_details.outcome = {};
+    m_details.reason.clear();
+    return late->m_cause ? Take_Refusal(*late->m_cause) : Take_Accepted(late->m_reference, late->m_time);
 }
 
 // Nothing was sent.

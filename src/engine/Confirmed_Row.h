@@ -24,6 +24,7 @@ private:
     Part_End Take_Refusal(const Device_Cause& cause);
     void Note_Refusal(const Device_Cause& cause);
     Part_End Take_Doubt(Part_Result::Doubt doubt);
+    std::optional<Part_End> Take_Late_Result();
     Part_End Take_Obstacle(Part_Result::Obstacle obstacle);
     Part_End Try_Again_Later(const QString& reason);
     Part_End Hold(Device_Hold::Until until, const QString& reason);

@@ -219,12 +219,15 @@ private:
     {
         Add_Manner(Message_Manner::Kind::Refused_At_Once, cause.said);
         const bool is_plain = cause.deal == Deal::Doubt || cause.deal == Deal::Counts; // nothing has gone out
+        if (m_is_result_due)
+            Write("ESC"); // the prompt may come after what looks like a refusal
         Refuse(is_plain ? Cause{cause.said, cause.field, Deal::Pass_Over} : cause, false);
     }
 
     void Pull_At_The_Prompt()
     {
         m_expected.moods.m_hang_up_at = m_submissions;
+        m_is_result_due = false;
         Come_Back();
         m_is_again = true;
     }
@@ -251,8 +254,39 @@ private:
         End_Attempt(kind, cause, reference);
     }
 
+    // While a result is due that has not come, a refusal may be that one.
+    bool Is_Doubtful(Kind kind) const
+    {
+        return m_is_result_due && (kind == Kind::Refused || kind == Kind::Refused_Though_Sent ||
+                                   kind == Kind::Second_Prompt || kind == Kind::Without_Reference);
+    }
+
+    void Add_Doubtful_Manner(Kind kind, const Cause& cause)
+    {
+        switch (kind) {
+        case Kind::Refused:
+            Add_Manner(Message_Manner::Kind::Refused, cause.said);
+            break;
+        case Kind::Refused_Though_Sent:
+            Add_Manner(Message_Manner::Kind::Refused_Though_Sent, cause.said);
+            break;
+        case Kind::Second_Prompt:
+            Add_Manner(Message_Manner::Kind::Second_Prompt);
+            break;
+        default:
+            Add_Manner(Message_Manner::Kind::Without_Reference);
+            break;
+        }
+    }
+
     void End_Attempt(Kind kind, const Cause& cause, int reference)
     {
+        if (Is_Doubtful(kind)) {
+            Add_Doubtful_Manner(kind, cause);
+            Write("AT");
+            Leave_In_Doubt("not-told-apart");
+            return;
+        }
         switch (kind) {
         case Kind::Refused:
         case Kind::Refused_Though_Sent:
@@ -274,16 +308,22 @@ private:
             Add_Manner(Message_Manner::Kind::Without_Result);
             Write("AT");
             Leave_In_Doubt("no-result");
+            m_is_result_due = true;
             return;
         case Kind::Pulled_In_The_Body:
             m_expected.moods.m_hang_up_in_body_at = m_submissions;
             Leave_In_Doubt("line-lost");
+            m_is_result_due = false;
             if (!m_is_over)
                 Come_Back();
             return;
         case Kind::Late:
             Add_Manner(Message_Manner::Kind::At_The_Next_Command);
             Write("AT");
+            if (m_is_result_due) { // and may be the earlier one
+                Leave_In_Doubt("no-result");
+                return;
+            }
             break;
         case Kind::Slow:
             Add_Manner(Message_Manner::Kind::Delayed);
@@ -294,8 +334,10 @@ private:
         Be_Sent(QString::number(reference));
     }
 
+    // Devices answer in order: what an earlier message has not been told by now it never will be.
     void Be_Sent(const QString& reference)
     {
+        m_is_result_due = false;
         Note(QStringLiteral("S %1 %2").arg(Part_Name(m_row, m_part), reference));
         ++m_parts_sent;
     }
@@ -380,6 +422,7 @@ private:
     int m_coding = -1;
     int m_alike = 0;
     std::string m_last_end;
+    bool m_is_result_due = false;
     bool m_is_again = false;
     bool m_is_over = false;
     Row_State m_state = Row_State::Sent;
