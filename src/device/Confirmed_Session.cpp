@@ -1,5 +1,6 @@
 #include "device/Confirmed_Session.h"
 
+#include "device/Cause_Words.h"
 #include "platform/Waiting.h"
 
 #include <algorithm>
@@ -33,10 +34,11 @@ Sim_State Sim_State_Of(const QByteArray& code)
     return code.endsWith("PIN") || code.endsWith("PIN2") ? Sim_State::Pin_Needed : Sim_State::Unknown;
 }
 
-// 3GPP TS 27.007, 9.2.1
+// 3GPP TS 27.007, 9.2.1. Some devices keep to words whatever they were asked for.
 Sim_State Sim_State_Of(const Device_Cause& cause)
 {
-    switch (cause.number) {
+    const bool is_in_words = cause.kind == Device_Cause::Kind::Words;
+    switch (is_in_words ? Numbered_Cause(cause.words).value_or(cause).number : cause.number) {
     case 10:
     case 310:
         return Sim_State::Missing;

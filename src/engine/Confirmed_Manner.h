@@ -80,9 +80,11 @@ private:
     void Make_Journal();
     void Open_Journal();
     Job_Row Row_At(int index);
-    std::optional<Row_Details> Settled_Before(int index, const Job_Row& row) const;
+    std::optional<Row_Details> Settled_Before(int index) const;
     void Begin_Reports();
     void Settle_Open_Case();
+    void Await_Reports();
+    void End_Journal();
     void Note_Accepted(const Open_Case& part, int reference, const QByteArray& time);
     Submission Pass_Over(int index, const QString& why);
     void Take_Reports();
@@ -111,6 +113,7 @@ private:
     bool m_has_handed_over = false;
     bool m_has_sent = false;
     bool m_sends_slowly = false;
+    bool m_has_ended = false;  // the journal says so
     bool m_has_failed = false; // at least one row was reached and not sent
     int m_open_rows = 0;       // not tried, or may have been sent
 };

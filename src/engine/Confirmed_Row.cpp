@@ -1,7 +1,7 @@
 #include "engine/Confirmed_Row.h"
 
+#include "device/Cause_Words.h"
 #include "engine/Message_Frames.h"
-#include "engine/Send_Cause_Words.h"
 #include "engine/Send_Progress.h"
 #include "platform/Waiting.h"
 #include "texts/Confirmed_Texts.h"
@@ -96,11 +96,13 @@ Send_Manner::Submission Confirmed_Manner::Row_Walk::Run()
     auto end = Part_End::Sent;
     for (m_part = 1; m_part <= m_row.parts && end == Part_End::Sent; ++m_part) {
         if (m_manner.Is_Sent_Already(m_index, m_part)) {
-            ++m_details.parts_sent;
+            Count_Sent_Part();
             continue;
         }
-        m_tries = 0;
+        m_tries = m_manner.m_record ? m_manner.m_record->Part(m_index + 1, m_part).tries : 0;
         m_retries = 0;
+        m_vain_holds = 0;
+        m_first_hold.reset();
         do {
             end = Send_Part(parts[static_cast<std::size_t>(m_part - 1)]);
         } while (end == Part_End::Again);
@@ -115,6 +117,16 @@ Send_Manner::Submission Confirmed_Manner::Row_Walk::Run()
     if (m_manner.m_sends_slowly && m_submission.next == Next::Go_On)
         m_manner.m_stop.Wait(Seconds_Between_Slow_Messages);
     return m_submission;
+}
+
+// One that an earlier walk has sent.
+void Confirmed_Manner::Row_Walk::Count_Sent_Part()
+{
+    const Job_Part part = m_manner.m_record->Part(m_index + 1, m_part);
+    ++m_details.parts_sent;
+    m_details.tries = std::max(m_details.tries, part.tries);
+    if (part.reference >= 0)
+        m_details.references.append(part.reference);
 }
 
 Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Send_Part(const Part_To_Send& part)
@@ -177,18 +189,23 @@ Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Take_Refusal(co
     }
     if (row.cause_class == Cause_Class::Counts_As_Sent)
         return Take_Accepted(-1, {});
-    if (m_was_handed_over || row.cause_class != Cause_Class::Hold) // what waits before that is as it was
-        Note_Refusal(cause);
+    const bool is_held =
+        row.cause_class == Cause_Class::Hold && static_cast<std::size_t>(m_vain_holds) < Retry_Waits.size();
+    const bool is_passing = row.cause_class == Cause_Class::Retry || row.cause_class == Cause_Class::Retry_Slowly;
+    if (m_was_handed_over || !is_held) // what waits before that is as it was
+        Note_Refusal(cause, is_held || (is_passing && May_Be_Tried_Again()));
     switch (row.cause_class) {
     case Cause_Class::Retry_Slowly:
         m_manner.m_sends_slowly = true;
         [[fallthrough]];
     case Cause_Class::Retry:
-        if (Try_Again_Later(reason) == Part_End::Again)
-            return Part_End::Again;
+        if (const auto end = Try_Again_Later(reason))
+            return *end;
         break;
     case Cause_Class::Hold:
-        return Hold(Wait_For(cause), reason);
+        if (is_held)
+            return Hold(Wait_For(cause), reason);
+        break;
     default:
         break;
     }
@@ -197,9 +214,13 @@ Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Take_Refusal(co
 }
 
 // Also of a part that got no prompt: the row has been refused all the same.
-void Confirmed_Manner::Row_Walk::Note_Refusal(const Device_Cause& cause)
+void Confirmed_Manner::Row_Walk::Note_Refusal(const Device_Cause& cause, bool goes_again)
 {
-    if (m_manner.m_journal)
+    if (!m_manner.m_journal)
+        return;
+    if (goes_again)
+        m_manner.m_journal->Refused_For_Now(m_index + 1, m_part, Cause_Field(cause));
+    else
         m_manner.m_journal->Refused(m_index + 1, m_part, Cause_Field(cause));
 }
 
@@ -243,8 +264,7 @@ Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Take_Obstacle(O
         return Part_End::Row_Is_Over;
     case Obstacle::Not_Recorded:
         m_manner.m_journal_trouble = m_manner.m_journal->Trouble();
-        Stop_Job(QString(T::Not_Recorded) + QLatin1String(" (") + Job_Trouble_Sentence(m_manner.m_journal_trouble) +
-                 QLatin1String(")."));
+        Stop_Job(Not_Recorded(m_manner.m_journal_trouble));
         return Part_End::Row_Is_Over;
     case Obstacle::Line_Lost:
         return Hold(Until::Device_Is_Back, T::Device_Is_Gone);
@@ -254,19 +274,24 @@ Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Take_Obstacle(O
     }
     if (!m_manner.m_session.Answers())
         return Hold(Until::Device_Is_Back, T::Device_Is_Silent);
-    if (Try_Again_Later(T::No_Prompt) == Part_End::Again)
-        return Part_End::Again;
+    if (const auto end = Try_Again_Later(T::No_Prompt))
+        return *end;
     return Be_Refused({}, T::No_Prompt, Alike_In_A_Row);
 }
 
-Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Try_Again_Later(const QString& reason)
+// Nothing when it was the last try. A stop leaves the part for another time.
+std::optional<Confirmed_Manner::Row_Walk::Part_End> Confirmed_Manner::Row_Walk::Try_Again_Later(const QString& reason)
 {
-    if (static_cast<std::size_t>(m_retries) >= Retry_Waits.size())
-        return Part_End::Row_Is_Over;
+    if (!May_Be_Tried_Again())
+        return std::nullopt;
     m_manner.m_progress.Show_Waiting(reason);
     m_is_waiting = true;
     m_manner.m_stop.Wait(Retry_Waits[static_cast<std::size_t>(m_retries++)]);
-    return m_manner.m_stop == 1 || Program_Is_Exiting() ? Part_End::Row_Is_Over : Part_End::Again;
+    if (m_manner.m_stop == 0 && !Program_Is_Exiting())
+        return Part_End::Again;
+    m_submission.next = Next::Break_Off;
+    m_details.reason = reason;
+    return Part_End::Row_Is_Over;
 }
 
 // The same part goes on afterwards, if it has not been settled.
@@ -274,7 +299,17 @@ Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Hold(Until unti
 {
     if (m_manner.m_journal)
         m_manner.m_journal->Sync();
-    switch (m_manner.m_hold.Hold(until, reason)) {
+    const double now = Now_Seconds();
+    Device_Hold::Patience patience;
+    patience.held = (now - m_first_hold.value_or(now)) / Paced(1);
+    if (until == Until::Card_Is_Ready || until == Until::Network_Is_There)
+        patience.where_right = Retry_Waits[static_cast<std::size_t>(m_vain_holds)];
+    if (!m_first_hold)
+        m_first_hold = now;
+    switch (m_manner.m_hold.Hold(until, reason, patience)) {
+    case Device_Hold::End::Was_Right:
+        ++m_vain_holds;
+        [[fallthrough]];
     case Device_Hold::End::Right:
         m_manner.m_progress.Show_Current(m_row.number);
         m_manner.m_text_coding = -1; // it may be as new
@@ -329,6 +364,7 @@ bool Confirmed_Manner::Row_Walk::May_Be_Handed_Over()
     if (m_manner.m_journal && !m_manner.m_journal->Hand_Over(m_index + 1, m_part, m_row.parts))
         return false;
     m_was_handed_over = true;
+    m_has_handed_over = true;
     m_manner.m_has_handed_over = true;
     return true;
 }
@@ -344,6 +380,11 @@ void Confirmed_Manner::Row_Walk::Still_Waiting(int seconds)
     m_manner.m_progress.Show_Waiting(T::Waiting_For_Network);
     m_is_waiting = true;
     m_manner.m_watcher.Still_Waiting(seconds);
+}
+
+QString Not_Recorded(Job_Trouble trouble)
+{
+    return QString(T::Not_Recorded) + QLatin1String(" (") + Job_Trouble_Sentence(trouble) + QLatin1String(").");
 }
 
 QString Doubt_Sentence(const QString& field)

@@ -20,7 +20,12 @@ public:
     void Begin_Preparing(int) override {}
     void Begin_Sending() override {}
     void Show_Item(int, int, const QString&) override {}
-    void Show_Current(const QString& text) override { m_shown.append(text); }
+    void Show_Current(const QString& text) override
+    {
+        m_shown.append(text);
+        if (m_on_shown)
+            m_on_shown();
+    }
     void End() override {}
     void Begin_Pause() override {}
     void Show_Pause(const QString&) override {}
@@ -64,6 +69,7 @@ public:
     std::vector<std::array<int, 3>> m_reports; // index, part, status
     std::vector<Row_Details> m_rows;
     std::vector<std::pair<int, Row_State>> m_outcomes;
+    std::function<void()> m_on_shown;
     std::function<void()> m_on_row;
     std::function<void()> m_on_held;
 };
@@ -93,6 +99,7 @@ protected:
         m_job = manner.Job_Id();
         m_has_handed_over = manner.Has_Handed_Over();
         m_record = manner.Record();
+        m_journal_trouble = manner.Journal_Trouble();
     }
 
     /// What the handset shows, in the order of arrival.
@@ -113,4 +120,5 @@ protected:
     QString m_job;
     bool m_has_handed_over = false;
     std::optional<Job_Record> m_record;
+    Job_Trouble m_journal_trouble = Job_Trouble::None;
 };

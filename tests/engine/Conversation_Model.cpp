@@ -158,6 +158,7 @@ private:
         m_tries = 0;
         for (m_part = 1; m_part <= Row().parts && m_state == Row_State::Sent; ++m_part) {
             m_retries = 0;
+            m_vain_holds = 0;
             m_attempt = 0;
             do {
                 m_is_again = false;
@@ -361,24 +362,19 @@ private:
         }
         const bool waits =
             cause.deal == Deal::Wait_Card || cause.deal == Deal::Wait_Net || cause.deal == Deal::Wait_Time;
-        if (is_handed_over || !waits)
-            Note(QStringLiteral("E %1 %2").arg(Part_Name(m_row, m_part), QLatin1String(cause.field)));
-        switch (cause.deal) {
-        case Deal::Again:
-            m_is_again = m_retries++ < Most_Retries;
-            break;
-        case Deal::Wait_Card:
-        case Deal::Wait_Net:
+        // The phone always says that its card is ready and its network there.
+        const bool is_in_vain = cause.deal == Deal::Wait_Card || cause.deal == Deal::Wait_Net;
+        m_is_again = (cause.deal == Deal::Again && m_retries++ < Most_Retries) || cause.deal == Deal::Wait_Time ||
+                     (is_in_vain && m_vain_holds++ < Most_Retries);
+        if (is_handed_over || !waits || !m_is_again)
+            Note(QStringLiteral("E %1 %2").arg(Part_Name(m_row, m_part),
+                                               QLatin1String(m_is_again ? "again:" : "") + QLatin1String(cause.field)));
+        if (m_is_again && is_in_vain) {
             Write("AT");
             Ask_Condition();
-            Hold();
-            break;
-        case Deal::Wait_Time:
-            Hold();
-            break;
-        default:
-            break;
         }
+        if (m_is_again && waits)
+            Hold();
         if (!m_is_again)
             End_Row(Row_State::Refused, cause.field, cause.deal == Deal::Stop ? 1 : cause.stops_at);
     }
@@ -387,7 +383,6 @@ private:
     {
         m_expected.holds += m_expected.holds >= 0 ? 1 : 0;
         m_coding = -1;
-        m_is_again = true;
     }
 
     void End_Row(Row_State state, const char* end, int stops_at)
@@ -417,6 +412,7 @@ private:
     int m_submissions = 0; // AT+CMGS in all
     int m_taken = 0;       // by the network
     int m_retries = 0;
+    int m_vain_holds = 0;
     int m_tries = 0;
     int m_parts_sent = 0;
     int m_coding = -1;

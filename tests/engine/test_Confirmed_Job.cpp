@@ -1,8 +1,11 @@
 #include "engine/Confirmed_Test.h"
 #include "engine/Message_Frames.h"
+#include "platform/File_Calls.h"
 #include "texts/Cause_Texts.h"
 #include "texts/Confirmed_Texts.h"
 #include "texts/Texts.h"
+
+#include <cerrno>
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -193,6 +196,130 @@ TEST_F(Confirmed_Job, A_Hold_That_Lasts_Too_Long_Leaves_The_Rest_Untried)
     EXPECT_THAT(m_witness.m_rows, IsEmpty());
     EXPECT_THAT(m_witness.m_told, ElementsAre(QString(Texts::Confirmed::Waited_Too_Long)));
     EXPECT_FALSE(m_has_handed_over);
+}
+
+namespace {
+
+// At every try of the first message.
+void Refuse_The_First(Virtual_Phone& phone, const char* cause)
+{
+    Phone_Moods moods;
+    moods.m_message_manners = {{Message_Manner::Kind::Refused, 1, INT_MAX, "0700900100", cause, 0}};
+    phone.Set_Moods(moods);
+}
+
+} // namespace
+
+TEST_F(Confirmed_Job, A_State_That_The_Device_Denies_Is_Waited_For_Longer_Each_Time_And_Then_Refuses)
+{
+    constexpr double pace = 500;
+    for (const char* cause : {"+CMS ERROR: 331", "+CMS ERROR: 311", "+CME ERROR: 30", "+CMS ERROR: 41"}) {
+        m_witness = {};
+        Set_Pace(pace);
+        Refuse_The_First(m_phone, cause);
+        const double begin = Now_Seconds();
+        Run();
+        EXPECT_GE(Now_Seconds() - begin, (5 + 30 + 120) / pace) << cause;
+        EXPECT_THAT(m_witness.States(), ElementsAre(Row_State::Refused, Row_State::Sent, Row_State::Sent)) << cause;
+        EXPECT_EQ(m_witness.m_rows[0].tries, 4) << cause;
+        EXPECT_EQ(m_witness.m_held.size(), std::string(cause) == "+CMS ERROR: 41" ? 0 : 3) << cause;
+        EXPECT_THAT(Unfinished(), IsEmpty()) << cause;
+    }
+}
+
+TEST_F(Confirmed_Job, All_Holds_Of_A_Message_Count_Against_The_Time_That_A_Hold_May_Take)
+{
+    Set_Pace(50);
+    for (const char* cause : {"+CMS ERROR: 331", "+CMS ERROR: 322"}) {
+        m_witness = {};
+        m_phone.Forget();
+        m_options.hold_seconds = 75;
+        Refuse_The_First(m_phone, cause);
+        Run();
+        EXPECT_THAT(m_witness.States(), ElementsAre(Row_State::Not_Tried)) << cause;
+        EXPECT_GE(m_witness.m_rows[0].tries, 2) << cause;
+        EXPECT_LE(m_witness.m_rows[0].tries, 3) << cause;
+        EXPECT_THAT(m_witness.m_told, ElementsAre(QString(Texts::Confirmed::Waited_Too_Long))) << cause;
+        const auto unfinished = Unfinished();
+        ASSERT_EQ(unfinished.size(), 1);
+        EXPECT_EQ(unfinished.first().counts.not_tried, 3) << cause << ": none is refused";
+        QDir(m_options.folder).removeRecursively();
+    }
+}
+
+TEST_F(Confirmed_Job, A_Stop_Before_A_Further_Try_Leaves_The_Row_Untried)
+{
+    for (const int part : {1, 2}) {
+        m_witness = {};
+        m_phone.Forget();
+        m_stop = 0;
+        m_options.resumed_path.clear();
+        m_order.recipients.Replace(0, QStringLiteral("0700900100"), QString(part * 150, u'x'));
+        Cms(41, part);
+        m_witness.m_on_shown = [this] { m_stop = 1; };
+        Run();
+        EXPECT_THAT(m_witness.States(), ElementsAre(Row_State::Not_Tried));
+        EXPECT_EQ(m_witness.m_rows[0].parts_sent, part - 1);
+        m_witness = {};
+        m_phone.Set_Moods({});
+        ASSERT_EQ(Unfinished().size(), 1);
+        EXPECT_EQ(Unfinished().first().counts.not_tried, 3);
+        m_options.resumed_path = Unfinished().first().path;
+        Run();
+        EXPECT_THAT(m_witness.States(), ElementsAre(Row_State::Sent, Row_State::Sent, Row_State::Sent));
+        EXPECT_EQ(m_witness.m_rows[0].references.size(), part) << "those of both walks";
+        EXPECT_EQ(m_witness.m_rows[0].tries, 2);
+    }
+}
+
+TEST_F(Confirmed_Job, A_Journal_That_Fails_At_The_Last_Message_Or_At_The_End_Is_Told)
+{
+    m_order.recipients.Clear();
+    Add(QStringLiteral("0700900100"), QStringLiteral("One"));
+    for (const bool is_at_the_end : {false, true}) {
+        m_witness = {};
+        Phone_Moods moods;
+        moods.m_pace = 20;
+        moods.m_message_manners = {{Message_Manner::Kind::Delayed, 1, INT_MAX, {}, {}, 15}};
+        m_phone.Set_Moods(moods);
+        std::optional<File_Calls> failing;
+        const auto fail = [&] { failing.emplace(File_Call_Plan{.fail_at = 1, .error = EIO}); };
+        // Behind the result, the number is shown again where the network was waited for.
+        m_witness.m_on_shown = [&] {
+            if (!is_at_the_end && m_witness.m_shown.last() == QStringLiteral("0700900100"))
+                fail();
+        };
+        m_witness.m_on_row = [&] {
+            if (is_at_the_end)
+                fail();
+        };
+        Run();
+        ASSERT_TRUE(failing);
+        EXPECT_EQ(failing->Made().value(0), "write");
+        failing.reset();
+        EXPECT_THAT(m_witness.States(), ElementsAre(Row_State::Sent));
+        ASSERT_EQ(m_witness.m_told.size(), 1);
+        EXPECT_THAT(m_witness.m_told.first().toStdString(), testing::HasSubstr("journal cannot be written"));
+        EXPECT_EQ(m_journal_trouble, Job_Trouble::Not_Written);
+        ASSERT_EQ(Unfinished().size(), 1);
+        EXPECT_EQ(Unfinished().first().counts.unknown, is_at_the_end ? 0 : 1);
+        QDir(m_options.folder).removeRecursively();
+    }
+}
+
+TEST_F(Confirmed_Job, Going_On_Tells_What_Is_Settled_As_The_First_Walk_Did)
+{
+    Cms(332);
+    m_witness.m_on_row = [this] { m_stop = 1; };
+    Run();
+    ASSERT_EQ(m_witness.m_rows.size(), 1U);
+    const Row_Details first = m_witness.m_rows[0];
+    m_witness = {};
+    m_options.resumed_path = Unfinished().first().path;
+    Run();
+    EXPECT_EQ(m_witness.m_rows[0].reason, first.reason);
+    EXPECT_EQ(m_witness.m_rows[0].outcome.cause, first.outcome.cause);
+    EXPECT_EQ(m_witness.m_rows[0].outcome.cause.number, 332);
 }
 
 TEST_F(Confirmed_Job, A_Card_That_Wants_Its_Puk_Ends_The_Job_Before_It_Begins)
