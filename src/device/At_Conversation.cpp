@@ -12,9 +12,10 @@ namespace {
 
 constexpr double Longest_Drop = 2;
 constexpr double Longest_Wait_For_Ok = 0.5;
-constexpr double Longest_Hearing = 0.02; // real seconds
-constexpr double Longest_Talk = 0.5;     // real seconds of reports in a row
-constexpr qsizetype Most_Lines = 4096;   // of one answer
+constexpr double Longest_Hearing = 0.02;   // real seconds
+constexpr double Between_Questions = 0.05; // real seconds
+constexpr double Longest_Talk = 0.5;       // real seconds of reports in a row
+constexpr qsizetype Most_Lines = 4096;     // of one answer
 
 void Log_Exchange(const char* what, const QByteArray& bytes)
 {
@@ -112,12 +113,17 @@ At_Conversation::Heard At_Conversation::Hear(double end)
         if (m_lines.Take_Prompt())
             return {Heard::Kind::Prompt, {}};
         QByteArray bytes;
-        switch (m_line.Read(bytes, std::max(end - Now_Seconds(), 0.0))) {
+        const double left = std::max(end - Now_Seconds(), 0.0);
+        switch (m_line.Read(bytes, m_is_over ? std::min(left, Between_Questions) : left)) {
         case Device_Line::Event::Bytes:
             m_lines.Take(bytes);
             break;
         case Device_Line::Event::Timed_Out:
-            return {Heard::Kind::Silence, {}};
+            if (!m_is_over || Program_Is_Exiting() || Now_Seconds() >= end)
+                return {Heard::Kind::Silence, {}};
+            if (m_is_over())
+                return {Heard::Kind::Gone, {}};
+            break;
         case Device_Line::Event::Gone:
             return {Heard::Kind::Gone, {}};
         }

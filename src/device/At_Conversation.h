@@ -111,6 +111,9 @@ public:
     /// Leaves a prompt that nobody wants: what came next would become a message's text.
     void Call_Off_Message() { Write("\x1B"); }
 
+    /// Asked time and again while nothing comes: as soon as it answers yes the line counts as gone. Empty for never.
+    void Set_End(std::function<bool()> is_over) { m_is_over = std::move(is_over); }
+
     /// Receives the reports that come; empty for nobody.
     void Set_Report_Listener(std::function<void(const Raw_Report&)> listener) { m_on_report = std::move(listener); }
 
@@ -120,6 +123,7 @@ private:
     Device_Line& m_line;
     Answer_Lines m_lines;
     std::function<void(const Raw_Report&)> m_on_report;
+    std::function<bool()> m_is_over;
     std::optional<QByteArray> m_frame_is_due; // the first line of a report whose frame follows
     bool m_are_late_expected = false;
     std::optional<Late_Result> m_late_taken; // "+CMGS" has come, its OK has not

@@ -110,6 +110,8 @@ public:
     /// Opens it, calls off what an earlier program may have left begun, and prepares the device for messages.
     Opening Open();
     int Error() const { return m_line.Error(); }
+    /// Ends whatever waits for the device, as if it were gone, once this answers yes.
+    void Set_End(std::function<bool()> is_over) { m_conversation.Set_End(std::move(is_over)); }
     void Close() { m_line.Close(); }
 
     bool Is_Text_Mode() const { return m_is_text_mode; }

@@ -154,7 +154,8 @@ void Confirmed_Manner::Make_Journal()
 {
     m_job_id = m_options.id.isEmpty() ? New_Job_Id() : m_options.id;
     auto opened = Job_Journal::Create(
-        m_options.folder, {m_job_id, m_session.Imsi(), Lasting_Device_Path(m_order.device_path), m_options.job},
+        m_options.folder,
+        {m_job_id, m_session.Imsi(), Lasting_Device_Path(m_order.device_path), m_options.job, m_options.keeps_journal},
         [this, index = 0]() mutable -> std::optional<Job_Row> {
             if (index == m_order.recipients.Count())
                 return std::nullopt;

@@ -21,7 +21,7 @@ struct Confirmed_Options
     QString folder; ///< of the journals; empty for a job that keeps none
     Job_Options job;
     double hold_seconds = 0;       ///< how long a job that is held waits; 0 for as long as nobody stops it
-    bool keeps_journal = false;    ///< of a job that has ended
+    bool keeps_journal = false;    ///< of a job that has ended; the journal of a new one says so
     bool hands_out_record = false; ///< when the job is over
     QHash<int, QString> skipped;   ///< of a new job: the indexes of recipients that get nothing, and why
 

@@ -7,7 +7,6 @@
 #include "texts/Confirmed_Texts.h"
 
 #include <algorithm>
-#include <iterator>
 #include <utility>
 
 namespace {
@@ -19,37 +18,6 @@ namespace T = Texts::Confirmed;
 
 constexpr int Alike_In_A_Row = 3;
 constexpr double Seconds_Between_Slow_Messages = 5;
-
-struct Doubt_Row
-{
-    Doubt doubt;
-    const char* field; ///< as the journal writes it
-    Fixed_Text sentence;
-};
-
-// The first is for what has no row of its own.
-constexpr Doubt_Row Doubts[] = {{Doubt::No_Result, "no-result", T::No_Result},
-                                {Doubt::Ok_Alone, "ok-alone", T::No_Reference},
-                                {Doubt::Line_Lost, "line-lost", T::Line_Lost},
-                                {Doubt::Broken_Off, "broken-off", T::Broken_Off},
-                                {Doubt::Not_Told_Apart, "not-told-apart", T::Not_Told_Apart}};
-
-const Doubt_Row& Row_Of(Doubt doubt)
-{
-    const auto* const row =
-        std::find_if(std::begin(Doubts), std::end(Doubts), [&](const Doubt_Row& each) { return each.doubt == doubt; });
-    return row == std::end(Doubts) ? Doubts[0] : *row;
-}
-
-QString Reason_Of(Doubt doubt)
-{
-    return Row_Of(doubt).sentence;
-}
-
-QString Field_Of(Doubt doubt)
-{
-    return QLatin1String(Row_Of(doubt).field);
-}
 
 bool Is_About_What_Was_Sent(Cause_Class cause_class)
 {
@@ -134,7 +102,7 @@ Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Send_Part(const
     m_details.tries = std::max(m_details.tries, ++m_tries);
     m_was_handed_over = false;
     if (m_manner.m_session.Is_Text_Mode() && !Prepare_Text_Mode())
-        return m_manner.m_session.Answers() ? Be_Refused({}, T::No_Messages, 1) : Take_Obstacle(Obstacle::Line_Lost);
+        return Take_No_Text_Mode();
     const Part_Result result = m_manner.m_session.Submit(part, *this);
     if (std::exchange(m_is_waiting, false))
         m_manner.m_progress.Show_Current(m_row.number);
@@ -151,6 +119,15 @@ Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Send_Part(const
         break;
     }
     return Take_Obstacle(result.m_obstacle);
+}
+
+// The device offers text mode alone, and not what a message in it needs.
+Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Take_No_Text_Mode()
+{
+    if (!m_manner.m_session.Answers())
+        return Take_Obstacle(Obstacle::Line_Lost);
+    Note_Refusal({Device_Cause::Kind::Words, -1, T::No_Messages});
+    return Be_Refused({}, T::No_Messages, 1);
 }
 
 bool Confirmed_Manner::Row_Walk::Prepare_Text_Mode()
@@ -232,7 +209,7 @@ Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Take_Doubt(Doub
     const bool answers = doubt != Doubt::Broken_Off && doubt != Doubt::Line_Lost && m_manner.m_session.Answers();
     if (const auto end = may_come_late ? Take_Late_Result() : std::nullopt)
         return *end;
-    Be_Unknown(Field_Of(doubt), Reason_Of(doubt));
+    Be_Unknown(Doubt_Field(doubt), Doubt_Sentence(doubt));
     if (may_come_late)
         m_manner.m_open_case = {m_index, m_part, m_row.parts, m_row.number};
     if (answers || m_submission.next != Next::Go_On)
@@ -276,6 +253,8 @@ Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Take_Obstacle(O
         return Hold(Until::Device_Is_Back, T::Device_Is_Silent);
     if (const auto end = Try_Again_Later(T::No_Prompt))
         return *end;
+    if (m_manner.m_journal)
+        m_manner.m_journal->Refused(m_index + 1, m_part, No_Prompt_Field);
     return Be_Refused({}, T::No_Prompt, Alike_In_A_Row);
 }
 
@@ -380,47 +359,4 @@ void Confirmed_Manner::Row_Walk::Still_Waiting(int seconds)
     m_manner.m_progress.Show_Waiting(T::Waiting_For_Network);
     m_is_waiting = true;
     m_manner.m_watcher.Still_Waiting(seconds);
-}
-
-QString Not_Recorded(Job_Trouble trouble)
-{
-    return QString(T::Not_Recorded) + QLatin1String(" (") + Job_Trouble_Sentence(trouble) + QLatin1String(").");
-}
-
-QString Doubt_Sentence(const QString& field)
-{
-    const auto* const row = std::find_if(std::begin(Doubts), std::end(Doubts),
-                                         [&](const Doubt_Row& each) { return field == QLatin1String(each.field); });
-    return row == std::end(Doubts) ? QString() : row->sentence;
-}
-
-QString Cause_Field(const Device_Cause& cause)
-{
-    switch (cause.kind) {
-    case Device_Cause::Kind::Cms:
-        return QStringLiteral("cms:%1").arg(cause.number);
-    case Device_Cause::Kind::Cme:
-        return QStringLiteral("cme:%1").arg(cause.number);
-    case Device_Cause::Kind::Words:
-        return QStringLiteral("words:") + cause.words;
-    case Device_Cause::Kind::Error:
-        break;
-    }
-    return QStringLiteral("error");
-}
-
-std::optional<Device_Cause> Cause_Of_Field(const QString& field)
-{
-    const auto numbered = [&](Device_Cause::Kind kind) {
-        return Device_Cause{kind, QStringView(field).sliced(4).toInt(), {}};
-    };
-    if (field.startsWith(u"cms:"))
-        return numbered(Device_Cause::Kind::Cms);
-    if (field.startsWith(u"cme:"))
-        return numbered(Device_Cause::Kind::Cme);
-    if (field.startsWith(u"words:"))
-        return Device_Cause{Device_Cause::Kind::Words, -1, field.sliced(6)};
-    if (field == u"error")
-        return Device_Cause{};
-    return std::nullopt;
 }

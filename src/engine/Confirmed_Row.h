@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/Confirmed_Manner.h"
+#include "engine/Journal_Fields.h"
 
 // The way of one recipient's message through a confirmed job: its parts in turn, each until it is settled.
 class Confirmed_Manner::Row_Walk : private Part_Watcher
@@ -37,6 +38,7 @@ private:
     void Count_End(const QString& end, const QString& reason, int stops_at);
     void Stop_Job(const QString& notice);
     bool Prepare_Text_Mode();
+    Part_End Take_No_Text_Mode();
 
     bool May_Be_Handed_Over() override;
     bool Is_Asked_To_Stop() override;
@@ -56,14 +58,3 @@ private:
     bool m_has_handed_over = false;
     bool m_is_waiting = false; // and that is being shown
 };
-
-/// The cause as the journal writes it: cms:500, cme:11, error, or words: and the device's own.
-QString Cause_Field(const Device_Cause& cause);
-std::optional<Device_Cause> Cause_Of_Field(const QString& field);
-
-/// What is told when the journal cannot be written.
-QString Not_Recorded(Job_Trouble trouble);
-
-/// Why there is no telling, for a person, from what the journal writes about a part without a result; empty where that
-/// is something else.
-QString Doubt_Sentence(const QString& field);

@@ -61,8 +61,9 @@ bool Device_Hold::Is_Right(Until until, double waited)
 {
     if (until == Until::Some_Time_Has_Passed)
         return waited >= Seconds_For_A_Memory;
-    // A device that is unplugged while it is held comes back as a new one.
-    const bool is_open = until != Until::Device_Is_Back && m_session.Answers();
+    // A device that is unplugged while it is held comes back as a new one. One that was silent is prepared anew, too,
+    // but what it says before that may be a late result.
+    const bool is_open = m_session.Answers() && until != Until::Device_Is_Back;
     if (!is_open) {
         m_session.Close();
         if (m_session.Open() != Confirmed_Session::Opening::Ready)

@@ -1,6 +1,6 @@
 #include "engine/Job_Details.h"
 
-#include "engine/Confirmed_Row.h"
+#include "engine/Journal_Fields.h"
 #include "engine/Send_Cause.h"
 #include "platform/One_Line.h"
 #include "texts/Confirmed_Texts.h"
@@ -39,7 +39,7 @@ Row_Details Details_Of_State(const Job_Row_State& state)
         break;
     case Sending_State::Refused:
         details.outcome = {Row_State::Refused, Cause_Of_Field(state.words).value_or(Device_Cause{})};
-        details.reason = Reason_Of(details.outcome.cause);
+        details.reason = Refusal_Sentence(state.words);
         break;
     case Sending_State::Handing_Over: // the journal ends there
         details.outcome.state = Row_State::May_Have_Been_Sent;

@@ -10,7 +10,9 @@
 
 namespace {
 
-constexpr double Seconds_Between_Looks = 1;
+constexpr double Seconds_Between_Looks = 0.2; // so that whoever wants the device has it soon
+constexpr double Seconds_To_Finish = 2;
+constexpr qint64 Days_To_Await = 30;
 
 // The journals of the jobs that asked for reports, and their headers.
 std::vector<std::pair<QString, Job_Header>> Jobs_With_Reports(const QString& folder)
@@ -27,7 +29,35 @@ std::vector<std::pair<QString, Job_Header>> Jobs_With_Reports(const QString& fol
     return jobs;
 }
 
+// A device that answers is left as it was found; one that does not must not keep the others waiting.
+std::function<bool()> Some_Time_After(const Stop_Flag& stop)
+{
+    return [&stop, end = std::optional<double>()]() mutable {
+        if (stop != 1)
+            return false;
+        if (!end)
+            end = Now_Seconds() + Paced(Seconds_To_Finish);
+        return Now_Seconds() >= *end;
+    };
+}
+
 } // namespace
+
+std::optional<Job_Header> Job_That_Awaits_Reports(const QString& folder)
+{
+    const auto jobs = Jobs_With_Reports(folder);
+    const QDateTime oldest = Local_Time().addDays(-Days_To_Await);
+    for (auto job = jobs.rbegin(); job != jobs.rend(); ++job) {
+        if (QFileInfo(job->first).lastModified() < oldest)
+            continue;
+        const Job_Reading reading = Read_Job(job->first);
+        if (reading.record && !Report_Desk::Of(*reading.record).Is_Empty())
+            return job->second;
+    }
+    return std::nullopt;
+}
+
+Late_Reports::Late_Reports(Confirmed_Session& session, Report_Desk& desk) : m_session(session), m_desk(desk) {}
 
 Late_Reports::~Late_Reports() = default;
 
@@ -135,13 +165,15 @@ int Collect_Late_Reports(const QString& device_path, const QString& folder, doub
     if (Jobs_With_Reports(folder).empty())
         return 0;
     Confirmed_Session session(Lasting_Device_Path(device_path), calls);
+    session.Set_End(Some_Time_After(stop));
     if (session.Open() != Confirmed_Session::Opening::Ready)
         return 0;
     Report_Desk desk;
     Late_Reports late(session, desk);
-    if (late.Look_Into(folder)) {
+    if (stop == 0 && late.Look_Into(folder)) {
         session.Ask_For_Reports();
-        late.Read_Memory();
+        if (stop == 0)
+            late.Read_Memory();
         const double end = Now_Seconds() + Paced(seconds);
         while (stop == 0 && !Program_Is_Exiting() && Now_Seconds() < end && session.Listen(Seconds_Between_Looks))
             late.Take(session.Take_Reports());

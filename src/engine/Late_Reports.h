@@ -6,9 +6,11 @@
 #include <QString>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class Job_Journal;
+struct Job_Header;
 
 // Counts delivery reports, which come days later and for many jobs: finds the part among those of the job at hand and
 // of the jobs that are unfinished or kept, notes the report in that job's journal, and only when it is on the disk
@@ -20,7 +22,7 @@ public:
     using Own_Report = std::function<void(const Report_Desk::Part& part, const Handset::Status_Report& report)>;
 
     /// Both outlive it. The desk may hold parts of the job at hand.
-    Late_Reports(Confirmed_Session& session, Report_Desk& desk) : m_session(session), m_desk(desk) {}
+    Late_Reports(Confirmed_Session& session, Report_Desk& desk);
     ~Late_Reports();
     Late_Reports(const Late_Reports&) = delete;
     Late_Reports& operator=(const Late_Reports&) = delete;
@@ -66,8 +68,13 @@ private:
     int m_counted = 0;
 };
 
+/// The newest job of a folder that still awaits reports: it asked for them, parts of it have no final one, and its
+/// journal was written to within the last thirty days. Nothing where there is none. Reads whole journals; for a worker.
+std::optional<Job_Header> Job_That_Awaits_Reports(const QString& folder);
+
 /// Collects the reports that have come since the last job: those in the memory of the device at a path, and those that
 /// it says on the line within some seconds at pace 1. Does not touch the device where no job in the folder asked for
-/// reports. Returns how many were noted. Blocks, and has the device for itself meanwhile; for a worker.
+/// reports. Returns how many were noted. Blocks, and has the device for itself meanwhile; once it is
+/// asked to stop it leaves the device as soon as that has answered, or after two seconds. For a worker.
 int Collect_Late_Reports(const QString& device_path, const QString& folder, double seconds, const Stop_Flag& stop,
                          Serial_Calls& calls = Real_Serial_Calls());

@@ -87,10 +87,18 @@ Job_Journal::Opened Job_Journal::Create(const QString& folder, const Job_Start& 
     const Job_List::Written list = files.Freeze(start.id, start.options, next_row);
     if (list.trouble != Job_Trouble::None)
         return failed(list.trouble);
-    const QByteArray header = Job_Line::Whole(
-        {"J1", Job_Line::Field(start.id), Time_Of(clock), Job_Line::Field(start.imsi), Job_Line::Field(start.device),
-         QByteArray::number(list.rows), QByteArray::number(list.parts), list.sha256});
-    if (const Job_Trouble trouble = files.Finish(header, Bytes_For_A_Part * list.parts); trouble != Job_Trouble::None)
+    QByteArrayList header{"J1",
+                          Job_Line::Field(start.id),
+                          Time_Of(clock),
+                          Job_Line::Field(start.imsi),
+                          Job_Line::Field(start.device),
+                          QByteArray::number(list.rows),
+                          QByteArray::number(list.parts),
+                          list.sha256};
+    if (start.keeps_receipt)
+        header.append(Job_Words::Text_Of_Keeping(*start.keeps_receipt));
+    if (const Job_Trouble trouble = files.Finish(Job_Line::Whole(header), Bytes_For_A_Part * list.parts);
+        trouble != Job_Trouble::None)
         return failed(trouble);
     return {std::unique_ptr<Job_Journal>(new Job_Journal(files.Take_Journal(), path, list.rows, std::move(clock))),
             std::nullopt, Job_Trouble::None};

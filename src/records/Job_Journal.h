@@ -15,6 +15,7 @@ struct Job_Start
     QString imsi;   ///< of the SIM card; may be empty
     QString device; ///< its path
     Job_Options options;
+    std::optional<bool> keeps_receipt = std::nullopt; ///< see Job_Header
 };
 
 // The journal of a job that is being sent: what was begun and what came of it, so that after a crash no message is sent
@@ -55,7 +56,7 @@ public:
     /// The network has accepted it, with a reference from 0 to 255 or -1 for none, and the centre's time if that was
     /// told.
     bool Accepted(int row, int part, int reference, const QString& stamp = {});
-    /// It was not sent, because of cms:500, cme:11, error or words:...
+    /// It was not sent, because of cms:500, cme:11, error, words:... or no-prompt
     bool Refused(int row, int part, const QString& cause);
     /// The same, but it is to be tried again: after a while, or once the device's state is right.
     bool Refused_For_Now(int row, int part, const QString& cause);

@@ -5,6 +5,7 @@
 #include "records/Job_Lines.h"
 #include "records/Job_List_Format.h"
 #include "records/Job_Paths.h"
+#include "records/Job_Words.h"
 
 #include <fcntl.h>
 #include <limits>
@@ -14,7 +15,8 @@
 namespace {
 
 constexpr QByteArrayView First_Word("J1");
-constexpr qsizetype Header_Fields = 8;
+constexpr qsizetype Checksum_Field = 7;
+constexpr qsizetype Header_Fields = 8; // and one more where the header says whether the receipt is kept
 
 bool Is_Newer(QByteArrayView line)
 {
@@ -22,9 +24,11 @@ bool Is_Newer(QByteArrayView line)
     return word.startsWith('J') && word != First_Word && Job_Line::Number_Of(word.sliced(1), 1, 1'000'000);
 }
 
+// J1 <id> <time> <imsi> <device> <rows> <parts> <checksum of the list> <whether the receipt is kept, if told>
 std::optional<Job_Header> Header_Of(const Job_Line::Fields& fields)
 {
-    if (fields.size() != Header_Fields || fields[0] != First_Word)
+    const bool tells_keeping = fields.size() == Header_Fields + 1;
+    if ((fields.size() != Header_Fields && !tells_keeping) || fields[0] != First_Word)
         return std::nullopt;
     const auto id = Job_Line::Text_Of(fields[1]);
     const auto time = Job_Line::Seconds_Of(fields[2]);
@@ -32,9 +36,10 @@ std::optional<Job_Header> Header_Of(const Job_Line::Fields& fields)
     const auto device = Job_Line::Text_Of(fields[4]);
     const auto rows = Job_Line::Number_Of(fields[5], 0, std::numeric_limits<int>::max());
     const auto parts = Job_Line::Number_Of(fields[6], 0, std::numeric_limits<int>::max());
-    if (!id || !time || !imsi || !device || !rows || !parts)
+    const auto keeping = tells_keeping ? Job_Words::Keeping_Of(fields.last()) : std::nullopt;
+    if (!id || !time || !imsi || !device || !rows || !parts || tells_keeping != keeping.has_value())
         return std::nullopt;
-    return Job_Header{*id, *time, *imsi, *device, static_cast<int>(*rows), static_cast<int>(*parts)};
+    return Job_Header{*id, *time, *imsi, *device, static_cast<int>(*rows), static_cast<int>(*parts), keeping};
 }
 
 // Takes the lines of a journal in their order, and notes where the last good one ends.
@@ -80,7 +85,7 @@ private:
         // Of two files with the same journal, one would not know what was sent by means of the other.
         if (!header || header->id != Job_Id_Of(m_path))
             return Job_Trouble::Damaged;
-        const Job_List::Opened opened = Job_List::Open(Job_List_Path(m_path), header->id, fields.last());
+        const Job_List::Opened opened = Job_List::Open(Job_List_Path(m_path), header->id, fields[Checksum_Field]);
         if (!opened.list)
             return opened.trouble;
         if (opened.list->Row_Count() != header->rows || opened.list->Part_Count() != header->parts)

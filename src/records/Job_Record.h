@@ -34,10 +34,10 @@ inline constexpr char16_t Counted_By_A_Person[] = u"counted";
 struct Job_Part
 {
     Sending_State state = Sending_State::Waiting;
-    QString words;      ///< the cause of a refusal (cms:500, cme:11, error, words:...), be it one after which it is
-                        ///< Waiting again, why its state is unknown, or Counted_By_A_Person
-    int reference = -1; ///< that the network gave it; -1 for none
-    QString stamp;      ///< the centre's time, if the device told it
+    QString words; ///< the cause of a refusal (cms:500, cme:11, error, words:..., no-prompt), be it one after which
+                   ///< it is Waiting again, why its state is unknown, or Counted_By_A_Person
+    int reference = -1;        ///< that the network gave it; -1 for none
+    QString stamp;             ///< the centre's time, if the device told it
     qint64 handed_over_at = 0; ///< seconds since 1970; 0 when it never was
     int tries = 0;             ///< 255 stand for that many or more
 };
@@ -71,6 +71,8 @@ struct Job_Header
     QString device;
     int rows = 0;
     int parts = 0; ///< of the rows that are not skipped
+    /// Whether the job's files stay when it has ended; nothing where the journal does not say, as older ones do not.
+    std::optional<bool> keeps_receipt = std::nullopt;
 };
 
 struct Job_Counts

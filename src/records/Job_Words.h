@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QLatin1String>
 #include <QString>
 #include <optional>
@@ -29,5 +30,9 @@ inline constexpr QLatin1String To_Be_Tried_Again("again:");
 /// The field of a decision: what was decided, and, behind a colon, by whom or through what.
 QString Text_Of(Job_Decision decision, const QString& who);
 std::optional<Job_Decision> Decision_Of(const QString& text);
+
+/// The header's last field, where it is there: whether the job's files stay when it has ended.
+QByteArray Text_Of_Keeping(bool keeps_receipt);
+std::optional<bool> Keeping_Of(QByteArrayView field);
 
 } // namespace Job_Words

@@ -110,7 +110,7 @@ void Sending::Walk_Confirmed(Send_Order& order)
     options.folder = m_job.journal_folder;
     options.job = m_job.options;
     options.hold_seconds = m_arguments.hold_seconds > 0 ? m_arguments.hold_seconds : At_Once;
-    options.keeps_journal = m_arguments.keeps_journal;
+    options.keeps_journal = Keeps_Journal();
     options.sends_unknown = m_arguments.sends_unknown;
     if (m_job.record)
         options.resumed_path = Journal_Path();
@@ -169,8 +169,14 @@ void Sending::End_Journal() const
     Job_Journal::Opened opened = Job_Journal::Open_To_Go_On(Journal_Path());
     const bool has_ended = opened.journal && opened.journal->End() && opened.journal->Sync();
     opened.journal.reset();
-    if (has_ended && !m_arguments.keeps_journal)
+    if (has_ended && !Keeps_Journal())
         Remove_Job(Journal_Path());
+}
+
+// Wanted now, or when the job began.
+bool Sending::Keeps_Journal() const
+{
+    return m_arguments.keeps_journal || (m_job.record && m_job.record->Header().keeps_receipt.value_or(false));
 }
 
 QString Sending::Journal_Path() const

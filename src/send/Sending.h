@@ -28,6 +28,7 @@ private:
     void Run_Job(Send_Order& order, Send_Manner& manner, Job_Watcher& watcher);
     Trouble Trouble_Of(const Job_Watcher& watcher) const;
     void End_Journal() const;
+    bool Keeps_Journal() const;
     QString Journal_Path() const;
 
     const Arguments& m_arguments;

@@ -50,13 +50,22 @@ void Window_Work::Release_Input()
     m_input_hold.reset();
 }
 
-void Window_Work::Start(const char* name, std::function<void()> work)
+// Until the worker has ended, or the system has refused it.
+std::function<void()> Window_Work::Counted(std::function<void()> work)
 {
     ++*m_running;
-    Start_Worker(name, [running = m_running, work = std::move(work)] {
-        const std::shared_ptr<void> counted_out(nullptr, [&](void* /*unused*/) { --*running; });
-        work();
-    });
+    const std::shared_ptr<void> counted(nullptr, [running = m_running](void* /*unused*/) { --*running; });
+    return [counted, work = std::move(work)] { work(); };
+}
+
+void Window_Work::Start(const char* name, std::function<void()> work)
+{
+    Start_Worker(name, Counted(std::move(work)));
+}
+
+bool Window_Work::Start_If_Possible(const char* name, std::function<void()> work)
+{
+    return Start_Worker_If_Possible(name, Counted(std::move(work)));
 }
 
 void Window_Work::Await() const

@@ -32,12 +32,16 @@ public:
 
     /// Starts a worker for the window. An uncaught exception ends the work and is logged.
     void Start(const char* name, std::function<void()> work);
+    /// The same for work that had better not be done than on the interface thread. Whether it was begun.
+    bool Start_If_Possible(const char* name, std::function<void()> work);
     /// Waits, while serving them, until all workers of the window have ended.
     void Await() const;
     /// The same, and releases the window.
     void End();
 
 private:
+    std::function<void()> Counted(std::function<void()> work);
+
     QWidget& m_window;
     PleaseWait_Modeless& m_sheet;
     std::unique_ptr<Input_Hold> m_input_hold;

@@ -309,3 +309,19 @@ TEST_F(Confirmed, The_Condition_Names_Card_And_Network)
     EXPECT_EQ(condition.m_sim, Sim_State::Ready);
     EXPECT_EQ(condition.m_registration, Registration::Registered);
 }
+
+TEST_F(Confirmed, A_Wait_That_Is_Called_Off_Ends_As_If_The_Device_Were_Gone)
+{
+    Open_With({});
+    const double pace = Pace();
+    m_phone.Will_Answer("AT", "");
+    Set_Pace(0.001); // five seconds are more than an hour
+    int asked = 0;
+    m_session.Set_End([&asked] { return ++asked == 3; });
+    EXPECT_FALSE(m_session.Answers());
+    EXPECT_EQ(asked, 3);
+    m_session.Set_End({});
+    m_phone.Will_Answer("AT", "\r\nOK\r\n");
+    Set_Pace(pace);
+    EXPECT_TRUE(m_session.Answers());
+}

@@ -210,10 +210,11 @@ private:
     {
         Write("ESC");
         Write("AT");
-        if (m_retries++ < Most_Retries)
-            m_is_again = true;
-        else
-            End_Row(Row_State::Refused, "no prompt", 3);
+        m_is_again = m_retries++ < Most_Retries;
+        if (m_is_again)
+            return;
+        Note(QStringLiteral("E %1 no-prompt").arg(Part_Name(m_row, m_part)));
+        End_Row(Row_State::Refused, "no prompt", 3);
     }
 
     void Refuse_At_Once(const Cause& cause)

@@ -1,11 +1,11 @@
 #include "engine/Confirmed_Test.h"
 #include "engine/Message_Frames.h"
-#include "platform/File_Calls.h"
 #include "texts/Cause_Texts.h"
 #include "texts/Confirmed_Texts.h"
 #include "texts/Texts.h"
 
-#include <cerrno>
+#include <csignal>
+#include <sys/resource.h>
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -200,6 +200,32 @@ TEST_F(Confirmed_Job, A_Hold_That_Lasts_Too_Long_Leaves_The_Rest_Untried)
 
 namespace {
 
+// As long as it lives, no file grows beyond the size of the only journal in a folder.
+class Full_Journal
+{
+public:
+    explicit Full_Journal(const QString& folder)
+    {
+        const auto journals = QDir(folder).entryInfoList({QStringLiteral("*.journal")}, QDir::Files);
+        EXPECT_EQ(journals.size(), 1);
+        EXPECT_EQ(getrlimit(RLIMIT_FSIZE, &m_before), 0);
+        rlimit limit = m_before;
+        limit.rlim_cur = static_cast<rlim_t>(journals.value(0).size());
+        EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
+    }
+    ~Full_Journal()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_handler);
+    }
+    Full_Journal(const Full_Journal&) = delete;
+    Full_Journal& operator=(const Full_Journal&) = delete;
+
+private:
+    void (*m_handler)(int) = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit m_before{};
+};
+
 // At every try of the first message.
 void Refuse_The_First(Virtual_Phone& phone, const char* cause)
 {
@@ -282,8 +308,8 @@ TEST_F(Confirmed_Job, A_Journal_That_Fails_At_The_Last_Message_Or_At_The_End_Is_
         moods.m_pace = 20;
         moods.m_message_manners = {{Message_Manner::Kind::Delayed, 1, INT_MAX, {}, {}, 15}};
         m_phone.Set_Moods(moods);
-        std::optional<File_Calls> failing;
-        const auto fail = [&] { failing.emplace(File_Call_Plan{.fail_at = 1, .error = EIO}); };
+        std::optional<Full_Journal> failing;
+        const auto fail = [&] { failing.emplace(m_options.folder); };
         // Behind the result, the number is shown again where the network was waited for.
         m_witness.m_on_shown = [&] {
             if (!is_at_the_end && m_witness.m_shown.last() == QStringLiteral("0700900100"))
@@ -295,12 +321,11 @@ TEST_F(Confirmed_Job, A_Journal_That_Fails_At_The_Last_Message_Or_At_The_End_Is_
         };
         Run();
         ASSERT_TRUE(failing);
-        EXPECT_EQ(failing->Made().value(0), "write");
         failing.reset();
         EXPECT_THAT(m_witness.States(), ElementsAre(Row_State::Sent));
         ASSERT_EQ(m_witness.m_told.size(), 1);
         EXPECT_THAT(m_witness.m_told.first().toStdString(), testing::HasSubstr("journal cannot be written"));
-        EXPECT_EQ(m_journal_trouble, Job_Trouble::Not_Written);
+        EXPECT_NE(m_journal_trouble, Job_Trouble::None);
         ASSERT_EQ(Unfinished().size(), 1);
         EXPECT_EQ(Unfinished().first().counts.unknown, is_at_the_end ? 0 : 1);
         QDir(m_options.folder).removeRecursively();
@@ -368,6 +393,21 @@ TEST_F(Confirmed_Job, A_Device_With_Text_Mode_Alone_Gets_The_Same_Texts)
     EXPECT_THAT(m_witness.States(), ElementsAre(Row_State::Sent, Row_State::Sent));
     EXPECT_THAT(Texts(), ElementsAre("10 € [net]\nOK", "Привет"));
     EXPECT_EQ(m_phone.Inbox()[0].m_number, "+4915550001");
+}
+
+TEST_F(Confirmed_Job, A_Device_That_Refuses_What_Text_Mode_Needs_Refuses_In_The_Journal_Too)
+{
+    Phone_Moods moods;
+    moods.m_text_only = true;
+    m_phone.Set_Moods(moods);
+    m_phone.Will_Answer("AT+CSMP=*", "\r\nERROR\r\n");
+    Run();
+    EXPECT_THAT(m_witness.States(), ElementsAre(Row_State::Refused));
+    EXPECT_EQ(m_witness.m_rows[0].reason, QString(Texts::Confirmed::No_Messages));
+    EXPECT_EQ(Kinds(), "JE");
+    ASSERT_EQ(Unfinished().size(), 1);
+    EXPECT_EQ(Unfinished().first().counts.refused, 1);
+    EXPECT_EQ(Unfinished().first().counts.not_tried, 2);
 }
 
 TEST_F(Confirmed_Job, A_Pulled_Cable_After_The_End_Of_A_Message_Leaves_It_In_Doubt)

@@ -1,5 +1,7 @@
 #include "engine/Confirmed_Test.h"
+#include "engine/Job_Receipt.h"
 #include "engine/Outcome_Words.h"
+#include "texts/Confirmed_Texts.h"
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -27,6 +29,14 @@ protected:
         ASSERT_EQ(unfinished.size(), 1);
         m_options.resumed_path = unfinished.first().path;
         m_options.skipped.clear();
+    }
+
+    void Give_No_Prompt()
+    {
+        Set_Pace(2000);
+        Phone_Moods moods;
+        moods.m_no_prompt = true;
+        m_phone.Set_Moods(moods);
     }
 };
 
@@ -153,6 +163,49 @@ TEST_F(Going_On, The_Record_Of_A_Finished_Job_Stays_Readable_When_Its_Files_Are_
     ASSERT_TRUE(m_record->Row(4));
     EXPECT_EQ(m_record->Row(4)->number, QStringLiteral("0700900103"));
     EXPECT_THAT(m_witness.m_shown, testing::Contains(QStringLiteral("Waiting for delivery reports.")));
+}
+
+TEST_F(Going_On, A_Row_That_Got_No_Prompt_Was_Refused_And_Everybody_Knows)
+{
+    Give_No_Prompt();
+    m_witness.m_on_row = [this] {
+        m_phone.Set_Moods({});
+        m_stop = m_witness.m_rows.size() == 2 ? 1 : 0;
+    };
+    Run();
+    EXPECT_THAT(m_witness.States(), ElementsAre(Row_State::Refused, Row_State::Sent));
+    EXPECT_EQ(m_witness.m_rows[0].tries, 4);
+    m_witness = {};
+    const auto unfinished = Unfinished_Jobs(m_options.folder);
+    ASSERT_EQ(unfinished.size(), 1);
+    EXPECT_EQ(unfinished.first().counts.refused, 1);
+    EXPECT_EQ(unfinished.first().counts.unknown, 0);
+    const Job_Receipt receipt(*Read_Job(unfinished.first().path).record);
+    EXPECT_EQ(receipt.Count_Of(Receipt_Kind::Refused), 1);
+    EXPECT_EQ(receipt.Row(1).reason, QString(Texts::Confirmed::No_Prompt));
+    m_options.resumed_path = unfinished.first().path;
+    Run();
+    EXPECT_THAT(m_witness.States(), ElementsAre(Row_State::Refused, Row_State::Sent, Row_State::Sent, Row_State::Sent));
+    EXPECT_TRUE(m_witness.m_rows[0].is_earlier);
+    EXPECT_EQ(m_witness.m_rows[0].reason, QString(Texts::Confirmed::No_Prompt));
+    EXPECT_EQ(Texts().size(), 3U);
+    EXPECT_THAT(Unfinished_Jobs(m_options.folder), IsEmpty());
+}
+
+TEST_F(Going_On, A_Row_That_Was_Stopped_Between_Its_Tries_For_A_Prompt_Was_Not_Tried)
+{
+    Give_No_Prompt();
+    m_witness.m_on_shown = [this] {
+        m_stop = m_witness.m_shown.last() == QString(Texts::Confirmed::No_Prompt) ? 1 : 0;
+    };
+    Run();
+    EXPECT_THAT(m_witness.m_outcomes, ElementsAre(Pair(0, Row_State::Not_Tried)));
+    m_witness = {};
+    m_stop = 0;
+    m_phone.Set_Moods({});
+    m_options.resumed_path = Unfinished_Jobs(m_options.folder).first().path;
+    Run();
+    EXPECT_EQ(Texts().size(), 4U);
 }
 
 TEST_F(Going_On, A_Wait_That_Is_Over_Is_Shown_No_Longer)

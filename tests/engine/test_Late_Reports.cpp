@@ -2,10 +2,13 @@
 
 #include "engine/Confirmed_Test.h"
 #include "engine/Message_Frames.h"
+#include "support/Report_Frame.h"
 
 #include <QDeadlineTimer>
 #include <algorithm>
+#include <chrono>
 #include <csignal>
+#include <filesystem>
 #include <sys/resource.h>
 #include <thread>
 
@@ -25,17 +28,6 @@ public:
     bool Is_Asked_To_Stop() override { return false; }
     void Still_Waiting(int) override {}
 };
-
-// A report's frame (3GPP TS 23.040, 9.2.2.3): delivered to +447700900100, submitted at a time.
-std::string Report(int reference, const QDateTime& time)
-{
-    const std::string digits = time.toString(QStringLiteral("yyMMddhhmmss")).toStdString();
-    std::string swapped;
-    for (std::size_t at = 0; at < digits.size(); at += 2)
-        swapped += {digits[at + 1], digits[at]};
-    return "0006" + QByteArray::number(reference, 16).rightJustified(2, '0').toStdString() + "0C91447700091000" +
-           swapped + "00" + swapped + "0000";
-}
 
 // Jobs whose reports come when nobody waits for them any more, and lie in the phone's memory.
 class Late_Reports_Test : public Confirmed_Test
@@ -239,8 +231,8 @@ TEST_F(Late_Reports_Test, That_Nobody_Knows_Are_Left_Alone)
 TEST_F(Late_Reports_Test, On_What_Another_Program_Sent_Last_Week_Are_Left_Alone)
 {
     const QString path = Send(QStringLiteral("kept"), {m_numbers.first()}, 1);
-    const std::string last_week = Report(0, QDateTime::currentDateTimeUtc().addDays(-7));
-    const std::string yesterday = Report(0, QDateTime::currentDateTimeUtc().addDays(-1));
+    const std::string last_week = Report_Frame(0, QDateTime::currentDateTimeUtc().addDays(-7));
+    const std::string yesterday = Report_Frame(0, QDateTime::currentDateTimeUtc().addDays(-1));
     m_phone.Will_Answer("AT+CMGL=4", "\r\n+CMGL: 1,0,,25\r\n" + last_week + "\r\n\r\nOK\r\n");
     EXPECT_EQ(Collect(), 0);
     EXPECT_THAT(m_phone.Heard(), Not(Contains(StartsWith("AT+CMGD"))));
@@ -315,7 +307,7 @@ TEST_F(Late_Reports_Test, That_Come_On_The_Line_While_The_Device_Is_Idle_Are_Not
                 std::this_thread::yield();
         };
         until([&] { return Contains_Command("AT+CMGL=4"); });
-        m_phone.Says("\r\n+CDS: 25\r\n" + Report(0, QDateTime::currentDateTimeUtc()) + "\r\n");
+        m_phone.Says("\r\n+CDS: 25\r\n" + Report_Frame(0, QDateTime::currentDateTimeUtc()) + "\r\n");
         until([&] { return !Noted(path).empty(); });
         m_stop = 1;
     });
@@ -332,6 +324,41 @@ TEST_F(Late_Reports_Test, A_Device_Without_A_Memory_For_Them_Is_No_Failure)
     Add(QStringLiteral("07700900200"), QStringLiteral("Another"));
     Run();
     EXPECT_THAT(m_witness.States(), ElementsAre(Row_State::Sent));
+}
+
+TEST_F(Late_Reports_Test, Are_Awaited_By_The_Newest_Job_That_Has_Not_Got_All_Of_Them)
+{
+    const auto awaiting = [this] {
+        const auto job = Job_That_Awaits_Reports(m_options.folder);
+        return job ? job->id.toStdString() : std::string();
+    };
+    EXPECT_EQ(awaiting(), "");
+    const QString first = Send(QStringLiteral("1"), m_numbers, 2);
+    EXPECT_EQ(awaiting(), "1");
+    Send(QStringLiteral("2"), m_numbers, 4);
+    EXPECT_EQ(awaiting(), "2");
+    EXPECT_EQ(Collect(), 4);
+    EXPECT_EQ(awaiting(), "");
+    Phone_Moods moods;
+    moods.m_report_status = {{"101", 0x21}};
+    Wear(moods);
+    const QString third = Send(QStringLiteral("3"), m_numbers, 2);
+    EXPECT_EQ(Collect(), 2);
+    EXPECT_EQ(awaiting(), "3") << "one is still being tried";
+    namespace fs = std::filesystem;
+    fs::last_write_time(third.toStdString(), fs::file_time_type::clock::now() - std::chrono::hours(24 * 31));
+    EXPECT_EQ(awaiting(), "") << "nobody waits as long as that";
+}
+
+TEST_F(Late_Reports_Test, Are_Left_Where_They_Are_By_Who_Is_Asked_To_Stop)
+{
+    const QString path = Send(QStringLiteral("kept"), m_numbers, 2);
+    m_stop = 1;
+    EXPECT_EQ(Collect(), 0);
+    m_stop = 0;
+    EXPECT_THAT(Noted(path), IsEmpty());
+    Expect_In_Memory(2);
+    EXPECT_EQ(Collect(), 2);
 }
 
 TEST_F(Late_Reports_Test, Where_No_Job_Awaits_Any_The_Device_Is_Not_Asked)

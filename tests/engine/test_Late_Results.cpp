@@ -37,9 +37,16 @@ protected:
     {
         Phone_Moods moods;
         moods.m_pace = 5'000;
-        moods.m_first_reference = 50;
         moods.m_message_manners = std::move(manners);
         m_phone.Set_Moods(moods);
+    }
+
+    // To AT.
+    void Answer_From_The_Next_Part_On(const char* answer)
+    {
+        Virtual_Phone::Listeners listeners;
+        listeners.m_on_part = [this, answer](const Handset_Part&) { m_phone.Will_Answer("AT", answer); };
+        m_phone.Set_Listeners(listeners);
     }
 
     // What the journal says of parts, without times and checksums.
@@ -93,16 +100,17 @@ TEST_F(Late_Results, A_Device_That_Is_Busy_Until_Its_Result_Settles_The_Message_
         m_witness = {};
         m_phone.Forget();
         Behave({At(1, Kind::Without_Result), At(2, Kind::Without_Reference)});
-        m_phone.Set_Listeners({{}, [this](const Handset_Part&) { m_phone.Will_Answer("AT", ""); }, {}});
+        m_phone.Will_Answer("AT", "\r\nOK\r\n");
+        Answer_From_The_Next_Part_On("");
         m_witness.m_on_held = [&] {
-            m_phone.Set_Listeners({});
+            Answer_From_The_Next_Part_On("\r\nOK\r\n");
             m_phone.Will_Answer("AT", is_accepted ? "\r\n+CMGS: 77\r\n\r\nOK\r\n\r\nOK\r\n"
                                                   : "\r\n+CMS ERROR: 195\r\n\r\nOK\r\n");
         };
         Run_Patiently();
         EXPECT_THAT(m_witness.States(), ElementsAre(is_accepted ? Sent : Refused, Doubtful, Sent));
         EXPECT_EQ(Journal(), std::string("U 1 1 no-result, ") + (is_accepted ? "S 1 1 77" : "E 1 1 cms:195") +
-                                 ", U 2 1 ok-alone, S 3 1 52");
+                                 ", U 2 1 ok-alone, S 3 1 2");
         EXPECT_EQ(Texts().size(), 3U);
     }
 }
@@ -115,7 +123,7 @@ TEST_F(Late_Results, The_Answer_Of_Another_Command_Is_Nobodys_Result)
     m_witness.m_on_row = [this] { m_phone.Says("\r\n+CDSI: \"SR\",3\r\n"); };
     Run_Patiently();
     EXPECT_THAT(m_witness.States(), ElementsAre(Doubtful, Doubtful, Sent));
-    EXPECT_EQ(Journal(), "U 1 1 ok-alone, U 2 1 ok-alone, S 3 1 52");
+    EXPECT_EQ(Journal(), "U 1 1 ok-alone, U 2 1 ok-alone, S 3 1 2");
 }
 
 TEST_F(Late_Results, A_Result_After_The_Last_Message_Is_Noted_At_The_End)
@@ -123,11 +131,11 @@ TEST_F(Late_Results, A_Result_After_The_Last_Message_Is_Noted_At_The_End)
     Behave({At(3, Kind::Without_Result)});
     m_witness.m_on_row = [this] {
         if (m_witness.m_rows.size() == 3)
-            m_phone.Says("\r\n+CMGS: 52\r\n\r\nOK\r\n");
+            m_phone.Says("\r\n+CMGS: 2\r\n\r\nOK\r\n");
     };
     Run_Patiently();
     EXPECT_THAT(m_witness.States(), ElementsAre(Sent, Sent, Doubtful));
-    EXPECT_EQ(Journal(), "S 1 1 50, S 2 1 51, U 3 1 no-result, S 3 1 52, Z");
+    EXPECT_EQ(Journal(), "S 1 1 0, S 2 1 1, U 3 1 no-result, S 3 1 2, Z");
 }
 
 // clang-format off
@@ -135,39 +143,39 @@ INSTANTIATE_TEST_SUITE_P(
     Orders, Late_Result_Orders,
     testing::Values(
         Case{"Accepted_At_The_Look", {At(1, Kind::At_The_Next_Command)}, {Sent, Sent, Sent},
-             "S 1 1 50, S 2 1 51, S 3 1 52, Z", {"One", "Two", "Three"}},
+             "S 1 1 0, S 2 1 1, S 3 1 2, Z", {"One", "Two", "Three"}},
         Case{"Refused_At_The_Look", {At(1, Kind::At_The_Next_Command), At(1, Kind::Refused, "+CMS ERROR: 41")},
-             {Sent, Sent, Sent}, "E 1 1 again:cms:41, S 1 1 50, S 2 1 51, S 3 1 52, Z", {"One", "Two", "Three"}},
+             {Sent, Sent, Sent}, "E 1 1 again:cms:41, S 1 1 0, S 2 1 1, S 3 1 2, Z", {"One", "Two", "Three"}},
         Case{"Accepted_Before_The_Next_Prompt", {At(1, Kind::At_The_Next_Command, "AT+CMGS")}, {Doubtful, Sent, Sent},
-             "U 1 1 no-result, S 1 1 50, S 2 1 51, S 3 1 52, Z", {"One", "Two", "Three"}},
+             "U 1 1 no-result, S 1 1 0, S 2 1 1, S 3 1 2, Z", {"One", "Two", "Three"}},
         Case{"Refused_Before_The_Next_Prompt",
              {At(1, Kind::At_The_Next_Command, "AT+CMGS"), At(1, Kind::Refused, "+CMS ERROR: 195")},
-             {Doubtful, Sent, Sent}, "U 1 1 no-result, E 1 1 cms:195, S 2 1 50, S 3 1 51, Z", {"Two", "Three"}},
+             {Doubtful, Sent, Sent}, "U 1 1 no-result, E 1 1 cms:195, S 2 1 0, S 3 1 1, Z", {"Two", "Three"}},
         Case{"Refused_For_A_While_Before_The_Next_Prompt",
              {At(1, Kind::At_The_Next_Command, "AT+CMGS"), At(1, Kind::Refused, "+CMS ERROR: 41")},
-             {Doubtful, Sent, Sent}, "U 1 1 no-result, E 1 1 again:cms:41, S 2 1 50, S 3 1 51", {"Two", "Three"}},
+             {Doubtful, Sent, Sent}, "U 1 1 no-result, E 1 1 again:cms:41, S 2 1 0, S 3 1 1", {"Two", "Three"}},
         Case{"Accepted_Behind_The_Next_Prompt", {At(1, Kind::Behind_The_Next_Prompt)}, {Doubtful, Sent, Sent},
-             "U 1 1 no-result, S 1 1 50, S 2 1 51, S 3 1 52, Z", {"One", "Two", "Three"}},
+             "U 1 1 no-result, S 1 1 0, S 2 1 1, S 3 1 2, Z", {"One", "Two", "Three"}},
         Case{"Accepted_Behind_The_Next_Message", {At(1, Kind::Behind_The_Next_Message)}, {Doubtful, Sent, Sent},
-             "U 1 1 no-result, S 1 1 50, S 2 1 51, S 3 1 52, Z", {"One", "Two", "Three"}},
+             "U 1 1 no-result, S 1 1 0, S 2 1 1, S 3 1 2, Z", {"One", "Two", "Three"}},
         Case{"Refused_Behind_The_Next_Message",
              {At(1, Kind::Behind_The_Next_Message), At(1, Kind::Refused, "+CMS ERROR: 41")}, {Doubtful, Doubtful, Sent},
-             "U 1 1 no-result, U 2 1 not-told-apart, S 3 1 51", {"Two", "Three"}},
+             "U 1 1 no-result, U 2 1 not-told-apart, S 3 1 1", {"Two", "Three"}},
         Case{"Accepted_In_Front_Of_A_Refusal",
              {At(1, Kind::Behind_The_Next_Message), At(2, Kind::Refused, "+CMS ERROR: 41")}, {Doubtful, Doubtful, Sent},
-             "U 1 1 no-result, U 2 1 not-told-apart, S 3 1 51", {"One", "Three"}},
+             "U 1 1 no-result, U 2 1 not-told-apart, S 3 1 1", {"One", "Three"}},
         Case{"None_And_Then_A_Refusal", {At(1, Kind::Without_Result), At(2, Kind::Refused, "+CMS ERROR: 41")},
-             {Doubtful, Doubtful, Sent}, "U 1 1 no-result, U 2 1 not-told-apart, S 3 1 51", {"One", "Three"}},
+             {Doubtful, Doubtful, Sent}, "U 1 1 no-result, U 2 1 not-told-apart, S 3 1 1", {"One", "Three"}},
         Case{"None_And_Then_A_Refusal_At_Once",
              {At(1, Kind::Without_Result), At(2, Kind::Refused_At_Once, "+CMS ERROR: 500")}, {Doubtful, Refused, Sent},
-             "U 1 1 no-result, E 2 1 cms:500, S 3 1 51", {"One", "Three"}},
+             "U 1 1 no-result, E 2 1 cms:500, S 3 1 1", {"One", "Three"}},
         Case{"None_And_Then_Ok_Alone", {At(1, Kind::Without_Result), At(2, Kind::Without_Reference)},
-             {Doubtful, Doubtful, Sent}, "U 1 1 no-result, U 2 1 not-told-apart, S 3 1 52", {"One", "Two", "Three"}},
+             {Doubtful, Doubtful, Sent}, "U 1 1 no-result, U 2 1 not-told-apart, S 3 1 2", {"One", "Two", "Three"}},
         Case{"None_And_After_Another_A_Refusal", {At(1, Kind::Without_Result), At(3, Kind::Refused, "+CMS ERROR: 41")},
-             {Doubtful, Sent, Sent}, "U 1 1 no-result, S 2 1 51, E 3 1 again:cms:41, S 3 1 52", {"One", "Two", "Three"}},
+             {Doubtful, Sent, Sent}, "U 1 1 no-result, S 2 1 1, E 3 1 again:cms:41, S 3 1 2", {"One", "Two", "Three"}},
         Case{"One_Of_Two", {At(1, Kind::Without_Result), At(2, Kind::At_The_Next_Command, "AT+CMGS")},
-             {Doubtful, Doubtful, Sent}, "U 1 1 no-result, U 2 1 no-result, S 3 1 52", {"One", "Two", "Three"}},
+             {Doubtful, Doubtful, Sent}, "U 1 1 no-result, U 2 1 no-result, S 3 1 2", {"One", "Two", "Three"}},
         Case{"Each_Behind_The_Next", {At(1, Kind::Behind_The_Next_Message), At(2, Kind::Behind_The_Next_Message)},
-             {Doubtful, Sent, Sent}, "U 1 1 no-result, S 2 1 50, S 3 1 51, S 1 1 52, Z", {"One", "Two", "Three"}}),
+             {Doubtful, Sent, Sent}, "U 1 1 no-result, S 2 1 0, S 1 1 2, S 3 1 1, Z", {"One", "Two", "Three"}}),
     [](const testing::TestParamInfo<Case>& row) { return std::string(row.param.name); });
 // clang-format on

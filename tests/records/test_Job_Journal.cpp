@@ -39,6 +39,21 @@ TEST_F(Job_Journal_Test, A_Whole_Job_Is_Written_Byte_For_Byte)
     EXPECT_EQ(Names(), QStringList({Sample_Id + ".journal", Sample_Id + ".list"}));
 }
 
+TEST_F(Job_Journal_Test, The_Header_Says_Whether_The_Receipt_Is_Kept)
+{
+    for (const bool keeps_receipt : {true, false}) {
+        Job_Start start = Sample_Start();
+        start.keeps_receipt = keeps_receipt;
+        start.id = keeps_receipt ? "kept" : "not-kept";
+        ASSERT_TRUE(Job_Journal::Create(m_folder, start, Each_Of(Sample_Rows()), Sample_Clock()).journal);
+        const auto opened = Job_Journal::Open_To_Go_On(Path(start.id));
+        ASSERT_TRUE(opened.record);
+        EXPECT_EQ(opened.record->Header().keeps_receipt, keeps_receipt);
+        const QByteArray word = keeps_receipt ? " keep:yes " : " keep:no ";
+        EXPECT_EQ(Bytes_Of(Path(start.id)).lastIndexOf(word), Bytes_Of(Path(start.id)).size() - word.size() - 9);
+    }
+}
+
 TEST_F(Job_Journal_Test, Nobody_Else_Can_Read_A_Job)
 {
     const mode_t old_mask = umask(0);

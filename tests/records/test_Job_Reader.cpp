@@ -325,6 +325,24 @@ TEST_F(Job_Reader_Test, A_Header_Must_Fit_Its_File_And_Its_List)
     EXPECT_EQ(Read_Job(copy).trouble, Job_Trouble::Damaged) << "a copy would send everything again";
 }
 
+TEST_F(Job_Reader_Test, A_Header_May_Say_Whether_The_Receipt_Is_Kept)
+{
+    const QByteArrayList without = Sample_Lines.first().chopped(10).split(' ');
+    const std::tuple<QByteArrayList, Job_Trouble, std::optional<bool>> Table[] = {
+        {{}, Job_Trouble::None, std::nullopt}, // as older journals are
+        {{"keep:yes"}, Job_Trouble::None, true}, {{"keep:no"}, Job_Trouble::None, false},
+        {{"keep:"}, Job_Trouble::Damaged, {}},   {{"keep:yes", "keep:yes"}, Job_Trouble::Damaged, {}},
+        {{""}, Job_Trouble::Damaged, {}},        {{"KEEP:yes"}, Job_Trouble::Damaged, {}},
+    };
+    for (const auto& [more, trouble, keeps_receipt] : Table) {
+        Put(Job_Line::Whole(without + more));
+        const Job_Reading reading = Read_Job(Path());
+        EXPECT_EQ(reading.trouble, trouble) << more.join(' ').constData();
+        EXPECT_EQ(Read_Job_Front(Path()).has_value(), trouble == Job_Trouble::None);
+        EXPECT_EQ(reading.record ? reading.record->Header().keeps_receipt : std::nullopt, keeps_receipt);
+    }
+}
+
 TEST_F(Job_Reader_Test, A_List_That_Is_Gone_Or_Changed_Or_Newer_Is_Told)
 {
     Put(Sample_Lines);

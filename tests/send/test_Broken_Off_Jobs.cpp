@@ -16,12 +16,12 @@ class Broken_Off_Jobs : public Send_Test
 {
 protected:
     // Starts a job whose first message has been handed over and whose answer is on its way for a second.
-    std::unique_ptr<Running_Send> Start_And_Await_The_Answer(int recipients)
+    std::unique_ptr<Running_Send> Start_And_Await_The_Answer(int recipients, const QStringList& more = {})
     {
         Phone_Moods moods;
         moods.m_late_prompt_ms = 300;
         m_phone.Set_Moods(moods);
-        auto run = Start(To_So_Many(recipients));
+        auto run = Start(To_So_Many(recipients) + more);
         EXPECT_TRUE(Soon([this] { return Submissions_Heard() == 1; }));
         moods.m_answer_delay_ms = 1000;
         m_phone.Set_Moods(moods);
@@ -65,6 +65,17 @@ TEST_F(Broken_Off_Jobs, A_First_Signal_Awaits_The_Answer_Under_Way)
     EXPECT_EQ(resumed.Outcome(1).value("earlier"), true);
     EXPECT_FALSE(resumed.Outcome(2).contains("earlier"));
     EXPECT_THAT(Texts(), SizeIs(3));
+    EXPECT_THAT(Unfinished(), IsEmpty());
+}
+
+TEST_F(Broken_Off_Jobs, Are_Kept_As_Was_Said_When_They_Began)
+{
+    const auto run = Start_And_Await_The_Answer(2, {"--keep"});
+    run->Send_Signal(SIGINT);
+    run->Wait();
+    const QString journal = Journal();
+    EXPECT_EQ(Resume().status, 0);
+    EXPECT_TRUE(QFile::exists(journal));
     EXPECT_THAT(Unfinished(), IsEmpty());
 }
 

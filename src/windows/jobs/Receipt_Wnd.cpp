@@ -113,6 +113,18 @@ void Receipt_Wnd::Show_Record(const Job_Record& record)
     ++m_list_turn;
     m_kept->hide();
     Open();
+    Read_Record(record);
+}
+
+// A journal that was chosen is watched anyway.
+void Receipt_Wnd::Take_Later(const Job_Record& record)
+{
+    if (m_kept->isHidden() && m_receipt && m_receipt->Id() == record.Header().id)
+        Read_Record(record);
+}
+
+void Receipt_Wnd::Read_Record(const Job_Record& record)
+{
     Read([record] { return Reading{std::make_shared<const Job_Receipt>(record), Job_Trouble::None}; });
 }
 

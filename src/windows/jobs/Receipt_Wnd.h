@@ -32,6 +32,9 @@ public:
     /// is selected and filtered.
     void Show_Record(const Job_Record& record);
 
+    /// A later record of a job: what is shown of that job follows it, quietly.
+    void Take_Later(const Job_Record& record);
+
     /// Shows the window with a choice of the jobs whose journals are in a folder, the newest first unless another one
     /// is named, and returns. It follows the chosen journal while reports come.
     void Show_Kept(const QString& folder, const QString& chosen_path = {});
@@ -50,6 +53,7 @@ private:
     void Set_Up_Table();
     void Set_Up_Exports();
     void Open();
+    void Read_Record(const Job_Record& record);
     void Read(std::function<Reading()> read);
     void Read_Journal(const QString& path);
     void Load_Kept(const QString& chosen_path);

@@ -18,6 +18,7 @@
 #include "toolkit/Window_Work.h"
 #include "ui_CorvaneAppDelegate.h"
 #include "windows/exclusion/Exclusion_Wizard.h"
+#include "windows/main/Awaited_Reports.h"
 #include "windows/main/Composer.h"
 #include "windows/main/Confirm_Boxes.h"
 #include "windows/main/Help_Wnd.h"
@@ -56,6 +57,8 @@ CorvaneAppDelegate::CorvaneAppDelegate()
 
 CorvaneAppDelegate::~CorvaneAppDelegate()
 {
+    if (m_awaited_reports)
+        m_awaited_reports->Stop();
     The_Delegate = nullptr;
     Main_App_wnd = nullptr;
 }
@@ -107,9 +110,12 @@ bool CorvaneAppDelegate::awakeFromNib()
         [this](int count, int percent) { Show_Import_Progress(count, percent); },
         [this](Recipient_List& recipients) { Take_Over_Imported(recipients); }, [this] { Leave_Import_Unread(); },
         [this] { Finish_Import(); }, [this] { End_Import(); }});
-    m_send_runner = std::make_unique<Send_Runner>(*this, *mfc_sms_obj, *Send_Modeless::defaultInstance());
+    m_awaited_reports = std::make_unique<Awaited_Reports>(*m_work);
+    m_send_runner = std::make_unique<Send_Runner>(*this, *mfc_sms_obj, *Send_Modeless::defaultInstance(),
+                                                  [this] { return m_awaited_reports->Device_Turn(); });
     m_follow_up =
         std::make_unique<Job_Follow_Up>(*this, *m_work, *m_send_runner, *m_ui->_Job_Strip, *m_ui->Show_Receipt);
+    connect(m_awaited_reports.get(), &Awaited_Reports::Came, m_follow_up.get(), &Job_Follow_Up::Take_Reports);
     Main_App_wnd = this;
     Show_Device_In_Ticker();
     return true;
@@ -121,7 +127,7 @@ void CorvaneAppDelegate::applicationDidFinishLaunching()
     raise();
     activateWindow();
     Focus(Field::Number);
-    m_follow_up->Look_For_Unfinished();
+    m_follow_up->Look_For_Unfinished([this] { m_awaited_reports->Look(sel_port_bsd_str); });
 }
 
 void CorvaneAppDelegate::Connect_Controls()
@@ -288,6 +294,7 @@ void CorvaneAppDelegate::No_Device_Ticker_Click()
 
 void CorvaneAppDelegate::Search_All_Modem()
 {
+    std::shared_ptr<void> device = m_awaited_reports->Device_Turn();
     sel_port_name_str.clear();
     sel_port_bsd_str.clear();
     m_ui->_Device_Name_Ticker->setText(Texts::Main::No_Device);
@@ -295,7 +302,11 @@ void CorvaneAppDelegate::Search_All_Modem()
     m_ui->_NO_Device_Ticker->hide();
     Phone_List_Wnd::defaultInstance()->Open_Ph_List_Wnd();
     Show_Device_In_Ticker();
-    m_follow_up->Look_For_Unfinished();
+    device.reset();
+    m_follow_up->Look_For_Unfinished([this] {
+        if (!sel_port_bsd_str.isEmpty())
+            m_awaited_reports->Look(sel_port_bsd_str);
+    });
 }
 
 void CorvaneAppDelegate::Show_Device_In_Ticker()

@@ -10,6 +10,7 @@
 #include <optional>
 #include <vector>
 
+class Awaited_Reports;
 class Composer;
 class Confirm_Boxes;
 class Job_Follow_Up;
@@ -186,6 +187,7 @@ private:
     Row_Table_Model* m_exclusion_rows = nullptr;
     std::unique_ptr<Composer> m_composer;
     std::unique_ptr<Confirm_Boxes> m_confirm_boxes;
+    std::unique_ptr<Awaited_Reports> m_awaited_reports;
     std::unique_ptr<Send_Runner> m_send_runner;
     std::unique_ptr<Job_Follow_Up> m_follow_up;
     std::unique_ptr<Number_Import> m_import;

@@ -27,7 +27,7 @@ Job_Follow_Up::Job_Follow_Up(Main_Window& window, Window_Work& work, Send_Runner
     connect(&strip, &Unfinished_Strip::Let_Go, this, [this](const QString& path) { Let_Go(Job_Id_Of(path)); });
 }
 
-void Job_Follow_Up::Look_For_Unfinished()
+void Job_Follow_Up::Look_For_Unfinished(const std::function<void()>& and_then)
 {
     const int look = ++m_look;
     if (Program_Is_Exiting())
@@ -36,11 +36,13 @@ void Job_Follow_Up::Look_For_Unfinished()
         Show_Unfinished({});
         return;
     }
-    m_work.Start("unfinished jobs", [this, look, folder = Jobs_Folder_Path] {
+    m_work.Start("unfinished jobs", [this, look, and_then, folder = Jobs_Folder_Path] {
         const QList<Unfinished_Job> jobs = Unfinished_Jobs(folder);
         Run_On_Interface_Thread([&] {
             if (look == m_look)
                 Show_Unfinished(jobs);
+            if (and_then)
+                and_then();
         });
     });
 }
@@ -56,12 +58,32 @@ void Job_Follow_Up::Show_Unfinished(const QList<Unfinished_Job>& jobs)
     m_strip.Show_Jobs(offered);
 }
 
-void Job_Follow_Up::Job_Ended(const std::optional<Job_Record>& record)
+void Job_Follow_Up::Job_Ended(std::shared_ptr<const Job_Record> record)
 {
     if (record)
-        m_last_record = record;
-    m_receipt_button.setVisible(m_last_record.has_value());
+        m_last_record = std::move(record);
+    m_receipt_button.setVisible(m_last_record != nullptr);
     Look_For_Unfinished();
+}
+
+void Job_Follow_Up::Take_Reports()
+{
+    if (!m_last_record)
+        return;
+    const QString path = Job_Journal_Path(Jobs_Folder_Path, m_last_record->Header().id);
+    m_work.Start("reports of the last job", [this, path] {
+        Job_Reading reading = Read_Job(path);
+        if (!reading.record)
+            return;
+        const auto record = std::make_shared<const Job_Record>(std::move(*reading.record));
+        Run_On_Interface_Thread([&] {
+            if (record->Header().id != m_last_record->Header().id)
+                return;
+            m_last_record = record;
+            if (m_receipt_window)
+                m_receipt_window->Take_Later(*m_last_record);
+        });
+    });
 }
 
 Receipt_Wnd& Job_Follow_Up::Receipt_Window()
@@ -121,6 +143,6 @@ void Job_Follow_Up::Send_The_Rest(const QString& journal_path, const Job_Record&
     Confirmed_Options options;
     options.resumed_path = journal_path;
     options.job = record.Options();
-    options.keeps_journal = choices.confirm.keeps_receipt;
+    options.keeps_journal = record.Header().keeps_receipt.value_or(choices.confirm.keeps_receipt);
     m_runner.Send_Confirmed(std::move(order), options, is_the_list);
 }

@@ -7,7 +7,8 @@
 #include <QObject>
 #include <QSet>
 #include <QString>
-#include <optional>
+#include <functional>
+#include <memory>
 
 class Main_Window;
 class QPushButton;
@@ -28,10 +29,12 @@ public:
                   QPushButton& receipt_button);
 
     /// Looks through the jobs' folder, behind the window, and has the strip show those that have not ended, but for
-    /// those that were let go in this session.
-    void Look_For_Unfinished();
+    /// those that were let go in this session; does the other thing when it has looked, if there is such a folder.
+    void Look_For_Unfinished(const std::function<void()>& and_then = {});
     /// A job is over; this is its record, if it has one.
-    void Job_Ended(const std::optional<Job_Record>& record);
+    void Job_Ended(std::shared_ptr<const Job_Record> record);
+    /// Reports have come for earlier jobs: the last one's receipt tells them, too.
+    void Take_Reports();
     /// Something else than the strip is offered for a job.
     void Let_Go(const QString& id) { m_let_go.insert(id); }
 
@@ -53,7 +56,7 @@ private:
     Unfinished_Strip& m_strip;
     QPushButton& m_receipt_button;
     Receipt_Wnd* m_receipt_window = nullptr; // the main window's child
-    std::optional<Job_Record> m_last_record;
+    std::shared_ptr<const Job_Record> m_last_record;
     QSet<QString> m_let_go; // ids
     int m_look = 0;         // the latest; what an earlier one has found is out of date
 };

@@ -70,8 +70,9 @@ private:
     bool m_is_mine = false;
 };
 
-Send_Runner::Send_Runner(Main_Window& window, MFCSMS& session, Send_Progress& progress)
-    : m_window(window), m_session(session), m_progress(progress), m_outcomes(window)
+Send_Runner::Send_Runner(Main_Window& window, MFCSMS& session, Send_Progress& progress, Take_Device take_device)
+    : m_window(window), m_session(session), m_progress(progress), m_take_device(std::move(take_device)),
+      m_outcomes(window)
 {
 }
 
@@ -101,6 +102,7 @@ void Send_Runner::Start(std::shared_ptr<Claim> claim, Send_Order order, Confirme
 {
     const bool is_started = Start_Worker_If_Possible(
         "send job", [this, claim, order = std::move(order), confirmed = std::move(confirmed)]() mutable {
+            const std::shared_ptr<void> device = m_take_device ? m_take_device() : nullptr;
             Send_SMS_Thread(order, confirmed);
         });
     claim.reset();
@@ -139,7 +141,8 @@ void Send_Runner::Walk_Confirmed(Send_Order& order, const Confirmed_Options& opt
     Silent_Watcher watcher;
     Confirmed_Manner manner(order, handing_out, m_progress, watcher, Stop_SMS_Sending_Now);
     const auto hand_out = qScopeGuard([&] {
-        end.record = manner.Record();
+        if (manner.Record())
+            end.record = std::make_shared<const Job_Record>(*manner.Record());
         end.refused_kind = m_refused_kind;
     });
     Send_Job(order, manner, m_progress, *this, Stop_SMS_Sending_Now).Send_SMS_Func();

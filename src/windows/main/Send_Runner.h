@@ -5,6 +5,7 @@
 #include "engine/Send_Order.h"
 #include "windows/main/Outcome_Post.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -19,7 +20,11 @@ struct Confirmed_End;
 class Send_Runner : private Send_Listener
 {
 public:
-    Send_Runner(Main_Window& window, MFCSMS& session, Send_Progress& progress);
+    /// What take_device returns is kept from before a job uses the device until it has ended; it may wait until nobody
+    /// else does. On the job's thread.
+    using Take_Device = std::function<std::shared_ptr<void>()>;
+
+    Send_Runner(Main_Window& window, MFCSMS& session, Send_Progress& progress, Take_Device take_device = {});
 
     /// Send was pressed: checks what is to be sent, with the user's help, and starts a job, unless one is running. The
     /// main window takes no input until the progress window covers it or it is clear that nothing will be sent.
@@ -44,6 +49,7 @@ private:
     Main_Window& m_window;
     MFCSMS& m_session;
     Send_Progress& m_progress;
+    const Take_Device m_take_device;
     Outcome_Post m_outcomes;
     std::optional<Device_Cause> m_refused_kind; // by the message that the job reached last; on its thread
 };

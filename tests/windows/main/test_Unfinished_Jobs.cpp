@@ -58,6 +58,15 @@ protected:
             raise(SIGKILL);
     }
 
+    /// Once, in the first message that the phone hears from now on.
+    void Stop_In_The_First_Message()
+    {
+        Before_The_Next_Answer([this, was_pressed = std::make_shared<bool>(false)] {
+            if (Submissions() == 1 && !std::exchange(*was_pressed, true))
+                Stop_SMS_Sending_Now = 1;
+        });
+    }
+
     void Wait_For_Workers()
     {
         ASSERT_TRUE(Serve_Until([] { return sms_thread_var == 0 && Workers_Running() == 0; }, 60));
@@ -92,11 +101,7 @@ TEST_F(Unfinished_Jobs_In_The_Window, Are_Not_Spoken_Of_Where_There_Are_None)
 TEST_F(Unfinished_Jobs_In_The_Window, Are_Offered_After_A_Stop_And_Gone_On_With_In_The_Same_List)
 {
     Add_All({"111", "222", "333"});
-    bool was_pressed = false;
-    Before_The_Next_Answer([this, &was_pressed] {
-        if (Submissions() == 1 && !std::exchange(was_pressed, true))
-            Stop_SMS_Sending_Now = 1;
-    });
+    Stop_In_The_First_Message();
     Send();
     EXPECT_THAT(Shown_Outcomes(), ElementsAre(Sent, Not_Tried, Not_Tried));
     ASSERT_TRUE(Strip().isVisible());
@@ -107,6 +112,42 @@ TEST_F(Unfinished_Jobs_In_The_Window, Are_Offered_After_A_Stop_And_Gone_On_With_
     EXPECT_THAT(Shown_Outcomes(), ElementsAre(Sent, Sent, Sent));
     EXPECT_FALSE(Strip().isVisible());
     EXPECT_THAT(Files_Of_Jobs(), IsEmpty());
+}
+
+TEST_F(Unfinished_Jobs_In_The_Window, Keep_Their_Receipts_As_Was_Chosen_When_They_Began)
+{
+    struct Choice
+    {
+        bool at_the_beginning;
+        bool when_going_on;
+    };
+    for (const auto& [at_the_beginning, when_going_on] : {Choice{true, false}, Choice{false, true}}) {
+        auto& keeps = The<QCheckBox>("_Keep_Receipt_Chk");
+        keeps.setChecked(at_the_beginning);
+        Add_All({"111", "222"});
+        m_phone.Forget();
+        Stop_In_The_First_Message();
+        Send();
+        ASSERT_TRUE(Strip().isVisible());
+        keeps.setChecked(when_going_on);
+        user.Will_Press(QStringLiteral("OK"));
+        Press_In_The_Strip("Go_On_Btn");
+        EXPECT_EQ(Files_Of_Jobs().size(), at_the_beginning ? 2 : 0);
+        QDir(Jobs_Folder_Path).removeRecursively();
+        Click("Reset_Btn");
+        The<QPlainTextEdit>("_messageEdit").setPlainText("Hello");
+        Tick("_Confirm_Chk");
+    }
+}
+
+TEST_F(Unfinished_Jobs_In_The_Window, That_Do_Not_Say_So_Keep_Their_Receipts_As_The_Box_Says)
+{
+    Make_Job("20261121-101500-0001", {"111", "222"});
+    Start_Again();
+    The<QCheckBox>("_Keep_Receipt_Chk").setChecked(true);
+    user.Will_Press(QStringLiteral("OK"));
+    Press_In_The_Strip("Go_On_Btn");
+    EXPECT_EQ(Files_Of_Jobs().size(), 2);
 }
 
 TEST_F(Unfinished_Jobs_In_The_Window, Of_A_Program_That_Was_Killed_Fill_The_Empty_List_At_The_Next_Start)
@@ -175,7 +216,7 @@ TEST_F(Unfinished_Jobs_In_The_Window, Use_Their_Own_Device_Unless_Another_Is_Cho
     Make_Job("20261121-101500-0001", {"111", "222", "333"});
     const QString first = std::exchange(sel_port_bsd_str, {});
     Start_Again();
-    m_phone.Set_Listeners({[](const Handset_Part&) { Stop_SMS_Sending_Now = 1; }, {}, {}});
+    Stop_In_The_First_Message();
     Press_In_The_Strip("Go_On_Btn");
     EXPECT_THAT(Received(), ElementsAre("222: Hello"));
 
