@@ -28,7 +28,8 @@ bool Is_At_Once(Kind kind)
 
 bool Is_Delay(Kind kind)
 {
-    return kind == Kind::Delayed;
+    return kind == Kind::Delayed || kind == Kind::At_The_Next_Command || kind == Kind::Behind_The_Next_Prompt ||
+           kind == Kind::Behind_The_Next_Message;
 }
 
 bool Is_Result(Kind kind)
@@ -108,7 +109,7 @@ void Phone_Mind::Plug_In()
 {
     m_commands.Plug_In();
     m_voice.Plug_In();
-    m_late_result.clear();
+    m_late_results.clear();
     m_state = State::Command;
     m_line.clear();
     m_last_line = "AT";
@@ -184,14 +185,23 @@ void Phone_Mind::Hear(const std::string& line, bool is_too_long)
 {
     if (m_moods.m_silent || m_moods.m_echo_only)
         return;
-    if (const std::string late = std::exchange(m_late_result, {}); !late.empty())
-        m_voice.Answer(late);
+    Say_Late_Results(Kind::At_The_Next_Command, line);
     if (m_moods.m_garbage)
         m_voice.Make_Noise();
     else if (is_too_long)
         m_voice.Answer("\r\nERROR\r\n");
     else
         Obey(Normal_Command(line));
+}
+
+void Phone_Mind::Say_Late_Results(Kind kind, std::string_view command)
+{
+    std::erase_if(m_late_results, [&](const Late_Result& late) {
+        const bool is_due = late.m_manner.m_kind == kind && command.starts_with(late.m_manner.m_text);
+        if (is_due)
+            m_voice.Answer(late.m_text);
+        return is_due;
+    });
 }
 
 void Phone_Mind::Obey(const std::string& command)
@@ -233,6 +243,7 @@ void Phone_Mind::Ask_For_Message(const Command_Reply& reply)
     }
     m_state = State::Body;
     m_voice.Prompt();
+    Say_Late_Results(Kind::Behind_The_Next_Prompt);
     if (!is_draft && m_message_count == m_moods.m_stop_reading_at)
         m_stopped_at = m_message_count;
 }
@@ -276,6 +287,8 @@ void Phone_Mind::Take_Body_Byte(char byte)
 
 void Phone_Mind::End_Message()
 {
+    if (!m_request.m_is_draft)
+        Say_Late_Results(Kind::Behind_The_Next_Message);
     const bool is_text = m_commands.Settings().Is_Text_Format();
     const auto error_wanted = m_moods.m_cms_error_at.find(m_message_count);
     if (!m_request.m_is_draft && error_wanted != m_moods.m_cms_error_at.end()) {
@@ -302,8 +315,8 @@ void Phone_Mind::End_Message()
     }
     const std::string result = is_refused ? Refusal_Of(*manner) : Result_Of(Accepted(*submission.m_part), manner);
     const Message_Manner* delay = Manner_For(number, Is_Delay);
-    if (manner && manner->m_kind == Kind::At_The_Next_Command)
-        m_late_result = result;
+    if (delay && delay->m_kind != Kind::Delayed)
+        m_late_results.push_back({*delay, result});
     else if (!result.empty())
         m_voice.Answer(result, Paced_Wait(m_moods, delay ? delay->m_seconds : 0));
 }

@@ -71,12 +71,18 @@ private:
         Command,
         Body
     };
+    struct Late_Result
+    {
+        Message_Manner m_manner; // says when
+        std::string m_text;
+    };
 
     void Take_Byte(char byte);
     void Take_Command_Byte(char byte);
     void Take_Body_Byte(char byte);
     void Take_Line();
     void Hear(const std::string& line, bool is_too_long);
+    void Say_Late_Results(Message_Manner::Kind kind, std::string_view command = {});
     void Obey(const std::string& command);
     void Ask_For_Message(const Command_Reply& reply);
     std::string Refusal_At_Once();
@@ -106,7 +112,7 @@ private:
     bool m_is_too_long = false;
     bool m_skips_line_feed = false;
     std::string m_held_back;
-    std::string m_late_result; // said when the next command was heard
+    std::vector<Late_Result> m_late_results;
 
     int m_message_count = 0;   // the k of "the k-th message"
     Message_Request m_request; // of the current message

@@ -15,10 +15,12 @@ struct Message_Manner
         Refused_At_Once,     ///< m_text comes in place of the prompt
         Refused_Though_Sent, ///< the answer is m_text, but the network has the message
         Delayed,             ///< whatever the result is, it comes m_seconds later
-        At_The_Next_Command, ///< sent; the result comes when the next command was heard, before its answer
-        Without_Result,      ///< sent, and nothing is ever said about it
-        Without_Reference,   ///< sent, and answered with OK alone
-        Second_Prompt        ///< Ctrl-Z gets another prompt and then ERROR; nothing was sent
+        At_The_Next_Command, ///< the same when the next command that begins with m_text was heard, before its answer
+        Behind_The_Next_Prompt,
+        Behind_The_Next_Message, ///< in front of that one's own result
+        Without_Result,          ///< sent, and nothing is ever said about it
+        Without_Reference,       ///< sent, and answered with OK alone
+        Second_Prompt            ///< Ctrl-Z gets another prompt and then ERROR; nothing was sent
     };
     Kind m_kind = Kind::Refused;
     int m_from = 1;

@@ -85,7 +85,7 @@ At_Answer At_Conversation::Ask(const QByteArray& command, double seconds, const 
             Call_Off_Message();
             continue;
         }
-        if (Is_Late(heard.m_line))
+        if (Is_Late(heard.m_line, command == "AT" ? Late_Errors::Are_Noted : Late_Errors::May_Be_The_Commands))
             continue;
         answer.m_cause = Cause_Of_Line(QString::fromUtf8(heard.m_line));
         if (answer.m_cause || heard.m_line == "OK") {
@@ -136,54 +136,52 @@ void At_Conversation::Drop_Input(double silent_seconds)
     const double end = Now_Seconds() + Paced_Read_Timeout(Longest_Drop);
     QByteArray bytes;
     while (Now_Seconds() < end && m_line.Read(bytes, Paced_Read_Timeout(silent_seconds)) == Device_Line::Event::Bytes) {
+        m_lines.Take(bytes);
+        while (const auto line = m_lines.Next())
+            Is_Late(*line, Late_Errors::May_Be_The_Commands);
     }
     m_lines.Forget();
     m_frame_is_due.reset();
 }
 
-void At_Conversation::Expect_Late_Result(bool is_expected)
+void At_Conversation::Expect_Late_Results(bool are_expected)
 {
-    m_late_is_expected = is_expected;
+    m_are_late_expected = are_expected;
     m_late_taken.reset();
+    m_late_results.clear();
 }
 
-void At_Conversation::Hear_What_Came()
+void At_Conversation::Hear_What_Came(Late_Prompt prompt)
 {
     // Some devices never stop talking.
     for (const double end = Now_Seconds() + Longest_Hearing; Now_Seconds() < end;) {
         const Heard heard = Hear(0);
         if (heard.m_kind == Heard::Kind::Silence || heard.m_kind == Heard::Kind::Gone)
             return;
-        if (heard.Is_Prompt())
+        if (!heard.Is_Prompt())
+            Is_Late(heard.m_line, Late_Errors::Are_Noted);
+        else if (prompt == Late_Prompt::Is_Called_Off)
             Call_Off_Message();
-        else
-            Is_Late(heard.m_line);
     }
 }
 
-bool At_Conversation::Is_Late(const QByteArray& line)
+bool At_Conversation::Is_Late(const QByteArray& line, Late_Errors errors)
 {
-    if (!m_late_is_expected)
+    if (!m_are_late_expected)
         return false;
     if (const auto result = Submission_Result(line)) {
         m_late_taken = result;
         return true;
     }
     if (m_late_taken && line == "OK") {
-        Settle(*m_late_taken);
+        m_late_results.append(*std::exchange(m_late_taken, std::nullopt));
         return true;
     }
-    if (line.startsWith("+CMS ERROR")) {
-        Settle({-1, {}, Cause_Of_Line(QString::fromUtf8(line))});
+    if (errors == Late_Errors::Are_Noted && line.startsWith("+CMS ERROR")) {
+        m_late_results.append({-1, {}, Cause_Of_Line(QString::fromUtf8(line))});
         return true;
     }
     return false;
-}
-
-void At_Conversation::Settle(const Late_Result& result)
-{
-    m_late_result = result;
-    Expect_Late_Result(false);
 }
 
 // A report's frame is the next line, and nothing may stand between the two.

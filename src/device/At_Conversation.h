@@ -85,16 +85,29 @@ public:
     bool Write(const QByteArray& bytes) { return m_line.Write(bytes); }
     /// The next line or prompt that is not a report; Silence at the end, on the clock of Now_Seconds.
     Heard Hear(double end);
-    /// Reads until the device has been silent for a time, at most two seconds, both at pace 1. Nothing is kept.
+    /// Reads until the device has been silent for a time, at most two seconds, both at pace 1. Nothing is kept but late
+    /// results.
     void Drop_Input(double silent_seconds);
 
-    /// From now on a result that comes before the next message's own belongs to the last message.
-    void Expect_Late_Result(bool is_expected);
-    /// Takes in what has come since the last exchange, without waiting. A prompt that comes late is called off.
-    void Hear_What_Came();
-    std::optional<Late_Result> Take_Late_Result() { return std::exchange(m_late_result, std::nullopt); }
+    enum class Late_Errors
+    {
+        Are_Noted,
+        May_Be_The_Commands ///< a refusal of the command that was asked; only what a message alone gets is noted
+    };
+    enum class Late_Prompt
+    {
+        Is_Called_Off, ///< what came next would become a message's text
+        Is_Wanted
+    };
+
+    /// From now on, until it is said otherwise, results of earlier messages are noted that come apart from a message's
+    /// own. What was noted before and not taken is forgotten.
+    void Expect_Late_Results(bool are_expected);
+    /// Takes in what has come since the last exchange, without waiting.
+    void Hear_What_Came(Late_Prompt prompt = Late_Prompt::Is_Called_Off);
+    QList<Late_Result> Take_Late_Results() { return std::exchange(m_late_results, {}); }
     /// Whether a line belongs to an earlier message; it has been noted then.
-    bool Is_Late(const QByteArray& line);
+    bool Is_Late(const QByteArray& line, Late_Errors errors);
     /// Leaves a prompt that nobody wants: what came next would become a message's text.
     void Call_Off_Message() { Write("\x1B"); }
 
@@ -106,16 +119,15 @@ public:
 
 private:
     bool Is_Report(const QByteArray& line);
-    void Settle(const Late_Result& result);
 
     Device_Line& m_line;
     Answer_Lines m_lines;
     std::function<void(const Raw_Report&)> m_on_report;
     std::function<bool()> m_is_over;
     std::optional<QByteArray> m_frame_is_due; // the first line of a report whose frame follows
-    bool m_late_is_expected = false;
+    bool m_are_late_expected = false;
     std::optional<Late_Result> m_late_taken; // "+CMGS" has come, its OK has not
-    std::optional<Late_Result> m_late_result;
+    QList<Late_Result> m_late_results;
 };
 
 /// What "+CMGS: <mr>[,<scts>]" says (3GPP TS 27.005, 3.5.1); nothing for any other line and where no reference from 0

@@ -1,5 +1,6 @@
 #include "device/Confirmed_Session.h"
 
+#include "device/Cause_Words.h"
 #include "platform/Waiting.h"
 
 #include <algorithm>
@@ -33,10 +34,11 @@ Sim_State Sim_State_Of(const QByteArray& code)
     return code.endsWith("PIN") || code.endsWith("PIN2") ? Sim_State::Pin_Needed : Sim_State::Unknown;
 }
 
-// 3GPP TS 27.007, 9.2.1
+// 3GPP TS 27.007, 9.2.1. Some devices keep to words whatever they were asked for.
 Sim_State Sim_State_Of(const Device_Cause& cause)
 {
-    switch (cause.number) {
+    const bool is_in_words = cause.kind == Device_Cause::Kind::Words;
+    switch (is_in_words ? Numbered_Cause(cause.words).value_or(cause).number : cause.number) {
     case 10:
     case 310:
         return Sim_State::Missing;
@@ -135,7 +137,10 @@ void Confirmed_Session::Ask_Imsi()
 bool Confirmed_Session::Answers()
 {
     m_conversation.Hear_What_Came();
-    return m_conversation.Ask("AT", Usual_Answer).m_end == At_End::Ok;
+    const At_End end = m_conversation.Ask("AT", Usual_Answer).m_end;
+    if (end == At_End::Gone)
+        m_due.Clear();
+    return end == At_End::Ok;
 }
 
 Device_Condition Confirmed_Session::Condition()
@@ -197,8 +202,11 @@ bool Confirmed_Session::Set_Text_Parameters(int coding, bool asks_for_report, co
 
 std::optional<Late_Result> Confirmed_Session::Take_Late_Result()
 {
-    m_conversation.Hear_What_Came();
-    return m_conversation.Take_Late_Result();
+    auto late = m_due.Take_Settled();
+    if (late || !m_due.Are_There())
+        return late;
+    Hear_Late_Results(At_Conversation::Late_Prompt::Is_Called_Off);
+    return m_due.Take_Settled();
 }
 
 QList<Told_Report> Confirmed_Session::Take_Reports()
@@ -209,5 +217,8 @@ QList<Told_Report> Confirmed_Session::Take_Reports()
 
 bool Confirmed_Session::Listen(double seconds)
 {
-    return m_conversation.Hear(Now_Seconds() + Paced(seconds)).m_kind != At_Conversation::Heard::Kind::Gone;
+    const At_Conversation::Heard heard = m_conversation.Hear(Now_Seconds() + Paced(seconds));
+    if (heard.m_kind == At_Conversation::Heard::Kind::Line)
+        m_conversation.Is_Late(heard.m_line, At_Conversation::Late_Errors::Are_Noted);
+    return heard.m_kind != At_Conversation::Heard::Kind::Gone;
 }

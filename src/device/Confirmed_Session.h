@@ -2,6 +2,7 @@
 
 #include "device/At_Conversation.h"
 #include "device/Delivery_Reports.h"
+#include "device/Results_Due.h"
 
 #include <QString>
 
@@ -49,7 +50,8 @@ struct Part_Result
         No_Result, ///< none came in time
         Ok_Alone,  ///< OK, but no reference
         Line_Lost,
-        Broken_Off ///< the program was told to end at once
+        Broken_Off,    ///< the program was told to end at once
+        Not_Told_Apart ///< what came may be the result of an earlier part that had got none
     };
     enum class Obstacle
     {
@@ -128,7 +130,9 @@ public:
 
     Part_Result Submit(const Part_To_Send& part, Part_Watcher& watcher);
 
-    /// A result that came too late for Submit, heard since; it belongs to the last part that was Unknown.
+    /// A result that came too late for Submit, or was none but a doubt, and has been heard since, be it during a later
+    /// Submit. It is that of the last part before that one whose doubt was No_Result or Ok_Alone. What cannot be told
+    /// apart from other parts' is never given.
     std::optional<Late_Result> Take_Late_Result();
 
     /// Asks for delivery reports; whether the device takes a way of saying them.
@@ -151,7 +155,12 @@ private:
     Sim_State Ask_Sim();
     Registration Ask_Registration();
     std::optional<Part_Result> Await_Prompt(Part_Watcher& watcher);
+    std::optional<Part_Result> Judge_Refusal_At_Once(const Device_Cause& cause);
     Part_Result Await_Result(const QByteArray& body, Part_Watcher& watcher);
+    Part_Result Look_Again(const Part_Result& first);
+    std::optional<Part_Result> Await_Second_Result();
+    void Note_What_Is_Due(const Part_Result& result);
+    void Hear_Late_Results(At_Conversation::Late_Prompt prompt);
     Part_Result Leave_Prompt(Part_Result::Obstacle obstacle);
     void Keep_Distance() const;
 
@@ -163,4 +172,5 @@ private:
     QString m_maker;
     QString m_own_centre; // as +CSCA? gave it, quotes and type included
     double m_last_result = 0;
+    Results_Due m_due;
 };

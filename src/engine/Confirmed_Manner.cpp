@@ -3,6 +3,7 @@
 #include "device/Device_Paths.h"
 #include "engine/Composer_Rules.h"
 #include "engine/Confirmed_Row.h"
+#include "engine/Job_Details.h"
 #include "engine/Message_Frames.h"
 #include "engine/Outcome_Words.h"
 #include "engine/Send_Progress.h"
@@ -27,21 +28,11 @@ constexpr QLatin1String Is_Excluded("excluded");
 constexpr QLatin1String Is_Repeated("duplicate");
 constexpr QLatin1String Is_Left_Out("skipped");
 
-// What was said to wait for a better state was not the end of it.
-bool Is_Final(const QString& cause_field, int tries)
+// What stands in the way passes, or is waited for.
+bool Goes_Again(Cause_Class cause_class)
 {
-    const auto cause = Cause_Of_Field(cause_field);
-    if (!cause)
-        return true;
-    switch (Cause_Row(*cause).cause_class) {
-    case Cause_Class::Hold:
-        return false;
-    case Cause_Class::Retry:
-    case Cause_Class::Retry_Slowly:
-        return tries > static_cast<int>(Retry_Waits.size());
-    default:
-        return true;
-    }
+    return cause_class == Cause_Class::Hold || cause_class == Cause_Class::Retry ||
+           cause_class == Cause_Class::Retry_Slowly;
 }
 
 } // namespace
@@ -96,6 +87,8 @@ void Confirmed_Manner::Prepare()
 
 QString Confirmed_Manner::Completed() const
 {
+    if (m_journal && m_journal->Trouble() != Job_Trouble::None)
+        return Not_Recorded(m_journal->Trouble());
     return m_has_failed ? QString(T::Not_All_Sent) : QString(Texts::Sending::Completed);
 }
 
@@ -155,15 +148,15 @@ void Confirmed_Manner::Begin_Journal()
     else
         Open_Journal();
     if (!m_journal)
-        m_trouble = QString(T::Not_Recorded) + QLatin1String(" (") + Job_Trouble_Sentence(m_journal_trouble) +
-                    QLatin1String(").");
+        m_trouble = Not_Recorded(m_journal_trouble);
 }
 
 void Confirmed_Manner::Make_Journal()
 {
     m_job_id = m_options.id.isEmpty() ? New_Job_Id() : m_options.id;
     auto opened = Job_Journal::Create(
-        m_options.folder, {m_job_id, m_session.Imsi(), m_order.device_path, m_options.job, m_options.keeps_journal},
+        m_options.folder,
+        {m_job_id, m_session.Imsi(), Lasting_Device_Path(m_order.device_path), m_options.job, m_options.keeps_journal},
         [this, index = 0]() mutable -> std::optional<Job_Row> {
             if (index == m_order.recipients.Count())
                 return std::nullopt;
@@ -228,46 +221,21 @@ bool Confirmed_Manner::Is_Sent_Already(int index, int part) const
 }
 
 // Nothing where the row is still to be sent.
-std::optional<Row_Details> Confirmed_Manner::Settled_Before(int index, const Job_Row& row) const
+std::optional<Row_Details> Confirmed_Manner::Settled_Before(int index) const
 {
-    Row_Details details;
-    details.parts = row.parts;
     if (!m_record)
         return std::nullopt;
     const Job_Row_State state = m_record->State_Of(index + 1);
-    details.parts_sent = state.parts_sent;
-    details.references = state.references;
-    details.tries = state.tries;
-    details.is_earlier = true;
-    switch (state.state) {
-    case Sending_State::Accepted:
-        details.outcome.state = Row_State::Sent;
-        return details;
-    case Sending_State::Refused: {
-        if (!Is_Final(state.words, state.tries))
-            return std::nullopt;
-        details.outcome = {Row_State::Refused, Cause_Of_Field(state.words).value_or(Device_Cause{})};
-        details.reason = Refusal_Sentence(state.words);
-        return details;
-    }
-    case Sending_State::Handing_Over:
-    case Sending_State::Unknown:
-        if (m_options.sends_unknown)
-            return std::nullopt;
-        details.outcome.state = Row_State::May_Have_Been_Sent;
-        details.reason = T::No_Result;
-        return details;
-    case Sending_State::Skipped:
-    case Sending_State::Waiting:
-        break;
-    }
-    return std::nullopt;
+    if (state.state == Sending_State::Waiting || state.state == Sending_State::Skipped ||
+        (May_Have_Been_Sent(state.state) && m_options.sends_unknown))
+        return std::nullopt;
+    return Details_Of_State(state);
 }
 
 Send_Manner::Submission Confirmed_Manner::Submit(int index, const Recipient&)
 {
     const Job_Row row = Row_At(index);
-    if (auto earlier = Settled_Before(index, row)) {
+    if (auto earlier = Settled_Before(index)) {
         const Row_State state = earlier->outcome.state;
         m_open_rows -= state == Row_State::May_Have_Been_Sent ? 0 : 1;
         m_has_failed = m_has_failed || state != Row_State::Sent;
@@ -279,13 +247,45 @@ Send_Manner::Submission Confirmed_Manner::Submit(int index, const Recipient&)
     Row_Walk walk(*this, index, row);
     const Submission submission = walk.Run();
     Take_Reports();
+    if (m_open_case)
+        Settle_Open_Case();
     const Row_State state = walk.Details().outcome.state;
     if (state == Row_State::Sent || state == Row_State::Refused)
         --m_open_rows;
     m_has_failed = m_has_failed || state != Row_State::Sent;
-    if (state != Row_State::Not_Tried || walk.Details().parts_sent > 0)
+    if (state != Row_State::Not_Tried || walk.Details().parts_sent > 0 || walk.Was_Handed_Over())
         m_watcher.Row_Done(index, walk.Details());
     return submission;
+}
+
+void Confirmed_Manner::Note_Accepted(const Open_Case& part, int reference, const QByteArray& time)
+{
+    if (m_journal)
+        m_journal->Accepted(part.index + 1, part.part, reference, QString::fromUtf8(time));
+    if (reference >= 0 && Asks_For_Reports())
+        m_report_desk.Expect(part.number, {part.index, part.part, reference, Local_Time().toSecsSinceEpoch()});
+}
+
+// The result of a part that came too late to be told. What was said of its row stays; the journal knows better.
+void Confirmed_Manner::Settle_Open_Case()
+{
+    const auto late = m_session.Take_Late_Result();
+    if (!late)
+        return;
+    const Open_Case part = *std::exchange(m_open_case, std::nullopt);
+    const auto cause_class = late->m_cause ? Cause_Row(*late->m_cause).cause_class : Cause_Class::Counts_As_Sent;
+    if (cause_class == Cause_Class::Unknown_Outcome || cause_class == Cause_Class::Ignore)
+        return;
+    const bool is_sent = cause_class == Cause_Class::Counts_As_Sent;
+    const bool goes_again = Goes_Again(cause_class);
+    if (is_sent)
+        Note_Accepted(part, late->m_reference, late->m_time);
+    else if (m_journal && goes_again)
+        m_journal->Refused_For_Now(part.index + 1, part.part, Cause_Field(*late->m_cause));
+    else if (m_journal)
+        m_journal->Refused(part.index + 1, part.part, Cause_Field(*late->m_cause));
+    const bool is_open = is_sent ? part.part < part.parts : goes_again;
+    m_open_rows -= is_open ? 0 : 1;
 }
 
 // For reasons that the walk has not seen: the number, or what held when a job that is gone on with began.
@@ -313,7 +313,7 @@ Send_Manner::Submission Confirmed_Manner::Pass_Over(int index, const QString& wh
 
 bool Confirmed_Manner::Is_Settled(int index)
 {
-    return m_record && Settled_Before(index, Row_At(index)).has_value();
+    return Settled_Before(index).has_value();
 }
 
 void Confirmed_Manner::Skipped(int index, Skip_Reason reason)
@@ -323,6 +323,8 @@ void Confirmed_Manner::Skipped(int index, Skip_Reason reason)
     details.reason = details.outcome.cause.words;
     m_has_failed = m_has_failed || reason == Skip_Reason::Not_Filled;
     details.is_earlier = m_record.has_value();
+    if (m_record && m_journal) // a new job's list says it
+        m_journal->Skipped(index + 1, reason == Skip_Reason::Excluded ? Is_Excluded : Is_Repeated);
     --m_open_rows;
     m_watcher.Row_Done(index, details);
 }
@@ -333,17 +335,35 @@ void Confirmed_Manner::Pause_Begins()
         m_journal->Sync();
 }
 
-// No report is no news: a part without one has been sent all the same.
 void Confirmed_Manner::End_Sending()
 {
-    if (!Asks_For_Reports() || !m_trouble.isEmpty())
-        return;
+    if (Asks_For_Reports() && m_trouble.isEmpty())
+        Await_Reports();
+    End_Journal();
+}
+
+// No report is no news: a part without one has been sent all the same.
+void Confirmed_Manner::Await_Reports()
+{
     if (!m_report_desk.Is_Empty())
         m_progress.Show_Waiting(T::Waiting_For_Reports);
     const double end = Now_Seconds() + Paced(m_options.job.report_seconds);
     while (!m_report_desk.Is_Empty() && m_stop == 0 && !Program_Is_Exiting() && Now_Seconds() < end &&
            m_session.Listen(Seconds_Between_Looks))
         Take_Reports();
+}
+
+// While somebody can still be told when that fails.
+void Confirmed_Manner::End_Journal()
+{
+    if (m_open_case)
+        Settle_Open_Case();
+    if (!m_journal)
+        return;
+    m_has_ended = m_has_ended || (m_open_rows == 0 && m_journal->End());
+    m_journal->Sync();
+    if (m_journal->Trouble() != Job_Trouble::None)
+        m_journal_trouble = m_journal->Trouble();
 }
 
 void Confirmed_Manner::Take_Reports()
@@ -355,16 +375,15 @@ void Confirmed_Manner::Take_Reports()
 // A job that has nothing left to be decided or sent leaves nothing behind, unless that is wanted.
 void Confirmed_Manner::Close()
 {
+    End_Journal();
     m_session.Close();
     if (!m_journal)
         return;
     const QString path = m_journal->Path();
-    const bool has_ended = m_open_rows == 0 && m_journal->End();
-    m_journal->Sync();
     if (m_options.hands_out_record)
         m_last_record = Read_Job(path).record;
     m_journal.reset();
-    if (has_ended && !m_options.keeps_journal)
+    if (m_has_ended && !m_options.keeps_journal)
         Remove_Job(path);
 }
 

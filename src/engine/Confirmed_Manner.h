@@ -66,13 +66,26 @@ public:
 private:
     class Row_Walk;
 
+    // A part that may have been sent, of a row that was told so, and whose result may still come.
+    struct Open_Case
+    {
+        int index = 0;
+        int part = 0;
+        int parts = 1;
+        QString number;
+    };
+
     void Hold_Until_Ready();
     void Begin_Journal();
     void Make_Journal();
     void Open_Journal();
     Job_Row Row_At(int index);
-    std::optional<Row_Details> Settled_Before(int index, const Job_Row& row) const;
+    std::optional<Row_Details> Settled_Before(int index) const;
     void Begin_Reports();
+    void Settle_Open_Case();
+    void Await_Reports();
+    void End_Journal();
+    void Note_Accepted(const Open_Case& part, int reference, const QByteArray& time);
     Submission Pass_Over(int index, const QString& why);
     void Take_Reports();
     bool Asks_For_Reports() const { return m_options.job.report_seconds >= 0; }
@@ -94,11 +107,13 @@ private:
     std::optional<Job_Record> m_last_record; // at the end
     Job_Trouble m_journal_trouble = Job_Trouble::None;
     QString m_job_id;
+    std::optional<Open_Case> m_open_case; // the last
     int m_first_reference = 0;
     int m_text_coding = -1; // as last set in text mode
     bool m_has_handed_over = false;
     bool m_has_sent = false;
     bool m_sends_slowly = false;
+    bool m_has_ended = false;  // the journal says so
     bool m_has_failed = false; // at least one row was reached and not sent
     int m_open_rows = 0;       // not tried, or may have been sent
 };

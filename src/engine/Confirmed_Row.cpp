@@ -1,13 +1,12 @@
 #include "engine/Confirmed_Row.h"
 
+#include "device/Cause_Words.h"
 #include "engine/Message_Frames.h"
-#include "engine/Send_Cause_Words.h"
 #include "engine/Send_Progress.h"
 #include "platform/Waiting.h"
 #include "texts/Confirmed_Texts.h"
 
 #include <algorithm>
-#include <iterator>
 #include <utility>
 
 namespace {
@@ -19,36 +18,6 @@ namespace T = Texts::Confirmed;
 
 constexpr int Alike_In_A_Row = 3;
 constexpr double Seconds_Between_Slow_Messages = 5;
-
-struct Doubt_Row
-{
-    Doubt doubt;
-    const char* field; ///< as the journal writes it
-    Fixed_Text sentence;
-};
-
-// The first is for what has no row of its own.
-constexpr Doubt_Row Doubts[] = {{Doubt::No_Result, "no-result", T::No_Result},
-                                {Doubt::Ok_Alone, "ok-alone", T::No_Reference},
-                                {Doubt::Line_Lost, "line-lost", T::Line_Lost},
-                                {Doubt::Broken_Off, "broken-off", T::Broken_Off}};
-
-const Doubt_Row& Row_Of(Doubt doubt)
-{
-    const auto* const row =
-        std::find_if(std::begin(Doubts), std::end(Doubts), [&](const Doubt_Row& each) { return each.doubt == doubt; });
-    return row == std::end(Doubts) ? Doubts[0] : *row;
-}
-
-QString Reason_Of(Doubt doubt)
-{
-    return Row_Of(doubt).sentence;
-}
-
-QString Field_Of(Doubt doubt)
-{
-    return QLatin1String(Row_Of(doubt).field);
-}
 
 bool Is_About_What_Was_Sent(Cause_Class cause_class)
 {
@@ -95,11 +64,13 @@ Send_Manner::Submission Confirmed_Manner::Row_Walk::Run()
     auto end = Part_End::Sent;
     for (m_part = 1; m_part <= m_row.parts && end == Part_End::Sent; ++m_part) {
         if (m_manner.Is_Sent_Already(m_index, m_part)) {
-            ++m_details.parts_sent;
+            Count_Sent_Part();
             continue;
         }
-        m_tries = 0;
+        m_tries = m_manner.m_record ? m_manner.m_record->Part(m_index + 1, m_part).tries : 0;
         m_retries = 0;
+        m_vain_holds = 0;
+        m_first_hold.reset();
         do {
             end = Send_Part(parts[static_cast<std::size_t>(m_part - 1)]);
         } while (end == Part_End::Again);
@@ -116,15 +87,27 @@ Send_Manner::Submission Confirmed_Manner::Row_Walk::Run()
     return m_submission;
 }
 
+// One that an earlier walk has sent.
+void Confirmed_Manner::Row_Walk::Count_Sent_Part()
+{
+    const Job_Part part = m_manner.m_record->Part(m_index + 1, m_part);
+    ++m_details.parts_sent;
+    m_details.tries = std::max(m_details.tries, part.tries);
+    if (part.reference >= 0)
+        m_details.references.append(part.reference);
+}
+
 Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Send_Part(const Part_To_Send& part)
 {
     m_details.tries = std::max(m_details.tries, ++m_tries);
     m_was_handed_over = false;
     if (m_manner.m_session.Is_Text_Mode() && !Prepare_Text_Mode())
-        return m_manner.m_session.Answers() ? Be_Refused({}, T::No_Messages, 1) : Take_Obstacle(Obstacle::Line_Lost);
+        return Take_No_Text_Mode();
     const Part_Result result = m_manner.m_session.Submit(part, *this);
     if (std::exchange(m_is_waiting, false))
         m_manner.m_progress.Show_Current(m_row.number);
+    if (m_manner.m_open_case) // before there is another
+        m_manner.Settle_Open_Case();
     switch (result.m_kind) {
     case Part_Result::Kind::Accepted:
         return Take_Accepted(result.m_reference, result.m_time);
@@ -136,6 +119,15 @@ Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Send_Part(const
         break;
     }
     return Take_Obstacle(result.m_obstacle);
+}
+
+// The device offers text mode alone, and not what a message in it needs.
+Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Take_No_Text_Mode()
+{
+    if (!m_manner.m_session.Answers())
+        return Take_Obstacle(Obstacle::Line_Lost);
+    Note_Refusal({Device_Cause::Kind::Words, -1, T::No_Messages});
+    return Be_Refused({}, T::No_Messages, 1);
 }
 
 bool Confirmed_Manner::Row_Walk::Prepare_Text_Mode()
@@ -152,14 +144,10 @@ bool Confirmed_Manner::Row_Walk::Prepare_Text_Mode()
 
 Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Take_Accepted(int reference, const QByteArray& time)
 {
-    if (m_manner.m_journal)
-        m_manner.m_journal->Accepted(m_index + 1, m_part, reference, QString::fromUtf8(time));
+    m_manner.Note_Accepted({m_index, m_part, m_row.parts, m_row.number}, reference, time);
     ++m_details.parts_sent;
-    if (reference >= 0) {
+    if (reference >= 0)
         m_details.references.append(reference);
-        if (m_manner.Asks_For_Reports())
-            m_manner.m_report_desk.Expect(m_row.number, {m_index, m_part, reference, Local_Time().toSecsSinceEpoch()});
-    }
     return Part_End::Sent;
 }
 
@@ -178,18 +166,23 @@ Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Take_Refusal(co
     }
     if (row.cause_class == Cause_Class::Counts_As_Sent)
         return Take_Accepted(-1, {});
-    if (m_was_handed_over || row.cause_class != Cause_Class::Hold) // what waits before that is as it was
-        Note_Refusal(cause);
+    const bool is_held =
+        row.cause_class == Cause_Class::Hold && static_cast<std::size_t>(m_vain_holds) < Retry_Waits.size();
+    const bool is_passing = row.cause_class == Cause_Class::Retry || row.cause_class == Cause_Class::Retry_Slowly;
+    if (m_was_handed_over || !is_held) // what waits before that is as it was
+        Note_Refusal(cause, is_held || (is_passing && May_Be_Tried_Again()));
     switch (row.cause_class) {
     case Cause_Class::Retry_Slowly:
         m_manner.m_sends_slowly = true;
         [[fallthrough]];
     case Cause_Class::Retry:
-        if (Try_Again_Later(reason) == Part_End::Again)
-            return Part_End::Again;
+        if (const auto end = Try_Again_Later(reason))
+            return *end;
         break;
     case Cause_Class::Hold:
-        return Hold(Wait_For(cause), reason);
+        if (is_held)
+            return Hold(Wait_For(cause), reason);
+        break;
     default:
         break;
     }
@@ -198,9 +191,13 @@ Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Take_Refusal(co
 }
 
 // Also of a part that got no prompt: the row has been refused all the same.
-void Confirmed_Manner::Row_Walk::Note_Refusal(const Device_Cause& cause)
+void Confirmed_Manner::Row_Walk::Note_Refusal(const Device_Cause& cause, bool goes_again)
 {
-    if (m_manner.m_journal)
+    if (!m_manner.m_journal)
+        return;
+    if (goes_again)
+        m_manner.m_journal->Refused_For_Now(m_index + 1, m_part, Cause_Field(cause));
+    else
         m_manner.m_journal->Refused(m_index + 1, m_part, Cause_Field(cause));
 }
 
@@ -208,15 +205,31 @@ Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Take_Doubt(Doub
 {
     if (doubt == Doubt::Broken_Off)
         m_submission.next = Next::Break_Off;
-    else if (doubt != Doubt::Line_Lost && m_manner.m_session.Answers()) {
-        if (const auto late = m_manner.m_session.Take_Late_Result())
-            return late->m_cause ? Take_Refusal(*late->m_cause) : Take_Accepted(late->m_reference, late->m_time);
-        return Be_Unknown(Field_Of(doubt), Reason_Of(doubt));
-    }
-    Be_Unknown(Field_Of(doubt), Reason_Of(doubt));
-    if (m_submission.next == Next::Go_On)
-        Hold(Until::Device_Is_Back, doubt == Doubt::Line_Lost ? T::Device_Is_Gone : T::Device_Is_Silent);
-    return Part_End::Row_Is_Over;
+    const bool may_come_late = doubt == Doubt::No_Result || doubt == Doubt::Ok_Alone;
+    const bool answers = doubt != Doubt::Broken_Off && doubt != Doubt::Line_Lost && m_manner.m_session.Answers();
+    if (const auto end = may_come_late ? Take_Late_Result() : std::nullopt)
+        return *end;
+    Be_Unknown(Doubt_Field(doubt), Doubt_Sentence(doubt));
+    if (may_come_late)
+        m_manner.m_open_case = {m_index, m_part, m_row.parts, m_row.number};
+    if (answers || m_submission.next != Next::Go_On)
+        return Part_End::Row_Is_Over;
+    const bool is_back = Hold(Until::Device_Is_Back,
+                              doubt == Doubt::Line_Lost ? T::Device_Is_Gone : T::Device_Is_Silent) == Part_End::Again;
+    const auto end = is_back && may_come_late ? Take_Late_Result() : std::nullopt;
+    return end.value_or(Part_End::Row_Is_Over);
+}
+
+// What comes before the next command settles it.
+std::optional<Confirmed_Manner::Row_Walk::Part_End> Confirmed_Manner::Row_Walk::Take_Late_Result()
+{
+    const auto late = m_manner.m_session.Take_Late_Result();
+    if (!late)
+        return std::nullopt;
+    m_manner.m_open_case.reset();
+    m_details.outcome = {};
+    m_details.reason.clear();
+    return late->m_cause ? Take_Refusal(*late->m_cause) : Take_Accepted(late->m_reference, late->m_time);
 }
 
 // Nothing was sent.
@@ -228,8 +241,7 @@ Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Take_Obstacle(O
         return Part_End::Row_Is_Over;
     case Obstacle::Not_Recorded:
         m_manner.m_journal_trouble = m_manner.m_journal->Trouble();
-        Stop_Job(QString(T::Not_Recorded) + QLatin1String(" (") + Job_Trouble_Sentence(m_manner.m_journal_trouble) +
-                 QLatin1String(")."));
+        Stop_Job(Not_Recorded(m_manner.m_journal_trouble));
         return Part_End::Row_Is_Over;
     case Obstacle::Line_Lost:
         return Hold(Until::Device_Is_Back, T::Device_Is_Gone);
@@ -239,23 +251,26 @@ Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Take_Obstacle(O
     }
     if (!m_manner.m_session.Answers())
         return Hold(Until::Device_Is_Back, T::Device_Is_Silent);
-    if (Try_Again_Later(T::No_Prompt) == Part_End::Again)
-        return Part_End::Again;
-    if (m_manner.m_stop == 1 || Program_Is_Exiting())
-        return Take_Obstacle(Obstacle::Stopped);
+    if (const auto end = Try_Again_Later(T::No_Prompt))
+        return *end;
     if (m_manner.m_journal)
         m_manner.m_journal->Refused(m_index + 1, m_part, No_Prompt_Field);
     return Be_Refused({}, T::No_Prompt, Alike_In_A_Row);
 }
 
-Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Try_Again_Later(const QString& reason)
+// Nothing when it was the last try. A stop leaves the part for another time.
+std::optional<Confirmed_Manner::Row_Walk::Part_End> Confirmed_Manner::Row_Walk::Try_Again_Later(const QString& reason)
 {
-    if (static_cast<std::size_t>(m_retries) >= Retry_Waits.size())
-        return Part_End::Row_Is_Over;
+    if (!May_Be_Tried_Again())
+        return std::nullopt;
     m_manner.m_progress.Show_Waiting(reason);
     m_is_waiting = true;
     m_manner.m_stop.Wait(Retry_Waits[static_cast<std::size_t>(m_retries++)]);
-    return m_manner.m_stop == 1 || Program_Is_Exiting() ? Part_End::Row_Is_Over : Part_End::Again;
+    if (m_manner.m_stop == 0 && !Program_Is_Exiting())
+        return Part_End::Again;
+    m_submission.next = Next::Break_Off;
+    m_details.reason = reason;
+    return Part_End::Row_Is_Over;
 }
 
 // The same part goes on afterwards, if it has not been settled.
@@ -263,7 +278,17 @@ Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Hold(Until unti
 {
     if (m_manner.m_journal)
         m_manner.m_journal->Sync();
-    switch (m_manner.m_hold.Hold(until, reason)) {
+    const double now = Now_Seconds();
+    Device_Hold::Patience patience;
+    patience.held = (now - m_first_hold.value_or(now)) / Paced(1);
+    if (until == Until::Card_Is_Ready || until == Until::Network_Is_There)
+        patience.where_right = Retry_Waits[static_cast<std::size_t>(m_vain_holds)];
+    if (!m_first_hold)
+        m_first_hold = now;
+    switch (m_manner.m_hold.Hold(until, reason, patience)) {
+    case Device_Hold::End::Was_Right:
+        ++m_vain_holds;
+        [[fallthrough]];
     case Device_Hold::End::Right:
         m_manner.m_progress.Show_Current(m_row.number);
         m_manner.m_text_coding = -1; // it may be as new
@@ -318,6 +343,7 @@ bool Confirmed_Manner::Row_Walk::May_Be_Handed_Over()
     if (m_manner.m_journal && !m_manner.m_journal->Hand_Over(m_index + 1, m_part, m_row.parts))
         return false;
     m_was_handed_over = true;
+    m_has_handed_over = true;
     m_manner.m_has_handed_over = true;
     return true;
 }
@@ -333,47 +359,4 @@ void Confirmed_Manner::Row_Walk::Still_Waiting(int seconds)
     m_manner.m_progress.Show_Waiting(T::Waiting_For_Network);
     m_is_waiting = true;
     m_manner.m_watcher.Still_Waiting(seconds);
-}
-
-QString Refusal_Sentence(const QString& field)
-{
-    return field == No_Prompt_Field ? QString(T::No_Prompt) : Reason_Of(Cause_Of_Field(field).value_or(Device_Cause{}));
-}
-
-QString Doubt_Sentence(const QString& field)
-{
-    const auto* const row = std::find_if(std::begin(Doubts), std::end(Doubts),
-                                         [&](const Doubt_Row& each) { return field == QLatin1String(each.field); });
-    return row == std::end(Doubts) ? QString() : row->sentence;
-}
-
-QString Cause_Field(const Device_Cause& cause)
-{
-    switch (cause.kind) {
-    case Device_Cause::Kind::Cms:
-        return QStringLiteral("cms:%1").arg(cause.number);
-    case Device_Cause::Kind::Cme:
-        return QStringLiteral("cme:%1").arg(cause.number);
-    case Device_Cause::Kind::Words:
-        return QStringLiteral("words:") + cause.words;
-    case Device_Cause::Kind::Error:
-        break;
-    }
-    return QStringLiteral("error");
-}
-
-std::optional<Device_Cause> Cause_Of_Field(const QString& field)
-{
-    const auto numbered = [&](Device_Cause::Kind kind) {
-        return Device_Cause{kind, QStringView(field).sliced(4).toInt(), {}};
-    };
-    if (field.startsWith(u"cms:"))
-        return numbered(Device_Cause::Kind::Cms);
-    if (field.startsWith(u"cme:"))
-        return numbered(Device_Cause::Kind::Cme);
-    if (field.startsWith(u"words:"))
-        return Device_Cause{Device_Cause::Kind::Words, -1, field.sliced(6)};
-    if (field == u"error")
-        return Device_Cause{};
-    return std::nullopt;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/Confirmed_Manner.h"
+#include "engine/Journal_Fields.h"
 
 // The way of one recipient's message through a confirmed job: its parts in turn, each until it is settled.
 class Confirmed_Manner::Row_Walk : private Part_Watcher
@@ -10,6 +11,8 @@ public:
 
     Submission Run();
     const Row_Details& Details() const { return m_details; }
+    /// Whether the device was given the end of one of its parts, in this walk.
+    bool Was_Handed_Over() const { return m_has_handed_over; }
 
 private:
     enum class Part_End
@@ -19,19 +22,23 @@ private:
         Row_Is_Over
     };
 
+    void Count_Sent_Part();
     Part_End Send_Part(const Part_To_Send& part);
     Part_End Take_Accepted(int reference, const QByteArray& time);
     Part_End Take_Refusal(const Device_Cause& cause);
-    void Note_Refusal(const Device_Cause& cause);
+    void Note_Refusal(const Device_Cause& cause, bool goes_again = false);
     Part_End Take_Doubt(Part_Result::Doubt doubt);
+    std::optional<Part_End> Take_Late_Result();
     Part_End Take_Obstacle(Part_Result::Obstacle obstacle);
-    Part_End Try_Again_Later(const QString& reason);
+    std::optional<Part_End> Try_Again_Later(const QString& reason);
     Part_End Hold(Device_Hold::Until until, const QString& reason);
+    bool May_Be_Tried_Again() const { return static_cast<std::size_t>(m_retries) < Retry_Waits.size(); }
     Part_End Be_Refused(const Device_Cause& cause, const QString& reason, int stops_at);
     Part_End Be_Unknown(const QString& why, const QString& reason);
     void Count_End(const QString& end, const QString& reason, int stops_at);
     void Stop_Job(const QString& notice);
     bool Prepare_Text_Mode();
+    Part_End Take_No_Text_Mode();
 
     bool May_Be_Handed_Over() override;
     bool Is_Asked_To_Stop() override;
@@ -43,22 +50,11 @@ private:
     Row_Details m_details;
     Submission m_submission;
     int m_part = 1;
-    int m_tries = 0;   // of this part
-    int m_retries = 0; // of this part, after causes that pass by themselves
-    bool m_was_handed_over = false;
+    int m_tries = 0;                    // of this part
+    int m_retries = 0;                  // of this part, after causes that pass by themselves
+    int m_vain_holds = 0;               // of this part, for a state that the device denied
+    std::optional<double> m_first_hold; // when this part was first held
+    bool m_was_handed_over = false;     // by this try
+    bool m_has_handed_over = false;
     bool m_is_waiting = false; // and that is being shown
 };
-
-/// What the journal writes of a part that the device gave no prompt for, however often it was asked: nothing was sent.
-inline constexpr QLatin1String No_Prompt_Field("no-prompt");
-
-/// Why a part was refused, for a person, from what the journal writes.
-QString Refusal_Sentence(const QString& field);
-
-/// The cause as the journal writes it: cms:500, cme:11, error, or words: and the device's own.
-QString Cause_Field(const Device_Cause& cause);
-std::optional<Device_Cause> Cause_Of_Field(const QString& field);
-
-/// Why there is no telling, for a person, from what the journal writes about a part without a result; empty where that
-/// is something else.
-QString Doubt_Sentence(const QString& field);

@@ -5,6 +5,8 @@
 #include "engine/Send_Progress.h"
 #include "platform/Waiting.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr double Seconds_Between_Looks = 2;
@@ -19,13 +21,13 @@ Device_Hold::Device_Hold(Confirmed_Session& session, Send_Progress& progress, Co
 {
 }
 
-Device_Hold::End Device_Hold::Hold(Until until, const QString& reason)
+Device_Hold::End Device_Hold::Hold(Until until, const QString& reason, const Patience& patience)
 {
     const double begin = Now_Seconds();
     double told_after = until == Until::Device_Is_Back ? Seconds_To_Come_Back : 0;
     m_progress.Show_Waiting(reason);
     bool is_told = false;
-    for (;;) {
+    for (bool is_first = true;; is_first = false) {
         const double waited = (Now_Seconds() - begin) / Paced(1);
         if (m_stop == 1 || Program_Is_Exiting())
             return End::Stopped;
@@ -34,22 +36,34 @@ Device_Hold::End Device_Hold::Hold(Until until, const QString& reason)
             is_told = true;
         }
         if (Is_Right(until, waited)) {
-            if (is_told)
+            const End end = is_first && patience.where_right > 0 ? Wait_Where_Right(patience) : End::Right;
+            if (is_told && (end == End::Right || end == End::Was_Right))
                 m_watcher.Goes_On();
-            return End::Right;
+            return end;
         }
-        if (m_limit > 0 && waited >= told_after + m_limit)
+        if (m_limit > 0 && patience.held + waited >= told_after + m_limit)
             return End::Too_Long;
         m_stop.Wait(Seconds_Between_Looks);
     }
+}
+
+// The device says that it could send, and has just said that it cannot.
+Device_Hold::End Device_Hold::Wait_Where_Right(const Patience& patience)
+{
+    const bool is_limited = m_limit > 0 && patience.held + patience.where_right > m_limit;
+    m_stop.Wait(is_limited ? std::max(m_limit - patience.held, 0.0) : patience.where_right);
+    if (m_stop == 1 || Program_Is_Exiting())
+        return End::Stopped;
+    return is_limited ? End::Too_Long : End::Was_Right;
 }
 
 bool Device_Hold::Is_Right(Until until, double waited)
 {
     if (until == Until::Some_Time_Has_Passed)
         return waited >= Seconds_For_A_Memory;
-    // A device that is unplugged while it is held comes back as a new one.
-    const bool is_open = until != Until::Device_Is_Back && m_session.Answers();
+    // A device that is unplugged while it is held comes back as a new one. One that was silent is prepared anew, too,
+    // but what it says before that may be a late result.
+    const bool is_open = m_session.Answers() && until != Until::Device_Is_Back;
     if (!is_open) {
         m_session.Close();
         if (m_session.Open() != Confirmed_Session::Opening::Ready)

@@ -23,17 +23,27 @@ public:
     enum class End
     {
         Right,
+        Was_Right, ///< at the first look, whatever was said: it has waited all the same
         Stopped,
         Too_Long
+    };
+
+    /// What a hold of a message that was held before goes by, in seconds at pace 1.
+    struct Patience
+    {
+        double held = 0;        ///< for so long already, which counts against the limit
+        double where_right = 0; ///< how long it waits where the device says at once that nothing is wrong
     };
 
     /// All outlive it. limit is in seconds at pace 1; 0 for none.
     Device_Hold(Confirmed_Session& session, Send_Progress& progress, Confirmed_Watcher& watcher, const Stop_Flag& stop,
                 double limit);
 
-    End Hold(Until until, const QString& reason);
+    End Hold(Until until, const QString& reason, const Patience& patience);
+    End Hold(Until until, const QString& reason) { return Hold(until, reason, Patience()); }
 
 private:
+    End Wait_Where_Right(const Patience& patience);
     bool Is_Right(Until until, double waited);
 
     Confirmed_Session& m_session;

@@ -1,6 +1,6 @@
 #include "engine/Job_Details.h"
 
-#include "engine/Confirmed_Row.h"
+#include "engine/Journal_Fields.h"
 #include "engine/Send_Cause.h"
 #include "platform/One_Line.h"
 #include "texts/Confirmed_Texts.h"

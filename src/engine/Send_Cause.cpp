@@ -1,6 +1,6 @@
 #include "engine/Send_Cause.h"
 
-#include "engine/Send_Cause_Words.h"
+#include "device/Cause_Words.h"
 #include "platform/One_Line.h"
 #include "texts/Cause_Texts.h"
 

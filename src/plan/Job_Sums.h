@@ -1,8 +1,7 @@
 #pragma once
 
 #include "engine/Send_Order.h"
-#include "plan/Plan_Manner.h"
-#include "plan/Planned_Row.h"
+#include "plan/Job_Plan.h"
 
 #include <functional>
 
@@ -16,11 +15,10 @@ struct Job_Sums
     bool operator==(const Job_Sums&) const = default;
 };
 
-/// The row that the job makes of the recipient at an index, and whether it sends it. Constant time.
-Planned_Row Row_Of_Order(const Send_Order& order, const Plan_Manner& manner, int index);
+/// The plan of an order, as the job that it becomes will judge it. With rows missing where is_stopped answered yes.
+Job_Plan Plan_Of(const Send_Order& order, const Plan_Manner& manner, const std::function<bool()>& is_stopped = {});
 
-/// Ends early, with sums of no use, as soon as is_stopped, asked again after some hundred rows, answers yes.
-Job_Sums Sums_Of(const Send_Order& order, const Plan_Manner& manner, const std::function<bool()>& is_stopped = {});
+Job_Sums Sums_Of(const Job_Plan& plan);
 
 /// How long that takes, in seconds as they pass, where a part takes so many of them.
 double Seconds_For(const Job_Sums& sums, const Plan_Manner& manner, double seconds_for_a_part);

@@ -155,6 +155,11 @@ bool Job_Journal::Refused(int row, int part, const QString& cause)
                               : Die(Job_Trouble::Not_Written);
 }
 
+bool Job_Journal::Refused_For_Now(int row, int part, const QString& cause)
+{
+    return Refused(row, part, Job_Words::To_Be_Tried_Again + cause);
+}
+
 bool Job_Journal::Unknown(int row, int part, const QString& why)
 {
     return Is_Part(row, part) ? Append({Word(Job_Words::Unknown), QByteArray::number(row), QByteArray::number(part),

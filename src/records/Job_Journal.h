@@ -58,6 +58,8 @@ public:
     bool Accepted(int row, int part, int reference, const QString& stamp = {});
     /// It was not sent, because of cms:500, cme:11, error, words:... or no-prompt
     bool Refused(int row, int part, const QString& cause);
+    /// The same, but it is to be tried again: after a while, or once the device's state is right.
+    bool Refused_For_Now(int row, int part, const QString& cause);
     /// There is no telling whether it was sent.
     bool Unknown(int row, int part, const QString& why);
     /// The row will not be sent.

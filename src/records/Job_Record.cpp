@@ -77,7 +77,7 @@ bool Job_Record::Take_Accepted(const Job_Line::Fields& fields)
     return true;
 }
 
-// E <row> <part> <cause> <time> and U <row> <part> <why> <time>
+// E <row> <part> <cause, with "again:" before it where the part is tried again> <time> and U <row> <part> <why> <time>
 bool Job_Record::Take_Not_Accepted(const Job_Line::Fields& fields, Sending_State state)
 {
     Stored_Part* const part = Part_In(fields);
@@ -89,9 +89,10 @@ bool Job_Record::Take_Not_Accepted(const Job_Line::Fields& fields, Sending_State
     // One more try that came to nothing before it was handed over, not a late word about one that was.
     if (!May_Have_Been_Sent(part->state))
         part->tries = static_cast<quint8>(std::min(part->tries + 1, Most_Tries));
-    part->state = state;
+    const bool goes_again = state == Sending_State::Refused && words->startsWith(Job_Words::To_Be_Tried_Again);
+    part->state = goes_again ? Sending_State::Waiting : state;
     part->reference = -1;
-    part->words = Text_Index(*words);
+    part->words = Text_Index(goes_again ? words->sliced(Job_Words::To_Be_Tried_Again.size()) : *words);
     part->stamp = 0;
     return true;
 }
@@ -137,9 +138,13 @@ bool Job_Record::Take_Decision(const Job_Line::Fields& fields)
     if (row == 0 || !decision)
         return false;
     const bool goes_again = *decision == Job_Decision::Send_Again;
+    if (!May_Have_Been_Sent(Worst_Of(row)))
+        return true;
     Stored_Part* const first = m_parts.data() + m_list->Parts_Before(row);
     for (Stored_Part* part = first; part != first + Parts_Of(row); ++part) {
-        if (!May_Have_Been_Sent(part->state))
+        const bool is_open =
+            part->state == Sending_State::Waiting; // counted with those before it: alone it makes no sense
+        if (!May_Have_Been_Sent(part->state) && (goes_again || !is_open))
             continue;
         part->state = goes_again ? Sending_State::Waiting : Sending_State::Accepted;
         part->words = goes_again ? 0 : Text_Index(QString::fromUtf16(Counted_By_A_Person));
@@ -200,7 +205,8 @@ Job_Row_State Job_Record::State_Of(int row) const
     state.parts = Parts_Of(row);
     for (int number = 1; number <= state.parts; ++number) {
         const Job_Part part = Part(row, number);
-        state.parts_sent += part.state == Sending_State::Accepted;
+        const bool was_never_tried = part.tries == 0 && !part.words.isEmpty(); // counted with the others
+        state.parts_sent += part.state == Sending_State::Accepted && !was_never_tried;
         state.tries = std::max(state.tries, part.tries);
         if (part.reference >= 0)
             state.references.append(part.reference);

@@ -34,8 +34,8 @@ inline constexpr char16_t Counted_By_A_Person[] = u"counted";
 struct Job_Part
 {
     Sending_State state = Sending_State::Waiting;
-    QString words; ///< the cause of a refusal (cms:500, cme:11, error, words:..., no-prompt), why its state is unknown,
-                   ///< or Counted_By_A_Person
+    QString words; ///< the cause of a refusal (cms:500, cme:11, error, words:..., no-prompt), be it one after which
+                   ///< it is Waiting again, why its state is unknown, or Counted_By_A_Person
     int reference = -1;        ///< that the network gave it; -1 for none
     QString stamp;             ///< the centre's time, if the device told it
     qint64 handed_over_at = 0; ///< seconds since 1970; 0 when it never was

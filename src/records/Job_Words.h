@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QLatin1String>
 #include <QString>
 #include <optional>
 
@@ -22,6 +23,9 @@ constexpr char Skipped = 'K';
 constexpr char Report = 'D';
 constexpr char Decision = 'R';
 constexpr char End = 'Z';
+
+/// Stands in front of the cause of a refusal after which the part is to be tried again.
+inline constexpr QLatin1String To_Be_Tried_Again("again:");
 
 /// The field of a decision: what was decided, and, behind a colon, by whom or through what.
 QString Text_Of(Job_Decision decision, const QString& who);

@@ -62,6 +62,12 @@ void Job_Watcher::Written(int index, bool is_whole, const QString& reason)
     m_book.Settle_Written(Position_Of(index), is_whole, reason);
 }
 
+void Job_Watcher::Cut_Off(int index)
+{
+    m_has_cut_one_off = true;
+    Written(index, false, QStringLiteral("The program was stopped before the message was whole."));
+}
+
 Told_Fixed_Waits::Told_Fixed_Waits(const Send_Order& order, MFCSMS& session, Job_Watcher& watcher)
     : Fixed_Wait_Manner(order, session), m_is_unicode(order.choices.unicode), m_session(session), m_watcher(watcher)
 {
@@ -78,7 +84,7 @@ Send_Manner::Submission Told_Fixed_Waits::Submit(int index, const Recipient& rec
     if (submission.next != Next::Go_On)
         m_watcher.Written(index, false, QStringLiteral("The line to the device failed."));
     else if (is_asked_to_stop && (may_be_cut || Program_Is_Exiting()))
-        m_watcher.Written(index, false, QStringLiteral("The program was stopped before the message was whole."));
+        m_watcher.Cut_Off(index);
     else
         m_watcher.Written(index, true, {});
     return submission;

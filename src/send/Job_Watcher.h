@@ -39,6 +39,9 @@ public:
 
     /// A message that fixed waits handed over, or part of one.
     void Written(int index, bool is_whole, const QString& reason);
+    /// The same of one that a stop has cut.
+    void Cut_Off(int index);
+    bool Has_Cut_One_Off() const { return m_has_cut_one_off; }
 
     /// What the job said last.
     const QString& Told() const { return m_told; }
@@ -60,6 +63,7 @@ private:
     QString m_place;
     int m_reached = -1;
     bool m_does_open = false;
+    bool m_has_cut_one_off = false;
 };
 
 // Fixed waits that say whether a message was handed over whole.

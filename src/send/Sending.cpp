@@ -53,16 +53,16 @@ int Sending::Run(const std::function<void(const Trouble&)>& complain)
     End_Facts end = m_book.Counts();
     end.seconds = std::llround(Now_Seconds() - begin);
     m_printer.End(end);
-    const bool is_stopped = m_signals.Is_Asked() && (end.not_tried > 0 || Program_Is_Exiting());
+    const bool is_stopped = m_signals.Is_Asked() && (end.not_tried > 0 || m_has_cut_one_off || Program_Is_Exiting());
     if (is_stopped)
         complain({QStringLiteral("stopped"), QStringLiteral("by a signal; %1 not tried").arg(end.not_tried)});
-    else if (m_trouble && end.not_tried > 0)
+    else if (m_trouble && (end.not_tried > 0 || m_has_lost_its_journal))
         complain(m_trouble);
     if (is_stopped)
         return Exit_Status::Stopped;
-    if (m_trouble && end.not_tried > 0 && !m_book.Has_News())
+    if (m_trouble && end.not_tried > 0 && !m_book.Has_News() && !m_has_handed_over)
         return m_trouble.status;
-    return m_book.Is_All_Well() ? Exit_Status::Done : Exit_Status::Not_All_Sent;
+    return m_book.Is_All_Well() && !m_has_lost_its_journal ? Exit_Status::Done : Exit_Status::Not_All_Sent;
 }
 
 bool Sending::Has_Something_To_Send() const
@@ -70,8 +70,7 @@ bool Sending::Has_Something_To_Send() const
     if (!m_job.record)
         return m_job.Parts_To_Send() > 0;
     const Job_Counts counts = m_job.record->Counts();
-    return !m_job.record->Has_Ended() &&
-           counts.not_tried + counts.refused + (m_arguments.sends_unknown ? counts.unknown : 0) > 0;
+    return !m_job.record->Has_Ended() && counts.not_tried + (m_arguments.sends_unknown ? counts.unknown : 0) > 0;
 }
 
 void Sending::Choose()
@@ -121,7 +120,9 @@ void Sending::Walk_Confirmed(Send_Order& order)
     Job_Watcher watcher(m_job, m_positions, m_book, m_printer, m_signals);
     Confirmed_Manner manner(order, options, watcher, watcher, Stop_SMS_Sending_Now);
     Run_Job(order, manner, watcher);
-    if (manner.Journal_Trouble() != Job_Trouble::None)
+    m_has_handed_over = manner.Has_Handed_Over();
+    m_has_lost_its_journal = manner.Journal_Trouble() != Job_Trouble::None;
+    if (m_has_lost_its_journal)
         m_trouble = {QStringLiteral("the job's journal cannot be kept"),
                      Job_Trouble_Sentence(manner.Journal_Trouble())};
 }
@@ -132,6 +133,7 @@ void Sending::Walk_With_Fixed_Waits(Send_Order& order)
     Job_Watcher watcher(m_job, m_positions, m_book, m_printer, m_signals);
     Told_Fixed_Waits manner(order, session, watcher);
     Run_Job(order, manner, watcher);
+    m_has_cut_one_off = watcher.Has_Cut_One_Off();
 }
 
 void Sending::Run_Job(Send_Order& order, Send_Manner& manner, Job_Watcher& watcher)

@@ -38,5 +38,8 @@ private:
     Outcome_Book m_book;
     std::vector<int> m_positions; // of the rows that the walk goes over
     QString m_device;
-    Trouble m_trouble; // why the job did not reach its end
+    Trouble m_trouble;              // why the job did not reach its end
+    bool m_has_handed_over = false; // a part, at any time
+    bool m_has_cut_one_off = false; // a message, by a stop
+    bool m_has_lost_its_journal = false;
 };

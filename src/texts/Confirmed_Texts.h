@@ -25,6 +25,7 @@ inline constexpr Fixed_Text Plain_May_Pass{"Those not taken may pass as normal t
 inline constexpr Fixed_Text No_Prompt{"The device gave no prompt."};
 inline constexpr Fixed_Text No_Result{"The device gave no result in time."};
 inline constexpr Fixed_Text No_Reference{"The device said OK but gave no reference."};
+inline constexpr Fixed_Text Not_Told_Apart{"The device's result may be that of an earlier message."};
 inline constexpr Fixed_Text Line_Lost{"The device was gone before its result."};
 inline constexpr Fixed_Text Broken_Off{"The program ended before the result."};
 inline constexpr Fixed_Text Counted_As_Sent{"Somebody has counted it as sent."};

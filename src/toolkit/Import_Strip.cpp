@@ -25,7 +25,7 @@ QString Import_In_Words(const Import_Report& report)
 
 Import_Strip::Import_Strip(QWidget* parent)
     : Quiet_Strip("Import_Strip", parent), m_words(new Status_Label),
-      m_show(Made_Button("Show_Unused_Btn", tr("Show ..."), tr("Shows the lines that were not used, and why"))),
+      m_show(Made_Button("Show_Unused_Btn", tr("Show ..."), tr("Shows what was not used, and why"))),
       m_dismiss(Made_Button("Dismiss_Import_Btn", tr("Dismiss"), tr("Takes this notice away")))
 {
     setAccessibleName(tr("What the last import did"));
@@ -62,10 +62,21 @@ void Import_Strip::Show_Report(const Import_Report& report)
     if (m_lines)
         m_lines->close();
     m_report = report;
+    m_look = nullptr;
     m_has_report = true;
     m_show->setVisible(!m_report.Noted().isEmpty());
     show();
     m_words->Say(Import_In_Words(m_report));
+}
+
+void Import_Strip::Show_News(const QString& words, std::function<void()> look)
+{
+    Forget();
+    m_look = std::move(look);
+    m_has_report = true;
+    m_show->setVisible(m_look != nullptr);
+    show();
+    m_words->Say(words);
 }
 
 void Import_Strip::Forget()
@@ -73,10 +84,15 @@ void Import_Strip::Forget()
     m_has_report = false;
     hide();
     m_report = {};
+    m_look = nullptr;
 }
 
 void Import_Strip::Show_Unused_Btn()
 {
+    if (m_look) {
+        m_look();
+        return;
+    }
     if (!m_lines)
         m_lines = new Unused_Lines_Wnd(window());
     m_lines->Show_Report(m_report);

@@ -4,6 +4,7 @@
 #include "toolkit/Quiet_Strip.h"
 
 #include <QPointer>
+#include <functional>
 
 class Status_Label;
 class Unused_Lines_Wnd;
@@ -28,6 +29,8 @@ public:
 
     /// Says what an import did, in the place of what was said before.
     void Show_Report(const Import_Report& report);
+    /// Says something else about rows, in the same place; looks at them when it is asked to, if that is given.
+    void Show_News(const QString& words, std::function<void()> look);
     /// Nothing is said any more, and no lines are shown.
     void Forget();
 
@@ -45,5 +48,6 @@ private:
     QPushButton* m_dismiss;
     QPointer<Unused_Lines_Wnd> m_lines; // over the window, once it has been asked for
     Import_Report m_report;
+    std::function<void()> m_look; // at the rows of news
     bool m_has_report = false;
 };

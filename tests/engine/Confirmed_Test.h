@@ -99,6 +99,7 @@ protected:
         m_job = manner.Job_Id();
         m_has_handed_over = manner.Has_Handed_Over();
         m_record = manner.Record();
+        m_journal_trouble = manner.Journal_Trouble();
     }
 
     /// What the handset shows, in the order of arrival.
@@ -119,4 +120,5 @@ protected:
     QString m_job;
     bool m_has_handed_over = false;
     std::optional<Job_Record> m_record;
+    Job_Trouble m_journal_trouble = Job_Trouble::None;
 };

@@ -158,6 +158,7 @@ private:
         m_tries = 0;
         for (m_part = 1; m_part <= Row().parts && m_state == Row_State::Sent; ++m_part) {
             m_retries = 0;
+            m_vain_holds = 0;
             m_attempt = 0;
             do {
                 m_is_again = false;
@@ -220,12 +221,15 @@ private:
     {
         Add_Manner(Message_Manner::Kind::Refused_At_Once, cause.said);
         const bool is_plain = cause.deal == Deal::Doubt || cause.deal == Deal::Counts; // nothing has gone out
+        if (m_is_result_due)
+            Write("ESC"); // the prompt may come after what looks like a refusal
         Refuse(is_plain ? Cause{cause.said, cause.field, Deal::Pass_Over} : cause, false);
     }
 
     void Pull_At_The_Prompt()
     {
         m_expected.moods.m_hang_up_at = m_submissions;
+        m_is_result_due = false;
         Come_Back();
         m_is_again = true;
     }
@@ -252,8 +256,39 @@ private:
         End_Attempt(kind, cause, reference);
     }
 
+    // While a result is due that has not come, a refusal may be that one.
+    bool Is_Doubtful(Kind kind) const
+    {
+        return m_is_result_due && (kind == Kind::Refused || kind == Kind::Refused_Though_Sent ||
+                                   kind == Kind::Second_Prompt || kind == Kind::Without_Reference);
+    }
+
+    void Add_Doubtful_Manner(Kind kind, const Cause& cause)
+    {
+        switch (kind) {
+        case Kind::Refused:
+            Add_Manner(Message_Manner::Kind::Refused, cause.said);
+            break;
+        case Kind::Refused_Though_Sent:
+            Add_Manner(Message_Manner::Kind::Refused_Though_Sent, cause.said);
+            break;
+        case Kind::Second_Prompt:
+            Add_Manner(Message_Manner::Kind::Second_Prompt);
+            break;
+        default:
+            Add_Manner(Message_Manner::Kind::Without_Reference);
+            break;
+        }
+    }
+
     void End_Attempt(Kind kind, const Cause& cause, int reference)
     {
+        if (Is_Doubtful(kind)) {
+            Add_Doubtful_Manner(kind, cause);
+            Write("AT");
+            Leave_In_Doubt("not-told-apart");
+            return;
+        }
         switch (kind) {
         case Kind::Refused:
         case Kind::Refused_Though_Sent:
@@ -275,16 +310,22 @@ private:
             Add_Manner(Message_Manner::Kind::Without_Result);
             Write("AT");
             Leave_In_Doubt("no-result");
+            m_is_result_due = true;
             return;
         case Kind::Pulled_In_The_Body:
             m_expected.moods.m_hang_up_in_body_at = m_submissions;
             Leave_In_Doubt("line-lost");
+            m_is_result_due = false;
             if (!m_is_over)
                 Come_Back();
             return;
         case Kind::Late:
             Add_Manner(Message_Manner::Kind::At_The_Next_Command);
             Write("AT");
+            if (m_is_result_due) { // and may be the earlier one
+                Leave_In_Doubt("no-result");
+                return;
+            }
             break;
         case Kind::Slow:
             Add_Manner(Message_Manner::Kind::Delayed);
@@ -295,8 +336,10 @@ private:
         Be_Sent(QString::number(reference));
     }
 
+    // Devices answer in order: what an earlier message has not been told by now it never will be.
     void Be_Sent(const QString& reference)
     {
+        m_is_result_due = false;
         Note(QStringLiteral("S %1 %2").arg(Part_Name(m_row, m_part), reference));
         ++m_parts_sent;
     }
@@ -320,24 +363,19 @@ private:
         }
         const bool waits =
             cause.deal == Deal::Wait_Card || cause.deal == Deal::Wait_Net || cause.deal == Deal::Wait_Time;
-        if (is_handed_over || !waits)
-            Note(QStringLiteral("E %1 %2").arg(Part_Name(m_row, m_part), QLatin1String(cause.field)));
-        switch (cause.deal) {
-        case Deal::Again:
-            m_is_again = m_retries++ < Most_Retries;
-            break;
-        case Deal::Wait_Card:
-        case Deal::Wait_Net:
+        // The phone always says that its card is ready and its network there.
+        const bool is_in_vain = cause.deal == Deal::Wait_Card || cause.deal == Deal::Wait_Net;
+        m_is_again = (cause.deal == Deal::Again && m_retries++ < Most_Retries) || cause.deal == Deal::Wait_Time ||
+                     (is_in_vain && m_vain_holds++ < Most_Retries);
+        if (is_handed_over || !waits || !m_is_again)
+            Note(QStringLiteral("E %1 %2").arg(Part_Name(m_row, m_part),
+                                               QLatin1String(m_is_again ? "again:" : "") + QLatin1String(cause.field)));
+        if (m_is_again && is_in_vain) {
             Write("AT");
             Ask_Condition();
-            Hold();
-            break;
-        case Deal::Wait_Time:
-            Hold();
-            break;
-        default:
-            break;
         }
+        if (m_is_again && waits)
+            Hold();
         if (!m_is_again)
             End_Row(Row_State::Refused, cause.field, cause.deal == Deal::Stop ? 1 : cause.stops_at);
     }
@@ -346,7 +384,6 @@ private:
     {
         m_expected.holds += m_expected.holds >= 0 ? 1 : 0;
         m_coding = -1;
-        m_is_again = true;
     }
 
     void End_Row(Row_State state, const char* end, int stops_at)
@@ -376,11 +413,13 @@ private:
     int m_submissions = 0; // AT+CMGS in all
     int m_taken = 0;       // by the network
     int m_retries = 0;
+    int m_vain_holds = 0;
     int m_tries = 0;
     int m_parts_sent = 0;
     int m_coding = -1;
     int m_alike = 0;
     std::string m_last_end;
+    bool m_is_result_due = false;
     bool m_is_again = false;
     bool m_is_over = false;
     Row_State m_state = Row_State::Sent;

@@ -4,6 +4,9 @@
 #include "texts/Confirmed_Texts.h"
 #include "texts/Texts.h"
 
+#include <csignal>
+#include <sys/resource.h>
+
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -195,6 +198,155 @@ TEST_F(Confirmed_Job, A_Hold_That_Lasts_Too_Long_Leaves_The_Rest_Untried)
     EXPECT_FALSE(m_has_handed_over);
 }
 
+namespace {
+
+// As long as it lives, no file grows beyond the size of the only journal in a folder.
+class Full_Journal
+{
+public:
+    explicit Full_Journal(const QString& folder)
+    {
+        const auto journals = QDir(folder).entryInfoList({QStringLiteral("*.journal")}, QDir::Files);
+        EXPECT_EQ(journals.size(), 1);
+        EXPECT_EQ(getrlimit(RLIMIT_FSIZE, &m_before), 0);
+        rlimit limit = m_before;
+        limit.rlim_cur = static_cast<rlim_t>(journals.value(0).size());
+        EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
+    }
+    ~Full_Journal()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_handler);
+    }
+    Full_Journal(const Full_Journal&) = delete;
+    Full_Journal& operator=(const Full_Journal&) = delete;
+
+private:
+    void (*m_handler)(int) = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit m_before{};
+};
+
+// At every try of the first message.
+void Refuse_The_First(Virtual_Phone& phone, const char* cause)
+{
+    Phone_Moods moods;
+    moods.m_message_manners = {{Message_Manner::Kind::Refused, 1, INT_MAX, "0700900100", cause, 0}};
+    phone.Set_Moods(moods);
+}
+
+} // namespace
+
+TEST_F(Confirmed_Job, A_State_That_The_Device_Denies_Is_Waited_For_Longer_Each_Time_And_Then_Refuses)
+{
+    constexpr double pace = 500;
+    for (const char* cause : {"+CMS ERROR: 331", "+CMS ERROR: 311", "+CME ERROR: 30", "+CMS ERROR: 41"}) {
+        m_witness = {};
+        Set_Pace(pace);
+        Refuse_The_First(m_phone, cause);
+        const double begin = Now_Seconds();
+        Run();
+        EXPECT_GE(Now_Seconds() - begin, (5 + 30 + 120) / pace) << cause;
+        EXPECT_THAT(m_witness.States(), ElementsAre(Row_State::Refused, Row_State::Sent, Row_State::Sent)) << cause;
+        EXPECT_EQ(m_witness.m_rows[0].tries, 4) << cause;
+        EXPECT_EQ(m_witness.m_held.size(), std::string(cause) == "+CMS ERROR: 41" ? 0 : 3) << cause;
+        EXPECT_THAT(Unfinished(), IsEmpty()) << cause;
+    }
+}
+
+TEST_F(Confirmed_Job, All_Holds_Of_A_Message_Count_Against_The_Time_That_A_Hold_May_Take)
+{
+    Set_Pace(50);
+    for (const char* cause : {"+CMS ERROR: 331", "+CMS ERROR: 322"}) {
+        m_witness = {};
+        m_phone.Forget();
+        m_options.hold_seconds = 75;
+        Refuse_The_First(m_phone, cause);
+        Run();
+        EXPECT_THAT(m_witness.States(), ElementsAre(Row_State::Not_Tried)) << cause;
+        EXPECT_GE(m_witness.m_rows[0].tries, 2) << cause;
+        EXPECT_LE(m_witness.m_rows[0].tries, 3) << cause;
+        EXPECT_THAT(m_witness.m_told, ElementsAre(QString(Texts::Confirmed::Waited_Too_Long))) << cause;
+        const auto unfinished = Unfinished();
+        ASSERT_EQ(unfinished.size(), 1);
+        EXPECT_EQ(unfinished.first().counts.not_tried, 3) << cause << ": none is refused";
+        QDir(m_options.folder).removeRecursively();
+    }
+}
+
+TEST_F(Confirmed_Job, A_Stop_Before_A_Further_Try_Leaves_The_Row_Untried)
+{
+    for (const int part : {1, 2}) {
+        m_witness = {};
+        m_phone.Forget();
+        m_stop = 0;
+        m_options.resumed_path.clear();
+        m_order.recipients.Replace(0, QStringLiteral("0700900100"), QString(part * 150, u'x'));
+        Cms(41, part);
+        m_witness.m_on_shown = [this] { m_stop = 1; };
+        Run();
+        EXPECT_THAT(m_witness.States(), ElementsAre(Row_State::Not_Tried));
+        EXPECT_EQ(m_witness.m_rows[0].parts_sent, part - 1);
+        m_witness = {};
+        m_phone.Set_Moods({});
+        ASSERT_EQ(Unfinished().size(), 1);
+        EXPECT_EQ(Unfinished().first().counts.not_tried, 3);
+        m_options.resumed_path = Unfinished().first().path;
+        Run();
+        EXPECT_THAT(m_witness.States(), ElementsAre(Row_State::Sent, Row_State::Sent, Row_State::Sent));
+        EXPECT_EQ(m_witness.m_rows[0].references.size(), part) << "those of both walks";
+        EXPECT_EQ(m_witness.m_rows[0].tries, 2);
+    }
+}
+
+TEST_F(Confirmed_Job, A_Journal_That_Fails_At_The_Last_Message_Or_At_The_End_Is_Told)
+{
+    m_order.recipients.Clear();
+    Add(QStringLiteral("0700900100"), QStringLiteral("One"));
+    for (const bool is_at_the_end : {false, true}) {
+        m_witness = {};
+        Phone_Moods moods;
+        moods.m_pace = 20;
+        moods.m_message_manners = {{Message_Manner::Kind::Delayed, 1, INT_MAX, {}, {}, 15}};
+        m_phone.Set_Moods(moods);
+        std::optional<Full_Journal> failing;
+        const auto fail = [&] { failing.emplace(m_options.folder); };
+        // Behind the result, the number is shown again where the network was waited for.
+        m_witness.m_on_shown = [&] {
+            if (!is_at_the_end && m_witness.m_shown.last() == QStringLiteral("0700900100"))
+                fail();
+        };
+        m_witness.m_on_row = [&] {
+            if (is_at_the_end)
+                fail();
+        };
+        Run();
+        ASSERT_TRUE(failing);
+        failing.reset();
+        EXPECT_THAT(m_witness.States(), ElementsAre(Row_State::Sent));
+        ASSERT_EQ(m_witness.m_told.size(), 1);
+        EXPECT_THAT(m_witness.m_told.first().toStdString(), testing::HasSubstr("journal cannot be written"));
+        EXPECT_NE(m_journal_trouble, Job_Trouble::None);
+        ASSERT_EQ(Unfinished().size(), 1);
+        EXPECT_EQ(Unfinished().first().counts.unknown, is_at_the_end ? 0 : 1);
+        QDir(m_options.folder).removeRecursively();
+    }
+}
+
+TEST_F(Confirmed_Job, Going_On_Tells_What_Is_Settled_As_The_First_Walk_Did)
+{
+    Cms(332);
+    m_witness.m_on_row = [this] { m_stop = 1; };
+    Run();
+    ASSERT_EQ(m_witness.m_rows.size(), 1U);
+    const Row_Details first = m_witness.m_rows[0];
+    m_witness = {};
+    m_options.resumed_path = Unfinished().first().path;
+    Run();
+    EXPECT_EQ(m_witness.m_rows[0].reason, first.reason);
+    EXPECT_EQ(m_witness.m_rows[0].outcome.cause, first.outcome.cause);
+    EXPECT_EQ(m_witness.m_rows[0].outcome.cause.number, 332);
+}
+
 TEST_F(Confirmed_Job, A_Card_That_Wants_Its_Puk_Ends_The_Job_Before_It_Begins)
 {
     m_phone.Will_Answer("AT+CPIN?", "\r\n+CPIN: SIM PUK\r\n\r\nOK\r\n");
@@ -241,6 +393,21 @@ TEST_F(Confirmed_Job, A_Device_With_Text_Mode_Alone_Gets_The_Same_Texts)
     EXPECT_THAT(m_witness.States(), ElementsAre(Row_State::Sent, Row_State::Sent));
     EXPECT_THAT(Texts(), ElementsAre("10 € [net]\nOK", "Привет"));
     EXPECT_EQ(m_phone.Inbox()[0].m_number, "+4915550001");
+}
+
+TEST_F(Confirmed_Job, A_Device_That_Refuses_What_Text_Mode_Needs_Refuses_In_The_Journal_Too)
+{
+    Phone_Moods moods;
+    moods.m_text_only = true;
+    m_phone.Set_Moods(moods);
+    m_phone.Will_Answer("AT+CSMP=*", "\r\nERROR\r\n");
+    Run();
+    EXPECT_THAT(m_witness.States(), ElementsAre(Row_State::Refused));
+    EXPECT_EQ(m_witness.m_rows[0].reason, QString(Texts::Confirmed::No_Messages));
+    EXPECT_EQ(Kinds(), "JE");
+    ASSERT_EQ(Unfinished().size(), 1);
+    EXPECT_EQ(Unfinished().first().counts.refused, 1);
+    EXPECT_EQ(Unfinished().first().counts.not_tried, 2);
 }
 
 TEST_F(Confirmed_Job, A_Pulled_Cable_After_The_End_Of_A_Message_Leaves_It_In_Doubt)

@@ -62,10 +62,14 @@ TEST_F(Going_On, What_Was_Sent_Before_Is_Not_Called_Skipped_Because_Of_A_Choice_
     m_order.recipients.Replace(3, QStringLiteral("0700900100"), QStringLiteral("Hello"));
     Run_And_Stop_After(3);
     m_order.choices.skip_duplicates = true; // rows 3 and 4 have the number of row 1
+    m_options.hands_out_record = true;
     Run();
     EXPECT_THAT(m_witness.m_outcomes, ElementsAre(Pair(0, Row_State::Sent), Pair(1, Row_State::Sent),
                                                   Pair(2, Row_State::Sent), Pair(3, Row_State::Repeated)));
     EXPECT_EQ(Texts().size(), 3U);
+    ASSERT_TRUE(m_record);
+    EXPECT_EQ(m_record->State_Of(4).state, Sending_State::Skipped);
+    EXPECT_EQ(m_record->State_Of(4).words, QStringLiteral("duplicate"));
 }
 
 TEST_F(Going_On, A_Row_That_The_Journal_Says_Is_Skipped_Is_Never_Sent)
@@ -119,6 +123,28 @@ TEST_F(Going_On, A_Message_That_A_Stop_Has_Cut_Is_Gone_On_With_From_Its_Next_Par
     Run();
     EXPECT_THAT(Texts(), testing::Contains(std::string(200, 'x')));
     EXPECT_EQ(m_phone.Parts().size(), 5U);
+    EXPECT_EQ(m_witness.m_rows[0].parts_sent, 2);
+    EXPECT_EQ(m_witness.m_rows[0].references.size(), 2) << "of the part before the stop, too";
+}
+
+TEST_F(Going_On, A_Long_Message_That_Is_Counted_As_Sent_Is_Not_Gone_On_With)
+{
+    m_order.recipients.Replace(0, QStringLiteral("0700900100"), QString(200, u'x'));
+    Phone_Moods moods;
+    moods.m_cms_error_at = {{1, 332}};
+    m_phone.Set_Moods(moods);
+    Run_And_Stop_After(1);
+    {
+        const auto opened = Job_Journal::Open_To_Go_On(m_options.resumed_path);
+        ASSERT_TRUE(opened.journal);
+        ASSERT_TRUE(opened.journal->Decide(1, Job_Decision::Count_As_Sent, QStringLiteral("user")));
+    }
+    EXPECT_EQ(Unfinished_Jobs(m_options.folder).first().counts.not_tried, 3);
+    Run();
+    EXPECT_EQ(m_phone.Parts().size(), 3U) << "none of the first message";
+    EXPECT_EQ(m_witness.m_rows[0].outcome.state, Row_State::Sent);
+    EXPECT_EQ(m_witness.m_rows[0].parts_sent, 1);
+    EXPECT_THAT(Unfinished_Jobs(m_options.folder), IsEmpty());
 }
 
 TEST_F(Going_On, The_Record_Of_A_Finished_Job_Stays_Readable_When_Its_Files_Are_Gone)

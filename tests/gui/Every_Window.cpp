@@ -10,6 +10,8 @@
 #include "toolkit/Import_Strip.h"
 #include "toolkit/PleaseWait_Modeless.h"
 #include "toolkit/Unused_Lines_Wnd.h"
+#include "windows/contacts/Contacts_Wnd.h"
+#include "windows/contacts/Fields_Strip.h"
 #include "windows/exclusion/Exclusion_Wizard.h"
 #include "windows/handover/Hand_Over_Wnd.h"
 #include "windows/jobs/Receipt_Wnd.h"
@@ -68,7 +70,8 @@ QWidget& Main_Window_With_Everything(CorvaneAppDelegate& main)
     In<QTableView>(main, "idExclusionTableView").show();
     In<QCheckBox>(main, "_Delayed_Delivry_Chk").setChecked(true);
     In<QCheckBox>(main, "_Confirm_Chk").setChecked(true);
-    for (const char* name : {"Select_Not_Taken", "Keep_Not_Taken", "Show_Receipt", "plain_offer", "Other_Ways_Btn"})
+    for (const char* name :
+         {"Select_Not_Taken", "Keep_Not_Taken", "Show_Receipt", "plain_offer", "Other_Ways_Btn", "Insert_Field"})
         In<QWidget>(main, name).show();
     Unfinished_Job job;
     job.id = "20261121-101500-3f9a";
@@ -76,7 +79,42 @@ QWidget& Main_Window_With_Everything(CorvaneAppDelegate& main)
     In<Unfinished_Strip>(main, "_Job_Strip").Show_Jobs({job, job});
     main.Set_Composer_Text(Costly_Message);
     In<Import_Strip>(main, "_Import_Strip").Show_Report(Longest_Report());
+    In<Fields_Strip>(main, "_Fields_Strip").Show_Fields(QStringList(20, QString(40, u'W')));
     return main;
+}
+
+/// The sheet with people whose numbers are in no column that is known by its looks.
+QWidget& Contacts_As_Read(CorvaneAppDelegate& main)
+{
+    auto& window = *new Contacts_Wnd(main);
+    QByteArray lines = "Name,Town,Remarks about what was said when we met\n";
+    for (int row = 0; row < 30; ++row)
+        lines += "Ann " + QByteArray::number(row) + ",Llanfairpwllgwyngyll,\"She said \"\"yes\"\"\"\n";
+    window.Import({{}, lines.replace(',', '\t')});
+    EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
+    QCoreApplication::processEvents();
+    for (const char* name : {"encoding_caption", "_Encoding", "sheet_caption", "_Sheet"})
+        In<QWidget>(window, name).show();
+    return window;
+}
+
+QWidget& Contacts_As_Sent(CorvaneAppDelegate& main)
+{
+    auto& window = Contacts_As_Read(main);
+    In<QComboBox>(window, "_Number_Column").setCurrentIndex(0);
+    In<QPushButton>(window, "Continue_Btn").click();
+    EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
+    QCoreApplication::processEvents();
+    return window;
+}
+
+QWidget& Check_Of_The_List(CorvaneAppDelegate& main)
+{
+    auto& window = *new Contacts_Wnd(main);
+    window.Check_List();
+    EXPECT_TRUE(Serve_Until([] { return Workers_Running() == 0; }));
+    QCoreApplication::processEvents();
+    return window;
 }
 
 QWidget& Connection_Help(CorvaneAppDelegate& /*main*/)
@@ -210,6 +248,21 @@ const std::vector<Sight>& Every_Window()
           {"_Device_Name_Ticker", "usb-Sierra_Wireless_EM7455-if03"},
           {"_Promise_Lbl", Longest_Promise},
           {"_Exclusion_Trouble", Exclusion_Trouble({{}, QStringList(5, QString(50, u'W'))})}}},
+        {"contacts as they were read",
+         Contacts_As_Read,
+         {{"_Words", "The customers of the northern region, without Scotland.xlsx: 1000000 rows in 16384 columns."},
+          {"_Trouble", "No column looks as if it held numbers. Choose the one that does."}}},
+        {"contacts as they are sent to",
+         Contacts_As_Sent,
+         {{"_Sums",
+           "1000000 messages to be sent, 1000000 parts, about 23 h 59 min, until 30 September 2026, 23:59. 1000000 "
+           "left "
+           "out: 100000 repeated, 100000 excluded, 100000 no usable number, 100000 empty field, 100000 unknown field, "
+           "100000 too long, 100000 fields misplaced."},
+          {"_Causes", "1000000 messages go as Unicode, because of \u2019 (999999), \u201C (999999), U+200B (100000), "
+                      "\u0151 (1000), \u2026 (1000), \u2013 (1000), others."},
+          {"_Notice", "Looking at the rows: 100 % ..."}}},
+        {"check of the list", Check_Of_The_List},
         {"help", Made_Over<Help_Wnd>},
         {"import question", Made_Over<Load_Num_Info>},
         {"connection help", Connection_Help},

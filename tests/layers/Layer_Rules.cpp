@@ -158,10 +158,12 @@ const std::vector<Room>& Rooms()
         {"windows/exclusion", {"platform", "texts", "list", "records", "toolkit"}},
         {"windows/phone", {"platform", "texts", "list", "device", "doctor", "toolkit"}},
         {"windows/jobs", {"platform", "texts", "records", "engine", "toolkit"}},
+        {"windows/contacts", {"platform", "texts", "list", "records", "engine", "plan", "toolkit"}},
         {"windows/handover", {"platform", "records", "engine", "plan", "toolkit"}},
         {"windows/main",
          {"platform", "texts", "list", "records", "device", "engine", "plan", "toolkit", "windows/list",
-          "windows/stores", "windows/exclusion", "windows/phone", "windows/jobs", "windows/handover"}},
+          "windows/stores", "windows/exclusion", "windows/phone", "windows/jobs", "windows/contacts",
+          "windows/handover"}},
         {"app", {"platform", "texts", "records", "device", "toolkit", "windows/main"}},
     };
     return Table;

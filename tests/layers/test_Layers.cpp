@@ -78,10 +78,27 @@ TEST(Layer_Rules, The_Table_Goes_Upwards_Only)
         below.push_back(room.folder);
     }
     EXPECT_THAT(Rooms().front().may_include, IsEmpty());
-    EXPECT_EQ(below,
-              (std::vector<std::string>{"platform", "texts", "handset", "pdu", "list", "records", "device", "engine",
-                                        "plan", "doctor", "send", "toolkit", "windows/list", "windows/stores",
-                                        "windows/exclusion", "windows/phone", "windows/jobs", "windows/handover", "windows/main", "app"}));
+    EXPECT_EQ(below, (std::vector<std::string>{"platform",
+                                               "texts",
+                                               "handset",
+                                               "pdu",
+                                               "list",
+                                               "records",
+                                               "device",
+                                               "engine",
+                                               "plan",
+                                               "doctor",
+                                               "send",
+                                               "toolkit",
+                                               "windows/list",
+                                               "windows/stores",
+                                               "windows/exclusion",
+                                               "windows/phone",
+                                               "windows/jobs",
+                                               "windows/contacts",
+                                               "windows/handover",
+                                               "windows/main",
+                                               "app"}));
 }
 
 TEST(Layer_Rules, The_Deepest_Room_Counts)

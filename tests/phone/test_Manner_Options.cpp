@@ -78,7 +78,14 @@ TEST(Manner_Options, Manners_Are_For_One_Message_For_Several_Or_For_Numbers)
                                        "--without-reference",
                                        "7",
                                        "--second-prompt",
-                                       "8"});
+                                       "8",
+                                       "--result-at-command",
+                                       "9",
+                                       "AT+CMGS",
+                                       "--result-behind-next-prompt",
+                                       "10",
+                                       "--result-behind-next-message",
+                                       "11"});
     EXPECT_EQ(options.m_error, "");
     struct Row
     {
@@ -98,6 +105,9 @@ TEST(Manner_Options, Manners_Are_For_One_Message_For_Several_Or_For_Numbers)
         {Kind::Without_Result, 6, 6, "", "", 0},
         {Kind::Without_Reference, 7, 7, "", "", 0},
         {Kind::Second_Prompt, 8, 8, "", "", 0},
+        {Kind::At_The_Next_Command, 9, 9, "", "AT+CMGS", 0},
+        {Kind::Behind_The_Next_Prompt, 10, 10, "", "", 0},
+        {Kind::Behind_The_Next_Message, 11, 11, "", "", 0},
     };
     ASSERT_EQ(options.m_moods.m_message_manners.size(), rows.size());
     for (std::size_t at = 0; at < rows.size(); ++at) {

@@ -95,6 +95,30 @@ TEST(Message_Manners, A_Result_May_Wait_For_The_Next_Command)
     EXPECT_EQ(talk.Sends(), Said("+CMGS: 1|OK"));
 }
 
+TEST(Message_Manners, A_Result_May_Wait_For_A_Certain_Command)
+{
+    Phone_Moods moods = With(Kind::At_The_Next_Command, 1, 1, "AT+CMGS");
+    moods.m_message_manners.push_back({Kind::Refused, 1, 1, {}, "+CMS ERROR: 41", 0});
+    Mind_Talk talk(moods);
+    EXPECT_EQ(talk.Sends(), "");
+    EXPECT_EQ(talk.Asks("AT"), Said("OK"));
+    EXPECT_EQ(talk.Asks("AT+CMGS=19"), Said("+CMS ERROR: 41") + "\r\n> ") << "whatever the result is";
+    EXPECT_EQ(talk.Hears("\x1B"), Said("OK"));
+    EXPECT_TRUE(talk.Inbox().empty());
+}
+
+TEST(Message_Manners, Results_May_Come_Behind_The_Next_Prompt_And_The_Next_Message)
+{
+    Phone_Moods moods = With(Kind::Behind_The_Next_Prompt, 1, 1);
+    moods.m_message_manners.push_back({Kind::Behind_The_Next_Message, 2, 2, {}, {}, 0});
+    Mind_Talk talk(moods);
+    EXPECT_EQ(talk.Sends(), "");
+    EXPECT_EQ(talk.Asks("AT+CMGS=19"), "\r\n> " + Said("+CMGS: 0|OK"));
+    EXPECT_EQ(talk.Hears("0011000B915155001032F40000FF05E8329BFD06\x1A"), "");
+    EXPECT_EQ(talk.Asks("AT"), Said("OK"));
+    EXPECT_EQ(talk.Sends(), Said("+CMGS: 1|OK|+CMGS: 2|OK"));
+}
+
 TEST(Message_Manners, A_Message_May_Get_No_Result_At_All)
 {
     Mind_Talk talk(With(Kind::Without_Result, 1, 1));

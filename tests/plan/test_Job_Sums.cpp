@@ -21,8 +21,8 @@ protected:
 
     void Add(const QString& number, const QString& message) { m_order.recipients.Append(number, message); }
     Plan_Manner Manner() const { return Manner_Of(m_order.choices); }
-    Job_Sums Sums() const { return Sums_Of(m_order, Manner()); }
-    QString Verdict(int index) const { return Row_Of_Order(m_order, Manner(), index).skipped; }
+    Job_Sums Sums() const { return Sums_Of(Plan_Of(m_order, Manner())); }
+    QString Verdict(int index) const { return Plan_Of(m_order, Manner()).At(index).skipped; }
 
     Send_Order m_order;
 };
@@ -56,7 +56,7 @@ TEST_F(Job_Sums_Test, Unicode_Makes_More_Parts)
 
 TEST_F(Job_Sums_Test, A_Count_That_Is_Stopped_Ends_At_Once)
 {
-    EXPECT_EQ(Sums_Of(m_order, Manner(), [] { return true; }), Job_Sums());
+    EXPECT_EQ(Sums_Of(Plan_Of(m_order, Manner(), [] { return true; })), Job_Sums());
 }
 
 TEST_F(Job_Sums_Test, Pauses_Lie_Between_The_Batches_And_Each_One_Left_Out_Costs_A_Second_Of_Fixed_Waits)

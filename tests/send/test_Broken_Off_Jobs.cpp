@@ -134,6 +134,33 @@ TEST_F(Broken_Off_Jobs, A_Signal_While_A_Job_Is_Held_Stops_It)
     EXPECT_THAT(ended.Outcomes(), Each("not-tried"));
 }
 
+TEST_F(Broken_Off_Jobs, A_Signal_Before_A_Further_Try_Leaves_The_Message_For_Later)
+{
+    Cms({{1, 41}, {2, 41}});
+    const auto run = Start(To_So_Many(1));
+    ASSERT_TRUE(Soon([this] { return Submissions_Heard() == 2; })); // it waits thirty seconds for the third, at pace 1
+    run->Send_Signal(SIGTERM);
+    const auto ended = run->Wait();
+    EXPECT_EQ(ended.status, 4);
+    EXPECT_THAT(ended.Outcomes(), ElementsAre("not-tried"));
+    EXPECT_EQ(ended.Outcome(1).value("tries"), 2);
+    m_phone.Set_Moods({});
+    const auto resumed = Resume();
+    EXPECT_EQ(resumed.status, 0) << resumed.errors;
+    EXPECT_THAT(Texts(), SizeIs(1));
+}
+
+TEST_F(Broken_Off_Jobs, A_Signal_Between_The_Parts_Of_The_Last_Message_Stops_Fixed_Waits)
+{
+    const auto run = Start({"--fixed-waits", "--to", "0170", "--message", QString(300, u'x')});
+    ASSERT_TRUE(Soon([this] { return Submissions_Heard() == 1; }));
+    run->Send_Signal(SIGINT);
+    const auto ended = run->Wait();
+    EXPECT_EQ(ended.status, 4);
+    EXPECT_THAT(ended.Outcomes(), ElementsAre("unknown"));
+    EXPECT_THAT(ended.errors, MatchesRegex("corvane-send: stopped \\([^\n]+\\)\n"));
+}
+
 TEST_F(Broken_Off_Jobs, After_A_Kill_Before_The_Message_All_Are_Sent)
 {
     Phone_Moods moods;

@@ -64,14 +64,18 @@ TEST_F(Devices, A_Device_That_Says_Nothing_Is_No_Modem)
 
 TEST_F(Devices, Without_A_Card_Nothing_Is_Sent)
 {
-    Sim_Says("\r\n+CME ERROR: 10\r\n");
-    Expect_No_Device(Run_With_Device(To_So_Many(1)), "There is no SIM card");
+    for (const char* answer : {"\r\n+CME ERROR: 10\r\n", "\r\n+CME ERROR: SIM not inserted\r\n"}) {
+        Sim_Says(answer);
+        Expect_No_Device(Run_With_Device(To_So_Many(1)), "There is no SIM card");
+    }
 }
 
 TEST_F(Devices, A_Card_That_Wants_Its_Puk_Is_Left_Alone)
 {
-    Sim_Says("\r\n+CPIN: SIM PUK\r\n\r\nOK\r\n");
-    Expect_No_Device(Run_With_Device(To_So_Many(1)), "PUK");
+    for (const char* answer : {"\r\n+CPIN: SIM PUK\r\n\r\nOK\r\n", "\r\n+CME ERROR: SIM PUK required\r\n"}) {
+        Sim_Says(answer);
+        Expect_No_Device(Run_With_Device(To_So_Many(1)), "PUK");
+    }
 }
 
 TEST_F(Devices, A_Job_Is_Held_For_The_Pin_And_Ends_In_Time)
@@ -82,6 +86,27 @@ TEST_F(Devices, A_Job_Is_Held_For_The_Pin_And_Ends_In_Time)
     ASSERT_THAT(run.Of("held"), SizeIs(1));
     EXPECT_EQ(run.Of("held").first().value("reason"), "The SIM card wants its PIN.");
     EXPECT_EQ(run.lines.first().value("event"), "job");
+}
+
+TEST_F(Devices, A_Pin_That_Is_Asked_For_In_Words_Holds_The_Job)
+{
+    Sim_Says("\r\n+CME ERROR: SIM PIN required\r\n");
+    const auto run = Run_With_Device(To_So_Many(1) + QStringList{"--hold", "3"});
+    Expect_No_Device(run, "cannot send (");
+    EXPECT_THAT(run.Of("held"), SizeIs(1));
+}
+
+TEST_F(Devices, A_Hold_After_The_First_Message_Was_Handed_Over_Is_No_Missing_Device)
+{
+    Cms({{1, 331}});
+    const auto run = Run_With_Device(To_So_Many(1) + QStringList{"--hold", "1"});
+    EXPECT_EQ(run.status, 1) << "something was handed over";
+    EXPECT_THAT(run.Outcomes(), ElementsAre("not-tried"));
+    EXPECT_EQ(run.Outcome(1).value("tries"), 1);
+    const auto listed = Run({"--list-jobs", "--json"}).Of("unfinished");
+    ASSERT_THAT(listed, SizeIs(1));
+    EXPECT_EQ(listed[0].value("not_tried"), 1);
+    EXPECT_EQ(listed[0].value("refused"), 0);
 }
 
 TEST_F(Devices, A_Held_Job_Goes_On_By_Itself)

@@ -46,6 +46,26 @@ QByteArray On_One_Line(QString text)
     return text.replace("\n", "|AP*|DX/").toUtf8();
 }
 
+// The table of people.
+const QStringList Names = {"Ann", "Bob", "Cleo", "Dev", "Eve",  "Finn", "Gil", "Hana", "Ida",
+                           "Jon", "Kay", "Lena", "Max", "Nora", "Olu",  "Pia", "Quin"};
+constexpr int People = 300;
+constexpr int First_Of_People = 10000; // behind 077009
+constexpr int Without_A_Number = 17;
+constexpr int Without_A_Name = 200;
+
+QByteArray Table_Of_People()
+{
+    QByteArray table = "Name,Phone,Seat\n";
+    for (int place = 0; place < People; ++place) {
+        const QByteArray name = place == Without_A_Name ? "" : Names.at(place % Names.size()).toUtf8();
+        const QByteArray number =
+            place == Without_A_Number ? "" : "+44 77009 " + QByteArray::number(First_Of_People + place);
+        table += name + ',' + number + ',' + QByteArray::number(place + 1) + '\n';
+    }
+    return table;
+}
+
 QStringList Template_Texts()
 {
     return {Story::Rehearsal, Story::Thanks, Story::Rehearsal + Story::About_The_Concert, Story::To_The_Soloists};
@@ -55,6 +75,7 @@ QStringList Template_Texts()
 
 void Story::Write_Files(const QString& folder)
 {
+    Write(folder + u'/' + People_File, Table_Of_People());
     Write(folder + u'/' + Moved_Away_File, "0770-090-0111\n07700900222\n");
     Write(folder + u'/' + Members_File, "0770-090-0456\n"
                                         "+44 is not a number\n"
@@ -63,6 +84,19 @@ void Story::Write_Files(const QString& folder)
                                         "07700900789\r\n"
                                         "07700900654\n"
                                         "07700900987\n");
+}
+
+std::vector<Story::Message> Story::Messages_To_People()
+{
+    std::vector<Message> messages;
+    for (int place = 0; place < People; ++place) {
+        if (place != Without_A_Number && place != Without_A_Name)
+            messages.push_back({"+4477009" + QString::number(First_Of_People + place),
+                                QString("Dear %1, the choir sings on Saturday. Your seat is %2.")
+                                    .arg(Names.at(place % Names.size()))
+                                    .arg(place + 1)});
+    }
+    return messages;
 }
 
 std::vector<Story::Message> Story::Messages()

@@ -27,5 +27,6 @@ inline const QString Help = "Help_Wnd";
 inline const QString Message_Box = "Message_Box";
 inline const QString Unknown_Rows = "Unknown_Rows_Sheet";
 inline const QString Receipt = "Receipt_Wnd";
+inline const QString Contacts = "Contacts_Wnd";
 
 } // namespace Windows

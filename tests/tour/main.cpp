@@ -1,6 +1,7 @@
 #include "app/Demo_Phone.h"
 #include "app/Program.h"
 #include "platform/Pace.h"
+#include "tour/Contacts_Walk.h"
 #include "tour/Inbox.h"
 #include "tour/Killed_Program.h"
 #include "tour/Visited_Program.h"
@@ -43,8 +44,15 @@ int Take_The_Tour(const QString& pictures, const QString& documents)
         [&](Program& program) {
             Walk walk(pictures, documents);
             walk.Go(program.Phone_Of_The_Demo()->Path());
-            const auto written = Story::Messages();
+            auto written = Story::Messages();
             walk.Await_Until("the phone to have everything", [&] { return inbox.size() >= written.size(); });
+            Expect_Exactly(inbox, written);
+            Contacts_Walk(pictures).Send_To_People([&inbox, before = inbox.size()](int count) {
+                return inbox.size() >= before + static_cast<std::size_t>(count);
+            });
+            const auto to_people = Story::Messages_To_People();
+            written.insert(written.end(), to_people.begin(), to_people.end());
+            walk.Await_Until("the phone to have the rest", [&] { return inbox.size() >= written.size(); });
             Expect_Exactly(inbox, written);
         });
 }

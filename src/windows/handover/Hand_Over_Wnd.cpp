@@ -34,12 +34,13 @@ Hand_Over_Wnd::Handed_Over Write_All(const Hand_Over_Wnd::Plan& plan, const QStr
     Hand_Over_Wnd::Handed_Over done;
     done.trouble = hand_over.Begin();
     double told = Now_Seconds();
+    const Job_Plan rows = Plan_Of(plan.order, plan.manner, is_stopped);
     for (int index = 0; index < plan.order.recipients.Count() && !done.trouble; ++index) {
         if (is_stopped()) {
             done.is_stopped = true;
             return done;
         }
-        const Planned_Row row = Row_Of_Order(plan.order, plan.manner, index);
+        const Planned_Row row = rows.At(index);
         if (!Is_Handed_Over(row)) {
             ++done.left_out;
             continue;

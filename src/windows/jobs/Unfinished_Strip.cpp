@@ -43,12 +43,6 @@ bool Can_Be_Gone_On_With(const Unfinished_Job& job)
     return job.trouble == Job_Trouble::None && !job.is_in_use;
 }
 
-// Some of the refused ones may go again: those that waited for a better state of the device.
-bool Has_Something_To_Send(const Job_Counts& counts)
-{
-    return counts.not_tried > 0 || counts.refused > 0;
-}
-
 } // namespace
 
 Unfinished_Strip::Unfinished_Strip(QWidget* parent)
@@ -129,7 +123,7 @@ void Unfinished_Strip::Show_First()
     if (sentence.isEmpty()) {
         Say(*m_words, tr("A job that began on %1 has not ended.").arg(Moment_In_Words(job.seconds)));
         const QString nothing = tr("Nothing of it is left to be sent.");
-        const bool has_work = Has_Something_To_Send(job.counts) || job.counts.unknown > 0;
+        const bool has_work = job.counts.not_tried > 0 || job.counts.unknown > 0;
         Say(*m_counts, Counts_In_Words(job.counts) + (has_work ? QString() : u' ' + nothing));
     } else {
         Say(*m_words, tr("The job %1 cannot be gone on with: %2.").arg(Printable_Line(job.id), sentence));
@@ -146,7 +140,7 @@ void Unfinished_Strip::Show_Buttons(const Unfinished_Job& job)
     const bool can_go_on = Can_Be_Gone_On_With(job);
     const Job_Counts& counts = job.counts;
     m_go_on->setText(counts.refused == 0 ? tr("Send the remaining %1").arg(counts.not_tried) : tr("Send the rest"));
-    m_go_on->setVisible(can_go_on && Has_Something_To_Send(counts));
+    m_go_on->setVisible(can_go_on && counts.not_tried > 0);
     m_decide->setVisible(can_go_on && counts.unknown > 0);
     m_receipt->setVisible(can_go_on);
     m_remove->setVisible(!job.is_in_use);
@@ -166,7 +160,7 @@ void Unfinished_Strip::Go_On_Btn()
         return;
     if (m_jobs.constFirst().counts.unknown > 0 && Decide() != Answer::Given)
         return;
-    if (!Has_Something_To_Send(m_jobs.constFirst().counts))
+    if (m_jobs.constFirst().counts.not_tried == 0)
         return;
     Drop(path);
     Q_EMIT Go_On(path);

@@ -22,6 +22,7 @@
 #include "windows/main/Awaited_Reports.h"
 #include "windows/main/Composer.h"
 #include "windows/main/Confirm_Boxes.h"
+#include "windows/main/Contact_Desk.h"
 #include "windows/main/Help_Wnd.h"
 #include "windows/main/Job_Follow_Up.h"
 #include "windows/main/List_Arrivals.h"
@@ -122,6 +123,7 @@ bool CorvaneAppDelegate::awakeFromNib()
     m_follow_up =
         std::make_unique<Job_Follow_Up>(*this, *m_work, *m_send_runner, *m_ui->_Job_Strip, *m_ui->Show_Receipt);
     connect(m_awaited_reports.get(), &Awaited_Reports::Came, m_follow_up.get(), &Job_Follow_Up::Take_Reports);
+    Make_Contact_Desk();
     Make_Promise();
     Main_App_wnd = this;
     Show_Device_In_Ticker();
@@ -157,6 +159,8 @@ void CorvaneAppDelegate::Connect_Controls()
     connect(m_ui->_messageEdit, &QPlainTextEdit::textChanged, this, &CorvaneAppDelegate::textDidChange);
     connect(m_ui->_Unicode_SMS_Chk, &QCheckBox::clicked, this, &CorvaneAppDelegate::Unicode_Chk);
     connect(m_ui->Load_Number, &QPushButton::clicked, this, &CorvaneAppDelegate::Load_Number);
+    connect(m_ui->Import_Contacts, &QPushButton::clicked, this, &CorvaneAppDelegate::Import_Contacts);
+    connect(m_ui->Check_List, &QPushButton::clicked, this, &CorvaneAppDelegate::Check_List);
     connect(m_arrivals.get(), &List_Arrivals::Paste_Wanted, this, &CorvaneAppDelegate::Paste_Numbers);
     connect(m_arrivals.get(), &List_Arrivals::Dropped, this, &CorvaneAppDelegate::Dropped_File);
     connect(m_ui->Export_Btn, &QPushButton::clicked, this, &CorvaneAppDelegate::Export_Btn);

@@ -13,6 +13,7 @@
 class Awaited_Reports;
 class Composer;
 class Confirm_Boxes;
+class Contact_Desk;
 class Job_Follow_Up;
 class List_Arrivals;
 class Number_Import;
@@ -128,6 +129,8 @@ public Q_SLOTS:
     void Reset_Btn();
     void doubleClickInTable();
     void Load_Number();
+    void Import_Contacts();
+    void Check_List();
     /// Adds the numbers in the clipboard's lines, with the composer's text as their message.
     void Paste_Numbers();
     /// A file was dropped on the recipient list.
@@ -183,6 +186,8 @@ private:
     void Finish_Import();
     void End_Import();
 
+    void Make_Contact_Desk();
+
     std::unique_ptr<Ui::CorvaneAppDelegate> m_ui;
     std::unique_ptr<MFCSMS> mfc_sms_obj;
     Recipient_List nsListDataObject;
@@ -202,6 +207,7 @@ private:
     std::unique_ptr<Send_Runner> m_send_runner;
     std::unique_ptr<Job_Follow_Up> m_follow_up;
     std::unique_ptr<Number_Import> m_import;
+    std::unique_ptr<Contact_Desk> m_contacts;
     std::unique_ptr<List_Arrivals> m_arrivals;
     PleaseWait_Modeless* m_please_wait = nullptr;
     std::unique_ptr<Window_Work> m_work;

@@ -10,6 +10,7 @@
 #include "toolkit/Window_Work.h"
 #include "ui_CorvaneAppDelegate.h"
 #include "windows/main/Composer.h"
+#include "windows/main/Contact_Desk.h"
 #include "windows/main/CorvaneAppDelegate.h"
 #include "windows/main/List_Arrivals.h"
 #include "windows/main/Load_Num_Info.h"
@@ -31,10 +32,27 @@ void CorvaneAppDelegate::Load_Number()
         Load_NUM_Thread(*path);
 }
 
-// A list of numbers, as if it had been picked in the panel. Files of other kinds are to be told apart here.
+void CorvaneAppDelegate::Make_Contact_Desk()
+{
+    m_contacts = std::make_unique<Contact_Desk>(
+        *this, *m_work,
+        Contact_Desk::Controls{*m_ui->Insert_Field, *m_ui->idTableView, *m_ui->_Fields_Strip, *m_ui->_Import_Strip});
+}
+
+void CorvaneAppDelegate::Import_Contacts()
+{
+    m_contacts->Import_Contacts();
+}
+
+void CorvaneAppDelegate::Check_List()
+{
+    m_contacts->Check_List();
+}
+
+// A list of numbers, as if it had been picked in the panel, or contacts.
 void CorvaneAppDelegate::Dropped_File(const QString& path)
 {
-    if (May_Import_File())
+    if (!m_contacts->Import_Dropped(path) && May_Import_File())
         Load_NUM_Thread(path);
 }
 
@@ -59,7 +77,8 @@ void CorvaneAppDelegate::Load_NUM_Thread(const QString& path)
 
 void CorvaneAppDelegate::Paste_Numbers()
 {
-    Start_Import({}, QGuiApplication::clipboard()->text());
+    if (!m_contacts->Import_Clipboard_Table())
+        Start_Import({}, QGuiApplication::clipboard()->text());
 }
 
 void CorvaneAppDelegate::Start_Import(const QString& path, const std::optional<QString>& pasted)

@@ -13,6 +13,7 @@
 #include "windows/list/List_Dialogs.h"
 #include "windows/main/Composer.h"
 #include "windows/main/Confirm_Boxes.h"
+#include "windows/main/Contact_Desk.h"
 #include "windows/main/CorvaneAppDelegate.h"
 #include "windows/main/List_Arrivals.h"
 #include "windows/main/List_Cells.h"
@@ -89,6 +90,7 @@ void CorvaneAppDelegate::Update_List_Count()
 void CorvaneAppDelegate::Show_List_Count(int count)
 {
     m_ui->_gsm_list_count->setText(Texts::Total_Numbers + QString::number(count));
+    m_contacts->List_Changed();
 }
 
 bool CorvaneAppDelegate::Blank_Msg_Chk() const

@@ -1,5 +1,6 @@
 #include "engine/Outcome_Words.h"
 #include "ui_CorvaneAppDelegate.h"
+#include "windows/main/Contact_Desk.h"
 #include "windows/main/CorvaneAppDelegate.h"
 #include "windows/main/Recipient_Rows.h"
 #include "windows/main/Send_Promise.h"
@@ -59,6 +60,7 @@ void CorvaneAppDelegate::End_Outcomes()
     m_takes_outcomes = false;
     m_promise->Changed(); // it is known better now how long a message takes
     Look_For_Not_Taken();
+    m_contacts->Job_Ended();
 }
 
 // The rows that a job reports are those of the list that it took. In a list that is another meanwhile they would stand

@@ -91,7 +91,7 @@ void Send_Promise::Begin_Count()
     Send_Order order = Present_Order();
     const Plan_Manner manner = Manner_Of(order.choices, order.service_centre);
     if (order.recipients.Count() <= Few_Recipients) {
-        Take(Sums_Of(order, manner));
+        Take(Sums_Of(Plan_Of(order, manner)));
         return;
     }
     auto count = std::make_shared<Count>();
@@ -99,8 +99,8 @@ void Send_Promise::Begin_Count()
     count->manner = manner;
     const bool is_started = Start_Worker_If_Possible("promise", [this, count] {
         const auto end = qScopeGuard([&] { count->has_let_go.release(); });
-        const Job_Sums sums =
-            Sums_Of(count->order, count->manner, [&] { return count->is_stopped.load() || Program_Is_Exiting(); });
+        const Job_Sums sums = Sums_Of(
+            Plan_Of(count->order, count->manner, [&] { return count->is_stopped.load() || Program_Is_Exiting(); }));
         count->order = {};
         if (count->is_stopped || Program_Is_Exiting())
             return;

@@ -52,21 +52,21 @@ void Timed_Progress::Begin_Sending()
 void Timed_Progress::Count_What_Is_Ahead()
 {
     if (m_order.recipients.Count() <= Few_Recipients) {
-        m_time_left->Take_Sums(Sums_Of(m_order, m_manner));
+        m_time_left->Take_Sums(Sums_Of(Plan_Of(m_order, m_manner)));
         return;
     }
-    Start_Worker_If_Possible(
-        "time left", [order = m_order, manner = m_manner, time_left = m_time_left, is_over = m_is_over] {
-            const Job_Sums sums = Sums_Of(order, manner, [&] { return is_over->load() || Program_Is_Exiting(); });
-            if (!*is_over)
-                time_left->Take_Sums(sums);
-        });
+    Start_Worker_If_Possible("time left", [order = m_order, manner = m_manner, time_left = m_time_left,
+                                           is_over = m_is_over] {
+        const Job_Sums sums = Sums_Of(Plan_Of(order, manner, [&] { return is_over->load() || Program_Is_Exiting(); }));
+        if (!*is_over)
+            time_left->Take_Sums(sums);
+    });
 }
 
 void Timed_Progress::Show_Item(int position, int total, const QString& number)
 {
-    const Planned_Row row = Row_Of_Order(m_order, m_manner, position - 1);
-    m_row_parts = Parts_Of_Row(row, m_manner);
+    const QString text = Text_To_Send(m_order.recipients, position - 1).text;
+    m_row_parts = Parts_Of_Row({position, number, text, {}}, m_manner);
     m_was_settled = false;
     m_time_left->Row_Begins(m_row_parts, Now_Seconds());
     m_shown.Show_Item(position, total, number);
@@ -84,6 +84,7 @@ void Timed_Progress::Row_Ended(const Row_Outcome& outcome)
     case Row_State::Repeated:
     case Row_State::Skipped:
     case Row_State::Invalid_Number:
+    case Row_State::Not_Filled:
         m_time_left->Row_Ends(Time_Left::Row_End::Left_Out, Now_Seconds());
         return;
     case Row_State::Not_Tried: // it was stopped meanwhile

@@ -3,10 +3,11 @@
 arrive as it was given.
 
     Clients.py gammu|smsd CORVANE-PHONE
-    Clients.py hand_over CORVANE-PHONE CORVANE-SEND
+    Clients.py hand_over|hand_over_to_two CORVANE-PHONE CORVANE-SEND
 
-The last is smsd again, which sends what corvane-send has handed over to it."""
+The last two are smsd again, which sends what corvane-send has handed over to it, with one phone and with two."""
 
+import csv
 import json
 import os
 import shutil
@@ -15,6 +16,7 @@ import subprocess
 import sys
 import tempfile
 import threading
+import time
 from pathlib import Path
 from queue import Empty, Queue
 
@@ -38,6 +40,7 @@ class Phone:
     """corvane-phone as a child, and what it tells."""
 
     def __init__(self, program):
+        self.program = program
         self.child = subprocess.Popen([program, "--until-stdin-closes"], stdin=subprocess.PIPE, stdout=subprocess.PIPE)
         self.device = self.child.stdout.readline().decode().strip()
         self.told = Queue()
@@ -102,7 +105,7 @@ def gammu(phone, folder):
         expect_message(phone, text, parts)
 
 
-SMSD_CONFIGURATION = """devices = GSM1
+SMSD_CONFIGURATION = """devices = {1}
 outgoing = {0}/outgoing
 checked = {0}/checked
 incoming = {0}/incoming
@@ -115,13 +118,28 @@ loglevel = 7
 delaytime = 1
 errorsleeptime = 1
 autosplit = 3
-
-[GSM1]
+"""
+SMSD_DEVICE = """
+[{0}]
 device = {1}
 init = AT+CNMI=2,1,0,0,0
 incoming = no
 baudrate = 115200
 """
+
+
+def messages_of(phones, count):
+    """As many messages, in the order of their texts, each with the place of the phone that shows it."""
+    messages = []
+    end = time.monotonic() + PATIENCE
+    while len(messages) < count:
+        for place, phone in enumerate(phones):
+            while not phone.told.empty():
+                messages.append({**phone.told.get(), "phone": place})
+        if time.monotonic() > end:
+            raise Trouble(f"{len(messages)} of {count} messages came within {PATIENCE} seconds")
+        time.sleep(0.05)
+    return sorted(messages, key=lambda message: message["text"])
 
 
 def stop(child):
@@ -134,18 +152,22 @@ def stop(child):
         child.wait()
 
 
-def run_smsd(phone, folder, files):
-    """The messages that smsd sends, in the order of their texts; files are name and bytes of each in its spool."""
+def run_smsd(phones, folder, files):
+    """The messages that smsd sends with these phones, in the order of their texts; files are name and bytes of each in
+    its spool."""
     program = program_of("smsd", "smstools")
     for name in ("outgoing", "checked", "incoming", "sent", "failed"):
         (folder / name).mkdir()
-    (folder / "smsd.conf").write_text(SMSD_CONFIGURATION.format(folder, phone.device), encoding="utf-8")
+    devices = {f"GSM{place + 1}": phone.device for place, phone in enumerate(phones)}
+    (folder / "smsd.conf").write_text(SMSD_CONFIGURATION.format(folder, ", ".join(devices)) +
+                                      "".join(SMSD_DEVICE.format(*device) for device in devices.items()),
+                                      encoding="utf-8")
     for name, content in files:
         (folder / "outgoing" / name).write_bytes(content)
     child = subprocess.Popen([program, "-t", "-c", folder / "smsd.conf"], stdin=subprocess.DEVNULL,
                              stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, start_new_session=True)
     try:
-        return sorted((phone.message() for _ in files), key=lambda message: message["text"])
+        return messages_of(phones, len(files))
     except Trouble as trouble:
         raise Trouble(f"{trouble}; smsd wrote:\n{(folder / 'log').read_text(errors='replace')}") from None
     finally:
@@ -155,8 +177,8 @@ def run_smsd(phone, folder, files):
 def smsd(phone, folder):
     spool = ((SHORT, 1, "UTF-8", SHORT.encode()), (UNICODE, 1, "UCS2", UNICODE.encode("utf-16-be")),
              (LONG, 3, "UTF-8", LONG.encode()))
-    arrived = run_smsd(phone, folder, [(str(place), f"To: {NUMBER[1:]}\nAlphabet: {alphabet}\n\n".encode() + body)
-                                       for place, (_, _, alphabet, body) in enumerate(spool)])
+    arrived = run_smsd([phone], folder, [(str(place), f"To: {NUMBER[1:]}\nAlphabet: {alphabet}\n\n".encode() + body)
+                                         for place, (_, _, alphabet, body) in enumerate(spool)])
     expected = sorted((text, parts, NUMBER) for text, parts, _, _ in spool)
     expect("messages", expected, [(message["text"], message["parts"], message["number"]) for message in arrived])
 
@@ -183,11 +205,39 @@ def hand_over(phone, folder, corvane_send):
         spool = list((folder / name / "spool").iterdir())
         expect(f"files for {name}", 1, len(spool))
         files.append((name, spool[0].read_bytes()))
-    arrived = run_smsd(phone, folder, files)
+    arrived = run_smsd([phone], folder, files)
     expected = sorted((text, shown_number, parts, shown_class)
                       for _, _, text, _, shown_number, parts, shown_class in handed)
     expect("messages", expected, [(message["text"], message["number"], message["parts"], message["class"])
                                   for message in arrived])
+
+
+def hand_over_to_two(phone, folder, corvane_send):
+    """Each of forty people gets a text of their own, from one of the two phones and once."""
+    people = [(f"+1555000{place:04}", f"{'Zoë' if place % 3 else 'Аня'} {place}") for place in range(40)]
+    table = folder / "people.csv"
+    with table.open("w", encoding="utf-8", newline="") as file:
+        csv.writer(file).writerows([("Phone", "Name"), *people])
+    handed = folder / "handed"
+    subprocess.run([corvane_send, "--table", table, "--message", "Dear {{Name}}, 5 € " + "a" * 130, "--hand-over", handed],
+                   stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, timeout=PATIENCE, check=True,
+                   env={**os.environ, "XDG_DATA_HOME": str(folder)})
+    with (handed / "list.csv").open(encoding="utf-8-sig", newline="") as file:
+        listed = [(row["number"], row["text"], int(row["parts"])) for row in csv.DictReader(file)]
+    expect("numbers and texts in the list", [(number, f"Dear {name}, 5 € " + "a" * 130) for number, name in people],
+           [(number, text) for number, text, _ in listed])
+    other = Phone(phone.program)
+    try:
+        arrived = run_smsd([phone, other], folder, [(path.name, path.read_bytes())
+                                                    for path in (handed / "spool").iterdir()])
+        if not other.told.empty():
+            raise Trouble(f"a message too many: {other.told.get()}")
+    finally:
+        other.end()
+    expect("messages", sorted(listed), sorted((message["number"], message["text"], message["parts"])
+                                              for message in arrived))
+    if len({message["phone"] for message in arrived}) != 2:
+        raise Trouble("one of the phones sent nothing")
 
 
 def main():
@@ -196,7 +246,8 @@ def main():
         with tempfile.TemporaryDirectory(prefix="corvane-") as folder:
             phone = Phone(program)
             try:
-                {"gammu": gammu, "smsd": smsd, "hand_over": hand_over}[client](phone, Path(folder), *others)
+                {"gammu": gammu, "smsd": smsd, "hand_over": hand_over,
+                 "hand_over_to_two": hand_over_to_two}[client](phone, Path(folder), *others)
             finally:
                 phone.end()
             if not phone.told.empty():

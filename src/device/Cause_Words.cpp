@@ -1,4 +1,4 @@
-#include "engine/Send_Cause_Words.h"
+#include "device/Cause_Words.h"
 
 #include <algorithm>
 #include <iterator>

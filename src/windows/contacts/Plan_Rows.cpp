@@ -1,0 +1,79 @@
+#include "windows/contacts/Plan_Rows.h"
+
+#include "windows/contacts/Plan_Words.h"
+
+#include <algorithm>
+#include <utility>
+
+int Plan_View::Index_Of(int row) const
+{
+    if (!is_filtered)
+        return plan && row >= 0 && row < plan->Count() ? row : -1;
+    const auto place = std::lower_bound(rows.begin(), rows.end(), row);
+    return place != rows.end() && *place == row ? static_cast<int>(place - rows.begin()) : -1;
+}
+
+// The columns in the order of their enumeration; cells are read in data().
+Plan_Rows::Plan_Rows(QObject* parent)
+    : Row_Table_Model(
+          {{QStringLiteral("Row"), tr("Row")},
+           {QStringLiteral("Written"), tr("Number as written")},
+           {QStringLiteral("Number"), tr("As dialled")},
+           {QStringLiteral("Text"), tr("Message")},
+           {QStringLiteral("Parts"), tr("Parts")},
+           {QStringLiteral("Verdict"), tr("Verdict")},
+           {QStringLiteral("Reason"), tr("Remark")}},
+          [this] { return m_view ? m_view->Count() : 0; }, [](const QString&, int) { return QString(); }, parent)
+{
+}
+
+void Plan_Rows::Take(std::shared_ptr<const Plan_View> view)
+{
+    m_view = std::move(view);
+    Reload();
+}
+
+Qt::ItemFlags Plan_Rows::flags(const QModelIndex& index) const
+{
+    const auto usual = Row_Table_Model::flags(index);
+    return index.isValid() && m_can_edit && index.column() == Written ? usual | Qt::ItemIsEditable : usual;
+}
+
+QVariant Plan_Rows::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid() || !m_view || index.row() >= m_view->Count() ||
+        (role != Qt::DisplayRole && role != Qt::EditRole))
+        return {};
+    return Cell(static_cast<Column>(index.column()), m_view->Row_At(index.row()));
+}
+
+bool Plan_Rows::setData(const QModelIndex& index, const QVariant& value, int role)
+{
+    if (!index.isValid() || role != Qt::EditRole || index.column() != Written || !m_view ||
+        index.row() >= m_view->Count() || value.toString() == data(index, Qt::EditRole).toString())
+        return false;
+    Q_EMIT Number_Written(m_view->Row_At(index.row()), value.toString());
+    return true;
+}
+
+QString Plan_Rows::Cell(Column column, int row) const
+{
+    const Job_Plan& plan = *m_view->plan;
+    switch (column) {
+    case Row:
+        return QString::number(plan.Source_Row(row));
+    case Written:
+        return plan.Written_Number(row);
+    case Number:
+        return plan.Number_Of(row);
+    case Text:
+        return plan.Text_Of(row);
+    case Parts:
+        return plan.Verdict_Of(row) == Row_Verdict::Send ? QString::number(plan.Parts_Of(row)) : QString();
+    case Verdict:
+        return Plan_Words::Signed_Verdict(plan.Verdict_Of(row));
+    case Reason:
+        return plan.Reason_Of(row);
+    }
+    return {};
+}

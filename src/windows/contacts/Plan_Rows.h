@@ -1,0 +1,58 @@
+#pragma once
+
+#include "plan/Job_Plan.h"
+#include "toolkit/Row_Table_Model.h"
+
+#include <memory>
+
+/// A plan as it is shown: all of its rows, or some.
+struct Plan_View
+{
+    std::shared_ptr<const Job_Plan> plan;
+    Plan_Sums sums;
+    bool is_filtered = false;
+    std::vector<int> rows; ///< of the plan, in their order, where it is filtered
+
+    int Count() const { return !plan ? 0 : is_filtered ? static_cast<int>(rows.size()) : plan->Count(); }
+    int Row_At(int index) const { return is_filtered ? rows[static_cast<std::size_t>(index)] : index; }
+    /// Where a row is shown; -1 where it is not.
+    int Index_Of(int row) const;
+};
+
+// The rows of a plan in a table, each put into words when the table asks for it. Numbers can be edited. Part of its
+// page; interface thread.
+class Plan_Rows : public Row_Table_Model
+{
+    Q_OBJECT
+
+public:
+    enum Column
+    {
+        Row,
+        Written,
+        Number,
+        Text,
+        Parts,
+        Verdict,
+        Reason
+    };
+
+    explicit Plan_Rows(QObject* parent = nullptr);
+
+    void Take(std::shared_ptr<const Plan_View> view);
+    void Let_Edit(bool can_edit) { m_can_edit = can_edit; }
+
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+
+Q_SIGNALS:
+    /// Somebody has written another number for a row of the plan.
+    void Number_Written(int row, const QString& number);
+
+private:
+    QString Cell(Column column, int row) const;
+
+    std::shared_ptr<const Plan_View> m_view;
+    bool m_can_edit = true;
+};

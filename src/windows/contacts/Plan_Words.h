@@ -1,0 +1,21 @@
+#pragma once
+
+#include "plan/Job_Plan.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+
+// What the sheet says about a plan. Any thread.
+class Plan_Words
+{
+    Q_DECLARE_TR_FUNCTIONS(Plan_Words)
+
+public:
+    /// A sign and a word.
+    static QString Signed_Verdict(Row_Verdict verdict);
+    /// How many are to be sent, in how many parts, how long that takes, and what is left out and why. The job would
+    /// begin now.
+    static QString Sums(const Plan_Sums& sums, const QDateTime& now);
+    /// Which characters make messages Unicode; empty where none does.
+    static QString Causes(const Plan_Sums& sums);
+};
