@@ -82,7 +82,7 @@ void Plan_Page::Set_Up_Table()
     const QFontMetrics letters = table.fontMetrics();
     const std::pair<Plan_Rows::Column, int> Widths[] = {{Plan_Rows::Row, 9},      {Plan_Rows::Written, 22},
                                                         {Plan_Rows::Number, 20},  {Plan_Rows::Parts, 8},
-                                                        {Plan_Rows::Verdict, 20}, {Plan_Rows::Reason, 34}};
+                                                        {Plan_Rows::Verdict, 24}, {Plan_Rows::Reason, 34}};
     for (const auto& [column, columns] : Widths)
         table.setColumnWidth(column, letters.averageCharWidth() * columns);
     Give_Table_Keys(table, {[&table] {

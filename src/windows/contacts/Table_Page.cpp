@@ -51,7 +51,6 @@ Table_Page::Table_Page(QWidget* parent)
 {
     m_ui->setupUi(this);
     Prepare_List_Table(*m_ui->_Sample, *m_sample);
-    m_ui->_Sample->horizontalHeader()->setStretchLastSection(false);
     m_ui->_Sample->horizontalHeader()->setDefaultSectionSize(fontMetrics().averageCharWidth() * 20);
     Offer_Ways_Of_Reading();
     Offer_Countries();
