@@ -25,6 +25,7 @@ bool Has_Blank_Message(const Main_Window& window)
 
 Fill_Msg_In_List::Fill_Msg_In_List(QWidget* parent) : Working_Dialog(parent)
 {
+    setTabOrder(m_ui->_fill_msg_blank, m_ui->_Bubble->findChild<QWidget*>(QStringLiteral("_Shown_Text")));
     connect(m_ui->_fill_msg_all, &QRadioButton::clicked, this, &Fill_Msg_In_List::Fill_To_ALL_Pressed);
     connect(m_ui->_fill_msg_selected, &QRadioButton::clicked, this, &Fill_Msg_In_List::Fill_To_Selected_Pressed);
     connect(m_ui->_fill_msg_blank, &QRadioButton::clicked, this, &Fill_Msg_In_List::Fill_To_Blank_Pressed);
@@ -107,5 +108,6 @@ bool Fill_Msg_In_List::Is_Meant(Fill_Rules::Choice choice) const
 void Fill_Msg_In_List::End_With(int code)
 {
     Fill_To_ALL_Pressed();
+    m_ui->_Bubble->Show_Message({}, {});
     done(code);
 }

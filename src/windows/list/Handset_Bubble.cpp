@@ -76,17 +76,30 @@ void Handset_Bubble::Follow(QPlainTextEdit& editor, QLabel& parts, std::function
     m_parts = &parts;
     m_terms = std::move(terms);
     m_parts->hide();
+    QWidget* before = m_editor;
+    for (QWidget* next : std::initializer_list<QWidget*>{m_ui->_Shown_Text, m_ui->Send_As_Unicode, m_ui->Replace_One,
+                                                         m_ui->Replace_All, m_ui->Replace_Script})
+        setTabOrder(std::exchange(before, next), next);
     connect(m_editor, &QPlainTextEdit::textChanged, this, &Handset_Bubble::Look_Again);
 }
 
 void Handset_Bubble::Show_Message(const QString& message, const Terms& terms)
 {
-    Show_Preview(message, 0, terms);
+    if (message.isEmpty())
+        Show_Nothing();
+    else
+        Show_Preview(message, 0, terms);
 }
 
 void Handset_Bubble::Look_Again()
 {
-    if (!m_editor || std::exchange(m_is_due, true))
+    if (!m_editor)
+        return;
+    if (Text_Length(*m_editor) == 0) { // at once: a window that closes leaves nothing behind
+        Show_Nothing();
+        return;
+    }
+    if (std::exchange(m_is_due, true))
         return;
     QMetaObject::invokeMethod(this, &Handset_Bubble::Look, Qt::QueuedConnection);
 }
@@ -96,13 +109,18 @@ void Handset_Bubble::Look()
     m_is_due = false;
     ++m_looks;
     const QString text = Exact_Text(*m_editor).left(Longest_Message);
-    Show_Preview(text, m_editor->textCursor().position(), m_terms());
+    if (text.isEmpty()) // and nobody may be left to ask for terms
+        Show_Nothing();
+    else
+        Show_Preview(text, m_editor->textCursor().position(), m_terms());
     Mark_Places(*m_editor, m_preview.places);
 }
 
 void Handset_Bubble::Show_Nothing()
 {
     m_preview = {};
+    m_ui->_Shown_Text->Show_Text({}, 0);
+    m_ui->_Bubble_Words->clear();
     hide();
     if (m_parts)
         Say(*m_parts, {});
@@ -110,10 +128,6 @@ void Handset_Bubble::Show_Nothing()
 
 void Handset_Bubble::Show_Preview(const QString& text, int place, const Terms& terms)
 {
-    if (text.isEmpty()) {
-        Show_Nothing();
-        return;
-    }
     const QString number = terms.number.isEmpty() ? Usual_Number : terms.number;
     const Filled_Message filled = Filled(text, terms);
     m_preview = Preview_Of_Message(text, number, terms.manner);

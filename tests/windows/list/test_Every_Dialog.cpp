@@ -33,7 +33,7 @@ void PrintTo(const Kind& kind, std::ostream* stream)
 const Kind Fill = {"Fill_Msg_In_List",
                    Open_Fill_Dialog,
                    Instance<Fill_Msg_In_List>,
-                   {"_fill_msg_all", "OKPressed", "CancelPressed"},
+                   {"_fill_msg_all", "_Shown_Text", "OKPressed", "CancelPressed"},
                    {"Yes"}};
 const Kind Send = {"Send_Msg_Info",
                    [](Main_Window& window) { Ask_Send_Msg_Info(window); },
@@ -41,11 +41,12 @@ const Kind Send = {"Send_Msg_Info",
                    {"_fill_msg_all", "OKPressed", "ContinuePressed", "CancelPressed"},
                    {},
                    Send_Msg_Info::Cancelled};
-const Kind Edit = {"Update_Num_SMS",
-                   [](Main_Window& window) { Open_Edit_Dialog(window, 0); },
-                   Instance<Update_Num_SMS>,
-                   {"m_num_str", "m_msg_str", "_Skip_Duplicate_Chk", "_Exclusion_Chk", "OKPressed", "CancelPressed"},
-                   {}};
+const Kind Edit = {
+    "Update_Num_SMS",
+    [](Main_Window& window) { Open_Edit_Dialog(window, 0); },
+    Instance<Update_Num_SMS>,
+    {"m_num_str", "m_msg_str", "_Shown_Text", "_Skip_Duplicate_Chk", "_Exclusion_Chk", "OKPressed", "CancelPressed"},
+    {}};
 const Kind Update = {"Update_Sel_Num_SMS",
                      Open_Update_Selected,
                      Instance<Update_Sel_Num_SMS>,
@@ -79,7 +80,7 @@ protected:
             blank->click();
         for (auto* number : m_dialog->findChildren<QLineEdit*>("m_num_str"))
             number->setText("777");
-        for (auto* message : m_dialog->findChildren<QPlainTextEdit*>()) {
+        for (auto* message : m_dialog->findChildren<QPlainTextEdit*>("m_msg_str")) {
             message->setFocus();
             message->setPlainText("new");
         }
