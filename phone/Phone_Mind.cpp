@@ -1,5 +1,7 @@
 #include "phone/Phone_Mind.h"
 
+#include "phone/Manner_Kinds.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -20,22 +22,6 @@ bool Begins_A_Command(std::string_view line)
 }
 
 using Kind = Message_Manner::Kind;
-
-bool Is_At_Once(Kind kind)
-{
-    return kind == Kind::Refused_At_Once;
-}
-
-bool Is_Delay(Kind kind)
-{
-    return kind == Kind::Delayed || kind == Kind::At_The_Next_Command || kind == Kind::Behind_The_Next_Prompt ||
-           kind == Kind::Behind_The_Next_Message;
-}
-
-bool Is_Result(Kind kind)
-{
-    return !Is_At_Once(kind) && !Is_Delay(kind);
-}
 
 } // namespace
 

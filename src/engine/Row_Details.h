@@ -34,8 +34,8 @@ class Confirmed_Watcher
 public:
     virtual ~Confirmed_Watcher() = default;
 
-    /// Each recipient that was reached, once, in the order of the list. Not_Tried is one whose first parts were sent
-    /// when the job ended.
+    /// Each recipient that was reached, once, in the order of the list. Not_Tried is one of which the
+    /// device was given a part, taken or not, before the job ended.
     virtual void Row_Done(int index, const Row_Details& details) = 0;
     /// The job waits until the device's state is right, and then goes on by itself.
     virtual void Held(const QString& reason) = 0;
