@@ -282,10 +282,12 @@ TEST_F(Main_Window_Size, Tab_Goes_From_The_Number_To_Send_Through_Every_Control)
     The<QCheckBox>("_Confirm_Chk").click();
     The<QWidget>("_numberEdit").setFocus();
     EXPECT_EQ(Tab_Order(*m_delegate).join(u' '),
-              "_numberEdit Add_Number Load_Number idTableView Export_Btn Clear_Sel_Btn Clear_All_Btn _messageEdit "
+              "_numberEdit Add_Number Load_Number Import_Contacts idTableView Export_Btn Clear_Sel_Btn Clear_All_Btn "
+              "_messageEdit "
               "Update_Sel_Msgs_Btn Fill_Msg_Btn _Msg_TypeComboBox _Unicode_SMS_Chk _Skip_Duplicate_Chk _Exclusion_Chk "
               "View_ExclusionWizrd_Btn _Save_Sent_Item_Chk Sent_Item_Btn _Save_Templates_Chk View_Templates_Btn "
               "_Confirm_Chk View_Receipts_Btn _Reports_Chk _Keep_Receipt_Chk _Remember_Confirm_Chk "
-              "_Delayed_Delivry_Chk _delayed_msg_count_combo _delayed_time_combo _sent_btn Exit_Btn Help_Btn Reset_Btn "
+              "_Delayed_Delivry_Chk _delayed_msg_count_combo _delayed_time_combo _sent_btn Check_List Exit_Btn "
+              "Help_Btn Reset_Btn "
               "_NO_Device_Ticker Search_All_Modem");
 }
