@@ -9,6 +9,7 @@
 #include "windows/list/Bubble_Words.h"
 #include "windows/list/Text_Marks.h"
 
+#include <QResizeEvent>
 #include <algorithm>
 
 namespace {
@@ -146,7 +147,21 @@ void Handset_Bubble::Show_Preview(const QString& text, int place, const Terms& t
     if (m_parts)
         Say(*m_parts, is_sent ? Bubble_Words::Parts(sent) : QString());
     Show_Help(text, terms.manner);
+    Fit_Height();
     show();
+}
+
+// Layouts around it work out a height that depends on the width for widths that it does not get, and cut something.
+void Handset_Bubble::Fit_Height()
+{
+    setFixedHeight(layout()->totalHeightForWidth(width()));
+}
+
+void Handset_Bubble::resizeEvent(QResizeEvent* event)
+{
+    QFrame::resizeEvent(event);
+    if (event->oldSize().width() != event->size().width())
+        Fit_Height();
 }
 
 int Handset_Bubble::First_Replaceable() const

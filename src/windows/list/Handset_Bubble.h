@@ -55,8 +55,12 @@ public:
 Q_SIGNALS:
     void Unicode_Wanted();
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     void Look();
+    void Fit_Height();
     void Show_Nothing();
     void Show_Preview(const QString& text, int place, const Terms& terms);
     void Show_Help(const QString& text, const Plan_Manner& manner);

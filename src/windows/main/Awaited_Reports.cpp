@@ -14,6 +14,12 @@ namespace {
 
 constexpr double Seconds_To_Listen = 30;
 
+// The system gives the name of a line that has gone to whatever is plugged in next; a link is made for one device.
+bool Stays_With_Its_Device(const QString& path)
+{
+    return QFileInfo(path).isSymLink();
+}
+
 } // namespace
 
 void Awaited_Reports::Look(const QString& device_path)
@@ -31,7 +37,7 @@ void Awaited_Reports::Look(const QString& device_path)
 int Awaited_Reports::Collect(const QString& device_path, const QString& folder)
 {
     const auto job = Job_That_Awaits_Reports(folder);
-    if (!job)
+    if (!job || (device_path.isEmpty() && !Stays_With_Its_Device(job->device)))
         return 0;
     const std::unique_lock look(m_looking, std::try_to_lock);
     if (!look || m_wanted > 0 || m_stop == 1)

@@ -38,8 +38,17 @@ protected:
 
     QString Phone() const { return QString::fromStdString(m_phone.Path()); }
 
+    /// A name that stays with the phone.
+    QString Lasting_Name() const
+    {
+        const QString link = m_links.filePath(QStringLiteral("phone"));
+        QFile::link(Phone(), link); // where there is none yet
+        return link;
+    }
+
     /// A job of one message, through this phone and its card. Its journal's path.
-    QString Make_Job(const Left_Behind& left) const
+    QString Make_Job(const Left_Behind& left) const { return Make_Job(left, Lasting_Name()); }
+    static QString Make_Job(const Left_Behind& left, const QString& device)
     {
         Job_Options options;
         options.report_seconds = left.has_asked ? 0 : -1;
@@ -48,7 +57,7 @@ protected:
         row.number = Number;
         row.text = QStringLiteral("Hello");
         const auto opened =
-            Job_Journal::Create(Jobs_Folder_Path, {QStringLiteral("20261121-101500-0001"), imsi, Phone(), options},
+            Job_Journal::Create(Jobs_Folder_Path, {QStringLiteral("20261121-101500-0001"), imsi, device, options},
                                 [row, is_taken = false]() mutable {
                                     return std::exchange(is_taken, true) ? std::nullopt : std::optional(row);
                                 });
@@ -120,6 +129,8 @@ protected:
         ASSERT_TRUE(Serve_Until([&] { return Noted(path) == 1; }));
         Set_Pace(250);
     }
+
+    QTemporaryDir m_links;
 };
 
 } // namespace
@@ -149,6 +160,20 @@ TEST_F(Awaited_Reports_Test, Are_Noted_At_The_Next_Start_Through_The_Device_Of_T
     EXPECT_EQ(Noted(path), 1);
     EXPECT_TRUE(sel_port_bsd_str.isEmpty()) << "nobody has chosen it";
     EXPECT_THAT(user.Was_Shown(), IsEmpty());
+}
+
+TEST_F(Awaited_Reports_Test, Are_Not_Looked_For_On_A_Line_That_May_Be_Another_Devices_By_Now)
+{
+    const QString path = Make_Job({"awaiting", true}, Phone());
+    The_Phone_Has_A_Report();
+    m_phone.Forget();
+    Start_Again();
+    Await_Workers();
+    EXPECT_EQ(Noted(path), 0);
+    EXPECT_EQ(m_phone.Heard_Bytes(), "");
+    Choose_The_Phone();
+    Await_Workers();
+    EXPECT_EQ(Noted(path), 1);
 }
 
 TEST_F(Awaited_Reports_Test, Whose_Device_Is_Gone_Wait)
