@@ -8,8 +8,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-// Files that are spoilt, or made to spoil a program: each is read by a process of its own that has little time and little
-// memory, and what it says is compared word for word.
+// Files that are spoilt, or made to spoil a program: each is read by a process of its own that has little time and
+// little memory, and what it says is compared word for word.
 
 namespace {
 
@@ -45,8 +45,9 @@ class Broken_Files : public testing::TestWithParam<Broken_File>
 double Address_Space_In_Use()
 {
     QFile status(QStringLiteral("/proc/self/statm"));
-    return status.open(QIODevice::ReadOnly) ? status.readAll().split(' ').at(0).toDouble() * static_cast<double>(getpagesize())
-                                            : 0;
+    return status.open(QIODevice::ReadOnly)
+               ? status.readAll().split(' ').at(0).toDouble() * static_cast<double>(getpagesize())
+               : 0;
 }
 
 std::string Words_For(const Table_In_A_File& file)

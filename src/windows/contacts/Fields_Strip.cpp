@@ -5,22 +5,28 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <algorithm>
+#include <QTextDocument>
 
 namespace {
 
-constexpr qsizetype Most_Named = 8;     // fields
-constexpr qsizetype Longest_Named = 24; // characters of each
+constexpr qsizetype Longest_Name = 10; // characters of each field
+constexpr qsizetype Most_Named = 18;   // characters of all of them
 
+// As many as fit; the tool tip has them all.
 QString In_Words(const QStringList& names)
 {
     QStringList words;
-    for (const QString& name : names.first(std::min(names.size(), Most_Named))) {
+    qsizetype characters = 0;
+    for (const QString& name : names) {
         const QString line = On_One_Line(name);
-        words.append(line.size() > Longest_Named ? line.left(Longest_Named) + u'\u2026' : line);
+        const QString word = line.size() > Longest_Name ? line.left(Longest_Name - 1) + u'\u2026' : line;
+        characters += word.size();
+        if (!words.isEmpty() && characters > Most_Named)
+            return Fields_Strip::tr("%1 and %2 more")
+                .arg(words.join(QLatin1String(", ")))
+                .arg(names.size() - words.size());
+        words.append(word);
     }
-    if (names.size() > Most_Named)
-        words.append(Fields_Strip::tr("and %1 more").arg(names.size() - Most_Named));
     return words.join(QLatin1String(", "));
 }
 
@@ -32,6 +38,8 @@ Fields_Strip::Fields_Strip(QWidget* parent)
                          tr("Write the list with its messages and fields into a table that can be opened again")))
 {
     setAccessibleName(tr("Fields of the list"));
+    // As those of other strips: beside a height that depends on the width, layouts cut what is below and beside it.
+    m_fields->setWordWrap(false);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(12, 4, 4, 4);
     row->setSpacing(4);
@@ -45,6 +53,7 @@ Fields_Strip::Fields_Strip(QWidget* parent)
 void Fields_Strip::Show_Fields(const QStringList& names)
 {
     m_fields->setText(names.isEmpty() ? QString() : tr("Fields: %1").arg(In_Words(names)));
+    m_fields->setToolTip(Qt::convertFromPlainText(names.join(QLatin1String(", "))));
     setVisible(true);
 }
 

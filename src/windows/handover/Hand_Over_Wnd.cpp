@@ -87,7 +87,7 @@ Hand_Over_Wnd::Hand_Over_Wnd(std::function<Plan()> plan, Program_Settings settin
       m_settings(std::move(settings))
 {
     m_ui->setupUi(this);
-    Apply_Window_Look(*this, Letters{.columns = 84, .lines = 29}); // with room for the result
+    Apply_Window_Look(*this, Letters{.columns = 84, .lines = 35}); // with room for the result
     m_caption = m_ui->Hand_Over_Btn->text();
     m_ui->_Hand_Over_Result->hide();
     connect(m_ui->Hand_Over_Btn, &QPushButton::clicked, this, &Hand_Over_Wnd::Hand_Over_Btn);

@@ -59,9 +59,6 @@ Handset_Bubble::Handset_Bubble(QWidget* parent) : QFrame(parent), m_ui(std::make
     auto* buttons = new Flow_Layout(m_ui->bubble_help);
     for (auto* button : {m_ui->Send_As_Unicode, m_ui->Replace_One, m_ui->Replace_All, m_ui->Replace_Script})
         buttons->addWidget(button);
-    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
-    policy.setHeightForWidth(true);
-    setSizePolicy(policy);
     connect(m_ui->Send_As_Unicode, &QPushButton::clicked, this, &Handset_Bubble::Unicode_Wanted);
     connect(m_ui->Replace_One, &QPushButton::clicked, this, [this] { Replace(Replaced::One); });
     connect(m_ui->Replace_All, &QPushButton::clicked, this, [this] { Replace(Replaced::Common); });
@@ -157,11 +154,19 @@ void Handset_Bubble::Fit_Height()
     setFixedHeight(layout()->totalHeightForWidth(width()));
 }
 
+bool Handset_Bubble::event(QEvent* event)
+{
+    const bool is_taken = QFrame::event(event);
+    if (event->type() == QEvent::LayoutRequest) // what is shown has found its height
+        Fit_Height();
+    return is_taken;
+}
+
 void Handset_Bubble::resizeEvent(QResizeEvent* event)
 {
     QFrame::resizeEvent(event);
-    if (event->oldSize().width() != event->size().width())
-        Fit_Height();
+    if (event->oldSize().width() != event->size().width()) // not within the event, which is another's layout at work
+        QMetaObject::invokeMethod(this, &Handset_Bubble::Fit_Height, Qt::QueuedConnection);
 }
 
 int Handset_Bubble::First_Replaceable() const

@@ -52,10 +52,14 @@ public:
     /// How often they have been looked at.
     int Looks() const { return m_looks; }
 
+    /// Not for the layouts around it; see Fit_Height.
+    bool hasHeightForWidth() const override { return false; }
+
 Q_SIGNALS:
     void Unicode_Wanted();
 
 protected:
+    bool event(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:

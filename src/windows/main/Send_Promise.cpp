@@ -15,6 +15,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScopeGuard>
+#include <algorithm>
 #include <atomic>
 #include <semaphore>
 #include <utility>
@@ -86,7 +87,8 @@ Send_Order Send_Promise::Present_Order() const
 
 void Send_Promise::Begin_Count()
 {
-    List_Will_Change();
+    if (const auto count = std::exchange(m_count, nullptr))
+        count->is_stopped = true; // not awaited: it may be the last that holds a long list, and lets go of it slowly
     m_is_due = false;
     Send_Order order = Present_Order();
     const Plan_Manner manner = Manner_Of(order.choices, order.service_centre);
@@ -145,7 +147,10 @@ void Send_Promise::Show()
 void Send_Promise::Show_Words(const QString& words)
 {
     m_minute.stop();
-    m_controls.words->setText(words);
+    QLabel& label = *m_controls.words;
+    label.setText(words);
+    // Its height stays while the list is counted anew: everything above it would move, and be drawn once more.
+    label.setMinimumHeight(words.isEmpty() ? 0 : std::max(label.minimumHeight(), label.heightForWidth(label.width())));
     m_controls.send->setAccessibleDescription(words);
 }
 
