@@ -3,6 +3,13 @@
 
 namespace {
 
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+constexpr double Slowness = 10;
+#else
+constexpr double Slowness = 1;
+#endif
+
+constexpr double Longest_Away = 0.05 * Slowness; // of the interface thread from its events, in its own seconds
 constexpr int Many = 1'000'000;
 
 QByteArray People()
@@ -38,7 +45,7 @@ TEST_F(Contacts_Test, A_Million_People_Are_Read_Judged_Filtered_And_Added_While_
     Press("Longest_Btn");
     EXPECT_EQ(Rows_Selected_In(Rows()), std::vector<int>{0});
     const double longest_gap = heartbeat.Longest_Gap();
-    EXPECT_LT(longest_gap, heartbeat.Whole() / 20);
+    EXPECT_LT(longest_gap, Longest_Away);
     Click_In(*m_sheet, "Add_To_List");
     Await(120);
     EXPECT_EQ(m_window.m_recipients.Count(), Many);
