@@ -175,11 +175,13 @@ Read_Number International(QString digits, Number_Reading reading)
 
 Read_Number National(const QString& digits, const Country& country, Number_Reading reading)
 {
-    if (digits.size() < Fewest_National || digits.size() + Latin(country.code).size() < Fewest_International ||
+    const bool is_north_american = Latin(country.code).startsWith(u'1');
+    const qsizetype whole = digits.size() + Latin(country.code).size();
+    if (digits.size() < Fewest_National || whole < (is_north_american ? All_North_American : Fewest_International) ||
         digits.size() + More_Or_Less_Than_A_Mobile < country.fewest_digits)
         return {{}, Number_Reading::Too_Short};
     if (digits.size() > country.most_digits + More_Or_Less_Than_A_Mobile ||
-        digits.size() + Latin(country.code).size() > Most_International)
+        whole > (is_north_american ? All_North_American : Most_International))
         return {{}, Number_Reading::Too_Long};
     return {QLatin1String("00") + Latin(country.code) + digits, reading};
 }
