@@ -287,7 +287,7 @@ TEST_F(Job_Journal_Test, A_Report_May_Say_When_Its_Part_Was_Submitted)
 {
     ASSERT_TRUE(Create().journal->Report("001", 17, "0123", 1795252509, 0, 1795252500));
     EXPECT_TRUE(Bytes_Of(Path()).contains("\nD 001 17 0123 0 2026-11-21T09:15:00Z 2026-11-21T09:15:09Z "));
-    const Job_Report& report = Read_Job(Path()).record->Reports().first();
+    const Job_Report report = Read_Job(Path()).record->Reports().first();
     EXPECT_EQ(report.submitted, 1795252500);
     EXPECT_EQ(report.seconds, 1795252509);
 }
