@@ -129,7 +129,8 @@ int main(int count, char** arguments)
         return 2;
     }
     if (options.m_help || options.m_version) {
-        std::fputs(options.m_help ? Handset::Help_Text().c_str() : "corvane-phone " CORVANE_VERSION "\n", stdout);
+        constexpr const char* Version = "corvane-phone " CORVANE_VERSION " (commit " CORVANE_COMMIT ")\n";
+        std::fputs(options.m_help ? Handset::Help_Text().c_str() : Version, stdout);
         return 0;
     }
     try {

@@ -6,6 +6,7 @@ set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 logs="$root/build/logs"
 
+# shellcheck disable=SC2034 # for whoever sources this
 build_packages=(
     g++ cmake ninja-build ccache
     qt6-base-dev qt6-serialport-dev libxcb1-dev libzip-dev pkg-config
@@ -13,6 +14,7 @@ build_packages=(
     xvfb xauth openbox fonts-dejavu-core fonts-noto-core fonts-liberation fonts-cantarell
     dbus at-spi2-core gir1.2-atspi-2.0 python3-pyatspi
 )
+# shellcheck disable=SC2034
 fuzz_packages=(clang libclang-rt-14-dev)
 
 if [ -t 1 ]; then

@@ -24,6 +24,11 @@ int Say_And_End(const QString& line, int status)
     return status;
 }
 
+QString Version()
+{
+    return QStringLiteral(CORVANE_VERSION " (commit " CORVANE_COMMIT ", Qt %1)").arg(QLatin1String(qVersion()));
+}
+
 bool Has_Display()
 {
     return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
@@ -35,7 +40,7 @@ bool Has_Display()
 int main(int argc, char** argv)
 {
     // Answered before the application object is made, which needs a display.
-    const Command_Line command_line = Read_Command_Line(Arguments(argc, argv), QStringLiteral(CORVANE_VERSION));
+    const Command_Line command_line = Read_Command_Line(Arguments(argc, argv), Version());
     if (!command_line.answer.isEmpty())
         return Say_And_End(command_line.answer, command_line.is_mistaken ? 2 : 0);
     const QString pace_error = Take_Pace_From_Environment();
@@ -59,6 +64,7 @@ int main(int argc, char** argv)
     QApplication::setApplicationName(QStringLiteral("corvane"));
     QApplication::setApplicationDisplayName(QStringLiteral("Corvane"));
     QApplication::setApplicationVersion(QStringLiteral(CORVANE_VERSION));
+    QApplication::setDesktopFileName(QStringLiteral(CORVANE_ID)); // by which a desktop finds the icon
     Program program(command_line, &single_start);
     return program.Start() ? program.Run() : 1;
 }

@@ -71,7 +71,8 @@ int main(int argc, char** argv)
     if (arguments.task == Arguments::Task::Show_Help)
         return Show(Help_Text());
     if (arguments.task == Arguments::Task::Show_Version)
-        return Show(QStringLiteral("corvane-send " CORVANE_VERSION));
+        return Show(QStringLiteral("corvane-send " CORVANE_VERSION " (commit " CORVANE_COMMIT ", Qt %1)")
+                        .arg(QLatin1String(qVersion())));
     if (const QString error = Take_Pace_From_Environment(); !error.isEmpty())
         return Fail({QStringLiteral("the environment cannot be used"), error.chopped(1)});
     return Run(argc, argv, arguments);

@@ -6,6 +6,7 @@
 
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::MatchesRegex;
 
 namespace {
 
@@ -68,7 +69,8 @@ TEST(The_Program, Answers_Help_And_Version_Without_A_Display)
     auto environment = QProcessEnvironment::systemEnvironment();
     for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
         environment.remove(QString::fromLatin1(name));
-    EXPECT_THAT(Run_Corvane({"--version"}, environment).output, HasSubstr("corvane "));
+    EXPECT_THAT(Run_Corvane({"--version"}, environment).output,
+                MatchesRegex("corvane [0-9.]+ \\(commit ([0-9a-f]+|unknown), Qt [0-9.]+\\)\n"));
     EXPECT_EQ(Run_Corvane({"--help"}, environment).status, 0);
     const auto without_display = Run_Corvane({}, environment);
     EXPECT_EQ(without_display.status, 2);

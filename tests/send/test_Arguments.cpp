@@ -5,6 +5,7 @@
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::MatchesRegex;
 
 namespace {
 
@@ -207,7 +208,8 @@ TEST_F(Program, Help_And_Version_Are_Answers)
 {
     EXPECT_EQ(Run({"--help"}).status, 0);
     EXPECT_EQ(Run({"--help"}).output, Help_Text().toStdString() + "\n");
-    EXPECT_EQ(Run({"--version"}).output.substr(0, 13), "corvane-send ");
+    EXPECT_THAT(Run({"--version"}).output,
+                MatchesRegex("corvane-send [0-9.]+ \\(commit ([0-9a-f]+|unknown), Qt [0-9.]+\\)\n"));
 }
 
 TEST_F(Program, A_Mistake_Goes_To_Standard_Error_And_Ends_With_2)

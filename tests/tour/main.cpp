@@ -15,7 +15,8 @@
 // A walk through the real program with the virtual phone: its windows are clicked and typed into as a person would,
 // each is photographed, a list is sent, and what the phone received, what the program keeps and what it exported are
 // held against what they must be. A second list goes out message by message, in a program that is killed meanwhile and
-// started again. Exit status 0 only when all is the same. Usage: corvane-tour <picture folder>
+// started again. Exit status 0 only when all is the same. Usage: corvane-tour <picture folder> [<home>]
+// The home is left as the tour leaves it; without one it is removed.
 
 namespace {
 
@@ -64,14 +65,15 @@ int main(int argc, char** argv)
     QStringList words;
     for (int word = 1; word < argc; ++word)
         words.append(QString::fromLocal8Bit(argv[word]));
-    if (words.size() != 1 && words.size() != 3) {
-        fprintf(stderr, "Usage: corvane-tour <picture folder>\n");
+    if (words.isEmpty() || words.size() > 3) {
+        fprintf(stderr, "Usage: corvane-tour <picture folder> [<home>]\n");
         return 2;
     }
-    const QTemporaryDir home(QDir::tempPath() + "/tour-XXXXXX");
-    const bool is_whole = words.size() == 1;
+    const QTemporaryDir folder(QDir::tempPath() + "/tour-XXXXXX");
+    const bool is_whole = words.size() < 3;
+    const QString home = words.size() == 2 ? QDir(words.at(1)).absolutePath() : folder.filePath("choir");
     const QString pictures = QDir(words.at(is_whole ? 0 : 1)).absolutePath();
-    const QString documents = is_whole ? Settle_In(home.filePath("choir")) : QString();
+    const QString documents = is_whole ? Settle_In(home) : QString();
     Set_Pace(10);
     const QString pace_error = Take_Pace_From_Environment();
     if (!pace_error.isEmpty()) {
@@ -84,5 +86,5 @@ int main(int argc, char** argv)
     if (words.constFirst() == After_The_Kill)
         return Run_After_The_Kill(pictures, words.constLast());
     const int status = Take_The_Tour(pictures, documents);
-    return status != 0 ? status : Tour_Of_A_Killed_Program(pictures, home.path());
+    return status != 0 ? status : Tour_Of_A_Killed_Program(pictures, folder.path());
 }
