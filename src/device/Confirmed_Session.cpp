@@ -150,6 +150,8 @@ Device_Condition Confirmed_Session::Condition()
     if (!condition.m_answers)
         return condition;
     condition.m_sim = Ask_Sim();
+    if (condition.m_sim != Sim_State::Ready && condition.m_sim != Sim_State::Unknown)
+        m_imsi.clear(); // it may be another card that is ready next
     if (condition.m_sim == Sim_State::Ready && m_imsi.isEmpty())
         Ask_Imsi(); // a card says it no sooner than it has got its PIN
     condition.m_registration = Ask_Registration();

@@ -1,6 +1,5 @@
 #include "engine/Confirmed_Manner.h"
 
-#include "device/Device_Paths.h"
 #include "engine/Composer_Rules.h"
 #include "engine/Confirmed_Row.h"
 #include "engine/Job_Details.h"
@@ -40,7 +39,7 @@ bool Goes_Again(Cause_Class cause_class)
 Confirmed_Manner::Confirmed_Manner(const Send_Order& order, const Confirmed_Options& options, Send_Progress& progress,
                                    Confirmed_Watcher& watcher, Stop_Flag& stop, Serial_Calls& calls)
     : m_order(order), m_options(options), m_progress(progress), m_watcher(watcher), m_stop(stop),
-      m_session(Lasting_Device_Path(order.device_path), calls),
+      m_device_path(Lasting_Device_Path(order.device_path, options.device_links)), m_session(m_device_path, calls),
       m_hold(m_session, progress, watcher, stop, options.hold_seconds), m_late_reports(m_session, m_report_desk)
 {
 }
@@ -155,8 +154,7 @@ void Confirmed_Manner::Make_Journal()
 {
     m_job_id = m_options.id.isEmpty() ? New_Job_Id() : m_options.id;
     auto opened = Job_Journal::Create(
-        m_options.folder,
-        {m_job_id, m_session.Imsi(), Lasting_Device_Path(m_order.device_path), m_options.job, m_options.keeps_journal},
+        m_options.folder, {m_job_id, m_session.Imsi(), m_device_path, m_options.job, m_options.keeps_journal},
         [this, index = 0]() mutable -> std::optional<Job_Row> {
             if (index == m_order.recipients.Count())
                 return std::nullopt;
@@ -263,7 +261,8 @@ void Confirmed_Manner::Note_Accepted(const Open_Case& part, int reference, const
     if (m_journal)
         m_journal->Accepted(part.index + 1, part.part, reference, QString::fromUtf8(time));
     if (reference >= 0 && Asks_For_Reports())
-        m_report_desk.Expect(part.number, {part.index, part.part, reference, Local_Time().toSecsSinceEpoch()});
+        m_report_desk.Expect(part.number,
+                             {part.index, part.part, reference, Local_Time().toSecsSinceEpoch(), 0, part.imsi});
 }
 
 // The result of a part that came too late to be told. What was said of its row stays; the journal knows better.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "device/Confirmed_Session.h"
+#include "device/Device_Paths.h"
 #include "engine/Alike_Ends.h"
 #include "engine/Device_Hold.h"
 #include "engine/Late_Reports.h"
@@ -24,6 +25,8 @@ struct Confirmed_Options
     bool keeps_journal = false;    ///< of a job that has ended; the journal of a new one says so
     bool hands_out_record = false; ///< when the job is over
     QHash<int, QString> skipped;   ///< of a new job: the indexes of recipients that get nothing, and why
+
+    QString device_links = Device_Links_By_Id; ///< the folder where a device is found again that was unplugged
 
     QString resumed_path;       ///< the journal of the job that is gone on with; empty for a new job
     bool sends_unknown = false; ///< rows that may have been sent are sent again, as a person decided
@@ -73,6 +76,7 @@ private:
         int part = 0;
         int parts = 1;
         QString number;
+        QString imsi; // of the SIM card that it went through
     };
 
     void Hold_Until_Ready();
@@ -96,6 +100,7 @@ private:
     Send_Progress& m_progress;
     Confirmed_Watcher& m_watcher;
     Stop_Flag& m_stop;
+    const QString m_device_path; // by which it is found again
     Confirmed_Session m_session;
     Device_Hold m_hold;
     Alike_Ends m_alike_ends;

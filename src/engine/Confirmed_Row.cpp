@@ -144,7 +144,7 @@ bool Confirmed_Manner::Row_Walk::Prepare_Text_Mode()
 
 Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Take_Accepted(int reference, const QByteArray& time)
 {
-    m_manner.Note_Accepted({m_index, m_part, m_row.parts, m_row.number}, reference, time);
+    m_manner.Note_Accepted(This_Part(), reference, time);
     ++m_details.parts_sent;
     if (reference >= 0)
         m_details.references.append(reference);
@@ -211,7 +211,7 @@ Confirmed_Manner::Row_Walk::Part_End Confirmed_Manner::Row_Walk::Take_Doubt(Doub
         return *end;
     Be_Unknown(Doubt_Field(doubt), Doubt_Sentence(doubt));
     if (may_come_late)
-        m_manner.m_open_case = {m_index, m_part, m_row.parts, m_row.number};
+        m_manner.m_open_case = This_Part();
     if (answers || m_submission.next != Next::Go_On)
         return Part_End::Row_Is_Over;
     const bool is_back = Hold(Until::Device_Is_Back,
@@ -340,7 +340,8 @@ void Confirmed_Manner::Row_Walk::Stop_Job(const QString& notice)
 
 bool Confirmed_Manner::Row_Walk::May_Be_Handed_Over()
 {
-    if (m_manner.m_journal && !m_manner.m_journal->Hand_Over(m_index + 1, m_part, m_row.parts))
+    m_imsi = m_manner.m_session.Imsi();
+    if (m_manner.m_journal && !m_manner.m_journal->Hand_Over(m_index + 1, m_part, m_row.parts, m_imsi))
         return false;
     m_was_handed_over = true;
     m_has_handed_over = true;

@@ -22,6 +22,7 @@ private:
         Row_Is_Over
     };
 
+    Open_Case This_Part() const { return {m_index, m_part, m_row.parts, m_row.number, m_imsi}; }
     void Count_Sent_Part();
     Part_End Send_Part(const Part_To_Send& part);
     Part_End Take_Accepted(int reference, const QByteArray& time);
@@ -55,6 +56,7 @@ private:
     int m_vain_holds = 0;               // of this part, for a state that the device denied
     std::optional<double> m_first_hold; // when this part was first held
     bool m_was_handed_over = false;     // by this try
+    QString m_imsi;                     // of the SIM card that was in the device then
     bool m_has_handed_over = false;
     bool m_is_waiting = false; // and that is being shown
 };

@@ -125,8 +125,11 @@ QList<std::pair<QString, QString>> Job_Receipt::Facts() const
     QList<std::pair<QString, QString>> facts{{T::Job, header.id}, {T::Began, Moment_In_Words(header.seconds)}};
     if (!header.device.isEmpty())
         facts.append({T::Device, On_One_Line(header.device)});
-    if (!header.imsi.isEmpty())
-        facts.append({T::Card, T::Card_Ends_With + On_One_Line(header.imsi.right(Digits_Of_The_Card))});
+    QStringList ends;
+    for (const QString& card : m_record.Cards())
+        ends.append(On_One_Line(card.right(Digits_Of_The_Card)));
+    if (!ends.isEmpty())
+        facts.append({T::Card, T::Card_Ends_With + ends.join(QLatin1String(", "))});
     facts.append({T::State, m_record.Has_Ended() ? T::Has_Ended : T::Has_Not_Ended});
     return facts;
 }

@@ -14,6 +14,11 @@ constexpr double Seconds_Between_Looks = 0.2; // so that whoever wants the devic
 constexpr double Seconds_To_Finish = 2;
 constexpr qint64 Days_To_Await = 30;
 
+QDateTime Oldest_To_Await()
+{
+    return Local_Time().addDays(-Days_To_Await);
+}
+
 // The journals of the jobs that asked for reports, and their headers.
 std::vector<std::pair<QString, Job_Header>> Jobs_With_Reports(const QString& folder)
 {
@@ -27,6 +32,15 @@ std::vector<std::pair<QString, Job_Header>> Jobs_With_Reports(const QString& fol
             jobs.emplace_back(path, front->header);
     }
     return jobs;
+}
+
+// Whether a job has had a SIM card that it did not begin with.
+bool Went_Through(const QString& path, const QString& imsi)
+{
+    if (imsi.isEmpty() || QFileInfo(path).lastModified() < Oldest_To_Await())
+        return false;
+    const Job_Reading reading = Read_Job(path);
+    return reading.record && reading.record->Cards().contains(imsi);
 }
 
 // A device that answers is left as it was found; one that does not must not keep the others waiting.
@@ -46,7 +60,7 @@ std::function<bool()> Some_Time_After(const Stop_Flag& stop)
 std::optional<Job_Header> Job_That_Awaits_Reports(const QString& folder)
 {
     const auto jobs = Jobs_With_Reports(folder);
-    const QDateTime oldest = Local_Time().addDays(-Days_To_Await);
+    const QDateTime oldest = Oldest_To_Await();
     for (auto job = jobs.rbegin(); job != jobs.rend(); ++job) {
         if (QFileInfo(job->first).lastModified() < oldest)
             continue;
@@ -71,7 +85,8 @@ bool Late_Reports::Look_Into(const QString& folder, const QString& own_path)
 {
     m_jobs.clear();
     for (const auto& [path, header] : Jobs_With_Reports(folder))
-        if (header.imsi == m_session.Imsi() && Job_Id_Of(path) != Job_Id_Of(own_path))
+        if (Job_Id_Of(path) != Job_Id_Of(own_path) &&
+            (header.imsi == m_session.Imsi() || Went_Through(path, m_session.Imsi())))
             m_jobs.push_back({path, header.seconds, QFileInfo(path).lastModified().toSecsSinceEpoch(), false, nullptr});
     return Are_Awaited();
 }
@@ -123,9 +138,9 @@ void Late_Reports::Take(const QList<Told_Report>& reports)
 // The job that it has been counted for, now or before.
 std::optional<int> Late_Reports::Count(const Handset::Status_Report& report)
 {
-    const auto part = m_desk.Match(report);
+    const auto part = m_desk.Match(report, m_session.Imsi());
     if (!part)
-        return m_desk.Counted_For(report);
+        return m_desk.Counted_For(report, m_session.Imsi());
     if (Job_Journal* const journal = Journal_Of(part->job)) {
         const bool is_noted =
             journal->Report(m_session.Imsi(), report.m_reference, QString::fromStdString(report.m_number),

@@ -31,8 +31,8 @@ public:
     /// the last Take.
     void Set_Own_Job(Job_Journal* journal, Own_Report on_report);
     /// Looks once for jobs in a folder that asked for reports through the device's SIM card, but for the one whose
-    /// journal is at own_path. Whether there are any. A journal is read no sooner than a report comes that may be about
-    /// its job.
+    /// journal is at own_path. Whether there are any. The journal of a job that began with this card is read no sooner
+    /// than a report comes that may be about it.
     bool Look_Into(const QString& folder, const QString& own_path = {});
     /// Whether Look_Into has found any.
     bool Are_Awaited() const { return !m_jobs.empty(); }

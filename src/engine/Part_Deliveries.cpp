@@ -11,12 +11,6 @@ namespace {
 constexpr qint16 No_Report = -1;
 constexpr std::size_t References = 256;
 
-bool Is_About(const Job_Record& record, const Job_Report& report)
-{
-    const QString& card = record.Header().imsi;
-    return card.isEmpty() || report.imsi.isEmpty() || report.imsi == card;
-}
-
 // The higher, the more it says about the whole message. Among those that were delivered, one with a reservation.
 std::tuple<int, bool> Weight_Of(qint16 status)
 {
@@ -58,13 +52,11 @@ void Part_Deliveries::Take(const Job_Record& record, const std::vector<bool>& re
                 continue;
             if (number.isEmpty())
                 number = record.Row(row).value_or(Job_Row()).number;
-            desk.Expect(number, {row, number_of_part, part.reference, part.handed_over_at});
+            desk.Expect(number, {row, number_of_part, part.reference, part.handed_over_at, 0, part.imsi});
         }
     }
     for (const Job_Report& report : record.Reports()) {
-        if (!Is_About(record, report))
-            continue;
-        if (const auto part = desk.Match(Report_Of(report)))
+        if (const auto part = desk.Match(Report_Of(report), report.imsi))
             m_statuses[static_cast<std::size_t>(m_first_part[static_cast<std::size_t>(part->index) - 1] + part->part -
                                                 1)] = static_cast<qint16>(report.status);
     }

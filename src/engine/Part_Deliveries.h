@@ -6,7 +6,7 @@
 #include <vector>
 
 // What delivery reports in a job's journal say of its parts. A report counts for the part with its reference and its
-// number on the SIM card that the job began with; nothing that comes behind the last word about a part counts. Made by
+// number on the SIM card that it went through; nothing that comes behind the last word about a part counts. Made by
 // a worker; a value.
 class Part_Deliveries
 {

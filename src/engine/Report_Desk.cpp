@@ -29,6 +29,11 @@ quint64 Key_Of(const Handset::Status_Report& report)
     return Key_Of(QString::fromStdString(report.m_number), report.m_reference);
 }
 
+bool May_Be_The_Same(const QString& imsi, const QString& other)
+{
+    return imsi.isEmpty() || other.isEmpty() || imsi == other;
+}
+
 } // namespace
 
 std::optional<qint64> Submission_Time(const Handset::Status_Report& report)
@@ -61,11 +66,11 @@ Report_Desk Report_Desk::Of(const Job_Record& record, int job)
                 continue;
             if (!frozen)
                 frozen = record.Row(row).value_or(Job_Row{});
-            desk.Expect(frozen->number, {row - 1, number, part.reference, part.handed_over_at});
+            desk.Expect(frozen->number, {row - 1, number, part.reference, part.handed_over_at, 0, part.imsi});
         }
     }
     for (const Job_Report& report : record.Reports())
-        desk.Match(Report_Of(report));
+        desk.Match(Report_Of(report), report.imsi);
     if (job != 0)
         desk.Give_To(job);
     return desk;
@@ -97,26 +102,27 @@ void Report_Desk::Take_Over(const Report_Desk& other)
     m_open += other.m_open;
 }
 
-std::optional<Report_Desk::Part> Report_Desk::Match(const Handset::Status_Report& report)
+std::optional<Report_Desk::Part> Report_Desk::Match(const Handset::Status_Report& report, const QString& imsi)
 {
     const quint64 key = Key_Of(report);
     const auto found = m_parts.find(key);
     const auto submitted = Submission_Time(report);
     // Without a time, two reports that say the same may still be about two parts.
-    if (found == m_parts.end() || (submitted && Counted_For(report)))
+    if (found == m_parts.end() || (submitted && Counted_For(report, imsi)))
         return std::nullopt;
     std::vector<Part>& parts = found->second;
     const auto distance = [&](const Part& part) { return submitted ? std::abs(*submitted - part.seconds) : 0; };
     auto nearest = parts.end();
     for (auto part = parts.begin(); part != parts.end(); ++part) {
         const bool is_too_far = part->job != 0 && distance(*part) > Farthest;
-        if (!is_too_far && (nearest == parts.end() || distance(*part) < distance(*nearest)))
+        if (!is_too_far && May_Be_The_Same(part->imsi, imsi) &&
+            (nearest == parts.end() || distance(*part) < distance(*nearest)))
             nearest = part;
     }
     if (nearest == parts.end())
         return std::nullopt;
     const Part part = *nearest;
-    Note_As_Counted({key, report.m_status, submitted.value_or(No_Time)}, part.job);
+    Note_As_Counted({key, report.m_status, submitted.value_or(No_Time), imsi}, part.job);
     if (Handset::Delivery_Status_Of(report.m_status).m_delivery != Handset::Delivery::Still_Trying) {
         parts.erase(nearest);
         m_open -= part.job == 0 ? 1 : 0;
@@ -137,8 +143,9 @@ void Report_Desk::Note_As_Counted(const Report_Key& key, int job)
     }
 }
 
-std::optional<int> Report_Desk::Counted_For(const Handset::Status_Report& report) const
+std::optional<int> Report_Desk::Counted_For(const Handset::Status_Report& report, const QString& imsi) const
 {
-    const auto found = m_counted.find({Key_Of(report), report.m_status, Submission_Time(report).value_or(No_Time)});
+    const auto found =
+        m_counted.find({Key_Of(report), report.m_status, Submission_Time(report).value_or(No_Time), imsi});
     return found == m_counted.end() ? std::nullopt : std::optional(found->second);
 }

@@ -13,8 +13,9 @@
 class Job_Record;
 struct Job_Report;
 
-// Finds the part that a delivery report is about: of those that are still open the one with its reference and its
-// number, by their last digits, since centres write numbers in other forms; of several the one whose time is nearest.
+// Finds the part that a delivery report is about: of those that are still open the one with its SIM card, its reference
+// and its number, by their last digits, since centres write numbers in other forms; of several the one whose time is
+// nearest.
 // The same report counts once. A value; one thread at a time.
 class Report_Desk
 {
@@ -26,6 +27,7 @@ public:
         int reference = 0;
         qint64 seconds = 0; ///< since 1970, when it was accepted
         int job = 0;        ///< 0 is the job at hand; others are earlier ones
+        QString imsi = {};  ///< of the SIM card that it went through; empty where nobody knows
     };
 
     /// How many seconds the centre's time may be away from an earlier job's: a report on a message that another program
@@ -38,16 +40,18 @@ public:
     void Expect(const QString& number, const Part& part);
     /// Joins what another desk awaits and has counted.
     void Take_Over(const Report_Desk& other);
-    /// The part; nothing where none fits, and for a report that has been counted. A report that is final for a part
+    /// The part that a report through the SIM card of an IMSI is about; empty for a card that nobody knows, which may
+    /// be any. Nothing where none fits, and for a report that has been counted. A report that is final for a part
     /// closes it.
-    std::optional<Part> Match(const Handset::Status_Report& report);
+    std::optional<Part> Match(const Handset::Status_Report& report, const QString& imsi = {});
     /// The job that this very report has been counted for; nothing for any other.
-    std::optional<int> Counted_For(const Handset::Status_Report& report) const;
+    std::optional<int> Counted_For(const Handset::Status_Report& report, const QString& imsi = {}) const;
     /// Whether no part of the job at hand is open.
     bool Is_Empty() const { return m_open == 0; }
 
 private:
-    using Report_Key = std::tuple<quint64, int, qint64>; // reference and last digits, status, when it was submitted
+    // Reference and last digits, status, when it was submitted, and the card.
+    using Report_Key = std::tuple<quint64, int, qint64, QString>;
 
     void Give_To(int job);
     void Note_As_Counted(const Report_Key& key, int job);

@@ -60,8 +60,8 @@ Job_Trouble Prepare_To_Append(const Descriptor& file, const Job_Reading& reading
 
 } // namespace
 
-Job_Journal::Job_Journal(Descriptor file, const QString& path, int rows, Job_Clock clock)
-    : m_file(std::move(file)), m_path(path), m_rows(rows), m_clock(std::move(clock))
+Job_Journal::Job_Journal(Descriptor file, const QString& path, int rows, const QString& imsi, Job_Clock clock)
+    : m_file(std::move(file)), m_path(path), m_rows(rows), m_imsi(imsi), m_clock(std::move(clock))
 {
 }
 
@@ -100,7 +100,8 @@ Job_Journal::Opened Job_Journal::Create(const QString& folder, const Job_Start& 
     if (const Job_Trouble trouble = files.Finish(Job_Line::Whole(header), Bytes_For_A_Part * list.parts);
         trouble != Job_Trouble::None)
         return failed(trouble);
-    return {std::unique_ptr<Job_Journal>(new Job_Journal(files.Take_Journal(), path, list.rows, std::move(clock))),
+    return {std::unique_ptr<Job_Journal>(
+                new Job_Journal(files.Take_Journal(), path, list.rows, start.imsi, std::move(clock))),
             std::nullopt, Job_Trouble::None};
 }
 
@@ -122,19 +123,22 @@ Job_Journal::Opened Job_Journal::Open_To_Go_On(const QString& path, Job_Clock cl
         reading.trouble = Prepare_To_Append(file, reading);
     if (reading.trouble != Job_Trouble::None)
         return failed(reading.trouble);
-    const int rows = reading.record->Row_Count();
-    std::unique_ptr<Job_Journal> journal(new Job_Journal(std::move(file), path, rows, std::move(clock)));
+    const Job_Header& header = reading.record->Header();
+    std::unique_ptr<Job_Journal> journal(
+        new Job_Journal(std::move(file), path, header.rows, header.imsi, std::move(clock)));
     journal->m_is_synced = false; // a program that was killed may not have brought its last lines to the disk
     return {std::move(journal), std::move(reading.record), Job_Trouble::None};
 }
 
-bool Job_Journal::Hand_Over(int row, int part, int of)
+bool Job_Journal::Hand_Over(int row, int part, int of, const std::optional<QString>& imsi)
 {
     if (!Is_Part(row, part) || part > of)
         return Die(Job_Trouble::Not_Written);
-    return Append({Word(Job_Words::Handing_Over), QByteArray::number(row), QByteArray::number(part),
-                   QByteArray::number(of), Now()}) &&
-           Sync();
+    QByteArrayList fields{Word(Job_Words::Handing_Over), QByteArray::number(row), QByteArray::number(part),
+                          QByteArray::number(of)};
+    if (imsi && *imsi != m_imsi)
+        fields.append(Field(*imsi));
+    return Append(fields << Now()) && Sync();
 }
 
 bool Job_Journal::Accepted(int row, int part, int reference, const QString& stamp)

@@ -50,9 +50,10 @@ public:
     Job_Journal(const Job_Journal&) = delete;
     Job_Journal& operator=(const Job_Journal&) = delete;
 
-    /// A part is about to be handed over to the device. It is on the disk when the answer is yes; when it is no, the
+    /// A part is about to be handed over to the device, with the SIM card of an IMSI in it: empty for one that nobody
+    /// knows, nothing for the one that the job began with. It is on the disk when the answer is yes; when it is no, the
     /// part must not be handed over.
-    bool Hand_Over(int row, int part, int of);
+    bool Hand_Over(int row, int part, int of, const std::optional<QString>& imsi = std::nullopt);
     /// The network has accepted it, with a reference from 0 to 255 or -1 for none, and the centre's time if that was
     /// told.
     bool Accepted(int row, int part, int reference, const QString& stamp = {});
@@ -80,7 +81,7 @@ public:
     Job_Trouble Trouble() const { return m_trouble; }
 
 private:
-    Job_Journal(Descriptor file, const QString& path, int rows, Job_Clock clock);
+    Job_Journal(Descriptor file, const QString& path, int rows, const QString& imsi, Job_Clock clock);
 
     bool Is_Row(int row) const { return row >= 1 && row <= m_rows; }
     bool Is_Part(int row, int part) const { return Is_Row(row) && part >= 1; }
@@ -91,6 +92,7 @@ private:
     Descriptor m_file;
     QString m_path;
     int m_rows;
+    QString m_imsi; // of the header
     Job_Clock m_clock;
     bool m_is_synced = true;
     Job_Trouble m_trouble = Job_Trouble::None;

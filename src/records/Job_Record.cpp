@@ -2,6 +2,7 @@
 
 #include "records/Job_Words.h"
 
+#include <QSet>
 #include <algorithm>
 #include <utility>
 
@@ -15,6 +16,9 @@ constexpr int Most_Tries = 255;
 Job_Record::Job_Record(Job_Header header, std::shared_ptr<const Job_List> list)
     : m_header(std::move(header)), m_list(std::move(list)), m_parts(static_cast<std::size_t>(m_list->Parts_Of_All()))
 {
+    const quint32 card = Text_Index(m_header.imsi);
+    for (Stored_Part& part : m_parts)
+        part.card = card;
 }
 
 bool Job_Record::Take(const Job_Line::Fields& fields)
@@ -43,18 +47,20 @@ bool Job_Record::Take(const Job_Line::Fields& fields)
     }
 }
 
-// H <row> <part> <of> <time>
+// H <row> <part> <of> <imsi, where it is not the header's> <time>
 bool Job_Record::Take_Hand_Over(const Job_Line::Fields& fields)
 {
     Stored_Part* const part = Part_In(fields);
-    if (!part || fields.size() != 5)
+    const bool has_card = fields.size() == 6;
+    if (!part || (fields.size() != 5 && !has_card))
         return false;
-    const auto time = Job_Line::Seconds_Of(fields[4]);
+    const auto time = Job_Line::Seconds_Of(fields.last());
+    const auto imsi = has_card ? Job_Line::Text_Of(fields[4]) : m_header.imsi;
     const int parts = Parts_Of(Row_In(fields[1]));
-    if (!time || Job_Line::Number_Of(fields[3], parts, parts) != parts)
+    if (!time || !imsi || Job_Line::Number_Of(fields[3], parts, parts) != parts)
         return false;
     const int tries = std::min(part->tries + 1, Most_Tries);
-    *part = {*time, 0, 0, -1, Sending_State::Handing_Over, static_cast<quint8>(tries)};
+    *part = {*time, 0, 0, Text_Index(*imsi), -1, Sending_State::Handing_Over, static_cast<quint8>(tries)};
     m_has_ended = false;
     return true;
 }
@@ -187,6 +193,20 @@ quint32 Job_Record::Text_Index(const QString& text)
     return index;
 }
 
+QStringList Job_Record::Cards() const
+{
+    QStringList cards(m_header.imsi);
+    QSet<quint32> known{m_text_indexes.value(m_header.imsi)};
+    for (const Stored_Part& part : m_parts) {
+        if (known.contains(part.card))
+            continue;
+        known.insert(part.card);
+        cards.append(m_texts[part.card]);
+    }
+    cards.removeAll(QString());
+    return cards;
+}
+
 Sending_State Job_Record::Worst_Of(int row) const
 {
     const bool is_skipped = m_list->Is_Skipped(row) || m_skipped.contains(row);
@@ -224,8 +244,8 @@ Job_Row_State Job_Record::State_Of(int row) const
 Job_Part Job_Record::Part(int row, int part) const
 {
     const Stored_Part& stored = First_Part_Of(row)[part - 1];
-    return {stored.state,          m_texts[stored.words], stored.reference,
-            m_texts[stored.stamp], stored.handed_over_at, stored.tries};
+    return {stored.state,          m_texts[stored.words], stored.reference,    m_texts[stored.stamp],
+            stored.handed_over_at, stored.tries,          m_texts[stored.card]};
 }
 
 Job_Counts Job_Record::Counts() const

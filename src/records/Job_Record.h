@@ -40,6 +40,7 @@ struct Job_Part
     QString stamp;             ///< the centre's time, if the device told it
     qint64 handed_over_at = 0; ///< seconds since 1970; 0 when it never was
     int tries = 0;             ///< 255 stand for that many or more
+    QString imsi;              ///< of the SIM card that it went through, or would; empty where nobody knows
 };
 
 struct Job_Row_State
@@ -105,6 +106,8 @@ public:
     int Parts_Waiting() const;
     /// In the order in which they came.
     const QList<Job_Report>& Reports() const { return m_reports; }
+    /// The IMSI of each SIM card that the job is known to have gone through, that of its beginning in front.
+    QStringList Cards() const;
     bool Has_Ended() const { return m_has_ended; }
 
     /// For the reader: takes the next line after the header. Answers no when it does not fit the job.
@@ -115,8 +118,9 @@ private:
     struct Stored_Part
     {
         qint64 handed_over_at = 0;
-        quint32 words = 0; // an index into m_texts
+        quint32 words = 0; // these are indexes into m_texts
         quint32 stamp = 0;
+        quint32 card = 0;
         qint16 reference = -1;
         Sending_State state = Sending_State::Waiting;
         quint8 tries = 0;

@@ -243,3 +243,18 @@ TEST_F(Reports, The_Cards_Number_Is_Asked_For_Again_Once_It_Is_Ready)
     m_session.Condition();
     EXPECT_EQ(m_session.Imsi(), "001010123456789");
 }
+
+TEST_F(Reports, A_Card_That_Was_Not_Ready_May_Be_Another_One_When_It_Is)
+{
+    Open_With({});
+    EXPECT_EQ(m_session.Imsi(), "001010123456789");
+    m_phone.Will_Answer("AT+CIMI", "\r\n262010000000001\r\n\r\nOK\r\n");
+    m_session.Condition();
+    EXPECT_EQ(m_session.Imsi(), "001010123456789") << "it is not asked for at each look";
+    m_phone.Will_Answer("AT+CPIN?", "\r\n+CME ERROR: 10\r\n");
+    m_session.Condition();
+    EXPECT_EQ(m_session.Imsi(), "");
+    m_phone.Will_Answer("AT+CPIN?", "\r\n+CPIN: READY\r\n\r\nOK\r\n");
+    m_session.Condition();
+    EXPECT_EQ(m_session.Imsi(), "262010000000001");
+}

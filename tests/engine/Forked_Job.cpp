@@ -29,6 +29,7 @@ struct Remains
     Last_Words words;
     std::atomic<int> bytes_written;
     std::atomic<int> bytes_read;
+    std::atomic<int> texts_shown;
 };
 
 struct Forget_Remains
@@ -135,6 +136,10 @@ Doom Doom_Of(const Job_Death& death)
     alarm(Longest_Life_In_Seconds);
     Set_Pace(Job_Pace);
     Job_Witness witness;
+    witness.m_on_shown = [&] {
+        if (++remains.texts_shown == death.count && death.at == Job_Death::At::Text_Shown)
+            Die();
+    };
     {
         Stop_Flag stop;
         Doomed_Line line([socket] { return Ask_Through(socket); }, death, remains);
@@ -167,6 +172,7 @@ Job_Life Life_In(const Remains& remains, bool was_killed)
             remains.words.calls,
             remains.bytes_written,
             remains.bytes_read,
+            remains.texts_shown,
             Lines_Of(remains.words.made.All()),
             Lines_Of(remains.words.journal.All())};
 }

@@ -18,7 +18,8 @@ struct Job_Death
         Before_Call, ///< that changes files
         After_Call,
         Byte_Written, ///< to the phone, and no more of that write
-        Byte_Read     ///< from the phone, once everything has been done that follows from it
+        Byte_Read,    ///< from the phone, once everything has been done that follows from it
+        Text_Shown    ///< in front of a try, a hold or another wait
     };
     At at = At::Never;
     int count = 0;
@@ -31,6 +32,7 @@ struct Job_Life
     int calls = 0; ///< that change files
     int bytes_written = 0;
     int bytes_read = 0;
+    int texts_shown = 0;
     std::vector<std::string> made; ///< a line for each of the calls: its name, its file's name, its bytes, "ok"
     std::vector<std::string> rows; ///< a line for each row that was told: its index, its state as a number, "earlier"
 };

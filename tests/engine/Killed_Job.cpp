@@ -12,6 +12,15 @@ namespace {
 
 constexpr char End_Of_Message = '\x1A';
 
+int Messages_Begun_In(const std::string& heard)
+{
+    const std::string command = "AT+CMGS=";
+    int count = 0;
+    for (auto at = heard.find(command); at != std::string::npos; at = heard.find(command, at + 1))
+        ++count;
+    return count;
+}
+
 // A number by its end, for a refusal after the message or for silence.
 Message_Manner Manner_Of(const Killed_Row& row)
 {
@@ -23,13 +32,22 @@ Message_Manner Manner_Of(const Killed_Row& row)
     return manner;
 }
 
-Phone_Moods Moods_For(const std::vector<Killed_Row>& rows)
+Phone_Moods Moods_For(const Killed_List& list)
 {
     Phone_Moods moods;
     moods.m_first_reference = 100; // so that all have as many digits
-    for (const Killed_Row& row : rows)
+    moods.m_reports_in_memory_alone = true;
+    moods.m_report_after_seconds = 0;
+    moods.m_network_lost_at = list.network_lost_at;
+    moods.m_network_back_after_queries = 7;
+    for (const Killed_Row& row : list.rows) {
+        for (Message_Manner manner : row.meanwhile) {
+            manner.m_number_end = row.number;
+            moods.m_message_manners.push_back(manner);
+        }
         if (row.end != Row_State::Sent)
             moods.m_message_manners.push_back(Manner_Of(row));
+    }
     return moods;
 }
 
@@ -65,8 +83,9 @@ bool Has_Unsynced_Name(const Job_Life& life)
 
 } // namespace
 
-Killed_Job::Killed_Job(const std::vector<Killed_Row>& rows) : m_rows(rows), m_phone(Moods_For(rows))
+Killed_Job::Killed_Job(const Killed_List& list) : m_rows(list.rows), m_phone(Moods_For(list))
 {
+    m_options.job.report_seconds = list.asks_for_reports ? 60 : -1;
     m_options.folder = m_folder.filePath(QStringLiteral("Jobs"));
     m_order.device_path = QString::fromStdString(m_phone.Path());
     for (const Killed_Row& row : m_rows) {
@@ -146,8 +165,9 @@ void Killed_Job::Look_At_The_Journal()
 {
     const Parts handed_over = Handed_Over();
     const Parts taken = Taken();
-    for (const auto& [part, count] : handed_over)
-        EXPECT_LE(count, m_at_most[part]) << "part " << part.second << " to " << part.first;
+    for (const Parts* parts : {&handed_over, &taken})
+        for (const auto& [part, count] : *parts)
+            EXPECT_LE(count, m_at_most[part]) << "part " << part.second << " to " << part.first;
     const QString journal = Journal();
     const Job_Reading reading = Read_Job(journal);
     m_record = reading.record;
@@ -158,6 +178,15 @@ void Killed_Job::Look_At_The_Journal()
     ASSERT_TRUE(m_record) << Job_Trouble_Sentence(reading.trouble).toStdString();
     for (int row = 1; row <= m_record->Row_Count(); ++row)
         Check_Row(row, handed_over, taken);
+    Check_Reports();
+}
+
+// Each at most once, wherever its deletion from the memory was cut off.
+void Killed_Job::Check_Reports() const
+{
+    std::map<std::pair<std::string, int>, int> reports;
+    for (const Job_Report& report : m_record->Reports())
+        EXPECT_EQ(++reports[std::pair(report.number.toStdString(), report.reference)], 1) << report.reference;
 }
 
 void Killed_Job::Check_Row(int row, const Parts& handed_over, const Parts& taken) const
@@ -238,7 +267,19 @@ std::vector<Sending_State> Killed_Job::States() const
     return states;
 }
 
-// Every frame that the phone has heard to its end.
+// Whether a message, counted from 1 among all that were begun, is one that is tried again by itself.
+bool Killed_Job::Is_Refused_For_Now(const std::string& number, int message) const
+{
+    const auto row =
+        std::find_if(m_rows.begin(), m_rows.end(), [&](const auto& each) { return each.number == number; });
+    return row != m_rows.end() &&
+           std::any_of(row->meanwhile.begin(), row->meanwhile.end(), [&](const Message_Manner& manner) {
+               return manner.m_kind == Message_Manner::Kind::Refused && message >= manner.m_from &&
+                      message <= manner.m_to;
+           });
+}
+
+// Every frame that the phone has heard to its end, but for those that it refused for now.
 Killed_Job::Parts Killed_Job::Handed_Over() const
 {
     Parts parts;
@@ -247,7 +288,7 @@ Killed_Job::Parts Killed_Job::Handed_Over() const
         const auto begin = heard.find_last_of("\r\n\x1B", end) + 1;
         const auto decoded = Handset::Decode_Submit(heard.substr(begin, end - begin));
         EXPECT_TRUE(decoded.m_frame) << decoded.m_reason;
-        if (decoded.m_frame)
+        if (decoded.m_frame && !Is_Refused_For_Now(decoded.m_frame->m_number, Messages_Begun_In(heard.substr(0, end))))
             ++parts[{decoded.m_frame->m_number,
                      decoded.m_frame->m_concatenation ? decoded.m_frame->m_concatenation->m_part : 1}];
     }

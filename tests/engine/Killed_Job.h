@@ -17,6 +17,14 @@ struct Killed_Row
     QString text;
     int parts = 1;
     Row_State end = Row_State::Sent;
+    std::vector<Message_Manner> meanwhile = {}; ///< what the phone does before that, of messages to this number
+};
+
+struct Killed_List
+{
+    std::vector<Killed_Row> rows;
+    bool asks_for_reports = false; ///< which the phone keeps in its memory until they are deleted there
+    int network_lost_at = 0;       ///< the message that it is lost at for a while; 0 never
 };
 
 /// What is on the disk after a death.
@@ -30,7 +38,7 @@ enum class Disk_After
 class Killed_Job
 {
 public:
-    explicit Killed_Job(const std::vector<Killed_Row>& rows);
+    explicit Killed_Job(const Killed_List& list);
 
     /// Begins or goes on, dies, and looks at what is left; does nothing where the job is over. Where it does not come
     /// to this death, it has come to its end.
@@ -45,12 +53,14 @@ private:
     Job_Life Live_On(const Job_Death& death, bool sends_unknown);
     void Lose_Power(const Job_Life& life, Disk_After disk);
     void Look_At_The_Journal();
+    void Check_Reports() const;
     void Check_Row(int row, const Parts& handed_over, const Parts& taken) const;
     void Check_Told(const Job_Life& life, const std::vector<Sending_State>& before, bool sends_unknown) const;
     void Check_Inbox(const Job_Life& life) const;
     QString Journal() const;
     bool Is_Over() const;
     std::vector<Sending_State> States() const;
+    bool Is_Refused_For_Now(const std::string& number, int message) const;
     Parts Handed_Over() const;
     Parts Taken() const;
 

@@ -52,6 +52,18 @@ TEST(Report_Desk, A_Final_Report_Closes_The_Part_And_A_Second_One_Finds_None)
     EXPECT_FALSE(desk.Match(Report(17, "07700900100")));
 }
 
+TEST(Report_Desk, Parts_Of_Several_Cards_Are_Told_Apart_Whatever_Their_Times)
+{
+    const QString number = QStringLiteral("07700900100");
+    Report_Desk desk;
+    desk.Expect(number, {0, 1, 17, Seconds("2026-11-21T10:00:00Z"), 0, QStringLiteral("23415")});
+    desk.Expect(number, {1, 1, 17, Seconds("2026-11-21T11:00:00Z"), 0, QStringLiteral("26201")});
+    const Handset::Status_Report report = Report(17, "07700900100", Delivered, "2026-11-21T10:00:00Z");
+    EXPECT_FALSE(desk.Match(report, QStringLiteral("31015")));
+    EXPECT_EQ(desk.Match(report, QStringLiteral("26201"))->index, 1);
+    EXPECT_FALSE(desk.Is_Empty());
+}
+
 TEST(Report_Desk, Of_Several_Alike_The_Nearest_In_Time_Is_Meant)
 {
     Report_Desk desk;

@@ -54,6 +54,27 @@ TEST_F(Job_Journal_Test, The_Header_Says_Whether_The_Receipt_Is_Kept)
     }
 }
 
+TEST_F(Job_Journal_Test, A_Part_Tells_The_Card_That_It_Goes_Through_Where_It_Is_Not_The_First)
+{
+    const QString first = Sample_Start().imsi;
+    const auto created = Create();
+    ASSERT_TRUE(created.journal);
+    EXPECT_TRUE(created.journal->Hand_Over(1, 1, 1, first));
+    EXPECT_TRUE(created.journal->Hand_Over(2, 1, 2, "26201 A"));
+    EXPECT_TRUE(created.journal->Hand_Over(3, 1, 1, ""));
+    const QByteArrayList lines = Bytes_Of(Path()).split('\n');
+    EXPECT_TRUE(lines[1].startsWith("H 1 1 1 2026-11-21T09:15:01Z "));
+    EXPECT_TRUE(lines[2].startsWith("H 2 1 2 26201%20A 2026-11-21T09:15:02Z "));
+    EXPECT_TRUE(lines[3].startsWith("H 3 1 1 - 2026-11-21T09:15:03Z "));
+    const Job_Reading reading = Read_Job(Path());
+    ASSERT_TRUE(reading.record);
+    EXPECT_EQ(reading.record->Part(1, 1).imsi, first);
+    EXPECT_EQ(reading.record->Part(2, 1).imsi, "26201 A");
+    EXPECT_EQ(reading.record->Part(2, 2).imsi, first) << "it was not handed over";
+    EXPECT_EQ(reading.record->Part(3, 1).imsi, "");
+    EXPECT_EQ(reading.record->Cards(), QStringList({first, "26201 A"}));
+}
+
 TEST_F(Job_Journal_Test, Nobody_Else_Can_Read_A_Job)
 {
     const mode_t old_mask = umask(0);
