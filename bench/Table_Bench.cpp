@@ -9,6 +9,7 @@
 #include <QFile>
 #include <array>
 #include <cstdio>
+#include <ctime>
 #include <malloc.h>
 #include <unistd.h>
 
@@ -29,6 +30,12 @@ double Resident_Bytes()
     if (!file.open(QIODevice::ReadOnly))
         return 0;
     return file.readAll().split(' ').at(1).toDouble() * static_cast<double>(getpagesize());
+}
+
+// What all processors have worked for this program.
+double Processor_Seconds()
+{
+    return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
 }
 
 std::shared_ptr<const Contact_Table> Table_In(const char* path)
@@ -62,6 +69,7 @@ int Measure_List(char** arguments)
 {
     const double before = Resident_Bytes();
     const double begin = Now_Seconds();
+    const double processor_begin = Processor_Seconds();
     const auto table = Table_In(arguments[0]);
     const double is_read = Now_Seconds();
     Recipient_List list;
@@ -82,10 +90,11 @@ int Measure_List(char** arguments)
     for (int index = 0; index < list.Count(); ++index)
         characters += filling.For_Row(*table, list.Table_Row_At(index)).text.size();
     const double end = Now_Seconds();
+    const double processor = Processor_Seconds() - processor_begin;
     const double bytes_each = (Resident_Bytes() - before) / list.Count();
     std::printf("{\"seconds\": %.6f, \"read seconds\": %.6f, \"list seconds\": %.6f, \"text seconds\": %.6f, "
-                "\"count\": %d, \"characters\": %lld, \"bytes each\": %.1f}\n",
-                end - begin, is_read - begin, is_added - is_read, end - is_added, list.Count(),
+                "\"processor seconds\": %.6f, \"count\": %d, \"characters\": %lld, \"bytes each\": %.1f}\n",
+                end - begin, is_read - begin, is_added - is_read, end - is_added, processor, list.Count(),
                 static_cast<long long>(characters), bytes_each);
     return 0;
 }
@@ -97,11 +106,13 @@ int Measure_Plan(char** arguments)
     terms.skip_duplicates = true;
     terms.excluded = Numbers_In(arguments[1]);
     const double begin = Now_Seconds();
+    const double processor_begin = Processor_Seconds();
     const Job_Plan plan = Job_Plan::Of_Table(table, 0, Message, terms);
     const Plan_Sums sums = plan.Sums();
     const double seconds = Now_Seconds() - begin;
-    std::printf("{\"seconds\": %.6f, \"count\": %d, \"parts\": %lld, \"unicode\": %d}\n", seconds, sums.send,
-                static_cast<long long>(sums.parts), sums.unicode);
+    std::printf("{\"seconds\": %.6f, \"processor seconds\": %.6f, \"count\": %d, \"parts\": %lld, \"unicode\": %d}\n",
+                seconds, Processor_Seconds() - processor_begin, sums.send, static_cast<long long>(sums.parts),
+                sums.unicode);
     return 0;
 }
 
@@ -119,9 +130,11 @@ int Measure_Import(char** arguments)
                           [] { qFatal("the numbers cannot be read"); }, [&] { loop.quit(); },
                           [] { qFatal("the import broke off"); }});
     const double begin = Now_Seconds();
+    const double processor_begin = Processor_Seconds();
     import.Load_NUM_Thread(std::move(order));
     loop.exec();
-    std::printf("{\"seconds\": %.6f, \"count\": %d}\n", Now_Seconds() - begin, list.Count());
+    std::printf("{\"seconds\": %.6f, \"processor seconds\": %.6f, \"count\": %d}\n", Now_Seconds() - begin,
+                Processor_Seconds() - processor_begin, list.Count());
     Finish_Workers();
     return 0;
 }

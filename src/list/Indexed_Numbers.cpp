@@ -1,5 +1,7 @@
 #include "list/Indexed_Numbers.h"
 
+#include "platform/Large_Pages.h"
+
 #include <algorithm>
 
 // Room is made before anything changes: if memory runs out, the list stays as it was.
@@ -110,7 +112,11 @@ void Indexed_Numbers::Free(std::size_t slot)
 void Indexed_Numbers::Grow_Index()
 {
     constexpr std::size_t Fewest_Slots = 64;
-    std::vector<Slot> old_slots(std::max(Fewest_Slots, m_slots.size() * 2));
+    const std::size_t count = std::max(Fewest_Slots, m_slots.size() * 2);
+    std::vector<Slot> old_slots;
+    old_slots.reserve(count);
+    Prefer_Large_Pages(old_slots.data(), count * sizeof(Slot));
+    old_slots.resize(count);
     old_slots.swap(m_slots);
     for (const Slot& old : old_slots) {
         if (old.entry.count == 0)

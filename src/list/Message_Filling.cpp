@@ -41,13 +41,25 @@ QChar* Put(QStringView text, QChar* to)
     return std::copy(text.begin(), text.end(), to);
 }
 
+// Whether a byte of UTF-8 is none that a character begins with.
+bool Continues(char byte)
+{
+    return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
+}
+
+// Characters of one and two bytes, which most names consist of, are no matter for a decoder.
 QChar* Put(QByteArrayView utf8, QChar* to)
 {
     QChar* end = to;
-    for (const char byte : utf8) {
-        if (static_cast<unsigned char>(byte) > 0x7F)
+    for (qsizetype at = 0; at < utf8.size(); ++at) {
+        const auto byte = static_cast<unsigned char>(utf8[at]);
+        if (byte < 0x80) {
+            *end++ = QChar(byte);
+        } else if (byte >= 0xC2 && byte < 0xE0 && at + 1 < utf8.size() && Continues(utf8[at + 1])) {
+            *end++ = QChar(static_cast<char16_t>((byte & 0x1F) << 6 | (utf8[++at] & 0x3F)));
+        } else {
             return Put(QStringView(QString::fromUtf8(utf8)), to);
-        *end++ = QLatin1Char(byte);
+        }
     }
     return end;
 }
@@ -149,7 +161,7 @@ Filled_Message Message_Filling::For_Row(const Contact_Table& table, int row) con
         most += given.back().what == Becomes::Value ? given.back().value.size() : Text_Of(piece, given.back()).size();
         Note_Fault(filled, piece, given.back().what);
     }
-    filled.text.resize(most);
+    filled.text = QString(most, Qt::Uninitialized);
     QChar* end = filled.text.data();
     for (qsizetype place = 0; place < given.size(); ++place)
         end = given[place].what == Becomes::Value

@@ -1,5 +1,6 @@
 #include "list/Table_Builder.h"
 
+#include "platform/Large_Pages.h"
 #include "texts/Table_Texts.h"
 
 #include <algorithm>
@@ -35,6 +36,7 @@ Table_Builder::Table_Builder(qsizetype expected_bytes, bool has_names, Blank_Row
     : m_blank_rows(blank_rows), m_has_names(has_names)
 {
     m_table.m_text.reserve(std::min(static_cast<std::size_t>(expected_bytes), Most_Bytes));
+    Prefer_Large_Pages(m_table.m_text.data(), m_table.m_text.capacity());
 }
 
 void Table_Builder::Add_Piece(QByteArrayView utf8)
@@ -95,8 +97,12 @@ void Table_Builder::Make_Room_By_Sample()
         return std::min(Most_Fields,
                         static_cast<std::size_t>(static_cast<double>(count) * Spare / std::max(share, 1e-6)));
     };
-    m_table.m_ends.reserve(room_for(m_table.m_ends.size()));
-    m_table.m_rows.reserve(room_for(m_table.m_rows.size()));
+    const auto make_room = [&](auto& list) {
+        list.reserve(room_for(list.size()));
+        Prefer_Large_Pages(list.data(), list.capacity() * sizeof(list[0]));
+    };
+    make_room(m_table.m_ends);
+    make_room(m_table.m_rows);
 }
 
 bool Table_Builder::Is_Blank() const

@@ -5,6 +5,8 @@
 #include "list/Number_Rules.h"
 #include "platform/String_Helpers.h"
 
+#include <array>
+
 namespace {
 
 constexpr qsizetype Longest_Shown = 100; // of what is no number, in characters
@@ -43,14 +45,22 @@ std::optional<Packed_Number> Plain_Number_In(QByteArrayView utf8)
         number.Add_Digit(u'0');
         number.Add_Digit(u'0');
     }
-    bool has_digits = false;
+    // Without branches: where the marks stand in a number cannot be foretold.
+    std::array<char, Longest_Shown> digits;
+    std::size_t count = 0;
+    bool is_plain = true;
     for (const char byte : utf8.sliced(has_plus ? 1 : 0)) {
-        const bool is_digit = byte >= '0' && byte <= '9';
-        if (is_digit ? !number.Add_Digit(static_cast<char16_t>(byte)) : byte != '-' && byte != ' ')
-            return std::nullopt;
-        has_digits = has_digits || is_digit;
+        const bool is_digit = static_cast<unsigned char>(byte - '0') <= 9;
+        digits[count] = byte;
+        count += is_digit ? 1 : 0;
+        is_plain = is_plain & (is_digit | (byte == '-') | (byte == ' '));
     }
-    return has_digits ? std::optional(number) : std::nullopt;
+    if (!is_plain || count == 0)
+        return std::nullopt;
+    for (std::size_t place = 0; place < count; ++place)
+        if (!number.Add_Digit(static_cast<char16_t>(digits[place])))
+            return std::nullopt;
+    return number;
 }
 
 bool Can_Be_Dialled(const QString& number)

@@ -2,6 +2,7 @@
 
 #include "platform/Descriptor.h"
 #include "platform/File_Steps.h"
+#include "platform/Large_Pages.h"
 
 #include <QDirIterator>
 #include <QFile>
@@ -110,6 +111,7 @@ std::optional<QByteArray> Read_File(const QString& path)
         return std::nullopt;
     try {
         QByteArray bytes(static_cast<qsizetype>(*size) + Read_Step, Qt::Uninitialized);
+        Prefer_Large_Pages(bytes.constData(), static_cast<size_t>(bytes.size()));
         qsizetype total = 0;
         for (;;) {
             const auto room = static_cast<size_t>(bytes.size() - total);

@@ -1,4 +1,5 @@
 #include "list/Message_Filling.h"
+#include "list/Table_Builder.h"
 #include "list/Table_File.h"
 
 #include <gtest/gtest.h>
@@ -71,4 +72,40 @@ TEST(Message_Filling, Openings_Without_End_Take_No_Time)
 {
     const QString openings = QStringLiteral("{{x").repeated(300'000);
     EXPECT_EQ(Message_Filling(openings).Without_Values().text, openings);
+}
+
+// Characters of one and two bytes are put in place without a decoder; all others, and what is no character at all, end
+// as they do in a field that is read alone.
+TEST(Message_Filling_Test, A_Value_In_Any_Characters_Is_The_Field_As_It_Is_Read)
+{
+    const char* const values[] = {"Jörg",
+                                  "Yıldız Müller",
+                                  "Ñandú",
+                                  "\xC2\x80",
+                                  "\xDF\xBF",
+                                  "10 €",
+                                  "\xEF\xBB\xBF Ann",
+                                  "日本語",
+                                  "a😀ö",
+                                  "ö\xF0\x9F\x98\x80",
+                                  "\xC3",
+                                  "ö\xC3",
+                                  "\xC0\xAF",
+                                  "\xC3(",
+                                  "\x80",
+                                  "\xE2\x82",
+                                  "\xED\xA0\x80",
+                                  "\xF8\x88\x80",
+                                  "Zoë\xFF"};
+    for (const char* const value : values) {
+        Table_Builder builder;
+        builder.Add_Field("Name");
+        ASSERT_TRUE(builder.End_Row(1));
+        builder.Add_Field(value);
+        ASSERT_TRUE(builder.End_Row(2));
+        const Contact_Table table = builder.Take();
+        const Message_Filling filling(QStringLiteral("<{{Name}}|{{Name}}>"), table);
+        const QString field = QString::fromUtf8(value);
+        EXPECT_EQ(filling.For_Row(table, 0).text, u'<' + field + u'|' + field + u'>') << value;
+    }
 }

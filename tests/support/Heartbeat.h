@@ -22,6 +22,13 @@ public:
         Beat();
         return m_longest;
     }
+    /// How long it worked at a stretch at its longest, in seconds of the processor: less than Longest_Gap by what it
+    /// waited for others, which on a busy computer are put off while they hold what it needs.
+    double Longest_Work()
+    {
+        Beat();
+        return m_longest_work;
+    }
     double Whole() const { return Own_Seconds() - m_begin; }
 
 private:
@@ -30,10 +37,15 @@ private:
         const double now = Own_Seconds();
         m_longest = std::max(m_longest, now - m_last);
         m_last = now;
+        const double worked = Worked_Seconds();
+        m_longest_work = std::max(m_longest_work, worked - m_last_worked);
+        m_last_worked = worked;
     }
 
     QTimer m_timer;
     double m_begin = Own_Seconds();
     double m_last = m_begin;
     double m_longest = 0;
+    double m_last_worked = Worked_Seconds();
+    double m_longest_work = 0;
 };

@@ -3,6 +3,7 @@
 #include "platform/Waiting.h"
 
 #include <cstdio>
+#include <ctime>
 
 /// The calling thread's own time, in seconds: the clock's, less the time in which it wanted to run and a busy computer
 /// let others run. Only differences mean something, within one thread.
@@ -17,6 +18,14 @@ inline double Own_Seconds()
         fclose(statistics);
     }
     return now - static_cast<double>(waited) * 1e-9;
+}
+
+/// How long a processor has worked for the calling thread, in seconds.
+inline double Worked_Seconds()
+{
+    timespec worked = {};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &worked);
+    return static_cast<double>(worked.tv_sec) + static_cast<double>(worked.tv_nsec) * 1e-9;
 }
 
 /// Measures on one thread from its making on: a wait is too short by the clock, and too long by the thread's own time.

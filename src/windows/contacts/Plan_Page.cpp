@@ -61,6 +61,8 @@ Plan_Page::Plan_Page(Window_Work& work, QWidget* parent)
         m_edits.push_back({row, number});
         Work_On();
     });
+    m_more_rows.setSingleShot(true);
+    connect(&m_more_rows, &QTimer::timeout, this, &Plan_Page::Show_More_Rows);
     Clear();
 }
 
@@ -110,6 +112,8 @@ void Plan_Page::Clear()
         *m_is_stopped = true;
     m_is_stopped.reset();
     m_is_busy = false;
+    m_more_rows.stop();
+    m_put_right.clear();
     m_edits.clear();
     m_next_filter.reset();
     m_goes_to_longest = false;
@@ -131,7 +135,9 @@ void Plan_Page::Show_Plan(Make_Plan make)
 void Plan_Page::Show_Again(const std::shared_ptr<const Plan_View>& view)
 {
     Clear();
+    m_is_busy = true;
     Take(view);
+    Show_More_Rows();
 }
 
 void Plan_Page::Start(std::function<View(const Plan_Watch&, int filter)> make, const std::vector<int>& put_right)
@@ -156,13 +162,26 @@ void Plan_Page::Start(std::function<View(const Plan_Watch&, int filter)> make, c
         Post_To_Interface_Thread(this, [this, stopped, view, put_right] {
             if (*stopped)
                 return;
-            m_is_busy = false;
             Take(view);
-            if (!put_right.empty())
-                Q_EMIT Put_Right(put_right);
-            Work_On();
+            m_put_right = put_right;
+            Show_More_Rows();
         });
     });
+}
+
+// Other events have their turn in between.
+void Plan_Page::Show_More_Rows()
+{
+    if (!m_rows->Shows_All()) {
+        m_rows->Show_More();
+        m_more_rows.start(0);
+        return;
+    }
+    m_is_busy = false;
+    Q_EMIT Changed();
+    if (const auto put_right = std::exchange(m_put_right, {}); !put_right.empty())
+        Q_EMIT Put_Right(put_right);
+    Work_On();
 }
 
 // Does what has come up while a worker was busy.

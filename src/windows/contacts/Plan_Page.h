@@ -2,6 +2,7 @@
 
 #include "windows/contacts/Plan_Rows.h"
 
+#include <QTimer>
 #include <QWidget>
 #include <atomic>
 #include <deque>
@@ -63,6 +64,7 @@ private:
     void Work_On();
     void Put_Numbers_Right();
     void Take(const View& view);
+    void Show_More_Rows();
     void Show_Filter();
     void Show_Progress(int percent);
     void Go_To_Longest();
@@ -74,6 +76,8 @@ private:
     View m_view;
     std::shared_ptr<std::atomic<bool>> m_is_stopped; // of the work under way
     bool m_is_busy = false;
+    QTimer m_more_rows;           // while a view comes into the table
+    std::vector<int> m_put_right; // of that view
     std::deque<Edit> m_edits;
     std::optional<int> m_next_filter; // that has been chosen meanwhile
     bool m_goes_to_longest = false;

@@ -5,6 +5,12 @@
 #include <algorithm>
 #include <utility>
 
+namespace {
+
+constexpr int Rows_At_Once = 1 << 16;
+
+} // namespace
+
 int Plan_View::Index_Of(int row) const
 {
     if (!is_filtered)
@@ -23,13 +29,21 @@ Plan_Rows::Plan_Rows(QObject* parent)
            {QStringLiteral("Parts"), tr("Parts")},
            {QStringLiteral("Verdict"), tr("Verdict")},
            {QStringLiteral("Reason"), tr("Remark")}},
-          [this] { return m_view ? m_view->Count() : 0; }, [](const QString&, int) { return QString(); }, parent)
+          [this] { return m_view ? std::min(m_view->Count(), m_most_shown) : 0; },
+          [](const QString&, int) { return QString(); }, parent)
 {
 }
 
 void Plan_Rows::Take(std::shared_ptr<const Plan_View> view)
 {
     m_view = std::move(view);
+    m_most_shown = std::max(Rows_At_Once, rowCount());
+    Reload();
+}
+
+void Plan_Rows::Show_More()
+{
+    m_most_shown = rowCount() + Rows_At_Once;
     Reload();
 }
 

@@ -39,7 +39,12 @@ public:
 
     explicit Plan_Rows(QObject* parent = nullptr);
 
+    /// Shows a view in place of another: at first not more rows than were shown before, or than come at once.
     void Take(std::shared_ptr<const Plan_View> view);
+    bool Shows_All() const { return !m_view || rowCount() == m_view->Count(); }
+    /// Shows the next rows of the view. The table's header makes an entry for each: for a million, all at once, that
+    /// would take longer than a frame.
+    void Show_More();
     void Let_Edit(bool can_edit) { m_can_edit = can_edit; }
 
     Qt::ItemFlags flags(const QModelIndex& index) const override;
@@ -54,5 +59,6 @@ private:
     QString Cell(Column column, int row) const;
 
     std::shared_ptr<const Plan_View> m_view;
+    int m_most_shown = 0; // of its rows
     bool m_can_edit = true;
 };

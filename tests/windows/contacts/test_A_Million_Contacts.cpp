@@ -9,7 +9,7 @@ constexpr double Slowness = 10;
 constexpr double Slowness = 1;
 #endif
 
-constexpr double Longest_Away = 0.05 * Slowness; // of the interface thread from its events, in its own seconds
+constexpr double Longest_Work = 0.016 * Slowness; // of the interface thread between events, in seconds of the processor
 constexpr int Many = 1'000'000;
 
 QByteArray People()
@@ -36,7 +36,7 @@ TEST_F(Contacts_Test, A_Million_People_Are_Read_Judged_Filtered_And_Added_While_
     Click_In(*m_sheet, "Continue_Btn");
     Await(120);
     EXPECT_TRUE(Text_Of("_Sums").startsWith("1000000 messages to be sent, 1000000 parts"));
-    EXPECT_EQ(Rows().model()->rowCount(), Many);
+    EXPECT_TRUE(Serve_Until([this] { return Rows().model()->rowCount() == Many; }, 20)); // which come bit by bit
     Rows().scrollToBottom();
     QCoreApplication::processEvents();
     EXPECT_EQ(Row(Rows(), Many - 1).section(u'|', 1, 3), "447700999999|447700999999|Hi Ann");
@@ -44,8 +44,7 @@ TEST_F(Contacts_Test, A_Million_People_Are_Read_Judged_Filtered_And_Added_While_
     EXPECT_EQ(Rows().model()->rowCount(), Many);
     Press("Longest_Btn");
     EXPECT_EQ(Rows_Selected_In(Rows()), std::vector<int>{0});
-    const double longest_gap = heartbeat.Longest_Gap();
-    EXPECT_LT(longest_gap, Longest_Away);
+    EXPECT_LT(heartbeat.Longest_Work(), Longest_Work);
     Click_In(*m_sheet, "Add_To_List");
     Await(120);
     EXPECT_EQ(m_window.m_recipients.Count(), Many);
