@@ -2,6 +2,7 @@
 
 #include "list/Number_Rules.h"
 #include "list/Table_Builder.h"
+#include "list/Written_Number.h"
 
 namespace {
 
@@ -68,7 +69,10 @@ Contact_List_File::Read_List Contact_List_File::List_In(const Contact_Table& tab
     Read_List read;
     const auto fields = std::make_shared<const Contact_Table>(Fields_In(table, read.trouble));
     for (int row = 0; row < table.Row_Count() && read.trouble.isEmpty(); ++row) {
-        const QString number = Number_Rules::Normalised_Number(table.Field(row, 0));
+        const QString written = table.Field(row, 0);
+        QString number = Number_Rules::Normalised_Number(written);
+        if (number.isEmpty()) // another program may have saved it since
+            number = Number_As_Written(written, nullptr).number;
         if (number.isEmpty() || table.Trouble_Of(row) != Contact_Table::Row_Trouble::None)
             read.left_out.push_back(row);
         else if (table.Field_Count(row) <= Columns_Before_Fields)

@@ -6,6 +6,14 @@
 
 namespace {
 
+// Where plans have changed within some years, or sources differ, a row takes both forms: the length of a number tells a
+// prefix of 8 from its first digit.
+//   LT  8 until 2025, 0 since; and TJ and UZ 8 and, of late, none: lists keep the old form for long.
+//   KI  eight digits since 2013, and five before, which are near enough to be let pass; prefix 0.
+//   RW  nine digits behind the 0, which most write.
+//   SO  seven to nine digits, by operator; most write the 0.
+//   TA  four digits and, by the plan that it shares with SH, five; NU and TK four, mobile ones up to seven; TV five,
+//       mobile ones six or seven.
 constexpr std::array Countries{Country{"AC", "247", "", 5, 5},
                                Country{"AD", "376", "", 6, 9},
                                Country{"AE", "971", "0", 9, 9},
@@ -215,12 +223,12 @@ constexpr std::array Countries{Country{"AC", "247", "", 5, 5},
                                Country{"SX", "1", "1", 10, 10},
                                Country{"SY", "963", "0", 9, 9},
                                Country{"SZ", "268", "", 8, 8},
-                               Country{"TA", "290", "", 4, 4},
+                               Country{"TA", "290", "", 4, 5},
                                Country{"TC", "1", "1", 10, 10},
                                Country{"TD", "235", "", 8, 8},
                                Country{"TG", "228", "", 8, 8},
                                Country{"TH", "66", "0", 9, 9},
-                               Country{"TJ", "992", "", 9, 9},
+                               Country{"TJ", "992", "8", 9, 9},
                                Country{"TK", "690", "", 4, 7},
                                Country{"TL", "670", "", 8, 8},
                                Country{"TM", "993", "8", 8, 8},
@@ -228,14 +236,14 @@ constexpr std::array Countries{Country{"AC", "247", "", 5, 5},
                                Country{"TO", "676", "", 7, 7},
                                Country{"TR", "90", "0", 10, 10},
                                Country{"TT", "1", "1", 10, 10},
-                               Country{"TV", "688", "", 6, 7},
+                               Country{"TV", "688", "", 5, 7},
                                Country{"TW", "886", "0", 9, 9},
                                Country{"TZ", "255", "0", 9, 9},
                                Country{"UA", "380", "0", 9, 9},
                                Country{"UG", "256", "0", 9, 9},
                                Country{"US", "1", "1", 10, 10},
                                Country{"UY", "598", "0", 8, 8},
-                               Country{"UZ", "998", "", 9, 9},
+                               Country{"UZ", "998", "8", 9, 9},
                                Country{"VA", "39", "", 9, 10},
                                Country{"VC", "1", "1", 10, 10},
                                Country{"VE", "58", "0", 10, 10},
@@ -267,7 +275,7 @@ struct Other_Prefix
 constexpr std::array Other_Prefixes{Other_Prefix{"1", "011"},   Other_Prefix{"7", "810"},   Other_Prefix{"53", "119"},
                                     Other_Prefix{"61", "0011"}, Other_Prefix{"81", "010"},  Other_Prefix{"254", "000"},
                                     Other_Prefix{"255", "000"}, Other_Prefix{"256", "000"}, Other_Prefix{"375", "810"},
-                                    Other_Prefix{"993", "810"}};
+                                    Other_Prefix{"992", "810"}, Other_Prefix{"993", "810"}, Other_Prefix{"998", "810"}};
 
 } // namespace
 

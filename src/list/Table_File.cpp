@@ -8,6 +8,7 @@
 #include "texts/Table_Texts.h"
 
 #include <QFileInfo>
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -23,8 +24,6 @@ constexpr std::array Other_Kinds{Other_Kind{"%PDF-", "a PDF document"},
                                              "ELF",
                                              4},
                                             "a program"},
-                                 Other_Kind{"MZ", "a program"},
-                                 Other_Kind{"{\\rtf", "rich text"},
                                  Other_Kind{{"\x1F\x8B", 2}, "a compressed file"},
                                  Other_Kind{"\x89PNG", "a picture"},
                                  Other_Kind{{"\xFF\xD8\xFF", 3}, "a picture"},
@@ -35,8 +34,20 @@ constexpr std::array Other_Kinds{Other_Kind{"%PDF-", "a PDF document"},
                                  Other_Kind{"<table", "a web page"},
                                  Other_Kind{"<?xml", "an XML document"}};
 
+constexpr QByteArrayView Rich_Text_Mark = "{\\rtf";
+constexpr qsizetype Header_Of_A_Program = 64; // bytes, and some of them are 0; a table may begin with "MZ", too
+
+bool Is_Program_Of_Another_System(QByteArrayView bytes)
+{
+    return bytes.startsWith("MZ") && bytes.first(std::min(bytes.size(), Header_Of_A_Program)).contains('\0');
+}
+
 QString Of_Another_Kind(QByteArrayView bytes)
 {
+    if (bytes.startsWith(Rich_Text_Mark))
+        return Texts::Table::Rich_Text;
+    if (Is_Program_Of_Another_System(bytes))
+        return QString(Texts::Table::Other_Kind).arg(QStringLiteral("a program"));
     for (const Other_Kind& kind : Other_Kinds)
         if (bytes.startsWith(kind.beginning))
             return QString(Texts::Table::Other_Kind).arg(QLatin1String(kind.name));
@@ -118,6 +129,17 @@ Table_In_A_File Table_Of_Text(QByteArray bytes, const QString& name, const Table
 }
 
 } // namespace
+
+QString Why_No_Plain_Text(QByteArrayView beginning)
+{
+    if (const QString trouble = Of_Another_Kind(beginning); !trouble.isEmpty())
+        return trouble;
+    if (const QString trouble = Trouble_Of_Old_Spreadsheet(beginning); !trouble.isEmpty())
+        return trouble;
+    if (Is_Archive(beginning))
+        return Texts::Table::Spreadsheet;
+    return Is_Contact_Cards(beginning) ? QString(Texts::Table::Cards) : QString();
+}
 
 Table_In_A_File Read_Table(const QString& path, const Table_Choices& choices)
 {

@@ -34,6 +34,10 @@ struct Table_In_A_File
     QString trouble; ///< why there is no table, in words that follow a colon; empty for none
 };
 
+/// What a file is that begins with these bytes, in words that follow a colon: no text, but a spreadsheet, contacts or
+/// something that is no list. Empty for a text. Some hundred bytes are enough.
+QString Why_No_Plain_Text(QByteArrayView beginning);
+
 /// Reads a file of at most Largest_Number_File bytes.
 Table_In_A_File Read_Table(const QString& path, const Table_Choices& choices);
 

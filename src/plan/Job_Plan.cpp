@@ -38,6 +38,16 @@ QString Job_Plan::Reason_Of(int row) const
     return Sentence(Clause_For(row));
 }
 
+Filled_Message Job_Plan::Fault_Of(int row) const
+{
+    Filled_Message filled = Filled_At(row);
+    filled.fault.clear();
+    if (const auto verdict = Verdict_Of(row); verdict == Row_Verdict::Empty_Field ||
+                                              verdict == Row_Verdict::Unknown_Field || verdict == Row_Verdict::Too_Long)
+        filled.fault = Skip_Word_For(verdict);
+    return filled;
+}
+
 Planned_Row Job_Plan::At(int row) const
 {
     return {row + 1, Shown_Number(row), Text_Of(row), Skip_Word_For(Verdict_Of(row)), Note_For(row)};
@@ -113,7 +123,7 @@ QString Job_Plan::Shown_Number(int row) const
 // With fixed waits a job hands over whatever its list holds.
 bool Job_Plan::Is_Usable(int row) const
 {
-    if (Is_Of_List() && m_terms.manner.fixed_waits && !m_written.contains(row))
+    if (Is_Of_List() && m_terms.manner.fixed_waits && !m_terms.judges_numbers && !m_written.contains(row))
         return true;
     const Packed_Number& packed = Entry_At(row).number;
     return packed.Is_Empty() ? Can_Be_Dialled(Number_Read(row)) : Can_Be_Dialled(packed);
@@ -141,11 +151,8 @@ QString Job_Plan::Clause_For(int row) const
         return Texts::Table::Not_A_Number;
     case Row_Verdict::Empty_Field:
     case Row_Verdict::Unknown_Field:
-    case Row_Verdict::Too_Long: {
-        Filled_Message filled = Filled_At(row);
-        filled.fault = Skip_Word_For(Verdict_Of(row));
-        return Words_For_Fault(filled);
-    }
+    case Row_Verdict::Too_Long:
+        return Words_For_Fault(Fault_Of(row));
     case Row_Verdict::Send:
     case Row_Verdict::Wrong_Columns:
         break;
@@ -221,8 +228,10 @@ void Job_Plan::Count_Causes(int row, const Row_Judge& judge, int by)
     }
 }
 
-void Job_Plan::Set_Number(int row, const QString& written)
+bool Job_Plan::Set_Number(int row, const QString& written)
 {
+    if (Is_Of_List() && !Can_Be_Dialled(Number_Of_Input(written, m_terms.numbers, m_terms.country).number))
+        return false;
     Row_Judge judge(m_terms.manner);
     const QString before = Number_Read(row);
     const bool was_to_be_sent = Verdict_Of(row) == Row_Verdict::Send;
@@ -237,10 +246,11 @@ void Job_Plan::Set_Number(int row, const QString& written)
         Entry_At(row).verdict = Row_Verdict::Duplicate; // as long as nobody has looked at the others
     else if (is_to_be_sent)
         Count_Causes(row, judge, 1);
-    if (!m_terms.skip_duplicates)
-        return;
-    Settle_Equals(before, judge);
-    Settle_Equals(Number_Read(row), judge);
+    if (m_terms.skip_duplicates) {
+        Settle_Equals(before, judge);
+        Settle_Equals(Number_Read(row), judge);
+    }
+    return true;
 }
 
 // Of the rows with a number that could be sent, the first is.

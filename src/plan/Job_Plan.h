@@ -22,6 +22,7 @@ struct Plan_Terms
     const Country* country = nullptr; ///< null to leave numbers as they are written
     Number_List present;              ///< besides earlier rows, duplicates are looked for here
     Plan_Numbers numbers = Plan_Numbers::In_A_Table;
+    bool judges_numbers = false; ///< of a list that no job has yet, whatever the manner
 };
 
 /// For whoever waits while a plan is made; either may be missing. Called on its thread, now and then.
@@ -63,11 +64,14 @@ public:
     /// What is to be said about the row, in a sentence: what was made of its number, or why it is not sent. Mostly
     /// empty.
     QString Reason_Of(int row) const;
+    /// The text with what keeps it from being sent, if that is in it; its fault is one of Skip_Words.
+    Filled_Message Fault_Of(int row) const;
     /// The row as lists of planned rows show it.
     Planned_Row At(int row) const;
 
-    /// Puts a number right. The row is judged again, and so is what hung on its number before, and now hangs on it.
-    void Set_Number(int row, const QString& written);
+    /// Puts a number right. The row is judged again, and so is what hung on its number before, and now hangs on it. A
+    /// list holds no number that cannot be dialled: the row of one then stays as it was, and the answer is no.
+    bool Set_Number(int row, const QString& written);
 
     /// Looks at every row: a millisecond for some hundred thousand.
     Plan_Sums Sums() const;

@@ -24,7 +24,7 @@ Job_Plan Plan_Of(const Send_Order& order, const Plan_Manner& manner, const std::
 Job_Sums Sums_Of(const Job_Plan& plan)
 {
     const Plan_Sums sums = plan.Sums();
-    return {sums.send, static_cast<int>(sums.parts), sums.recipients - sums.send};
+    return {sums.send, static_cast<int>(sums.parts), sums.recipients - sums.send, Unfilled_Rows_Of(plan)};
 }
 
 double Seconds_For(const Job_Sums& sums, const Plan_Manner& manner, double seconds_for_a_part)

@@ -2,15 +2,17 @@
 
 #include "engine/Send_Order.h"
 #include "plan/Job_Plan.h"
+#include "plan/Unfilled_Rows.h"
 
 #include <functional>
 
 /// What a job comes to before it begins.
 struct Job_Sums
 {
-    int recipients = 0; ///< that are to get something
-    int parts = 0;      ///< of their messages
-    int left_out = 0;   ///< the others of its list
+    int recipients = 0;          ///< that are to get something
+    int parts = 0;               ///< of their messages
+    int left_out = 0;            ///< the others of its list
+    Unfilled_Rows unfilled = {}; ///< some of those
 
     bool operator==(const Job_Sums&) const = default;
 };

@@ -1,7 +1,9 @@
 #include "send/Input_Files.h"
 
 #include "list/Number_File.h"
+#include "list/Table_File.h"
 #include "platform/Descriptor.h"
+#include "platform/Rich_Text.h"
 #include "platform/Text_Files.h"
 #include "platform/Waiting.h"
 
@@ -66,6 +68,9 @@ Trouble No_Text(const QString& name)
 Input_Text Text_Of(const QString& name, const QByteArray& bytes)
 {
     Input_Text input;
+    if (!Is_Rich_Text_Path(name))
+        if (const QString why = Why_No_Plain_Text(bytes); !why.isEmpty())
+            return {{}, Unreadable(name, why)};
     input.text = Text_Of_Number_File(name, bytes);
     if (input.text.isEmpty() && !bytes.isEmpty())
         input.trouble = No_Text(name);

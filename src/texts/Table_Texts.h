@@ -12,6 +12,9 @@ inline constexpr Fixed_Text Unreadable{"it is larger than %1 bytes, or may not b
 inline constexpr Fixed_Text Empty{"it is empty"};
 inline constexpr Fixed_Text No_Text{"it is no text: line %1 holds characters that no list has"};
 inline constexpr Fixed_Text Other_Kind{"it is %1, and no list"};
+inline constexpr Fixed_Text Rich_Text{"it is rich text; its numbers can be imported under a name that ends in .rtf"};
+inline constexpr Fixed_Text Spreadsheet{"it is a spreadsheet or an archive, and no list of numbers alone"};
+inline constexpr Fixed_Text Cards{"it holds contacts, and not numbers alone"};
 inline constexpr Fixed_Text Old_Spreadsheet{
     "it is a spreadsheet in an old format; saved as .xlsx, .ods or CSV it can be read"};
 inline constexpr Fixed_Text Encrypted{"it is encrypted; saved without a password it can be read"};

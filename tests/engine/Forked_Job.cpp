@@ -8,6 +8,8 @@
 #include <cerrno>
 #include <chrono>
 #include <csignal>
+#include <filesystem>
+#include <fstream>
 #include <memory>
 #include <new>
 #include <sstream>
@@ -177,6 +179,25 @@ Job_Life Life_In(const Remains& remains, bool was_killed)
             Lines_Of(remains.words.journal.All())};
 }
 
+// A child inherits the locks of its parent's threads as they are, and a sanitizer's allocator has some that nobody
+// gives back: the phone's thread must be waiting for the line.
+void Wait_For_Quiet_Threads()
+{
+    const auto is_at_rest = [](const std::filesystem::path& task) {
+        std::string line;
+        std::getline(std::ifstream(task / "stat"), line);
+        const auto name_end = line.rfind(')'); // the state comes after the name
+        return name_end == std::string::npos || line.compare(name_end, 3, ") S") == 0;
+    };
+    const auto end = std::chrono::steady_clock::now() + Longest_Delivery;
+    for (int at_rest = 0; at_rest < 3 && std::chrono::steady_clock::now() < end; ++at_rest) {
+        for (const auto& task : std::filesystem::directory_iterator("/proc/self/task"))
+            if (task.path().filename() != std::to_string(gettid()) && !is_at_rest(task.path()))
+                at_rest = -1;
+        std::this_thread::sleep_for(std::chrono::microseconds(50));
+    }
+}
+
 } // namespace
 
 Job_Life Live(const Virtual_Phone& phone, const Send_Order& order, const Confirmed_Options& options,
@@ -186,6 +207,7 @@ Job_Life Live(const Virtual_Phone& phone, const Send_Order& order, const Confirm
     const std::uint64_t heard = Counts_Of(phone).heard;
     int sockets[2] = {-1, -1};
     EXPECT_EQ(socketpair(AF_UNIX, SOCK_STREAM, 0, sockets), 0);
+    Wait_For_Quiet_Threads();
     const pid_t child = fork();
     if (child == 0) {
         close(sockets[0]);

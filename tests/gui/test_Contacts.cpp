@@ -223,6 +223,50 @@ TEST_F(Contacts, A_Table_That_Is_Dropped_Opens_The_Sheet_And_A_Plain_List_Is_Imp
     EXPECT_EQ(Numbers(), (QStringList{"111", "222"}));
 }
 
+TEST_F(Contacts, What_Is_Dropped_Is_Taken_For_What_It_Holds_Whatever_It_Is_Called)
+{
+    const QByteArray sheet = Bytes_Of(QStringLiteral(CORVANE_TEST_DATA "/tables/libreoffice.xlsx"));
+    const auto words_for = [this](const QString& name, const QByteArray& bytes) {
+        m_delegate->Dropped_File(File(name, bytes));
+        Await();
+        if (!Sheet().isVisible())
+            return QString();
+        const QString words = In<QLabel>(Sheet(), "_Words").text();
+        Press_In_Sheet("Close_Btn");
+        return words;
+    };
+    EXPECT_EQ(words_for("a.txt", sheet), "a.txt: 5 rows in 7 columns.");
+    EXPECT_EQ(words_for("b.rtf", sheet), "b.rtf: 5 rows in 7 columns.");
+    EXPECT_EQ(words_for("c.txt", "BEGIN:VCARD\nFN:Ann\nTEL:07700900100\nEND:VCARD\n"), "c.txt: 1 row in 9 columns.");
+    EXPECT_EQ(words_for("d.txt", "\x7F"
+                                 "ELF 07700900100\n"),
+              "d.txt can not be used: it is a program, and no list.");
+    EXPECT_EQ(words_for("e.csv", "{\\rtf1 07700900100\\par}"),
+              "e.csv can not be used: it is rich text; its numbers can be imported under a name that ends in .rtf.");
+    EXPECT_EQ(m_delegate->Recipients().Count(), 0);
+    EXPECT_EQ(words_for("f.rtf", "{\\rtf1 07700900100\\par}"), "");
+    EXPECT_EQ(Numbers(), QStringList("07700900100"));
+}
+
+TEST_F(Contacts, Who_Would_Get_Nothing_Is_Named_Beside_Send_And_Shown)
+{
+    Import_People();
+    m_delegate->Replace_Recipient(0, "00447700900100", "Dear {{Name}}");
+    m_delegate->Replace_Recipient(1, "00447700900102", "Dear {{Name}}");
+    Await();
+    EXPECT_TRUE(The<QLabel>("_Promise_Lbl").text().endsWith("\n1 recipient has no Name: it gets nothing."))
+        << qPrintable(The<QLabel>("_Promise_Lbl").text());
+    EXPECT_EQ(The<QPushButton>("Check_List").text(), "Show who gets nothing ...");
+    Click("Check_List");
+    Await();
+    EXPECT_EQ(Rows_Of(In<QTableView>(Sheet(), "_Rows"), 3), QStringList("Dear {{Name}}"));
+    Press_In_Sheet("Close_Btn");
+    m_delegate->Replace_Recipient(1, "00447700900102", "Dear {{Name|friend}}");
+    Await();
+    EXPECT_FALSE(The<QLabel>("_Promise_Lbl").text().contains("nothing"));
+    EXPECT_EQ(The<QPushButton>("Check_List").text(), "Check before sending ...");
+}
+
 TEST_F(Contacts, A_List_Is_Saved_With_Its_Fields_And_Opened_Again)
 {
     Write_Message("Dear {{Name|friend}}, \"quoted\"\nand on a second line");

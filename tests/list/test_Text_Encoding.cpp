@@ -112,7 +112,8 @@ INSTANTIATE_TEST_SUITE_P(
         Spoilt_Text{"another program", QByteArray("MZ\x90\0\x03\0", 6), "it is a program, and no list"},
         Spoilt_Text{"a PDF document", "%PDF-1.7\n", "it is a PDF document, and no list"},
         Spoilt_Text{"a picture", "\x89PNG\r\n\x1A\n", "it is a picture, and no list"},
-        Spoilt_Text{"rich text", "{\\rtf1 Phone\\par}", "it is rich text, and no list"},
+        Spoilt_Text{"rich text", "{\\rtf1 Phone\\par}",
+                    "it is rich text; its numbers can be imported under a name that ends in .rtf"},
         Spoilt_Text{"a web page", "<html><table><tr><td>1", "it is a web page, and no list"},
         Spoilt_Text{"XML", "<?xml version=\"1.0\"?><list/>", "it is an XML document, and no list"},
         Spoilt_Text{"something compressed", QByteArray("\x1F\x8B\x08\0", 4), "it is a compressed file, and no list"}));

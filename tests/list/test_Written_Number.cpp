@@ -106,6 +106,34 @@ INSTANTIATE_TEST_SUITE_P(
                     Written{"RU", "9123456789", "0079123456789", Code_Added}));
 
 INSTANTIATE_TEST_SUITE_P(
+    Of_Changed_Plans, Written_Numbers,
+    testing::Values(
+        Written{"TJ", "917 12 34 56", "00992917123456", Code_Added},
+        Written{"TJ", "8 917 12 34 56", "00992917123456", National},
+        Written{"TJ", "880 12 34 56", "00992880123456", Code_Added},
+        Written{"TJ", "8 10 44 7700 900123", "00447700900123", International},
+        Written{"UZ", "90 123 45 67", "00998901234567", Code_Added},
+        Written{"UZ", "8 90 123 45 67", "00998901234567", National},
+        Written{"UZ", "88 123 45 67", "00998881234567", Code_Added},
+        Written{"UZ", "8 10 44 7700 900123", "00447700900123", International},
+        Written{"UZ", "998901234567", "00998901234567", Plus_Missing},
+        Written{"LT", "0 612 34567", "0037061234567", National},
+        Written{"LT", "612 34567", "0037061234567", Code_Added},
+        Written{"LT", "8 612 34567", "0037061234567", National},
+        Written{"KI", "7201 2345", "0068672012345", Zero_Missing}, Written{"KI", "21234", "0068621234", Zero_Missing},
+        Written{"KI", "68672012345", "0068672012345", Plus_Missing},
+        Written{"RW", "0788 123 456", "00250788123456", National},
+        Written{"RW", "788123456", "00250788123456", Zero_Missing},
+        Written{"SO", "061 2345678", "00252612345678", National},
+        Written{"SO", "61 2345678", "00252612345678", Zero_Missing},
+        Written{"SO", "0 1234567", "002521234567", National}, Written{"TA", "8123", "002908123", Code_Added},
+        Written{"TA", "81234", "0029081234", Code_Added}, Written{"NU", "4123", "006834123", Code_Added},
+        Written{"NU", "888 4123", "006838884123", Code_Added}, Written{"TK", "3123", "006903123", Code_Added},
+        Written{"TK", "7290 123", "006907290123", Code_Added}, Written{"TV", "20123", "0068820123", Code_Added},
+        Written{"TV", "901234", "00688901234", Code_Added}, Written{"TV", "7012345", "006887012345", Code_Added},
+        Written{"TV", "68820123", "0068820123", Plus_Missing}));
+
+INSTANTIATE_TEST_SUITE_P(
     Spoilt, Written_Numbers,
     testing::Values(
         Written{"DE", "1701234567", "00491701234567", Zero_Missing},

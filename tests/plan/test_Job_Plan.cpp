@@ -1,3 +1,4 @@
+#include "engine/Send_Order.h"
 #include "list/Table_File.h"
 #include "plan/Job_Plan.h"
 #include "plan/Plan_Time.h"
@@ -203,6 +204,30 @@ TEST(Job_Plan, Of_A_List_Is_What_A_Job_Does_With_It)
     EXPECT_EQ(fixed.Number_Of(1), "12,3");
 }
 
+TEST(Job_Plan, Of_A_List_Keeps_A_Number_In_Whose_Place_None_Was_Written)
+{
+    Recipient_List list;
+    list.Append(QStringLiteral("07700900100"), QStringLiteral("hello"));
+    Job_Plan plan = Job_Plan::Of_List(list, Terms());
+    for (const char* nothing : {"", "Ann", "4.477E+11", "00", "0170 1234567 / 0171 1234567"})
+        EXPECT_FALSE(plan.Set_Number(0, QString::fromLatin1(nothing))) << nothing;
+    EXPECT_EQ(plan.Number_Of(0), "07700900100");
+    EXPECT_EQ(plan.Written_Number(0), "07700900100");
+    EXPECT_EQ(plan.Verdict_Of(0), Row_Verdict::Send);
+    EXPECT_TRUE(plan.Set_Number(0, QStringLiteral(" +44 (0)7700/900-101")));
+    EXPECT_EQ(plan.Number_Of(0), "00447700900101");
+}
+
+TEST(Job_Plan, Of_A_List_That_No_Job_Has_Yet_Judges_Its_Numbers_In_Either_Manner)
+{
+    Recipient_List list;
+    list.Append(QStringLiteral("07700 900100?"), QStringLiteral("hello"));
+    Plan_Terms terms = Terms();
+    terms.manner.fixed_waits = true;
+    terms.judges_numbers = true;
+    EXPECT_THAT(Verdicts_Of(Job_Plan::Of_List(list, terms)), ElementsAre("invalid-number"));
+}
+
 TEST(Job_Plan, Can_Be_Stopped_And_Says_How_Far_It_Is)
 {
     Recipient_List list;
@@ -335,6 +360,50 @@ TEST(Job_Plan, Agrees_With_Every_Row_Looked_At_By_Itself)
         Expect_As_Written_Down(Job_Plan::Of_List(list, of_list), of_list);
         if (HasFatalFailure())
             return;
+    }
+}
+
+// A job of the same list asks before each message whether it is skipped, and what its text is.
+TEST(Job_Plan, Says_Of_Every_Row_Of_A_List_What_The_Job_Does_With_It)
+{
+    const auto word_of_the_job = [](const Send_Order& order, int row) -> std::string {
+        switch (Reason_To_Skip(order, row)) {
+        case Skip_Reason::Excluded:
+            return Skip_Words::Excluded;
+        case Skip_Reason::Repeated:
+            return Skip_Words::Duplicate;
+        case Skip_Reason::Not_Filled:
+            return Text_To_Send(order.recipients, row).fault.toStdString();
+        case Skip_Reason::None:
+            break;
+        }
+        return "send";
+    };
+    for (int round = 0; round < 150; ++round) {
+        SCOPED_TRACE(round);
+        const Plan_Terms terms = Random_Terms();
+        Send_Order order;
+        order.choices.skip_duplicates = terms.skip_duplicates;
+        order.choices.exclusion = true;
+        order.exclusions = terms.excluded;
+        if (Below(2) == 0)
+            Job_Plan::Of_Table(Random_Table(40), 0, Random_Message(), {}).Add_To(order.recipients, Random_Message());
+        for (int row = 0; row < 20; ++row)
+            order.recipients.Append(QString::number(77009000 + Below(12)), Random_Message());
+        for (int row = 0; row < order.recipients.Count(); row += 5)
+            order.recipients.Set_Messages({row}, Random_Message());
+        Find_Repeats(order);
+        Plan_Terms of_list = terms;
+        of_list.present = {};
+        const Job_Plan plan = Job_Plan::Of_List(order.recipients, of_list);
+        ASSERT_EQ(plan.Count(), order.recipients.Count());
+        for (int row = 0; row < plan.Count(); ++row) {
+            ASSERT_EQ(Word_For(plan.Verdict_Of(row)), word_of_the_job(order, row)) << row;
+            ASSERT_EQ(plan.Number_Of(row), order.recipients.Numbers().At(row));
+            if (plan.Verdict_Of(row) == Row_Verdict::Send) {
+                ASSERT_EQ(plan.Text_Of(row), Text_To_Send(order.recipients, row).text) << row;
+            }
+        }
     }
 }
 

@@ -1,6 +1,7 @@
 #include "send/Inputs.h"
 #include "support/Files.h"
 
+#include <QDir>
 #include <gtest/gtest.h>
 
 namespace {
@@ -73,5 +74,16 @@ INSTANTIATE_TEST_SUITE_P(Golden, Lists, testing::ValuesIn(Golden_Lists()));
 
 TEST(Golden_Lists_File, Was_Read)
 {
-    EXPECT_EQ(Golden_Lists().size(), 13U);
+    EXPECT_EQ(Golden_Lists().size(), 18U);
+}
+
+TEST(Golden_Lists_File, Knows_Every_List_Of_The_Folder)
+{
+    QStringList missing = QDir(Folder()).entryList(QDir::Files);
+    missing.removeAll(QStringLiteral("golden_lists.txt"));
+    missing.removeAll(QStringLiteral("make_lists.py"));
+    EXPECT_GE(missing.size(), 15);
+    for (const Golden_List& list : Golden_Lists())
+        missing.removeAll(QString::fromStdString(list.call).section(u' ', 0, 0));
+    EXPECT_EQ(missing, QStringList());
 }

@@ -59,6 +59,21 @@ TEST_F(Inputs_Of_Files, Rich_Text_Is_Read_By_Its_Name)
     EXPECT_EQ(Read(), (Verdicts{{"07700900100", "send"}, {"07700900101", "send"}}));
 }
 
+TEST_F(Inputs_Of_Files, A_List_Of_Another_Kind_Is_Named_Whatever_It_Is_Called)
+{
+    for (const auto& [bytes, words] : std::vector<std::pair<QByteArray, const char*>>{
+             {"{\\rtf1\\ansi 07700900100\\par}", "it is rich text"},
+             {"BEGIN:VCARD\nTEL:07700\n 900100\nEND:VCARD\n", "it holds contacts"},
+             {Bytes_Of(QStringLiteral(CORVANE_TEST_DATA "/tables/libreoffice.xlsx")), "it is a spreadsheet"},
+             {"\x7F"
+              "ELF 07700900100\n",
+              "it is a program"}}) {
+        m_arguments.numbers_file = File("list.txt", bytes);
+        EXPECT_EQ(Read(), Verdicts());
+        EXPECT_THAT(m_inputs.trouble.Line().toStdString(), HasSubstr(words));
+    }
+}
+
 TEST_F(Inputs_Of_Files, Exclusions_Come_Before_Repeats)
 {
     m_arguments.numbers = QStringList{"+441", "00441", "442", "443", "442"};

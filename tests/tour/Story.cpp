@@ -46,25 +46,13 @@ QByteArray On_One_Line(QString text)
     return text.replace("\n", "|AP*|DX/").toUtf8();
 }
 
-// The table of people.
+// The table of people, as a spreadsheet program has saved it.
 const QStringList Names = {"Ann", "Bob", "Cleo", "Dev", "Eve",  "Finn", "Gil", "Hana", "Ida",
                            "Jon", "Kay", "Lena", "Max", "Nora", "Olu",  "Pia", "Quin"};
 constexpr int People = 300;
 constexpr int First_Of_People = 10000; // behind 077009
 constexpr int Without_A_Number = 17;
 constexpr int Without_A_Name = 200;
-
-QByteArray Table_Of_People()
-{
-    QByteArray table = "Name,Phone,Seat\n";
-    for (int place = 0; place < People; ++place) {
-        const QByteArray name = place == Without_A_Name ? "" : Names.at(place % Names.size()).toUtf8();
-        const QByteArray number =
-            place == Without_A_Number ? "" : "+44 77009 " + QByteArray::number(First_Of_People + place);
-        table += name + ',' + number + ',' + QByteArray::number(place + 1) + '\n';
-    }
-    return table;
-}
 
 QStringList Template_Texts()
 {
@@ -75,7 +63,8 @@ QStringList Template_Texts()
 
 void Story::Write_Files(const QString& folder)
 {
-    Write(folder + u'/' + People_File, Table_Of_People());
+    if (!QFile::copy(QStringLiteral(":/tour/people.xlsx"), folder + u'/' + People_File))
+        throw Tour_Failed("could not copy the table of people");
     Write(folder + u'/' + Moved_Away_File, "0770-090-0111\n07700900222\n");
     Write(folder + u'/' + Members_File, "0770-090-0456\n"
                                         "+44 is not a number\n"

@@ -43,9 +43,9 @@ inline const QString Committee = "Committee";
 /// What the phone must have received at the end, in its order.
 std::vector<Message> Messages();
 
-/// A table of three hundred people, of whom one has no number and one no name; what is written to them, and what the
-/// phone must have received of it.
-inline const QString People_File = "people.csv";
+/// A spreadsheet of three hundred people, of whom one has no number and one no name; what is written to them, and what
+/// the phone must have received of it.
+inline const QString People_File = "people.xlsx";
 inline const QString To_People = "Dear {{Name}}, the choir sings on Saturday. Your seat is {{Seat}}.";
 std::vector<Message> Messages_To_People();
 

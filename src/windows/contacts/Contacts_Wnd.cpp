@@ -4,6 +4,8 @@
 #include "list/Contact_List_File.h"
 #include "plan/Chosen_Manner.h"
 #include "plan/Job_Plan.h"
+#include "plan/Job_Sums.h"
+#include "plan/Plan_Pace.h"
 #include "platform/Interface_Thread.h"
 #include "toolkit/File_Panels.h"
 #include "toolkit/Main_Window.h"
@@ -25,6 +27,20 @@ bool May_Join(Row_Verdict verdict)
            verdict == Row_Verdict::Unknown_Field || verdict == Row_Verdict::Too_Long;
 }
 
+// The rows of a saved list. Those that somebody has spoilt since are at its end: with what stands in place of a number,
+// so that they are seen and can be put right, but do not join a list as they are.
+Recipient_List Saved_Rows(const Contact_Table& table)
+{
+    Contact_List_File::Read_List read = Contact_List_File::List_In(table);
+    for (const int row : read.left_out) {
+        const QString written = Shown_In_Place_Of_A_Number(table.Field(row, 0));
+        const QString trouble = table.Words_For_Trouble(row);
+        read.recipients.Append(trouble.isEmpty() ? written : QStringLiteral("%1 (%2)").arg(written, trouble),
+                               table.Field(row, 1));
+    }
+    return std::move(read.recipients);
+}
+
 // Appends the rows of a saved list, each with its own message and fields. Returns how many.
 int Append_Saved(const Recipient_List& saved, const Job_Plan& plan, Recipient_List& list)
 {
@@ -42,9 +58,18 @@ int Append_Saved(const Recipient_List& saved, const Job_Plan& plan, Recipient_Li
     return added;
 }
 
+// As the promise beside Send says it.
+double Seconds_As_Promised(const Plan_Sums& sums, const Plan_Manner& manner, const Plan_Pace* measured)
+{
+    static const Plan_Pace of_experience;
+    const Plan_Pace& pace = measured ? *measured : of_experience;
+    return Seconds_For(Job_Sums{sums.send, static_cast<int>(sums.parts), sums.recipients - sums.send}, manner,
+                       pace.Seconds_For_A_Part(manner.fixed_waits));
+}
+
 } // namespace
 
-Contacts_Wnd::Contacts_Wnd(Main_Window& window)
+Contacts_Wnd::Contacts_Wnd(Main_Window& window, const Plan_Pace* pace)
     : QDialog(window.Window()), m_window(window), m_ui(std::make_unique<Ui::Contacts_Wnd>()),
       plz_wait_Window(std::make_unique<PleaseWait_Modeless>()), m_work(*this, *plz_wait_Window),
       m_table_page(new Table_Page), m_plan_page(new Plan_Page(m_work))
@@ -53,6 +78,9 @@ Contacts_Wnd::Contacts_Wnd(Main_Window& window)
     m_ui->_Pages->addWidget(m_table_page);
     m_ui->_Pages->addWidget(m_plan_page);
     Apply_Window_Look(*this, Letters{.columns = 150, .lines = 36});
+    m_plan_page->Estimate_By([this, pace](const Plan_Sums& sums) {
+        return Seconds_As_Promised(sums, Manner_Of(m_window.Read_Send_Choices()), pace);
+    });
     connect(m_table_page, &Table_Page::Read_Otherwise, this,
             [this](const Table_Choices& choices) { Read(choices, false); });
     connect(m_table_page, &Table_Page::Choice_Changed, this, &Contacts_Wnd::Show_Buttons);
@@ -176,10 +204,10 @@ void Contacts_Wnd::Plan_Saved_List()
 {
     m_saved = std::make_shared<Recipient_List>();
     Plan_Terms terms = Terms();
-    terms.numbers = Plan_Numbers::Typed;
+    terms.judges_numbers = true;
     terms.country = nullptr;
     m_plan_page->Show_Plan([table = m_table_page->Table(), saved = m_saved, terms](const Plan_Watch& watch) {
-        *saved = Contact_List_File::List_In(*table).recipients;
+        *saved = Saved_Rows(*table);
         return Job_Plan::Of_List(*saved, terms, watch);
     });
 }
@@ -195,8 +223,6 @@ Plan_Terms Contacts_Wnd::Terms() const
     if (m_is_import) {
         terms.country = m_table_page->Chosen_Country();
         terms.present = m_window.Recipients().Numbers();
-    } else {
-        terms.numbers = Plan_Numbers::Typed;
     }
     return terms;
 }
@@ -239,8 +265,10 @@ void Contacts_Wnd::Put_Right(const std::vector<int>& rows)
     if (m_is_import || !plan)
         return;
     for (const int row : rows) {
-        if (const QString number = plan->Number_Of(row); !number.isEmpty() && row < m_window.Recipients().Count())
-            m_window.Replace_Recipient(row, number, m_window.Recipients().Message_At(row));
+        const Recipient_List& list = m_window.Recipients();
+        const QString number = plan->Number_Of(row);
+        if (!number.isEmpty() && row < list.Count() && number != list.Numbers().At(row))
+            m_window.Replace_Recipient(row, number, list.Message_At(row));
     }
 }
 

@@ -8,6 +8,7 @@
 
 class Job_Plan;
 class Main_Window;
+class Plan_Pace;
 class Plan_Page;
 class Recipient_List;
 class PleaseWait_Modeless;
@@ -27,8 +28,8 @@ class Contacts_Wnd : public QDialog
     Q_OBJECT
 
 public:
-    /// The main window outlives it.
-    explicit Contacts_Wnd(Main_Window& window);
+    /// The main window outlives it, and so does what the device has needed so far, where that is known.
+    explicit Contacts_Wnd(Main_Window& window, const Plan_Pace* pace = nullptr);
     ~Contacts_Wnd() override;
 
     /// Shows the sheet with contacts that are read now, and returns.

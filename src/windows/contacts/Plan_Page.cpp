@@ -32,9 +32,11 @@ bool Is_Of(const Job_Plan& plan, int row, int filter)
     return static_cast<int>(verdict) == filter;
 }
 
-std::shared_ptr<const Plan_View> View_Of(std::shared_ptr<const Job_Plan> plan, Plan_Sums sums, int filter)
+std::shared_ptr<const Plan_View> View_Of(std::shared_ptr<const Job_Plan> plan, Plan_Sums sums, int filter,
+                                         const QString& refused = {})
 {
     auto view = std::make_shared<Plan_View>();
+    view->refused = refused;
     view->plan = std::move(plan);
     view->sums = std::move(sums);
     view->is_filtered = filter != All_Rows;
@@ -212,10 +214,13 @@ void Plan_Page::Put_Numbers_Right()
     Start(
         [view = m_view, edits](const Plan_Watch&, int filter) {
             auto plan = std::make_shared<Job_Plan>(*view->plan);
-            for (const Edit& edit : edits)
-                plan->Set_Number(edit.row, edit.number);
+            QString refused;
+            for (const Edit& edit : edits) {
+                if (!plan->Set_Number(edit.row, edit.number))
+                    refused = edit.number;
+            }
             Plan_Sums sums = plan->Sums();
-            return View_Of(std::move(plan), std::move(sums), filter);
+            return View_Of(std::move(plan), std::move(sums), filter, refused);
         },
         rows);
 }
@@ -246,14 +251,18 @@ void Plan_Page::Go_To_Longest()
 void Plan_Page::Take(const View& view)
 {
     m_view = view;
-    m_ui->_Sums->setText(view ? Plan_Words::Sums(view->sums, Local_Time()) : QString());
+    m_ui->_Sums->setText(view ? Plan_Words::Sums(view->sums, m_seconds_for(view->sums), Local_Time()) : QString());
     const QString causes = view ? Plan_Words::Causes(view->sums) : QString();
     m_ui->_Causes->setText(causes);
     m_ui->_Causes->setVisible(!causes.isEmpty());
     Show_Filter();
     m_rows->Take(view);
     m_ui->Longest_Btn->setEnabled(view && view->sums.send > 0);
-    m_ui->_Notice->setVisible(false);
+    const bool is_refused = view && !view->refused.isEmpty();
+    if (is_refused)
+        m_ui->_Notice->setText(
+            tr("%1 cannot be dialled: the row stays as it was.").arg(Shown_In_Place_Of_A_Number(view->refused)));
+    m_ui->_Notice->setVisible(is_refused);
     Q_EMIT Changed();
 }
 

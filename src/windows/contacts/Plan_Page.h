@@ -30,6 +30,8 @@ public:
     explicit Plan_Page(Window_Work& work, QWidget* parent = nullptr);
     ~Plan_Page() override;
 
+    /// How long the rows of a plan take, in seconds as they pass. To be said before anything is shown.
+    void Estimate_By(std::function<double(const Plan_Sums&)> seconds_for) { m_seconds_for = std::move(seconds_for); }
     /// Shows the plan that is made by this on a worker, from now on. What was shown goes.
     void Show_Plan(Make_Plan make);
     /// What is shown, and may be shown again later.
@@ -72,6 +74,7 @@ private:
 
     const std::unique_ptr<Ui::Plan_Page> m_ui;
     Window_Work& m_work;
+    std::function<double(const Plan_Sums&)> m_seconds_for;
     Plan_Rows* m_rows;
     View m_view;
     std::shared_ptr<std::atomic<bool>> m_is_stopped; // of the work under way

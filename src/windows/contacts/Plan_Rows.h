@@ -12,6 +12,7 @@ struct Plan_View
     Plan_Sums sums;
     bool is_filtered = false;
     std::vector<int> rows; ///< of the plan, in their order, where it is filtered
+    QString refused = {};  ///< the last number that a row of a list did not take
 
     int Count() const { return !plan ? 0 : is_filtered ? static_cast<int>(rows.size()) : plan->Count(); }
     int Row_At(int index) const { return is_filtered ? rows[static_cast<std::size_t>(index)] : index; }

@@ -40,11 +40,10 @@ QString Plan_Words::Signed_Verdict(Row_Verdict verdict)
     return QString(QChar(words.sign)) + u' ' + tr(words.word);
 }
 
-QString Plan_Words::Sums(const Plan_Sums& sums, const QDateTime& now)
+QString Plan_Words::Sums(const Plan_Sums& sums, double seconds, const QDateTime& now)
 {
     QString words = sums.send == 1 ? tr("1 message to be sent") : tr("%1 messages to be sent").arg(sums.send);
     if (sums.send > 0) {
-        const auto seconds = static_cast<double>(sums.seconds);
         words += sums.parts == 1 ? tr(", 1 part") : tr(", %1 parts").arg(sums.parts);
         words += QStringLiteral(", %1, %2").arg(Time_Words::About(seconds), Time_Words::Until(seconds, now));
     }

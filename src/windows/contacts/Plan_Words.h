@@ -14,8 +14,8 @@ public:
     /// A sign and a word.
     static QString Signed_Verdict(Row_Verdict verdict);
     /// How many are to be sent, in how many parts, how long that takes, and what is left out and why. The job would
-    /// begin now.
-    static QString Sums(const Plan_Sums& sums, const QDateTime& now);
+    /// begin now, and take so many seconds.
+    static QString Sums(const Plan_Sums& sums, double seconds, const QDateTime& now);
     /// Which characters make messages Unicode; empty where none does.
     static QString Causes(const Plan_Sums& sums);
 };

@@ -29,6 +29,8 @@ Fill_Msg_In_List::Fill_Msg_In_List(QWidget* parent) : Working_Dialog(parent)
     connect(m_ui->_fill_msg_all, &QRadioButton::clicked, this, &Fill_Msg_In_List::Fill_To_ALL_Pressed);
     connect(m_ui->_fill_msg_selected, &QRadioButton::clicked, this, &Fill_Msg_In_List::Fill_To_Selected_Pressed);
     connect(m_ui->_fill_msg_blank, &QRadioButton::clicked, this, &Fill_Msg_In_List::Fill_To_Blank_Pressed);
+    for (auto* choice : {m_ui->_fill_msg_all, m_ui->_fill_msg_selected, m_ui->_fill_msg_blank})
+        connect(choice, &QRadioButton::clicked, this, &Fill_Msg_In_List::Show_Message_Of_First);
     connect(m_ui->OKPressed, &QPushButton::clicked, this, &Fill_Msg_In_List::OKPressed);
     connect(m_ui->CancelPressed, &QPushButton::clicked, this, &Fill_Msg_In_List::CancelPressed);
 }
@@ -39,7 +41,7 @@ int Fill_Msg_In_List::Open_Dialog(Main_Window& window)
 {
     m_window = &window;
     Fill_To_ALL_Pressed();
-    m_ui->_Bubble->Show_Message(Message_IS, Handset_Bubble::Terms_For(window, 0));
+    Show_Message_Of_First();
     m_ui->_fill_msg_all->setFocus();
     return Run_Dialog_Over(*this, window.Window());
 }
@@ -59,6 +61,19 @@ void Fill_Msg_In_List::Fill_To_Selected_Pressed()
 void Fill_Msg_In_List::Fill_To_Blank_Pressed()
 {
     m_ui->_fill_msg_blank->setChecked(true);
+}
+
+// As the first of those gets it that would be filled; where nobody would be, as the first of the list.
+void Fill_Msg_In_List::Show_Message_Of_First()
+{
+    const auto selected = m_window->Selected_Recipient_Rows();
+    const Recipient_List& recipients = m_window->Recipients();
+    int row = 0;
+    if (Choice() == Choice::Selected && !selected.empty())
+        row = selected.front();
+    while (Choice() == Choice::Blank && row < recipients.Count() && !recipients.Message_At(row).isEmpty())
+        ++row;
+    m_ui->_Bubble->Show_Message(Message_IS, Handset_Bubble::Terms_For(*m_window, row < recipients.Count() ? row : 0));
 }
 
 void Fill_Msg_In_List::OKPressed()

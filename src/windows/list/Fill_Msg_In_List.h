@@ -30,6 +30,7 @@ public:
 
 private:
     Fill_Rules::Choice Choice() const;
+    void Show_Message_Of_First();
     bool Is_Meant(Fill_Rules::Choice choice) const;
     void End_With(int code);
 };

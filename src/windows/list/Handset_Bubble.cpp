@@ -30,6 +30,11 @@ Filled_Message Filled(const QString& text, const Handset_Bubble::Terms& terms)
     return Message_Filling(text, table).For_Row(table, terms.table ? terms.table_row : -1);
 }
 
+bool Loses_Characters(const Plan_Manner& manner)
+{
+    return manner.fixed_waits && manner.alphabet != Job_Alphabet_Choice::Unicode;
+}
+
 void Say(QLabel& label, const QString& text)
 {
     if (label.text() != text)
@@ -140,12 +145,21 @@ void Handset_Bubble::Show_Preview(const QString& text, int place, const Terms& t
     else if (!is_sent)
         Say(*m_ui->_Bubble_Words, tr("%1 gets nothing: the message is too long.").arg(number));
     else
-        Say(*m_ui->_Bubble_Words, Bubble_Words::Losses(sent));
+        Say(*m_ui->_Bubble_Words, Losses_Of(sent, terms.manner));
     if (m_parts)
         Say(*m_parts, is_sent ? Bubble_Words::Parts(sent) : QString());
     Show_Help(text, terms.manner);
     Fit_Height();
     show();
+}
+
+// Dialogs have no box to tick, but the message goes as the main window's says.
+QString Handset_Bubble::Losses_Of(const Message_Preview& sent, const Plan_Manner& manner) const
+{
+    const QString losses = Bubble_Words::Losses(sent);
+    return losses.isEmpty() || m_offers_unicode || !Loses_Characters(manner)
+               ? losses
+               : tr("%1 \"Send as Unicode\" in the main window keeps them.").arg(losses);
 }
 
 // Layouts around it work out a height that depends on the width for widths that it does not get, and cut something.
@@ -205,8 +219,7 @@ void Handset_Bubble::Show_Help(const QString& text, const Plan_Manner& manner)
     offer(*m_ui->Replace_One, first >= 0, Replaced::One);
     offer(*m_ui->Replace_All, first >= 0 && replaceable(false) > 1, Replaced::Common);
     offer(*m_ui->Replace_Script, m_editor && replaceable(true) > 0, Replaced::Script);
-    const bool loses = manner.fixed_waits && manner.alphabet != Job_Alphabet_Choice::Unicode;
-    m_ui->Send_As_Unicode->setVisible(m_offers_unicode && loses && !m_preview.characters.empty());
+    m_ui->Send_As_Unicode->setVisible(m_offers_unicode && Loses_Characters(manner) && !m_preview.characters.empty());
     const auto buttons = m_ui->bubble_help->findChildren<QPushButton*>();
     m_ui->bubble_help->setVisible(
         std::any_of(buttons.begin(), buttons.end(), [](const QPushButton* button) { return !button->isHidden(); }));

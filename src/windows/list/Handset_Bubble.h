@@ -67,6 +67,7 @@ private:
     void Fit_Height();
     void Show_Nothing();
     void Show_Preview(const QString& text, int place, const Terms& terms);
+    QString Losses_Of(const Message_Preview& sent, const Plan_Manner& manner) const;
     void Show_Help(const QString& text, const Plan_Manner& manner);
     void Replace(Replaced what);
     int First_Replaceable() const;

@@ -44,8 +44,13 @@ int Update_Num_SMS::Open_Dialog(Main_Window& window, int row)
 
 Handset_Bubble::Terms Update_Num_SMS::Terms_Of_Message() const
 {
-    return m_window ? Handset_Bubble::Terms_For(*m_window, m_ui->m_s_indx_str->text().toInt())
-                    : Handset_Bubble::Terms();
+    if (!m_window)
+        return {};
+    auto terms = Handset_Bubble::Terms_For(*m_window, m_ui->m_s_indx_str->text().toInt());
+    const QString number = Number_Rules::Normalised_Number(m_ui->m_num_str->text());
+    if (!number.isEmpty()) // the one that OK would save
+        terms.number = number;
+    return terms;
 }
 
 // While the main window's own box is off, its exclusion set is not kept up to date and may never have been filled.
@@ -79,6 +84,7 @@ void Update_Num_SMS::OKPressed()
 void Update_Num_SMS::controlTextDidChange()
 {
     Cut_Line(*m_ui->m_num_str, Number_Rules::Longest_Number);
+    m_ui->_Bubble->Look_Again();
 }
 
 void Update_Num_SMS::End_With(int code)

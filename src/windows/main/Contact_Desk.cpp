@@ -3,7 +3,9 @@
 #include "engine/Outcome_Codes.h"
 #include "engine/Send_Order.h"
 #include "list/Contact_List_File.h"
+#include "list/Table_File.h"
 #include "platform/Interface_Thread.h"
+#include "platform/Rich_Text.h"
 #include "records/Export_Writer.h"
 #include "toolkit/File_Panels.h"
 #include "toolkit/Import_Strip.h"
@@ -15,6 +17,7 @@
 
 #include <QClipboard>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QMenu>
@@ -25,6 +28,7 @@
 namespace {
 
 constexpr qsizetype Most_Offered = 60; // fields
+constexpr qint64 Looked_At = 4096;     // bytes of a file that was dropped
 
 // A name with one of these can be in no placeholder.
 bool Can_Be_Written(const QString& name)
@@ -32,10 +36,19 @@ bool Can_Be_Written(const QString& name)
     return !name.contains(u'|') && !name.contains(u'{') && !name.contains(u'}');
 }
 
+// Whatever its name says. Rich text can be one under its own name.
+bool Is_No_List_Of_Numbers(const QString& path)
+{
+    QFile file(path);
+    const QByteArray beginning = file.open(QIODevice::ReadOnly) ? file.read(Looked_At) : QByteArray();
+    const bool is_rich_text = beginning.startsWith("{\\rtf") && Is_Rich_Text_Path(path);
+    return !is_rich_text && !Why_No_Plain_Text(beginning).isEmpty();
+}
+
 } // namespace
 
-Contact_Desk::Contact_Desk(Main_Window& window, Window_Work& work, const Controls& controls)
-    : m_window(window), m_work(work), m_controls(controls), m_hint(new Empty_List_Hint(controls.table)),
+Contact_Desk::Contact_Desk(Main_Window& window, Window_Work& work, const Plan_Pace& pace, const Controls& controls)
+    : m_window(window), m_work(work), m_pace(pace), m_controls(controls), m_hint(new Empty_List_Hint(controls.table)),
       m_fields(new QMenu(&controls.insert_field))
 {
     m_controls.insert_field.setMenu(m_fields);
@@ -48,7 +61,7 @@ Contact_Desk::Contact_Desk(Main_Window& window, Window_Work& work, const Control
 Contacts_Wnd& Contact_Desk::Window()
 {
     if (!m_contacts) {
-        m_contacts = new Contacts_Wnd(m_window);
+        m_contacts = new Contacts_Wnd(m_window, &m_pace);
         connect(m_contacts, &Contacts_Wnd::Added, this, &Contact_Desk::Say_What_Was_Added);
     }
     return *m_contacts;
@@ -69,9 +82,13 @@ void Contact_Desk::Import_File(const QString& path)
 
 bool Contact_Desk::Import_Dropped(const QString& path)
 {
-    const QStringList kinds{QStringLiteral("csv"), QStringLiteral("tsv"), QStringLiteral("xlsx"), QStringLiteral("xls"),
-                            QStringLiteral("ods"), QStringLiteral("vcf"), QStringLiteral("vcard")};
-    if (!kinds.contains(QFileInfo(path).suffix().toLower()))
+    const QStringList tables{QStringLiteral("csv"),  QStringLiteral("tsv"), QStringLiteral("xlsx"),
+                             QStringLiteral("xls"),  QStringLiteral("ods"), QStringLiteral("vcf"),
+                             QStringLiteral("vcard")};
+    bool is_for_the_sheet = tables.contains(QFileInfo(path).suffix().toLower());
+    if (!is_for_the_sheet)
+        Run_On_Worker([&] { is_for_the_sheet = Is_No_List_Of_Numbers(path); });
+    if (!is_for_the_sheet)
         return false;
     Import_File(path);
     return true;
@@ -127,9 +144,9 @@ void Contact_Desk::Offer_Fields()
     }
 }
 
-void Contact_Desk::Check_List()
+void Contact_Desk::Check_List(bool left_out_alone)
 {
-    Window().Check_List();
+    Window().Check_List(left_out_alone);
 }
 
 void Contact_Desk::Save_With_Fields()

@@ -9,6 +9,7 @@ class Empty_List_Hint;
 class Fields_Strip;
 class Import_Strip;
 class Main_Window;
+class Plan_Pace;
 class QMenu;
 class QPushButton;
 class QTableView;
@@ -31,17 +32,18 @@ public:
     };
 
     /// All outlive it.
-    Contact_Desk(Main_Window& window, Window_Work& work, const Controls& controls);
+    Contact_Desk(Main_Window& window, Window_Work& work, const Plan_Pace& pace, const Controls& controls);
 
     /// Asks for a file and shows what is in it.
     void Import_Contacts();
     void Import_File(const QString& path);
-    /// The same for a file whose name says that it holds a table or contacts; answers no for another.
+    /// The same for a file whose name or content says that it holds a table or contacts, or no list at all, which the
+    /// sheet then says; answers no for another, which may hold numbers alone.
     bool Import_Dropped(const QString& path);
     /// Shows the cells that were copied from a spreadsheet. Answers no when the clipboard holds none.
     bool Import_Clipboard_Table();
-    /// Shows what would be sent to the list as it is.
-    void Check_List();
+    /// Shows what would be sent to the list as it is, or who would get nothing.
+    void Check_List(bool left_out_alone);
     /// Asks where to, and writes the list with its fields.
     void Save_With_Fields();
 
@@ -57,6 +59,7 @@ private:
 
     Main_Window& m_window;
     Window_Work& m_work;
+    const Plan_Pace& m_pace;
     Controls m_controls;
     Empty_List_Hint* m_hint;
     QMenu* m_fields;

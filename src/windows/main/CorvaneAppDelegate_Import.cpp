@@ -14,6 +14,8 @@
 #include "windows/main/CorvaneAppDelegate.h"
 #include "windows/main/List_Arrivals.h"
 #include "windows/main/Load_Num_Info.h"
+#include "windows/main/Send_Promise.h"
+#include "windows/main/Send_Runner.h"
 #include "windows/stores/Open_Export_Log.h"
 #include "windows/stores/Store_Globals.h"
 
@@ -35,7 +37,7 @@ void CorvaneAppDelegate::Load_Number()
 void CorvaneAppDelegate::Make_Contact_Desk()
 {
     m_contacts = std::make_unique<Contact_Desk>(
-        *this, *m_work,
+        *this, *m_work, m_send_runner->Pace_So_Far(),
         Contact_Desk::Controls{*m_ui->Insert_Field, *m_ui->idTableView, *m_ui->_Fields_Strip, *m_ui->_Import_Strip});
 }
 
@@ -46,7 +48,7 @@ void CorvaneAppDelegate::Import_Contacts()
 
 void CorvaneAppDelegate::Check_List()
 {
-    m_contacts->Check_List();
+    m_contacts->Check_List(m_promise->Names_Unfilled_Rows());
 }
 
 // A list of numbers, as if it had been picked in the panel, or contacts.

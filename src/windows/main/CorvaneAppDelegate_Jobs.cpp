@@ -23,7 +23,7 @@ constexpr int Class_Refused = 145; // 3GPP TS 23.040, 9.2.3.22
 void CorvaneAppDelegate::Make_Promise()
 {
     m_promise = std::make_unique<Send_Promise>(
-        Send_Promise::Controls{m_ui->_Promise_Lbl, m_ui->Other_Ways_Btn, m_ui->_sent_btn}, *this,
+        Send_Promise::Controls{m_ui->_Promise_Lbl, m_ui->Other_Ways_Btn, m_ui->_sent_btn, m_ui->Check_List}, *this,
         m_send_runner->Pace_So_Far(), Program_Settings(Settings_Path), Local_Time);
     for (QWidget* control : std::initializer_list<QWidget*>{
              m_ui->_Unicode_SMS_Chk, m_ui->_Skip_Duplicate_Chk, m_ui->_Exclusion_Chk, m_ui->_Save_Sent_Item_Chk,

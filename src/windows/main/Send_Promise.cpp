@@ -135,13 +135,19 @@ void Send_Promise::Show()
         const double seconds = Seconds_For(*m_sums, manner, m_pace.Seconds_For_A_Part(manner.fixed_waits));
         const QDateTime now = m_clock();
         m_is_notice_shown = m_wants_notice && Is_Much_For_One_Phone(*m_sums, seconds);
-        const QString words = Time_Words::Promise(*m_sums, seconds, choices, now);
-        Show_Words(m_is_notice_shown ? words + u'\n' + tr("That is much for one phone.") : words);
+        QStringList lines{Time_Words::Promise(*m_sums, seconds, choices, now)};
+        if (Names_Unfilled_Rows())
+            lines.append(m_sums->unfilled.In_Words());
+        if (m_is_notice_shown)
+            lines.append(tr("That is much for one phone."));
+        Show_Words(lines.join(u'\n'));
         m_minute.start(Milliseconds_In_Minute - now.time().msecsSinceStartOfDay() % Milliseconds_In_Minute);
     } else if (!m_is_due) {
         Show_Words({});
     }
     m_controls.other_ways->setText(m_is_notice_shown ? tr("What to do instead") : tr("Other ways ..."));
+    m_controls.check->setText(has_recipients && Names_Unfilled_Rows() ? tr("Show who gets nothing ...")
+                                                                      : tr("Check before sending ..."));
 }
 
 void Send_Promise::Show_Words(const QString& words)

@@ -31,6 +31,7 @@ public:
         QLabel* words;
         QPushButton* other_ways; ///< there as long as there are recipients
         QAbstractButton* send;   ///< which the promise describes to assistive tools
+        QAbstractButton* check;  ///< which shows the rows; those that get nothing, where the promise speaks of them
     };
     /// The clock tells the time of day. All outlive it.
     Send_Promise(const Controls& controls, Main_Window& window, const Plan_Pace& pace, const Program_Settings& settings,
@@ -43,6 +44,9 @@ public:
     void Depend_On(QWidget* control);
     /// A list is about to be changed in its place: lets go of the copies, so that the change need not copy it.
     void List_Will_Change();
+
+    /// Whether it speaks of recipients that get nothing because of their fields.
+    bool Names_Unfilled_Rows() const { return m_sums && m_sums->unfilled.count > 0; }
 
     /// The button: words about other ways, and the hand-over.
     void Other_Ways();

@@ -69,6 +69,32 @@ def convert():
                 shutil.copy(made, path("libreoffice." + kind))
 
 
+# Encodings by the numbers that LibreOffice has for them.
+def of_libreoffice(people, encodings):
+    with tempfile.TemporaryDirectory() as folder:
+        source = os.path.join(folder, "people.csv")
+        with open(source, "w", newline="", encoding="utf-8") as file:
+            csv.writer(file).writerows(people)
+        for name, number, delimiter in encodings:
+            # columns as they are displayed, and each that is read a text
+            subprocess.run(["soffice", "--headless", "--infilter=CSV:44,34,76,1,1/2/2/2/3/2", "--convert-to",
+                            "csv:Text - txt - csv (StarCalc):%d,34,%d,1,,0,false,true,false" % (ord(delimiter), number),
+                            "--outdir", os.path.join(folder, name), source], check=True, stdout=subprocess.DEVNULL)
+            shutil.copy(os.path.join(folder, name, "people.csv"), path("libreoffice_%s.csv" % name))
+
+
+of_libreoffice([["Name", "City", "Phone"],
+                ["\u0141ukasz \u017bak", "\u0141\u00f3d\u017a", "+48 501 234 567"],
+                ['Zofia "Zo" \u015al\u0119k', "Gda\u0144sk, port", "0501 234 568"],
+                ["Ewa", "", "501234569"]],
+               [("utf8", 76, ","), ("1250", 33, ";"), ("latin2", 13, ","), ("utf16", 65535, ",")])
+of_libreoffice([["Name", "City", "Phone"],
+                ["\u0418\u0432\u0430\u043d \u041f\u0435\u0442\u0440\u043e\u0432", "\u041c\u043e\u0441\u043a\u0432\u0430",
+                 "8 912 345-67-89"],
+                ['\u042e\u043b\u0438\u044f "\u042e"', "\u041e\u0440\u0451\u043b, \u0446\u0435\u043d\u0442\u0440",
+                 "+7 912 345 67 90"],
+                ["\u0417\u043e\u0435", "", "9123456791"]],
+               [("1251", 34, ";")])
 text("comma.csv", "utf-8", dialect="excel")
 text("semicolon.csv", "cp1252", delimiter=";", quoting=csv.QUOTE_ALL)
 text("tab.tsv", "utf-16", dialect="excel-tab")

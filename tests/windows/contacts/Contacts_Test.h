@@ -1,6 +1,7 @@
 #pragma once
 
 #include "list/Contact_Table.h"
+#include "plan/Plan_Pace.h"
 #include "platform/Pace.h"
 #include "support/Files.h"
 #include "support/In_Windows.h"
@@ -19,7 +20,7 @@ protected:
     {
         Set_Pace(100);
         Apply_Application_Look(*qApp);
-        m_sheet = std::make_unique<Contacts_Wnd>(m_window);
+        m_sheet = std::make_unique<Contacts_Wnd>(m_window, &m_pace);
         QObject::connect(m_sheet.get(), &Contacts_Wnd::Added, &m_window, [this](int rows, int not_used) {
             m_added = {rows, not_used};
         });
@@ -109,6 +110,7 @@ protected:
     QTemporaryDir m_folder;
     User user;
     Window_For_Tests m_window;
+    Plan_Pace m_pace;
     std::unique_ptr<Contacts_Wnd> m_sheet;
     std::pair<int, int> m_added{-1, -1};
 };

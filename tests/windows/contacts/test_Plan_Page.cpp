@@ -150,6 +150,8 @@ TEST_P(Golden, Lists_Are_Planned_As_Without_A_Window)
     m_window.m_choices.composer_text = m_message;
     m_window.m_choices.confirm.confirms = true;
     Import(Path());
+    if (!Argument("--encoding").isEmpty())
+        Choose("_Encoding", Argument("--encoding"));
     if (!Argument("--sheet").isEmpty())
         Choose("_Sheet", In<QComboBox>(*m_sheet, "_Sheet").findText(Argument("--sheet"), Qt::MatchFixedString));
     if (!Argument("--number-column").isEmpty())
@@ -187,6 +189,19 @@ TEST_F(Plan_Page_Test, The_Sums_Say_What_Is_Left_Out_And_Why_And_What_Turns_To_U
     EXPECT_EQ(Text_Of("_Causes"), "1 message goes as Unicode, because of ő (1), “ (1), ” (1).");
     EXPECT_EQ(Filters(), (QStringList{"All rows (5)", "Rows left out (2)", "✓ to be sent (3)", "– repeated (1)",
                                       "✗ no usable number (1)", "Unicode messages (1)"}));
+}
+
+TEST_F(Plan_Page_Test, The_Time_Is_That_Which_The_Device_Has_Needed_With_The_Pauses)
+{
+    m_pace.Add(false, 600, 1);
+    Look_At(People, "{{Name}} in {{City|-}}");
+    EXPECT_TRUE(Sums().startsWith("3 messages to be sent, 3 parts, about 30 min, until ")) << Sums().toStdString();
+    Press("Close_Btn");
+    m_window.m_choices.delayed_delivery = true;
+    m_window.m_choices.batch_size = "2";
+    m_window.m_choices.pause_choice = " 1  Hour"; // half a minute at this pace
+    Look_At(People, "{{Name}} in {{City|-}}");
+    EXPECT_TRUE(Sums().startsWith("3 messages to be sent, 3 parts, about 31 min, until ")) << Sums().toStdString();
 }
 
 TEST_F(Plan_Page_Test, A_Filter_Leaves_Rows_Of_Its_Kind)
@@ -303,5 +318,29 @@ TEST_F(Plan_Page_Test, The_List_Itself_Is_Looked_At_And_Its_Numbers_Put_Right)
     Write_Number(1, "00471001004");
     EXPECT_EQ(Listed().at(1), "00471001004 Hi Bob");
     EXPECT_EQ(Rows_Of(Rows(), 2), (QStringList{"00471001001", "00471001004", "00471001003"}));
+    Write_Number(1, "+47 (0)100/10-05");
+    EXPECT_EQ(Listed().at(1), "00471001005 Hi Bob");
+    Write_Number(1, "4.71E+9");
+    EXPECT_EQ(Listed().at(1), "00471001005 Hi Bob");
+    EXPECT_EQ(Row(Rows(), 1), "2|+47 (0)100/10-05|00471001005|Hi Bob|1|✓ to be sent|") << "as Send would have it";
+    EXPECT_EQ(Text_Of("_Notice"), "4.71E+9 cannot be dialled: the row stays as it was.");
+    EXPECT_TRUE(Is_Offered("_Notice"));
+    Choose("_Filter", "All rows");
+    EXPECT_FALSE(Is_Offered("_Notice"));
     Press("Close_Btn");
+}
+
+TEST_F(Plan_Page_Test, Rows_Of_A_Saved_List_That_Somebody_Spoilt_Are_Shown_And_Left_Out)
+{
+    m_window.m_choices.confirm.confirms = false;
+    Import_Csv("Number,Message,Name\n+44 7700 900100,Hi {{Name}},Ann\nnobody,Hi {{Name}},Bob\n"
+               "07700900102,Hi,Cem,one too many\n,Hi,Dee\n");
+    Press("Continue_Btn");
+    EXPECT_EQ(Rows_Of(Rows(), 1),
+              (QStringList{"00447700900100", "nobody", "07700900102 (4 fields where 3 have names)", "-"}));
+    EXPECT_EQ(Rows_Of(Rows(), 5),
+              (QStringList{"✓ to be sent", "✗ no usable number", "✗ no usable number", "✗ no usable number"}));
+    Press("Add_To_List");
+    EXPECT_EQ(Listed(), QStringList("00447700900100 Hi Ann"));
+    EXPECT_EQ(m_added, std::make_pair(1, 3));
 }

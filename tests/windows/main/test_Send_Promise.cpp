@@ -1,6 +1,7 @@
 #include "windows/main/Send_Promise.h"
 
 #include "device/Chosen_Device.h"
+#include "list/Table_File.h"
 #include "plan/Plan_Pace.h"
 #include "platform/Pace.h"
 #include "support/Data_Folder.h"
@@ -30,8 +31,9 @@ protected:
 
     std::unique_ptr<Send_Promise> Made()
     {
-        return std::make_unique<Send_Promise>(Send_Promise::Controls{&m_words, &m_other_ways, &m_send}, m_window,
-                                              m_pace, Program_Settings(Settings_Path), [this] { return m_now; });
+        return std::make_unique<Send_Promise>(Send_Promise::Controls{&m_words, &m_other_ways, &m_send, &m_check},
+                                              m_window, m_pace, Program_Settings(Settings_Path),
+                                              [this] { return m_now; });
     }
 
     void Add(int count, const QString& message = "Hello")
@@ -57,6 +59,7 @@ protected:
     QLabel m_words;
     QPushButton m_other_ways;
     QPushButton m_send;
+    QPushButton m_check;
     Plan_Pace m_pace;
     QDateTime m_now{QDate(2026, 11, 22), QTime(21, 44, 10)};
     std::unique_ptr<Send_Promise> m_promise;
@@ -85,6 +88,27 @@ TEST_F(Send_Promise_Test, Counts_What_Send_Would_Send)
     EXPECT_EQ(Said(), "1 recipient, 2 messages, less than a minute, until 21:44, the record goes when all is done");
     m_window.m_recipients.Clear();
     EXPECT_EQ(Said(), "");
+}
+
+TEST_F(Send_Promise_Test, Names_Who_Gets_Nothing_As_Long_As_There_Is_Somebody)
+{
+    const auto table = std::make_shared<const Contact_Table>(
+        Table_Of_Bytes("Number,Name\n447700900100,Ann\n447700900101,\n447700900102, \n", "a.csv", {}).table);
+    for (int row = 0; row < 3; ++row)
+        m_window.m_recipients.Append_From_Table(table->Field(row, 0), QStringLiteral("Dear {{Name}}"), table, row);
+    EXPECT_EQ(Said(), "1 recipient, 1 message, less than a minute, until 21:44, no record will be kept\n"
+                      "2 recipients have no Name: they get nothing.");
+    EXPECT_EQ(m_check.text(), "Show who gets nothing ...");
+    EXPECT_TRUE(m_promise->Names_Unfilled_Rows());
+    m_window.m_recipients.Set_Messages({0, 1, 2}, QStringLiteral("Dear {{Name|friend}}"));
+    EXPECT_EQ(Said(), "3 recipients, 3 messages, less than a minute, until 21:44, no record will be kept");
+    EXPECT_EQ(m_check.text(), "Check before sending ...");
+    m_window.m_recipients.Set_Messages({0, 1, 2}, QStringLiteral("{{Town}}"));
+    EXPECT_EQ(Said(), "Nobody in the list will be sent anything.\n"
+                      "There is no field Town: 3 recipients get nothing.");
+    m_window.m_recipients.Clear();
+    EXPECT_EQ(Said(), "");
+    EXPECT_EQ(m_check.text(), "Check before sending ...");
 }
 
 TEST_F(Send_Promise_Test, Knows_The_Pauses_And_How_Long_Parts_Have_Taken)
