@@ -120,6 +120,25 @@ class Window:
             until(f"Tab to leave {described(here)}", lambda: not _has_focus(here))
         raise Trouble(f"Tab does not lead to '{name}' in the window '{self.title}'")
 
+    def tab_round(self):
+        """What Tab leads to from where the focus is until it comes back, as (name, role)."""
+        heard, reached = [], []
+
+        def hear(event):
+            if event.detail1 and event.source:
+                heard.append((event.source.name, event.source.getRole()))
+
+        pyatspi.Registry.registerEventListener(hear, "object:state-changed:focused")
+        try:
+            while len(reached) < 100 and not any(stop in reached[:1] for stop in heard):
+                reached += heard
+                heard.clear()
+                press_key(TAB)
+                until(f"Tab to lead on from {reached[-1:]} in the window '{self.title}'", lambda: heard)
+        finally:
+            pyatspi.Registry.deregisterEventListener(hear, "object:state-changed:focused")
+        return reached
+
     def _focused(self):
         return next((thing for thing, _ in self.all() if _has_focus(thing)), None)
 

@@ -3,6 +3,10 @@
 
     Windows.py PROGRAM"""
 
+import hashlib
+import time
+import zlib
+
 import pyatspi
 
 import Session
@@ -12,7 +16,13 @@ F2 = 0xFFBF
 MESSAGE = "Rehearsal on Friday. " * 5  # one SMS, but two in Unicode
 NUMBERS = ["004479001", "004479002"]
 LOADED = "numbers.txt"
+PEOPLE = "people.csv"
 NO_DEVICE = "No Mobile Phone Device is selected."
+JOB = "20261121-091500-3f9a"
+JOB_BEGAN = 1795252500  # seconds since 1970
+JOB_NUMBERS = ["004479007", "004479008", "004479009"]
+RECEIPT_SO_FAR = "Receipt of the job that has not ended ..."
+RECEIPT = ["Row", "Number", "Message", "Outcome", "Reason", "Parts sent", "Delivery", "Time"]
 
 
 def fill(data_folder):
@@ -23,6 +33,24 @@ def fill(data_folder):
     for name in ("Admin", "Staff"):
         (data_folder / "Exclusion" / (name + ".ZOVA")).write_text("12345\n67890\n", encoding="utf-8")
     (data_folder / LOADED).write_text("12345\nAnn\n55555\n", encoding="utf-8")
+    (data_folder / PEOPLE).write_text("Name;Phone\nAnn;004479011\nBob;004479012\nEve;none\n", encoding="utf-8")
+
+
+def local_time(pattern):
+    return time.strftime(pattern, time.localtime(JOB_BEGAN))
+
+
+def fill_with_a_job(folder):
+    """One that broke off: the first was sent, the second may have been, the third was not tried."""
+    folder.mkdir(mode=0o700)
+    rows = "".join(f"R\t{row}\t{number}\tgsm\t-\t1\t-\t\tSee you\n" for row, number in enumerate(JOB_NUMBERS, 1))
+    frozen = f"L1\t{JOB}\nO\t\t-\t0\t0\tauto\n{rows}Z\t3\t3\n".encode()
+    moment = time.strftime("%Y-%m-%dT%H:%M:%SZ", time.gmtime(JOB_BEGAN))
+    lines = (f"J1 {JOB} {moment} - - 3 3 {hashlib.sha256(frozen).hexdigest()} keep:no", f"H 1 1 1 {moment}",
+             f"S 1 1 17 {moment}", f"H 2 1 1 {moment}")
+    (folder / (JOB + ".list")).write_bytes(frozen)
+    (folder / (JOB + ".journal")).write_text(
+        "".join(f"{line} {zlib.crc32(line.encode()):08x}\n" for line in lines), encoding="utf-8")
 
 
 class Walk:
@@ -37,6 +65,12 @@ class Walk:
         self.complaints += complaints_about(window, **expected)
         return window
 
+    def tab_through(self, window, controls):
+        """Goes around the window by the keyboard alone; each control, a name and a role, must be on the way."""
+        reached = window.tab_round()
+        self.complaints += [f"window '{window.title}': Tab does not lead to '{name}', but to {reached}"
+                            for name, role in controls if (name, role) not in reached]
+
     def dialog(self, button, title, leave_by, **expected):
         """Opens a dialog from the main window, reads it and leaves it."""
         self.main.press(button)
@@ -49,6 +83,24 @@ class Walk:
         self.complaints += complaints_about(box)
         box.press(button)
         until(f"the box '{text}' to be closed", lambda: not find_window("Corvane", text))
+
+
+def read_what_has_not_ended(walk):
+    main = walk.main
+    day = local_time("%d %B %Y, %H:%M").lstrip("0")
+    main.click("Confirm each message")
+    boxes = ["Ask for delivery reports", "Keep the receipt", "Remember these choices"]
+    for box in boxes:
+        main.the(box, pyatspi.ROLE_CHECK_BOX)
+    main.the("Later")
+    walk.complaints += complaints_about(
+        main, reads=[f"A job that began on {day} has not ended.",
+                     "Recipients: 3. Sent: 1. May have been sent: 1. Not tried: 1. Refused: 0. Skipped: 0."])
+    buttons = ["Send the remaining 1", "Rows that may have been sent ...", RECEIPT_SO_FAR, "Remove ...", "Later"]
+    walk.tab_through(main, [(name, pyatspi.ROLE_PUSH_BUTTON) for name in buttons] +
+                     [(box, pyatspi.ROLE_CHECK_BOX) for box in boxes])
+    main.click("Confirm each message")
+    until("the boxes to go", lambda: not main.has(boxes[0]))
 
 
 def read_the_main_window(walk):
@@ -90,6 +142,38 @@ def read_the_dialogs_of_the_list(walk):
                 reads=["Total Selected Numbers : 1", "0 Characters"],
                 tables=[("Selected numbers", ["Number"], [[NUMBERS[0]]])])
     walk.dialog("Help", "Help", "OK")
+
+
+def read_the_windows_of_the_job(walk):
+    main = walk.main
+    began = local_time("%Y-%m-%d %H:%M:%S")
+    main.press("Rows that may have been sent ...")
+    rows = [[JOB_NUMBERS[1], "See you", "The program ended before the result.", began, "Leave as it is"]]
+    headings = ["Number", "Message", "Reason", "Time", "What to do"]
+    sheet = walk.look("Rows that may have been sent", tables=[("Rows that may have been sent", headings, rows)])
+    walk.tab_through(sheet, [("Rows that may have been sent", pyatspi.ROLE_TABLE)] + [
+        (name, pyatspi.ROLE_PUSH_BUTTON) for name in ("Leave", "Send again", "Count as sent", "Leave all",
+                                                      "Send all again", "Count all as sent", "OK", "Cancel")])
+    sheet.leave_by("Cancel")
+    main.press(RECEIPT_SO_FAR)
+    receipt = Window("Receipt")
+    until("the messages of the job", lambda: receipt.table("Messages of the job")[1])
+    rows = [["1", JOB_NUMBERS[0], "See you", "✓ sent", "", "1 / 1", "", began],
+            ["2", JOB_NUMBERS[1], "See you", "? may have been sent", "The program ended before the result.", "0 / 1",
+             "", began],
+            ["3", JOB_NUMBERS[2], "See you", "· not tried", "", "0 / 1", "", ""]]
+    walk.look("Receipt", tables=[("Messages of the job", RECEIPT, rows)])
+    walk.tab_through(receipt, [("Job", pyatspi.ROLE_COMBO_BOX), ("Remove ...", pyatspi.ROLE_PUSH_BUTTON),
+                               ("Messages to show", pyatspi.ROLE_COMBO_BOX),
+                               ("Messages of the job", pyatspi.ROLE_TABLE),
+                               ("Export", pyatspi.ROLE_PUSH_BUTTON), ("Close", pyatspi.ROLE_PUSH_BUTTON)])
+    receipt.press("Remove ...")
+    receipt.the("Remove for good")
+    walk.look("Receipt")
+    receipt.press("Keep it")
+    receipt.leave_by("Close")
+    main.press("Later")
+    until("the job to be let go", lambda: not main.has("Later"))
 
 
 def read_the_stores(walk):
@@ -214,14 +298,63 @@ def send(walk):
         walk.complaints.append(f"'{missing}' was not announced; announced were {announcements.names}")
 
 
+def add_contacts(walk):
+    """A table with a row that cannot be used, by the two pages of its sheet."""
+    main = walk.main
+    main.press("Contacts ...")
+    panel = Window("Open")
+    panel.write("File name:", str(walk.data_folder / PEOPLE))
+    panel.press("Open")
+    sheet = Window("Import contacts")
+    until("the first rows", lambda: sheet.table("The first rows")[1])
+    walk.look("Import contacts", reads=[PEOPLE + ": 3 rows in 2 columns."],
+              tables=[("The first rows", ["Name", "Phone (number)"],
+                       [["Ann", "004479011"], ["Bob", "004479012"], ["Eve", "none"]])])
+    choices = ("Column of the numbers", "Country of national numbers", "Encoding", "Delimiter")
+    walk.tab_through(sheet, [(name, pyatspi.ROLE_COMBO_BOX) for name in choices] +
+                     [("First row has the names", pyatspi.ROLE_CHECK_BOX), ("The first rows", pyatspi.ROLE_TABLE)] +
+                     [(name, pyatspi.ROLE_PUSH_BUTTON) for name in ("Another file ...", "Continue", "Cancel")])
+    sheet.press("Continue")
+    until("the rows", lambda: sheet.has("Rows as they will be sent") and
+          len(sheet.table("Rows as they will be sent")[1]) == 3)
+    walk.look("Import contacts")
+    walk.tab_through(sheet, [("Rows to show", pyatspi.ROLE_COMBO_BOX),
+                             ("Rows as they will be sent", pyatspi.ROLE_TABLE)] +
+                     [(name, pyatspi.ROLE_PUSH_BUTTON) for name in ("Longest", "Back", "Add to list", "Cancel")])
+    sheet.leave_by("Add to list")
+    main.the("Dismiss", pyatspi.ROLE_PUSH_BUTTON)
+    walk.complaints += complaints_about(main, reads=["Fields: Name, Phone"])
+    for name in ("Show ...", "Dismiss", "Save with fields ...", "Other ways ..."):
+        main.the(name, pyatspi.ROLE_PUSH_BUTTON)
+    main.press("Show ...")
+    sheet = Window("Import contacts")
+    until("the row that was not used", lambda: sheet.has("Rows as they will be sent") and
+          len(sheet.table("Rows as they will be sent")[1]) == 1)
+    walk.look("Import contacts").leave_by("Close")
+    main.press("Dismiss")
+    main.press("Check before sending ...")
+    check = Window("Check before sending")
+    until("the rows of the list", lambda: check.has("Rows as they will be sent") and
+          check.table("Rows as they will be sent")[1])
+    walk.look("Check before sending").leave_by("Close")
+    main.press("Other ways ...")
+    title = "Other ways to send"
+    walk.tab_through(walk.look(title), [("Hand over to a folder ...", pyatspi.ROLE_PUSH_BUTTON),
+                                        ("Do not tell again", pyatspi.ROLE_CHECK_BOX),
+                                        ("Close", pyatspi.ROLE_PUSH_BUTTON)])
+    Window(title).leave_by("Close")
+
+
 def visit(data_folder, start):
     fill(data_folder)
+    fill_with_a_job(data_folder.parent / "Jobs")
     begin()
     start()
     walk = Walk(data_folder)
     try:
-        for step in (read_the_main_window, read_the_dialogs_of_the_list, read_the_stores, read_the_exclusions,
-                     choose_the_phone, send):
+        for step in (read_what_has_not_ended, read_the_main_window, read_the_dialogs_of_the_list,
+                     read_the_windows_of_the_job, read_the_stores, read_the_exclusions, choose_the_phone, send,
+                     add_contacts):
             step(walk)
     except Trouble as trouble:
         walk.complaints.append(f"it could not {step.__name__.replace('_', ' ')}: {trouble}; open are {what_is_open()}")
