@@ -14,6 +14,7 @@ constexpr qint64 Largest_File = 1 << 16;
 
 constexpr char Group[] = "Confirming";
 constexpr char Not_Wanted[] = "false";
+constexpr char Chosen_Look[] = "Windows/Appearance";
 
 // The fields, each with the name that it has in the file.
 constexpr std::pair<const char*, bool Confirm_Choices::*> Fields[] = {
@@ -93,20 +94,38 @@ bool Program_Settings::Forget() const
 
 bool Program_Settings::Wants_Notice(const QString& name) const
 {
-    if (Is_Missing(m_path) || !Is_Usable() || Is_Of_No_Use(m_path))
-        return true;
-    const QSettings settings(m_path, QSettings::IniFormat);
-    return settings.value(Key_Of_Notice(name)).toString() != QLatin1String(Not_Wanted);
+    return Word_At(Key_Of_Notice(name)) != QLatin1String(Not_Wanted);
 }
 
 bool Program_Settings::Want_Notice(const QString& name, bool is_wanted) const
 {
-    if (is_wanted)
-        return Remove_Key(Key_Of_Notice(name));
+    return is_wanted ? Remove_Key(Key_Of_Notice(name)) : Write_Word(Key_Of_Notice(name), QLatin1String(Not_Wanted));
+}
+
+QString Program_Settings::Appearance() const
+{
+    return Word_At(QLatin1String(Chosen_Look));
+}
+
+bool Program_Settings::Choose_Appearance(const QString& name) const
+{
+    return name.isEmpty() ? Remove_Key(QLatin1String(Chosen_Look)) : Write_Word(QLatin1String(Chosen_Look), name);
+}
+
+QString Program_Settings::Word_At(const QString& key) const
+{
+    if (Is_Missing(m_path) || !Is_Usable() || Is_Of_No_Use(m_path))
+        return {};
+    const QSettings settings(m_path, QSettings::IniFormat);
+    return settings.value(key).toString();
+}
+
+bool Program_Settings::Write_Word(const QString& key, const QString& word) const
+{
     if (!Make_Usable())
         return false;
     QSettings settings(m_path, QSettings::IniFormat);
-    settings.setValue(Key_Of_Notice(name), QLatin1String(Not_Wanted));
+    settings.setValue(key, word);
     return Is_Written(settings) && Set_Permissions(m_path, Only_The_User);
 }
 

@@ -33,7 +33,14 @@ public:
     /// Answers no when the file cannot be written.
     bool Want_Notice(const QString& name, bool is_wanted) const;
 
+    /// The name of the look that was chosen; empty when none was.
+    QString Appearance() const;
+    /// An empty name forgets the choice. Answers no when the file cannot be written.
+    bool Choose_Appearance(const QString& name) const;
+
 private:
+    QString Word_At(const QString& key) const;
+    bool Write_Word(const QString& key, const QString& word) const;
     bool Make_Usable() const;
     bool Remove_Key(const QString& key) const;
     bool Is_Usable() const;

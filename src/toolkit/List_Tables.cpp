@@ -18,7 +18,7 @@ Invalid_Parameter::Invalid_Parameter(const char* condition)
 
 namespace {
 
-constexpr int Row_Padding = 10;
+constexpr int Row_Padding = 18;
 constexpr int Rows_Always_In_Sight = 4; // and the headings, as high as a row
 constexpr int Letters_Always_In_Sight = 30;
 
@@ -29,7 +29,6 @@ void Prepare_List_Table(QTableView& table, Row_Table_Model& rows)
     const QFontMetrics letters = table.fontMetrics();
     const int row_height = letters.height() + Row_Padding;
     table.setModel(&rows);
-    table.setAlternatingRowColors(true);
     table.setSelectionBehavior(QAbstractItemView::SelectRows);
     table.setSelectionMode(QAbstractItemView::ExtendedSelection);
     table.setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -39,7 +38,7 @@ void Prepare_List_Table(QTableView& table, Row_Table_Model& rows)
     table.setCornerButtonEnabled(false);
     table.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     table.verticalHeader()->setDefaultSectionSize(row_height);
-    table.verticalHeader()->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    table.verticalHeader()->hide();
     table.horizontalHeader()->setHighlightSections(false);
     table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     table.horizontalHeader()->setStretchLastSection(true);

@@ -15,8 +15,9 @@ public:
     explicit Invalid_Parameter(const char* condition);
 };
 
-/// Striped, with headings, selects several whole rows, edits nothing in place, made for a million rows of texts of any
-/// length. See Whole_Text_Delegate for what is painted, and Double_Clicks for what a double click is.
+/// Hairlines between its rows, with headings, selects several whole rows, edits nothing in place, made for a million
+/// rows of texts of any length. See Whole_Text_Delegate for what is painted, and Double_Clicks for what a double click
+/// is.
 void Prepare_List_Table(QTableView& table, Row_Table_Model& rows);
 
 /// The selected rows in ascending order.

@@ -31,6 +31,7 @@ void Tell(const QString& text)
     Prepare_Box(box, QStringLiteral("\n") + text);
     box.setIcon(QMessageBox::Information);
     auto* ok = box.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
+    ok->setProperty("is_first", true);
     box.setDefaultButton(ok);
     box.setEscapeButton(ok);
     box.exec();
@@ -46,6 +47,7 @@ bool Ask(const QString& text)
     // Not by an ampersand in their texts, which are "Yes" and "No".
     yes->setShortcut(QKeySequence(Qt::ALT | Qt::Key_Y));
     no->setShortcut(QKeySequence(Qt::ALT | Qt::Key_N));
+    yes->setProperty("is_first", true);
     box.setDefaultButton(yes);
     box.setEscapeButton(no);
     box.exec();

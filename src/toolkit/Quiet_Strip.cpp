@@ -1,5 +1,8 @@
 #include "toolkit/Quiet_Strip.h"
 
+#include "toolkit/Look_Tokens.h"
+#include "toolkit/Style_Paint.h"
+
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
@@ -34,7 +37,10 @@ void Quiet_Strip::paintEvent(QPaintEvent* event)
 {
     QWidget::paintEvent(event);
     QPainter painter(this);
-    painter.setPen(palette().color(QPalette::Mid));
-    painter.setBrush(palette().color(QPalette::Base));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    const Look_Tokens& tokens = Tokens_Now();
+    const bool is_on_a_card = Style_Paint::Is_On_A_Card(*this); // no box in a box
+    Style_Paint::Draw_Box(painter, rect(),
+                          {.fill = is_on_a_card ? tokens.bubble : tokens.card,
+                           .line = is_on_a_card ? QColor() : tokens.line,
+                           .radius = Style_Paint::Card_Radius});
 }

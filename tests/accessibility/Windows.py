@@ -281,7 +281,7 @@ def send(walk):
     announcements = Announcements()
     main.press("Send")
     question = walk.look("Before sending")
-    question.press("Continue")
+    question.press("Send as it stands")
     preparing = "Initializing mobile phone device to send sms ..."
     until(preparing, lambda: find_window("Sending messages", preparing))
     first, second = [f"{place} / 2 Message, {number}" for place, number in enumerate(NUMBERS, 1)]

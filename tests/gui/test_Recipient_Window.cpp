@@ -269,10 +269,11 @@ TEST_F(Recipient_Window, A_Row_Outside_The_List_Shows_Nothing_And_Says_Why_Insid
                 testing::ThrowsMessage<Invalid_Parameter>(reason + "nsExclusionListDataObject count]"));
 }
 
-TEST_F(Recipient_Window, The_Table_Has_Headings_Stripes_And_Whole_Rows_And_Stays_Selected)
+TEST_F(Recipient_Window, The_Table_Has_Headings_Hairlines_And_Whole_Rows_And_Stays_Selected)
 {
     const auto& table = The<QTableView>("idTableView");
-    EXPECT_TRUE(table.alternatingRowColors());
+    EXPECT_FALSE(table.showGrid());
+    EXPECT_TRUE(table.verticalHeader()->isHidden());
     EXPECT_EQ(table.selectionMode(), QAbstractItemView::ExtendedSelection);
     EXPECT_EQ(table.selectionBehavior(), QAbstractItemView::SelectRows);
     EXPECT_EQ(table.editTriggers(), QAbstractItemView::NoEditTriggers);

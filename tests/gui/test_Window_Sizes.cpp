@@ -288,6 +288,6 @@ TEST_F(Main_Window_Size, Tab_Goes_From_The_Number_To_Send_Through_Every_Control)
               "View_ExclusionWizrd_Btn _Save_Sent_Item_Chk Sent_Item_Btn _Save_Templates_Chk View_Templates_Btn "
               "_Confirm_Chk View_Receipts_Btn _Reports_Chk _Keep_Receipt_Chk _Remember_Confirm_Chk "
               "_Delayed_Delivry_Chk _delayed_msg_count_combo _delayed_time_combo _sent_btn Check_List Exit_Btn "
-              "Help_Btn Reset_Btn "
+              "Help_Btn _Appearance_Btn Reset_Btn "
               "_NO_Device_Ticker Search_All_Modem");
 }

@@ -56,6 +56,21 @@ TEST_F(Remembered_Settings, Leave_What_Others_Have_Written_In_The_File)
     EXPECT_EQ(m_settings.Remembered(), std::nullopt);
 }
 
+TEST_F(Remembered_Settings, An_Appearance_Is_Remembered_Beside_The_Others_And_Forgotten_Alone)
+{
+    EXPECT_EQ(m_settings.Appearance(), "");
+    ASSERT_TRUE(m_settings.Choose_Appearance("Dark"));
+    EXPECT_EQ(m_settings.Remembered(), std::nullopt);
+    EXPECT_EQ(Permissions_Of(m_path), 0600U);
+    ASSERT_TRUE(m_settings.Remember(All));
+    EXPECT_EQ(Program_Settings(m_path).Appearance(), "Dark");
+    EXPECT_TRUE(m_settings.Forget());
+    EXPECT_EQ(m_settings.Appearance(), "Dark");
+    EXPECT_TRUE(m_settings.Choose_Appearance({}));
+    EXPECT_EQ(m_settings.Appearance(), "");
+    EXPECT_FALSE(QFile::exists(m_path));
+}
+
 TEST_F(Remembered_Settings, A_Notice_Is_Wanted_Until_It_Is_Not_And_The_File_Goes_With_The_Last_Wish)
 {
     EXPECT_TRUE(m_settings.Wants_Notice("One"));

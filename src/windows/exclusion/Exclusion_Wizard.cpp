@@ -8,6 +8,7 @@
 #include "toolkit/Key_Actions.h"
 #include "toolkit/Line_Edit_Limit.h"
 #include "toolkit/List_Tables.h"
+#include "toolkit/Look.h"
 #include "toolkit/PleaseWait_Modeless.h"
 #include "toolkit/Shared_Instance.h"
 #include "toolkit/Window_Look.h"
@@ -57,9 +58,7 @@ Exclusion_Wizard* Exclusion_Wizard::defaultInstance()
 
 void Exclusion_Wizard::awakeFromNib()
 {
-    QPalette palette = m_ui->m_st_msg->palette();
-    palette.setColor(QPalette::Window, Window_Background());
-    m_ui->m_st_msg->setPalette(palette);
+    Lie_On_The_Ground(*m_ui->m_st_msg);
     m_ui->m_st_msg->setAutoFillBackground(true);
     Connect_Buttons();
     Connect_Fields_And_Tables();

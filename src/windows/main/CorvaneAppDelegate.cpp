@@ -7,6 +7,7 @@
 #include "records/Data_Paths.h"
 #include "records/Template_Store.h"
 #include "texts/Texts.h"
+#include "toolkit/Heading_Font.h"
 #include "toolkit/Key_Actions.h"
 #include "toolkit/Line_Edit_Limit.h"
 #include "toolkit/List_Tables.h"
@@ -19,6 +20,7 @@
 #include "ui_CorvaneAppDelegate.h"
 #include "windows/exclusion/Exclusion_Wizard.h"
 #include "windows/list/Handset_Bubble.h"
+#include "windows/main/Appearance_Menu.h"
 #include "windows/main/Awaited_Reports.h"
 #include "windows/main/Composer.h"
 #include "windows/main/Confirm_Boxes.h"
@@ -31,6 +33,7 @@
 #include "windows/main/Send_Promise.h"
 #include "windows/main/Send_Runner.h"
 #include "windows/phone/Connection_Info.h"
+#include "windows/phone/Device_Facts.h"
 #include "windows/phone/Phone_List_Wnd.h"
 #include "windows/stores/Sent_Items.h"
 #include "windows/stores/Templates.h"
@@ -81,8 +84,7 @@ bool CorvaneAppDelegate::awakeFromNib()
     link_font.setUnderline(true);
     m_ui->_NO_Device_Ticker->setFont(link_font);
     m_ui->_NO_Device_Ticker->setCursor(Qt::OpenHandCursor);
-    m_ui->_NO_Device_Ticker->setStyleSheet(QStringLiteral("QPushButton { color: #d00000; border: none; background: ") +
-                                           Window_Background().name() + QStringLiteral("; padding: 4px; }"));
+    m_ui->_Device_Name_Ticker->setFont(Heading_Font(font()));
     const QFontMetrics letters = fontMetrics();
     m_ui->_sent_btn->setMinimumSize(letters.averageCharWidth() * Send_Button_Letters,
                                     m_ui->_sent_btn->sizeHint().height() + letters.descent());
@@ -111,6 +113,7 @@ bool CorvaneAppDelegate::awakeFromNib()
         Confirm_Boxes::Boxes{m_ui->_Confirm_Chk, m_ui->_Reports_Chk, m_ui->_Keep_Receipt_Chk,
                              m_ui->_Remember_Confirm_Chk, m_ui->confirm_more},
         Program_Settings(Settings_Path));
+    m_appearance = std::make_unique<Appearance_Menu>(*m_ui->_Appearance_Btn, Program_Settings(Settings_Path));
     Show_What_Handsets_Show();
     m_import = std::make_unique<Number_Import>(
         Number_Import::Target{[this](int count, int percent) { Show_Import_Progress(count, percent); },
@@ -292,6 +295,10 @@ void CorvaneAppDelegate::Show_Device_In_Ticker()
     const bool has_device = !sel_port_name_str.isEmpty();
     m_ui->_Device_Name_Ticker->setText(has_device ? sel_port_name_str : Texts::Main::No_Device);
     m_ui->_NO_Device_Ticker->setVisible(!has_device);
+    m_ui->device_icon->Set_Tone(has_device ? Icon_Label::Tone::Ok : Icon_Label::Tone::Soft);
+    const QString facts = has_device ? Facts_Of_The_Device(*Phone_List_Wnd::defaultInstance()) : QString();
+    m_ui->_Device_Facts->setText(facts);
+    m_ui->_Device_Facts->setVisible(!facts.isEmpty());
 }
 
 // ---- The other windows

@@ -10,6 +10,7 @@
 #include <optional>
 #include <vector>
 
+class Appearance_Menu;
 class Awaited_Reports;
 class Composer;
 class Confirm_Boxes;
@@ -203,6 +204,7 @@ private:
     Row_Table_Model* m_exclusion_rows = nullptr;
     std::unique_ptr<Composer> m_composer;
     std::unique_ptr<Confirm_Boxes> m_confirm_boxes;
+    std::unique_ptr<Appearance_Menu> m_appearance;
     std::unique_ptr<Awaited_Reports> m_awaited_reports;
     std::unique_ptr<Send_Runner> m_send_runner;
     std::unique_ptr<Job_Follow_Up> m_follow_up;

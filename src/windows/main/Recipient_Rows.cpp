@@ -2,6 +2,7 @@
 
 #include "engine/Outcome_Words.h"
 #include "texts/Outcome_Texts.h"
+#include "toolkit/Outcome_Colours.h"
 
 #include <utility>
 
@@ -45,11 +46,13 @@ QVariant Recipient_Rows::data(const QModelIndex& index, int role) const
 {
     if (!index.isValid() || index.column() != Outcome_Column())
         return Row_Table_Model::data(index, role);
-    if (role != Qt::DisplayRole && role != Qt::AccessibleTextRole)
+    if (role != Qt::DisplayRole && role != Qt::AccessibleTextRole && role != Qt::ForegroundRole)
         return {};
     const auto outcome = m_read_outcome(index.row());
     if (!outcome)
         return {};
+    if (role == Qt::ForegroundRole)
+        return Colour_Of(outcome->state);
     return role == Qt::DisplayRole ? Signed_Outcome(*outcome) : Outcome_Words(*outcome);
 }
 

@@ -24,6 +24,14 @@ constexpr double Activity_Seconds = 0.5;
 constexpr int Activity_End = 100;
 constexpr int Activity_Step = 20;
 
+// The main window's, which stands in the desktop's list of windows.
+void Give_Title(const QString& title)
+{
+    QWidget* window = Main_App_wnd ? Main_App_wnd->Window() : nullptr;
+    if (window)
+        window->setWindowTitle(title);
+}
+
 void Keep_Room_When_Hidden(QWidget& widget)
 {
     QSizePolicy policy = widget.sizePolicy();
@@ -120,6 +128,7 @@ void Send_Modeless::Show_Item(int position, int total, const QString& number)
         m_ui->_Curr_Progress->setValue(Activity_End);
         Tell_State(number);
         Show_Time_Left();
+        Give_Title(tr("Sending %1 of %2").arg(position).arg(total));
     };
     if (Is_Interface_Thread() || m_is_item_on_its_way.exchange(true))
         Run_On_Interface_Thread(show);
@@ -167,6 +176,7 @@ void Send_Modeless::End()
         Close_Message_Boxes(this);
         End_Sheet();
         m_time_left = {};
+        Give_Title(QStringLiteral("Corvane"));
     });
 }
 

@@ -8,10 +8,10 @@
 #include "toolkit/Dialog_Over.h"
 #include "toolkit/File_Panels.h"
 #include "toolkit/List_Tables.h"
+#include "toolkit/Look.h"
 #include "toolkit/Message_Boxes.h"
 #include "toolkit/PleaseWait_Modeless.h"
 #include "toolkit/Row_Table_Model.h"
-#include "toolkit/Window_Look.h"
 #include "windows/stores/Export_Option.h"
 #include "windows/stores/Open_Export_Log.h"
 #include "windows/stores/Store_Globals.h"
@@ -60,9 +60,7 @@ void List_Window::Set_Up_List(QTableView& table, std::unique_ptr<Row_Table_Model
 
 void List_Window::Set_Up_Detail(QPlainTextEdit& detail)
 {
-    QPalette palette = detail.palette();
-    palette.setColor(QPalette::Base, Window_Background());
-    detail.setPalette(palette);
+    Lie_On_The_Ground(detail);
 }
 
 // ----------------------------------------------------------------------------------------- opening and loading
