@@ -1,5 +1,7 @@
 #include "doctor/Connection_Advice.h"
 
+#include "doctor/Small_Files.h"
+
 #include <QCoreApplication>
 
 namespace {
@@ -7,16 +9,6 @@ namespace {
 QString tr(const char* text)
 {
     return QCoreApplication::translate("Connection_Advice", text);
-}
-
-// A path is one word, which no window can break: of a long one only the beginning and the end are shown.
-QString Short_Path(const QString& path)
-{
-    constexpr int Longest = 48;
-    constexpr int Kept_At_Each_End = 22;
-    if (path.size() <= Longest)
-        return path;
-    return path.left(Kept_At_Each_End) + QStringLiteral(" \u2026 ") + path.right(Kept_At_Each_End);
 }
 
 QString Joined(const QStringList& paths)

@@ -50,6 +50,7 @@ constexpr std::array Options{
     Option{"list-jobs"},
     Option{"hold", "SECONDS"},
     Option{"keep"},
+    Option{"doctor"},
     Option{"json"},
     Option{"version"},
     Option{"help"},
@@ -100,6 +101,7 @@ private:
 
     void Choose_Task();
     void Check_What_Goes_Together();
+    void Refuse_What_Sends_With_Doctor();
     void Read_Input();
     void Read_Table_Choices();
     void Read_Country();
@@ -186,6 +188,7 @@ void Reader::Choose_Task()
     };
     for (const Choice& choice : {Choice{"help", Task::Show_Help},
                                  {"version", Task::Show_Version},
+                                 {"doctor", Task::Doctor},
                                  {"list-jobs", Task::List_Jobs},
                                  {"resume", Task::Resume},
                                  {"hand-over", Task::Hand_Over},
@@ -210,6 +213,7 @@ void Reader::Check_What_Goes_Together()
                                "skip-duplicates", "exclude", "service-centre", "fixed-waits", "reports", "batch",
                                "pause", "no-journal", "list-jobs"});
     Refuse_Together("list-jobs", {"to", "numbers", "table", "country", "message", "message-file", "no-journal"});
+    Refuse_What_Sends_With_Doctor();
     if (Is_Set("again-unknown") && !Is_Set("resume"))
         Complain(QStringLiteral("--again-unknown goes with --resume"));
     for (const char* name : {"number-column", "sheet", "encoding", "delimiter"})
@@ -217,6 +221,15 @@ void Reader::Check_What_Goes_Together()
             Complain(Dashed(name) + QLatin1String(" goes with --table"));
     if (Is_Set("batch") != Is_Set("pause"))
         Complain(QStringLiteral("--batch and --pause go together"));
+}
+
+// It is a look at devices, and takes none of the options for messages.
+void Reader::Refuse_What_Sends_With_Doctor()
+{
+    for (const Option& option : Options)
+        if (const QString name = QLatin1String(option.name);
+            name != QLatin1String("doctor") && name != QLatin1String("device") && name != QLatin1String("json"))
+            Refuse_Together("doctor", {option.name});
 }
 
 void Reader::Read_Manner()
@@ -275,7 +288,7 @@ void Reader::Read_Input()
     m_result.skip_duplicates = Is_Set("skip-duplicates");
     Read_Table_Choices();
     Read_Country();
-    if (m_result.task == Task::Resume || m_result.task == Task::List_Jobs)
+    if (m_result.task == Task::Resume || m_result.task == Task::List_Jobs || m_result.task == Task::Doctor)
         return;
     if (m_result.numbers.isEmpty() && m_result.numbers_file.isEmpty() && m_result.table_file.isEmpty())
         Complain(QStringLiteral("there are no recipients"), QStringLiteral("--to, --numbers or --table names them"));

@@ -17,6 +17,7 @@ struct Arguments
         Hand_Over,
         Resume,
         List_Jobs,
+        Doctor, ///< look why no device shows or can send
         Show_Version,
         Show_Help
     };

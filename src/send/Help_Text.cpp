@@ -34,6 +34,9 @@ Device
                          one of these that answers
   --service-centre NUMBER
                          in place of the SIM card's own
+  --doctor               look why no modem shows or can send, and say what helps: ports, rights, other programs, SIM card,
+                         network, signal, service centre. Of those that --device names, or of all. Nothing is sent and no
+                         PIN is tried
 Manner
   --confirm              each part is judged by the device's own answer, and kept in a journal; the default
   --fixed-waits          the waits of the desktop program's default manner; nothing is judged, and no journal is kept.
@@ -73,6 +76,7 @@ Exit status
   2  the arguments or the input cannot be used; nothing was sent
   3  no device can send; nothing was sent
   4  stopped
+With --doctor it is 0 when a device could send, 3 when none could, and 4 when it was stopped.
 Messages about errors go to standard error, one line: "corvane-send: what (why)".
 
 Signals
@@ -87,7 +91,8 @@ Examples
   corvane-send --to +447700900100 --message "The heating has failed."
   corvane-send --numbers members.txt --exclude stop.txt --skip-duplicates --message-file text.txt --json
   corvane-send --table members.csv --country GB --message "Dear {{First name|member}}, ..." --dry-run
-  corvane-send --resume 20261121-101500-3f9a)TEXT";
+  corvane-send --resume 20261121-101500-3f9a
+  corvane-send --doctor)TEXT";
 
 } // namespace
 

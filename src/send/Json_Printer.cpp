@@ -154,3 +154,18 @@ void Json_Printer::Unfinished(const Unfinished_Job& job)
         object.insert(QLatin1String("trouble"), Job_Trouble_Sentence(job.trouble));
     Print("unfinished", object);
 }
+
+void Json_Printer::Found(const Finding& finding)
+{
+    QJsonObject object{{"check", Code_Of(finding.check)}, {"mark", Code_Of(finding.mark)}, {"text", finding.sentence}};
+    for (const auto& [key, value] :
+         {std::pair("device", finding.port), {"remedy", finding.remedy}, {"command", finding.command}})
+        if (!value.isEmpty())
+            object.insert(QLatin1String(key), value);
+    Print("check", object);
+}
+
+void Json_Printer::Looked(const QStringList& ready)
+{
+    Print("looked", {{"ready", QJsonArray::fromStringList(ready)}});
+}

@@ -17,6 +17,8 @@ public:
     void Report(const Report_Facts& report) override;
     void End(const End_Facts& end) override;
     void Unfinished(const Unfinished_Job& job) override;
+    void Found(const Finding& finding) override;
+    void Looked(const QStringList& ready) override;
     void Progress(const QString&) override {}
 
 private:

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "device/Device_Cause.h"
+#include "doctor/Finding.h"
 #include "plan/Row_Preview.h"
 #include "records/Job_Shelf.h"
 #include "send/Table_Input.h"
@@ -83,6 +84,9 @@ public:
     virtual void Report(const Report_Facts& report) = 0;
     virtual void End(const End_Facts& end) = 0;
     virtual void Unfinished(const Unfinished_Job& job) = 0;
+    virtual void Found(const Finding& finding) = 0;
+    /// The end of a look at devices: the paths of those that could send.
+    virtual void Looked(const QStringList& ready) = 0;
     /// What is being done, for a person who watches.
     virtual void Progress(const QString& text) = 0;
 };

@@ -1,6 +1,8 @@
 #include "send/Send_Program.h"
 
+#include "doctor/Port_Doctor.h"
 #include "plan/Hand_Over.h"
+#include "platform/Interface_Thread.h"
 #include "platform/Waiting.h"
 #include "records/Data_Paths.h"
 #include "records/Job_Shelf.h"
@@ -53,6 +55,8 @@ int Send_Program::Do()
     case Arguments::Task::Dry_Run:
     case Arguments::Task::Hand_Over:
         return Plan();
+    case Arguments::Task::Doctor:
+        return Look_At_Devices();
     default:
         return Send();
     }
@@ -117,4 +121,22 @@ int Send_Program::List_Jobs()
     for (const Unfinished_Job& job : Unfinished_Jobs(folder.path))
         m_printer->Unfinished(job);
     return Exit_Status::Done;
+}
+
+int Send_Program::Look_At_Devices()
+{
+    Port_Doctor::Wishes wishes;
+    wishes.paths = m_arguments.devices;
+    wishes.is_over = [this] { return m_signals.Is_Asked(); };
+    wishes.on_finding = [this](const Finding& finding) { m_printer->Found(finding); };
+    wishes.on_looking_at = [this](const QString& name) {
+        m_printer->Progress(QStringLiteral("Asking ") + name + QStringLiteral(" ..."));
+    };
+    QStringList ready;
+    Run_On_Worker([&] { ready = Port_Doctor(wishes).Look(); });
+    if (m_signals.Is_Asked())
+        return Fail({});
+    m_printer->Progress({});
+    m_printer->Looked(ready);
+    return ready.isEmpty() ? Exit_Status::No_Device : Exit_Status::Done;
 }

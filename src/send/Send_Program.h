@@ -26,6 +26,7 @@ private:
     int Send();
     int Plan();
     int List_Jobs();
+    int Look_At_Devices();
     int Fail(const Trouble& trouble) const;
 
     const Arguments& m_arguments;

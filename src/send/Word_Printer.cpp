@@ -139,6 +139,20 @@ void Word_Printer::Unfinished(const Unfinished_Job& job)
           (job.is_in_use ? QStringLiteral(" (a program works on it)") : QString()));
 }
 
+void Word_Printer::Found(const Finding& finding)
+{
+    Print(Sign_Of(finding.mark) + QLatin1String("  ") + finding.sentence);
+    for (const QString& help : {finding.remedy, finding.command})
+        if (!help.isEmpty())
+            Print(QLatin1String("     ") + help);
+}
+
+void Word_Printer::Looked(const QStringList& ready)
+{
+    Print(ready.isEmpty() ? QStringLiteral("No device could send.")
+                          : QStringLiteral("Could send: ") + ready.join(QLatin1String(", ")));
+}
+
 void Word_Printer::Progress(const QString& text)
 {
     m_output.Show(On_One_Line(text).left(Longest_Progress).toUtf8());
