@@ -2,6 +2,7 @@
 #include "list/Table_File.h"
 #include "toolkit/Plain_Text_Edit.h"
 #include "windows/list/Handset_Bubble.h"
+#include "windows/list/Text_Marks.h"
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -52,15 +53,7 @@ protected:
         }
         return help;
     }
-    QStringList Marked()
-    {
-        QStringList marked;
-        for (const auto& mark : Composer().extraSelections()) {
-            EXPECT_EQ(mark.format.underlineStyle(), QTextCharFormat::WaveUnderline);
-            marked.append(mark.cursor.selectedText());
-        }
-        return marked;
-    }
+    QStringList Marked() { return Marked_Texts(Composer()); }
 };
 
 TEST_F(Handset_Bubble_Test, Takes_No_Room_While_There_Is_No_Message)

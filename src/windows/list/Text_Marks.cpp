@@ -1,7 +1,9 @@
 #include "windows/list/Text_Marks.h"
 
 #include <QPlainTextEdit>
+#include <QTextBlock>
 #include <QTextCursor>
+#include <QTextLayout>
 
 namespace {
 
@@ -14,36 +16,52 @@ QTextCharFormat Mark_Of(const QPlainTextEdit& edit)
     return format;
 }
 
-// Places that follow one upon the other share a mark: a text in another script has one for each line, not for each
-// letter.
-std::vector<std::pair<int, int>> Stretches_Of(const std::vector<Marked_Place>& places)
+// Places of a block that follow one upon the other share a mark: a text in another script has one for each line, not for
+// each letter. The next place is the first that ends behind the block.
+QList<QTextLayout::FormatRange> Marks_In(const QTextBlock& block, const QTextCharFormat& format,
+                                         std::vector<Marked_Place>::const_iterator& next,
+                                         std::vector<Marked_Place>::const_iterator end)
 {
-    std::vector<std::pair<int, int>> stretches;
-    for (const Marked_Place& place : places) {
-        if (!stretches.empty() && stretches.back().second == place.at)
-            stretches.back().second += place.length;
+    QList<QTextLayout::FormatRange> marks;
+    const int block_end = block.position() + block.length();
+    for (; next != end && next->at < block_end; ++next) {
+        const int start = std::max(next->at - block.position(), 0);
+        const int length = std::min(next->at + next->length, block_end) - block.position() - start;
+        if (!marks.isEmpty() && marks.last().start + marks.last().length == start)
+            marks.last().length += length;
         else
-            stretches.emplace_back(place.at, place.at + place.length);
+            marks.append({start, length, format});
+        if (next->at + next->length > block_end)
+            break;
     }
-    return stretches;
+    return marks;
 }
 
 } // namespace
 
+// As a part of the layout, marks are painted with the text; as selections each would be painted over all of it.
 void Mark_Places(QPlainTextEdit& edit, const std::vector<Marked_Place>& places)
 {
-    if (places.empty() && edit.extraSelections().isEmpty())
-        return;
-    QList<QTextEdit::ExtraSelection> marks;
     const QTextCharFormat format = Mark_Of(edit);
-    const int end = edit.document()->characterCount() - 1;
-    for (const auto& [first, last] : Stretches_Of(places)) {
-        QTextCursor stretch(edit.document());
-        stretch.setPosition(std::min(first, end));
-        stretch.setPosition(std::min(last, end), QTextCursor::KeepAnchor);
-        marks.append({stretch, format});
+    QTextDocument& document = *edit.document();
+    auto next = places.begin();
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        const auto marks = Marks_In(block, format, next, places.end());
+        if (marks == block.layout()->formats())
+            continue;
+        block.layout()->setFormats(marks);
+        document.markContentsDirty(block.position(), block.length());
     }
-    edit.setExtraSelections(marks);
+}
+
+QStringList Marked_Texts(const QPlainTextEdit& edit)
+{
+    QStringList marked;
+    for (QTextBlock block = edit.document()->begin(); block.isValid(); block = block.next()) {
+        for (const QTextLayout::FormatRange& mark : block.layout()->formats())
+            marked.append(block.text().mid(mark.start, mark.length));
+    }
+    return marked;
 }
 
 void Change_Text(QPlainTextEdit& edit, const std::vector<Changed_Text>& changes)

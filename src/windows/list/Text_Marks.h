@@ -9,6 +9,9 @@ class QPlainTextEdit;
 /// Underlines these places with a wave, and no others. The text itself, its history and its listeners notice nothing.
 void Mark_Places(QPlainTextEdit& edit, const std::vector<Marked_Place>& places);
 
+/// The texts that are marked, in their order; one for each mark.
+QStringList Marked_Texts(const QPlainTextEdit& edit);
+
 /// Makes these changes, which are in the order of the text, as one step that the editor can undo. The cursor stays
 /// where it is in the text.
 void Change_Text(QPlainTextEdit& edit, const std::vector<Changed_Text>& changes);
