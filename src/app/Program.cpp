@@ -1,6 +1,5 @@
 #include "app/Program.h"
 
-#include "app/Demo_Phone.h"
 #include "device/Device_Paths.h"
 #include "device/Stop_Flag.h"
 #include "platform/Interface_Thread.h"
@@ -11,6 +10,7 @@
 #include "records/Data_Paths.h"
 #include "texts/Texts.h"
 #include "toolkit/Asked_For_Focus.h"
+#include "toolkit/Demo_Phone.h"
 #include "toolkit/Guarded_Application.h"
 #include "toolkit/Message_Boxes.h"
 #include "toolkit/Shared_Instance.h"

@@ -1,6 +1,6 @@
-#include "app/Demo_Phone.h"
 #include "app/Program.h"
 #include "platform/Pace.h"
+#include "toolkit/Demo_Phone.h"
 #include "tour/Contacts_Walk.h"
 #include "tour/Inbox.h"
 #include "tour/Killed_Program.h"

@@ -4,6 +4,7 @@
 #include "engine/Delayed_Delivery.h"
 #include "list/Number_Import.h"
 #include "platform/Interface_Thread.h"
+#include "platform/Waiting.h"
 #include "records/Data_Paths.h"
 #include "records/Template_Store.h"
 #include "texts/Texts.h"
@@ -34,6 +35,7 @@
 #include "windows/main/Send_Runner.h"
 #include "windows/phone/Connection_Info.h"
 #include "windows/phone/Device_Facts.h"
+#include "windows/phone/Doctor_Wnd.h"
 #include "windows/phone/Phone_List_Wnd.h"
 #include "windows/stores/Sent_Items.h"
 #include "windows/stores/Templates.h"
@@ -328,7 +330,16 @@ bool CorvaneAppDelegate::Check_Duplicate_Template(const QString& text) const
 void CorvaneAppDelegate::Help_Btn()
 {
     Help_Wnd help(this);
+    bool wants_virtual_phone = false;
+    connect(&help, &Help_Wnd::Doctor_Wanted, this, [&] {
+        const std::shared_ptr<void> device = m_awaited_reports->Device_Turn();
+        wants_virtual_phone = Doctor_Wnd(&help).exec() == Doctor_Wnd::Virtual_Phone_Is_There;
+        if (wants_virtual_phone)
+            help.accept();
+    });
     help.exec();
+    if (wants_virtual_phone && !Program_Is_Exiting())
+        Search_All_Modem();
 }
 
 // ---- Shared services

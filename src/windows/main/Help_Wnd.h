@@ -16,5 +16,6 @@ public:
     explicit Help_Wnd(QWidget* parent);
     ~Help_Wnd() override;
 
-private:
+Q_SIGNALS:
+    void Doctor_Wanted(); ///< why does my phone not show?
 };

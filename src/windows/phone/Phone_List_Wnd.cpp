@@ -2,15 +2,11 @@
 
 #include "device/Chosen_Device.h"
 #include "doctor/Phone_Search.h"
-#include "list/Custom_Smsc_Rules.h"
 #include "platform/Interface_Thread.h"
 #include "platform/Thread_Shortage.h"
 #include "platform/Waiting.h"
-#include "texts/Texts.h"
 #include "toolkit/Dialog_Over.h"
-#include "toolkit/Input_Hold.h"
 #include "toolkit/Key_Actions.h"
-#include "toolkit/Line_Edit_Limit.h"
 #include "toolkit/Message_Boxes.h"
 #include "toolkit/PleaseWait_Modeless.h"
 #include "toolkit/Row_Table_Model.h"
@@ -18,16 +14,19 @@
 #include "toolkit/Whole_Text_Delegate.h"
 #include "toolkit/Window_Look.h"
 #include "ui_Phone_List_Wnd.h"
+#include "windows/phone/Doctor_Wnd.h"
+#include "windows/phone/Virtual_Phone_Offer.h"
 
 #include <QApplication>
 #include <QHeaderView>
-#include <QScopedValueRollback>
 #include <QScrollBar>
 
 namespace {
 
 constexpr double Wait_Before_Opening_Seconds = 1.0;
 constexpr int Letters_Of_A_Name = 36; // of a device, always in sight
+constexpr QLatin1String Device_Column("DEVICE");
+constexpr QLatin1String State_Column("STATE");
 
 // A device's answer may be long: the field shows its beginning.
 void Show_Text(QLineEdit& field, const QString& text)
@@ -79,13 +78,18 @@ void Phone_List_Wnd::Set_Up_Table()
 {
     m_table_model = std::make_unique<Row_Table_Model>(
         std::vector<Row_Table_Model::Column>{{QStringLiteral("COM_PORT"), tr("Port")},
-                                             {QStringLiteral("PORT_DETAL"), tr("Device path")}},
+                                             {QStringLiteral("PORT_DETAL"), tr("Device path")},
+                                             {Device_Column, tr("Device")},
+                                             {State_Column, tr("State")}},
         [this] { return nsPortListData.Count(); },
-        [this](const QString& identifier, int row) { return nsPortListData.Value(identifier, row); });
+        [this](const QString& identifier, int row) { return Cell(identifier, row); });
     m_ui->idPortList->setModel(m_table_model.get());
     m_ui->idPortList->setItemDelegate(new Whole_Text_Delegate(m_ui->idPortList));
     m_ui->idPortList->verticalScrollBar()->setObjectName(QStringLiteral("idPortListsclview"));
     m_ui->idPortList->horizontalHeader()->setHighlightSections(false);
+    m_ui->idPortList->horizontalHeader()->moveSection(1, 3); // the path, which the details show as well, is last
+    m_ui->idPortList->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    m_ui->idPortList->horizontalHeader()->setSectionResizeMode(3, QHeaderView::ResizeToContents);
     m_ui->idPortList->horizontalHeader()->setStretchLastSection(true);
     m_ui->idPortList->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_ui->idPortList->verticalHeader()->hide();
@@ -95,6 +99,7 @@ void Phone_List_Wnd::Set_Up_Table()
 void Phone_List_Wnd::Connect_Controls()
 {
     connect(m_ui->_Search_Btn, &QPushButton::clicked, this, &Phone_List_Wnd::Search_dev_Pressed);
+    connect(m_ui->Why_No_Phone, &QPushButton::clicked, this, &Phone_List_Wnd::Why_No_Phone);
     connect(m_ui->_Select_Btn, &QPushButton::clicked, this, &Phone_List_Wnd::Sel_Device_Pressed);
     connect(m_ui->_Cancel_Btn, &QPushButton::clicked, this, &Phone_List_Wnd::ContinueOfflinePressed);
     connect(m_ui->_cus_smsc_chk, &QCheckBox::toggled, this, &Phone_List_Wnd::Custom_SMSC_Pressed);
@@ -143,6 +148,7 @@ void Phone_List_Wnd::Find_Ph_List()
     Run_On_Worker([this] {
         const auto turn = Device_Turn();
         Search_Phones(mfc_sms_obj, *this);
+        Find_Notes();
     });
     Run_On_Interface_Thread([this] { m_ui->idPortList->verticalScrollBar()->setValue(0); });
 }
@@ -189,6 +195,15 @@ void Phone_List_Wnd::End_Search()
     m_ui->idPortList->selectionModel()->clear();
     Show_Searching(false);
     ph_find_thread = 0;
+    Pick(std::exchange(m_to_be_picked, {}));
+}
+
+// As a click on its row does; nothing where there is none.
+void Phone_List_Wnd::Pick(const QString& path)
+{
+    for (int row = 0; !path.isEmpty() && row < nsPortListData.Count(); ++row)
+        if (nsPortListData.Path(static_cast<unsigned>(row)) == path)
+            m_ui->idPortList->selectRow(row);
 }
 
 // The list fills while the search is running, and stays empty as long as the first devices keep it waiting.
@@ -197,11 +212,48 @@ void Phone_List_Wnd::Show_Searching(bool is_searching)
     if (is_searching == m_is_searching_shown)
         return;
     m_is_searching_shown = is_searching;
+    m_ui->Why_No_Phone->setEnabled(!is_searching);
     m_ui->device_box->setTitle(is_searching ? tr("Searching for devices ...") : tr("Devices found"));
     if (is_searching)
         QApplication::setOverrideCursor(Qt::BusyCursor); // also for the search before the window opens
     else
         QApplication::restoreOverrideCursor();
+}
+
+// What is beside the rows of the list, and is not part of them.
+QString Phone_List_Wnd::Cell(const QString& identifier, int row) const
+{
+    if (identifier != Device_Column && identifier != State_Column)
+        return nsPortListData.Value(identifier, row);
+    const Port_Note note = m_notes.value(nsPortListData.Value(QStringLiteral("PORT_DETAL"), row));
+    return identifier == Device_Column ? note.device : note.state;
+}
+
+void Phone_List_Wnd::Find_Notes()
+{
+    QStringList paths;
+    Run_On_Interface_Thread([&] {
+        for (int row = 0; row < nsPortListData.Count(); ++row)
+            paths.append(nsPortListData.Value(QStringLiteral("PORT_DETAL"), row));
+    });
+    const auto notes = Notes_To_Ports(paths);
+    Run_On_Interface_Thread([&] {
+        m_notes = notes;
+        m_table_model->Reload();
+    });
+}
+
+void Phone_List_Wnd::Why_No_Phone()
+{
+    if (ph_find_thread == 1)
+        return;
+    // What an earlier check has left open would be in the way.
+    Run_On_Worker([this] { Phone_Probe::Let_Go_Of_Port(mfc_sms_obj); });
+    port.Close();
+    if (Doctor_Wnd(this).exec() != Doctor_Wnd::Virtual_Phone_Is_There || !isVisible())
+        return;
+    m_to_be_picked = Virtual_Phone_Offer::Path();
+    Search_dev_Pressed();
 }
 
 // ------------------------------------------------------------------------------------------------------- the probe
@@ -296,87 +348,6 @@ void Phone_List_Wnd::Tell_About_Device(const QString& text)
         if (isVisible())
             Show_MessageBox(text);
     });
-}
-
-// -------------------------------------------------------------------------------------------- selecting the device
-
-void Phone_List_Wnd::Custom_SMSC_Pressed()
-{
-    const bool is_custom = m_ui->_cus_smsc_chk->isChecked();
-    m_ui->_def_smsc_edit->setEnabled(!is_custom);
-    m_ui->_cus_smsc_edit->setEnabled(is_custom);
-}
-
-void Phone_List_Wnd::controlTextDidChange()
-{
-    Cut_Line(*m_ui->_cus_smsc_edit, Custom_Smsc_Rules::Longest_Typed);
-}
-
-void Phone_List_Wnd::Sel_Device_Pressed()
-{
-    Phone_Selected_Func();
-}
-
-void Phone_List_Wnd::Phone_Selected_Func()
-{
-    if (m_is_selecting || !May_Be_Selected())
-        return;
-    Show_Picked_Row();
-    const QString name = nsPortListData.Name(Prev_Index);
-    const QString path = nsPortListData.Path(Prev_Index);
-    if (!Check_Picked_Device(path))
-        return;
-    sel_port_name_str = name;
-    sel_port_bsd_str = path;
-    Cus_SMS_Num_STR = m_ui->_cus_smsc_chk->isChecked() ? m_ui->_cus_smsc_edit->text() : QString();
-    done(Accepted);
-}
-
-bool Phone_List_Wnd::May_Be_Selected()
-{
-    if (!nsPortListData.Is_Row(Prev_Index)) {
-        const auto& empty = ph_find_thread == 1 ? Texts::Phone::Still_Searching : Texts::Phone::List_Empty;
-        Show_MessageBox(nsPortListData.Count() == 0 ? empty : Texts::Phone::None_Selected);
-        m_ui->idPortList->setFocus();
-        return false;
-    }
-    if (m_ui->_cus_smsc_chk->isChecked() && !Custom_Smsc_Rules::Is_Valid(m_ui->_cus_smsc_edit->text())) {
-        Show_MessageBox(Texts::Phone::Custom_Smsc_Invalid);
-        m_ui->_cus_smsc_edit->setFocus();
-        return false;
-    }
-    return true;
-}
-
-bool Phone_List_Wnd::Check_Picked_Device(const QString& path)
-{
-    const Chosen_Centre centre{m_ui->_cus_smsc_chk->isChecked(), m_ui->_def_smsc_edit->text(),
-                               m_ui->_cus_smsc_edit->text()};
-    const QScopedValueRollback selecting(m_is_selecting, true);
-    // The window stays as it is until the check has ended: until its sheet is up, clicks and keys are dropped.
-    const Input_Hold input_hold(this);
-    bool is_fit = false;
-    Run_On_Worker(
-        [&] {
-            const auto turn = Device_Turn();
-            is_fit = Phone_Probe(mfc_sms_obj, *this).Check_For_Sending(path, centre);
-        },
-        User_Input::Served);
-    return is_fit;
-}
-
-void Phone_List_Wnd::ContinueOfflinePressed()
-{
-    sel_port_name_str.clear();
-    sel_port_bsd_str.clear();
-    done(Rejected);
-}
-
-void Phone_List_Wnd::reject()
-{
-    // While a device is being talked to, the window must wait for it.
-    if (!m_is_selecting && !m_work.Is_Sheet_Shown())
-        ContinueOfflinePressed();
 }
 
 // ------------------------------------------------------------------------------------------------------ the workers

@@ -4,6 +4,7 @@
 #include "device/MFCSMS.h"
 #include "doctor/Phone_List.h"
 #include "doctor/Phone_Probe.h"
+#include "doctor/Port_Notes.h"
 #include "toolkit/Window_Work.h"
 #include "windows/phone/Wizard_Port_Slot.h"
 
@@ -38,6 +39,7 @@ public:
     int Open_Ph_List_Wnd();
 
     void Search_dev_Pressed();
+    void Why_No_Phone(); ///< looks why no phone shows, in a window over this one
     void Custom_SMSC_Pressed();
     void Sel_Device_Pressed();
     void ContinueOfflinePressed();
@@ -71,6 +73,9 @@ private:
                           const QString& Port_IMEI);
     void Empty_For_Search();
     void End_Search();
+    QString Cell(const QString& identifier, int row) const;
+    void Find_Notes();
+    void Pick(const QString& path);
     void Show_Searching(bool is_searching);
 
     void Find_Ph_Value_Thread();
@@ -88,6 +93,8 @@ private:
     const std::unique_ptr<Ui::Phone_List_Wnd> m_ui;
     MFCSMS mfc_sms_obj;
     Phone_List nsPortListData;
+    QString m_to_be_picked;            // the path that the search under way is for
+    QHash<QString, Port_Note> m_notes; // by the paths of the ports
     std::unique_ptr<Row_Table_Model> m_table_model;
     unsigned Prev_Index = Phone_List::No_Row;
     std::unique_ptr<PleaseWait_Modeless> plz_wait_Window;

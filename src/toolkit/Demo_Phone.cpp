@@ -1,4 +1,4 @@
-#include "app/Demo_Phone.h"
+#include "toolkit/Demo_Phone.h"
 
 #include "platform/Pace.h"
 #include "platform/Waiting.h"
