@@ -1,5 +1,6 @@
 #include "fuzz/Fuzz_Input.h"
 
+#include <QList>
 #include <QStringDecoder>
 #include <cstdio>
 #include <cstdlib>
