@@ -17,7 +17,8 @@ namespace Style_Buttons {
 
 namespace {
 
-constexpr int Beside_Flat = 8;
+constexpr int Beside_Flat = 6;
+constexpr int Beside_Words = 11; // of buttons with a ground of their own
 constexpr int Beside_Icon = 6;
 constexpr int Room_Of_Angle = 16; // of a button with a menu
 
@@ -190,7 +191,7 @@ QSize Size_Of(const QStyleOptionButton& option, const QWidget* widget)
     if (option.features & QStyleOptionButton::HasMenu)
         size.rwidth() += Scaled(Room_Of_Angle, &option);
     const bool is_flat = kind == Kind::Flat || kind == Kind::Link;
-    size += QSize(2 * Scaled(is_flat ? Beside_Flat : 14, &option), 2 * Scaled(is_flat ? 4 : 7, &option) + 2);
+    size += QSize(2 * Scaled(is_flat ? Beside_Flat : Beside_Words, &option), 2 * Scaled(is_flat ? 4 : 7, &option) + 2);
     return size.expandedTo(QSize(kind == Kind::Flat ? 0 : Scaled(72, &option), 0));
 }
 
