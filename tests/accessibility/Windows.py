@@ -242,10 +242,11 @@ def choose_the_phone(walk):
     title = "Mobile Phone Connection Wizard"
     wizard = Window(title)
     rows = wizard.table("Devices found")[1]
-    name, path = next(row for row in rows if "demo-phone" in row[1])  # beside what this machine may have
-    wizard.select_row("Devices found", rows.index([name, path]))
+    phone = next(row for row in rows if "demo-phone" in row[1])  # beside what this machine may have
+    name, path = phone[:2]
+    wizard.select_row("Devices found", rows.index(phone))
     until("the device's own number", lambda: wizard.text("IMEI"))
-    walk.look(title, tables=[("Devices found", ["Port", "Device path"], rows)],
+    walk.look(title, tables=[("Devices found", ["Port", "Device path", "Device", "State"], rows)],
               fields=[("Port", name), ("Device path", path)])
     until("the end of the probe", lambda: not find_window("Corvane", "Please wait ..."))
     wizard.press("Select this device")

@@ -27,6 +27,7 @@
 #include "windows/main/Long_SMS_Dlg.h"
 #include "windows/main/Send_Modeless.h"
 #include "windows/phone/Connection_Info.h"
+#include "windows/phone/Doctor_Wnd.h"
 #include "windows/phone/Phone_List_Wnd.h"
 #include "windows/stores/Export_Option.h"
 #include "windows/stores/Open_Export_Log.h"
@@ -133,6 +134,26 @@ QWidget& Wizard_With_A_Device(CorvaneAppDelegate& /*main*/)
 {
     auto& window = *Phone_List_Wnd::defaultInstance();
     window.Insert_port_in_List("/dev/serial/by-id/usb-" + QString(300, u'L') + "-if00-port0");
+    return window;
+}
+
+/// The longest things that are found, and every sign.
+QWidget& Doctor_With_Findings(CorvaneAppDelegate& main)
+{
+    auto& window = *new Doctor_Wnd(&main, [](const Port_Doctor::Wishes&) { return QStringList(); });
+    Port_Facts port;
+    port.product = "Quectel EC25";
+    port.path = "/dev/serial/by-id/usb-" + QString(80, u'L') + "-if00-port0";
+    const QString path = port.path;
+    using Check = Finding::Check;
+    window.Show_Finding({Check::Port, Finding::Mark::Good, path, port.Name() + " is connected."});
+    window.Show_Finding({Check::Right, Finding::Mark::Bad, path, "Your account may not open it.",
+                         "Members of the group dialout may. Join it with this command, then log out and in again:",
+                         "sudo usermod -aG dialout $USER"});
+    window.Show_Finding({Check::Network, Finding::Mark::Note, path,
+                         "The device is registered with a foreign network (roaming).",
+                         "Messages can be sent; ask your operator what they cost abroad."});
+    window.Show_End(false);
     return window;
 }
 
@@ -267,6 +288,7 @@ const std::vector<Sight>& Every_Window()
         {"import question", Made_Over<Load_Num_Info>},
         {"connection help", Connection_Help},
         {"connection wizard", Wizard_With_A_Device},
+        {"port doctor", Doctor_With_Findings},
         {"notice of a long message", Shared<Long_SMS_Dlg>, {{"_Msg_Val", Composer_Rules::Long_SMS_Text(true)}}},
         {"progress in a pause",
          Shared<Send_Modeless>,

@@ -1,6 +1,10 @@
 #pragma once
 
 #include "gui/Leaving_Program.h"
+#include "records/Data_Paths.h"
+#include "records/Job_Paths.h"
+#include "records/Job_Reader.h"
+#include "records/Job_Shelf.h"
 
 #include <random>
 #include <set>
@@ -92,6 +96,8 @@ protected:
         Click_At(*button, QPoint(std::min(12, button->width() / 2), button->height() / 2));
     }
 
+    // A message that was confirmed and whose answer nobody waited for to the end has a line in its job's journal
+    // instead.
     void Expect_A_Record_Of_Each_Message() const
     {
         RecordProperty("messages", static_cast<int>(m_phone.Inbox().size()));
@@ -103,7 +109,31 @@ protected:
             if (line.startsWith('\a'))
                 recorded.push_back(line.mid(1, line.indexOf('\v') - 1).toStdString());
         }
+        std::vector<std::string> doubtful = Doubtful_Numbers();
+        for (std::size_t i = 0; i < sent.size();) {
+            const auto place = std::find(doubtful.begin(), doubtful.end(), sent[i]);
+            const bool is_recorded = i < recorded.size() && recorded[i] == sent[i];
+            if (is_recorded || place == doubtful.end()) {
+                ++i;
+                continue;
+            }
+            doubtful.erase(place);
+            sent.erase(sent.begin() + static_cast<std::ptrdiff_t>(i));
+        }
         EXPECT_EQ(recorded, sent) << "after " << m_pressed.join(u' ').toStdString();
+    }
+
+    static std::vector<std::string> Doubtful_Numbers()
+    {
+        std::vector<std::string> numbers;
+        for (const Unfinished_Job& job : Unfinished_Jobs(Jobs_Folder_Path)) {
+            const Job_Reading reading = Read_Job(Job_Journal_Path(Jobs_Folder_Path, job.id));
+            for (int row = 1; reading.record && row <= reading.record->Row_Count(); ++row) {
+                if (May_Have_Been_Sent(reading.record->State_Of(row).state))
+                    numbers.push_back(reading.record->Row(row)->number.toStdString());
+            }
+        }
+        return numbers;
     }
 
     std::mt19937 m_random{GetParam()};

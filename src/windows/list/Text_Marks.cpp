@@ -16,8 +16,8 @@ QTextCharFormat Mark_Of(const QPlainTextEdit& edit)
     return format;
 }
 
-// Places of a block that follow one upon the other share a mark: a text in another script has one for each line, not for
-// each letter. The next place is the first that ends behind the block.
+// Places of a block that follow one upon the other share a mark: a text in another script has one for each line, not
+// for each letter. The next place is the first that ends behind the block.
 QList<QTextLayout::FormatRange> Marks_In(const QTextBlock& block, const QTextCharFormat& format,
                                          std::vector<Marked_Place>::const_iterator& next,
                                          std::vector<Marked_Place>::const_iterator end)
