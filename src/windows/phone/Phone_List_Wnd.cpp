@@ -88,12 +88,14 @@ void Phone_List_Wnd::Set_Up_Table()
     m_ui->idPortList->verticalScrollBar()->setObjectName(QStringLiteral("idPortListsclview"));
     m_ui->idPortList->horizontalHeader()->setHighlightSections(false);
     m_ui->idPortList->horizontalHeader()->moveSection(1, 3); // the path, which the details show as well, is last
-    m_ui->idPortList->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
-    m_ui->idPortList->horizontalHeader()->setSectionResizeMode(3, QHeaderView::ResizeToContents);
-    m_ui->idPortList->horizontalHeader()->setStretchLastSection(true);
+    m_ui->idPortList->setMinimumWidth(m_ui->idPortList->fontMetrics().averageCharWidth() * Letters_Of_A_Name);
+    m_ui->idPortList->horizontalHeader()->setMaximumSectionSize(m_ui->idPortList->minimumWidth() * 2 / 3);
+    for (const int column : {0, 3})
+        m_ui->idPortList->horizontalHeader()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
+    for (const int column : {1, 2})
+        m_ui->idPortList->horizontalHeader()->setSectionResizeMode(column, QHeaderView::Stretch);
     m_ui->idPortList->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_ui->idPortList->verticalHeader()->hide();
-    m_ui->idPortList->setMinimumWidth(m_ui->idPortList->fontMetrics().averageCharWidth() * Letters_Of_A_Name);
 }
 
 void Phone_List_Wnd::Connect_Controls()
