@@ -12,12 +12,15 @@ namespace {
 
 constexpr char End_Of_Message = '\x1A';
 
+// A command that was cut off in front of its end begins none.
 int Messages_Begun_In(const std::string& heard)
 {
     const std::string command = "AT+CMGS=";
     int count = 0;
-    for (auto at = heard.find(command); at != std::string::npos; at = heard.find(command, at + 1))
-        ++count;
+    for (auto at = heard.find(command); at != std::string::npos; at = heard.find(command, at + 1)) {
+        const auto end = heard.find_first_not_of("0123456789", at + command.size());
+        count += end != std::string::npos && heard[end] == '\r' ? 1 : 0;
+    }
     return count;
 }
 
