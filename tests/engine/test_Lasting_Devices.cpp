@@ -2,6 +2,8 @@
 #include "platform/Waiting.h"
 #include "texts/Confirmed_Texts.h"
 
+#include <atomic>
+
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -52,8 +54,8 @@ protected:
         Plug_In("ttyUSB1", m_phone.Plug_In_Again());
     }
 
-    Virtual_Phone m_other; // a stranger's
-    double m_pulled_at = 0;
+    Virtual_Phone m_other;               // a stranger's
+    std::atomic<double> m_pulled_at = 0; // the phone's thread writes it
 };
 
 } // namespace
