@@ -49,7 +49,7 @@ void Corvane_Single(benchmark::State& state, Gammu_Alphabet alphabet, int length
     const QString text = Text(alphabet, length);
     const QString number = QLatin1String(Number);
     const QString centre = QLatin1String(Centre);
-    for (auto step : state) {
+    for ([[maybe_unused]] auto step : state) {
         const QString frame = encoder.EncodePDU(text, number, centre, 0, true, false, alphabet == Gammu_Alphabet::Ucs2);
         benchmark::DoNotOptimize(frame.constData());
     }
@@ -58,14 +58,14 @@ void Corvane_Single(benchmark::State& state, Gammu_Alphabet alphabet, int length
 void Peer_Single(benchmark::State& state, Gammu_Alphabet alphabet, int length)
 {
     const std::string text = Text(alphabet, length).toStdString();
-    for (auto step : state)
+    for ([[maybe_unused]] auto step : state)
         benchmark::DoNotOptimize(Gammu_Single(text, Number, Centre, alphabet));
 }
 
 void Peer_Prepared(benchmark::State& state, Gammu_Alphabet alphabet, int length)
 {
     Gammu_Prepared message(Text(alphabet, length).toStdString(), Number, Centre, alphabet);
-    for (auto step : state)
+    for ([[maybe_unused]] auto step : state)
         benchmark::DoNotOptimize(message.Encode());
 }
 
@@ -88,14 +88,14 @@ void Corvane_Parts(benchmark::State& state, Gammu_Alphabet alphabet, int length)
     const QString text = Text(alphabet, length);
     const QString number = QLatin1String(Number);
     const QString centre = QLatin1String(Centre);
-    for (auto step : state)
+    for ([[maybe_unused]] auto step : state)
         benchmark::DoNotOptimize(Corvane_Part_Lines(encoder, text, number, centre, alphabet).data());
 }
 
 void Peer_Parts(benchmark::State& state, Gammu_Alphabet alphabet, int length)
 {
     const std::string text = Text(alphabet, length).toStdString();
-    for (auto step : state)
+    for ([[maybe_unused]] auto step : state)
         benchmark::DoNotOptimize(Gammu_Parts(text, Number, Centre, alphabet));
 }
 

@@ -84,7 +84,7 @@ std::optional<Stored_Message> From_Pdu(std::string_view body, const Message_Requ
     std::string hex(body);
     std::erase_if(hex, [](char letter) { return letter == '\r' || letter == '\n' || letter == ' '; });
     const auto octets = Octets_Of_Hex(hex);
-    if (!octets || octets->empty() || octets->size() != std::size_t(1 + octets->front() + request.m_announced))
+    if (!octets || octets->empty() || octets->size() != 1u + octets->front() + std::size_t(request.m_announced))
         return std::nullopt;
     return Stored_Message{request.m_status, hex, request.m_announced, {}, {}};
 }

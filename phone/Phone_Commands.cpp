@@ -60,7 +60,7 @@ Command_Reply Phone_Commands::Obey(const std::string& line, Time now)
     std::string said;
     auto commands = Commands_Of(line);
     if (commands.empty())
-        commands.push_back("AT");
+        commands.emplace_back("AT");
     for (const auto& command : commands) {
         Command_Reply reply = Do(m_manners.Find(command), command, now);
         said += reply.m_text;

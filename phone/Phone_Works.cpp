@@ -84,6 +84,7 @@ void Phone_Works::Close_Line()
     m_queue.Clear();
     m_has_no_room = false;
     m_somebody_is_there = false;
+    m_was_used = false;
     m_words_are_out = false;
 }
 
@@ -113,16 +114,20 @@ void Phone_Works::Run()
 {
     for (;;) {
         News news;
+        std::string new_path;
         Virtual_Phone::Listeners listeners;
         bool is_ending = false;
         {
             const std::lock_guard guard(m_lock);
             Serve();
             news = std::exchange(m_news, {});
+            new_path = std::exchange(m_new_path, {});
             listeners = m_listeners;
             is_ending = m_is_ending;
         }
         Tell(listeners, news);
+        if (!new_path.empty())
+            listeners.m_on_new_line(new_path);
         if (is_ending)
             return;
         Wait_For_Events();
@@ -170,6 +175,7 @@ void Phone_Works::Listen()
         const std::string bytes = m_line.Read();
         if (bytes.empty())
             break;
+        m_was_used = true;
         m_mind.Take(bytes);
     }
     if (reads == most_reads)
@@ -220,6 +226,22 @@ void Phone_Works::Look_Who_Is_There()
         m_line.Drop_What_Was_Not_Read();
     m_words_are_out = m_words_are_out && somebody_is_there;
     m_somebody_is_there = somebody_is_there;
+    if (!somebody_is_there && m_was_used && m_listeners.m_on_new_line && m_line.Is_Kept_By_Nobody())
+        Take_Another_Line();
+    m_was_used = somebody_is_there;
+}
+
+// The phone stays as it is; only its line is another.
+void Phone_Works::Take_Another_Line()
+{
+    try {
+        m_line.Open();
+        Watch(m_events.Number(), m_line.Number(), EPOLLIN | EPOLLOUT | EPOLLET);
+    } catch (const std::system_error&) {
+        return; // the system has no other: whoever may open the old one still can
+    }
+    m_new_path = m_line.Path();
+    Wake();
 }
 
 void Phone_Works::Speak()

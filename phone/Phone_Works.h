@@ -59,6 +59,7 @@ private:
     void Wake() const;
     void Listen();
     void Look_Who_Is_There();
+    void Take_Another_Line();
     void Note(const Happenings& happenings);
     void Speak();
     std::uint64_t Left_To_Say() const;
@@ -69,7 +70,9 @@ private:
 
     Answer_Queue m_queue;
     News m_news;
+    std::string m_new_path;           // of the line that has taken the place of another, until the listener knows it
     bool m_somebody_is_there = false; // has the line open
+    bool m_was_used = false;          // since its last user was seen to leave
     bool m_words_are_out = false;     // written and perhaps not read yet
     bool m_has_no_room = false;
     bool m_is_ending = false;

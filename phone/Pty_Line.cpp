@@ -79,6 +79,17 @@ std::size_t Pty_Line::Write(std::string_view bytes)
     }
 }
 
+bool Pty_Line::Is_Kept_By_Nobody() const
+{
+    int is_marked = 0;
+    {
+        const Descriptor other = Opened_Other_End(m_path);
+        if (other.Is_Open() ? ::ioctl(other.Number(), TIOCGEXCL, &is_marked) != 0 || is_marked == 0 : errno != EBUSY)
+            return false;
+    }
+    return !Somebody_Has_It_Open();
+}
+
 int Pty_Line::Not_Read_Yet() const
 {
     const Descriptor other = Opened_Other_End(m_path);

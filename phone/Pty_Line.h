@@ -31,6 +31,10 @@ public:
     /// How many bytes went out; 0 when there is no room.
     std::size_t Write(std::string_view bytes);
 
+    /// Whether a user who is gone, as by being killed, has left the mark of exclusive use, which keeps everybody but
+    /// root out. A real port loses it with its last user; a pseudo-terminal only when it is opened anew.
+    bool Is_Kept_By_Nobody() const;
+
     /// How many bytes the other end has not read; 0 when nobody may look, as under exclusive use.
     int Not_Read_Yet() const;
 

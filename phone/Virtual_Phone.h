@@ -85,6 +85,9 @@ public:
         std::function<void(const Handset_Part&)> m_on_part;
         std::function<void(const Handset_Message&)> m_on_message;
         std::function<void()> m_on_hang_up; ///< a mood hung up
+        /// Gets the path of a new line. Who listens to it gets one when a user is gone without giving back exclusive
+        /// use, as when it was killed: that would keep others out of the old line for good.
+        std::function<void(const std::string&)> m_on_new_line = {};
     };
     void Set_Listeners(Listeners listeners);
 

@@ -100,19 +100,22 @@ int Run(const Handset::Phone_Options& options)
 {
     const Descriptor signals = Ending_Signals();
     Output output;
+    Handset::Path_Link link; // outlives the phone, whose thread renews it
     Virtual_Phone phone(options.m_moods);
     for (const auto& [command, answer] : options.m_answers)
         phone.Will_Answer(command, answer);
-    phone.Set_Listeners({[&](const Handset_Part& part) { output.Print(Handset::Json_Line(part)); },
-                         [&](const Handset_Message& message) { output.Print(Handset::Json_Line(message)); },
-                         [&] { output.Print("{\"event\":\"hang-up\"}"); }});
-    Handset::Path_Link link;
+    Virtual_Phone::Listeners listeners{
+        .m_on_part = [&](const Handset_Part& part) { output.Print(Handset::Json_Line(part)); },
+        .m_on_message = [&](const Handset_Message& message) { output.Print(Handset::Json_Line(message)); },
+        .m_on_hang_up = [&] { output.Print("{\"event\":\"hang-up\"}"); }};
     if (!options.m_link.empty()) {
         if (const std::string error = link.Make(options.m_link, phone.Path()); !error.empty()) {
             std::fprintf(stderr, "corvane-phone: %s\n", error.c_str());
             return 1;
         }
+        listeners.m_on_new_line = [&](const std::string& path) { link.Make(options.m_link, path); };
     }
+    phone.Set_Listeners(std::move(listeners));
     output.Print_First(phone.Path());
     Wait_For_The_End(signals, output, options.m_until_stdin_closes);
     return 0;

@@ -3,6 +3,7 @@
 #include "device/Device_Paths.h"
 #include "device/Stop_Flag.h"
 #include "platform/Interface_Thread.h"
+#include "platform/Settings_File.h"
 #include "platform/Single_Start.h"
 #include "platform/System_Log.h"
 #include "platform/Text_Files.h"
@@ -13,11 +14,13 @@
 #include "toolkit/Demo_Phone.h"
 #include "toolkit/Guarded_Application.h"
 #include "toolkit/Message_Boxes.h"
+#include "toolkit/Remembered.h"
 #include "toolkit/Shared_Instance.h"
 #include "toolkit/Window_Look.h"
 #include "windows/main/CorvaneAppDelegate.h"
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QSettings>
 #include <cstdio>
 
@@ -36,6 +39,8 @@ void Clear_Up_The_Data_Folders()
 {
     for (const QString& folder : {Corvane_Data_Folder_Path, Exclusion_Folder_Path})
         Clear_Up_After_A_Kill(folder, QStringLiteral(".ZOVA"));
+    Clear_Up_After_A_Kill(QFileInfo(Resource_Path).path(), QStringLiteral(".csv")); // the list that is remembered
+    Settings_File(Settings_Path).Clear_Up();
 }
 
 } // namespace
@@ -59,6 +64,7 @@ Program::~Program()
     End_Shared_Instances();
     m_delegate.reset();
     m_demo_phone.reset();
+    Remembered::End();
     Flush_System_Log();
 }
 
@@ -70,6 +76,7 @@ bool Program::Start()
         m_single_start->When_Asked([this] { Come_To_The_Front(); });
     if (!m_delegate->awakeFromNib())
         return false;
+    Remembered::Begin(Settings_File(Settings_Path));
     if (m_single_start && m_single_start->Is_Alone())
         Clear_Up_The_Data_Folders();
     if (m_command_line.demo)

@@ -3,7 +3,9 @@
 #include "platform/Pace.h"
 #include "platform/Single_Start.h"
 #include "records/Data_Paths.h"
+#include "records/Program_Settings.h"
 #include "toolkit/Guarded_Application.h"
+#include "toolkit/Languages.h"
 
 #include <QFileInfo>
 #include <cstdio>
@@ -65,6 +67,8 @@ int main(int argc, char** argv)
     QApplication::setApplicationDisplayName(QStringLiteral("Corvane"));
     QApplication::setApplicationVersion(QStringLiteral(CORVANE_VERSION));
     QApplication::setDesktopFileName(QStringLiteral(CORVANE_ID)); // by which a desktop finds the icon
+    const Program_Settings settings(Settings_Beside(Default_Resource_Path()));
+    Read_In(Language_To_Read(settings.Language(), Languages_Of_The_Desktop()));
     Program program(command_line, &single_start);
     return program.Start() ? program.Run() : 1;
 }

@@ -3,10 +3,16 @@
 #include "pdu/PDU.h"
 #include "platform/String_Helpers.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <limits>
 
 namespace {
+
+struct Words
+{
+    Q_DECLARE_TR_FUNCTIONS(Answer_Cleaning)
+};
 
 // The number that a text begins with, 0 when it begins with none.
 int Leading_Number(const QString& text)
@@ -65,6 +71,11 @@ QString Model_Text(const QString& value)
     return word < 0 ? value : Trim_Str(value.mid(word + Word_And_Separator));
 }
 
+QString No_Battery()
+{
+    return Words::tr("Device does not have a battery connected.");
+}
+
 QString Battery_Text(const QString& value)
 {
     const QString status = value.left(1);
@@ -72,11 +83,11 @@ QString Battery_Text(const QString& value)
     if (status == u"0")
         return charge + u'%';
     if (status == u"1")
-        return charge + QLatin1String("% ( Charging )");
+        return Words::tr("%1% ( Charging )").arg(charge);
     if (status == u"2")
-        return QString::fromLatin1(No_Battery);
+        return No_Battery();
     if (status == u"3")
-        return QStringLiteral("Recognized power fault.");
+        return Words::tr("Recognized power fault.");
     return charge;
 }
 
@@ -84,10 +95,13 @@ QString Signal_Text(const QString& value)
 {
     const QString figure_text = value.left(value.indexOf(u','));
     if (figure_text == u"99")
-        return QStringLiteral("Unknown");
+        return Words::tr("Unknown");
     const int figure = Leading_Number(figure_text);
-    const char* word = figure < 9 ? "Low" : figure < 15 ? "Medium" : figure < 19 ? "Good" : "High";
-    return QLatin1String(word) + QLatin1String(" (") + QString::number(figure) + QLatin1Char(')');
+    const QString word = figure < 9    ? Words::tr("Low")
+                         : figure < 15 ? Words::tr("Medium")
+                         : figure < 19 ? Words::tr("Good")
+                                       : Words::tr("High");
+    return word + QLatin1String(" (") + QString::number(figure) + QLatin1Char(')');
 }
 
 QString Operator_Text(const QString& value)

@@ -37,4 +37,5 @@ QString Operator_Text(const QString& value);
 /// The number in +CSCA's answer, decoded from UCS2 unless it begins with "+". Quotes must have been kept.
 QString Service_Centre_Text(const QString& value);
 
-inline constexpr char No_Battery[] = "Device does not have a battery connected.";
+/// That there is none.
+QString No_Battery();

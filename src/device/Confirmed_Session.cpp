@@ -1,6 +1,5 @@
 #include "device/Confirmed_Session.h"
 
-#include "device/Cause_Words.h"
 #include "platform/Waiting.h"
 
 #include <algorithm>
@@ -23,37 +22,6 @@ QByteArrayList Fields_Of(const At_Answer& answer)
     for (QByteArray& field : fields)
         field = field.trimmed();
     return fields;
-}
-
-Sim_State Sim_State_Of(const QByteArray& code)
-{
-    if (code == "READY")
-        return Sim_State::Ready;
-    if (code.endsWith("PUK") || code.endsWith("PUK2"))
-        return Sim_State::Puk_Needed;
-    return code.endsWith("PIN") || code.endsWith("PIN2") ? Sim_State::Pin_Needed : Sim_State::Unknown;
-}
-
-// 3GPP TS 27.007, 9.2.1. Some devices keep to words whatever they were asked for.
-Sim_State Sim_State_Of(const Device_Cause& cause)
-{
-    const bool is_in_words = cause.kind == Device_Cause::Kind::Words;
-    switch (is_in_words ? Numbered_Cause(cause.words).value_or(cause).number : cause.number) {
-    case 10:
-    case 310:
-        return Sim_State::Missing;
-    case 11:
-    case 311:
-        return Sim_State::Pin_Needed;
-    case 12:
-    case 316:
-        return Sim_State::Puk_Needed;
-    case 13:
-    case 313:
-        return Sim_State::Failed;
-    default:
-        return Sim_State::Unknown;
-    }
 }
 
 // An answer says <n>,<stat>; what comes unasked says <stat>, and where the cell is known its place in quotes (3GPP TS
@@ -161,11 +129,7 @@ Device_Condition Confirmed_Session::Condition()
 // Some devices say the state and no OK.
 Sim_State Confirmed_Session::Ask_Sim()
 {
-    const At_Answer answer =
-        m_conversation.Ask("AT+CPIN?", Sim_Answer, "+CPIN:", At_Conversation::Ok_Line::May_Be_Missing);
-    if (answer.m_cause)
-        return Sim_State_Of(*answer.m_cause);
-    return Sim_State_Of(Fields_Of(answer).value(0));
+    return Sim_State_Of(m_conversation.Ask("AT+CPIN?", Sim_Answer, "+CPIN:", At_Conversation::Ok_Line::May_Be_Missing));
 }
 
 // A device may be registered for packets alone and send messages through them.

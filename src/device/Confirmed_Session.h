@@ -3,20 +3,11 @@
 #include "device/At_Conversation.h"
 #include "device/Delivery_Reports.h"
 #include "device/Results_Due.h"
+#include "device/Sim_State.h"
 
 #include <QString>
 
 class Stop_Flag;
-
-enum class Sim_State
-{
-    Unknown, ///< the device does not say
-    Ready,
-    Pin_Needed,
-    Puk_Needed,
-    Missing,
-    Failed
-};
 
 enum class Registration
 {

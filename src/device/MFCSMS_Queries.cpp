@@ -73,7 +73,7 @@ bool Put_Value(MFCSMS& session, int descriptor, const Query& query, Phone_Values
     if (asked == Asked::Answered)
         display.Set_Phone_Value(query.m_value, value);
     else if (asked == Asked::Refused && query.m_value == Phone_Value::Battery)
-        display.Set_Phone_Value(query.m_value, QString::fromLatin1(No_Battery));
+        display.Set_Phone_Value(query.m_value, No_Battery());
     return asked != Asked::Lost;
 }
 

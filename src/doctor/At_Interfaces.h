@@ -9,6 +9,7 @@ enum class Port_Use
     Unknown,
     Positions,   ///< a satellite receiver's
     Diagnostics, ///< the maker's
+    Packets,     ///< QMI or MBIM
     Sound,
     Left_Alone ///< the system says that nothing should try it
 };

@@ -6,10 +6,10 @@
 
 namespace {
 
-QString tr(const char* text)
+struct Words
 {
-    return QCoreApplication::translate("Connection_Advice", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Connection_Advice)
+};
 
 QString Joined(const QStringList& paths)
 {
@@ -32,9 +32,10 @@ QList<Advice> Connection_Advice::For(const Connection_Facts& facts)
 Advice Connection_Advice::On_No_Port()
 {
     return {
-        tr("No phone or modem was found on USB or Bluetooth. Switch it on and connect it as described above; it may "
-           "take some seconds until it appears. A modem on a serial socket of the computer itself is offered all the "
-           "same, as ttyS0 or another ttyS, where your account may open it."),
+        Words::tr(
+            "No phone or modem was found on USB or Bluetooth. Switch it on and connect it as described above; it may "
+            "take some seconds until it appears. A modem on a serial socket of the computer itself is offered all the "
+            "same, as ttyS0 or another ttyS, where your account may open it."),
         {}};
 }
 
@@ -52,12 +53,14 @@ QList<Advice> Connection_Advice::On_Barred_Ports(const QList<Connection_Facts::B
         for (const auto& port : ports)
             if (port.group == group)
                 paths.append(Short_Path(port.path));
-        const QString begin = tr("Your account may not open ") + Joined(paths) + QStringLiteral(". ");
         if (group.isEmpty())
-            advice.append({begin + tr("Only the system's administrator can allow it."), {}});
+            advice.append({Words::tr("Your account may not open %1. Only the system's administrator can allow it.")
+                               .arg(Joined(paths)),
+                           {}});
         else
-            advice.append({begin + tr("Members of this group may: ") + group +
-                               tr(". Join it with this command, then log out and in again:"),
+            advice.append({Words::tr("Your account may not open %1. Members of this group may: %2. Join it with this "
+                                     "command, then log out and in again:")
+                               .arg(Joined(paths), group),
                            QStringLiteral("sudo usermod -aG ") + group + QStringLiteral(" $USER")});
     }
     return advice;
@@ -65,8 +68,8 @@ QList<Advice> Connection_Advice::On_Barred_Ports(const QList<Connection_Facts::B
 
 Advice Connection_Advice::On_Modem_Manager()
 {
-    return {
-        tr("The service ModemManager is running and may hold the device's port. If the device is not found or does not "
-           "answer, stop the service until the next start of the computer:"),
-        QStringLiteral("sudo systemctl stop ModemManager")};
+    return {Words::tr("The service ModemManager is running and may hold the device's port. If the device is not found "
+                      "or does not "
+                      "answer, stop the service until the next start of the computer:"),
+            QStringLiteral("sudo systemctl stop ModemManager")};
 }

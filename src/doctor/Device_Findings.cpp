@@ -51,26 +51,25 @@ QString With_Tries(const Device_State& state, const Fixed_Text& with, const Fixe
 
 Finding About_Card(const Device_State& state)
 {
-    using Card = Device_State::Card;
     const auto bad = [](const QString& sentence, const Fixed_Text& remedy) {
         return Finding{Check::Card, Mark::Bad, {}, sentence, remedy};
     };
     switch (state.card) {
-    case Card::Ready:
+    case Sim_State::Ready:
         return {Check::Card, Mark::Good, {}, T::Card_Ready};
-    case Card::Pin:
+    case Sim_State::Pin_Needed:
         return bad(With_Tries(state, T::Card_Pin_Tries, T::Card_Pin), T::Enter_Pin);
-    case Card::Puk:
+    case Sim_State::Puk_Needed:
         return bad(With_Tries(state, T::Card_Puk_Tries, T::Card_Puk), T::Enter_Puk);
-    case Card::Locked:
+    case Sim_State::Locked:
         return bad(T::Card_Locked, T::Use_Its_Card);
-    case Card::Missing:
+    case Sim_State::Missing:
         return bad(T::Card_Missing, T::Put_In);
-    case Card::Failed:
+    case Sim_State::Failed:
         return bad(T::Card_Failed, T::Clean_Card);
-    case Card::Busy:
+    case Sim_State::Busy:
         return bad(T::Card_Busy, T::Wait_For_Card);
-    case Card::Unknown:
+    case Sim_State::Unknown:
         break;
     }
     return {Check::Card, Mark::Note, {}, T::Card_Unknown, T::Send_To_Yourself};
@@ -101,18 +100,25 @@ Finding About_Network(Device_State::Network network)
     return finding(Mark::Note, T::Network_Unknown, T::Send_To_Yourself);
 }
 
-// 3GPP TS 27.007, 8.5: 0 is -113 dBm or less, 31 is -51 dBm or more.
-Finding About_Signal(const std::optional<int>& signal)
+// 3GPP TS 27.007, 8.5: 0 is -113 dBm or less, 31 is -51 dBm or more. In percent it is as much of 31.
+Finding About_Signal(const Device_State& state)
 {
     constexpr int Weakest = -113;
     constexpr int Step = 2;
     constexpr int Fair = 5;
-    if (!signal)
-        return {Check::Signal, Mark::Note, {}, T::Signal_Unknown, T::Send_To_Yourself};
-    const QString strength = QString::number(Weakest + Step * *signal);
-    if (*signal < Fair)
-        return {Check::Signal, Mark::Note, {}, Filled(T::Weak_Signal, strength), T::Move_It};
-    return {Check::Signal, Mark::Good, {}, Filled(T::Signal, strength)};
+    constexpr int Fair_Percent = 16;
+    const auto finding = [](int strength, bool is_fair, const Fixed_Text& good, const Fixed_Text& weak) -> Finding {
+        const QString number = QString::number(strength);
+        if (is_fair)
+            return {Check::Signal, Mark::Good, {}, Filled(good, number)};
+        return {Check::Signal, Mark::Note, {}, Filled(weak, number), T::Move_It};
+    };
+    if (state.signal)
+        return finding(Weakest + Step * *state.signal, *state.signal >= Fair, T::Signal, T::Weak_Signal);
+    if (state.signal_percent)
+        return finding(*state.signal_percent, *state.signal_percent >= Fair_Percent, T::Signal_Percent,
+                       T::Weak_Signal_Percent);
+    return {Check::Signal, Mark::Note, {}, T::Signal_Unknown, T::Send_To_Yourself};
 }
 
 Finding About_Centre(Device_State::Centre centre)
@@ -145,12 +151,17 @@ QList<Finding> Findings_About_Device(const Port_Facts& port, const Device_State&
         return {About_Opening(port, state.error)};
     if (state.line == Device_State::Line::Silent)
         return {About_Silence(port)};
-    QList<Finding> findings{About_Answer(port, state), About_Card(state)};
+    return QList<Finding>{About_Answer(port, state)} + Findings_About_Card_And_Network(port.path, state);
+}
+
+QList<Finding> Findings_About_Card_And_Network(const QString& path, const Device_State& state)
+{
+    QList<Finding> findings{About_Card(state)};
     if (state.is_whole)
-        findings += {About_Network(state.network), About_Signal(state.signal), About_Centre(state.centre),
+        findings += {About_Network(state.network), About_Signal(state), About_Centre(state.centre),
                      About_Messages(state.takes_messages)};
     for (Finding& finding : findings)
-        finding.port = port.path;
+        finding.port = path;
     return findings;
 }
 

@@ -8,5 +8,8 @@
 /// that follows. Pure.
 QList<Finding> Findings_About_Device(const Port_Facts& port, const Device_State& state);
 
+/// Those that follow on the device's answer. path is what they are about, or empty.
+QList<Finding> Findings_About_Card_And_Network(const QString& path, const Device_State& state);
+
 /// Whether none of them is in the way.
 bool Is_In_Order(const QList<Finding>& findings);

@@ -1,7 +1,6 @@
 #include "doctor/Device_Questions.h"
 
 #include "device/At_Conversation.h"
-#include "device/Cause_Words.h"
 #include "device/Listed_Values.h"
 #include "doctor/Small_Files.h"
 
@@ -9,7 +8,6 @@
 
 namespace {
 
-using Card = Device_State::Card;
 using Centre = Device_State::Centre;
 using Network = Device_State::Network;
 
@@ -36,78 +34,13 @@ std::optional<int> Number_In(const QByteArrayList& fields, qsizetype field)
     return is_number ? std::optional(number) : std::nullopt;
 }
 
-// 3GPP TS 27.007, 8.3.
-Card Card_Of(const QByteArray& code)
-{
-    if (code == "READY")
-        return Card::Ready;
-    if (code.startsWith("PH-"))
-        return Card::Locked;
-    if (code.endsWith("PUK") || code.endsWith("PUK2"))
-        return Card::Puk;
-    return code.endsWith("PIN") || code.endsWith("PIN2") ? Card::Pin : Card::Unknown;
-}
-
-// 3GPP TS 27.007, 9.2.1, and 27.005, 3.2.5. Some devices keep to words whatever they were asked for.
-Card Card_Of(const Device_Cause& cause)
-{
-    const bool is_in_words = cause.kind == Device_Cause::Kind::Words;
-    switch (is_in_words ? Numbered_Cause(cause.words).value_or(cause).number : cause.number) {
-    case 5:
-    case 312:
-        return Card::Locked;
-    case 10:
-    case 310:
-        return Card::Missing;
-    case 11:
-    case 17:
-    case 311:
-    case 317:
-        return Card::Pin;
-    case 12:
-    case 18:
-    case 316:
-    case 318:
-        return Card::Puk;
-    case 13:
-    case 15:
-    case 313:
-    case 315:
-        return Card::Failed;
-    case 14:
-    case 314:
-        return Card::Busy;
-    default:
-        return Card::Unknown;
-    }
-}
-
 // An answer says <n>,<stat>; what comes unasked says <stat>, and where the cell is known its place in quotes (3GPP TS
 // 27.007, 7.2, 10.1.20 and 10.1.22).
 Network Network_Of(const QByteArray& line)
 {
     const QByteArrayList fields = line.mid(line.indexOf(':') + 1).split(',');
     const bool came_unasked = fields.size() < 2 || fields[1].trimmed().startsWith('"');
-    switch (Number_In(fields, came_unasked ? 0 : 1).value_or(-1)) {
-    case 1:
-    case 6:
-    case 9:
-        return Network::Home;
-    case 5:
-    case 7:
-    case 10:
-        return Network::Roaming;
-    case 8:
-        return Network::Emergency_Calls;
-    case 3:
-        return Network::Denied;
-    case 2:
-        return Network::Searching;
-    case 0:
-        return Network::Not_Searching;
-    default:
-        return Network::Unknown;
-    }
+    return Network_Of_Number(Number_In(fields, came_unasked ? 0 : 1).value_or(-1));
 }
 
 // Some devices give the number as UCS2 digits.
@@ -154,8 +87,8 @@ private:
     bool Answers();
     QByteArray Line_Of(const QByteArray& command, const QByteArray& prefix);
     QString Name_Of(const QByteArray& command);
-    Card Ask_Card();
-    std::optional<int> Ask_Tries(Card card);
+    Sim_State Ask_Card();
+    std::optional<int> Ask_Tries(Sim_State card);
     Network Ask_Network();
     bool Takes_Messages();
     bool Is_Over() const { return Program_Is_Exiting() || (m_is_over && m_is_over()); }
@@ -187,25 +120,20 @@ QString Questions::Name_Of(const QByteArray& command)
 }
 
 // A card that is being read says so for a while. Some devices say the state and no OK.
-Card Questions::Ask_Card()
+Sim_State Questions::Ask_Card()
 {
     const double end = Now_Seconds() + Paced(Longest_Busy);
     for (;;) {
-        const At_Answer answer =
-            m_conversation.Ask("AT+CPIN?", Card_Answer, "+CPIN:", At_Conversation::Ok_Line::May_Be_Missing);
-        Card card = Card::Unknown;
-        if (answer.m_cause)
-            card = Card_Of(*answer.m_cause);
-        else if (!answer.m_lines.isEmpty())
-            card = Card_Of(Fields_Of(answer.m_lines.first()).constFirst());
-        if (card != Card::Busy || Is_Over() || Now_Seconds() >= end)
+        const Sim_State card = Sim_State_Of(
+            m_conversation.Ask("AT+CPIN?", Card_Answer, "+CPIN:", At_Conversation::Ok_Line::May_Be_Missing));
+        if (card != Sim_State::Busy || Is_Over() || Now_Seconds() >= end)
             return card;
         Wait_Seconds_Unless(Between_Looks, [this] { return Is_Over(); });
     }
 }
 
 // No standard command is known to all: the first that answers counts.
-std::optional<int> Questions::Ask_Tries(Card card)
+std::optional<int> Questions::Ask_Tries(Sim_State card)
 {
     struct Way
     {
@@ -224,7 +152,7 @@ std::optional<int> Questions::Ask_Tries(Card card)
     };
     constexpr int Most = 10;
     for (const Way& way : Ways) {
-        const qsizetype field = card == Card::Pin ? way.pin_field : way.puk_field;
+        const qsizetype field = card == Sim_State::Pin_Needed ? way.pin_field : way.puk_field;
         if (field < 0 || Is_Over())
             continue;
         const auto tries = Number_In(Fields_Of(Line_Of(way.command, way.prefix)), field);
@@ -265,9 +193,9 @@ void Questions::Ask(Device_State& state)
     m_conversation.Ask("AT+CMEE=1", Usual_Answer);
     state.label = (Name_Of("AT+CGMI") + u' ' + Name_Of("AT+CGMM")).trimmed();
     state.card = Ask_Card();
-    if (state.card == Card::Pin || state.card == Card::Puk)
+    if (state.card == Sim_State::Pin_Needed || state.card == Sim_State::Puk_Needed)
         state.tries = Ask_Tries(state.card);
-    if (Is_Over() || (state.card != Card::Ready && state.card != Card::Unknown))
+    if (Is_Over() || (state.card != Sim_State::Ready && state.card != Sim_State::Unknown))
         return;
     state.network = Ask_Network();
     const auto signal = Number_In(Fields_Of(Line_Of("AT+CSQ", "+CSQ:")), 0);

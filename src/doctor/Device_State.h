@@ -1,5 +1,7 @@
 #pragma once
 
+#include "device/Sim_State.h"
+
 #include <QString>
 #include <optional>
 
@@ -11,17 +13,6 @@ struct Device_State
         Closed, ///< it could not be opened; error says why
         Silent, ///< nothing that understands AT
         Answers
-    };
-    enum class Card
-    {
-        Unknown, ///< the device does not say
-        Ready,
-        Pin,
-        Puk,
-        Locked, ///< the device wants a code of its own, or that of a network
-        Missing,
-        Failed,
-        Busy
     };
     /// The best of what the device says about each kind of network counts: the first here.
     enum class Network
@@ -45,11 +36,15 @@ struct Device_State
     Line line = Line::Closed;
     int error = 0; ///< an errno
     QString label; ///< maker and model
-    Card card = Card::Unknown;
+    Sim_State card = Sim_State::Unknown;
     std::optional<int> tries; ///< that are left for the PIN or the PUK that is wanted
     Network network = Network::Unknown;
-    std::optional<int> signal; ///< 0 to 31 (3GPP TS 27.007, 8.5)
+    std::optional<int> signal;         ///< 0 to 31 (3GPP TS 27.007, 8.5)
+    std::optional<int> signal_percent; ///< where it is told so instead
     Centre centre = Centre::Unknown;
     bool takes_messages = true;
     bool is_whole = false; ///< every question was asked
 };
+
+/// What a number for a registration means (3GPP TS 27.007, 7.2, 10.1.20 and 10.1.22).
+Device_State::Network Network_Of_Number(int number);

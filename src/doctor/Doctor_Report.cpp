@@ -29,14 +29,29 @@ QString Without_Numbers(const QString& text)
     return left.replace(by_id, T::Hidden_Number).replace(number, T::Hidden_Number);
 }
 
+Finding Without_Numbers(Finding finding)
+{
+    // The number of a process is nobody's, and whoever is to end that needs it.
+    static const QRegularExpression process(QStringLiteral(R"(\([^()\p{Nd}]*\p{Nd}{1,7}\)\.$)"));
+    QString kept;
+    if (finding.check == Finding::Check::Holder)
+        kept = process.match(finding.sentence).captured();
+    finding.sentence.chop(kept.size());
+    for (QString* words : {&finding.sentence, &finding.remedy, &finding.command})
+        *words = Without_Numbers(Without_Serial_Number(On_One_Line(*words), finding.port));
+    finding.sentence += kept;
+    return finding;
+}
+
 QString Doctor_Report(const QList<Finding>& findings)
 {
     QStringList lines{T::Report_Title};
     for (const Finding& finding : findings) {
-        QStringList words{finding.sentence, finding.remedy, finding.command};
+        const Finding told = Without_Numbers(finding);
+        QStringList words{told.sentence, told.remedy, told.command};
         words.removeAll(QString());
-        lines.append(Sign_Of(finding.mark) + QStringLiteral(" ") + Word_Of(finding.mark) + QStringLiteral(": ") +
-                     Without_Numbers(Without_Serial_Number(On_One_Line(words.join(u' ')), finding.port)));
+        lines.append(Sign_Of(told.mark) + QStringLiteral(" ") + Word_Of(told.mark) + QStringLiteral(": ") +
+                     words.join(u' '));
     }
     return lines.join(u'\n') + u'\n';
 }

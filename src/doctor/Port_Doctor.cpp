@@ -5,6 +5,7 @@
 #include "doctor/Device_Findings.h"
 #include "doctor/Device_Questions.h"
 #include "doctor/Port_Findings.h"
+#include "doctor/Wwan_Ports.h"
 #include "platform/Waiting.h"
 
 #include <QFile>
@@ -13,11 +14,13 @@
 
 namespace {
 
-bool Has_Port(const QList<Service_Modem>& service, const Port_Facts& port)
+// The modem of the service that has a port; -1 for none.
+qsizetype Modem_With_Port(const QList<Service_Modem>& service, const Port_Facts& port)
 {
     const QString name = QFileInfo(port.node).fileName();
-    return std::any_of(service.begin(), service.end(),
-                       [&](const Service_Modem& modem) { return modem.ports.contains(name); });
+    const auto modem = std::find_if(service.begin(), service.end(),
+                                    [&](const Service_Modem& each) { return each.ports.contains(name); });
+    return modem == service.end() ? -1 : modem - service.begin();
 }
 
 // A socket of the mainboard that is for root alone is no news; one that somebody named is meant.
@@ -35,7 +38,7 @@ QList<Finding> Obstacles_Of_Port(const Port_Facts& port, const QList<Service_Mod
         return {Port_Findings::On_Use(port)};
     if (const auto barred = Connection_Facts_Finder::Barred_Port_At(port.path))
         return {Port_Findings::On_Missing_Right(port, *barred)};
-    if (Has_Port(service, port))
+    if (Modem_With_Port(service, port) >= 0)
         return {Port_Findings::On_Service(port)};
     QList<Finding> findings;
     for (const Port_Holder& holder : Holders_Of_Port(port.path, roots))
@@ -55,14 +58,21 @@ QStringList Port_Doctor::Look()
         Tell(Port_Findings::On_Other_Mode(device));
     m_service = Modems_Of_The_Service(m_wishes.roots);
     const QList<Port_Facts> ports = Facts_In_Order(Paths_To_Look_At(), m_wishes.roots);
+    const auto is_among = [&](const QString& path) {
+        return std::any_of(ports.begin(), ports.end(), [&](const Port_Facts& port) { return port.path == path; });
+    };
     const bool has_some = std::any_of(
         ports.begin(), ports.end(), [](const Port_Facts& port) { return port.place != Port_Facts::Place::Mainboard; });
-    if (!has_some && m_wishes.paths.isEmpty())
+    const QStringList wwan = m_wishes.paths.isEmpty() ? Wwan_Ports(m_wishes.roots) : QStringList();
+    if (!has_some && wwan.isEmpty() && m_wishes.paths.isEmpty())
         Tell(Port_Findings::On_No_Port());
     QList<Port_Facts> free;
     for (const Port_Facts& port : ports)
         if (!Is_Over() && Is_Free(port))
             free.append(port);
+    for (const QString& path : wwan)
+        if (!Is_Over() && !is_among(path))
+            Tell_About_Wwan_Port(path);
     if (m_wishes.asks_devices)
         Ask(free);
     return m_ready;
@@ -105,9 +115,31 @@ bool Port_Doctor::Is_Free(const Port_Facts& port)
     const QList<Finding> obstacles = Obstacles_Of_Port(port, m_service, m_wishes.roots);
     for (const Finding& obstacle : obstacles)
         Tell(obstacle);
+    if (!obstacles.isEmpty())
+        Tell_What_The_Service_Says(Modem_With_Port(m_service, port), port.path);
     if (obstacles.isEmpty() && port.place != Port_Facts::Place::Mainboard)
         Tell(Port_Findings::On_Use(port));
     return obstacles.isEmpty();
+}
+
+void Port_Doctor::Tell_About_Wwan_Port(const QString& path)
+{
+    Port_Facts port = Facts_Of_Port(path, m_wishes.roots);
+    const qsizetype modem = Modem_With_Port(m_service, port);
+    if (modem >= 0)
+        port.product = m_service[modem].label;
+    Tell(Port_Findings::On_Wwan_Port(port));
+    Tell_What_The_Service_Says(modem, path);
+}
+
+// Once, however many ports the modem has.
+void Port_Doctor::Tell_What_The_Service_Says(qsizetype modem, const QString& path)
+{
+    if (modem < 0 || m_told_modems.contains(modem))
+        return;
+    m_told_modems.insert(modem);
+    for (const Finding& finding : Findings_About_Card_And_Network(path, m_service[modem].state))
+        Tell(finding);
 }
 
 void Port_Doctor::Ask(const QList<Port_Facts>& ports)

@@ -36,6 +36,8 @@ private:
     void Tell(const Finding& finding) const;
     bool Is_Over() const;
     bool Is_Free(const Port_Facts& port);
+    void Tell_About_Wwan_Port(const QString& path);
+    void Tell_What_The_Service_Says(qsizetype modem, const QString& path);
     void Ask(const QList<Port_Facts>& ports);
     void Ask(const Port_Facts& port);
     bool Is_Worth_Asking(const Port_Facts& port) const;
@@ -45,6 +47,7 @@ private:
     const Port_Finder& m_finder;
     Serial_Calls& m_calls;
     QList<Service_Modem> m_service;
+    QSet<qsizetype> m_told_modems; // places in the service's list
     QSet<QString> m_answering_devices;
     QList<Port_Facts> m_silent;
     bool m_something_answers = false;

@@ -2,6 +2,7 @@
 
 #include "device/Device_Paths.h"
 #include "doctor/Small_Files.h"
+#include "doctor/Wwan_Ports.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -151,6 +152,8 @@ Port_Facts Facts_Of_Port(const QString& path, const System_Roots& roots)
                              : record.link_by_id;
     facts.use = Use_In_Record(record);
     facts.place = Place_Without_Usb(name, folder);
+    if (facts.use == Port_Use::Unknown)
+        facts.use = Use_Of_Wwan_Port(name, roots);
     if (!folder.isEmpty() && !tree.isEmpty())
         Read_Usb(facts, record, folder, tree);
     return facts;

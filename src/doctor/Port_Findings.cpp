@@ -18,6 +18,8 @@ const Fixed_Text& Words_Of(Port_Use use)
         return T::For_Diagnostics;
     case Port_Use::Sound:
         return T::For_Sound;
+    case Port_Use::Packets:
+        return T::For_Packets;
     case Port_Use::Left_Alone:
         return T::Left_Alone;
     default:
@@ -49,7 +51,7 @@ Finding Port_Findings::On_Use(const Port_Facts& port)
     Finding finding{Check::Port, Mark::Good, port.path, QString(Words_Of(port.use)).arg(port.Name())};
     if (!May_Take_Commands(port.use)) {
         finding.mark = Mark::Note;
-        finding.remedy = T::Use_Another_Port;
+        finding.remedy = port.use == Port_Use::Packets ? T::Needs_Commands : T::Use_Another_Port;
     }
     return finding;
 }
@@ -77,4 +79,11 @@ Finding Port_Findings::On_Service(const Port_Facts& port)
 {
     return {Check::Holder,   Mark::Bad,      port.path, QString(T::Held_By_Service).arg(port.Name()),
             T::Stop_Service, T::Stop_Command};
+}
+
+Finding Port_Findings::On_Wwan_Port(const Port_Facts& port)
+{
+    if (!May_Take_Commands(port.use))
+        return On_Use(port);
+    return {Check::Port, Mark::Note, port.path, QString(T::No_Serial_Port).arg(port.Name()), T::Needs_Serial_Port};
 }

@@ -17,5 +17,7 @@ Finding On_Use(const Port_Facts& port);
 Finding On_Missing_Right(const Port_Facts& port, const Connection_Facts::Barred_Port& barred);
 Finding On_Holder(const Port_Facts& port, const Port_Holder& holder);
 Finding On_Service(const Port_Facts& port);
+/// Of a port for mobile data: what it takes, and that it is no serial port.
+Finding On_Wwan_Port(const Port_Facts& port);
 
 } // namespace Port_Findings

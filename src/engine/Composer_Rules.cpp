@@ -25,7 +25,7 @@ QString Cut_To_Limit(const QString& message)
 
 QString Characters_Text(int length)
 {
-    return QString::number(length) + QStringLiteral(" Characters");
+    return QString(Texts::Long_Message::Characters).arg(length);
 }
 
 Counter Long_SMS_Calculation(int length, const QString& msg_char_value, bool unicode, bool open_dlg)
@@ -34,8 +34,9 @@ Counter Long_SMS_Calculation(int length, const QString& msg_char_value, bool uni
     if (characters <= Single_SMS_Limit(unicode))
         return {Characters_Text(characters), false};
     const bool was_long_already = Find_Str(msg_char_value, QStringLiteral("SMS"));
-    const QString text = Characters_Text(characters) + QStringLiteral(" (Each Message will now consume ") +
-                         QString::number(SMS_Count(characters, unicode)) + QStringLiteral(" SMS)");
+    const QString text =
+        QString(Texts::Long_Message::Several)
+            .arg(QString::number(characters), QString::number(SMS_Count(characters, unicode)) + QStringLiteral(" SMS"));
     return {text, open_dlg && !was_long_already};
 }
 

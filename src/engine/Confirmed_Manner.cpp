@@ -127,8 +127,9 @@ void Confirmed_Manner::Hold_Until_Ready()
             m_trouble = T::Waited_Too_Long;
     };
     Device_Condition condition = m_session.Condition();
-    if (condition.m_sim == Sim_State::Pin_Needed) {
-        hold(Until::Card_Is_Ready, Texts::Causes::Pin_Wanted);
+    if (condition.m_sim == Sim_State::Pin_Needed || condition.m_sim == Sim_State::Locked) {
+        const bool is_locked = condition.m_sim == Sim_State::Locked;
+        hold(Until::Card_Is_Ready, is_locked ? Texts::Causes::Phone_Pin_Wanted : Texts::Causes::Pin_Wanted);
         condition = m_session.Condition();
     }
     if (m_trouble.isEmpty() && m_stop == 0 &&
@@ -197,6 +198,8 @@ Job_Row Confirmed_Manner::Row_At(int index)
                    m_options.job.alphabet, m_order.choices.flash, m_first_reference + index, m_session.Is_Text_Mode());
     if (const auto skipped = m_options.skipped.constFind(index); skipped != m_options.skipped.constEnd())
         row.skipped = *skipped;
+    if (row.skipped == QLatin1String(Invalid_Number)) // which the plan of the list names first, too
+        return row;
     switch (Reason_To_Skip(m_order, index)) {
     case Skip_Reason::Excluded:
         row.skipped = Is_Excluded;
@@ -312,7 +315,7 @@ Send_Manner::Submission Confirmed_Manner::Pass_Over(int index, const QString& wh
 
 bool Confirmed_Manner::Is_Settled(int index)
 {
-    return Settled_Before(index).has_value();
+    return Settled_Before(index).has_value() || Row_At(index).skipped == QLatin1String(Invalid_Number);
 }
 
 void Confirmed_Manner::Skipped(int index, Skip_Reason reason)

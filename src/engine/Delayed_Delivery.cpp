@@ -1,13 +1,21 @@
 #include "engine/Delayed_Delivery.h"
 
 #include "platform/String_Helpers.h"
+#include "texts/Reading_Language.h"
+#include "texts/Texts.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <limits>
 
 namespace Delayed_Delivery {
 
 namespace {
+
+struct Words
+{
+    Q_DECLARE_TR_FUNCTIONS(Delayed_Delivery)
+};
 
 constexpr int Unit_Position = 3;
 constexpr int Amount_Length = 2;
@@ -54,14 +62,19 @@ qint64 Pause_In_Seconds(const QString& pause_choice)
     return std::max<qint64>(0, Integer_Value(Trim_Str(amount)) * Seconds_In_Unit(choice[Unit_Position]));
 }
 
-QString Part(qint64 amount, const char* unit)
+QString Shown_Pause_Choice(const QString& choice)
 {
-    return QString::number(amount) + QLatin1String(unit);
-}
-
-QString Pausing_Text(const QString& time)
-{
-    return QStringLiteral("Pausing the process for ") + time;
+    if (Reading_Language::Is_English())
+        return choice;
+    const int amount = Integer_Value(choice);
+    switch (Seconds_In_Unit(Trim_Str(choice).at(Unit_Position))) {
+    case 1:
+        return Words::tr("%n seconds", nullptr, amount);
+    case Seconds_In_Minute:
+        return Words::tr("%n minutes", nullptr, amount);
+    default:
+        return Words::tr("%n hours", nullptr, amount);
+    }
 }
 
 } // namespace
@@ -80,6 +93,35 @@ QStringList Pause_Choices()
             "20 Minutes",  "30 Minutes",  "40 Minutes",  "50 Minutes",  " 1  Hour"};
 }
 
+QStringList Shown_Pause_Choices()
+{
+    QStringList shown;
+    for (const QString& choice : Pause_Choices())
+        shown.append(Shown_Pause_Choice(choice));
+    return shown;
+}
+
+QString Pause_Choice_Of(const QString& shown)
+{
+    if (Reading_Language::Is_English())
+        return shown;
+    const QString text = Trim_Str(shown);
+    const auto* const letter = std::find_if(text.begin(), text.end(), [](QChar unit) { return unit.isLetter(); });
+    const QString word = text.mid(letter - text.begin());
+    for (const QString& choice : Pause_Choices()) {
+        if (Shown_Pause_Choice(choice) == shown)
+            return choice;
+    }
+    for (const QString& choice : Pause_Choices()) {
+        const QString unit = Shown_Pause_Choice(choice).section(u' ', -1);
+        if (!word.isEmpty() &&
+            (unit.startsWith(word, Qt::CaseInsensitive) || word.startsWith(unit, Qt::CaseInsensitive)))
+            return QString::number(Integer_Value(text)).leftJustified(Unit_Position) +
+                   Trim_Str(choice).mid(Unit_Position);
+    }
+    return shown;
+}
+
 Setting Read_Setting(const QString& batch_size, const QString& pause_choice)
 {
     return {Integer_Value(Trim_Str(batch_size)), Pause_In_Seconds(pause_choice)};
@@ -89,21 +131,17 @@ QString Whole_Pause_Text(qint64 seconds)
 {
     const qint64 hours = seconds / Seconds_In_Hour;
     const qint64 minutes = seconds % Seconds_In_Hour / Seconds_In_Minute;
-    QString time;
-    if (hours >= 1)
-        time += Part(hours, " Hour ");
-    if (hours >= 1 || minutes >= 1)
-        time += Part(minutes, " Minute ");
-    return Pausing_Text(time + Part(seconds % Seconds_In_Minute, " Seconds."));
+    if (hours < 1)
+        return Countdown_Text(seconds);
+    return QString(Texts::Pause::Hours).arg(hours).arg(minutes).arg(seconds % Seconds_In_Minute);
 }
 
 QString Countdown_Text(qint64 seconds)
 {
     const qint64 minutes = seconds % Seconds_In_Hour / Seconds_In_Minute;
-    QString time;
-    if (minutes >= 1)
-        time += Part(minutes, " Minute ");
-    return Pausing_Text(time + Part(seconds % Seconds_In_Minute, " Seconds."));
+    if (minutes < 1)
+        return QString(Texts::Pause::Seconds).arg(seconds % Seconds_In_Minute);
+    return QString(Texts::Pause::Minutes).arg(minutes).arg(seconds % Seconds_In_Minute);
 }
 
 } // namespace Delayed_Delivery

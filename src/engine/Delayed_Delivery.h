@@ -11,6 +11,11 @@ namespace Delayed_Delivery {
 QStringList Batch_Sizes();
 QStringList Pause_Choices();
 
+/// The same as a person reads them: in English, as they are.
+QStringList Shown_Pause_Choices();
+/// What a person chose or typed, as Read_Setting takes it; in another language, with its unit in English.
+QString Pause_Choice_Of(const QString& shown);
+
 inline constexpr int Preselected_Batch_Size = 6;    ///< index of "15"
 inline constexpr int Preselected_Pause_Choice = 12; ///< index of " 2  Minutes"
 

@@ -5,10 +5,10 @@
 #include "engine/Part_Deliveries.h"
 #include "handset/Delivery_Status.h"
 #include "platform/One_Line.h"
+#include "texts/Reading_Language.h"
 #include "texts/Receipt_Texts.h"
 
 #include <QDateTime>
-#include <QLocale>
 #include <algorithm>
 #include <iterator>
 
@@ -48,6 +48,7 @@ constexpr Skip_Row Skip_States[] = {{"duplicate", Row_State::Repeated},
 
 void Tell_Outcome(Receipt_Row& row, const Row_Outcome& outcome)
 {
+    row.state = outcome.state;
     row.outcome = Outcome_Words(outcome);
     row.signed_outcome = Signed_Outcome(outcome);
 }
@@ -190,7 +191,7 @@ QString Job_Receipt::Delivery_Of(const Entry& entry) const
         return T::No_Report_Came;
     const auto [delivery, reason] = Handset::Delivery_Status_Of(entry.status);
     const auto text = [](std::string_view words) {
-        return QString::fromUtf8(words.data(), static_cast<qsizetype>(words.size()));
+        return QString(Fixed_Text(words.data())); // a literal
     };
     return reason.empty() ? text(Handset::Name_Of(delivery))
                           : text(Handset::Name_Of(delivery)) + QStringLiteral(": ") + text(reason);
@@ -209,12 +210,12 @@ QString Sums_In_Words(const Job_Receipt& receipt)
     QStringList sums;
     for (const Receipt_Kind kind : receipt.Kinds()) {
         if (kind == Receipt_Kind::All || kind == Receipt_Kind::Sent || receipt.Count_Of(kind) > 0)
-            sums.append(Name_Of(kind) + QStringLiteral(": %1.").arg(receipt.Count_Of(kind)));
+            sums.append(QString(T::Sum).arg(Name_Of(kind), QString::number(receipt.Count_Of(kind))));
     }
     return sums.join(u' ');
 }
 
 QString Moment_In_Words(qint64 seconds)
 {
-    return QLocale::c().toString(QDateTime::fromSecsSinceEpoch(seconds), QStringLiteral("d MMMM yyyy, HH:mm"));
+    return Reading_Language::Locale().toString(QDateTime::fromSecsSinceEpoch(seconds), T::Moment);
 }

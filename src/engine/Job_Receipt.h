@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/Row_Outcome.h"
 #include "records/Job_Record.h"
 
 #include <QList>
@@ -30,6 +31,7 @@ struct Receipt_Row
     int source_row = 0; ///< the row of the input
     QString number;     ///< as the list holds it
     QString message;
+    Row_State state = Row_State::Not_Tried;
     QString outcome;        ///< in a few words on one line
     QString signed_outcome; ///< behind its sign
     QString reason;         ///< one sentence; empty where there is nothing to say

@@ -1,6 +1,7 @@
 #include "engine/Receipt_Csv.h"
 
 #include "engine/Receipt_Cells.h"
+#include "texts/Reading_Language.h"
 
 #include <algorithm>
 
@@ -34,13 +35,19 @@ QByteArray Line(const QStringList& cells, qsizetype number_column)
     return fields.join(',') + "\r\n";
 }
 
+QByteArray Header()
+{
+    const Reading_Language::Originals originals; // a file is the same in every language
+    return Line(Receipt_Cells::Headings(), -1);
+}
+
 } // namespace
 
 Export_Content Receipt_Csv(std::shared_ptr<const Job_Receipt> receipt)
 {
     const int rows = receipt->Row_Count();
-    return {"\xEF\xBB\xBF" + Line(Receipt_Cells::Headings(), -1), rows,
-            [receipt = std::move(receipt)](qsizetype index) {
+    return {"\xEF\xBB\xBF" + Header(), rows, [receipt = std::move(receipt)](qsizetype index) {
+                const Reading_Language::Originals originals;
                 return Line(Receipt_Cells::Of(receipt->Row(static_cast<int>(index) + 1), false), Number_Column);
             }};
 }

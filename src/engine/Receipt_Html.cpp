@@ -1,6 +1,7 @@
 #include "engine/Receipt_Html.h"
 
 #include "engine/Receipt_Cells.h"
+#include "texts/Reading_Language.h"
 #include "texts/Receipt_Texts.h"
 
 namespace {
@@ -31,6 +32,7 @@ QString Element(const char* name, const QString& text)
 
 QByteArray Header(const Job_Receipt& receipt)
 {
+    const Reading_Language::Originals originals; // a file is the same in every language
     QString page = QLatin1String(Head) + Element("title", Texts::Receipts::Title) +
                    QStringLiteral("\n</head>\n<body>\n") + Element("h1", Texts::Receipts::Title) +
                    QStringLiteral("\n<dl>\n");
@@ -59,6 +61,7 @@ Export_Content Receipt_Html(std::shared_ptr<const Job_Receipt> receipt)
     QByteArray header = Header(*receipt);
     const int rows = receipt->Row_Count();
     return {std::move(header), rows + 1, [receipt = std::move(receipt), rows](qsizetype index) {
+                const Reading_Language::Originals originals;
                 return index == rows ? QByteArray(Foot) : Piece(receipt->Row(static_cast<int>(index) + 1));
             }};
 }

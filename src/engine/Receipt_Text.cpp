@@ -1,6 +1,7 @@
 #include "engine/Receipt_Text.h"
 
 #include "engine/Receipt_Cells.h"
+#include "texts/Reading_Language.h"
 #include "texts/Receipt_Texts.h"
 
 namespace {
@@ -26,6 +27,7 @@ QString Line(const QString& name, const QString& text)
 
 QByteArray Header(const Job_Receipt& receipt)
 {
+    const Reading_Language::Originals originals; // a file is the same in every language
     QString header = Rule() + QString(Texts::Receipts::Title) + u'\n' + Rule();
     for (const auto& [name, fact] : receipt.Facts())
         header += Line(name, fact);
@@ -51,6 +53,7 @@ Export_Content Receipt_Text(std::shared_ptr<const Job_Receipt> receipt)
     QByteArray header = Header(*receipt);
     const int rows = receipt->Row_Count();
     return {std::move(header), rows, [receipt = std::move(receipt)](qsizetype index) {
+                const Reading_Language::Originals originals;
                 return Piece(receipt->Row(static_cast<int>(index) + 1));
             }};
 }

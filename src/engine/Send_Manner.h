@@ -40,7 +40,8 @@ public:
     virtual void Begin_Sending() = 0;
     /// Submits one recipient's message, cut to its limit already.
     virtual Submission Submit(int index, const Recipient& recipient) = 0;
-    /// Whether the recipient's message was settled before this walk: it is not skipped, whatever the order says.
+    /// Whether the recipient's message was settled before this walk, or cannot be sent at all: it is not skipped,
+    /// whatever the order says, but submitted, which tells what became of it.
     virtual bool Is_Settled(int /*index*/) { return false; }
     /// The recipient at an index was skipped, and that is being shown.
     virtual void Skipped(int index, Skip_Reason reason) = 0;

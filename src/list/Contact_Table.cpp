@@ -2,21 +2,6 @@
 
 #include "texts/Table_Texts.h"
 
-int Contact_Table::Field_Count(int row) const
-{
-    const std::size_t end = row + 1 < Row_Count() ? At(row + 1).first_field : m_ends.size();
-    return static_cast<int>(end - At(row).first_field);
-}
-
-QByteArrayView Contact_Table::Bytes_At(int row, int column) const
-{
-    if (column < 0 || column >= Field_Count(row))
-        return {};
-    const std::size_t field = At(row).first_field + static_cast<std::size_t>(column);
-    const std::size_t begin = field == 0 ? 0 : m_ends[field - 1];
-    return {m_text.data() + begin, static_cast<qsizetype>(m_ends[field] - begin)};
-}
-
 Contact_Table::Row_Trouble Contact_Table::Trouble_Of(int row) const
 {
     if (Field_Count(row) > Column_Count())

@@ -1,14 +1,14 @@
 #pragma once
 
-#include <QByteArrayView>
+#include <QByteArray>
+#include <QList>
 #include <QStringList>
 #include <cstdint>
-#include <string>
 #include <vector>
 
-// A list as people have it: columns with names, and rows of fields. Made for a million rows: all fields lie behind one
-// another in UTF-8, with four bytes for each and eight for each row. Filled by Table_Builder; a value after that, any
-// thread.
+// A list as people have it: columns with names, and rows of fields. Made for a million rows: the fields lie in one text
+// in UTF-8, which may be that of their file, with four bytes for each and twelve for each row. Filled by Table_Builder;
+// a value after that, any thread.
 class Contact_Table
 {
 public:
@@ -27,9 +27,16 @@ public:
     // Rows count from 0 to Row_Count() - 1; rows without any text are none.
 
     /// How many fields the row has, which may be fewer or more than there are columns.
-    int Field_Count(int row) const;
+    int Field_Count(int row) const { return static_cast<int>(Last_Place_Of(row) - At(row).first_place); }
     /// A field in UTF-8; empty where the row has none. Valid as long as the table.
-    QByteArrayView Bytes_At(int row, int column) const;
+    QByteArrayView Bytes_At(int row, int column) const
+    {
+        if (column < 0 || column >= Field_Count(row))
+            return {};
+        const std::uint32_t* before = m_places.data() + At(row).first_place + column;
+        const std::uint32_t begin = before[0] + (column > 0 ? 1 : 0);
+        return {m_text.constData() + begin, static_cast<qsizetype>(before[1] - begin)};
+    }
     QString Field(int row, int column) const { return QString::fromUtf8(Bytes_At(row, column)); }
     /// Where the row began in its file, counted from 1: a line, or a row of a sheet.
     int Source_Row(int row) const { return static_cast<int>(At(row).source_row); }
@@ -45,17 +52,25 @@ private:
 
     struct Row
     {
-        std::uint32_t first_field;
+        std::uint32_t first_place;
         std::uint32_t source_row : 31;
         std::uint32_t has_stray_quote : 1;
     };
 
     const Row& At(int row) const { return m_rows[static_cast<std::size_t>(row)]; }
+    // The place that follows a row's last one is where the next row begins.
+    std::size_t Last_Place_Of(int row) const
+    {
+        return (row + 1 < Row_Count() ? At(row + 1).first_place : static_cast<std::size_t>(m_places.size()) - 1) - 1;
+    }
 
     QStringList m_columns;
     QStringList m_compared_columns; // the same as they are compared
-    std::string m_text;
-    std::vector<std::uint32_t> m_ends; // of the fields, in the text
+    QByteArray m_text;
+    // Places in the text: where a row begins, and then where each of its fields ends. A byte lies between two fields.
+    // The last is where one more row would begin. A list of this kind grows where it lies, without a second one beside
+    // it.
+    QList<std::uint32_t> m_places;
     std::vector<Row> m_rows;
 };
 

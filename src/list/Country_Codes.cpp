@@ -1,5 +1,8 @@
 #include "list/Country_Codes.h"
 
+#include "texts/Reading_Language.h"
+
+#include <QCoreApplication>
 #include <QLocale>
 #include <algorithm>
 #include <array>
@@ -286,7 +289,10 @@ std::span<const Country> All_Countries()
 
 QString Country::Name() const
 {
-    return QLocale::territoryToString(QLocale::codeToTerritory(QString::fromLatin1(letters)));
+    const QString name = Reading_Language::Is_English() ? QString() : QCoreApplication::translate("Country", letters);
+    return name.isEmpty() || name == QLatin1String(letters)
+               ? QLocale::territoryToString(QLocale::codeToTerritory(QString::fromLatin1(letters)))
+               : name;
 }
 
 const Country* Country_With_Letters(QStringView letters)

@@ -13,7 +13,7 @@ struct Country
     int most_digits;
     bool mobiles_have_prefix = true; ///< whether mobile numbers are usually written with it
 
-    /// Its name in English.
+    /// Its name in the language that is read.
     QString Name() const;
 };
 

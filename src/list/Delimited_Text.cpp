@@ -18,12 +18,55 @@ constexpr QByteArrayView Separator_Line("sep=");
 constexpr qsizetype Sample_Bytes = qsizetype{64} << 10;
 constexpr int Sample_Rows = 100;
 
+// Which of sixty-four bytes end a plain field: a bit for each, the first in the lowest.
+class Field_Ends
+{
+public:
+    static constexpr qsizetype Bytes = 64;
+
+    explicit Field_Ends(char delimiter) : m_delimiter(delimiter) {}
+
+#ifdef __SSE2__
+    std::uint64_t Among(const char* bytes) const
+    {
+        return Among_Sixteen(bytes) | Among_Sixteen(bytes + 16) << 16 | Among_Sixteen(bytes + 32) << 32 |
+               Among_Sixteen(bytes + 48) << 48;
+    }
+
+private:
+    std::uint64_t Among_Sixteen(const char* begin) const
+    {
+        const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(begin));
+        const __m128i line_ends =
+            _mm_or_si128(_mm_cmpeq_epi8(bytes, _mm_set1_epi8('\n')), _mm_cmpeq_epi8(bytes, _mm_set1_epi8('\r')));
+        const __m128i ends = _mm_or_si128(line_ends, _mm_cmpeq_epi8(bytes, _mm_set1_epi8(m_delimiter)));
+        return static_cast<std::uint64_t>(_mm_movemask_epi8(ends));
+    }
+#else
+    std::uint64_t Among(const char* bytes) const
+    {
+        std::uint64_t ends = 0;
+        for (int i = 0; i < Bytes; ++i)
+            if (bytes[i] == m_delimiter || bytes[i] == '\n' || bytes[i] == '\r')
+                ends |= std::uint64_t{1} << i;
+        return ends;
+    }
+
+private:
+#endif
+    char m_delimiter;
+};
+
 class Delimited_Reader
 {
 public:
-    Delimited_Reader(QByteArrayView text, char delimiter, Table_Builder& builder)
-        : m_at(text.data()), m_end(text.data() + text.size()), m_delimiter(delimiter), m_builder(builder)
+    Delimited_Reader(QByteArray text, char delimiter, Table_Builder& builder)
+        : m_delimiter(delimiter), m_field_ends(delimiter), m_builder(builder)
     {
+        const QByteArrayView kept = builder.Keep(std::move(text));
+        m_at = kept.data();
+        m_end = m_at + kept.size();
+        Look_From(m_at);
         Pass_Over_Separator_Line();
     }
 
@@ -32,12 +75,12 @@ public:
         for (int rows = 0; m_at < m_end && rows < most_rows; ++rows) {
             const int first_line = m_line;
             bool has_stray_quote = false;
-            do {
-                if (m_at < m_end && *m_at == '"')
-                    has_stray_quote = !Read_Quoted() || has_stray_quote;
-                else
-                    Read_Plain();
-            } while (Pass_Over_Delimiter());
+            m_builder.Begin_Row(m_at);
+            while (!Reads_Plain_To_The_End_Of_The_Row()) {
+                has_stray_quote = !Read_Quoted() || has_stray_quote;
+                if (!Pass_Over_Delimiter())
+                    break;
+            }
             if (m_open_quote > 0)
                 return QString(Texts::Table::Quote_Not_Closed).arg(m_open_quote);
             if (!m_builder.End_Row(first_line, has_stray_quote))
@@ -49,6 +92,7 @@ public:
 
 private:
     static constexpr int Fields_Between_Looks = 2 * Table_Builder::Most_Columns;
+    static constexpr std::size_t Fields_Kept_Together = 32;
 
     void Pass_Over_Separator_Line()
     {
@@ -57,64 +101,90 @@ private:
             return;
         const char* line_end = m_at + Separator_Line.size() + 1;
         if (line_end == m_end || *line_end == '\n' || *line_end == '\r') {
-            m_at = line_end;
+            Go_To(line_end);
             Pass_Over_Line_End();
         }
     }
 
-    void Read_Plain()
+    // Reads fields up to one in quotes, where it answers no, or all of them. Most fields are read here, and so they are
+    // kept together.
+    bool Reads_Plain_To_The_End_Of_The_Row()
     {
-        const char* end = End_Of_Plain();
-        m_builder.Add_Field({m_at, end - m_at});
-        m_at = end;
+        std::array<const char*, Fields_Kept_Together> ends;
+        for (;;) {
+            const char* const begin = m_at;
+            std::size_t count = 0;
+            bool follows_another = true;
+            while (follows_another && count < ends.size() && !(m_at < m_end && *m_at == '"')) {
+                ends[count++] = m_at = End_Of_Plain();
+                follows_another = m_at < m_end && *m_at == m_delimiter;
+                if (follows_another)
+                    Pass_Over_Mark();
+            }
+            m_builder.Keep_Fields(begin, {ends.data(), count});
+            if (!follows_another)
+                return true;
+            if (m_builder.Fields_In_Row() >= Fields_Between_Looks)
+                return true; // that many are refused in any case
+            if (m_at < m_end && *m_at == '"')
+                return false;
+        }
     }
 
     // Where a delimiter or a line end follows.
-    const char* End_Of_Plain() const
+    const char* End_Of_Plain()
     {
-        const char* at = m_at;
-#ifdef __SSE2__
-        const __m128i delimiter = _mm_set1_epi8(m_delimiter);
-        for (; m_end - at >= 16; at += 16) { // as many at a time: most fields end within them
-            const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
-            const __m128i line_ends =
-                _mm_or_si128(_mm_cmpeq_epi8(bytes, _mm_set1_epi8('\n')), _mm_cmpeq_epi8(bytes, _mm_set1_epi8('\r')));
-            const int found = _mm_movemask_epi8(_mm_or_si128(line_ends, _mm_cmpeq_epi8(bytes, delimiter)));
-            if (found != 0)
-                return at + std::countr_zero(static_cast<unsigned>(found));
+        while (m_ends == 0) {
+            if (m_end - m_looked_at <= Field_Ends::Bytes)
+                return m_end;
+            Look_From(m_looked_at + Field_Ends::Bytes);
         }
-#endif
-        while (at < m_end && *at != m_delimiter && *at != '\n' && *at != '\r')
-            ++at;
-        return at;
+        return m_looked_at + std::countr_zero(m_ends);
+    }
+
+    void Look_From(const char* at)
+    {
+        m_looked_at = at;
+        if (m_end - at >= Field_Ends::Bytes) {
+            m_ends = m_field_ends.Among(at);
+        } else {
+            std::array<char, Field_Ends::Bytes> rest{};
+            std::copy(at, m_end, rest.begin());
+            m_ends = m_field_ends.Among(rest.data());
+        }
+    }
+
+    void Go_To(const char* at)
+    {
+        m_at = at;
+        if (at - m_looked_at < Field_Ends::Bytes)
+            m_ends &= ~std::uint64_t{0} << (at - m_looked_at);
+        else
+            Look_From(at);
     }
 
     // Answers no when text follows the closing quote; it becomes part of the field.
     bool Read_Quoted()
     {
         const int first_line = m_line;
-        for (++m_at;;) {
-            const auto* quote =
-                static_cast<const char*>(std::memchr(m_at, '"', static_cast<std::size_t>(m_end - m_at)));
+        const char* at = m_at + 1;
+        for (;;) {
+            const auto* quote = static_cast<const char*>(std::memchr(at, '"', static_cast<std::size_t>(m_end - at)));
             const char* end = quote ? quote : m_end;
-            Count_Lines(m_at, end);
-            m_builder.Add_Piece({m_at, end - m_at});
-            m_at = end;
-            if (!quote) {
+            Count_Lines(at, end);
+            if (!quote)
                 m_open_quote = first_line;
-                m_builder.End_Field();
-                return true;
-            }
-            ++m_at;
-            if (m_at == m_end || *m_at != '"')
+            const bool is_doubled = quote && quote + 1 < m_end && quote[1] == '"';
+            m_builder.Keep_Piece(at, is_doubled ? end + 1 : end); // of two quotes the first
+            at = end + (is_doubled ? 2 : 1);
+            if (!is_doubled)
                 break;
-            m_builder.Add_Piece("\"");
-            ++m_at;
         }
+        Go_To(std::min(at, m_end));
         const char* end = End_Of_Plain();
         const bool is_clean = std::all_of(m_at, end, [](char byte) { return byte == ' '; });
         if (!is_clean)
-            m_builder.Add_Piece({m_at, end - m_at});
+            m_builder.Keep_Piece(m_at, end);
         m_builder.End_Field();
         m_at = end;
         return is_clean;
@@ -131,21 +201,31 @@ private:
     {
         if (m_at == m_end || *m_at != m_delimiter || m_open_quote > 0)
             return false;
+        Pass_Over_Mark();
+        return m_builder.Fields_In_Row() < Fields_Between_Looks;
+    }
+
+    // The end of a plain field that was found.
+    void Pass_Over_Mark()
+    {
         ++m_at;
-        return m_builder.Fields_In_Row() < Fields_Between_Looks; // that many are refused in any case
+        m_ends &= m_ends - 1;
     }
 
     void Pass_Over_Line_End()
     {
         if (m_at == m_end)
             return;
-        m_at += *m_at == '\r' && m_at + 1 < m_end && m_at[1] == '\n' ? 2 : 1;
+        Go_To(m_at + (*m_at == '\r' && m_at + 1 < m_end && m_at[1] == '\n' ? 2 : 1));
         ++m_line;
     }
 
     const char* m_at;
     const char* m_end;
     char m_delimiter;
+    Field_Ends m_field_ends;
+    const char* m_looked_at; // where the bytes begin whose ends are known
+    std::uint64_t m_ends;    // among them, from m_at on
     Table_Builder& m_builder;
     int m_line = 1;
     int m_open_quote = 0; // its line
@@ -165,7 +245,8 @@ struct Fit
 Fit Fit_Of(QByteArrayView sample, char delimiter)
 {
     Table_Builder builder;
-    Delimited_Reader(sample, delimiter, builder).Read(Sample_Rows); // the end is cut, and may be in quotes
+    Delimited_Reader(sample.toByteArray(), delimiter, builder)
+        .Read(Sample_Rows); // the end is cut, and may be in quotes
     const Contact_Table table = builder.Take();
     if (table.Column_Count() < 2)
         return {};
@@ -203,7 +284,7 @@ bool Can_Be_Delimiter(QChar character)
     return code > 0 && code < 0x7F && !character.isLetterOrNumber() && code != u'"' && code != u'\n' && code != u'\r';
 }
 
-QString Read_Delimited(QByteArrayView text, char delimiter, Table_Builder& builder)
+QString Read_Delimited(QByteArray text, char delimiter, Table_Builder& builder)
 {
-    return Delimited_Reader(text, delimiter, builder).Read();
+    return Delimited_Reader(std::move(text), delimiter, builder).Read();
 }

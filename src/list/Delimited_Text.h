@@ -14,5 +14,6 @@ char Guessed_Delimiter(QByteArrayView text, bool prefers_tab);
 /// Whether a character may stand between fields: it is ASCII, and no letter, digit, quote or line end.
 bool Can_Be_Delimiter(QChar character);
 
-/// Reads a text in UTF-8. Returns why it cannot be used; empty when it can.
-QString Read_Delimited(QByteArrayView text, char delimiter, Table_Builder& builder);
+/// Reads a text in UTF-8, which the table keeps; best one that nobody else has. Returns why it cannot be used; empty
+/// when it can.
+QString Read_Delimited(QByteArray text, char delimiter, Table_Builder& builder);

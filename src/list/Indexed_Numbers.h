@@ -4,6 +4,7 @@
 
 #include <QHashFunctions>
 #include <deque>
+#include <span>
 #include <vector>
 
 // A list of numbers that finds rows by the exact text of their number in constant time. Made for a million: a number
@@ -22,10 +23,14 @@ public:
     /// The number at an index from 0 to Count() - 1.
     QString At(int index) const { return m_texts.Text_Of(m_numbers.at(static_cast<std::size_t>(index))); }
 
+    /// Makes room in the index for so many more, so that it need not grow step by step.
+    void Expect(std::size_t more) { Make_Room(more); }
     /// Appends a number, even one already present; all of it, or nothing when memory runs out.
     void Append(const QString& number) { Append(m_texts.Pack(number)); }
     /// The same for a number that consists of digits alone.
     void Append(const Packed_Number& number);
+    /// The same for many in their order, whose look-ups overlap.
+    void Append(std::span<const Packed_Number> numbers);
     /// Replaces the number at an index from 0 to Count() - 1. Constant time, except when it is the first of several
     /// equal ones: the list is then searched for the next.
     void Replace(int index, const QString& number);
@@ -47,14 +52,21 @@ private:
     };
 
     const Packed_Number& Number_At(int row) const { return m_numbers[static_cast<std::size_t>(row)]; }
-    std::size_t Slot_Of(const Packed_Number& number, std::uint32_t hash) const;
+    std::size_t Slot_With(std::uint32_t hash, std::size_t from) const;
+    std::size_t Slot_Of(const Packed_Number& number, std::uint32_t hash, std::size_t from) const;
+    std::size_t Slot_Of(const Packed_Number& number, std::uint32_t hash) const
+    {
+        return Slot_Of(number, hash, Home_Of(hash));
+    }
     std::size_t Home_Of(std::uint32_t hash) const { return hash & (m_slots.size() - 1); }
     std::size_t Next(std::size_t slot) const { return (slot + 1) & (m_slots.size() - 1); }
-    void Make_Room_In_Index();
+    void Make_Room(std::size_t more);
+    void Count_In(Slot& slot, int row, std::uint32_t hash);
     void Add_To_Index(int row);
+    void Add_To_Index(int first, std::span<const Packed_Number> numbers);
     void Remove_From_Index(int row);
     void Free(std::size_t slot);
-    void Grow_Index();
+    void Grow_Index(std::size_t count);
     void Rebuild_Index();
 
     std::deque<Packed_Number> m_numbers;

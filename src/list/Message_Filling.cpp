@@ -4,8 +4,11 @@
 #include "platform/One_Line.h"
 #include "texts/Table_Texts.h"
 
-#include <QVarLengthArray>
 #include <algorithm>
+#include <bit>
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
 
 namespace {
 
@@ -13,7 +16,6 @@ constexpr QLatin1String Opening("{{");
 constexpr QLatin1String Closing("}}");
 constexpr qsizetype Mark = 2; // characters of either
 
-constexpr int Usual_Pieces = 8;
 constexpr qsizetype Longest_Named = 40; // of a placeholder in a sentence, in characters
 
 using Piece = Message_Filling::Piece;
@@ -47,30 +49,91 @@ bool Continues(char byte)
     return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
 }
 
-// Characters of one and two bytes, which most names consist of, are no matter for a decoder.
+// Puts the characters of one byte that come next, eight at a time as long as there are as many bytes.
+void Put_Plain(QByteArrayView utf8, qsizetype& at, QChar*& to)
+{
+#ifdef __SSE2__
+    while (utf8.size() - at >= 8) {
+        const __m128i bytes = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(utf8.data() + at));
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(to), _mm_unpacklo_epi8(bytes, _mm_setzero_si128()));
+        const int plain = std::countr_zero(static_cast<unsigned>(_mm_movemask_epi8(bytes)) | 0x100);
+        at += plain;
+        to += plain;
+        if (plain < 8)
+            return;
+    }
+#endif
+    for (; at < utf8.size() && static_cast<unsigned char>(utf8[at]) < 0x80; ++at)
+        *to++ = QLatin1Char(utf8[at]);
+}
+
+// Characters of one and two bytes, which most names consist of, are no matter for a decoder. There must be room for as
+// many characters as bytes.
 QChar* Put(QByteArrayView utf8, QChar* to)
 {
     QChar* end = to;
-    for (qsizetype at = 0; at < utf8.size(); ++at) {
+    for (qsizetype at = 0;; at += 2) {
+        Put_Plain(utf8, at, end);
+        if (at == utf8.size())
+            return end;
         const auto byte = static_cast<unsigned char>(utf8[at]);
-        if (byte < 0x80) {
-            *end++ = QChar(byte);
-        } else if (byte >= 0xC2 && byte < 0xE0 && at + 1 < utf8.size() && Continues(utf8[at + 1])) {
-            *end++ = QChar(static_cast<char16_t>((byte & 0x1F) << 6 | (utf8[++at] & 0x3F)));
-        } else {
+        if (byte < 0xC2 || byte >= 0xE0 || at + 1 == utf8.size() || !Continues(utf8[at + 1]))
             return Put(QStringView(QString::fromUtf8(utf8)), to);
-        }
+        *end++ = QChar(static_cast<char16_t>((byte & 0x1F) << 6 | (utf8[at + 1] & 0x3F)));
     }
-    return end;
+}
+
+bool Is_Plain(char byte)
+{
+    return byte > ' ' && byte < '\x7F';
+}
+
+bool Is_Blank_At_A_Closer_Look(QByteArrayView utf8)
+{
+    if (std::any_of(utf8.begin(), utf8.end(), Is_Plain))
+        return false;
+    return QString::fromUtf8(utf8).trimmed().isEmpty(); // other scripts have blanks, too
 }
 
 bool Is_Blank(QByteArrayView utf8)
 {
-    const auto is_plain = [](char byte) { return byte > ' ' && byte < '\x7F'; };
-    if (std::any_of(utf8.begin(), utf8.end(), is_plain))
-        return false;
-    return QString::fromUtf8(utf8).trimmed().isEmpty(); // other scripts have blanks, too
+    return utf8.isEmpty() || (!Is_Plain(utf8.front()) && Is_Blank_At_A_Closer_Look(utf8));
 }
+
+// A text that is put together, and grows as it must.
+class Growing_Text
+{
+public:
+    explicit Growing_Text(QString& text) : m_text(text)
+    {
+        m_text.resize(std::max(m_text.size(), m_text.capacity())); // what it held before is written over
+        m_at = m_text.data();
+    }
+    void Add(QByteArrayView utf8)
+    {
+        Make_Room(utf8.size()); // no text has more units in UTF-16 than bytes in UTF-8
+        m_at = Put(utf8, m_at);
+    }
+    void Add(QStringView text)
+    {
+        Make_Room(text.size());
+        m_at = Put(text, m_at);
+    }
+    void Finish() { m_text.truncate(m_at - m_text.constData()); }
+
+private:
+    void Make_Room(qsizetype more)
+    {
+        const qsizetype filled = m_at - m_text.constData();
+        if (more <= m_text.size() - filled)
+            return;
+        m_text.resize(std::max(2 * m_text.size(), filled + more));
+        m_at = m_text.data() + filled;
+    }
+
+    QString& m_text;
+    QChar* m_at;
+};
 
 } // namespace
 
@@ -142,7 +205,7 @@ Message_Filling::Given Message_Filling::Given_By(const Piece& piece, const Conta
     if (!piece.is_placeholder)
         return {};
     const QByteArrayView value = piece.column < 0 || row < 0 ? QByteArrayView() : table.Bytes_At(row, piece.column);
-    if (!value.isEmpty() && !Is_Blank(value))
+    if (!Is_Blank(value))
         return {Becomes::Value, value};
     if (piece.has_fallback)
         return {Becomes::Fallback};
@@ -151,22 +214,32 @@ Message_Filling::Given Message_Filling::Given_By(const Piece& piece, const Conta
 
 Filled_Message Message_Filling::For_Row(const Contact_Table& table, int row) const
 {
-    if (m_pieces.size() == 1 && !m_pieces.front().is_placeholder)
-        return {m_pieces.front().text}; // one text for all
     Filled_Message filled;
-    QVarLengthArray<Given, Usual_Pieces> given;
-    qsizetype most = 0; // no text has more units in UTF-16 than bytes in UTF-8
-    for (const Piece& piece : m_pieces) {
-        given.append(Given_By(piece, table, row));
-        most += given.back().what == Becomes::Value ? given.back().value.size() : Text_Of(piece, given.back()).size();
-        Note_Fault(filled, piece, given.back().what);
-    }
-    filled.text = QString(most, Qt::Uninitialized);
-    QChar* end = filled.text.data();
-    for (qsizetype place = 0; place < given.size(); ++place)
-        end = given[place].what == Becomes::Value
-                  ? Put(given[place].value, end)
-                  : Put(Text_Of(m_pieces[static_cast<std::size_t>(place)], given[place]), end);
-    filled.text.truncate(end - filled.text.constData());
+    Fill(filled, table, row);
     return filled;
+}
+
+void Message_Filling::Fill(Filled_Message& filled, const Contact_Table& table, int row) const
+{
+    filled.fault.clear();
+    filled.placeholder.clear();
+    if (m_pieces.size() == 1 && !m_pieces.front().is_placeholder) {
+        filled.text = m_pieces.front().text; // one text for all
+        return;
+    }
+    Growing_Text text(filled.text);
+    for (const Piece& piece : m_pieces) {
+        if (!piece.is_placeholder) {
+            text.Add(QStringView(piece.text));
+            continue;
+        }
+        const Given given = Given_By(piece, table, row);
+        if (given.what == Becomes::Value) {
+            text.Add(given.value);
+        } else {
+            text.Add(Text_Of(piece, given));
+            Note_Fault(filled, piece, given.what);
+        }
+    }
+    text.Finish();
 }

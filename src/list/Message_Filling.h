@@ -61,6 +61,8 @@ public:
     static Given Given_By(const Piece& piece, const Contact_Table& table, int row);
     /// For the row of the same table, or for a recipient without values.
     Filled_Message For_Row(const Contact_Table& table, int row) const;
+    /// The same into a message that was filled before, whose memory is used again.
+    void Fill(Filled_Message& filled, const Contact_Table& table, int row) const;
     Filled_Message Without_Values() const { return For_Row({}, -1); }
 
 private:

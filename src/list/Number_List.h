@@ -31,7 +31,9 @@ public:
     /// Announces a number that will soon be looked up; see Indexed_Numbers.
     void Fetch(const Packed_Number& number) const { m_body->numbers.Fetch(number); }
 
-    /// Appends a number, even one already present.
+    /// Makes room for so many more, where it is known how many will come.
+    void Expect(std::size_t more) { m_body->numbers.Expect(more); }
+    /// Appends a number, even one already present; or a span of packed ones.
     template <typename Number>
     void Append(const Number& number)
     {

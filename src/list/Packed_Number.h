@@ -17,6 +17,14 @@ public:
     /// The number for a text of at most twenty digits 0 to 9; nothing for any other text.
     static std::optional<Packed_Number> Of(QStringView text);
 
+    /// The number of at most sixteen digits, four bits for each, which hold one more than it; the last in the lowest.
+    static Packed_Number Of_Digits(std::uint64_t digits)
+    {
+        Packed_Number number;
+        number.m_words = {static_cast<std::uint32_t>(digits), static_cast<std::uint32_t>(digits >> 32), 0};
+        return number;
+    }
+
     /// Appends a digit. Answers no, and changes nothing, when there are twenty already.
     bool Add_Digit(char16_t digit)
     {

@@ -22,23 +22,18 @@ std::shared_ptr<const Contact_Table> Recipient_Fields::Table_At(int index) const
                : nullptr;
 }
 
-void Recipient_Fields::Set(int index, const std::shared_ptr<const Contact_Table>& table, int row)
+void Recipient_Fields::Set(int index, const std::shared_ptr<const Contact_Table>& table, std::span<const int> rows)
 {
     const int source = Source_Of(table);
     const auto place = static_cast<std::size_t>(index);
-    if (place == m_entries.size())
-        m_entries.push_back({source, row});
-    else {
-        if (place > m_entries.size())
-            m_entries.resize(place + 1);
-        m_entries[place] = {source, row};
-    }
+    m_entries.resize(std::max(m_entries.size(), place + rows.size()));
+    std::transform(rows.begin(), rows.end(), m_entries.begin() + index, [&](int row) { return Entry{source, row}; });
 }
 
-void Recipient_Fields::Forget(int index)
+void Recipient_Fields::Forget_From(int index)
 {
     if (static_cast<std::size_t>(index) < m_entries.size())
-        m_entries[static_cast<std::size_t>(index)] = {};
+        m_entries.resize(static_cast<std::size_t>(index));
 }
 
 bool Recipient_Fields::Remove_Rows(const std::vector<int>& rows)

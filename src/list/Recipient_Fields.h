@@ -5,6 +5,7 @@
 #include <QSharedData>
 #include <deque>
 #include <memory>
+#include <span>
 #include <vector>
 
 // Which rows of which tables the recipients of a list came from, and so what their fields hold: eight bytes for each
@@ -22,10 +23,10 @@ public:
     Place At(int index) const;
     /// The table itself, to be kept; null for none.
     std::shared_ptr<const Contact_Table> Table_At(int index) const;
-    /// The recipient came from the row of a table. All of it, or nothing when memory runs out.
-    void Set(int index, const std::shared_ptr<const Contact_Table>& table, int row);
-    /// The recipient has no fields.
-    void Forget(int index);
+    /// The recipients from an index on came from the rows of a table. All of it, or nothing when memory runs out.
+    void Set(int index, const std::shared_ptr<const Contact_Table>& table, std::span<const int> rows);
+    /// The recipients from an index on have no fields.
+    void Forget_From(int index);
     /// Removes the recipients of a sorted list of distinct indexes. Answers no when nobody has fields any more.
     bool Remove_Rows(const std::vector<int>& rows);
 

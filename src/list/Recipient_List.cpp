@@ -13,23 +13,23 @@ Recipient_List::Recipient_List() : m_messages(new Messages) {}
 
 void Recipient_List::Append(const QString& number, const QString& message)
 {
-    Append_Number(number, message);
+    Append_Numbers(number, 1, message);
 }
 
 void Recipient_List::Append(const Packed_Number& number, const QString& message)
 {
-    Append_Number(number, message);
+    Append_Numbers(number, 1, message);
 }
 
-template <typename Number>
-void Recipient_List::Append_Number(const Number& number, const QString& message)
+template <typename Given>
+void Recipient_List::Append_Numbers(const Given& numbers, std::size_t count, const QString& message)
 {
     auto& texts = m_messages->texts;
-    texts.push_back(message);
+    texts.insert(texts.end(), count, message);
     try {
-        m_numbers.Append(number);
+        m_numbers.Append(numbers);
     } catch (...) { // out of memory: neither may stay without the other
-        texts.pop_back();
+        texts.resize(texts.size() - count);
         throw;
     }
 }
@@ -38,15 +38,30 @@ template <typename Number>
 void Recipient_List::Append_From_Table(const Number& number, const QString& message,
                                        const std::shared_ptr<const Contact_Table>& table, int table_row)
 {
+    Append_Rows(number, message, table, {&table_row, 1});
+}
+
+void Recipient_List::Append_From_Table(std::span<const Packed_Number> numbers, const QString& message,
+                                       const std::shared_ptr<const Contact_Table>& table,
+                                       std::span<const int> table_rows)
+{
+    if (!numbers.empty())
+        Append_Rows(numbers, message, table, table_rows);
+}
+
+template <typename Given>
+void Recipient_List::Append_Rows(const Given& numbers, const QString& message,
+                                 const std::shared_ptr<const Contact_Table>& table, std::span<const int> table_rows)
+{
     const bool has_fields = Has_Fields();
     try {
         if (!has_fields)
             m_fields = new Recipient_Fields;
-        m_fields->Set(Count(), table, table_row);
-        Append_Number(number, message);
+        m_fields->Set(Count(), table, table_rows);
+        Append_Numbers(numbers, table_rows.size(), message);
     } catch (...) { // out of memory: nobody's fields may wait for the next recipient
         if (has_fields)
-            m_fields->Forget(Count());
+            m_fields->Forget_From(Count());
         else
             m_fields.reset();
         throw;

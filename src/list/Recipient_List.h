@@ -8,6 +8,7 @@
 #include <QString>
 #include <deque>
 #include <optional>
+#include <span>
 #include <vector>
 
 // One recipient: the normalised number, never empty, and the message kept exactly as given.
@@ -44,6 +45,12 @@ public:
     template <typename Number>
     void Append_From_Table(const Number& number, const QString& message,
                            const std::shared_ptr<const Contact_Table>& table, int table_row);
+    /// The same for many rows and as many numbers, which consist of digits alone. Quicker than one by one: some
+    /// thousand at a time are best.
+    void Append_From_Table(std::span<const Packed_Number> numbers, const QString& message,
+                           const std::shared_ptr<const Contact_Table>& table, std::span<const int> table_rows);
+    /// Makes room for so many more, where it is known how many will come; sooner for too many than step by step.
+    void Expect(int more) { m_numbers.Expect(static_cast<std::size_t>(more)); }
     /// Replaces the recipient at an index from 0 to Count() - 1.
     void Replace(int index, const QString& number, const QString& message);
     /// Gives the recipients at the indexes, each from 0 to Count() - 1, the same message; each keeps its number.
@@ -94,8 +101,11 @@ private:
         std::deque<QString> texts;
     };
 
-    template <typename Number>
-    void Append_Number(const Number& number, const QString& message);
+    template <typename Given>
+    void Append_Numbers(const Given& numbers, std::size_t count, const QString& message);
+    template <typename Given>
+    void Append_Rows(const Given& numbers, const QString& message, const std::shared_ptr<const Contact_Table>& table,
+                     std::span<const int> table_rows);
     void Forget_Mark(int index);
 
     Number_List m_numbers;

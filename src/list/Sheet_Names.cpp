@@ -16,7 +16,7 @@ QString In_Words(const std::vector<Named_Sheet>& sheets)
             words.append(u'"' + sheet.name.left(40) + u'"');
     const auto more = static_cast<qsizetype>(sheets.size()) - words.size();
     if (more > 0)
-        words.append(QStringLiteral("and %1 more").arg(more));
+        words.append(QString(Texts::Table::More_Sheets).arg(more));
     return words.join(QLatin1String(", "));
 }
 

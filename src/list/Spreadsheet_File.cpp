@@ -35,9 +35,8 @@ Read_Sheet Read_Spreadsheet(const QByteArray& bytes, const QString& sheet, Table
     else if (Is_Xlsx(archive))
         read = Read_Xlsx(archive, sheet, builder);
     else
-        read.trouble = archive.Has("xl/workbook.bin")
-                           ? QString(Texts::Table::Old_Spreadsheet)
-                           : QString(Texts::Table::Other_Kind).arg(QStringLiteral("an archive"));
+        read.trouble = archive.Has("xl/workbook.bin") ? QString(Texts::Table::Old_Spreadsheet)
+                                                      : QString(Texts::Table::Other_Kind).arg(Texts::Table::Archive);
     switch (archive.Trouble_So_Far()) {
     case Zip_Archive::Trouble::Damaged:
         read.trouble = Texts::Table::Damaged;

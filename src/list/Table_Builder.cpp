@@ -9,6 +9,7 @@ namespace {
 
 constexpr std::size_t Rows_Of_A_Sample = 4096;
 constexpr double Spare = 1.02;
+constexpr qsizetype Fewest_Bytes_More = 64;
 constexpr int Fewest_Digits = 7; // of a number that stands in place of a name
 
 bool Is_Blank_Byte(char byte)
@@ -35,20 +36,43 @@ QString Name_By_Place(qsizetype column)
 Table_Builder::Table_Builder(qsizetype expected_bytes, bool has_names, Blank_Rows blank_rows)
     : m_blank_rows(blank_rows), m_has_names(has_names)
 {
-    m_table.m_text.reserve(std::min(static_cast<std::size_t>(expected_bytes), Most_Bytes));
-    Prefer_Large_Pages(m_table.m_text.data(), m_table.m_text.capacity());
+    m_table.m_places.push_back(0);
+    if (expected_bytes > 0)
+        Make_Room(std::min(expected_bytes, static_cast<qsizetype>(Most_Bytes)));
 }
 
-void Table_Builder::Add_Piece(QByteArrayView utf8)
+void Table_Builder::Add_Field(QByteArrayView utf8)
 {
-    if (utf8.size() > Room_For_Bytes())
+    if (static_cast<std::size_t>(m_fill + utf8.size()) > Most_Bytes) {
         m_is_full = true;
-    else
-        m_table.m_text.append(utf8.data(), static_cast<std::size_t>(utf8.size()));
+        return;
+    }
+    if (m_fill + utf8.size() >= m_table.m_text.size())
+        Make_Room(m_table.m_text.size() * 5 / 4 + utf8.size() + Fewest_Bytes_More);
+    std::copy(utf8.begin(), utf8.end(), m_begin + m_fill);
+    m_fill += utf8.size();
+    End_Field();
+}
+
+void Table_Builder::Make_Room(qsizetype bytes)
+{
+    m_table.m_text.reserve(bytes); // and no more, which resizing alone would take
+    m_table.m_text.resize(bytes);
+    m_begin = m_table.m_text.data();
+    Prefer_Large_Pages(m_begin, static_cast<std::size_t>(bytes));
+}
+
+QByteArrayView Table_Builder::Keep(QByteArray text)
+{
+    m_table.m_text = std::move(text);
+    m_begin = m_table.m_text.data();
+    return m_table.m_text;
 }
 
 bool Table_Builder::End_Row(int source_row, bool has_stray_quote)
 {
+    m_is_full = m_is_full || static_cast<std::size_t>(m_fill) > Most_Bytes ||
+                static_cast<std::size_t>(m_table.m_places.size()) - m_table.m_rows.size() > Most_Fields + 1;
     if (Is_Full())
         return false;
     if (Fields_In_Row() > Most_Columns) {
@@ -65,10 +89,10 @@ bool Table_Builder::End_Row(int source_row, bool has_stray_quote)
     }
     if (!m_has_columns)
         Number_Columns();
-    m_table.m_rows.push_back({static_cast<std::uint32_t>(m_first_field),
+    m_table.m_rows.push_back({static_cast<std::uint32_t>(m_first_place),
                               static_cast<std::uint32_t>(std::max(0, source_row)) & 0x7FFFFFFF, has_stray_quote});
-    m_first_field = m_table.m_ends.size();
-    m_first_byte = m_table.m_text.size();
+    m_first_place = m_table.m_places.size();
+    m_table.m_places.push_back(static_cast<std::uint32_t>(m_fill));
     if (m_table.m_rows.size() == Rows_Of_A_Sample)
         Make_Room_By_Sample();
     return true;
@@ -86,35 +110,45 @@ QString Table_Builder::Trouble() const
 Contact_Table Table_Builder::Take()
 {
     Forget_Row();
-    return std::move(m_table);
+    return std::exchange(m_table, {});
 }
 
 // As if the rest were like the rows so far: growing step by step would touch three times the memory.
 void Table_Builder::Make_Room_By_Sample()
 {
-    const double share = static_cast<double>(m_table.m_text.size()) / static_cast<double>(m_table.m_text.capacity());
+    const double share = static_cast<double>(m_fill) / static_cast<double>(m_table.m_text.size());
     const auto room_for = [&](std::size_t count) {
         return std::min(Most_Fields,
                         static_cast<std::size_t>(static_cast<double>(count) * Spare / std::max(share, 1e-6)));
     };
     const auto make_room = [&](auto& list) {
-        list.reserve(room_for(list.size()));
-        Prefer_Large_Pages(list.data(), list.capacity() * sizeof(list[0]));
+        const std::size_t room = room_for(static_cast<std::size_t>(list.size()));
+        list.reserve(static_cast<decltype(list.size())>(room));
+        Prefer_Large_Pages(list.data(), room * sizeof(list[0]));
     };
-    make_room(m_table.m_ends);
+    make_room(m_table.m_places);
     make_room(m_table.m_rows);
 }
 
 bool Table_Builder::Is_Blank() const
 {
-    const auto begin = m_table.m_text.begin() + static_cast<std::ptrdiff_t>(m_first_byte);
-    return std::all_of(begin, m_table.m_text.end(), [](char byte) { return Is_Blank_Byte(byte); });
+    for (int column = 0; column < Fields_In_Row(); ++column)
+        if (const auto field = Field_In_Row(column); !std::all_of(field.begin(), field.end(), Is_Blank_Byte))
+            return false;
+    return true;
+}
+
+QByteArrayView Table_Builder::Field_In_Row(int column) const
+{
+    const std::uint32_t* before = m_table.m_places.data() + m_first_place + column;
+    const std::uint32_t begin = before[0] + (column > 0 ? 1 : 0);
+    return {m_begin + begin, static_cast<qsizetype>(before[1] - begin)};
 }
 
 void Table_Builder::Forget_Row()
 {
-    m_table.m_ends.resize(m_first_field);
-    m_table.m_text.resize(m_first_byte);
+    m_table.m_places.resize(m_first_place + 1);
+    m_fill = m_table.m_places.back();
 }
 
 void Table_Builder::Add_Column(const QString& name)
@@ -126,15 +160,11 @@ void Table_Builder::Add_Column(const QString& name)
 // A column without a name gets one that can be written in a message.
 void Table_Builder::Name_Columns()
 {
-    std::size_t begin = m_first_byte;
-    for (std::size_t field = m_first_field; field < m_table.m_ends.size(); ++field) {
-        const std::size_t end = m_table.m_ends[field];
-        const QString name = QString::fromUtf8(m_table.m_text.data() + begin, static_cast<qsizetype>(end - begin));
-        const QString trimmed = name.simplified();
+    for (int column = 0; column < Fields_In_Row(); ++column) {
+        const QString trimmed = QString::fromUtf8(Field_In_Row(column)).simplified();
         if (Is_A_Number(trimmed) && m_trouble.isEmpty())
             m_trouble = QString(Texts::Table::Header_Is_Number).arg(trimmed);
         Add_Column(trimmed.isEmpty() ? Name_By_Place(m_table.m_columns.size()) : trimmed);
-        begin = end;
     }
     m_has_columns = true;
     Forget_Row();

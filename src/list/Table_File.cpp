@@ -16,23 +16,23 @@ namespace {
 struct Other_Kind
 {
     QByteArrayView beginning;
-    const char* name;
+    Fixed_Text name;
 };
 
-constexpr std::array Other_Kinds{Other_Kind{"%PDF-", "a PDF document"},
+constexpr std::array Other_Kinds{Other_Kind{"%PDF-", Texts::Table::Pdf},
                                  Other_Kind{{"\x7F"
                                              "ELF",
                                              4},
-                                            "a program"},
-                                 Other_Kind{{"\x1F\x8B", 2}, "a compressed file"},
-                                 Other_Kind{"\x89PNG", "a picture"},
-                                 Other_Kind{{"\xFF\xD8\xFF", 3}, "a picture"},
-                                 Other_Kind{"<!DOCTYPE", "a web page"},
-                                 Other_Kind{"<!doctype", "a web page"},
-                                 Other_Kind{"<html", "a web page"},
-                                 Other_Kind{"<HTML", "a web page"},
-                                 Other_Kind{"<table", "a web page"},
-                                 Other_Kind{"<?xml", "an XML document"}};
+                                            Texts::Table::Program},
+                                 Other_Kind{{"\x1F\x8B", 2}, Texts::Table::Compressed},
+                                 Other_Kind{"\x89PNG", Texts::Table::Picture},
+                                 Other_Kind{{"\xFF\xD8\xFF", 3}, Texts::Table::Picture},
+                                 Other_Kind{"<!DOCTYPE", Texts::Table::Web_Page},
+                                 Other_Kind{"<!doctype", Texts::Table::Web_Page},
+                                 Other_Kind{"<html", Texts::Table::Web_Page},
+                                 Other_Kind{"<HTML", Texts::Table::Web_Page},
+                                 Other_Kind{"<table", Texts::Table::Web_Page},
+                                 Other_Kind{"<?xml", Texts::Table::Xml}};
 
 constexpr QByteArrayView Rich_Text_Mark = "{\\rtf";
 constexpr qsizetype Header_Of_A_Program = 64; // bytes, and some of them are 0; a table may begin with "MZ", too
@@ -47,10 +47,10 @@ QString Of_Another_Kind(QByteArrayView bytes)
     if (bytes.startsWith(Rich_Text_Mark))
         return Texts::Table::Rich_Text;
     if (Is_Program_Of_Another_System(bytes))
-        return QString(Texts::Table::Other_Kind).arg(QStringLiteral("a program"));
+        return QString(Texts::Table::Other_Kind).arg(Texts::Table::Program);
     for (const Other_Kind& kind : Other_Kinds)
         if (bytes.startsWith(kind.beginning))
-            return QString(Texts::Table::Other_Kind).arg(QLatin1String(kind.name));
+            return QString(Texts::Table::Other_Kind).arg(kind.name);
     return {};
 }
 
@@ -66,15 +66,15 @@ QString Delimiter_Name(char delimiter)
     return delimiter == '\t' ? QStringLiteral("tab") : QString(QLatin1Char(delimiter));
 }
 
-Table_In_A_File Delimited(const QByteArray& text, const QString& name, const Table_Choices& choices)
+Table_In_A_File Delimited(QByteArray text, const QString& name, const Table_Choices& choices)
 {
     const bool prefers_tab = QFileInfo(name).suffix().compare(QLatin1String("tsv"), Qt::CaseInsensitive) == 0;
     const char delimiter = choices.delimiter != 0 ? choices.delimiter : Guessed_Delimiter(text, prefers_tab);
     Table_In_A_File file;
     file.facts.format = QStringLiteral("CSV");
     file.facts.delimiter = Delimiter_Name(delimiter);
-    Table_Builder builder(text.size(), !choices.has_no_names);
-    file.trouble = Read_Delimited(text, delimiter, builder);
+    Table_Builder builder(0, !choices.has_no_names);
+    file.trouble = Read_Delimited(std::move(text), delimiter, builder);
     file.table = builder.Take();
     return file;
 }
@@ -110,21 +110,26 @@ Table_In_A_File Table_Of_Text(QByteArray bytes, const QString& name, const Table
     if (!choices.sheet.isEmpty())
         return Failed(Texts::Table::No_Sheets);
     QString encoding = choices.encoding;
+    bool is_valid = false;
+    bool is_told = true;
     if (encoding.isEmpty() && Is_Contact_Cards(bytes))
         return Cards(bytes, encoding);
     if (encoding.isEmpty()) {
-        const Encoding_Guess guess = Guess_Encoding(bytes);
+        const Encoding_Guess guess = Guess_Encoding(bytes, choices.usual_encoding);
         if (!guess.trouble.isEmpty())
             return Failed(guess.trouble);
         encoding = guess.name;
+        is_valid = guess.is_valid;
+        is_told = guess.is_told;
     }
-    const Utf8_Text text = Text_In_Utf8(std::move(bytes), encoding);
+    Utf8_Text text = Text_In_Utf8(std::move(bytes), encoding, is_valid);
     if (!text.trouble.isEmpty())
         return Failed(text.trouble);
     if (Is_Contact_Cards(text.bytes))
         return Cards(text.bytes, encoding);
-    Table_In_A_File file = Delimited(text.bytes, name, choices);
+    Table_In_A_File file = Delimited(std::move(text.bytes), name, choices);
     file.facts.encoding = encoding;
+    file.facts.encoding_is_told = is_told;
     return file;
 }
 

@@ -13,18 +13,20 @@ struct Table_Choices
     QString encoding;
     QString sheet;
     char delimiter = 0;
-    bool has_no_names = false; ///< the first row is one like the others, and the columns are numbered
+    bool has_no_names = false;   ///< the first row is one like the others, and the columns are numbered
+    QString usual_encoding = {}; ///< of a text whose bytes tell none; empty for windows-1252
 };
 
 /// How a file was read.
 struct Table_Facts
 {
-    QString format;        ///< "CSV", "vCard", "XLSX" or "ODS"
-    QString encoding;      ///< of a text
-    QString delimiter;     ///< of a text; "tab" for one
-    QString sheet;         ///< of a spreadsheet
-    QStringList sheets;    ///< all of its sheets, also where the one that was asked for is none of them
-    QString number_column; ///< where the format itself says where the numbers are
+    QString format;               ///< "CSV", "vCard", "XLSX" or "ODS"
+    QString encoding;             ///< of a text
+    bool encoding_is_told = true; ///< by the bytes or by the choices, and not merely usual
+    QString delimiter;            ///< of a text; "tab" for one
+    QString sheet;                ///< of a spreadsheet
+    QStringList sheets;           ///< all of its sheets, also where the one that was asked for is none of them
+    QString number_column;        ///< where the format itself says where the numbers are
 };
 
 struct Table_In_A_File

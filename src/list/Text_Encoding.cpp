@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <iterator>
 
 namespace {
 
@@ -24,6 +25,54 @@ struct Mark
 constexpr std::array Marks{Mark{"\xEF\xBB\xBF", "UTF-8"}, Mark{{"\xFF\xFE\0\0", 4}, "UTF-32LE"},
                            Mark{{"\0\0\xFE\xFF", 4}, "UTF-32BE"}, Mark{"\xFF\xFE", "UTF-16LE"},
                            Mark{"\xFE\xFF", "UTF-16BE"}};
+
+struct Usage
+{
+    QLocale::Language language;
+    const char* encoding;
+    QLocale::Script script = QLocale::AnyScript;
+};
+
+// The first row that fits counts. Languages that are not here are western.
+constexpr Usage Usages[] = {
+    {QLocale::Polish, "windows-1250"},
+    {QLocale::Czech, "windows-1250"},
+    {QLocale::Slovak, "windows-1250"},
+    {QLocale::Hungarian, "windows-1250"},
+    {QLocale::Slovenian, "windows-1250"},
+    {QLocale::Croatian, "windows-1250"},
+    {QLocale::Romanian, "windows-1250"},
+    {QLocale::Albanian, "windows-1250"},
+    {QLocale::Bosnian, "windows-1251", QLocale::CyrillicScript},
+    {QLocale::Bosnian, "windows-1250"},
+    {QLocale::Serbian, "windows-1250", QLocale::LatinScript},
+    {QLocale::Serbian, "windows-1251"},
+    {QLocale::Russian, "windows-1251"},
+    {QLocale::Ukrainian, "windows-1251"},
+    {QLocale::Belarusian, "windows-1251"},
+    {QLocale::Bulgarian, "windows-1251"},
+    {QLocale::Macedonian, "windows-1251"},
+    {QLocale::Kazakh, "windows-1251"},
+    {QLocale::Kyrgyz, "windows-1251"},
+    {QLocale::Mongolian, "windows-1251"},
+    {QLocale::Tajik, "windows-1251"},
+    {QLocale::Greek, "windows-1253"},
+    {QLocale::Turkish, "windows-1254"},
+    {QLocale::Azerbaijani, "windows-1254"},
+    {QLocale::Hebrew, "windows-1255"},
+    {QLocale::Arabic, "windows-1256"},
+    {QLocale::Persian, "windows-1256"},
+    {QLocale::Urdu, "windows-1256"},
+    {QLocale::Lithuanian, "windows-1257"},
+    {QLocale::Latvian, "windows-1257"},
+    {QLocale::Estonian, "windows-1257"},
+    {QLocale::Vietnamese, "windows-1258"},
+    {QLocale::Thai, "windows-874"},
+    {QLocale::Japanese, "Shift_JIS"},
+    {QLocale::Chinese, "Big5", QLocale::TraditionalHanScript},
+    {QLocale::Chinese, "GB18030"},
+    {QLocale::Korean, "EUC-KR"},
+};
 
 QString Line_Of(const QByteArray& bytes, qsizetype at)
 {
@@ -85,33 +134,53 @@ QString Not_A_Text(const QByteArray& bytes, qsizetype at)
     return at < 0 || at == bytes.size() ? QString() : QString(Texts::Table::No_Text).arg(Line_Of(bytes, at));
 }
 
+// What no list holds stands, in the decoder's text, for bytes that are none of the encoding.
+bool Fits(const QByteArray& bytes, const QString& encoding)
+{
+    const Utf8_Text text = Text_In_Utf8(bytes, encoding);
+    const QString decoded = QString::fromUtf8(text.bytes);
+    return text.trouble.isEmpty() && std::none_of(decoded.begin(), decoded.end(), [](QChar character) {
+               return character == QChar::ReplacementCharacter || character.category() == QChar::Other_PrivateUse;
+           });
+}
+
 } // namespace
 
-Encoding_Guess Guess_Encoding(const QByteArray& bytes)
+QString Usual_Encoding(const QLocale& locale)
+{
+    const auto* usage = std::find_if(std::begin(Usages), std::end(Usages), [&](const Usage& row) {
+        return row.language == locale.language() && (row.script == QLocale::AnyScript || row.script == locale.script());
+    });
+    return QLatin1String(usage == std::end(Usages) ? Western : usage->encoding);
+}
+
+Encoding_Guess Guess_Encoding(const QByteArray& bytes, const QString& usual)
 {
     for (const Mark& mark : Marks)
         if (bytes.startsWith(mark.bytes))
-            return {QLatin1String(mark.encoding), {}};
+            return {QLatin1String(mark.encoding)};
     if (const char* utf16 = Utf16_By_Zeros(bytes))
-        return {QLatin1String(utf16), {}};
+        return {QLatin1String(utf16)};
     if (Is_Valid_Utf8(bytes))
-        return {QStringLiteral("UTF-8"), {}};
+        return {QStringLiteral("UTF-8"), {}, true};
     const auto* odd = std::find_if(bytes.begin(), bytes.end(), Is_No_Character_Of_A_Text);
     if (const QString trouble = Not_A_Text(bytes, odd - bytes.begin()); !trouble.isEmpty())
         return {{}, trouble};
     if (const QString line = Line_Of_A_Mixture(bytes); !line.isEmpty())
         return {{}, QString(Texts::Table::Mixed_Encodings).arg(line)};
+    if (!usual.isEmpty() && Fits(bytes, usual))
+        return {usual, {}, false, false};
     // A toolkit without its tables of encodings still knows the one that differs in 27 characters.
     const bool is_known = QStringDecoder(Western).isValid();
-    return {is_known ? QLatin1String(Western) : QLatin1String("ISO-8859-1"), {}};
+    return {is_known ? QLatin1String(Western) : QLatin1String("ISO-8859-1"), {}, false, false};
 }
 
-Utf8_Text Text_In_Utf8(QByteArray bytes, const QString& encoding)
+Utf8_Text Text_In_Utf8(QByteArray bytes, const QString& encoding, bool is_valid)
 {
     const QByteArray name = encoding.toUtf8();
     const auto known = QStringConverter::encodingForName(name.constData());
     if (known == QStringConverter::Utf8) {
-        if (!Is_Valid_Utf8(bytes))
+        if (!is_valid && !Is_Valid_Utf8(bytes))
             return {{}, QString(Texts::Table::Wrong_Encoding).arg(encoding)};
         if (bytes.startsWith(Marks.front().bytes))
             bytes.remove(0, Marks.front().bytes.size());

@@ -4,6 +4,7 @@
 #include "handset/Text_Parts.h"
 #include "platform/Folders_And_Files.h"
 #include "platform/Text_Files.h"
+#include "texts/Plan_Texts.h"
 
 #include <QDir>
 #include <QtEndian>
@@ -17,7 +18,7 @@ constexpr unsigned Only_The_User = 0700;
 
 Hand_Over_Trouble Not_Written(const QString& path)
 {
-    return {path + QLatin1String(" cannot be written"), QString::fromLocal8Bit(std::strerror(errno))};
+    return {QString(Texts::Plan::Not_Written).arg(path), QString::fromLocal8Bit(std::strerror(errno))};
 }
 
 // RFC 4180, 2.
@@ -75,7 +76,7 @@ Hand_Over_Trouble Hand_Over::Begin()
     const QString spool = folder + QLatin1String("/spool");
     const bool has_files = !QDir(spool).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).isEmpty();
     if (has_files || QFile::exists(folder + QLatin1String("/list.csv")))
-        return {folder + QLatin1String(" is not used"), QStringLiteral("it holds an earlier hand-over")};
+        return {QString(Texts::Plan::Not_Used).arg(folder), Texts::Plan::Holds_Another};
     if (!Make_Folder_If_Missing(folder, Only_The_User) || !Make_Folder_If_Missing(spool, Only_The_User))
         return Not_Written(spool);
     m_list = "\xEF\xBB\xBFnumber,text,encoding,parts\r\n"; // with the mark by which spreadsheets know UTF-8

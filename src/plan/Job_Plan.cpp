@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int Rows_Ahead = 16; // whose look-ups overlap
+constexpr std::size_t Rows_At_A_Time = 1024;
 
 QString Sentence(QString clause)
 {
@@ -78,16 +78,32 @@ void Job_Plan::Add_To(Recipient_List& recipients, const QString& message) const
         else
             recipients.Append(number, message);
     };
+    std::vector<Packed_Number> numbers; // of the rows that are added together
+    std::vector<int> rows;
+    const auto add_gathered = [&] {
+        recipients.Append_From_Table(numbers, message, m_table, rows);
+        numbers.clear();
+        rows.clear();
+    };
+    recipients.Expect(Count());
     for (int row = 0; row < Count(); ++row) {
-        if (row + Rows_Ahead < Count())
-            recipients.Numbers().Fetch(Entry_At(row + Rows_Ahead).number);
         if (Verdict_Of(row) != Row_Verdict::Send)
             continue;
-        if (const Packed_Number& packed = Entry_At(row).number; !packed.Is_Empty())
+        const Packed_Number& packed = Entry_At(row).number;
+        if (Has_Fields() && !packed.Is_Empty()) {
+            numbers.push_back(packed);
+            rows.push_back(row);
+            if (rows.size() == Rows_At_A_Time)
+                add_gathered();
+            continue;
+        }
+        add_gathered();
+        if (!packed.Is_Empty())
             add(row, packed);
         else
             add(row, Number_Read(row));
     }
+    add_gathered();
 }
 
 // ---------------------------------------------------------------------------------------------------------- numbers

@@ -1,7 +1,8 @@
 #include "plan/Time_Words.h"
 
+#include "texts/Reading_Language.h"
+
 #include <QCoreApplication>
-#include <QLocale>
 #include <QStringList>
 #include <algorithm>
 #include <cmath>
@@ -14,29 +15,35 @@ constexpr qint64 Most_Minutes_Alone = 90;
 constexpr qint64 Most_Hours_With_Minutes = 24;
 constexpr double Most_Seconds = 1e9; // thirty years; a date beyond it would be no help
 
-QString Told(const char* text)
+struct Words
 {
-    return QCoreApplication::translate("Time_Words", text);
+    Q_DECLARE_TR_FUNCTIONS(Time_Words)
+};
+
+// One has a word of its own, also where nothing is translated.
+QString Recipients(int count)
+{
+    return count == 1 ? Words::tr("1 recipient") : Words::tr("%n recipients", nullptr, count);
 }
 
-/// A number with its word; one has a word of its own.
-QString Counted(int count, const char* one, const char* several)
+QString Messages(int count)
 {
-    return count == 1 ? Told(one) : QCoreApplication::translate("Time_Words", several, nullptr, count);
+    return count == 1 ? Words::tr("1 message") : Words::tr("%n messages", nullptr, count);
 }
 
 QString Records_Kept(const Send_Choices& choices)
 {
     QStringList kept;
     if (choices.save_sent_items)
-        kept.append(Told("sent items"));
+        kept.append(Words::tr("sent items"));
     if (choices.save_templates)
-        kept.append(Told("templates"));
+        kept.append(Words::tr("templates"));
     if (choices.confirm.confirms && choices.confirm.keeps_receipt)
-        kept.append(Told("a receipt"));
+        kept.append(Words::tr("a receipt"));
     if (!kept.isEmpty())
-        return Told("to be kept: %1").arg(kept.join(Told(" and ")));
-    return choices.confirm.confirms ? Told("the record goes when all is done") : Told("no record will be kept");
+        return Words::tr("to be kept: %1").arg(kept.join(Words::tr(" and ")));
+    return choices.confirm.confirms ? Words::tr("the record goes when all is done")
+                                    : Words::tr("no record will be kept");
 }
 
 } // namespace
@@ -45,13 +52,13 @@ QString Time_Words::About(double seconds)
 {
     const auto minutes = static_cast<qint64>(std::ceil(std::clamp(seconds, 0.0, Most_Seconds) / Seconds_In_Minute));
     if (seconds < Seconds_In_Minute)
-        return Told("less than a minute");
+        return Words::tr("less than a minute");
     if (minutes <= Most_Minutes_Alone)
-        return Told("about %1 min").arg(minutes);
+        return Words::tr("about %1 min").arg(minutes);
     const qint64 hours = minutes / Minutes_In_Hour;
     if (hours < Most_Hours_With_Minutes)
-        return Told("about %1 h %2 min").arg(hours).arg(minutes % Minutes_In_Hour);
-    return Told("about %1 h").arg((minutes + Minutes_In_Hour - 1) / Minutes_In_Hour);
+        return Words::tr("about %1 h %2 min").arg(hours).arg(minutes % Minutes_In_Hour);
+    return Words::tr("about %1 h").arg((minutes + Minutes_In_Hour - 1) / Minutes_In_Hour);
 }
 
 QString Time_Words::Until(double seconds, const QDateTime& now)
@@ -60,26 +67,26 @@ QString Time_Words::Until(double seconds, const QDateTime& now)
     const QString time = end.toString(QStringLiteral("HH:mm"));
     const qint64 days = now.date().daysTo(end.date());
     if (days == 0)
-        return Told("until %1").arg(time);
+        return Words::tr("until %1").arg(time);
     if (days == 1)
-        return Told("until tomorrow, %1").arg(time);
-    return Told("until %1, %2").arg(QLocale::c().toString(end.date(), QStringLiteral("d MMMM yyyy")), time);
+        return Words::tr("until tomorrow, %1").arg(time);
+    return Words::tr("until %1, %2")
+        .arg(Reading_Language::Locale().toString(end.date(), Words::tr("d MMMM yyyy")), time);
 }
 
 QString Time_Words::Promise(const Job_Sums& sums, double seconds, const Send_Choices& choices, const QDateTime& now)
 {
     if (sums.recipients == 0)
-        return Told("Nobody in the list will be sent anything.");
-    return QStringList{Counted(sums.recipients, "1 recipient", "%n recipients"),
-                       Counted(sums.parts, "1 message", "%n messages"), About(seconds), Until(seconds, now),
+        return Words::tr("Nobody in the list will be sent anything.");
+    return QStringList{Recipients(sums.recipients), Messages(sums.parts), About(seconds), Until(seconds, now),
                        Records_Kept(choices)}
-        .join(Told(", "));
+        .join(Words::tr(", "));
 }
 
 QString Time_Words::Left(const Time_Left::Answer& answer, const QDateTime& now)
 {
-    const QString left = Told("%1 left").arg(About(answer.seconds));
+    const QString left = Words::tr("%1 left").arg(About(answer.seconds));
     if (answer.is_held)
-        return Told("%1 once it goes on").arg(left);
-    return left + Told(", ") + Until(answer.seconds, now);
+        return Words::tr("%1 once it goes on").arg(left);
+    return left + Words::tr(", ") + Until(answer.seconds, now);
 }

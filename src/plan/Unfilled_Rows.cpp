@@ -12,10 +12,10 @@ constexpr qsizetype Longest_Name = 30;
 constexpr QLatin1String Opening("{{");
 constexpr QLatin1String Closing("}}");
 
-QString Told(const char* text, int count = -1)
+struct Words
 {
-    return QCoreApplication::translate("Unfilled_Rows", text, nullptr, count);
-}
+    Q_DECLARE_TR_FUNCTIONS(Unfilled_Rows)
+};
 
 // Of {{Name}}, as it is written; nothing for a row that has another fault.
 QString Name_In(const QString& placeholder)
@@ -35,15 +35,15 @@ QString Unfilled_Rows::In_Words() const
     if (count == 0)
         return {};
     if (name.isEmpty() && count == 1)
-        return Told("1 recipient gets nothing: %1.").arg(reason);
+        return Words::tr("1 recipient gets nothing: %1.").arg(reason);
     if (name.isEmpty())
-        return Told("%n recipients get nothing. Of the first, %1.", count).arg(reason);
+        return Words::tr("%n recipients get nothing. Of the first, %1.", nullptr, count).arg(reason);
     if (is_unknown)
-        return (count == 1 ? Told("There is no field %1: 1 recipient gets nothing.")
-                           : Told("There is no field %1: %n recipients get nothing.", count))
+        return (count == 1 ? Words::tr("There is no field %1: 1 recipient gets nothing.")
+                           : Words::tr("There is no field %1: %n recipients get nothing.", nullptr, count))
             .arg(name);
-    return (count == 1 ? Told("1 recipient has no %1: it gets nothing.")
-                       : Told("%n recipients have no %1: they get nothing.", count))
+    return (count == 1 ? Words::tr("1 recipient has no %1: it gets nothing.")
+                       : Words::tr("%n recipients have no %1: they get nothing.", nullptr, count))
         .arg(name);
 }
 

@@ -205,12 +205,14 @@ QString Append_Note_Path(const QString& path)
 
 void Clear_Up_After_A_Kill(const QString& folder, const QString& extension)
 {
-    const QString any_file = QLatin1Char('*') + extension;
-    const QStringList left = {Replacement_Path(any_file), Replacement_Path(Kept_Path(any_file)),
-                              Append_Note_Path(any_file)};
-    QDirIterator files(folder, left, QDir::Files | QDir::Hidden | QDir::System | QDir::CaseSensitive);
+    const QStringList left = {Replacement_Path(extension), Replacement_Path(Kept_Path(extension)),
+                              Append_Note_Path(extension)};
+    QDirIterator files(folder, QDir::Files | QDir::Hidden | QDir::System);
     while (files.hasNext()) {
         const QString name = files.next();
+        // No filter of names: the toolkit would make a pattern of each, at every start.
+        if (std::none_of(left.begin(), left.end(), [&](const QString& end) { return name.endsWith(end); }))
+            continue;
         const QString noted = name.chopped(Append_Note_Path({}).size());
         const File_Lock lock(noted);
         if (!name.endsWith(Append_Note_Path({})) || Append_Note::Undo(noted))

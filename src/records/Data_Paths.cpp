@@ -27,6 +27,11 @@ QString Default_Resource_Path()
     return data_home + QStringLiteral("/corvane/Resources");
 }
 
+QString Settings_Beside(const QString& resource_path)
+{
+    return QFileInfo(resource_path).path() + QStringLiteral("/Settings.ini");
+}
+
 void Set_Data_Paths(const QString& resource_path)
 {
     Resource_Path = resource_path;
@@ -37,7 +42,7 @@ void Set_Data_Paths(const QString& resource_path)
     Exclusion_Folder_Path = Corvane_Data_Folder_Path + QStringLiteral("/Exclusion");
     Exclusion_Index_Path = Exclusion_Folder_Path + QStringLiteral("/ExListIndex.ZOVA");
     Jobs_Folder_Path = Resource_Path + QStringLiteral("/Jobs");
-    Settings_Path = QFileInfo(Resource_Path).path() + QStringLiteral("/Settings.ini");
+    Settings_Path = Settings_Beside(Resource_Path);
 }
 
 bool Create_Resource_Folder()

@@ -20,6 +20,9 @@ extern QString Settings_Path;            ///< what the user wants remembered; ma
 /// The resource folder for this user, from XDG_DATA_HOME or its default ~/.local/share. Nothing is created.
 QString Default_Resource_Path();
 
+/// Where the settings are that go with a resource folder.
+QString Settings_Beside(const QString& resource_path);
+
 /// Sets Resource_Path and every path derived from it.
 void Set_Data_Paths(const QString& resource_path);
 

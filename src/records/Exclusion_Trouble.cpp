@@ -9,10 +9,10 @@ namespace {
 constexpr qsizetype Longest_Shown_Name = 20;
 constexpr qsizetype Most_Shown = 24; // characters of all names together: they share a line with other words
 
-QString Told(const char* text)
+struct Words
 {
-    return QCoreApplication::translate("Exclusion_Trouble", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Exclusion_Trouble)
+};
 
 QString Shown_Name(const QString& name)
 {
@@ -38,17 +38,18 @@ QStringList Shown_Names(const QStringList& names)
 QString Exclusion_Trouble(const Exclusion_Files::Applied_Numbers& applied)
 {
     if (!applied.is_readable)
-        return Told("The file that says which exclusion lists are applied\ncan not be read: no number is excluded.");
+        return Words::tr(
+            "The file that says which exclusion lists are applied\ncan not be read: no number is excluded.");
     const QStringList& names = applied.unusable_lists;
     if (names.isEmpty())
         return {};
     if (names.size() == 1)
-        return Told("The exclusion list %1\ncan not be used: its numbers are not excluded.")
+        return Words::tr("The exclusion list %1\ncan not be used: its numbers are not excluded.")
             .arg(Shown_Name(names.first()));
     const QStringList shown = Shown_Names(names);
     const QString which = shown.join(QStringLiteral(", "));
     if (names.size() == shown.size())
-        return Told("The exclusion lists %1\ncan not be used: their numbers are not excluded.").arg(which);
-    return Told("The exclusion lists %1 and %2 more\ncan not be used: their numbers are not excluded.")
+        return Words::tr("The exclusion lists %1\ncan not be used: their numbers are not excluded.").arg(which);
+    return Words::tr("The exclusion lists %1 and %2 more\ncan not be used: their numbers are not excluded.")
         .arg(which, QString::number(names.size() - shown.size()));
 }

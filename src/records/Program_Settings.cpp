@@ -1,20 +1,18 @@
 #include "records/Program_Settings.h"
 
-#include "platform/File_Steps.h"
 #include "platform/Folders_And_Files.h"
-#include "platform/Text_Files.h"
+#include "platform/Settings_File.h"
 
-#include <QFileInfo>
 #include <QSettings>
 
 namespace {
 
 constexpr unsigned Only_The_User = 0600;
-constexpr qint64 Largest_File = 1 << 16;
 
 constexpr char Group[] = "Confirming";
 constexpr char Not_Wanted[] = "false";
 constexpr char Chosen_Look[] = "Windows/Appearance";
+constexpr char Chosen_Language[] = "Windows/Language";
 
 // The fields, each with the name that it has in the file.
 constexpr std::pair<const char*, bool Confirm_Choices::*> Fields[] = {
@@ -23,43 +21,16 @@ constexpr std::pair<const char*, bool Confirm_Choices::*> Fields[] = {
     {"Confirming/KeepReceipt", &Confirm_Choices::keeps_receipt},
 };
 
-// The lock of a write that was killed would be waited for; nobody else writes here.
-bool Has_No_Lock_Left(const QString& path)
-{
-    return Remove_File(path + QStringLiteral(".lock"));
-}
-
-// What is wrong with a file shows only once all of it was looked at.
-bool Is_Of_No_Use(const QString& path)
-{
-    const QSettings settings(path, QSettings::IniFormat);
-    const bool is_empty = settings.allKeys().isEmpty();
-    return is_empty || settings.status() != QSettings::NoError;
-}
-
 QString Key_Of_Notice(const QString& name)
 {
     return QStringLiteral("Notices/") + name;
 }
 
-bool Is_Written(QSettings& settings)
-{
-    settings.sync();
-    return settings.status() == QSettings::NoError;
-}
-
 } // namespace
-
-// Neither a pipe nor a disk image that somebody put there is opened.
-bool Program_Settings::Is_Usable() const
-{
-    return File_Steps::Is_Regular_Or_Missing(File_Steps::Native_Name(m_path)) &&
-           QFileInfo(m_path).size() <= Largest_File;
-}
 
 std::optional<Confirm_Choices> Program_Settings::Remembered() const
 {
-    if (Is_Missing(m_path) || !Is_Usable() || Is_Of_No_Use(m_path))
+    if (Settings_File(m_path).Has_Nothing())
         return std::nullopt;
     const QSettings settings(m_path, QSettings::IniFormat);
     Confirm_Choices choices;
@@ -74,7 +45,7 @@ std::optional<Confirm_Choices> Program_Settings::Remembered() const
 
 bool Program_Settings::Make_Usable() const
 {
-    return Is_Usable() && Has_No_Lock_Left(m_path) && (!Is_Of_No_Use(m_path) || Remove_File(m_path));
+    return Settings_File(m_path).Make_Usable();
 }
 
 bool Program_Settings::Remember(const Confirm_Choices& choices) const
@@ -84,7 +55,8 @@ bool Program_Settings::Remember(const Confirm_Choices& choices) const
     QSettings settings(m_path, QSettings::IniFormat);
     for (const auto& [name, field] : Fields)
         settings.setValue(QLatin1String(name), choices.*field);
-    return Is_Written(settings) && Set_Permissions(m_path, Only_The_User);
+    settings.sync();
+    return settings.status() == QSettings::NoError && Set_Permissions(m_path, Only_The_User);
 }
 
 bool Program_Settings::Forget() const
@@ -109,35 +81,35 @@ QString Program_Settings::Appearance() const
 
 bool Program_Settings::Choose_Appearance(const QString& name) const
 {
-    return name.isEmpty() ? Remove_Key(QLatin1String(Chosen_Look)) : Write_Word(QLatin1String(Chosen_Look), name);
+    return Write_Word(QLatin1String(Chosen_Look), name);
+}
+
+QString Program_Settings::Language() const
+{
+    return Word_At(QLatin1String(Chosen_Language));
+}
+
+bool Program_Settings::Choose_Language(const QString& letters) const
+{
+    return Write_Word(QLatin1String(Chosen_Language), letters);
 }
 
 QString Program_Settings::Word_At(const QString& key) const
 {
-    if (Is_Missing(m_path) || !Is_Usable() || Is_Of_No_Use(m_path))
-        return {};
-    const QSettings settings(m_path, QSettings::IniFormat);
-    return settings.value(key).toString();
+    return Settings_File(m_path).Word_At(key);
 }
 
 bool Program_Settings::Write_Word(const QString& key, const QString& word) const
 {
-    if (!Make_Usable())
-        return false;
-    QSettings settings(m_path, QSettings::IniFormat);
-    settings.setValue(key, word);
-    return Is_Written(settings) && Set_Permissions(m_path, Only_The_User);
+    return Settings_File(m_path).Put_Word(key, word);
 }
 
-// A key with all below it.
 bool Program_Settings::Remove_Key(const QString& key) const
 {
-    if (Is_Missing(m_path))
-        return true;
-    if (!Is_Usable() || !Has_No_Lock_Left(m_path))
-        return false;
-    QSettings settings(m_path, QSettings::IniFormat);
-    settings.remove(key);
-    const bool is_empty = settings.allKeys().isEmpty();
-    return Is_Written(settings) && (!is_empty || Remove_File(m_path));
+    return Settings_File(m_path).Remove_Key(key);
+}
+
+bool Program_Settings::Is_Usable() const
+{
+    return Settings_File(m_path).Is_Usable();
 }

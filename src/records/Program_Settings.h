@@ -38,6 +38,11 @@ public:
     /// An empty name forgets the choice. Answers no when the file cannot be written.
     bool Choose_Appearance(const QString& name) const;
 
+    /// The two letters of the language that was chosen; empty when it is the desktop's.
+    QString Language() const;
+    /// Empty letters forget the choice. Answers no when the file cannot be written.
+    bool Choose_Language(const QString& letters) const;
+
 private:
     QString Word_At(const QString& key) const;
     bool Write_Word(const QString& key, const QString& word) const;

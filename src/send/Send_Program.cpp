@@ -1,5 +1,6 @@
 #include "send/Send_Program.h"
 
+#include "doctor/Doctor_Report.h"
 #include "doctor/Port_Doctor.h"
 #include "plan/Hand_Over.h"
 #include "platform/Interface_Thread.h"
@@ -128,9 +129,9 @@ int Send_Program::Look_At_Devices()
     Port_Doctor::Wishes wishes;
     wishes.paths = m_arguments.devices;
     wishes.is_over = [this] { return m_signals.Is_Asked(); };
-    wishes.on_finding = [this](const Finding& finding) { m_printer->Found(finding); };
+    wishes.on_finding = [this](const Finding& finding) { m_printer->Found(Without_Numbers(finding)); };
     wishes.on_looking_at = [this](const QString& name) {
-        m_printer->Progress(QStringLiteral("Asking ") + name + QStringLiteral(" ..."));
+        m_printer->Progress(QStringLiteral("Asking ") + Without_Numbers(name) + QStringLiteral(" ..."));
     };
     QStringList ready;
     Run_On_Worker([&] { ready = Port_Doctor(wishes).Look(); });

@@ -29,6 +29,10 @@ inline constexpr Fixed_Text For_Diagnostics{"%1 is for the maker's diagnostics, 
 inline constexpr Fixed_Text For_Sound{"%1 is for sound, not for messages."};
 inline constexpr Fixed_Text Left_Alone{"This system's settings say that %1 is no modem's port."};
 inline constexpr Fixed_Text Use_Another_Port{"Use another port of the same device."};
+inline constexpr Fixed_Text For_Packets{"%1 speaks QMI or MBIM, and no AT commands."};
+inline constexpr Fixed_Text Needs_Commands{"Use a port of the device that takes AT commands, or another modem."};
+inline constexpr Fixed_Text No_Serial_Port{"%1 takes AT commands, but is no serial port."};
+inline constexpr Fixed_Text Needs_Serial_Port{"Use a serial port of the device, or another modem."};
 
 // The right to open it.
 inline constexpr Fixed_Text Barred{"Your account may not open %1."};
@@ -96,6 +100,8 @@ inline constexpr Fixed_Text Send_To_Yourself{"Send one message to yourself befor
 // The signal.
 inline constexpr Fixed_Text Signal{"The signal is strong enough (%1 dBm)."};
 inline constexpr Fixed_Text Weak_Signal{"The signal is weak (%1 dBm)."};
+inline constexpr Fixed_Text Signal_Percent{"The signal is strong enough (%1 %)."};
+inline constexpr Fixed_Text Weak_Signal_Percent{"The signal is weak (%1 %)."};
 inline constexpr Fixed_Text Move_It{"Move the device or its aerial to a window."};
 inline constexpr Fixed_Text Signal_Unknown{"The device does not say how strong the signal is."};
 

@@ -2,8 +2,8 @@
 
 #include <QString>
 
-// A text that the user reads, in its original English. Converts to a QString on its own where one is needed. A value
-// that lives as long as the program; any thread.
+// A text that the user reads, kept in its original English. Converts to a QString on its own where one is needed, in
+// the language that the user reads. A value that lives as long as the program; any thread.
 class Fixed_Text
 {
 public:

@@ -6,6 +6,7 @@
 namespace Texts::Receipts {
 
 inline constexpr Fixed_Text Title{"Receipt"};
+inline constexpr Fixed_Text Sum{"%1: %2."}; // what, and how many
 
 // About the job.
 inline constexpr Fixed_Text Job{"Job"};
@@ -13,6 +14,7 @@ inline constexpr Fixed_Text Began{"Began"};
 inline constexpr Fixed_Text Device{"Device"};
 inline constexpr Fixed_Text Card{"SIM card"};
 inline constexpr Fixed_Text State{"State"};
+inline constexpr Fixed_Text Moment{"d MMMM yyyy, HH:mm"}; // how a date and a time are written
 inline constexpr Fixed_Text Card_Ends_With{"ends with "};
 inline constexpr Fixed_Text Has_Ended{"ended"};
 inline constexpr Fixed_Text Has_Not_Ended{"not ended"};

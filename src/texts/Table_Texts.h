@@ -12,6 +12,13 @@ inline constexpr Fixed_Text Unreadable{"it is larger than %1 bytes, or may not b
 inline constexpr Fixed_Text Empty{"it is empty"};
 inline constexpr Fixed_Text No_Text{"it is no text: line %1 holds characters that no list has"};
 inline constexpr Fixed_Text Other_Kind{"it is %1, and no list"};
+inline constexpr Fixed_Text Pdf{"a PDF document"};
+inline constexpr Fixed_Text Program{"a program"};
+inline constexpr Fixed_Text Compressed{"a compressed file"};
+inline constexpr Fixed_Text Picture{"a picture"};
+inline constexpr Fixed_Text Web_Page{"a web page"};
+inline constexpr Fixed_Text Xml{"an XML document"};
+inline constexpr Fixed_Text Archive{"an archive"};
 inline constexpr Fixed_Text Rich_Text{"it is rich text; its numbers can be imported under a name that ends in .rtf"};
 inline constexpr Fixed_Text Spreadsheet{"it is a spreadsheet or an archive, and no list of numbers alone"};
 inline constexpr Fixed_Text Cards{"it holds contacts, and not numbers alone"};
@@ -31,6 +38,7 @@ inline constexpr Fixed_Text Quote_Not_Closed{"the quote that opens in line %1 is
 // Spreadsheets and contacts.
 inline constexpr Fixed_Text No_Sheets{"it has no sheets"};
 inline constexpr Fixed_Text No_Such_Sheet{"it has no sheet \"%1\"; its sheets are %2"};
+inline constexpr Fixed_Text More_Sheets{"and %1 more"};
 inline constexpr Fixed_Text Damaged{"it is damaged, or only a part of it"};
 inline constexpr Fixed_Text Card_Without_End{"the contact that begins in line %1 has no end"};
 

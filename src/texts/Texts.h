@@ -27,6 +27,9 @@ namespace Texts::Main {
 inline constexpr Fixed_Text No_Data{"Can not access Corvane Data file."};
 inline constexpr Fixed_Text Exit{"\nDo you really want to exit from 'Corvane'?"};
 inline constexpr Fixed_Text No_Device{"No Mobile Phone Device is selected."};
+inline constexpr Fixed_Text Choose_Device{
+    "No Mobile Phone Device is selected. Click here to start Mobile Phone Connection Wizard."};
+inline constexpr Fixed_Text Apply_To_List{"Apply this\r\nmessage to\r\nlist items"};
 inline constexpr Fixed_Text List_Empty{"Phone numbers-Messages list is empty."};
 inline constexpr Fixed_Text None_Selected{
     "Please select at least one record from the phone numbers-messages list to continue."};
@@ -87,8 +90,21 @@ inline constexpr Fixed_Text Of_Messages{" Message"};
 
 } // namespace Texts::Sending
 
+// How long a pause of a job is. The numbers are whole.
+namespace Texts::Pause {
+
+inline constexpr Fixed_Text Hours{"Pausing the process for %1 Hour %2 Minute %3 Seconds."};
+inline constexpr Fixed_Text Minutes{"Pausing the process for %1 Minute %2 Seconds."};
+inline constexpr Fixed_Text Seconds{"Pausing the process for %1 Seconds."};
+
+} // namespace Texts::Pause
+
 // The notice of a message that has grown past one SMS.
 namespace Texts::Long_Message {
+
+// %2 is a number and the letters SMS, which every language has.
+inline constexpr Fixed_Text Characters{"%1 Characters"};
+inline constexpr Fixed_Text Several{"%1 Characters (Each Message will now consume %2)"};
 
 inline constexpr Fixed_Text Plain{
     "Your current message is exceeding the typical SMS Length of 160 Characters. Messages of more than 160 characters "
@@ -115,6 +131,9 @@ inline constexpr Fixed_Text Templates_Empty_At_Clear_All{"Templates items list i
 inline constexpr Fixed_Text Templates_Empty_At_Update{"Templates number list is empty."};
 inline constexpr Fixed_Text No_Template_Selected{
     "Please select at least one record from the templates list to continue."};
+inline constexpr Fixed_Text Add_Templates{"Add Templates"};
+inline constexpr Fixed_Text Update_Templates{"Update Templates"};
+inline constexpr Fixed_Text Sent_Item{"Number\t: %1\r\n\r\nMessage\t: %2\r\n\r\nDate:\t %3"};
 inline constexpr Fixed_Text Template_Missing{"Please type template message."};
 inline constexpr Fixed_Text Template_Exists{"Entered template already exists."};
 // The quotation marks do not pair up; that is how the text reads.

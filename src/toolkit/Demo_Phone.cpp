@@ -26,8 +26,7 @@ QString Demo_Phone::Start(const QString& program)
     Wait_Seconds_Unless(five_real_seconds,
                         [this] { return !m_path.isEmpty() || m_process.state() == QProcess::NotRunning; });
     if (m_path.isEmpty())
-        m_error = QStringLiteral("The virtual phone could not be started: ") + program + QStringLiteral(": ") +
-                  m_process.errorString();
+        m_error = tr("The virtual phone could not be started: %1: %2").arg(program, m_process.errorString());
     return m_path;
 }
 

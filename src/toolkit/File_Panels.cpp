@@ -1,5 +1,6 @@
 #include "toolkit/File_Panels.h"
 
+#include "toolkit/Remembered.h"
 #include "toolkit/Window_Fit.h"
 
 #include <QFileDialog>
@@ -9,8 +10,11 @@
 
 namespace {
 
+const QString Folder_Key = QStringLiteral("Folder");
+
 // The program's own panel and not the desktop's: it looks and works the same everywhere, and asks about the name that
 // will really be written to.
+// It opens in the folder in which the last one was accepted, while that is there.
 class File_Panel : public QFileDialog
 {
 public:
@@ -18,6 +22,9 @@ public:
     {
         setOption(QFileDialog::DontUseNativeDialog);
         Fit_Window(*this, Letters{.columns = 115, .lines = 34});
+        const QString folder = Remembered::Word_For(Folder_Key);
+        if (!folder.isEmpty() && QFileInfo(folder).isDir())
+            setDirectory(folder);
         if (auto* files = findChild<QTreeView*>(QStringLiteral("treeView"))) { // names and dates in full
             files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
             files->header()->setResizeContentsPrecision(0); // of the visible ones: a folder may be large
@@ -28,6 +35,7 @@ public:
     {
         if (exec() != QDialog::Accepted || selectedFiles().isEmpty())
             return std::nullopt;
+        Remembered::Put(Folder_Key, directory().absolutePath());
         return selectedFiles().front();
     }
 };

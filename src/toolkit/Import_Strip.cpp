@@ -17,7 +17,7 @@ QString Import_In_Words(const Import_Report& report)
     if (unused == 1)
         words = Import_Strip::tr("%1 added, 1 line not used.").arg(report.Added());
     else if (unused > 1)
-        words = Import_Strip::tr("%1 added, %2 lines not used.").arg(report.Added()).arg(unused);
+        words = Import_Strip::tr("%1 added, %n lines not used.", nullptr, unused).arg(report.Added());
     if (report.Ended() == Import_Report::End::Early)
         return Import_Strip::tr("%1\nThen it ended early.").arg(words);
     return report.Added() + unused > 0 ? words : Import_Strip::tr("0 added: there was no text that could be read.");

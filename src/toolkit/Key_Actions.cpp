@@ -61,6 +61,23 @@ private:
     int m_held_key = No_Key;
 };
 
+class Repeat_Drop : public QObject
+{
+public:
+    Repeat_Drop() : QObject(qApp) { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease)
+            return false;
+        if (static_cast<const QKeyEvent&>(*event).isAutoRepeat())
+            return true;
+        qApp->removeEventFilter(this);
+        deleteLater();
+        return false;
+    }
+};
+
 // The table itself moves from its current row to another and selects that. The first row, which is current when the
 // table gets the focus, would be skipped, and an only row could never be selected.
 class First_Selection : public QObject
@@ -103,6 +120,11 @@ private:
 void Act_On_Keys(QWidget& control, const QList<int>& keys, std::function<void()> action)
 {
     new Key_Action(control, keys, std::move(action)); // the control owns it
+}
+
+void Drop_Repeats()
+{
+    new Repeat_Drop; // the application owns it until it is over
 }
 
 void Give_Table_Keys(QTableView& table, const Table_Actions& actions)

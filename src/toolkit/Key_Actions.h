@@ -12,6 +12,10 @@ class QWidget;
 /// Acts each time one of the keys (Qt::Key) is pressed in a control, without modifiers.
 void Act_On_Keys(QWidget& control, const QList<int>& keys, std::function<void()> action);
 
+/// Drops what a key that is held down repeats, whichever window is in front, until it is released or another is
+/// pressed.
+void Drop_Repeats();
+
 /// Return, and Enter on the number pad.
 inline const QList<int> Return_Keys = {Qt::Key_Return, Qt::Key_Enter};
 

@@ -57,7 +57,7 @@ void Select_Alone(QTableView& table, int row)
     table.setSelectionMode(mode);
 }
 
-std::vector<int> Rows_Selected_In(const QTableView& table)
+std::vector<int> Rows_Selected_As_Shown(const QTableView& table)
 {
     std::vector<int> rows;
     const auto ranges = table.selectionModel()->selection();
@@ -67,6 +67,17 @@ std::vector<int> Rows_Selected_In(const QTableView& table)
     }
     std::sort(rows.begin(), rows.end());
     rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    if (const auto* model = qobject_cast<const Row_Table_Model*>(table.model()); model && !model->Shows_All()) {
+        for (int& row : rows)
+            row = model->List_Row(row);
+    }
+    return rows;
+}
+
+std::vector<int> Rows_Selected_In(const QTableView& table)
+{
+    std::vector<int> rows = Rows_Selected_As_Shown(table);
+    std::sort(rows.begin(), rows.end());
     return rows;
 }
 

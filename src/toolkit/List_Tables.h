@@ -20,12 +20,15 @@ public:
 /// is.
 void Prepare_List_Table(QTableView& table, Row_Table_Model& rows);
 
-/// The selected rows in ascending order.
+/// The selected rows in ascending order, as the list counts them, which a Row_Table_Model may show otherwise.
 std::vector<int> Rows_Selected_In(const QTableView& table);
 
-/// Selects a row and no other, whatever keys are held down.
+/// The same in the order in which the table shows them.
+std::vector<int> Rows_Selected_As_Shown(const QTableView& table);
+
+/// Selects a row of the table and no other, whatever keys are held down.
 void Select_Alone(QTableView& table, int row);
 
-/// Removes rows from the table that were removed from the list, and leaves only row 0 selected, if there is one.
+/// Removes rows from the table that were removed from the list, and leaves only its row 0 selected, if there is one.
 /// Listeners to the selection are notified once, when all is done.
 void Reload_And_Select_First(QTableView& table, Row_Table_Model& rows);

@@ -10,6 +10,17 @@
 
 namespace {
 
+struct Words
+{
+    Q_DECLARE_TR_FUNCTIONS(Message_Boxes)
+};
+
+// By its first letter, and not by an ampersand in its text, which is "Yes" or "No".
+void Give_Key(QPushButton& button)
+{
+    button.setShortcut(QKeySequence(Qt::ALT | static_cast<Qt::Key>(button.text().at(0).toUpper().unicode())));
+}
+
 QWidget* Window_On_Top()
 {
     if (QWidget* modal = QApplication::activeModalWidget())
@@ -30,7 +41,7 @@ void Tell(const QString& text)
     QMessageBox box(Window_On_Top());
     Prepare_Box(box, QStringLiteral("\n") + text);
     box.setIcon(QMessageBox::Information);
-    auto* ok = box.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
+    auto* ok = box.addButton(Words::tr("OK"), QMessageBox::AcceptRole);
     ok->setProperty("is_first", true);
     box.setDefaultButton(ok);
     box.setEscapeButton(ok);
@@ -42,11 +53,10 @@ bool Ask(const QString& text)
     QMessageBox box(Window_On_Top());
     Prepare_Box(box, text);
     box.setIcon(QMessageBox::Question);
-    auto* yes = box.addButton(QStringLiteral("Yes"), QMessageBox::YesRole);
-    auto* no = box.addButton(QStringLiteral("No"), QMessageBox::NoRole);
-    // Not by an ampersand in their texts, which are "Yes" and "No".
-    yes->setShortcut(QKeySequence(Qt::ALT | Qt::Key_Y));
-    no->setShortcut(QKeySequence(Qt::ALT | Qt::Key_N));
+    auto* yes = box.addButton(Words::tr("Yes"), QMessageBox::YesRole);
+    auto* no = box.addButton(Words::tr("No"), QMessageBox::NoRole);
+    Give_Key(*yes);
+    Give_Key(*no);
     yes->setProperty("is_first", true);
     box.setDefaultButton(yes);
     box.setEscapeButton(no);

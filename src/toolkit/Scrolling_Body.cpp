@@ -39,6 +39,18 @@ void Move_First_Row(QBoxLayout& from, QBoxLayout& to)
     }
 }
 
+// What lies on a page that is not shown would keep what it knew.
+void Forget_Sizes_Above(const QLayout& row)
+{
+    for (QObject* above = row.parent(); above; above = above->parent()) {
+        auto* widget = qobject_cast<QWidget*>(above);
+        if (auto* layout = widget ? widget->layout() : qobject_cast<QLayout*>(above))
+            layout->invalidate();
+        if (widget)
+            widget->updateGeometry();
+    }
+}
+
 } // namespace
 
 Scrolling_Body* Scrolling_Body::Made_For(QBoxLayout& column)
@@ -97,6 +109,26 @@ void Scrolling_Body::Fit_Into(int width)
             row_width = row->minimumSize().width();
         if (is_row != (row_width <= width))
             row->setDirection(is_row ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    }
+    Fold_Inner_Rows(width);
+}
+
+// Rows within others, the widest first, as long as one is what needs the width. They stay so: nothing but a larger
+// screen would give them more.
+void Scrolling_Body::Fold_Inner_Rows(int width)
+{
+    constexpr int Most_Around_A_Row = 120;
+    while (m_rows->totalMinimumSize().width() > width) {
+        QHBoxLayout* widest = nullptr;
+        for (auto* row : widget()->findChildren<QHBoxLayout*>()) {
+            if (row->parent() != m_rows && row->direction() == QBoxLayout::LeftToRight && row->count() > 1 &&
+                (!widest || row->minimumSize().width() > widest->minimumSize().width()))
+                widest = row;
+        }
+        if (!widest || widest->minimumSize().width() <= width - Most_Around_A_Row)
+            return;
+        widest->setDirection(QBoxLayout::TopToBottom);
+        Forget_Sizes_Above(*widest);
     }
 }
 

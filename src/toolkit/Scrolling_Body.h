@@ -35,6 +35,7 @@ protected:
 
 private:
     explicit Scrolling_Body(QBoxLayout& column);
+    void Fold_Inner_Rows(int width);
     void Watch_Boxes();
     void Bring_Into_Sight(const QWidget* control);
 

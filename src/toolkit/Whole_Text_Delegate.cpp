@@ -2,9 +2,11 @@
 
 #include "platform/One_Line.h"
 
+#include <QGuiApplication>
 #include <QHelpEvent>
 #include <QTextLayout>
 #include <QToolTip>
+#include <algorithm>
 
 namespace {
 
@@ -25,6 +27,16 @@ QString Painted(const QString& text)
 {
     const QString line = On_One_Line(Beginning(text, Most_Painted));
     return text.size() > Most_Painted ? line + QChar(0x2026) : line;
+}
+
+// Among words that are read from right to left, the plus would go behind its number.
+QString With_Its_Plus_In_Front(const QString& text)
+{
+    constexpr QChar left_to_right(0x2066);
+    constexpr QChar end(0x2069);
+    const bool is_number =
+        text.startsWith(u'+') && std::none_of(text.begin(), text.end(), [](QChar c) { return c.isLetter(); });
+    return QGuiApplication::isRightToLeft() && is_number ? left_to_right + text + end : text;
 }
 
 QStringList In_Lines(const QString& paragraph, const QFont& font, qreal width)
@@ -62,7 +74,7 @@ QString Tool_Tip_Of(const QString& text)
 
 QString Whole_Text_Delegate::displayText(const QVariant& value, const QLocale&) const
 {
-    return Painted(value.toString());
+    return With_Its_Plus_In_Front(Painted(value.toString()));
 }
 
 bool Whole_Text_Delegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,

@@ -1,12 +1,16 @@
 #include "toolkit/Window_Fit.h"
 
+#include "toolkit/Remembered.h"
 #include "toolkit/Scrolling_Body.h"
 
 #include <QBoxLayout>
 #include <QEvent>
 #include <QMainWindow>
+#include <QPushButton>
 #include <QScreen>
 #include <algorithm>
+#include <memory>
+#include <optional>
 #include <utility>
 
 namespace {
@@ -19,6 +23,11 @@ QLayout* Layout_Of(const QWidget& window)
     const auto* main_window = qobject_cast<const QMainWindow*>(&window);
     const QWidget* laid_out = main_window ? main_window->centralWidget() : &window;
     return laid_out ? laid_out->layout() : nullptr;
+}
+
+QLayout* Last_Layout_In(const QLayout& layout)
+{
+    return layout.count() == 0 ? nullptr : layout.itemAt(layout.count() - 1)->layout();
 }
 
 // Layouts maintain a window's smallest size themselves, except for texts that wrap, which need more height the narrower
@@ -35,8 +44,11 @@ public:
 
     bool eventFilter(QObject*, QEvent* event) override
     {
+        if (event->type() == QEvent::Hide && !event->spontaneous())
+            Remember_Size();
         if (!Has_A_Say())
             return false;
+        m_is_resized = m_is_resized || (event->type() == QEvent::Resize && event->spontaneous());
         switch (event->type()) {
         case QEvent::Show:
             if (!event->spontaneous())
@@ -80,8 +92,35 @@ private:
         return margins.left() + margins.right();
     }
 
+    // Buttons that a screen is too narrow for stand in two lines: those before the gap above the others. They are the
+    // last row, which may stand in a column of its own together with what belongs to them.
+    void Break_Buttons()
+    {
+        auto* column = qobject_cast<QBoxLayout*>(Layout_Of(m_window));
+        if (auto* inner = column ? qobject_cast<QVBoxLayout*>(Last_Layout_In(*column)) : nullptr)
+            column = inner;
+        const int last = column ? column->count() - 1 : -1;
+        auto* row = last < 0 ? nullptr : qobject_cast<QHBoxLayout*>(Last_Layout_In(*column));
+        if (!row || row->minimumSize().width() <= Room().width() - Margins())
+            return;
+        int gap = 0;
+        while (gap < row->count() && qobject_cast<QPushButton*>(row->itemAt(gap)->widget()))
+            ++gap;
+        if (gap == 0 || gap == row->count())
+            return;
+        auto* above = new QHBoxLayout;
+        above->setSpacing(row->spacing());
+        for (; gap > 0; --gap) {
+            const std::unique_ptr<QLayoutItem> item(row->takeAt(0));
+            above->addWidget(item->widget());
+        }
+        above->addStretch();
+        column->insertLayout(last, above);
+    }
+
     void Fold()
     {
+        Break_Buttons();
         if (m_body)
             m_body->Fit_Into(Room().width() - Margins() - m_body->Bar_Width());
     }
@@ -104,7 +143,25 @@ private:
             size.rheight() += m_body->Preferred_Height(body.width() + size.width() - hint.width()) - body.height();
         }
         size.setHeight(std::max(size.height(), m_first_size.lines * letters.lineSpacing()));
-        m_window.resize(size.boundedTo(Room()));
+        m_window.resize(Remembered_Size().value_or(size.boundedTo(Room())));
+    }
+
+    QString Size_Key() const { return QStringLiteral("Size/") + m_window.objectName(); }
+
+    // Only what a person made of it; and not what the desktop makes of it for a while.
+    void Remember_Size()
+    {
+        if (m_is_resized && !(m_window.windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen)))
+            Remembered::Put(Size_Key(), QStringLiteral("%1x%2").arg(m_window.width()).arg(m_window.height()));
+    }
+
+    // Nothing where it has no room on this screen.
+    std::optional<QSize> Remembered_Size() const
+    {
+        const QStringList sides = Remembered::Word_For(Size_Key()).split(u'x');
+        const QSize size(sides.first().toInt(), sides.last().toInt());
+        const bool fits = sides.size() == 2 && !size.isEmpty() && size.boundedTo(Room()) == size;
+        return fits ? std::optional(size) : std::nullopt;
     }
 
     QSize Needed() const
@@ -154,6 +211,7 @@ private:
     Scrolling_Body* m_body = nullptr;
     bool m_has_first_size = false;
     bool m_is_keeping = false;
+    bool m_is_resized = false; // by a person or by the desktop
 };
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "toolkit/Window_Look.h"
 
+#include "toolkit/Box_Clicks.h"
 #include "toolkit/Look.h"
 #include "toolkit/Program_Style.h"
 
@@ -16,6 +17,7 @@ void Apply_Application_Look(QApplication& application)
 {
     application.setStyle(new Program_Style); // the application owns it
     Choose_Look(Look::Light);
+    Tick_Boxes_By_Clicks();
 }
 
 // The application's palette alone has a say, so that a window follows when another look is chosen.

@@ -11,7 +11,8 @@ class QWidget;
 /// Red 241/255, green 244/255, blue 250/255 in the light look.
 QColor Window_Background();
 
-/// Gives the application one style, and the light look. Called once at start-up, before the first window.
+/// Gives the application one style, and the light look, and lets assistive tools tick its boxes. Called once at
+/// start-up, before the first window.
 void Apply_Application_Look(QApplication& application);
 
 /// Gives a window the program's background and manages its size (Fit_Window). Called once per window, after its layout

@@ -81,7 +81,7 @@ class Window:
         self.thing = thing or until(f"the window '{title}'", lambda: find_window(title))
 
     def all(self):
-        """Everything that is shown in the window, with the way to it; not the cells of tables and lists."""
+        """Everything that is shown in the window, with what it is in; not the cells of tables and lists."""
         return list(self._below(self.thing, []))
 
     def _below(self, thing, way):
@@ -90,7 +90,7 @@ class Window:
         for child in thing:
             if child and is_showing(child):
                 yield child, way
-                yield from self._below(child, way + ([described(child)] if child.name else []))
+                yield from self._below(child, way + [child])
 
     def has(self, name, role=None):
         return next((thing for thing, _ in self.all() if thing.name == name and role in (None, thing.getRole())), None)
@@ -107,6 +107,32 @@ class Window:
         if action is None:
             raise Trouble(f"{described(button)} in the window '{self.title}' can not be pressed: {names}")
         actions.doAction(action)
+
+    def shortcut(self, name):
+        """The key that is told for a control, as the X server's tools write it: "alt+s"; or None."""
+        actions = self.the(name).queryAction()
+        told = next(filter(None, (actions.getKeyBinding(index) for index in range(actions.nActions))), "")
+        return told.split(";")[0].lower().replace("enter", "Return") or None
+
+    def is_ticked(self, name):
+        return self.the(name, pyatspi.ROLE_CHECK_BOX).getState().contains(pyatspi.STATE_CHECKED)
+
+    def has_focus(self, name, roles):
+        """Whether the keyboard is at a control of one of these roles."""
+        goal = until(f"'{name}' in the window '{self.title}'", lambda: next(
+            (thing for thing, _ in self.all() if thing.name == name and thing.getRole() in roles), None))
+        return _has_focus(goal)
+
+    def await_keyboard(self):
+        until(f"the keyboard to come to the window '{self.title}'",
+              lambda: self.thing.getState().contains(pyatspi.STATE_ACTIVE))
+
+    def cell(self, table, row, column):
+        return self.the(table, pyatspi.ROLE_TABLE).queryTable().getAccessibleAt(row, column)
+
+    def await_focus_on_cell(self, table, row, column):
+        until(f"the keyboard to come to cell {column} of row {row} in '{table}'",
+              lambda: _has_focus(self.cell(table, row, column)))
 
     def tab_to(self, name, role):
         """Goes to a control by the keyboard alone. Without a window manager no window gets the keyboard back once a
@@ -141,10 +167,6 @@ class Window:
 
     def _focused(self):
         return next((thing for thing, _ in self.all() if _has_focus(thing)), None)
-
-    def click(self, name):
-        place = self.the(name).queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
-        pyatspi.Registry.generateMouseEvent(place.x + place.height // 2, place.y + place.height // 2, "b1c")
 
     def write(self, name, text):
         field = self.the(name, pyatspi.ROLE_TEXT)
@@ -190,28 +212,75 @@ def complaints_about(window, reads=(), tables=(), fields=()):
     return [f"window '{window.title}': {complaint}" for complaint in found]
 
 
+def _where(way):
+    named = [described(above) for above in way if above.name]
+    return " in " + ", ".join(named) if named else ""
+
+
 def _complaints_about_names(window):
     if not window.thing.name:
         yield "it has no title"
     seen = collections.Counter()
     for thing, way in window.all():
-        where = " in " + ", ".join(way) if way else ""
         role = thing.getRole()
         if role in NEED_A_NAME and not thing.name.strip():
-            yield f"a {thing.getRoleName()} without a name{where}"
+            yield f"a {thing.getRoleName()} without a name{_where(way)}"
         if role == pyatspi.ROLE_PASSWORD_TEXT:
-            yield f"{described(thing)} hides what is typed{where}"
+            yield f"{described(thing)} hides what is typed{_where(way)}"
         if role not in NEED_A_NAME or not thing.name:
             continue
         if re.search(r"\b(\w{2,})\W+\1\b", thing.name, re.IGNORECASE):
-            yield f"{described(thing)} says a word twice{where}"
+            yield f"{described(thing)} says a word twice{_where(way)}"
         if "&" in thing.name:
-            yield f"{described(thing)} reads out the mark of a key{where}"
+            yield f"{described(thing)} reads out the mark of a key{_where(way)}"
         part_of_a_box = thing.parent is not None and thing.parent.getRole() == pyatspi.ROLE_COMBO_BOX
         seen[described(thing)] += 0 if part_of_a_box else 1
     for name, times in seen.items():
         if times > 1:
             yield f"{times} controls are called {name}"
+
+
+def _told_of(event):
+    """The name and the role of what an event is about; nothing if that has gone meanwhile."""
+    try:
+        return [(event.source.name, event.source.getRole())] if event.source else []
+    except GLib.Error:
+        return []
+
+
+class Announcements:
+    """What is announced while something goes on: every name that changes."""
+
+    def __init__(self):
+        self.names = []
+        pyatspi.Registry.registerEventListener(self._hear, "object:property-change:accessible-name")
+
+    def _hear(self, event):
+        self.names += [name for name, _ in _told_of(event)]
+
+    def missing(self, expected):
+        """The first of the expected ones that was not heard after those before it."""
+        heard = iter(self.names)
+        return next((name for name in expected if name not in heard), None)
+
+
+class Places:
+    """Where the keyboard goes, as it is told, cells of tables and lists included: each a name and a role."""
+
+    def __init__(self):
+        self.all = []
+        pyatspi.Registry.registerEventListener(self._hear, "object:state-changed:focused")
+
+    def _hear(self, event):
+        if event.detail1:
+            self.all += _told_of(event)
+
+    def after(self, move):
+        """Where a move leads to, which must be somewhere."""
+        before = len(self.all)
+        move()
+        until(f"the keyboard to go on from {self.all[-1:]}", lambda: len(self.all) > before)
+        return self.all[-1]
 
 
 def press_key(keysym):

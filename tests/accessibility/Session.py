@@ -31,28 +31,48 @@ def _with_a_screen(command, folder):
         screen.wait()
 
 
-def run(visit):
-    """Called by a test's script with what is to be done in the session, once the program runs there: visit(data_folder,
-    start), where start() starts the program. Ends the script, with the complaints that visit returned."""
+class Children:
+    """What a session starts and ends."""
+
+    def __init__(self):
+        self._all = []
+
+    def start(self, *command, **how):
+        self._all.append(subprocess.Popen(command, **how))
+        return self._all[-1]
+
+    def start_window_manager(self):
+        """Returns once it is there. With it, a window gets the keyboard back when a dialog over it has gone."""
+        manager = self.start("openbox", "--sm-disable", "--startup", "echo ready", stdout=subprocess.PIPE,
+                             stderr=subprocess.DEVNULL, text=True)
+        if "ready" not in (line.strip() for line in iter(manager.stdout.readline, "")):
+            sys.exit("the window manager did not start")
+
+    def end(self):
+        for child in reversed(self._all):
+            child.terminate()
+            child.wait()
+
+
+def run(visit, praise):
+    """Called by a test's script with what is to be done in the session: visit(data_folder, start, children), where
+    start(arguments) starts the program, whose path is the script's first argument. Ends the script, with the complaints
+    that visit returned or, where there are none, with praise."""
     if "--inside" not in sys.argv:
         with tempfile.TemporaryDirectory(prefix="corvane-a11y-") as folder:
             inside = [sys.executable, *sys.argv, "--inside"]
             session = ["dbus-run-session", "--"]
             sys.exit(_with_a_screen(session + inside, folder))
 
-    program = None
+    children = Children()
 
-    def start():
-        nonlocal program
-        program = subprocess.Popen([sys.argv[1], "--demo"], stdout=subprocess.DEVNULL)
+    def start(*arguments):
+        return children.start(sys.argv[1], *arguments, stdout=subprocess.DEVNULL)
 
     data_folder = pathlib.Path(os.environ["XDG_DATA_HOME"]) / "corvane/Resources/CORVANE_DATA"
-    (data_folder / "Exclusion").mkdir(parents=True)
     try:
-        complaints = visit(data_folder, start)
+        complaints = visit(data_folder, start, children)
     finally:
-        if program:
-            program.terminate()
-            program.wait()
-    print("\n".join(complaints) if complaints else "every window can be read")
+        children.end()
+    print("\n".join(complaints) if complaints else praise)
     sys.exit(1 if complaints else 0)

@@ -65,6 +65,17 @@ public:
             Write_Bytes(folder + "/manufacturer", maker_name.toUtf8() + '\n');
     }
 
+    /// A port of a modem for mobile data, of which the kernel tells this type; the modem itself has none.
+    void Add_Wwan(const QString& name, const QByteArray& type)
+    {
+        const QString folder = Path("sys/class/wwan/" + name);
+        EXPECT_TRUE(QDir().mkpath(folder));
+        if (type.isEmpty())
+            return;
+        Write_Bytes(Node(name), {});
+        Write_Bytes(folder + "/type", type + '\n');
+    }
+
     void Add_Process(int number, const QByteArray& name)
     {
         EXPECT_TRUE(QDir().mkpath(Path("proc/%1/fd").arg(number)));

@@ -420,11 +420,13 @@ TEST_F(The_Doctor, A_Port_With_A_Lock_File_Or_A_Lock_Is_Not_Opened_And_Its_Progr
 {
     const Virtual_Phone phone;
     const QString path = QString::fromStdString(phone.Path());
-    m_system.Add_Process(1234, "minicom");
-    Write_Bytes(m_system.Path("lock/LCK.." + QFileInfo(path).fileName()), "      1234\n");
+    m_system.Add_Process(1234567, "minicom");
+    Write_Bytes(m_system.Path("lock/LCK.." + QFileInfo(path).fileName()), "   1234567\n");
     const Looked looked = Look(phone);
     EXPECT_THAT(looked.Marks(), ElementsAre("holder:bad"));
-    EXPECT_THAT(looked.Sentence(Finding::Check::Holder), HasSubstr("in use by minicom (process 1234)"));
+    EXPECT_THAT(looked.Sentence(Finding::Check::Holder), HasSubstr("in use by minicom (process 1234567)."));
+    EXPECT_THAT(Doctor_Report(looked.findings).toStdString(), HasSubstr("minicom (process 1234567). End"))
+        << "whoever is to end it needs its number";
     EXPECT_THAT(phone.Heard(), IsEmpty());
 }
 
@@ -486,6 +488,37 @@ TEST_F(The_Doctor, The_Report_Has_Every_Line_And_No_Number_Of_A_Person_A_Card_Or
     EXPECT_THAT(Long_Numbers(report), IsEmpty()) << report;
     EXPECT_THAT(report, AllOf(HasSubstr("E1550 IMEI"), Not(HasSubstr("7700")), Not(HasSubstr("ABCDEF")),
                               Not(HasSubstr("Meet me")), HasSubstr("✓ OK: The SIM card is ready.")));
+}
+
+// Numbers and texts in every place from which a device can tell any, also where nobody asks.
+TEST_F(The_Doctor, Nothing_That_A_Device_Keeps_Of_People_Gets_Into_The_Report)
+{
+    const struct
+    {
+        const char* command;
+        const char* answer;
+    } told[] = {{"AT+CGMI", "\r\n+CMT: \"+447700900101\",,\"26/11/23\"\r\nSecret meeting\r\n\r\nMaker\r\n\r\nOK\r\n"},
+                {"AT+CGMM", "\r\nE173 490154203237518\r\n\r\nOK\r\n"},
+                {"AT+CGSN", "\r\n490154203237518\r\n\r\nOK\r\n"},
+                {"AT+CIMI", "\r\n262071234567890\r\n\r\nOK\r\n"},
+                {"AT+CNUM", "\r\n+CNUM: \"Secret\",\"+447700900102\",145\r\n\r\nOK\r\n"},
+                {"AT+COPS?", "\r\n+COPS: 0,0,\"Secret 447700900103\"\r\n\r\nOK\r\n"},
+                {"AT+CPBR=1,9", "\r\n+CPBR: 1,\"+447700900104\",145,\"Secret\"\r\n\r\nOK\r\n"},
+                {"AT+CMGL=4", "\r\n+CMGL: 1,1,,5\r\n0791447758\r\n\r\nOK\r\n"},
+                {"AT+CSCA?", "\r\n+CSCA: \"+447785016005\",145\r\n\r\nOK\r\n"},
+                {"AT+CREG?", "\r\n+CREG: 2,1,\"447700\",\"90010600\"\r\n\r\nOK\r\n"},
+                {"AT+CSQ", "\r\n+CSQ: 20,99\r\n\r\nOK\r\n\r\n+CLIP: \"+447700900107\",145\r\n"}};
+    Virtual_Phone phone;
+    for (const auto& each : told)
+        phone.Will_Answer(each.command, each.answer);
+    phone.Says("\r\n+CUSD: 0,\"Secret balance of 447700900108\",15\r\n");
+    const Looked looked = Look(phone);
+    EXPECT_EQ(looked.ready.size(), 1);
+    const std::string report = Doctor_Report(looked.findings).toStdString();
+    EXPECT_THAT(report, HasSubstr("Maker E(number left out)"));
+    EXPECT_THAT(Long_Numbers(report), IsEmpty()) << report;
+    for (const char* canary : {"Secret", "7700", "9001", "2620", "4901", "7785"})
+        EXPECT_THAT(report, Not(HasSubstr(canary)));
 }
 
 TEST(Doctor_Report, Numbers_Go_However_They_Are_Written_And_What_Is_None_Stays)

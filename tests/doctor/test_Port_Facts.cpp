@@ -2,6 +2,7 @@
 
 #include "doctor/Device_Modes.h"
 #include "doctor/Fake_System.h"
+#include "doctor/Wwan_Ports.h"
 
 #include <gmock/gmock.h>
 
@@ -158,6 +159,23 @@ TEST(Port_Facts, Usb_Comes_Before_The_Mainboard_And_What_Takes_No_Commands_Is_La
         names.append(QFileInfo(port.path).fileName());
     EXPECT_EQ(names, QStringList({"ttyUSB2", "ttyUSB3", "ttyUSB9", "null", "rfcomm0", "ttyS0", "ttyUSB0", "ttyUSB1"}))
         << names.join(' ').toStdString();
+}
+
+TEST(Wwan_Ports, Are_Those_That_Have_A_Type_And_Are_For_What_It_Says)
+{
+    Fake_System system;
+    EXPECT_THAT(Wwan_Ports(system.roots), testing::IsEmpty());
+    system.Add_Wwan("wwan0", "");
+    for (const auto& [name, type, use] : {std::tuple("wwan0at0", "AT", Use::Commands),
+                                          {"wwan0mbim0", "MBIM", Use::Packets},
+                                          {"wwan0qmi0", "QMI", Use::Packets},
+                                          {"wwan0xmmrpc0", "XMMRPC", Use::Diagnostics}}) {
+        system.Add_Wwan(name, type);
+        EXPECT_EQ(Facts_Of_Port(system.Node(name), system.roots).use, use) << name;
+    }
+    EXPECT_EQ(Wwan_Ports(system.roots), QStringList({system.Node("wwan0at0"), system.Node("wwan0mbim0"),
+                                                     system.Node("wwan0qmi0"), system.Node("wwan0xmmrpc0")}));
+    EXPECT_EQ(Use_Of_Wwan_Port("../../udev", system.roots), Use::Unknown);
 }
 
 TEST(Device_Modes, Sticks_That_Are_Network_Cards_Or_Discs_Are_Known_By_Their_Numbers)

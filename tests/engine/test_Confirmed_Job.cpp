@@ -188,6 +188,15 @@ TEST_F(Confirmed_Job, A_Card_That_Wants_Its_Pin_Holds_The_Job_Until_It_Is_Ready)
         EXPECT_THAT(command, testing::Not(testing::StartsWith("AT+CPIN=")));
 }
 
+TEST_F(Confirmed_Job, A_Phone_That_Wants_A_Code_Of_Its_Own_Holds_The_Job_And_Is_Named)
+{
+    m_phone.Will_Answer("AT+CPIN?", "\r\n+CPIN: PH-SIM PIN\r\n\r\nOK\r\n");
+    m_witness.m_on_held = [this] { m_phone.Will_Answer("AT+CPIN?", "\r\n+CPIN: READY\r\n\r\nOK\r\n"); };
+    Run();
+    EXPECT_THAT(m_witness.m_held, ElementsAre(QString(Texts::Causes::Phone_Pin_Wanted)));
+    EXPECT_EQ(Texts().size(), 3U);
+}
+
 TEST_F(Confirmed_Job, A_Hold_That_Lasts_Too_Long_Leaves_The_Rest_Untried)
 {
     m_phone.Will_Answer("AT+CPIN?", "\r\n+CPIN: SIM PIN\r\n\r\nOK\r\n");

@@ -26,6 +26,7 @@
 #include "windows/main/Load_Num_Info.h"
 #include "windows/main/Long_SMS_Dlg.h"
 #include "windows/main/Send_Modeless.h"
+#include "windows/main/Undo_Strip.h"
 #include "windows/phone/Connection_Info.h"
 #include "windows/phone/Doctor_Wnd.h"
 #include "windows/phone/Phone_List_Wnd.h"
@@ -80,6 +81,7 @@ QWidget& Main_Window_With_Everything(CorvaneAppDelegate& main)
     In<Unfinished_Strip>(main, "_Job_Strip").Show_Jobs({job, job});
     main.Set_Composer_Text(Costly_Message);
     In<Import_Strip>(main, "_Import_Strip").Show_Report(Longest_Report());
+    In<Undo_Strip>(main, "_Undo_Strip").Offer("1000000 recipients removed.", [] {});
     In<Fields_Strip>(main, "_Fields_Strip").Show_Fields(QStringList(20, QString(40, u'W')));
     return main;
 }

@@ -123,7 +123,8 @@ TEST_F(Keys, Keys_With_Others_Held_Mean_Something_Else)
     Select_Rows({0});
     for (const auto modifier : {Qt::ControlModifier, Qt::ShiftModifier, Qt::AltModifier}) {
         for (const Qt::Key key : {Qt::Key_F2, Qt::Key_Return, Qt::Key_Delete})
-            Press_Key(key, modifier);
+            if (modifier != Qt::ControlModifier || key != Qt::Key_Return) // which sends
+                Press_Key(key, modifier);
     }
     EXPECT_EQ(Numbers().size(), 2);
 }

@@ -1,5 +1,6 @@
 #include "gui/Every_Window.h"
 #include "gui/Open_Program.h"
+#include "support/In_Language.h"
 
 #include <map>
 #include <tuple>
@@ -145,11 +146,32 @@ void Expect_Focus_Comes_Into_Sight(QWidget& window)
     }
 }
 
+/// A language of the program, or one that is made up.
+class Read_As
+{
+public:
+    explicit Read_As(const QString& language)
+    {
+        if (language == u"pseudo" || language == u"leftward")
+            m_reading.emplace(QStringLiteral("de"), QStringLiteral(CORVANE_BUILD_DIR "/i18n/corvane_pseudo.qm"));
+        else
+            m_reading.emplace(language);
+        if (language == u"leftward")
+            QApplication::setLayoutDirection(Qt::RightToLeft);
+    }
+    ~Read_As() { QApplication::setLayoutDirection(Qt::LeftToRight); }
+    Read_As(const Read_As&) = delete;
+    Read_As& operator=(const Read_As&) = delete;
+
+private:
+    std::optional<In_Language> m_reading;
+};
+
 } // namespace
 
 // Every window under the fonts that desktops come with: no text is cut, nothing lies outside its window or over
 // something else, its buttons are on the screen, no two controls answer to the same key, and all is plain text.
-class Window_Sizes : public testing::TestWithParam<std::tuple<const char*, const char*>>
+class Window_Sizes : public testing::TestWithParam<std::tuple<const char*, const char*, const char*>>
 {
 protected:
     struct Program : Open_Program
@@ -192,7 +214,8 @@ protected:
 
 TEST_P(Window_Sizes, Nothing_Is_Cut_Off_And_The_Buttons_Are_On_The_Screen)
 {
-    const auto& [family, screen_name] = GetParam();
+    const auto& [family, screen_name, language] = GetParam();
+    const Read_As reading(language);
     ASSERT_TRUE(QFontDatabase::families().contains(family)) << family << " is not installed";
     QScreen* screen = Screen_Called(screen_name);
     for (int points = Smallest_Points; points <= Largest_Points; ++points) {
@@ -207,13 +230,43 @@ TEST_P(Window_Sizes, Nothing_Is_Cut_Off_And_The_Buttons_Are_On_The_Screen)
 
 std::string Font_And_Screen(const testing::TestParamInfo<Window_Sizes::ParamType>& info)
 {
-    const auto& [family, screen] = info.param;
-    return QString(family).replace(u' ', u'_').toStdString() + "_" + screen;
+    const auto& [family, screen, language] = info.param;
+    return QString(family).replace(u' ', u'_').toStdString() + "_" + screen + "_" + language;
 }
 
 INSTANTIATE_TEST_SUITE_P(Under, Window_Sizes,
                          testing::Combine(testing::Values("DejaVu Sans", "Noto Sans", "Liberation Sans", "Cantarell"),
-                                          testing::Values("desk", "small", "enlarged")),
+                                          testing::Values("desk", "small", "enlarged"), testing::Values("en")),
+                         Font_And_Screen);
+
+// The made-up language is 40 % longer than English; what is read from right to left is the same.
+INSTANTIATE_TEST_SUITE_P(In_Another_Language, Window_Sizes,
+                         testing::Combine(testing::Values("Noto Sans"), testing::Values("desk", "enlarged"),
+                                          testing::Values("de", "pseudo", "leftward")),
+                         Font_And_Screen);
+
+class Window_Letters : public Window_Sizes
+{
+};
+
+TEST_P(Window_Letters, No_Two_Controls_Answer_To_The_Same_Key)
+{
+    const auto& [family, screen_name, language] = GetParam();
+    const Read_As reading(language);
+    const Program program(QFont(family), Screen_Called(screen_name));
+    for (const auto& sight : Every_Window()) {
+        SCOPED_TRACE(sight.what);
+        QWidget& window = sight.Prepared(*program.m_delegate);
+        window.show();
+        Settle();
+        Expect_Distinct_Mnemonics(window);
+        window.hide();
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(In, Window_Letters,
+                         testing::Combine(testing::Values("Noto Sans"), testing::Values("desk"),
+                                          testing::Values("es", "fr", "it", "pl", "pt")),
                          Font_And_Screen);
 
 class Small_Screen : public Open_Program
@@ -289,5 +342,5 @@ TEST_F(Main_Window_Size, Tab_Goes_From_The_Number_To_Send_Through_Every_Control)
               "_Confirm_Chk View_Receipts_Btn _Reports_Chk _Keep_Receipt_Chk _Remember_Confirm_Chk "
               "_Delayed_Delivry_Chk _delayed_msg_count_combo _delayed_time_combo _sent_btn Check_List Exit_Btn "
               "Help_Btn _Appearance_Btn Reset_Btn "
-              "_NO_Device_Ticker Search_All_Modem");
+              "_NO_Device_Ticker Search_All_Modem _Menu_Btn");
 }

@@ -152,7 +152,7 @@ const std::vector<Room>& Rooms()
         {"plan", {"platform", "texts", "handset", "list", "records", "device", "engine"}, Room::Core},
         {"doctor", {"platform", "texts", "device"}, Room::Core},
         {"send", {"platform", "texts", "handset", "list", "records", "device", "engine", "plan", "doctor"}, Room::Core},
-        {"toolkit", {"platform", "list", "engine"}},
+        {"toolkit", {"platform", "texts", "list", "engine"}},
         {"windows/list", {"platform", "texts", "list", "engine", "plan", "toolkit"}},
         {"windows/stores", {"platform", "texts", "records", "toolkit"}},
         {"windows/exclusion", {"platform", "texts", "list", "records", "toolkit"}},

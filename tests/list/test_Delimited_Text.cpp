@@ -124,7 +124,7 @@ TEST(Delimited_Text, Ten_Thousand_Columns_Are_Read)
     EXPECT_EQ(table.Columns_Named(u"C9999"), std::vector<int>{9'999});
 }
 
-// What is found sixteen bytes at a time is found wherever it stands.
+// What is found sixty-four bytes at a time is found wherever it stands.
 TEST(Delimited_Text, Fields_Of_Every_Length_Are_Read)
 {
     for (const char* line_end : {"\n", "\r", "\r\n"}) {
@@ -137,6 +137,29 @@ TEST(Delimited_Text, Fields_Of_Every_Length_Are_Read)
             EXPECT_EQ(table.Field(row, 0), QString(row + 1, u'x'));
             EXPECT_EQ(table.Field(row, 1), QString(69 - row, u'y'));
         }
+    }
+}
+
+// They move up to where the quotes were, and those of the next row stay.
+TEST(Delimited_Text, Fields_Behind_One_In_Quotes_Are_Read)
+{
+    std::string text = "A,B,C,D,E\r\n";
+    for (std::size_t length = 0; length < 140; ++length) {
+        const std::string x(length, 'x');
+        text += "1,\"" + x + "\"\"" + x + "\"," + x + ",\"\"," + std::string(140 - length, 'z') + "\r\n";
+        text += "2," + x + ",,\"" + x + "\",\"\n\"\r\n";
+    }
+    const auto table = Read(text).table;
+    ASSERT_EQ(table.Row_Count(), 280);
+    for (int length = 0; length < 140; ++length) {
+        const QString x(length, u'x');
+        const QStringList quoted{"1", x + u'"' + x, x, "", QString(140 - length, u'z')};
+        const QStringList plain{"2", x, "", x, "\n"};
+        for (int column = 0; column < 5; ++column) {
+            EXPECT_EQ(table.Field(2 * length, column), quoted[column]) << length;
+            EXPECT_EQ(table.Field(2 * length + 1, column), plain[column]) << length;
+        }
+        EXPECT_EQ(table.Field_Count(2 * length), 5);
     }
 }
 

@@ -96,7 +96,11 @@ TEST(Message_Filling_Test, A_Value_In_Any_Characters_Is_The_Field_As_It_Is_Read)
                                   "\xE2\x82",
                                   "\xED\xA0\x80",
                                   "\xF8\x88\x80",
-                                  "Zoë\xFF"};
+                                  "Zoë\xFF",
+                                  "Bartholomew Ann-Catherine",
+                                  "Bartholomäus",
+                                  "Bartholo\xFF"};
+    Filled_Message used_again;
     for (const char* const value : values) {
         Table_Builder builder;
         builder.Add_Field("Name");
@@ -107,5 +111,29 @@ TEST(Message_Filling_Test, A_Value_In_Any_Characters_Is_The_Field_As_It_Is_Read)
         const Message_Filling filling(QStringLiteral("<{{Name}}|{{Name}}>"), table);
         const QString field = QString::fromUtf8(value);
         EXPECT_EQ(filling.For_Row(table, 0).text, u'<' + field + u'|' + field + u'>') << value;
+        filling.Fill(used_again, table, 0);
+        EXPECT_EQ(used_again.text, filling.For_Row(table, 0).text) << value;
+    }
+}
+
+// Characters of one byte are put eight at a time, and all others between them.
+TEST(Message_Filling, Values_Of_Every_Length_Are_Filled_In)
+{
+    const QStringList between{"", "\u00FC", "\u0151", "\u20AC", "\U0001F600", "\u00FC\u20AC\u00FC"};
+    QByteArray text = "A,B\n";
+    QStringList values;
+    for (int length = 1; length < 20; ++length)
+        for (int place = 0; place <= length; ++place)
+            for (const QString& other : between) {
+                values.append(QString(length, u'x').insert(place, other));
+                text += values.last().toUtf8() + ',' + values.last().toUtf8() + '\n';
+            }
+    const Contact_Table table = Table_Of_Bytes(text, QStringLiteral("a.csv"), {}).table;
+    ASSERT_EQ(table.Row_Count(), values.size());
+    const Message_Filling filling(QStringLiteral("<{{A}}-{{B}}>"), table);
+    Filled_Message filled;
+    for (int row = 0; row < table.Row_Count(); ++row) {
+        filling.Fill(filled, table, row);
+        EXPECT_EQ(filled.text, u'<' + values[row] + u'-' + values[row] + u'>');
     }
 }

@@ -186,6 +186,34 @@ TEST(Recipient_Fields, Follow_Their_Recipients_Whatever_Is_Done)
     EXPECT_GT(list.Count(), 0) << "nothing was tried";
 }
 
+TEST(Recipient_Fields, Rows_Added_Together_Are_Those_Added_One_By_One)
+{
+    const Shared_Table table = Table_Of("Tel,Name\n5550101,Ann\n5550102,Bob\n");
+    Recipient_List one_by_one;
+    Recipient_List together;
+    for (const int count : {1, 0, 7, 11, 12, 13, 40, 500, 3000}) {
+        std::vector<Packed_Number> numbers;
+        std::vector<int> rows;
+        for (int i = 0; i < count; ++i) { // most numbers come again, in the same stretch and in later ones
+            numbers.push_back(*Packed_Number::Of(QString::number(i * 7919 % (count / 2 + 3))));
+            rows.push_back(i % 3 == 0 ? 0 : 1);
+            one_by_one.Append_From_Table(numbers.back(), QStringLiteral("{{Name}}"), table, rows.back());
+        }
+        together.Append_From_Table(numbers, QStringLiteral("{{Name}}"), table, rows);
+        one_by_one.Append("55", "without fields");
+        together.Append("55", "without fields");
+    }
+    ASSERT_EQ(together.Count(), one_by_one.Count());
+    for (int index = 0; index < together.Count(); ++index) {
+        const QString number = one_by_one.At(index).Number;
+        EXPECT_EQ(together.At(index).Number, number);
+        EXPECT_EQ(together.Text_At(index).text, one_by_one.Text_At(index).text);
+        EXPECT_EQ(together.Table_Row_At(index), one_by_one.Table_Row_At(index));
+        EXPECT_EQ(together.Numbers().Count_Of(number), one_by_one.Numbers().Count_Of(number));
+        EXPECT_EQ(together.Numbers().First_Index_Of(number), one_by_one.Numbers().First_Index_Of(number));
+    }
+}
+
 TEST(Recipient_Fields, A_Worker_Reads_Its_Copy_While_The_List_Changes)
 {
     const Shared_Table table = Table_Of("Tel,Name\n5550101,Ann\n5550102,Bob\n");

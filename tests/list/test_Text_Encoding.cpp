@@ -58,6 +58,50 @@ INSTANTIATE_TEST_SUITE_P(Texts, Encodings,
                                          Encoded_Text{"UTF-32LE", "FFFE0000"}, Encoded_Text{"UTF-32BE", "0000FEFF"},
                                          Encoded_Text{"windows-1252"}));
 
+TEST(Text_Encoding, That_The_Bytes_Do_Not_Tell_Is_The_Usual_One_Of_The_Language)
+{
+    const struct
+    {
+        const char* locale;
+        const char* encoding;
+        QString text;
+    } cases[] = {
+        {"pl_PL", "windows-1250", QStringLiteral("\u0141ukasz \u017B\u00F3\u0142\u0107")},
+        {"cs_CZ", "windows-1250", QStringLiteral("Ji\u0159\u00ED \u017Dert")},
+        {"sr_Latn_RS", "windows-1250", QStringLiteral("\u0110or\u0111e")},
+        {"sr_RS", "windows-1251", QStringLiteral("\u0402\u043E\u0440\u0452\u0435")},
+        {"ru_RU", "windows-1251", QStringLiteral("\u0410\u043D\u043D\u0430")},
+        {"el_GR", "windows-1253", QStringLiteral("\u0391\u03B8\u03AE\u03BD\u03B1")},
+        {"tr_TR", "windows-1254", QStringLiteral("\u015Eeyma Y\u0131ld\u0131z")},
+        {"lt_LT", "windows-1257", QStringLiteral("\u017Dydr\u016Bn\u0117")},
+        {"ja_JP", "Shift_JIS", QStringLiteral("\u5C71\u7530")},
+        {"de_DE", "windows-1252", QStringLiteral("J\u00F6rg")},
+        {"C", "windows-1252", QStringLiteral("Ren\u00E9")},
+    };
+    for (const auto& one : cases) {
+        const QString usual = Usual_Encoding(QLocale(QLatin1String(one.locale)));
+        EXPECT_EQ(usual, one.encoding) << one.locale;
+        QStringEncoder encoder(one.encoding, QStringConverter::Flag::Stateless);
+        const QByteArray bytes = "Name;Tel\n" + QByteArray(encoder.encode(one.text)) + ";1\n";
+        Table_Choices choices;
+        choices.usual_encoding = usual;
+        const auto file = Table_Of_Bytes(bytes, {}, choices);
+        EXPECT_EQ(file.facts.encoding, one.encoding);
+        EXPECT_FALSE(file.facts.encoding_is_told);
+        EXPECT_EQ(Shown(file), "Name|Tel/" + one.text.toStdString() + "|1");
+    }
+}
+
+TEST(Text_Encoding, What_Does_Not_Fit_The_Usual_One_Or_Tells_Its_Own_Is_Not_Read_In_It)
+{
+    EXPECT_EQ(Guess_Encoding("A;B\nJ\xF6rg;1\n", "Shift_JIS").name, "windows-1252");
+    EXPECT_EQ(Guess_Encoding("A;B\nJ\xF6rg;1\n", "klingon").name, "windows-1252");
+    const auto utf8 = Guess_Encoding("A;B\nJ\xC3\xB6rg;1\n", "windows-1250");
+    EXPECT_EQ(utf8.name, "UTF-8");
+    EXPECT_TRUE(utf8.is_told);
+    EXPECT_TRUE(Table_Of_Bytes("A;B\nJ\xF6rg;1\n", {}, {"windows-1250", {}, 0}).facts.encoding_is_told);
+}
+
 TEST(Text_Encoding, Is_Taken_As_Given)
 {
     const QByteArray greek = "Name;Tel\n\xC1\xE8\xDE\xED\xE1;1\n";

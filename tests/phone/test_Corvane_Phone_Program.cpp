@@ -6,14 +6,21 @@
 #include <gtest/gtest.h>
 
 #include <fcntl.h>
+#include <linux/capability.h>
 #include <poll.h>
 #include <spawn.h>
+#include <sys/ioctl.h>
+#include <sys/prctl.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 
 #include <array>
+#include <chrono>
 #include <csignal>
 #include <filesystem>
 #include <string>
+#include <system_error>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -119,6 +126,33 @@ void Send(Line_Peer& peer, const std::string& length, const std::string& pdu)
     peer.Says(pdu + "\x1A\r\n");
 }
 
+// Gone with what is in it when the test ends.
+struct Own_Folder
+{
+    Own_Folder()
+    {
+        std::string pattern = (fs::temp_directory_path() / "phone-XXXXXX").string();
+        m_path = ::mkdtemp(pattern.data());
+    }
+    ~Own_Folder() { fs::remove_all(m_path); }
+    Own_Folder(const Own_Folder&) = delete;
+    Own_Folder& operator=(const Own_Folder&) = delete;
+
+    fs::path m_path;
+};
+
+// Exclusive use does not keep root out, but this thread and what it starts from now on.
+void Be_Kept_Out_Like_An_Ordinary_Account()
+{
+    ::prctl(PR_CAPBSET_DROP, CAP_SYS_ADMIN); // refused to whoever has never had it
+    __user_cap_header_struct of_this_thread{_LINUX_CAPABILITY_VERSION_3, 0};
+    std::array<__user_cap_data_struct, 2> rights{};
+    EXPECT_EQ(::syscall(SYS_capget, &of_this_thread, rights.data()), 0);
+    rights[0].effective &= ~(1u << CAP_SYS_ADMIN);
+    rights[0].permitted &= ~(1u << CAP_SYS_ADMIN);
+    EXPECT_EQ(::syscall(SYS_capset, &of_this_thread, rights.data()), 0);
+}
+
 } // namespace
 
 TEST(Corvane_Phone_Program, Its_First_Line_Is_The_Path_Of_Its_Line_And_It_Stays_Without_Input)
@@ -174,9 +208,8 @@ TEST(Corvane_Phone_Program, It_Ends_When_Nobody_Reads_Its_Output_Any_More)
 
 TEST(Corvane_Phone_Program, A_Link_Leads_To_Its_Line_And_Goes_With_It)
 {
-    std::string pattern = (fs::temp_directory_path() / "phone-XXXXXX").string();
-    const fs::path folder = ::mkdtemp(pattern.data());
-    const std::string link = (folder / "modem").string();
+    const Own_Folder folder;
+    const std::string link = (folder.m_path / "modem").string();
     {
         Phone_Program program({"--link", link});
         const std::string path = program.Line();
@@ -185,7 +218,44 @@ TEST(Corvane_Phone_Program, A_Link_Leads_To_Its_Line_And_Goes_With_It)
         EXPECT_EQ(program.Exit_Status(), 0);
     }
     EXPECT_FALSE(fs::exists(fs::symlink_status(link)));
-    fs::remove_all(folder);
+}
+
+class Left_Line : public testing::TestWithParam<bool>
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(, Left_Line, testing::Bool(),
+                         [](const auto& which) { return which.param ? "Ordinary" : "As_It_Is"; });
+
+// Closing without giving back exclusive use is what becomes of a program that is killed.
+TEST_P(Left_Line, A_Link_Leads_To_A_New_Line_When_The_Old_One_Was_Left_In_Exclusive_Use)
+{
+    std::thread([is_ordinary = GetParam()] {
+        if (is_ordinary)
+            Be_Kept_Out_Like_An_Ordinary_Account();
+        const Own_Folder folder;
+        const std::string link = (folder.m_path / "modem").string();
+        Phone_Program program({"--link", link});
+        const std::string path = program.Line();
+        EXPECT_EQ(Line_Peer(link).Asks("ATE0"), "ATE0\r" + Ok);
+        {
+            Line_Peer peer(link);
+            EXPECT_EQ(peer.Asks("AT"), Ok);
+            EXPECT_EQ(fs::read_symlink(link), path) << "the first gave it back";
+            EXPECT_EQ(::ioctl(peer.Number(), TIOCEXCL), 0);
+            EXPECT_FALSE(is_ordinary && Line_Peer(link).Is_Open());
+        }
+        const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+        std::error_code none_yet;
+        for (fs::path now = path; now.empty() || now == path; now = fs::read_symlink(link, none_yet)) {
+            ASSERT_LT(std::chrono::steady_clock::now(), end) << "the old line is still the phone's";
+            std::this_thread::yield();
+        }
+        Line_Peer next(link);
+        ASSERT_TRUE(next.Is_Open());
+        EXPECT_EQ(Send_Hello(next), With_Ok("+CMGS: 0"));
+        EXPECT_EQ(Read_Json_Object(program.Line()).at("event").m_text, "part");
+    }).join();
 }
 
 TEST(Corvane_Phone_Program, Moods_And_Rows_Are_Options)

@@ -85,6 +85,22 @@ TEST_F(Doctor, In_Words_Each_Line_Begins_With_Its_Sign_And_Help_Stands_Below)
     EXPECT_THAT(run.output, Not(HasSubstr("{")));
 }
 
+TEST_F(Doctor, Prints_No_Number_And_No_Text_That_The_Device_Tells)
+{
+    m_phone.Will_Answer("AT+CGMM", "\r\nE173 490154203237518\r\n\r\nOK\r\n");
+    m_phone.Will_Answer("AT+CGMI", "\r\nof +44 7700 900-101\r\n\r\nOK\r\n");
+    m_phone.Will_Answer("AT+CSCA?", "\r\n+CSCA: \"+447785016005\",145\r\n\r\nOK\r\n");
+    m_phone.Will_Answer("AT+COPS?", "\r\n+COPS: 0,0,\"Secret 447700900103\"\r\n\r\nOK\r\n");
+    m_phone.Says("\r\n+CMT: \"+447700900102\"\r\nSecret meeting\r\n");
+    for (const QStringList& way : {QStringList(), QStringList("--json")}) {
+        const auto run = Look(way);
+        EXPECT_EQ(run.status, 0) << run.errors;
+        for (const char* canary : {"7700", "4901", "7785", "Secret"})
+            EXPECT_THAT(run.output + run.errors, Not(HasSubstr(canary))) << way.join(' ').toStdString();
+        EXPECT_THAT(run.output, HasSubstr("(number left out)"));
+    }
+}
+
 TEST_F(Doctor, Without_A_Device_The_Status_Says_So)
 {
     const auto run = Run({"--doctor", "--json", "--device", Path("none")});

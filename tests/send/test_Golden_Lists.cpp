@@ -1,8 +1,7 @@
 #include "send/Inputs.h"
-#include "support/Files.h"
+#include "send/Send_Test.h"
 
 #include <QDir>
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -36,21 +35,28 @@ std::vector<Golden_List> Golden_Lists()
 }
 
 // A message may hold blanks in the names of columns: it is the last argument.
-Arguments Arguments_Of(const std::string& call)
+QStringList Words_Of(const std::string& call)
 {
     const QString text = QString::fromStdString(call);
     const qsizetype message = text.indexOf(QLatin1String(" --message "));
     QStringList words = text.left(message).split(u' ');
     words.front().prepend(Folder());
     words.prepend(QStringLiteral("--table"));
-    words.prepend(QStringLiteral("corvane-send"));
-    words += {QStringLiteral("--message"), text.mid(message + 11)};
-    const Read_Arguments_Result read = Read_Arguments(words);
+    return words + QStringList{QStringLiteral("--message"), text.mid(message + 11)};
+}
+
+Arguments Arguments_Of(const std::string& call)
+{
+    const Read_Arguments_Result read = Read_Arguments(QStringList("corvane-send") + Words_Of(call));
     EXPECT_FALSE(read.trouble) << read.trouble.Line().toStdString();
     return read.arguments;
 }
 
 class Lists : public testing::TestWithParam<Golden_List>
+{
+};
+
+class Sent_Lists : public Send_Test, public testing::WithParamInterface<Golden_List>
 {
 };
 
@@ -71,6 +77,25 @@ TEST_P(Lists, Come_Out_As_They_Must)
 }
 
 INSTANTIATE_TEST_SUITE_P(Golden, Lists, testing::ValuesIn(Golden_Lists()));
+
+TEST_P(Sent_Lists, End_For_Each_Row_As_It_Must)
+{
+    const auto run = Run_With_Device(Words_Of(GetParam().call));
+    std::vector<std::string> ends;
+    std::vector<std::string> must;
+    for (const std::string& row : GetParam().rows) {
+        const QJsonObject end = run.Outcome(static_cast<int>(must.size()) + 1);
+        const QString outcome = end.value("outcome").toString();
+        ends.push_back((outcome == u"sent" ? QStringLiteral("send") : end.value("reason").toString()).toStdString());
+        EXPECT_FALSE(ends.back().empty()) << row;
+        const std::size_t verdict = row.find(' ' + ends.back() + ' ');
+        must.push_back(verdict == std::string::npos ? row : ends.back());
+    }
+    EXPECT_EQ(ends, must) << run.errors;
+    EXPECT_EQ(Texts().size(), static_cast<std::size_t>(std::count(ends.begin(), ends.end(), "send")));
+}
+
+INSTANTIATE_TEST_SUITE_P(Golden, Sent_Lists, testing::ValuesIn(Golden_Lists()));
 
 TEST(Golden_Lists_File, Was_Read)
 {

@@ -6,7 +6,8 @@
 #include <algorithm>
 
 /// How long the interface thread was away from its events at its longest, in seconds, while something went on. Where
-/// the computer gave the thread no turn, it was not away.
+/// the computer gave the thread no turn, it was not away. Where a host took whole processors from the computer
+/// meanwhile, the clock does not tell one from the other, and the time counts that a processor worked for the thread.
 class Heartbeat
 {
 public:
@@ -20,7 +21,7 @@ public:
     double Longest_Gap()
     {
         Beat();
-        return m_longest;
+        return Times_The_Host_Took() == m_taken ? m_longest : m_longest_work;
     }
     /// How long it worked at a stretch at its longest, in seconds of the processor: less than Longest_Gap by what it
     /// waited for others, which on a busy computer are put off while they hold what it needs.
@@ -43,6 +44,7 @@ private:
     }
 
     QTimer m_timer;
+    unsigned long long m_taken = Times_The_Host_Took();
     double m_begin = Own_Seconds();
     double m_last = m_begin;
     double m_longest = 0;

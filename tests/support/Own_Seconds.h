@@ -28,6 +28,19 @@ inline double Worked_Seconds()
     return static_cast<double>(worked.tv_sec) + static_cast<double>(worked.tv_nsec) * 1e-9;
 }
 
+/// How often a virtual machine's host has let others run in place of one of its processors, since its start; a machine
+/// of its own says 0. A thread does not know such times from its own, so that no clock can leave them out.
+inline unsigned long long Times_The_Host_Took()
+{
+    unsigned long long times = 0;
+    if (FILE* statistics = fopen("/proc/stat", "re")) {
+        if (fscanf(statistics, "cpu %*u %*u %*u %*u %*u %*u %*u %llu", &times) != 1)
+            times = 0;
+        fclose(statistics);
+    }
+    return times;
+}
+
 /// Measures on one thread from its making on: a wait is too short by the clock, and too long by the thread's own time.
 class Stopwatch
 {

@@ -21,6 +21,20 @@ void See_The_Tests_Own_Fonts_And_Screens()
         qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" CORVANE_TEST_SCREENS);
 }
 
+// The machine's language would choose countries and Qt's own texts.
+void Read_English()
+{
+    qputenv("LC_ALL", "C.UTF-8");
+    qunsetenv("LANGUAGE");
+}
+
+// Nor do tests ring a bell there: those that need a bus have one of their own.
+void Hear_Of_No_Bus()
+{
+    for (const char* bus : {"DBUS_SESSION_BUS_ADDRESS", "DBUS_SYSTEM_BUS_ADDRESS"})
+        qputenv(bus, "none:");
+}
+
 } // namespace
 
 // The start of every test program with windows: an application on the offscreen platform, a data folder of its own that
@@ -29,6 +43,8 @@ int main(int argument_count, char** arguments)
 {
     testing::InitGoogleMock(&argument_count, arguments);
     See_The_Tests_Own_Fonts_And_Screens();
+    Read_English();
+    Hear_Of_No_Bus();
     const QTemporaryDir data_home;
     if (!data_home.isValid()) {
         fprintf(stderr, "No temporary folder: %s\n", qPrintable(data_home.errorString()));

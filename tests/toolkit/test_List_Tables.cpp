@@ -140,6 +140,18 @@ TEST_F(List_Tables, A_Long_Text_Is_Painted_On_One_Line_No_Longer_Than_A_Screen)
               1000 * m_table.fontMetrics().maxWidth());
 }
 
+TEST_F(List_Tables, A_Number_Keeps_Its_Plus_In_Front_Where_People_Read_From_Right_To_Left)
+{
+    const auto direction = qScopeGuard([] { QApplication::setLayoutDirection(Qt::LeftToRight); });
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    m_table.setStyle(&m_style);
+    Show({"+44 7700 900123", "+ שלום", "00447700900123"});
+    m_table.grab();
+    for (const char* painted : {"\u2066+44 7700 900123\u2069", "+ שלום", "00447700900123"})
+        EXPECT_TRUE(m_style.m_painted.contains(painted)) << painted;
+    EXPECT_EQ(m_rows.index(0, 0).data().toString(), "+44 7700 900123") << "what is copied";
+}
+
 TEST_F(List_Tables, A_Tool_Tip_Shows_A_Text_That_Its_Cell_Does_Not_Show_Whole)
 {
     const QString words = QStringLiteral("word ").repeated(100);

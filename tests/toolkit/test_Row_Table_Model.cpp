@@ -93,6 +93,46 @@ TEST_F(Row_Table, A_Reload_Keeps_The_Selection_Of_Rows_That_Still_Exist)
     EXPECT_EQ(resets.size(), 0);
 }
 
+TEST_F(Row_Table, Some_Of_The_Rows_Are_Shown_In_Any_Order_Until_All_Are_Again)
+{
+    const QAbstractItemModelTester tester(&m_model, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    m_rows = 5;
+    m_model.Reload();
+    m_model.Show_Rows(std::vector<int>{4, 0, 2});
+    EXPECT_EQ(m_model.rowCount(), 3);
+    EXPECT_EQ(Shown(0, 0), "Number 4");
+    EXPECT_EQ(Shown(2, 1), "Message 2");
+    EXPECT_EQ(m_model.List_Row(1), 0);
+    EXPECT_EQ(m_model.List_Row(3), -1);
+    EXPECT_EQ(m_model.headerData(2, Qt::Vertical, Qt::DisplayRole).toInt(), 3);
+    m_rows = 3;
+    EXPECT_EQ(Shown(0, 0), QString()) << "a row that has gone";
+    QSignalSpy reloading(&m_model, &Row_Table_Model::Reloading);
+    m_model.Reload();
+    EXPECT_EQ(reloading.size(), 1);
+    EXPECT_EQ(m_model.rowCount(), 3) << "whoever chose them chooses again";
+    m_model.Show_Rows(std::nullopt);
+    EXPECT_TRUE(m_model.Shows_All());
+    EXPECT_EQ(Shown(0, 0), "Number 0");
+    EXPECT_EQ(m_model.List_Row(1), 1);
+}
+
+TEST_F(Row_Table, Many_Rows_At_Once_Leave_The_Columns_As_They_Are)
+{
+    QTableView view;
+    view.setModel(&m_model);
+    view.setColumnWidth(0, 123);
+    const QAbstractItemModelTester tester(&m_model, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    for (const int rows : {100'000, 3, 0, 150'000, 150'001}) {
+        m_rows = rows;
+        m_model.Reload();
+        EXPECT_EQ(m_model.rowCount(), rows);
+        EXPECT_EQ(view.verticalHeader()->count(), rows);
+        EXPECT_EQ(view.columnWidth(0), 123);
+        EXPECT_EQ(Shown(rows - 1, 0), rows > 0 ? "Number " + QString::number(rows - 1) : QString());
+    }
+}
+
 TEST_F(Row_Table, A_Million_Rows_Are_Served_On_Demand)
 {
     QTableView view;

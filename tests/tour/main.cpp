@@ -16,7 +16,7 @@
 // each is photographed, a list is sent, and what the phone received, what the program keeps and what it exported are
 // held against what they must be. A second list goes out message by message, in a program that is killed meanwhile and
 // started again. Exit status 0 only when all is the same. Usage: corvane-tour <picture folder> [<home>]
-// Given a home, the tour goes through the first program alone, and leaves the home as it is then.
+// Given a home, the tour leaves it as the first program has made it.
 
 namespace {
 
@@ -86,5 +86,5 @@ int main(int argc, char** argv)
     if (words.constFirst() == After_The_Kill)
         return Run_After_The_Kill(pictures, words.constLast());
     const int status = Take_The_Tour(pictures, documents);
-    return status != 0 || words.size() == 2 ? status : Tour_Of_A_Killed_Program(pictures, folder.path());
+    return status != 0 ? status : Tour_Of_A_Killed_Program(pictures, folder.path());
 }

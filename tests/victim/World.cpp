@@ -5,6 +5,7 @@
 #include <QDirIterator>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QSettings>
 #include <algorithm>
 
 QByteArray Content_In(const World::Files& files, const QByteArray& name)
@@ -87,6 +88,13 @@ World::Files World::Files_Below(const QString& folder, bool with_subfolders)
     return files;
 }
 
+// What the program remembers of itself, such as the folder of the last file: all of it or none.
+static bool Holds_Settings(const QString& path)
+{
+    const QSettings settings(path, QSettings::IniFormat);
+    return settings.status() == QSettings::NoError && !settings.allKeys().isEmpty();
+}
+
 std::string World::Strangers() const
 {
     static const QRegularExpression known(
@@ -98,7 +106,8 @@ std::string World::Strangers() const
                       QDirIterator::Subdirectories);
     while (walk.hasNext()) {
         const QString name = walk.next().mid(Path().size() + 1);
-        if (!known.match(name).hasMatch())
+        const bool is_settings = name == QLatin1String("data/corvane/Settings.ini") && Holds_Settings(walk.filePath());
+        if (!is_settings && !known.match(name).hasMatch())
             strangers += name.toStdString() + '\n';
     }
     return strangers;

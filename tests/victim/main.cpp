@@ -82,6 +82,8 @@ int main(int argument_count, char** arguments)
 {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    for (const char* bus : {"DBUS_SESSION_BUS_ADDRESS", "DBUS_SYSTEM_BUS_ADDRESS"})
+        qputenv(bus, "none:"); // where calls would not be those of another run
     qInstallMessageHandler(Print_What_Is_Serious);
     Guarded_Application application(argument_count, arguments);
     QApplication::setApplicationName(QStringLiteral("corvane"));

@@ -1,6 +1,7 @@
 #include "windows/contacts/Contact_Reading.h"
 
 #include "list/Number_Column.h"
+#include "list/Text_Encoding.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -9,8 +10,11 @@ namespace {
 
 Table_In_A_File Read(const Contact_Source& source, const Table_Choices& choices)
 {
-    if (!source.path.isEmpty())
-        return Read_Table(source.path, choices);
+    if (!source.path.isEmpty()) {
+        Table_Choices here = choices;
+        here.usual_encoding = Usual_Encoding(QLocale());
+        return Read_Table(source.path, here);
+    }
     Table_Choices of_utf8 = choices;
     of_utf8.encoding = QStringLiteral("UTF-8");
     Table_In_A_File file = Table_Of_Bytes(source.bytes, QStringLiteral("clipboard.tsv"), of_utf8);

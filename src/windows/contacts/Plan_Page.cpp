@@ -82,11 +82,14 @@ void Plan_Page::Set_Up_Table()
     table.setEditTriggers(QAbstractItemView::DoubleClicked);
     QHeaderView& header = *table.horizontalHeader();
     header.setStretchLastSection(false);
-    header.setSectionResizeMode(Plan_Rows::Text, QHeaderView::Stretch);
+    for (const Plan_Rows::Column column : {Plan_Rows::Text, Plan_Rows::Reason})
+        header.setSectionResizeMode(column, QHeaderView::Stretch);
     const QFontMetrics letters = table.fontMetrics();
-    const std::pair<Plan_Rows::Column, int> Widths[] = {{Plan_Rows::Row, 9},      {Plan_Rows::Written, 22},
-                                                        {Plan_Rows::Number, 20},  {Plan_Rows::Parts, 8},
-                                                        {Plan_Rows::Verdict, 24}, {Plan_Rows::Reason, 34}};
+    const std::pair<Plan_Rows::Column, int> Widths[] = {{Plan_Rows::Row, 8},
+                                                        {Plan_Rows::Written, 21},
+                                                        {Plan_Rows::Number, 18},
+                                                        {Plan_Rows::Parts, 8},
+                                                        {Plan_Rows::Verdict, 23}};
     for (const auto& [column, columns] : Widths)
         table.setColumnWidth(column, letters.averageCharWidth() * columns);
     Give_Table_Keys(table, {[&table] {

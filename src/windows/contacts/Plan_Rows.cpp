@@ -1,5 +1,6 @@
 #include "windows/contacts/Plan_Rows.h"
 
+#include "toolkit/Outcome_Colours.h"
 #include "windows/contacts/Plan_Words.h"
 
 #include <algorithm>
@@ -8,6 +9,27 @@
 namespace {
 
 constexpr int Rows_At_Once = 1 << 16;
+
+// What the list says of such a row when a job has met it.
+Row_State State_Of(Row_Verdict verdict)
+{
+    switch (verdict) {
+    case Row_Verdict::Send:
+        return Row_State::Sent;
+    case Row_Verdict::Duplicate:
+        return Row_State::Repeated;
+    case Row_Verdict::Excluded:
+        return Row_State::Excluded;
+    case Row_Verdict::Invalid_Number:
+        return Row_State::Invalid_Number;
+    case Row_Verdict::Empty_Field:
+    case Row_Verdict::Unknown_Field:
+    case Row_Verdict::Too_Long:
+    case Row_Verdict::Wrong_Columns:
+        break;
+    }
+    return Row_State::Not_Filled;
+}
 
 } // namespace
 
@@ -55,8 +77,15 @@ Qt::ItemFlags Plan_Rows::flags(const QModelIndex& index) const
 
 QVariant Plan_Rows::data(const QModelIndex& index, int role) const
 {
-    if (!index.isValid() || !m_view || index.row() >= m_view->Count() ||
-        (role != Qt::DisplayRole && role != Qt::EditRole))
+    if (!index.isValid() || !m_view || index.row() >= m_view->Count())
+        return {};
+    const bool is_verdict = index.column() == Verdict;
+    const auto verdict = [&] { return m_view->plan->Verdict_Of(m_view->Row_At(index.row())); };
+    if (is_verdict && role == Qt::ForegroundRole)
+        return Colour_Of(State_Of(verdict()));
+    if (is_verdict && role == Qt::AccessibleTextRole)
+        return Plan_Words::Of_Verdict(verdict());
+    if (role != Qt::DisplayRole && role != Qt::EditRole)
         return {};
     return Cell(static_cast<Column>(index.column()), m_view->Row_At(index.row()));
 }

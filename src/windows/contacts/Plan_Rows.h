@@ -20,8 +20,9 @@ struct Plan_View
     int Index_Of(int row) const;
 };
 
-// The rows of a plan in a table, each put into words when the table asks for it. Numbers can be edited. Part of its
-// page; interface thread.
+// The rows of a plan in a table, each put into words when the table asks for it: a verdict is a sign with a word in the
+// colour of its outcome, and assistive tools are told the word. Numbers can be edited. Part of its page; interface
+// thread.
 class Plan_Rows : public Row_Table_Model
 {
     Q_OBJECT

@@ -34,28 +34,34 @@ QString Shown(char32_t character)
 
 } // namespace
 
+QString Plan_Words::Of_Verdict(Row_Verdict verdict)
+{
+    return tr(Verdicts[static_cast<std::size_t>(verdict)].word);
+}
+
 QString Plan_Words::Signed_Verdict(Row_Verdict verdict)
 {
-    const Verdict_Words& words = Verdicts[static_cast<std::size_t>(verdict)];
-    return QString(QChar(words.sign)) + u' ' + tr(words.word);
+    return QString(QChar(Verdicts[static_cast<std::size_t>(verdict)].sign)) + u' ' + Of_Verdict(verdict);
 }
 
 QString Plan_Words::Sums(const Plan_Sums& sums, double seconds, const QDateTime& now)
 {
-    QString words = sums.send == 1 ? tr("1 message to be sent") : tr("%1 messages to be sent").arg(sums.send);
+    QString words = sums.send == 1 ? tr("1 message to be sent") : tr("%n messages to be sent", nullptr, sums.send);
     if (sums.send > 0) {
-        words += sums.parts == 1 ? tr(", 1 part") : tr(", %1 parts").arg(sums.parts);
-        words += QStringLiteral(", %1, %2").arg(Time_Words::About(seconds), Time_Words::Until(seconds, now));
+        const QString parts = sums.parts == 1 ? tr("1 part") : tr("%n parts", nullptr, sums.parts);
+        words = tr("%1, %2, %3, %4").arg(words, parts, Time_Words::About(seconds), Time_Words::Until(seconds, now));
     }
     QStringList reasons;
     for (std::size_t verdict = 1; verdict < sums.by_verdict.size(); ++verdict) {
         if (sums.by_verdict[verdict] > 0)
-            reasons.append(QStringLiteral("%1 %2").arg(sums.by_verdict[verdict]).arg(tr(Verdicts[verdict].word)));
+            reasons.append(QStringLiteral("%1 %2")
+                               .arg(sums.by_verdict[verdict])
+                               .arg(Of_Verdict(static_cast<Row_Verdict>(verdict))));
     }
     if (reasons.isEmpty())
         return words + u'.';
     return words + QLatin1String(". ") +
-           tr("%1 left out: %2.").arg(sums.recipients - sums.send).arg(reasons.join(QLatin1String(", ")));
+           tr("%n left out: %1.", nullptr, sums.recipients - sums.send).arg(reasons.join(QLatin1String(", ")));
 }
 
 QString Plan_Words::Causes(const Plan_Sums& sums)
@@ -71,7 +77,7 @@ QString Plan_Words::Causes(const Plan_Sums& sums)
         characters.append(QStringLiteral("%1 (%2)").arg(Shown(cause.character)).arg(cause.rows));
     }
     const QString words =
-        sums.unicode == 1 ? tr("1 message goes as Unicode") : tr("%1 messages go as Unicode").arg(sums.unicode);
+        sums.unicode == 1 ? tr("1 message goes as Unicode") : tr("%n messages go as Unicode", nullptr, sums.unicode);
     return characters.isEmpty() ? words + u'.'
-                                : words + tr(", because of ") + characters.join(QLatin1String(", ")) + u'.';
+                                : tr("%1, because of %2.").arg(words, characters.join(QLatin1String(", ")));
 }

@@ -11,7 +11,8 @@ class Plan_Words
     Q_DECLARE_TR_FUNCTIONS(Plan_Words)
 
 public:
-    /// A sign and a word.
+    static QString Of_Verdict(Row_Verdict verdict);
+    /// The same behind a sign.
     static QString Signed_Verdict(Row_Verdict verdict);
     /// How many are to be sent, in how many parts, how long that takes, and what is left out and why. The job would
     /// begin now, and take so many seconds.

@@ -1,10 +1,12 @@
 #include "windows/contacts/Table_Page.h"
 
 #include "list/Country_Codes.h"
+#include "texts/Reading_Language.h"
 #include "toolkit/List_Tables.h"
 #include "ui_Table_Page.h"
 #include "windows/contacts/Sample_Rows.h"
 
+#include <QCollator>
 #include <QHeaderView>
 #include <QLocale>
 #include <QSignalBlocker>
@@ -38,10 +40,17 @@ QString Letters_Of_Locale()
 QString Sizes_In_Words(const QString& name, const Contact_Table& table)
 {
     const QString rows =
-        table.Row_Count() == 1 ? Table_Page::tr("1 row") : Table_Page::tr("%1 rows").arg(table.Row_Count());
+        table.Row_Count() == 1 ? Table_Page::tr("1 row") : Table_Page::tr("%n rows", nullptr, table.Row_Count());
     const int columns = table.Column_Count();
     return columns == 1 ? Table_Page::tr("%1: %2 in 1 column.").arg(name, rows)
-                        : Table_Page::tr("%1: %2 in %3 columns.").arg(name, rows).arg(columns);
+                        : Table_Page::tr("%1: %2 in %n columns.", nullptr, columns).arg(name, rows);
+}
+
+QString Guess_In_Words(const Table_Facts& facts)
+{
+    return facts.encoding_is_told
+               ? QString()
+               : u' ' + Table_Page::tr("The file does not tell its encoding: look whether the letters are right.");
 }
 
 } // namespace
@@ -77,7 +86,9 @@ void Table_Page::Offer_Countries()
     for (const Country& country : All_Countries())
         countries.emplace_back(QStringLiteral("%1 (+%2)").arg(country.Name(), QLatin1String(country.code)),
                                QLatin1String(country.letters));
-    std::sort(countries.begin(), countries.end());
+    const QCollator order(Reading_Language::Locale());
+    std::sort(countries.begin(), countries.end(),
+              [&](const auto& one, const auto& other) { return order.compare(one.first, other.first) < 0; });
     m_ui->_Country->addItem(tr("As written"), QString());
     for (const auto& [name, letters] : countries)
         m_ui->_Country->addItem(name, letters);
@@ -134,9 +145,9 @@ void Table_Page::Show_Contacts(const QString& name, const Contact_Reading& readi
     else if (m_table->Row_Count() == 0)
         Say(tr("%1 holds no rows below the names of its columns.").arg(name), {});
     else
-        Say(Sizes_In_Words(name, *m_table), reading.number_column < 0
-                                                ? tr("No column looks as if it held numbers. Choose the one that does.")
-                                                : QString());
+        Say(Sizes_In_Words(name, *m_table) + Guess_In_Words(reading.facts),
+            reading.number_column < 0 ? tr("No column looks as if it held numbers. Choose the one that does.")
+                                      : QString());
     Choose_Number_Column();
 }
 

@@ -5,6 +5,7 @@
 #include "records/Exclusion_Files.h"
 #include "texts/Texts.h"
 #include "toolkit/Dialog_Over.h"
+#include "toolkit/Empty_List_Hint.h"
 #include "toolkit/Key_Actions.h"
 #include "toolkit/Line_Edit_Limit.h"
 #include "toolkit/List_Tables.h"
@@ -102,6 +103,7 @@ void Exclusion_Wizard::Connect_Fields_And_Tables()
         table->verticalScrollBar()->setObjectName(table->objectName() + QStringLiteral("_ScrlView"));
         connect(table, &QTableView::doubleClicked, this, [this, table] { doubleClickInTable(*table); });
     }
+    connect(&m_lists.First_List_Hint(), &Empty_List_Hint::Step_Wanted, m_ui->m_addnew_btn, &QPushButton::click);
     Give_Table_Keys(*m_ui->m_exclusion_list, {[this] { Update_Btn(); }, [this] { Delete_Btn(); }});
     Give_Table_Keys(*m_ui->m_applied_axclusion_list,
                     {[this] { doubleClickInTable(*m_ui->m_applied_axclusion_list); }, [this] { Remove_List_Btn(); }});

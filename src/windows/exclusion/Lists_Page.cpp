@@ -13,6 +13,8 @@ Lists_Page::Lists_Page(QTableView& available, QTableView& applied, Page_Work& wo
       m_applied_axclusion_list_Data(applied, {QStringLiteral("Exclude_List"), tr("Exclude when sending SMS")},
                                     {Texts::Exclusion::None_Applied, Texts::Exclusion::None_Applied_Selected})
 {
+    m_exclusion_list_Data.Hint().Say(tr("There is no exclusion list yet."), tr("Make the first list ..."));
+    m_applied_axclusion_list_Data.Hint().Say(tr("No list is applied, so nobody is left out."));
 }
 
 void Lists_Page::Take(const QStringList& available, const QStringList& applied)

@@ -20,6 +20,8 @@ public:
     void Create_Avail_List(const QString& name) { m_exclusion_list_Data.Append_Trimmed(name); }
     void Create_Exclude_List(const QString& name) { m_applied_axclusion_list_Data.Append_Trimmed(name); }
     const QStringList& Available_Names() const { return m_exclusion_list_Data.Names(); }
+    /// What the table of all lists says while there are none.
+    Empty_List_Hint& First_List_Hint() const { return m_exclusion_list_Data.Hint(); }
     const Names_Table& Names_In(const QTableView* table) const;
 
     void Add_List_Btn();

@@ -15,11 +15,13 @@ Names_Table::Names_Table(QTableView& table, const Row_Table_Model::Column& colum
 {
     Prepare_List_Table(m_table, m_rows);
     m_table.verticalHeader()->hide();
+    m_hint = new Empty_List_Hint(m_table, m_table.objectName() + QStringLiteral("_Here"));
 }
 
 void Names_Table::Take(const QStringList& names)
 {
     m_names = names;
+    m_hint->Hold_True(true);  // from the first time on
     m_table.clearSelection(); // what moves into the selected rows was not selected
     m_rows.Reload();
 }

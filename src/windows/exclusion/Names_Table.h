@@ -1,6 +1,7 @@
 #pragma once
 
 #include "texts/Fixed_Text.h"
+#include "toolkit/Empty_List_Hint.h"
 #include "toolkit/Row_Table_Model.h"
 #include "windows/exclusion/Page_Work.h"
 
@@ -24,6 +25,8 @@ public:
 
     QTableView& Table() const { return m_table; }
     const QStringList& Names() const { return m_names; }
+    /// What the table says while it has no names; for the page to give words to.
+    Empty_List_Hint& Hint() const { return *m_hint; }
     /// The name in a row, when that is there and the identifier is the column's; otherwise empty.
     QString Value(const QString& identifier, int row) const
     {
@@ -53,4 +56,5 @@ private:
     const Words m_words;
     QStringList m_names;
     Row_Table_Model m_rows;
+    Empty_List_Hint* m_hint = nullptr; // the table's own
 };

@@ -8,6 +8,7 @@
 #include "records/Data_Paths.h"
 #include "records/Exclusion_Files.h"
 #include "texts/Texts.h"
+#include "toolkit/Empty_List_Hint.h"
 #include "toolkit/File_Panels.h"
 #include "toolkit/Import_Strip.h"
 #include "toolkit/List_Tables.h"
@@ -36,6 +37,9 @@ Numbers_Page::Numbers_Page(const Ui::Exclusion_Wizard& form, Page_Work& work, Ex
       Update_Excl_Num_Window(std::make_unique<Update_Ex_Num>(*this, m_ex_num_list.window()))
 {
     Prepare_List_Table(m_ex_num_list, m_rows);
+    auto* hint = new Empty_List_Hint(m_ex_num_list, QStringLiteral("First_Number_Here"));
+    hint->Say(tr("No number is in this list yet. Type one above, or load a file of them."));
+    hint->Hold_True(true);
     m_strip.Follow(m_ex_num_list);
     m_strip.Give_Letters();
 }

@@ -25,10 +25,10 @@ QString Name_Of_Job(const Kept_Job& kept)
     if (job.trouble != Job_Trouble::None)
         return Kept_Receipts::tr("%1: cannot be read").arg(Receipt_Cells::Printable(On_One_Line(job.id)));
     const QString name =
-        Kept_Receipts::tr("%1: %2 recipients").arg(Moment_In_Words(job.seconds), QString::number(job.counts.rows));
+        Kept_Receipts::tr("%1: %n recipients", nullptr, job.counts.rows).arg(Moment_In_Words(job.seconds));
     if (job.is_in_use)
-        return name + Kept_Receipts::tr(", in work");
-    return kept.has_ended ? name : name + Kept_Receipts::tr(", not ended");
+        return Kept_Receipts::tr("%1, in work").arg(name);
+    return kept.has_ended ? name : Kept_Receipts::tr("%1, not ended").arg(name);
 }
 
 } // namespace

@@ -1,17 +1,25 @@
 #include "windows/jobs/Receipt_Rows.h"
 
 #include "texts/Receipt_Texts.h"
+#include "toolkit/Outcome_Colours.h"
 
 #include <utility>
 
 namespace T = Texts::Receipts;
 
-std::vector<Row_Table_Model::Column> Receipt_Rows::Columns()
+Receipt_Rows::Receipt_Rows(QObject* parent)
+    : Row_Table_Model(
+          {{QStringLiteral("Row"), T::Row},
+           {QStringLiteral("Number"), T::Number},
+           {QStringLiteral("Message"), T::Message},
+           {QStringLiteral("Outcome"), T::Outcome},
+           {QStringLiteral("Reason"), T::Reason},
+           {QStringLiteral("Parts"), T::Parts_Sent},
+           {QStringLiteral("Delivery"), T::Delivery},
+           {QStringLiteral("Time"), T::Time}},
+          [this] { return static_cast<int>(m_rows.size()); },
+          [this](const QString& column, int index) { return Cell(column, index); }, parent)
 {
-    return {{QStringLiteral("Row"), T::Row},           {QStringLiteral("Number"), T::Number},
-            {QStringLiteral("Message"), T::Message},   {QStringLiteral("Outcome"), T::Outcome},
-            {QStringLiteral("Reason"), T::Reason},     {QStringLiteral("Parts"), T::Parts_Sent},
-            {QStringLiteral("Delivery"), T::Delivery}, {QStringLiteral("Time"), T::Time}};
 }
 
 void Receipt_Rows::Take(std::shared_ptr<const Job_Receipt> receipt, Receipt_Kind kind)
@@ -19,14 +27,30 @@ void Receipt_Rows::Take(std::shared_ptr<const Job_Receipt> receipt, Receipt_Kind
     m_receipt = std::move(receipt);
     m_rows = m_receipt ? m_receipt->Rows_Of(kind) : std::vector<int>();
     m_last.reset();
+    Reload();
 }
 
-QString Receipt_Rows::Cell(const QString& column, int index) const
+const Receipt_Row& Receipt_Rows::Row_At(int index) const
 {
     const int number = m_rows[static_cast<std::size_t>(index)];
     if (!m_last || m_last->first != number)
         m_last.emplace(number, m_receipt->Row(number));
-    const Receipt_Row& row = m_last->second;
+    return m_last->second;
+}
+
+QVariant Receipt_Rows::data(const QModelIndex& index, int role) const
+{
+    const bool is_outcome = index.isValid() && index.column() == Outcome_Column && index.row() < rowCount();
+    if (is_outcome && role == Qt::ForegroundRole)
+        return Colour_Of(Row_At(index.row()).state);
+    if (is_outcome && role == Qt::AccessibleTextRole)
+        return Row_At(index.row()).outcome;
+    return Row_Table_Model::data(index, role);
+}
+
+QString Receipt_Rows::Cell(const QString& column, int index) const
+{
+    const Receipt_Row& row = Row_At(index);
     const std::pair<const char*, QString> Cells[] = {{"Number", row.number},          {"Message", row.message},
                                                      {"Outcome", row.signed_outcome}, {"Reason", row.reason},
                                                      {"Delivery", row.delivery},      {"Time", row.time}};

@@ -7,12 +7,14 @@
 #include <optional>
 #include <vector>
 
-// The rows of a receipt that a table shows: all, or those of one kind. Each is put into words when the table asks for
-// it. Part of its window; interface thread.
-class Receipt_Rows
+// The rows of a receipt in a table: all, or those of one kind. Each is put into words when the table asks for it. An
+// outcome is a sign with words in the colour of both; assistive tools are told the words. Part of its window; interface
+// thread.
+class Receipt_Rows : public Row_Table_Model
 {
+    Q_OBJECT
+
 public:
-    static std::vector<Row_Table_Model::Column> Columns();
     static constexpr int Number_Column = 1;
     static constexpr int Message_Column = 2;
     static constexpr int Outcome_Column = 3;
@@ -21,12 +23,17 @@ public:
     static constexpr int Delivery_Column = 6;
     static constexpr int Time_Column = 7;
 
+    explicit Receipt_Rows(QObject* parent = nullptr);
+
     /// Without a receipt there are none.
     void Take(std::shared_ptr<const Job_Receipt> receipt, Receipt_Kind kind);
-    int Count() const { return static_cast<int>(m_rows.size()); }
-    QString Cell(const QString& column, int index) const;
+
+    QVariant data(const QModelIndex& index, int role) const override;
 
 private:
+    const Receipt_Row& Row_At(int index) const;
+    QString Cell(const QString& column, int index) const;
+
     std::shared_ptr<const Job_Receipt> m_receipt;
     std::vector<int> m_rows;
     mutable std::optional<std::pair<int, Receipt_Row>>

@@ -11,7 +11,6 @@
 #include "toolkit/Key_Actions.h"
 #include "toolkit/List_Tables.h"
 #include "toolkit/PleaseWait_Modeless.h"
-#include "toolkit/Row_Table_Model.h"
 #include "toolkit/Window_Look.h"
 #include "ui_Receipt_Wnd.h"
 #include "windows/jobs/Kept_Receipts.h"
@@ -54,14 +53,12 @@ Receipt_Wnd::~Receipt_Wnd()
 void Receipt_Wnd::Set_Up_Table()
 {
     QTableView& table = *m_ui->_Rows;
-    m_table_model = std::make_unique<Row_Table_Model>(
-        Receipt_Rows::Columns(), [this] { return m_rows.Count(); },
-        [this](const QString& column, int index) { return m_rows.Cell(column, index); });
-    Prepare_List_Table(table, *m_table_model);
+    Prepare_List_Table(table, m_rows);
     table.verticalHeader()->hide(); // the rows have numbers of their own
     QHeaderView& header = *table.horizontalHeader();
     header.setStretchLastSection(false);
-    header.setSectionResizeMode(Receipt_Rows::Message_Column, QHeaderView::Stretch);
+    for (const int column : {Receipt_Rows::Message_Column, Receipt_Rows::Reason_Column})
+        header.setSectionResizeMode(column, QHeaderView::Stretch);
     const QFontMetrics letters = table.fontMetrics();
     const auto set_width = [&](int column, int columns) {
         table.setColumnWidth(column, letters.averageCharWidth() * columns);
@@ -72,7 +69,6 @@ void Receipt_Wnd::Set_Up_Table()
     set_width(0, 8);
     set_width(Receipt_Rows::Number_Column, 20);
     table.setColumnWidth(Receipt_Rows::Outcome_Column, outcome_width + letters.averageCharWidth() * 3);
-    set_width(Receipt_Rows::Reason_Column, 30);
     set_width(Receipt_Rows::Parts_Column, 12);
     set_width(Receipt_Rows::Delivery_Column, 20);
     set_width(Receipt_Rows::Time_Column, 24);
@@ -261,7 +257,6 @@ Receipt_Kind Receipt_Wnd::Chosen_Kind() const
 void Receipt_Wnd::Show_Rows()
 {
     m_rows.Take(m_receipt, Chosen_Kind());
-    m_table_model->Reload();
 }
 
 void Receipt_Wnd::Say(const QString& notice)

@@ -12,7 +12,6 @@
 
 class Kept_Receipts;
 class PleaseWait_Modeless;
-class Row_Table_Model;
 
 namespace Ui {
 class Receipt_Wnd;
@@ -72,7 +71,6 @@ private:
     QString m_folder;
     Made_Receipt m_receipt;
     Receipt_Rows m_rows;
-    std::unique_ptr<Row_Table_Model> m_table_model;
     std::unique_ptr<PleaseWait_Modeless> plz_wait_Window;
     int m_turn = 0;      // what an earlier reading brings is too late
     int m_list_turn = 0; // and so is an earlier list of jobs

@@ -5,6 +5,7 @@
 #include "platform/Interface_Thread.h"
 #include "platform/One_Line.h"
 #include "records/Job_Reader.h"
+#include "texts/Receipt_Texts.h"
 #include "toolkit/Dialog_Over.h"
 #include "toolkit/Flow_Layout.h"
 #include "windows/jobs/Removal_Question.h"
@@ -34,7 +35,7 @@ QString Counts_In_Words(const Job_Counts& counts)
                                                  {Receipt_Kind::Skipped, counts.skipped}};
     QStringList sums;
     for (const auto& [kind, count] : Sums)
-        sums.append(Name_Of(kind) + QStringLiteral(": %1.").arg(count));
+        sums.append(QString(Texts::Receipts::Sum).arg(Name_Of(kind), QString::number(count)));
     return sums.join(u' ');
 }
 
@@ -130,7 +131,7 @@ void Unfinished_Strip::Show_First()
         Say(*m_counts, {});
     }
     const auto more = m_jobs.size() - 1;
-    Say(*m_more, more > 0 ? tr("%1 more").arg(more) : QString());
+    Say(*m_more, more > 0 ? tr("%n more", nullptr, static_cast<int>(more)) : QString());
     Show_Buttons(job);
     show();
 }
@@ -139,7 +140,8 @@ void Unfinished_Strip::Show_Buttons(const Unfinished_Job& job)
 {
     const bool can_go_on = Can_Be_Gone_On_With(job);
     const Job_Counts& counts = job.counts;
-    m_go_on->setText(counts.refused == 0 ? tr("Send the remaining %1").arg(counts.not_tried) : tr("Send the rest"));
+    m_go_on->setText(counts.refused == 0 ? tr("Send the remaining %n", nullptr, counts.not_tried)
+                                         : tr("Send the rest"));
     m_go_on->setVisible(can_go_on && counts.not_tried > 0);
     m_decide->setVisible(can_go_on && counts.unknown > 0);
     m_receipt->setVisible(can_go_on);

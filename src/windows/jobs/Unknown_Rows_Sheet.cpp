@@ -63,8 +63,8 @@ void Unknown_Rows_Sheet::Set_Up_Table()
     Prepare_List_Table(table, *m_table_model);
     const int letter = table.fontMetrics().averageCharWidth();
     table.horizontalHeader()->setStretchLastSection(false);
-    table.horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
-    table.setColumnWidth(2, letter * 38);
+    for (const int column : {1, 2})
+        table.horizontalHeader()->setSectionResizeMode(column, QHeaderView::Stretch);
     table.setColumnWidth(3, letter * 23);
     table.setColumnWidth(4, letter * 19);
     Give_Table_Keys(table, {});
@@ -129,7 +129,7 @@ void Unknown_Rows_Sheet::Say_Choices()
     QStringList sums;
     for (const Choice& choice : {Choice(), Choice(Job_Decision::Send_Again), Choice(Job_Decision::Count_As_Sent)}) {
         const auto count = std::count(m_choices.begin(), m_choices.end(), choice);
-        sums.append(Words_Of(choice) + QStringLiteral(": %1.").arg(count));
+        sums.append(QString(Texts::Receipts::Sum).arg(Words_Of(choice), QString::number(count)));
     }
     m_ui->_Choices->setText(sums.join(u' '));
 }

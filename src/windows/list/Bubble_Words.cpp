@@ -45,7 +45,7 @@ QStringList First_Few(const Message_Preview& preview, const In_Words& in_words)
     for (std::size_t index = 0; index < named; ++index)
         few.append(in_words(preview.characters[index]));
     if (preview.characters.size() > named)
-        few.append(Words::tr("%1 more").arg(preview.characters.size() - named));
+        few.append(Words::tr("%n more", nullptr, static_cast<int>(preview.characters.size() - named)));
     return few;
 }
 
@@ -70,7 +70,7 @@ QString What_Makes_It_Unicode(const Message_Preview& preview)
     const int parts = preview.row.parts;
     if (parts == preview.parts_without)
         return makes + u'.';
-    return makes + Words::tr(": %1 parts instead of %2.").arg(parts).arg(preview.parts_without);
+    return Words::tr("%1: %n parts instead of %2.", nullptr, parts).arg(makes, QString::number(preview.parts_without));
 }
 
 } // namespace
@@ -79,7 +79,9 @@ QString Parts(const Message_Preview& preview)
 {
     if (preview.row.parts == 1)
         return Words::tr("1 part of %1, %2 left").arg(preview.room).arg(preview.left);
-    return Words::tr("%1 parts of %2, %3 left in the last").arg(preview.row.parts).arg(preview.room).arg(preview.left);
+    return Words::tr("%n parts of %1, %2 left in the last", nullptr, preview.row.parts)
+        .arg(preview.room)
+        .arg(preview.left);
 }
 
 QString Losses(const Message_Preview& preview)

@@ -1,5 +1,6 @@
 #include "windows/list/Counted_Message.h"
 
+#include "texts/Texts.h"
 #include "toolkit/Main_Window.h"
 #include "toolkit/Plain_Text_Edit.h"
 
@@ -10,7 +11,7 @@ namespace {
 
 QString Characters_Text(int length)
 {
-    return QString::number(length) + QStringLiteral(" Characters");
+    return QString(Texts::Long_Message::Characters).arg(length);
 }
 
 } // namespace

@@ -138,7 +138,7 @@ void Handset_Bubble::Show_Preview(const QString& text, int place, const Terms& t
         filled.text == text ? m_preview : Preview_Of_Message(filled.text, number, terms.manner);
     const bool is_sent = filled.fault.isEmpty() && filled.text.size() <= Longest_Message;
     const QString handset = terms.table ? tr("On the handset of %1").arg(number) : tr("On the handset");
-    m_ui->_Bubble_Caption->setText(handset + (terms.manner.is_flash ? tr(", at once and not kept:") : tr(":")));
+    m_ui->_Bubble_Caption->setText((terms.manner.is_flash ? tr("%1, at once and not kept:") : tr("%1:")).arg(handset));
     m_ui->_Shown_Text->Show_Text(is_sent ? sent.row.shown : QString(), place);
     if (!filled.fault.isEmpty())
         Say(*m_ui->_Bubble_Words, tr("%1 gets nothing: %2.").arg(number, Words_For_Fault(filled)));

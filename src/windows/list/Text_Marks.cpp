@@ -49,6 +49,9 @@ void Mark_Places(QPlainTextEdit& edit, const std::vector<Marked_Place>& places)
         const auto marks = Marks_In(block, format, next, places.end());
         if (marks == block.layout()->formats())
             continue;
+        // Each mark is shaped by itself, which costs much: the text is painted as it was laid out, and not shaped
+        // again.
+        block.layout()->setCacheEnabled(!marks.isEmpty());
         block.layout()->setFormats(marks);
         document.markContentsDirty(block.position(), block.length());
     }

@@ -22,10 +22,20 @@ Confirm_Choices Confirm_Boxes::Choices() const
 void Confirm_Boxes::Put_Back()
 {
     const auto remembered = m_settings.Remembered();
-    const Confirm_Choices choices = remembered.value_or(Confirm_Choices{});
+    Show(remembered.value_or(Confirm_Choices{}), remembered.has_value());
+}
+
+void Confirm_Boxes::Take_On(const Confirm_Choices& choices)
+{
+    if (!m_boxes.remember->isChecked())
+        Show(choices, false);
+}
+
+void Confirm_Boxes::Show(const Confirm_Choices& choices, bool are_remembered)
+{
     for (const auto& [box, is_on] :
          {std::pair(m_boxes.confirm, choices.confirms), std::pair(m_boxes.reports, choices.asks_for_reports),
-          std::pair(m_boxes.keep, choices.keeps_receipt), std::pair(m_boxes.remember, remembered.has_value())}) {
+          std::pair(m_boxes.keep, choices.keeps_receipt), std::pair(m_boxes.remember, are_remembered)}) {
         const QSignalBlocker nothing_is_chosen(box);
         box->setChecked(is_on);
     }

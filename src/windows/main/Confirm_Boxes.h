@@ -27,8 +27,11 @@ public:
     Confirm_Choices Choices() const;
     /// Sets the boxes to what is remembered, or else unticks them.
     void Put_Back();
+    /// Sets the boxes to what they were, unless something is remembered.
+    void Take_On(const Confirm_Choices& choices);
 
 private:
+    void Show(const Confirm_Choices& choices, bool are_remembered);
     void Choice_Changed();
     void Remember_Changed();
     void Enable();

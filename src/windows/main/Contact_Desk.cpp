@@ -7,12 +7,12 @@
 #include "platform/Interface_Thread.h"
 #include "platform/Rich_Text.h"
 #include "records/Export_Writer.h"
+#include "toolkit/Empty_List_Hint.h"
 #include "toolkit/File_Panels.h"
 #include "toolkit/Import_Strip.h"
 #include "toolkit/Main_Window.h"
 #include "toolkit/Window_Work.h"
 #include "windows/contacts/Contacts_Wnd.h"
-#include "windows/contacts/Empty_List_Hint.h"
 #include "windows/contacts/Fields_Strip.h"
 
 #include <QClipboard>
@@ -48,11 +48,14 @@ bool Is_No_List_Of_Numbers(const QString& path)
 } // namespace
 
 Contact_Desk::Contact_Desk(Main_Window& window, Window_Work& work, const Plan_Pace& pace, const Controls& controls)
-    : m_window(window), m_work(work), m_pace(pace), m_controls(controls), m_hint(new Empty_List_Hint(controls.table)),
+    : m_window(window), m_work(work), m_pace(pace), m_controls(controls),
+      m_hint(new Empty_List_Hint(controls.table, QStringLiteral("Import_Contacts_Here"))),
       m_fields(new QMenu(&controls.insert_field))
 {
     m_controls.insert_field.setMenu(m_fields);
-    connect(m_hint, &QPushButton::clicked, this, &Contact_Desk::Import_Contacts);
+    m_hint->Say(tr("Nobody is on the list yet."), tr("Add contacts from a spreadsheet, CSV or vCard file ..."));
+    m_hint->Hold_True(true);
+    connect(m_hint, &Empty_List_Hint::Step_Wanted, this, &Contact_Desk::Import_Contacts);
     connect(m_fields, &QMenu::aboutToShow, this, &Contact_Desk::Offer_Fields);
     connect(&m_controls.fields, &Fields_Strip::Save_Wanted, this, &Contact_Desk::Save_With_Fields);
     List_Changed();
@@ -109,7 +112,7 @@ void Contact_Desk::Say_What_Was_Added(int rows, int not_used)
         m_controls.strip.Show_News(tr("%1 added.").arg(rows), {});
     else
         m_controls.strip.Show_News(not_used == 1 ? tr("%1 added, 1 row not used.").arg(rows)
-                                                 : tr("%1 added, %2 rows not used.").arg(rows).arg(not_used),
+                                                 : tr("%1 added, %n rows not used.", nullptr, not_used).arg(rows),
                                    [this] { Window().Show_Not_Used(); });
 }
 
@@ -118,7 +121,6 @@ void Contact_Desk::Say_What_Was_Added(int rows, int not_used)
 void Contact_Desk::List_Changed()
 {
     const Recipient_List& list = m_window.Recipients();
-    m_hint->setVisible(list.Count() == 0);
     const QStringList names = list.Field_Names();
     if (names == m_names)
         return;
@@ -188,7 +190,7 @@ void Contact_Desk::Job_Ended()
         Post_To_Interface_Thread(this, [this, count, reason] {
             m_controls.strip.Show_News(count == 1
                                            ? tr("1 row was not sent: %1.").arg(reason)
-                                           : tr("%1 rows were not sent. Of the first, %2.").arg(count).arg(reason),
+                                           : tr("%n rows were not sent. Of the first, %1.", nullptr, count).arg(reason),
                                        [this] { Window().Check_List(true); });
         });
     });

@@ -15,6 +15,7 @@
 #include "toolkit/Main_Window.h"
 #include "toolkit/Message_Boxes.h"
 #include "toolkit/PleaseWait_Modeless.h"
+#include "toolkit/Row_Finder.h"
 #include "toolkit/Row_Table_Model.h"
 #include "toolkit/Window_Look.h"
 #include "toolkit/Window_Work.h"
@@ -28,11 +29,13 @@
 #include "windows/main/Contact_Desk.h"
 #include "windows/main/Help_Wnd.h"
 #include "windows/main/Job_Follow_Up.h"
+#include "windows/main/Language_Menu.h"
 #include "windows/main/List_Arrivals.h"
 #include "windows/main/Recipient_Rows.h"
 #include "windows/main/Send_Modeless.h"
 #include "windows/main/Send_Promise.h"
 #include "windows/main/Send_Runner.h"
+#include "windows/main/Undo_Strip.h"
 #include "windows/phone/Connection_Info.h"
 #include "windows/phone/Device_Facts.h"
 #include "windows/phone/Doctor_Wnd.h"
@@ -62,6 +65,7 @@ CorvaneAppDelegate::CorvaneAppDelegate()
     m_please_wait = new PleaseWait_Modeless(this);
     m_work = std::make_unique<Window_Work>(*this, *m_please_wait);
     m_arrivals = std::make_unique<List_Arrivals>(*m_ui->recipients_group, *m_ui->idTableView, *m_ui->_Import_Strip);
+    m_ui->_Undo_Strip->Serve(*m_ui->idTableView);
     Connect_Controls();
 }
 
@@ -103,9 +107,9 @@ bool CorvaneAppDelegate::awakeFromNib()
         m_ui->_Msg_TypeComboBox->setItemData(type, type != Normal_Message_Index); // whether it is sent as flash
     m_ui->_Msg_TypeComboBox->setCurrentIndex(Normal_Message_Index);
     Check_Path_And_Create_Files();
-    m_ui->Fill_Msg_Btn->setText(QStringLiteral("Apply this\r\nmessage to\r\nlist items"));
+    m_ui->Fill_Msg_Btn->setText(Texts::Main::Apply_To_List);
     m_ui->_delayed_msg_count_combo->addItems(Delayed_Delivery::Batch_Sizes());
-    m_ui->_delayed_time_combo->addItems(Delayed_Delivery::Pause_Choices());
+    m_ui->_delayed_time_combo->addItems(Delayed_Delivery::Shown_Pause_Choices());
     for (auto* box : {m_ui->_delayed_msg_count_combo, m_ui->_delayed_time_combo}) {
         box->setCompleter(nullptr);
         box->setCurrentIndex(-1);
@@ -116,6 +120,7 @@ bool CorvaneAppDelegate::awakeFromNib()
                              m_ui->_Remember_Confirm_Chk, m_ui->confirm_more},
         Program_Settings(Settings_Path));
     m_appearance = std::make_unique<Appearance_Menu>(*m_ui->_Appearance_Btn, Program_Settings(Settings_Path));
+    Add_Language_Menu(*m_ui->_Appearance_Btn->menu(), Program_Settings(Settings_Path));
     Show_What_Handsets_Show();
     m_import = std::make_unique<Number_Import>(
         Number_Import::Target{[this](int count, int percent) { Show_Import_Progress(count, percent); },
@@ -130,6 +135,7 @@ bool CorvaneAppDelegate::awakeFromNib()
     connect(m_awaited_reports.get(), &Awaited_Reports::Came, m_follow_up.get(), &Job_Follow_Up::Take_Reports);
     Make_Contact_Desk();
     Make_Promise();
+    Make_Menu();
     Main_App_wnd = this;
     Show_Device_In_Ticker();
     return true;
@@ -200,6 +206,7 @@ void CorvaneAppDelegate::Give_Tables_Their_Models()
     connect(m_ui->idTableView->selectionModel(), &QItemSelectionModel::selectionChanged, m_ui->_Bubble,
             &Handset_Bubble::Look_Again);
     Prepare_List_Table(*m_ui->idExclusionTableView, *m_exclusion_rows);
+    Make_Finder();
 }
 
 void CorvaneAppDelegate::Exit_App()
@@ -246,7 +253,7 @@ Send_Choices CorvaneAppDelegate::Read_Send_Choices() const
     choices.number_text = m_ui->_numberEdit->text();
     choices.composer_text = m_composer->Text();
     choices.batch_size = m_ui->_delayed_msg_count_combo->currentText();
-    choices.pause_choice = m_ui->_delayed_time_combo->currentText();
+    choices.pause_choice = Delayed_Delivery::Pause_Choice_Of(m_ui->_delayed_time_combo->currentText());
     choices.delayed_delivery = m_ui->_Delayed_Delivry_Chk->isChecked();
     choices.exclusion = m_ui->_Exclusion_Chk->isChecked();
     choices.skip_duplicates = m_ui->_Skip_Duplicate_Chk->isChecked();
@@ -307,7 +314,9 @@ void CorvaneAppDelegate::Show_Device_In_Ticker()
 
 void CorvaneAppDelegate::Sent_Item_Btn()
 {
-    Sent_Items::defaultInstance()->Open_Sent_Item_Wnd();
+    auto* window = Sent_Items::defaultInstance();
+    connect(window, &Sent_Items::Saving_Wanted, m_ui->_Save_Sent_Item_Chk, &QCheckBox::click, Qt::UniqueConnection);
+    window->Open_Sent_Item_Wnd();
 }
 
 void CorvaneAppDelegate::View_Templates_Btn()

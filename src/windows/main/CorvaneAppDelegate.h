@@ -22,6 +22,7 @@ struct Number_Terms;
 class PleaseWait_Modeless;
 class QTableView;
 class Recipient_Rows;
+class Row_Finder;
 class Row_Table_Model;
 class Send_Modeless;
 class Send_Promise;
@@ -163,6 +164,9 @@ private:
     void Connect_Controls();
     void Show_What_Handsets_Show();
     void Make_Promise();
+    void Make_Menu();
+    void Make_Finder();
+    void List_Will_Change();
     void Give_Tables_Their_Models();
     void Show_Device_In_Ticker();
     void Remember_Composer_Text();
@@ -170,7 +174,11 @@ private:
     Recipient_List Exchange_List(Recipient_List list = {});
     void Recipient_Changed(int row);
     void Remove_Recipients(const std::function<void(Recipient_List&)>& remove);
-    void Remove_All_Recipients();
+    Recipient_List Remove_All_Recipients();
+    void Offer_Undo(Recipient_List former, const QString& words, std::function<void()> more);
+    void Offer_Undo(Recipient_List former);
+    void Bring_Back(Recipient_List former);
+    std::function<void()> Way_Back_Of_The_Fields();
     std::optional<Row_Outcome> Outcome_Of(int row) const;
     void Forget_Outcomes_Of_Job();
     void Look_For_Not_Taken();
@@ -202,6 +210,7 @@ private:
     bool m_has_not_taken = false;       // whether there is a recipient with marks whose message was not taken
     Recipient_Rows* m_recipient_rows = nullptr;
     Row_Table_Model* m_exclusion_rows = nullptr;
+    std::unique_ptr<Row_Finder> m_finder;
     std::unique_ptr<Composer> m_composer;
     std::unique_ptr<Confirm_Boxes> m_confirm_boxes;
     std::unique_ptr<Appearance_Menu> m_appearance;

@@ -2,6 +2,9 @@
 #include "windows/list/Handset_Bubble.h"
 #include "windows/main/Composer.h"
 #include "windows/main/CorvaneAppDelegate.h"
+#include "windows/main/Recipient_Rows.h"
+
+#include <algorithm>
 
 // The main window's operations on the message that is being written.
 
@@ -11,7 +14,8 @@ void CorvaneAppDelegate::Show_What_Handsets_Show()
     auto* bubble = m_ui->_Bubble;
     bubble->Follow(*m_ui->_messageEdit, *m_ui->_Part_Count, [this] {
         const QItemSelection selected = m_ui->idTableView->selectionModel()->selection();
-        return Handset_Bubble::Terms_For(*this, selected.isEmpty() ? 0 : selected.first().top());
+        const int row = selected.isEmpty() ? 0 : m_recipient_rows->List_Row(selected.first().top());
+        return Handset_Bubble::Terms_For(*this, std::max(row, 0));
     });
     bubble->Offer_Unicode();
     connect(bubble, &Handset_Bubble::Unicode_Wanted, m_ui->_Unicode_SMS_Chk, &QCheckBox::click);

@@ -68,7 +68,7 @@ bool CorvaneAppDelegate::May_Import_File()
     if (Program_Is_Exiting() || (answer != Load_Num_Info::Remove_Numbers && answer != Load_Num_Info::Keep_Numbers))
         return false; // leaving ends the dialog as well
     if (answer == Load_Num_Info::Remove_Numbers)
-        Remove_All_Recipients();
+        Offer_Undo(Remove_All_Recipients()); // for as long as the panel is open: what it brings is another list
     return true;
 }
 

@@ -7,18 +7,19 @@
 #include "toolkit/Line_Edit_Limit.h"
 #include "toolkit/List_Tables.h"
 #include "toolkit/Message_Boxes.h"
+#include "toolkit/Row_Finder.h"
 #include "toolkit/Window_Work.h"
 #include "ui_CorvaneAppDelegate.h"
 #include "windows/list/Handset_Bubble.h"
 #include "windows/list/List_Dialogs.h"
 #include "windows/main/Composer.h"
-#include "windows/main/Confirm_Boxes.h"
 #include "windows/main/Contact_Desk.h"
 #include "windows/main/CorvaneAppDelegate.h"
 #include "windows/main/List_Arrivals.h"
 #include "windows/main/List_Cells.h"
 #include "windows/main/Recipient_Rows.h"
 #include "windows/main/Send_Promise.h"
+#include "windows/main/Undo_Strip.h"
 
 #include <utility>
 
@@ -28,7 +29,6 @@ namespace {
 
 // Reaching exactly this many recipients makes the counter itself redraw the table.
 constexpr int Redisplay_Count = Number_Import::First_Shown;
-constexpr int Normal_Message_Index = 1;
 
 // Releasing a million recipients takes time, like everything that is done with each of them.
 void Let_Go_Of(Recipient_List& list)
@@ -43,7 +43,7 @@ void CorvaneAppDelegate::Create_Num_Msg_List(const QString& number, const QStrin
     const QString trimmed_number = Trim_Str(number);
     if (trimmed_number.isEmpty())
         return;
-    m_promise->List_Will_Change();
+    List_Will_Change();
     nsListDataObject.Append(trimmed_number, message_val);
     Recipient_Changed(nsListDataObject.Count() - 1);
     Update_List_Count();
@@ -157,27 +157,29 @@ void CorvaneAppDelegate::Remove_Recipients(const std::function<void(Recipient_Li
     list = Exchange_List(std::move(list));
     Reload_And_Select_First(*m_ui->idTableView, *m_recipient_rows);
     Update_List_Count();
-    Let_Go_Of(list);
+    Offer_Undo(std::move(list));
 }
 
 // Every change of the list as a whole, which hands the present one back.
 Recipient_List CorvaneAppDelegate::Exchange_List(Recipient_List list)
 {
+    m_finder->List_Will_Change();
     std::swap(nsListDataObject, list);
     if (nsListDataObject.Count() == 0)
         m_arrivals->Forget();
     m_promise->Changed();
+    m_ui->_Undo_Strip->Forget(); // what was removed belongs to another list than this one
     Forget_Outcomes_Of_Job();
     Look_For_Not_Taken();
     return list;
 }
 
-void CorvaneAppDelegate::Remove_All_Recipients()
+Recipient_List CorvaneAppDelegate::Remove_All_Recipients()
 {
     Recipient_List list = Exchange_List();
     Redisplay_Recipients();
     Update_List_Count();
-    Let_Go_Of(list);
+    return list;
 }
 
 void CorvaneAppDelegate::Clear_All_Btn()
@@ -189,31 +191,9 @@ void CorvaneAppDelegate::Clear_All_Btn()
     if (!Show_YES_NO_MessageBox(Texts::Clear_All))
         return;
     const auto sheet = m_work->Sheet();
-    Remove_All_Recipients();
+    Offer_Undo(Remove_All_Recipients());
     m_ui->_numberEdit->clear();
     Focus(Field::Number);
-}
-
-void CorvaneAppDelegate::Reset_Btn()
-{
-    prev_composer_msg.clear();
-    m_ui->_numberEdit->clear();
-    m_composer->Clear();
-    Recipient_List list = Exchange_List();
-    Redisplay_Recipients();
-    Update_List_Count();
-    m_ui->_Msg_char_count->setText(QStringLiteral("0 Characters"));
-    m_ui->_Msg_TypeComboBox->setCurrentIndex(Normal_Message_Index);
-    for (auto* box : {m_ui->_Delayed_Delivry_Chk, m_ui->_Exclusion_Chk, m_ui->_Save_Sent_Item_Chk,
-                      m_ui->_Save_Templates_Chk, m_ui->_Skip_Duplicate_Chk, m_ui->_Unicode_SMS_Chk})
-        box->setChecked(false);
-    m_confirm_boxes->Put_Back();
-    m_ui->idExclusionTableView->hide();
-    Show_Exclusion_Trouble({});
-    Delayed_Delivery_Chk();
-    Update_List_Count();
-    Focus(Field::Number);
-    Let_Go_Of(list);
 }
 
 void CorvaneAppDelegate::doubleClickInTable()
@@ -260,7 +240,7 @@ void CorvaneAppDelegate::Replace_Recipients(Recipient_List recipients)
 
 void CorvaneAppDelegate::Replace_Recipient(int row, const QString& number, const QString& message)
 {
-    m_promise->List_Will_Change();
+    List_Will_Change();
     nsListDataObject.Replace(row, number, message);
     Recipient_Changed(row);
     Redisplay_Recipients();

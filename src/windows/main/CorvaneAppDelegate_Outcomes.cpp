@@ -1,9 +1,11 @@
 #include "engine/Outcome_Words.h"
+#include "toolkit/Row_Finder.h"
 #include "ui_CorvaneAppDelegate.h"
 #include "windows/main/Contact_Desk.h"
 #include "windows/main/CorvaneAppDelegate.h"
 #include "windows/main/Recipient_Rows.h"
 #include "windows/main/Send_Promise.h"
+#include "windows/main/Undo_Strip.h"
 
 #include <QHeaderView>
 #include <QItemSelectionModel>
@@ -40,6 +42,7 @@ int Width_For_Outcomes(const QTableView& table, int column)
 void CorvaneAppDelegate::Begin_Outcomes()
 {
     m_outcome_codes = {};
+    m_ui->_Undo_Strip->Forget(); // its marks are those of another job
     nsListDataObject.Begin_Marks();
     m_takes_outcomes = true;
     Show_Outcomes();
@@ -58,7 +61,9 @@ void CorvaneAppDelegate::Take_Outcomes(int first_row, const QByteArray& marks, c
 void CorvaneAppDelegate::End_Outcomes()
 {
     m_takes_outcomes = false;
-    m_promise->Changed(); // it is known better now how long a message takes
+    if (!m_recipient_rows->Shows_All())
+        Redisplay_Recipients(); // they may be sorted by what they came to
+    m_promise->Changed();       // it is known better now how long a message takes
     Look_For_Not_Taken();
     m_contacts->Job_Ended();
 }
@@ -82,6 +87,7 @@ std::optional<Row_Outcome> CorvaneAppDelegate::Outcome_Of(int row) const
 void CorvaneAppDelegate::Recipient_Changed(int row)
 {
     m_promise->Changed();
+    m_ui->_Undo_Strip->Forget();
     if (!nsListDataObject.Has_Marks())
         return;
     Forget_Outcomes_Of_Job();
@@ -131,6 +137,7 @@ void CorvaneAppDelegate::Show_Outcome_Column(bool shown)
 
 void CorvaneAppDelegate::Select_Not_Taken()
 {
+    m_finder->End(); // all of them, and not only those that are shown
     QItemSelection not_taken;
     const int count = nsListDataObject.Count();
     for (int row = 0; row < count; ++row) {

@@ -1,5 +1,7 @@
 #include "windows/main/Hyperlink.h"
 
+#include "texts/Texts.h"
+
 #include <QLabel>
 
 QString hyperlinkFromString(const QString& text, const QString& url)
@@ -12,10 +14,7 @@ QString hyperlinkFromString(const QString& text, const QString& url)
 void setHyperlinkWithTextField(QLabel& text_field)
 {
     text_field.setTextFormat(Qt::RichText);
-    text_field.setText(
-        hyperlinkFromString(QStringLiteral("No Mobile Phone Device is selected. Click here to start Mobile Phone "
-                                           "Connection Wizard."),
-                            QStringLiteral("corvane:connection-wizard")));
+    text_field.setText(hyperlinkFromString(Texts::Main::Choose_Device, QStringLiteral("corvane:connection-wizard")));
     text_field.setTextInteractionFlags(Qt::TextBrowserInteraction);
     text_field.setCursor(Qt::OpenHandCursor);
 }

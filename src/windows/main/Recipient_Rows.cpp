@@ -31,8 +31,9 @@ void Recipient_Rows::Show_Outcomes(bool shown)
 
 void Recipient_Rows::Outcomes_Changed(int first_row, int last_row)
 {
-    const auto first = index(first_row, Outcome_Column()); // none where there is no such row or column
-    const auto last = index(last_row, Outcome_Column());
+    const bool shows_all = Shows_All(); // rows that are shown otherwise may be anywhere
+    const auto first = index(shows_all ? first_row : 0, Outcome_Column()); // none where there is no such row or column
+    const auto last = index(shows_all ? last_row : rowCount() - 1, Outcome_Column());
     if (first.isValid() && last.isValid())
         Q_EMIT dataChanged(first, last);
 }
@@ -48,7 +49,8 @@ QVariant Recipient_Rows::data(const QModelIndex& index, int role) const
         return Row_Table_Model::data(index, role);
     if (role != Qt::DisplayRole && role != Qt::AccessibleTextRole && role != Qt::ForegroundRole)
         return {};
-    const auto outcome = m_read_outcome(index.row());
+    const int row = List_Row(index.row());
+    const auto outcome = row >= 0 ? m_read_outcome(row) : std::nullopt;
     if (!outcome)
         return {};
     if (role == Qt::ForegroundRole)

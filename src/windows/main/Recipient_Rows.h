@@ -21,7 +21,7 @@ public:
 
     bool Shows_Outcomes() const { return m_shows_outcomes; }
     void Show_Outcomes(bool shown);
-    /// Takes note of changed outcomes in some rows.
+    /// Takes note of changed outcomes in some rows of the list.
     void Outcomes_Changed(int first_row, int last_row);
     /// Where the outcomes are when they are shown.
     int Outcome_Column() const { return Row_Table_Model::columnCount({}); }

@@ -75,7 +75,7 @@ void Send_Modeless::Make_Room_For_Texts()
     m_ui->_curr_msg_cnt->setFont(heading);
     Keep_Room_For(*m_ui->_curr_msg_cnt, Texts::Sending::Preparing);
     Keep_Room_For(*m_ui->_current_send_msg, Texts::Causes::Phone_Pin_Wanted); // the longest that a job waits for
-    Keep_Room_For(*m_ui->_pause_timer, QStringLiteral("Pausing the process for 1 Hour 59 Minute 59 Seconds."));
+    Keep_Room_For(*m_ui->_pause_timer, QString(Texts::Pause::Hours).arg(1).arg(59).arg(59));
     Keep_Room_For(*m_ui->_Time_Left_Lbl, tr("about 23 h 59 min left, until 30 September 2026, 23:59"));
     for (QWidget* widget : {static_cast<QWidget*>(m_ui->_current_send_label),
                             static_cast<QWidget*>(m_ui->_current_send_msg), static_cast<QWidget*>(m_ui->_Tot_Progress)})

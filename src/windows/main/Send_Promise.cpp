@@ -128,6 +128,7 @@ void Send_Promise::Show()
 {
     const bool has_recipients = m_window.Recipients().Count() > 0;
     m_controls.other_ways->setVisible(has_recipients);
+    m_controls.words->setVisible(has_recipients); // it has a line of its own
     m_is_notice_shown = false;
     if (m_sums && has_recipients) {
         const Send_Choices choices = m_window.Read_Send_Choices();

@@ -11,6 +11,7 @@
 #include "platform/Thread_Shortage.h"
 #include "records/Data_Paths.h"
 #include "texts/Texts.h"
+#include "toolkit/Desktop_Help.h"
 #include "toolkit/Main_Window.h"
 #include "toolkit/Message_Boxes.h"
 #include "windows/main/Send_Checks.h"
@@ -106,8 +107,10 @@ void Send_Runner::Start(std::shared_ptr<Claim> claim, Send_Order order, Confirme
 void Send_Runner::Send_SMS_Thread(Send_Order& order, const Confirmed& confirmed)
 {
     Confirmed_End end;
+    Desktop_Help& desktop = Desktop_Help::Of(*m_window.Window());
+    desktop.Job_Begins();
     try {
-        Timed_Progress progress(m_progress, order, m_pace);
+        Timed_Progress progress(m_progress, order, m_pace, desktop);
         m_timed = &progress;
         const auto forget = qScopeGuard([this] { m_timed = nullptr; });
         if (confirmed) {
@@ -118,8 +121,11 @@ void Send_Runner::Send_SMS_Thread(Send_Order& order, const Confirmed& confirmed)
         }
     } catch (const std::exception& failure) {
         Show_NSLog_Message(QStringLiteral("The send job ended early: ") + QString::fromLocal8Bit(failure.what()));
+        desktop.Job_Says(Texts::Sending::Broken_Off);
+        desktop.Job_Ends();
         Show_MessageBox(Texts::Sending::Broken_Off);
     }
+    desktop.Job_Ends();
     Run_On_Interface_Thread([&] {
         m_outcomes.End();
         if (confirmed)
@@ -144,6 +150,7 @@ void Send_Runner::Walk_Confirmed(Send_Order& order, const Confirmed_Options& opt
 
 void Send_Runner::Tell(const QString& text)
 {
+    m_timed->Job_Says(text);
     Run_On_Interface_Thread([this] { m_outcomes.Deliver(); }); // the table behind the box shows them all
     Show_MessageBox(text);
 }

@@ -5,6 +5,7 @@
 #include "plan/Time_Words.h"
 #include "platform/Thread_Shortage.h"
 #include "platform/Waiting.h"
+#include "toolkit/Desktop_Help.h"
 
 #include <atomic>
 #include <utility>
@@ -26,8 +27,8 @@ Plan_Manner Manner_Of_Order(const Send_Order& order)
 
 } // namespace
 
-Timed_Progress::Timed_Progress(Send_Progress& shown, const Send_Order& order, Plan_Pace& pace)
-    : m_shown(shown), m_order(order), m_pace(pace), m_manner(Manner_Of_Order(order)),
+Timed_Progress::Timed_Progress(Send_Progress& shown, const Send_Order& order, Plan_Pace& pace, Desktop_Help& desktop)
+    : m_shown(shown), m_order(order), m_pace(pace), m_desktop(desktop), m_manner(Manner_Of_Order(order)),
       m_time_left(std::make_shared<Time_Left>(m_manner)), m_is_over(std::make_shared<std::atomic<bool>>(false))
 {
 }
@@ -70,6 +71,7 @@ void Timed_Progress::Show_Item(int position, int total, const QString& number)
     m_was_settled = false;
     m_time_left->Row_Begins(m_row_parts, Now_Seconds());
     m_shown.Show_Item(position, total, number);
+    m_desktop.Job_At(position, total);
 }
 
 void Timed_Progress::Row_Done(int /*index*/, const Row_Details& details)
@@ -98,14 +100,29 @@ void Timed_Progress::Row_Ended(const Row_Outcome& outcome)
         m_pace.Add(m_manner.fixed_waits, seconds, m_row_parts);
 }
 
-void Timed_Progress::Held(const QString& /*reason*/)
+// The computer may sleep while the box that says so is open.
+void Timed_Progress::Job_Says(const QString& text)
+{
+    m_desktop.Job_Says(text);
+    m_desktop.Job_Ends();
+}
+
+void Timed_Progress::Held(const QString& reason)
 {
     m_time_left->Hold_Begins(Now_Seconds());
+    m_desktop.Job_Waits(reason);
 }
 
 void Timed_Progress::Goes_On()
 {
     m_time_left->Hold_Ends(Now_Seconds());
+    m_desktop.Job_Goes_On();
+}
+
+void Timed_Progress::End()
+{
+    m_desktop.Window_Closes();
+    m_shown.End();
 }
 
 void Timed_Progress::Begin_Pause()

@@ -6,6 +6,7 @@
 #include "platform/Thread_Shortage.h"
 #include "platform/Waiting.h"
 #include "toolkit/Dialog_Over.h"
+#include "toolkit/Empty_List_Hint.h"
 #include "toolkit/Key_Actions.h"
 #include "toolkit/Message_Boxes.h"
 #include "toolkit/PleaseWait_Modeless.h"
@@ -96,6 +97,9 @@ void Phone_List_Wnd::Set_Up_Table()
         m_ui->idPortList->horizontalHeader()->setSectionResizeMode(column, QHeaderView::Stretch);
     m_ui->idPortList->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_ui->idPortList->verticalHeader()->hide();
+    m_hint = new Empty_List_Hint(*m_ui->idPortList, QStringLiteral("Search_Again_Here"));
+    m_hint->Say(tr("No phone or modem was found. Connect one and switch it on."), tr("Search again"));
+    connect(m_hint, &Empty_List_Hint::Step_Wanted, this, &Phone_List_Wnd::Search_dev_Pressed);
 }
 
 void Phone_List_Wnd::Connect_Controls()
@@ -214,6 +218,7 @@ void Phone_List_Wnd::Show_Searching(bool is_searching)
     if (is_searching == m_is_searching_shown)
         return;
     m_is_searching_shown = is_searching;
+    m_hint->Hold_True(!is_searching);
     m_ui->Why_No_Phone->setEnabled(!is_searching);
     m_ui->device_box->setTitle(is_searching ? tr("Searching for devices ...") : tr("Devices found"));
     if (is_searching)

@@ -12,6 +12,7 @@
 #include <memory>
 #include <mutex>
 
+class Empty_List_Hint;
 class PleaseWait_Modeless;
 class Row_Table_Model;
 
@@ -96,6 +97,7 @@ private:
     QString m_to_be_picked;            // the path that the search under way is for
     QHash<QString, Port_Note> m_notes; // by the paths of the ports
     std::unique_ptr<Row_Table_Model> m_table_model;
+    Empty_List_Hint* m_hint = nullptr; // the table's own
     unsigned Prev_Index = Phone_List::No_Row;
     std::unique_ptr<PleaseWait_Modeless> plz_wait_Window;
     Wizard_Port_Slot port;

@@ -6,6 +6,7 @@
 #include "records/Export_Format.h"
 #include "texts/Texts.h"
 #include "toolkit/Dialog_Over.h"
+#include "toolkit/Empty_List_Hint.h"
 #include "toolkit/File_Panels.h"
 #include "toolkit/List_Tables.h"
 #include "toolkit/Look.h"
@@ -56,6 +57,7 @@ void List_Window::Set_Up_List(QTableView& table, std::unique_ptr<Row_Table_Model
     m_count = &count;
     m_rows = std::move(rows);
     Prepare_List_Table(table, *m_rows);
+    m_hint = new Empty_List_Hint(table, QStringLiteral("First_Step_Here"));
 }
 
 void List_Window::Set_Up_Detail(QPlainTextEdit& detail)
@@ -91,6 +93,7 @@ void List_Window::Begin_Load()
 {
     m_is_loading = true;
     m_is_whole = false;
+    m_hint->Hold_True(false);
     m_is_left = false;
     List_Will_Load();
     m_work.Hold_Input();
@@ -106,6 +109,7 @@ void List_Window::Load_Thread()
         List_Was_Loaded();
         ListreloadData();
         m_is_whole = true;
+        m_hint->Hold_True(true);
     });
 }
 
@@ -258,7 +262,7 @@ int List_Window::First_Selected_Row() const
     const auto ranges = Table().selectionModel()->selection();
     for (const auto& range : ranges)
         first = first < 0 ? range.top() : std::min(first, range.top());
-    return first;
+    return first < 0 ? first : Rows().List_Row(first);
 }
 
 void List_Window::Work_Under_Sheet(const std::function<void()>& work)

@@ -9,6 +9,7 @@
 #include <memory>
 #include <vector>
 
+class Empty_List_Hint;
 class PleaseWait_Modeless;
 class QLabel;
 class QPlainTextEdit;
@@ -61,6 +62,8 @@ protected:
     static void Set_Up_Detail(QPlainTextEdit& detail);
     /// Called by the window once its controls exist.
     void Set_Up_List(QTableView& table, std::unique_ptr<Row_Table_Model> rows, QLabel& count);
+    /// What the table says once the list is loaded and as long as it has no rows; for the window to give words to.
+    Empty_List_Hint& Hint() const { return *m_hint; }
 
     /// Starts the load, waits 1.0 second and runs the window modally over the main window. Returns the code it ended
     /// with; none of its workers is running then.
@@ -79,7 +82,7 @@ protected:
 
     /// Shows the text and puts the focus back on the table.
     void Tell(const QString& text);
-    /// The first selected row, or -1.
+    /// The row of the list that the first selected row of the table shows, or -1.
     int First_Selected_Row() const;
 
     /// Does blocking work on a worker, under the please-wait sheet. An exception from the work is logged and goes no
@@ -114,6 +117,7 @@ private:
     const Words m_words;
     QTableView* m_table = nullptr;
     QLabel* m_count = nullptr;
+    Empty_List_Hint* m_hint = nullptr;
     std::unique_ptr<Row_Table_Model> m_rows;
     std::unique_ptr<PleaseWait_Modeless> plz_wait_Window;
     Window_Work m_work; // the load; the window takes no input until it has ended

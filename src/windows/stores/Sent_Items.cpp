@@ -3,7 +3,12 @@
 #include "records/Export_Format.h"
 #include "records/Sent_Item_Format.h"
 #include "texts/Texts.h"
+#include "toolkit/Button_Action.h"
+#include "toolkit/Copy_Action.h"
+#include "toolkit/Empty_List_Hint.h"
 #include "toolkit/Key_Actions.h"
+#include "toolkit/Main_Window.h"
+#include "toolkit/Row_Finder.h"
 #include "toolkit/Row_Table_Model.h"
 #include "toolkit/Shared_Instance.h"
 #include "toolkit/Window_Look.h"
@@ -11,7 +16,9 @@
 #include "windows/stores/Store_Globals.h"
 
 #include <QHeaderView>
+#include <QMenu>
 #include <QScrollBar>
+#include <utility>
 
 namespace {
 
@@ -27,6 +34,34 @@ QString As_Far_As_Shown(const QString& value)
            Sent_Items::tr("[ The first %1 of %2 characters ]").arg(Longest_Shown).arg(value.size());
 }
 
+constexpr int Date_Column = 2;
+
+// So that a later date is a greater text. One that is none stays as it is.
+QString Year_First(const QString& date)
+{
+    return date.size() == 10 ? date.mid(6) + date.mid(3, 2) + date.left(2) : date;
+}
+
+// A record is built from its line for each row, and not for each of its cells.
+class Item_Cells
+{
+public:
+    Item_Cells(Sent_Item_List list, QStringList columns) : m_list(std::move(list)), m_columns(std::move(columns)) {}
+
+    QString operator()(int column, int row)
+    {
+        if (std::exchange(m_row, row) != row)
+            m_item = m_list.at(row);
+        return m_item.Value(m_columns.at(column));
+    }
+
+private:
+    Sent_Item_List m_list;
+    QStringList m_columns;
+    Sent_Item m_item;
+    int m_row = -1;
+};
+
 } // namespace
 
 Sent_Items::Sent_Items(QWidget* parent)
@@ -39,6 +74,7 @@ Sent_Items::Sent_Items(QWidget* parent)
     m_ui->setupUi(this);
     Apply_Window_Look(*this, Letters{.columns = 120, .lines = 38});
     Set_Up_Table();
+    Make_Finder();
     Set_Up_Detail(*m_ui->_Mess_det_edit);
     m_ui->_Mess_det_edit->setTabStopDistance(m_ui->_Mess_det_edit->fontMetrics().averageCharWidth() * 12);
     connect(m_ui->Clear_Sel_Btn, &QPushButton::clicked, this, &Sent_Items::Clear_Sel_Btn);
@@ -82,6 +118,45 @@ void Sent_Items::Set_Up_Table()
     m_ui->idSendList->setColumnWidth(2, letter * 14);
     m_ui->idSendList->setColumnWidth(3, letter * 14);
     m_ui->idSendList->verticalScrollBar()->setObjectName(QStringLiteral("idSendListsclview"));
+    connect(&Hint(), &Empty_List_Hint::Step_Wanted, this, [this] {
+        Q_EMIT Saving_Wanted();
+        Say_What_Is_Kept();
+    });
+}
+
+// While the table is empty.
+void Sent_Items::Say_What_Is_Kept()
+{
+    if (Main_App_wnd && Main_App_wnd->Read_Send_Choices().save_sent_items)
+        Hint().Say(tr("No message is kept here yet. Those that are handed to the phone from now on will be."));
+    else
+        Hint().Say(tr("No message is kept here yet, and those that are sent will not be."),
+                   tr("Keep messages from now on"));
+}
+
+void Sent_Items::Make_Finder()
+{
+    const auto take_source = [this] {
+        const QStringList columns{QStringLiteral("Number"), QStringLiteral("Message"), QStringLiteral("Date"),
+                                  QStringLiteral("Status")};
+        Item_Cells cells(nsSendListData, columns);
+        const auto key = [cells](int column, int row) mutable {
+            const QString cell = cells(column, row);
+            return column == Date_Column ? Year_First(cell) : cell;
+        };
+        return Row_Source{Count(), static_cast<int>(columns.size()), cells, key};
+    };
+    QTableView& table = *m_ui->idSendList;
+    m_finder = std::make_unique<Row_Finder>(table, Rows(), *m_ui->_Find_Strip, take_source);
+    table.setContextMenuPolicy(Qt::ActionsContextMenu);
+    table.addActions({new Copy_Action(table, take_source), new Button_Action(*m_ui->Clear_Sel_Btn),
+                      &m_finder->Find_Action(), m_finder->Orders().menuAction()});
+}
+
+void Sent_Items::List_Will_Load()
+{
+    m_finder->End(); // what was sought the last time
+    Say_What_Is_Kept();
 }
 
 void Sent_Items::Open_Sent_Item_Wnd()
@@ -117,9 +192,9 @@ void Sent_Items::tableViewSelectionDidChange()
         return;
     Prev_Index = static_cast<unsigned>(row);
     const Sent_Item item = nsSendListData.at(row);
-    m_ui->_Mess_det_edit->setPlainText(QStringLiteral("Number\t: ") + As_Far_As_Shown(item.Number) +
-                                       QStringLiteral("\r\n\r\nMessage\t: ") + As_Far_As_Shown(item.Message) +
-                                       QStringLiteral("\r\n\r\nDate:\t ") + As_Far_As_Shown(item.Date));
+    m_ui->_Mess_det_edit->setPlainText(
+        QString(Texts::Stores::Sent_Item)
+            .arg(As_Far_As_Shown(item.Number), As_Far_As_Shown(item.Message), As_Far_As_Shown(item.Date)));
 }
 
 void Sent_Items::List_Became_Empty()

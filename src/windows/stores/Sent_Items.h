@@ -4,6 +4,8 @@
 #include "records/Sent_Item_Store.h"
 #include "windows/stores/Store_Window.h"
 
+class Row_Finder;
+
 namespace Ui {
 class Sent_Items;
 }
@@ -14,6 +16,10 @@ class Sent_Items;
 class Sent_Items : public Store_Window<Sent_Item_List, Sent_Item_Store>
 {
     Q_OBJECT
+
+Q_SIGNALS:
+    /// Somebody wants sent messages to be kept from now on.
+    void Saving_Wanted();
 
 public:
     explicit Sent_Items(QWidget* parent = nullptr);
@@ -35,11 +41,15 @@ public:
 
 protected:
     void List_Became_Empty() override;
+    void List_Will_Load() override;
     Export_Content Content_To_Export(int mode) const override;
 
 private:
     void Set_Up_Table();
+    void Make_Finder();
+    void Say_What_Is_Kept();
 
     const std::unique_ptr<Ui::Sent_Items> m_ui;
     Sent_Item_List nsSendListData;
+    std::unique_ptr<Row_Finder> m_finder;
 };

@@ -6,6 +6,7 @@
 #include "records/Template_Format.h"
 #include "texts/Texts.h"
 #include "toolkit/Dialog_Over.h"
+#include "toolkit/Empty_List_Hint.h"
 #include "toolkit/Key_Actions.h"
 #include "toolkit/List_Tables.h"
 #include "toolkit/Main_Window.h"
@@ -79,6 +80,8 @@ void Templates::Set_Up_Table()
                     [this, table] { return numberOfRowsInTableView(table); },
                     [this, table](const QString& identifier, int row) { return tableView(table, identifier, row); }),
                 *m_ui->_templ_list_count);
+    Hint().Say(tr("No text is kept here yet."), tr("Add the first template ..."));
+    connect(&Hint(), &Empty_List_Hint::Step_Wanted, this, &Templates::AddNew_Btn);
     m_ui->idTemplateList->verticalScrollBar()->setObjectName(QStringLiteral("idTemplateListsclview"));
 }
 
@@ -188,7 +191,7 @@ void Templates::Show_Notice()
 
 void Templates::AddNew_Btn()
 {
-    Update_temp_Window->setWindowTitle(QStringLiteral("Add Templates"));
+    Update_temp_Window->setWindowTitle(Texts::Stores::Add_Templates);
     Update_m_templ_msg_str->setFocus();
     Run_Dialog_Over(*Update_temp_Window, this);
 }
@@ -221,8 +224,8 @@ void Templates::OnGetSelected()
     Update_m_templ_msg_str->setPlainText(text);
     Update_m_s_temp_str->setText(text);
     Update_m_templ_index->setText(QString::number(row));
-    Update_m_st_msg_cnt->setText(QString::number(text.size()) + QStringLiteral(" Characters"));
-    Update_temp_Window->setWindowTitle(QStringLiteral("Update Templates"));
+    Update_m_st_msg_cnt->setText(QString(Texts::Long_Message::Characters).arg(text.size()));
+    Update_temp_Window->setWindowTitle(Texts::Stores::Update_Templates);
     Update_m_templ_msg_str->setFocus();
     Run_Dialog_Over(*Update_temp_Window, this);
 }

@@ -35,7 +35,7 @@ UpdateTemp::~UpdateTemp() = default;
 void UpdateTemp::textDidChange()
 {
     Cut_Text(*m_ui->m_templ_msg_str, Template_Format::Most_Characters);
-    m_ui->m_st_msg_cnt->setText(QString::number(Text_Length(*m_ui->m_templ_msg_str)) + QStringLiteral(" Characters"));
+    m_ui->m_st_msg_cnt->setText(QString(Texts::Long_Message::Characters).arg(Text_Length(*m_ui->m_templ_msg_str)));
 }
 
 void UpdateTemp::OKPressed()

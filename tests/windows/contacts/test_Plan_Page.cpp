@@ -1,4 +1,6 @@
 #include "list/Country_Codes.h"
+#include "support/Seen_Colours.h"
+#include "toolkit/Look.h"
 #include "windows/contacts/Contacts_Test.h"
 
 #include <QJsonDocument>
@@ -328,6 +330,31 @@ TEST_F(Plan_Page_Test, The_List_Itself_Is_Looked_At_And_Its_Numbers_Put_Right)
     Choose("_Filter", "All rows");
     EXPECT_FALSE(Is_Offered("_Notice"));
     Press("Close_Btn");
+}
+
+TEST_F(Plan_Page_Test, A_Verdict_Has_The_Colour_Of_Its_Outcome_In_The_List_And_Is_Told_Without_Its_Sign)
+{
+    Look_At(People, "{{Name}} in {{City}}");
+    m_sheet->resize(2400, 1200);
+    Enlarge_Letters_Of(Rows());
+    constexpr int verdict = 5;
+    for (const Look look : {Look::Light, Look::Dark, Look::High_Contrast}) {
+        Choose_Look(look);
+        QCoreApplication::processEvents();
+        const Look_Tokens& tokens = Tokens_Of(look);
+        const std::pair<QColor, const char*> expected[] = {{tokens.ok, "to be sent"},
+                                                           {tokens.error, "no usable number"},
+                                                           {tokens.error, "empty field"},
+                                                           {tokens.soft, "repeated"}};
+        for (int row = 0; row < 4; ++row) {
+            const QModelIndex cell = Rows().model()->index(row, verdict);
+            Rows().scrollTo(cell);
+            EXPECT_TRUE(Shows_Words_In(Rows(), cell, expected[row].first)) << row;
+            EXPECT_EQ(cell.data(Qt::AccessibleTextRole), expected[row].second);
+            EXPECT_FALSE(cell.siblingAtColumn(1).data(Qt::ForegroundRole).isValid());
+        }
+    }
+    Choose_Look(Look::Light);
 }
 
 TEST_F(Plan_Page_Test, Rows_Of_A_Saved_List_That_Somebody_Spoilt_Are_Shown_And_Left_Out)

@@ -9,9 +9,15 @@ namespace {
 class Table_Page_Test : public Contacts_Test
 {
 protected:
+    Table_Page_Test() { QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom)); }
+    ~Table_Page_Test() override { QLocale::setDefault(m_locale_before); }
+
     QString Words() const { return Text_Of("_Words"); }
     bool Can_Go_On() const { return In<QPushButton>(*m_sheet, "Continue_Btn").isEnabled(); }
     std::string First_Row() const { return Row(Sample(), 0).toStdString(); }
+
+private:
+    const QLocale m_locale_before;
 };
 
 // A list of tests/data/tables, and how it is read: what was guessed, and what the page says of it.
@@ -81,6 +87,22 @@ TEST_F(Table_Page_Test, Another_Encoding_And_Another_Delimiter_Read_The_File_Aga
     EXPECT_EQ(Chosen("_Encoding"), "windows-1251");
     EXPECT_EQ(First_Row(), "J\xD1\x86rg,Y\xD1\x86rk|07700900100");
     EXPECT_EQ(Chosen("_Number_Column"), "Phone");
+}
+
+// A list as an office in Poland has it, which says nowhere in which encoding it is.
+TEST_F(Table_Page_Test, An_Encoding_That_The_File_Does_Not_Tell_Is_The_Usual_One_Here_And_Is_Said_To_Be_A_Guess)
+{
+    const char guess[] = "The file does not tell its encoding: look whether the letters are right.";
+    QLocale::setDefault(QLocale(QLocale::Polish));
+    Import(QStringLiteral(CORVANE_TEST_DATA "/tables/libreoffice_1250.csv"));
+    EXPECT_EQ(Chosen("_Encoding"), "windows-1250");
+    EXPECT_TRUE(Words().endsWith(guess)) << Words().toStdString();
+    const std::string in_polish = First_Row();
+    Choose("_Encoding", "windows-1252");
+    EXPECT_NE(First_Row(), in_polish);
+    EXPECT_FALSE(Words().contains(guess)) << "somebody has chosen it";
+    Choose("_Encoding", "windows-1250");
+    EXPECT_EQ(First_Row(), in_polish);
 }
 
 TEST_F(Table_Page_Test, Another_Sheet_Is_Read)

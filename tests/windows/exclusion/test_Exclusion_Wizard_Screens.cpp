@@ -203,3 +203,23 @@ TEST(Exclusion_Wizard, There_Is_One_Shared_Instance_And_The_Global_Knows_It)
 }
 
 } // namespace
+
+TEST_F(Exclusion_Test, Empty_Tables_Say_So_And_Offer_The_First_Step)
+{
+    Run([&] {
+        EXPECT_EQ(Available().accessibleDescription(), "There is no exclusion list yet.");
+        EXPECT_EQ(Applied().accessibleDescription(), "No list is applied, so nobody is left out.");
+        Click("m_exclusion_list_Here");
+        EXPECT_EQ(Shown(), On_Name_Screen);
+        Type("m_ex_list_name_edit", "Staff");
+        Click("m_next_btn");
+        EXPECT_EQ(Numbers().accessibleDescription(),
+                  "No number is in this list yet. Type one above, or load a file of them.");
+        EXPECT_FALSE(Control("First_Number_Here").isVisible()) << "the fields above are the first step";
+        Add_Number("12345");
+        EXPECT_EQ(Numbers().accessibleDescription(), QString());
+        Finish();
+        EXPECT_FALSE(Control("m_exclusion_list_Here").isVisible());
+        EXPECT_EQ(Available().accessibleDescription(), QString());
+    });
+}

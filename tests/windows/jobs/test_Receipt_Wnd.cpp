@@ -1,5 +1,9 @@
 #include "windows/jobs/Jobs_Test.h"
 
+#include "support/Seen_Colours.h"
+#include "toolkit/Look.h"
+#include "toolkit/Outcome_Colours.h"
+
 #include <QItemSelectionModel>
 #include <QMenu>
 
@@ -96,6 +100,29 @@ TEST_F(Receipt_Wnd_Test, Says_What_Became_Of_Each_Message_With_Sums_On_Top)
     EXPECT_EQ(Column(Outcome).at(3), QStringLiteral("· not tried"));
     EXPECT_FALSE(m_window.findChild<QWidget*>("Kept_Receipts")->isVisible());
     EXPECT_FALSE(Table().isColumnHidden(6));
+}
+
+TEST_F(Receipt_Wnd_Test, An_Outcome_Has_The_Colour_That_It_Has_In_The_List_And_Is_Told_Without_Its_Sign)
+{
+    Make({{Row_To("0041"), "S"}, {Row_To("0042"), "E"}, {Row_To("0043"), "U", "no-result"}, {Row_To("0044"), ""}});
+    Show_The_Job();
+    m_window.resize(2400, 1200);
+    Enlarge_Letters_Of(Table());
+    const std::pair<Row_State, const char*> expected[] = {{Row_State::Sent, "sent"},
+                                                          {Row_State::Refused, "refused (500: unknown error)"},
+                                                          {Row_State::May_Have_Been_Sent, "may have been sent"},
+                                                          {Row_State::Not_Tried, "not tried"}};
+    for (const Look look : {Look::Light, Look::Dark, Look::High_Contrast}) {
+        Choose_Look(look);
+        QCoreApplication::processEvents();
+        for (int row = 0; row < 4; ++row) {
+            const QModelIndex cell = Table().model()->index(row, Outcome);
+            EXPECT_TRUE(Shows_Words_In(Table(), cell, Colour_Of(expected[row].first))) << row;
+            EXPECT_EQ(cell.data(Qt::AccessibleTextRole), expected[row].second);
+            EXPECT_FALSE(cell.siblingAtColumn(1).data(Qt::ForegroundRole).isValid());
+        }
+    }
+    Choose_Look(Look::Light);
 }
 
 TEST_F(Receipt_Wnd_Test, Says_Nothing_Of_Deliveries_That_Nobody_Asked_For)

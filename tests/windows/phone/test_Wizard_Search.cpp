@@ -155,3 +155,23 @@ TEST_F(Wizard_Test, A_Window_Deleted_During_A_Search_Waits_For_Its_Worker)
     m_window.reset();
     EXPECT_EQ(ph_find_thread, 0);
 }
+
+TEST_F(Wizard_Test, An_Empty_List_Says_So_Once_The_Search_Is_Over_And_Offers_Another)
+{
+    Set_Extra_Device_Paths({});
+    EXPECT_EQ(Run([this] {
+                  const auto& step = Control("Search_Again_Here");
+                  EXPECT_TRUE(step.isVisible());
+                  EXPECT_EQ(Table().accessibleDescription(),
+                            "No phone or modem was found. Connect one and switch it on.");
+                  Plug_In(m_phone);
+                  m_calls.m_gated_path = m_phone.Path();
+                  Click("Search_Again_Here");
+                  EXPECT_TRUE(Serve_Until([this] { return m_calls.m_gate.Is_Somebody_Waiting(); }));
+                  EXPECT_FALSE(step.isVisible()) << "nobody knows yet";
+                  End_Search();
+                  EXPECT_EQ(Rows(), 1);
+                  EXPECT_FALSE(step.isVisible());
+              }),
+              0);
+}

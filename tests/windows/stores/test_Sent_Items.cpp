@@ -153,3 +153,51 @@ TEST_F(Sent_Items_Test, One_Huge_Record_Is_Shown_As_Far_As_It_Can_Be)
     });
     EXPECT_EQ(Stored(), line);
 }
+
+TEST_F(Sent_Items_Test, Records_Are_Found_And_Sorted_And_What_Is_Done_Is_Done_To_Those_That_Are_Shown)
+{
+    Write_Bytes(Sent_Item_Path, "\a1\vone\a05/03/2024\v\n\a2\vtwo\a31/12/2023\v\n\a3\vthree\a06/02/2024\v\n");
+    const QByteArray left = "\a1\vone\a05/03/2024\v\n\a3\vthree\a06/02/2024\v\n";
+    Visit_Sent_Items([this] {
+        auto& headings = *The<QTableView>("idSendList").horizontalHeader();
+        headings.setSortIndicator(2, Qt::AscendingOrder); // as dates, not as texts
+        EXPECT_THAT(Shown(2), (QStringList{"31/12/2023", "06/02/2024", "05/03/2024"}));
+        Select(0);
+        EXPECT_TRUE(Detail().startsWith("Number\t: 2"));
+        In<QAction>(*m_visited, "Find_Rows").trigger();
+        The<QLineEdit>("_Find_Edit").setText("2023");
+        EXPECT_EQ(The<QLabel>("_Find_Count").text(), "1 of 3");
+        In<QAction>(*m_visited, "Copy_Rows").trigger();
+        EXPECT_EQ(QApplication::clipboard()->text(), "2\ttwo\t31/12/2023\t\n");
+        Click("Clear_Sel_Btn");
+        EXPECT_EQ(Count_Label(), "Total Items : 2");
+        EXPECT_TRUE(Shown().isEmpty());
+        QTest::keyClick(&The<QLineEdit>("_Find_Edit"), Qt::Key_Escape); // closes the row, and not the window
+        EXPECT_TRUE(m_visited->isVisible());
+        EXPECT_EQ(Shown(), (QStringList{"3", "1"}));
+    });
+    EXPECT_EQ(Stored(), left);
+    Visit_Sent_Items([this] { EXPECT_EQ(Shown(), (QStringList{"1", "3"})); }); // as they are kept
+}
+
+TEST_F(Sent_Items_Test, An_Empty_List_Says_Why_And_Offers_To_Keep_Messages_From_Now_On)
+{
+    auto& window = *Sent_Items::defaultInstance();
+    QObject::connect(&window, &Sent_Items::Saving_Wanted, &m_window,
+                     [this] { m_window.m_choices.save_sent_items = true; });
+    Visit_Sent_Items([this] {
+        auto& step = The<QPushButton>("First_Step_Here");
+        EXPECT_TRUE(step.isVisible());
+        EXPECT_EQ(Table().accessibleDescription(), "No message is kept here yet, and those that are sent will not be.");
+        Click_Middle_Of(step);
+        EXPECT_FALSE(step.isVisible());
+        EXPECT_EQ(Table().accessibleDescription(),
+                  "No message is kept here yet. Those that are handed to the phone from now on will be.");
+    });
+    Write_Bytes(Sent_Item_Path, Records(2));
+    Visit_Sent_Items([this] {
+        EXPECT_EQ(Table().accessibleDescription(), QString());
+        Clear(0, 1);
+        EXPECT_TRUE(Table().accessibleDescription().startsWith("No message is kept here yet."));
+    });
+}

@@ -354,3 +354,17 @@ TEST_F(Templates_Test, A_Text_Longer_Than_1600_Is_Asked_About_And_Yes_Keeps_Its_
         EXPECT_EQ(m_window.m_choices.composer_text, each.text);
     }
 }
+
+TEST_F(Templates_Test, An_Empty_List_Offers_To_Add_The_First)
+{
+    Visit_Templates([this] {
+        auto& step = The<QPushButton>("First_Step_Here");
+        EXPECT_TRUE(step.isVisible());
+        EXPECT_EQ(Table().accessibleDescription(), "No text is kept here yet.");
+        Will_Enter("See you");
+        Click_Middle_Of(step);
+        EXPECT_EQ(Shown(), QStringList("See you"));
+        EXPECT_FALSE(step.isVisible());
+    });
+    EXPECT_EQ(Stored(), "See you\n");
+}
