@@ -210,7 +210,7 @@ TEST_F(Find, A_Recipient_Added_To_A_Million_That_Are_Searched_Costs_No_Copy)
     Add("5");
     EXPECT_EQ(&m_delegate->Recipients().Message_At(Many), message);
     EXPECT_TRUE(Serve_Until([this] { return The<QLabel>("_Find_Count").text().contains("of"); }, 60));
-    EXPECT_EQ(Shown(0, 0), "10000999999");
-    EXPECT_EQ(Numbers().constLast(), "5");
     EXPECT_LT(heartbeat.Longest_Work(), 1.0);
+    EXPECT_EQ(Shown(0, 0), "10000999999");
+    EXPECT_EQ(m_delegate->Recipients().Numbers().At(Many + 4), "5");
 }
