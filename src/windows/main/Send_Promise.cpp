@@ -25,6 +25,9 @@ namespace {
 // So few are counted within a few milliseconds, whatever their texts are.
 constexpr int Few_Recipients = 100;
 
+// A long list is counted when no change has come for so long: what a person does meanwhile has the processors.
+constexpr int Milliseconds_Of_Rest = 100;
+
 constexpr int Milliseconds_In_Minute = 60000;
 
 } // namespace
@@ -45,6 +48,9 @@ Send_Promise::Send_Promise(const Controls& controls, Main_Window& window, const 
 {
     m_minute.setSingleShot(true);
     connect(&m_minute, &QTimer::timeout, this, &Send_Promise::Show);
+    m_rest.setSingleShot(true);
+    m_rest.setInterval(Milliseconds_Of_Rest);
+    connect(&m_rest, &QTimer::timeout, this, &Send_Promise::Count_Behind_The_Window);
     connect(m_controls.other_ways, &QPushButton::clicked, this, &Send_Promise::Other_Ways);
     Show();
 }
@@ -90,32 +96,51 @@ void Send_Promise::Begin_Count()
     if (const auto count = std::exchange(m_count, nullptr))
         count->is_stopped = true; // not awaited: it may be the last that holds a long list, and lets go of it slowly
     m_is_due = false;
-    Send_Order order = Present_Order();
-    const Plan_Manner manner = Manner_Of(order.choices, order.service_centre);
-    if (order.recipients.Count() <= Few_Recipients) {
-        Take(Sums_Of(Plan_Of(order, manner)));
+    m_rest.stop();
+    if (m_window.Recipients().Count() <= Few_Recipients) {
+        const Send_Order order = Present_Order();
+        Take(Sums_Of(Plan_Of(order, Manner_Of(order.choices, order.service_centre))));
         return;
     }
+    Show_Words(tr("Counting ..."));
+    m_rest.start();
+}
+
+void Send_Promise::Count_Behind_The_Window()
+{
     auto count = std::make_shared<Count>();
-    count->order = std::move(order);
-    count->manner = manner;
+    count->order = Present_Order();
+    count->manner = Manner_Of(count->order.choices, count->order.service_centre);
     const bool is_started = Start_Worker_If_Possible("promise", [this, count] {
-        const auto end = qScopeGuard([&] { count->has_let_go.release(); });
-        const Job_Sums sums = Sums_Of(
-            Plan_Of(count->order, count->manner, [&] { return count->is_stopped.load() || Program_Is_Exiting(); }));
-        count->order = {};
-        if (count->is_stopped || Program_Is_Exiting())
+        std::optional<Job_Sums> sums;
+        {
+            const auto let_go = qScopeGuard([&] {
+                count->order = {};
+                count->has_let_go.release();
+            });
+            sums = Counted(*count);
+        }
+        if (!sums)
             return;
         Post_To_Interface_Thread(this, [this, count, sums] {
             if (count == m_count) {
                 m_count.reset();
-                Take(sums);
+                Take(*sums);
             }
         });
     });
     if (is_started)
         m_count = std::move(count);
-    Show_Words(is_started ? tr("Counting ...") : QString());
+    else
+        Show_Words({});
+}
+
+// Nothing of a list that is no longer wanted.
+std::optional<Job_Sums> Send_Promise::Counted(const Count& count)
+{
+    const auto is_stopped = [&] { return count.is_stopped.load() || Program_Is_Exiting(); };
+    const Job_Plan plan = Plan_Of(count.order, count.manner, is_stopped);
+    return is_stopped() ? std::nullopt : std::optional(Sums_Of(plan));
 }
 
 void Send_Promise::Take(const Job_Sums& sums)

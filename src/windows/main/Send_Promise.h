@@ -56,6 +56,8 @@ private:
 
     Send_Order Present_Order() const;
     void Begin_Count();
+    void Count_Behind_The_Window();
+    static std::optional<Job_Sums> Counted(const Count& count);
     void Take(const Job_Sums& sums);
     void Show();
     void Show_Words(const QString& words);
@@ -66,6 +68,7 @@ private:
     Program_Settings m_settings;
     std::function<QDateTime()> m_clock;
     QTimer m_minute{this}; // the moment at which a job would end moves with the time
+    QTimer m_rest{this};   // after the last change of a long list
     bool m_is_due = false;
     bool m_wants_notice = true;
     bool m_is_notice_shown = false;

@@ -46,11 +46,17 @@ protected:
     QString Said()
     {
         m_promise->Changed();
-        QCoreApplication::processEvents(); // it begins to count
+        QCoreApplication::processEvents(); // it is to count
         EXPECT_TRUE(Serve_Until([this] { return m_words.text() != "Counting ..." && Workers_Running() == 0; }));
         QCoreApplication::processEvents();
         EXPECT_EQ(m_send.accessibleDescription(), m_words.text());
         return m_words.text();
+    }
+
+    void Begin_To_Count()
+    {
+        m_promise->Changed();
+        EXPECT_TRUE(Serve_Until([] { return Workers_Running() > 0; }));
     }
 
     Data_Folder m_data;
@@ -126,8 +132,7 @@ TEST_F(Send_Promise_Test, Shows_No_Figures_Of_A_Long_List_That_Have_Become_Untru
 {
     Add(200'000);
     EXPECT_TRUE(Said().startsWith("200000 recipients, 200000 messages, about 667 h, until "));
-    m_promise->Changed();
-    QCoreApplication::processEvents();
+    Begin_To_Count();
     EXPECT_EQ(m_words.text(), "Counting ...");
     m_promise->List_Will_Change();
     Heartbeat heartbeat;
@@ -139,8 +144,7 @@ TEST_F(Send_Promise_Test, Shows_No_Figures_Of_A_Long_List_That_Have_Become_Untru
 TEST_F(Send_Promise_Test, Ends_While_It_Counts)
 {
     Add(200'000);
-    m_promise->Changed();
-    QCoreApplication::processEvents();
+    Begin_To_Count();
     m_promise.reset();
     Finish_Workers();
     EXPECT_EQ(m_words.text(), "Counting ...");
