@@ -3026,6 +3026,14 @@ Das Modem ließ sich nicht öffnen.
         <source>OK</source>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>Open the &amp;guide</source>
+        <translation>&amp;Anleitung öffnen</translation>
+    </message>
+    <message>
+        <source>No program was found that shows the guide. It is in %1.</source>
+        <translation>Es wurde kein Programm gefunden, das die Anleitung zeigt. Sie liegt in %1.</translation>
+    </message>
 </context>
 <context>
     <name>Import_Strip</name>

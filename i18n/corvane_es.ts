@@ -3026,6 +3026,14 @@ No se ha podido abrir el módem.
         <source>OK</source>
         <translation>Aceptar</translation>
     </message>
+    <message>
+        <source>Open the &amp;guide</source>
+        <translation>Abrir la &amp;guía</translation>
+    </message>
+    <message>
+        <source>No program was found that shows the guide. It is in %1.</source>
+        <translation>No se encontró ningún programa que muestre la guía. Está en %1.</translation>
+    </message>
 </context>
 <context>
     <name>Import_Strip</name>

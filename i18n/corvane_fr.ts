@@ -3026,6 +3026,14 @@ Impossible d’ouvrir le modem.
         <source>OK</source>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>Open the &amp;guide</source>
+        <translation>Ouvrir le &amp;guide</translation>
+    </message>
+    <message>
+        <source>No program was found that shows the guide. It is in %1.</source>
+        <translation>Aucun programme capable d’afficher le guide n’a été trouvé. Il se trouve dans %1.</translation>
+    </message>
 </context>
 <context>
     <name>Import_Strip</name>

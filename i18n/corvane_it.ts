@@ -3026,6 +3026,14 @@ Impossibile aprire il modem.
         <source>OK</source>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>Open the &amp;guide</source>
+        <translation>Apri la &amp;guida</translation>
+    </message>
+    <message>
+        <source>No program was found that shows the guide. It is in %1.</source>
+        <translation>Non è stato trovato alcun programma che mostri la guida. Si trova in %1.</translation>
+    </message>
 </context>
 <context>
     <name>Import_Strip</name>

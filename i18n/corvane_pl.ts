@@ -3036,6 +3036,14 @@ Nie udało się otworzyć modemu.
         <source>OK</source>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>Open the &amp;guide</source>
+        <translation>Otwórz &amp;przewodnik</translation>
+    </message>
+    <message>
+        <source>No program was found that shows the guide. It is in %1.</source>
+        <translation>Nie znaleziono programu, który pokaże przewodnik. Znajduje się on w %1.</translation>
+    </message>
 </context>
 <context>
     <name>Import_Strip</name>

@@ -3026,6 +3026,14 @@ Não foi possível abrir o modem.
         <source>OK</source>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>Open the &amp;guide</source>
+        <translation>Abrir o &amp;guia</translation>
+    </message>
+    <message>
+        <source>No program was found that shows the guide. It is in %1.</source>
+        <translation>Não foi encontrado nenhum programa que mostre o guia. Está em %1.</translation>
+    </message>
 </context>
 <context>
     <name>Import_Strip</name>

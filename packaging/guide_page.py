@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Makes a page for a browser of a page of the guide.
+"""Makes a page for a browser of a page of the guide, and fails where one of its links leads nowhere.
 
     guide_page.py PAGE.md PAGE.html"""
 
@@ -8,9 +8,10 @@ import sys
 from pathlib import Path
 
 import markdown
+from markdown.extensions.toc import TocExtension, slugify_unicode
 
 PAGE = """<!DOCTYPE html>
-<html lang="en">
+<html lang="{language}">
 <head>
 <meta charset="utf-8">
 <meta name="viewport" content="width=device-width">
@@ -33,13 +34,25 @@ pre {{ background: #f1f4fa; padding: 0.8em; overflow-x: auto; }}
 """
 
 
+def lost_links(source, body):
+    """Links to what is not there: a place on the page, another page, a picture."""
+    targets = re.findall(r'(?:href|src)="([^":]+)"', body)
+    return [target for target in targets if not (
+        f'id="{target[1:]}"' in body if target.startswith("#") else
+        (source.parent / re.sub(r"\.html(#.*)?$", ".md", target)).is_file())]
+
+
 def main():
     source, target = map(Path, sys.argv[1:])
     text = source.read_text(encoding="utf-8")
-    text = re.sub(r"\]\((\w+)\.md(#[\w-]+)?\)", r"](\1.html\2)", text)
+    text = re.sub(r"\]\(([\w.]+)\.md(#[\w-]+)?\)", r"](\1.html\2)", text)
     title = re.match(r"# (.*)", text).group(1)
-    body = markdown.markdown(text, extensions=["tables", "toc", "fenced_code", "sane_lists"], output_format="html")
-    target.write_text(PAGE.format(title=title, body=body), encoding="utf-8")
+    body = markdown.markdown(text, extensions=[TocExtension(slugify=slugify_unicode), "tables", "fenced_code", "sane_lists"],
+                             output_format="html")
+    if lost := lost_links(source, body):
+        sys.exit(f"{source} has links that lead nowhere: {' '.join(lost)}")
+    language = source.stem.partition(".")[2] or "en"
+    target.write_text(PAGE.format(language=language, title=title, body=body), encoding="utf-8")
 
 
 main()

@@ -11,7 +11,7 @@ build_packages=(
     g++ cmake ninja-build ccache
     qt6-base-dev qt6-serialport-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
     libxcb1-dev libzip-dev pkg-config
-    libgtest-dev libgmock-dev
+    libgtest-dev libgmock-dev python3-markdown
     xvfb xauth openbox fonts-dejavu-core fonts-noto-core fonts-liberation fonts-cantarell
     dbus at-spi2-core gir1.2-atspi-2.0 python3-pyatspi xdotool
 )

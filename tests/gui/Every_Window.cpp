@@ -286,7 +286,7 @@ const std::vector<Sight>& Every_Window()
                       "\u0151 (1000), \u2026 (1000), \u2013 (1000), others."},
           {"_Notice", "Looking at the rows: 100 % ..."}}},
         {"check of the list", Check_Of_The_List},
-        {"help", Made_Over<Help_Wnd>},
+        {"help", [](CorvaneAppDelegate& main) -> QWidget& { return *new Help_Wnd(&main, "/a/guide"); }},
         {"import question", Made_Over<Load_Num_Info>},
         {"connection help", Connection_Help},
         {"connection wizard", Wizard_With_A_Device},

@@ -27,6 +27,7 @@
 #include "windows/main/Composer.h"
 #include "windows/main/Confirm_Boxes.h"
 #include "windows/main/Contact_Desk.h"
+#include "windows/main/Guide_Page.h"
 #include "windows/main/Help_Wnd.h"
 #include "windows/main/Job_Follow_Up.h"
 #include "windows/main/Language_Menu.h"
@@ -338,7 +339,7 @@ bool CorvaneAppDelegate::Check_Duplicate_Template(const QString& text) const
 
 void CorvaneAppDelegate::Help_Btn()
 {
-    Help_Wnd help(this);
+    Help_Wnd help(this, Guide_Page());
     bool wants_virtual_phone = false;
     connect(&help, &Help_Wnd::Doctor_Wanted, this, [&] {
         const std::shared_ptr<void> device = m_awaited_reports->Device_Turn();
