@@ -585,9 +585,12 @@ bearbeiten</translation>
         <source>How many messages are sent before each pause</source>
         <translation>Wie viele Nachrichten vor jeder Pause gesendet werden</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>messages wait</source>
-        <translation>Nachrichten für</translation>
+        <translation>
+            <numerusform>Nachricht für</numerusform>
+            <numerusform>Nachrichten für</numerusform>
+        </translation>
     </message>
     <message>
         <source>Length of each pause</source>
@@ -916,10 +919,6 @@ sind nicht nutzbar: Ihre Nummern sind nicht ausgeschlossen.</translation>
         <translation>Auswahl &amp;speichern</translation>
     </message>
     <message>
-        <source>Exclusion &amp;list name</source>
-        <translation>Name der Auss&amp;chlussliste</translation>
-    </message>
-    <message>
         <source>Exclusion list name</source>
         <translation>Name der Ausschlussliste</translation>
     </message>
@@ -928,16 +927,8 @@ sind nicht nutzbar: Ihre Nummern sind nicht ausgeschlossen.</translation>
         <translation>Ein Name für die Liste, höchstens 50 Zeichen</translation>
     </message>
     <message>
-        <source>Example</source>
-        <translation>Beispiel</translation>
-    </message>
-    <message>
         <source>Administration team</source>
         <translation>Verwaltung</translation>
-    </message>
-    <message>
-        <source>Numbers from a f&amp;ile</source>
-        <translation>Nummern aus Da&amp;tei</translation>
     </message>
     <message>
         <source>File of numbers</source>
@@ -966,10 +957,6 @@ sind nicht nutzbar: Ihre Nummern sind nicht ausgeschlossen.</translation>
     <message>
         <source>or</source>
         <translation>oder</translation>
-    </message>
-    <message>
-        <source>One &amp;number</source>
-        <translation>Eine Nu&amp;mmer</translation>
     </message>
     <message>
         <source>Phone number</source>
@@ -1034,6 +1021,22 @@ sind nicht nutzbar: Ihre Nummern sind nicht ausgeschlossen.</translation>
     <message>
         <source>Close; a list that was not finished is forgotten</source>
         <translation>Schließen; eine nicht fertiggestellte Liste geht verloren</translation>
+    </message>
+    <message>
+        <source>Exclusion &amp;list name:</source>
+        <translation>Name der Auss&amp;chlussliste:</translation>
+    </message>
+    <message>
+        <source>Example:</source>
+        <translation>Beispiel:</translation>
+    </message>
+    <message>
+        <source>Numbers from a f&amp;ile:</source>
+        <translation>Nummern aus Da&amp;tei:</translation>
+    </message>
+    <message>
+        <source>One &amp;number:</source>
+        <translation>Eine Nu&amp;mmer:</translation>
     </message>
 </context>
 <context>
@@ -2004,7 +2007,7 @@ sind nicht nutzbar: Ihre Nummern sind nicht ausgeschlossen.</translation>
     </message>
     <message>
         <source>Parts sent</source>
-        <translation>Gesendete Teile</translation>
+        <translation>Gesendet</translation>
     </message>
     <message>
         <source>Parts</source>
@@ -2432,7 +2435,7 @@ Wenn Sie abbrechen, erhalten die übrigen Empfänger keine Nachricht. Möchten S
     </message>
     <message>
         <source> Message</source>
-        <translation> Nachrichten</translation>
+        <translation> in Arbeit</translation>
     </message>
     <message>
         <source>Pausing the process for %1 Hour %2 Minute %3 Seconds.</source>
@@ -3579,7 +3582,7 @@ Diesem Computer fehlt ein Programm dafür.</translation>
     </message>
     <message>
         <source>As dialled</source>
-        <translation>Wie gewählt</translation>
+        <translation>Gewählte Nummer</translation>
     </message>
     <message>
         <source>Message</source>
@@ -3591,7 +3594,7 @@ Diesem Computer fehlt ein Programm dafür.</translation>
     </message>
     <message>
         <source>Verdict</source>
-        <translation>Urteil</translation>
+        <translation>Befund</translation>
     </message>
     <message>
         <source>Remark</source>
@@ -3614,15 +3617,15 @@ Diesem Computer fehlt ein Programm dafür.</translation>
     </message>
     <message>
         <source>no usable number</source>
-        <translation>keine brauchbare Nummer</translation>
+        <translation>ohne brauchbare Nummer</translation>
     </message>
     <message>
         <source>empty field</source>
-        <translation>leeres Feld</translation>
+        <translation>mit leerem Feld</translation>
     </message>
     <message>
         <source>unknown field</source>
-        <translation>unbekanntes Feld</translation>
+        <translation>mit unbekanntem Feld</translation>
     </message>
     <message>
         <source>too long</source>
@@ -3630,7 +3633,7 @@ Diesem Computer fehlt ein Programm dafür.</translation>
     </message>
     <message>
         <source>fields misplaced</source>
-        <translation>Felder verrutscht</translation>
+        <translation>mit verrutschten Feldern</translation>
     </message>
     <message>
         <source>1 message to be sent</source>
@@ -4197,7 +4200,7 @@ Diesem Computer fehlt ein Programm dafür.</translation>
     </message>
     <message>
         <source>The file does not tell its encoding: look whether the letters are right.</source>
-        <translation>Die Datei nennt ihre Kodierung nicht: Prüfen Sie, ob die Buchstaben stimmen.</translation>
+        <translation>Die Datei nennt ihren Zeichensatz nicht: Prüfen Sie, ob die Buchstaben stimmen.</translation>
     </message>
 </context>
 <context>
@@ -4704,10 +4707,6 @@ Diesem Computer fehlt ein Programm dafür.</translation>
         <translation>Nummer bearbeiten</translation>
     </message>
     <message>
-        <source>Phone &amp;number</source>
-        <translation>&amp;Rufnummer</translation>
-    </message>
-    <message>
         <source>Phone number</source>
         <translation>Rufnummer</translation>
     </message>
@@ -4730,6 +4729,10 @@ Diesem Computer fehlt ein Programm dafür.</translation>
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>Phone &amp;number:</source>
+        <translation>&amp;Rufnummer:</translation>
     </message>
 </context>
 <context>

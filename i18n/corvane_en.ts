@@ -51,6 +51,13 @@
             <numerusform>%n recipients removed.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>messages wait</source>
+        <translation>
+            <numerusform>messages wait</numerusform>
+            <numerusform>messages wait</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Delayed_Delivery</name>

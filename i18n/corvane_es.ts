@@ -585,9 +585,12 @@ seleccionados</translation>
         <source>How many messages are sent before each pause</source>
         <translation>Cuántos mensajes se envían antes de cada pausa</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>messages wait</source>
-        <translation>mensajes, esperar</translation>
+        <translation>
+            <numerusform>mensaje, esperar</numerusform>
+            <numerusform>mensajes, esperar</numerusform>
+        </translation>
     </message>
     <message>
         <source>Length of each pause</source>
@@ -916,10 +919,6 @@ no se pueden usar: sus números no se excluyen.</translation>
         <translation>Guardar a&amp;plicadas</translation>
     </message>
     <message>
-        <source>Exclusion &amp;list name</source>
-        <translation>Nombre de &amp;la lista de exclusión</translation>
-    </message>
-    <message>
         <source>Exclusion list name</source>
         <translation>Nombre de la lista de exclusión</translation>
     </message>
@@ -928,16 +927,8 @@ no se pueden usar: sus números no se excluyen.</translation>
         <translation>Un nombre para la lista, de 50 caracteres como máximo</translation>
     </message>
     <message>
-        <source>Example</source>
-        <translation>Ejemplo</translation>
-    </message>
-    <message>
         <source>Administration team</source>
         <translation>Equipo de administración</translation>
-    </message>
-    <message>
-        <source>Numbers from a f&amp;ile</source>
-        <translation>Números de un arc&amp;hivo</translation>
     </message>
     <message>
         <source>File of numbers</source>
@@ -966,10 +957,6 @@ no se pueden usar: sus números no se excluyen.</translation>
     <message>
         <source>or</source>
         <translation>o</translation>
-    </message>
-    <message>
-        <source>One &amp;number</source>
-        <translation>&amp;Un número</translation>
     </message>
     <message>
         <source>Phone number</source>
@@ -1034,6 +1021,22 @@ no se pueden usar: sus números no se excluyen.</translation>
     <message>
         <source>Close; a list that was not finished is forgotten</source>
         <translation>Cerrar; una lista sin finalizar se descarta</translation>
+    </message>
+    <message>
+        <source>Exclusion &amp;list name:</source>
+        <translation>Nombre de &amp;la lista de exclusión:</translation>
+    </message>
+    <message>
+        <source>Example:</source>
+        <translation>Ejemplo:</translation>
+    </message>
+    <message>
+        <source>Numbers from a f&amp;ile:</source>
+        <translation>Números de un arc&amp;hivo:</translation>
+    </message>
+    <message>
+        <source>One &amp;number:</source>
+        <translation>&amp;Un número:</translation>
     </message>
 </context>
 <context>
@@ -2004,7 +2007,7 @@ no se pueden usar: sus números no se excluyen.</translation>
     </message>
     <message>
         <source>Parts sent</source>
-        <translation>Partes enviadas</translation>
+        <translation>Enviadas</translation>
     </message>
     <message>
         <source>Parts</source>
@@ -2432,7 +2435,7 @@ Si detiene el proceso, no se enviarán mensajes a los contactos restantes. ¿Seg
     </message>
     <message>
         <source> Message</source>
-        <translation> mensajes</translation>
+        <translation> en curso</translation>
     </message>
     <message>
         <source>Pausing the process for %1 Hour %2 Minute %3 Seconds.</source>
@@ -4704,10 +4707,6 @@ este equipo no tiene ningún programa para él.</translation>
         <translation>Modificar número</translation>
     </message>
     <message>
-        <source>Phone &amp;number</source>
-        <translation>&amp;Número de teléfono</translation>
-    </message>
-    <message>
         <source>Phone number</source>
         <translation>Número de teléfono</translation>
     </message>
@@ -4730,6 +4729,10 @@ este equipo no tiene ningún programa para él.</translation>
     <message>
         <source>OK</source>
         <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Phone &amp;number:</source>
+        <translation>&amp;Número de teléfono:</translation>
     </message>
 </context>
 <context>

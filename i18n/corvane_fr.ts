@@ -585,9 +585,12 @@ la sélection</translation>
         <source>How many messages are sent before each pause</source>
         <translation>Nombre de messages envoyés avant chaque pause</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>messages wait</source>
-        <translation>messages, attendre</translation>
+        <translation>
+            <numerusform>message, attendre</numerusform>
+            <numerusform>messages, attendre</numerusform>
+        </translation>
     </message>
     <message>
         <source>Length of each pause</source>
@@ -916,10 +919,6 @@ sont inutilisables&#x202f;: leurs numéros ne sont pas exclus.</translation>
         <translation>Enre&amp;gistrer</translation>
     </message>
     <message>
-        <source>Exclusion &amp;list name</source>
-        <translation>Nom de la &amp;liste d’exclusion</translation>
-    </message>
-    <message>
         <source>Exclusion list name</source>
         <translation>Nom de la liste d’exclusion</translation>
     </message>
@@ -928,16 +927,8 @@ sont inutilisables&#x202f;: leurs numéros ne sont pas exclus.</translation>
         <translation>Nom de la liste, 50 caractères au plus</translation>
     </message>
     <message>
-        <source>Example</source>
-        <translation>Exemple</translation>
-    </message>
-    <message>
         <source>Administration team</source>
         <translation>Équipe administrative</translation>
-    </message>
-    <message>
-        <source>Numbers from a f&amp;ile</source>
-        <translation>Numéros d’un f&amp;ichier</translation>
     </message>
     <message>
         <source>File of numbers</source>
@@ -966,10 +957,6 @@ sont inutilisables&#x202f;: leurs numéros ne sont pas exclus.</translation>
     <message>
         <source>or</source>
         <translation>ou</translation>
-    </message>
-    <message>
-        <source>One &amp;number</source>
-        <translation>Un &amp;numéro</translation>
     </message>
     <message>
         <source>Phone number</source>
@@ -1034,6 +1021,22 @@ sont inutilisables&#x202f;: leurs numéros ne sont pas exclus.</translation>
     <message>
         <source>Close; a list that was not finished is forgotten</source>
         <translation>Fermer&#x202f;; une liste non terminée est oubliée</translation>
+    </message>
+    <message>
+        <source>Exclusion &amp;list name:</source>
+        <translation>Nom de la &amp;liste d’exclusion&#x202f;:</translation>
+    </message>
+    <message>
+        <source>Example:</source>
+        <translation>Exemple&#x202f;:</translation>
+    </message>
+    <message>
+        <source>Numbers from a f&amp;ile:</source>
+        <translation>Numéros d’un f&amp;ichier&#x202f;:</translation>
+    </message>
+    <message>
+        <source>One &amp;number:</source>
+        <translation>Un &amp;numéro&#x202f;:</translation>
     </message>
 </context>
 <context>
@@ -2004,7 +2007,7 @@ sont inutilisables&#x202f;: leurs numéros ne sont pas exclus.</translation>
     </message>
     <message>
         <source>Parts sent</source>
-        <translation>Parties envoyées</translation>
+        <translation>Envoyées</translation>
     </message>
     <message>
         <source>Parts</source>
@@ -2432,7 +2435,7 @@ Si vous arrêtez maintenant, les contacts restants ne recevront pas de message. 
     </message>
     <message>
         <source> Message</source>
-        <translation> messages</translation>
+        <translation> en cours</translation>
     </message>
     <message>
         <source>Pausing the process for %1 Hour %2 Minute %3 Seconds.</source>
@@ -4704,10 +4707,6 @@ cet ordinateur n’a pas de programme pour cela.</translation>
         <translation>Modifier le numéro</translation>
     </message>
     <message>
-        <source>Phone &amp;number</source>
-        <translation>&amp;Numéro de téléphone</translation>
-    </message>
-    <message>
         <source>Phone number</source>
         <translation>Numéro de téléphone</translation>
     </message>
@@ -4730,6 +4729,10 @@ cet ordinateur n’a pas de programme pour cela.</translation>
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>Phone &amp;number:</source>
+        <translation>&amp;Numéro de téléphone&#x202f;:</translation>
     </message>
 </context>
 <context>

@@ -585,9 +585,12 @@ selezionati</translation>
         <source>How many messages are sent before each pause</source>
         <translation>Quanti messaggi inviare prima di ogni pausa</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>messages wait</source>
-        <translation>messaggi, attendi</translation>
+        <translation>
+            <numerusform>messaggio, attendi</numerusform>
+            <numerusform>messaggi, attendi</numerusform>
+        </translation>
     </message>
     <message>
         <source>Length of each pause</source>
@@ -916,10 +919,6 @@ non sono utilizzabili: i loro numeri non vengono esclusi.</translation>
         <translation>Salva a&amp;pplicati</translation>
     </message>
     <message>
-        <source>Exclusion &amp;list name</source>
-        <translation>N&amp;ome dell&apos;elenco di esclusione</translation>
-    </message>
-    <message>
         <source>Exclusion list name</source>
         <translation>Nome dell&apos;elenco di esclusione</translation>
     </message>
@@ -928,16 +927,8 @@ non sono utilizzabili: i loro numeri non vengono esclusi.</translation>
         <translation>Un nome per l&apos;elenco, al massimo 50 caratteri</translation>
     </message>
     <message>
-        <source>Example</source>
-        <translation>Esempio</translation>
-    </message>
-    <message>
         <source>Administration team</source>
         <translation>Ufficio amministrazione</translation>
-    </message>
-    <message>
-        <source>Numbers from a f&amp;ile</source>
-        <translation>File c&amp;he contiene i numeri</translation>
     </message>
     <message>
         <source>File of numbers</source>
@@ -966,10 +957,6 @@ non sono utilizzabili: i loro numeri non vengono esclusi.</translation>
     <message>
         <source>or</source>
         <translation>oppure</translation>
-    </message>
-    <message>
-        <source>One &amp;number</source>
-        <translation>&amp;Un numero</translation>
     </message>
     <message>
         <source>Phone number</source>
@@ -1034,6 +1021,22 @@ non sono utilizzabili: i loro numeri non vengono esclusi.</translation>
     <message>
         <source>Close; a list that was not finished is forgotten</source>
         <translation>Chiude; un elenco non completato va perso</translation>
+    </message>
+    <message>
+        <source>Exclusion &amp;list name:</source>
+        <translation>N&amp;ome dell&apos;elenco di esclusione:</translation>
+    </message>
+    <message>
+        <source>Example:</source>
+        <translation>Esempio:</translation>
+    </message>
+    <message>
+        <source>Numbers from a f&amp;ile:</source>
+        <translation>File c&amp;he contiene i numeri:</translation>
+    </message>
+    <message>
+        <source>One &amp;number:</source>
+        <translation>&amp;Un numero:</translation>
     </message>
 </context>
 <context>
@@ -2004,7 +2007,7 @@ non sono utilizzabili: i loro numeri non vengono esclusi.</translation>
     </message>
     <message>
         <source>Parts sent</source>
-        <translation>Parti inviate</translation>
+        <translation>Inviate</translation>
     </message>
     <message>
         <source>Parts</source>
@@ -2432,7 +2435,7 @@ Se si interrompe l&apos;operazione, ai contatti rimanenti non verranno inviati m
     </message>
     <message>
         <source> Message</source>
-        <translation> messaggi</translation>
+        <translation> in corso</translation>
     </message>
     <message>
         <source>Pausing the process for %1 Hour %2 Minute %3 Seconds.</source>
@@ -4704,10 +4707,6 @@ questo computer non ha un programma adatto.</translation>
         <translation>Modifica numero</translation>
     </message>
     <message>
-        <source>Phone &amp;number</source>
-        <translation>&amp;Numero di telefono</translation>
-    </message>
-    <message>
         <source>Phone number</source>
         <translation>Numero di telefono</translation>
     </message>
@@ -4730,6 +4729,10 @@ questo computer non ha un programma adatto.</translation>
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>Phone &amp;number:</source>
+        <translation>&amp;Numero di telefono:</translation>
     </message>
 </context>
 <context>

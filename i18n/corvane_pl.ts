@@ -590,9 +590,13 @@ zaznaczonych</translation>
         <source>How many messages are sent before each pause</source>
         <translation>Ile wiadomości jest wysyłanych przed każdą przerwą</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>messages wait</source>
-        <translation>wiadomościach czekaj</translation>
+        <translation>
+            <numerusform>wiadomości czekaj</numerusform>
+            <numerusform>wiadomościach czekaj</numerusform>
+            <numerusform>wiadomościach czekaj</numerusform>
+        </translation>
     </message>
     <message>
         <source>Length of each pause</source>
@@ -925,10 +929,6 @@ ich numery nie są wykluczone.</translation>
         <translation>Zapisz wy&amp;bór</translation>
     </message>
     <message>
-        <source>Exclusion &amp;list name</source>
-        <translation>Nazwa &amp;listy wykluczeń</translation>
-    </message>
-    <message>
         <source>Exclusion list name</source>
         <translation>Nazwa listy wykluczeń</translation>
     </message>
@@ -937,16 +937,8 @@ ich numery nie są wykluczone.</translation>
         <translation>Nazwa listy, najwyżej 50 znaków</translation>
     </message>
     <message>
-        <source>Example</source>
-        <translation>Przykład</translation>
-    </message>
-    <message>
         <source>Administration team</source>
         <translation>Zespół administracji</translation>
-    </message>
-    <message>
-        <source>Numbers from a f&amp;ile</source>
-        <translation>Numery z pl&amp;iku</translation>
     </message>
     <message>
         <source>File of numbers</source>
@@ -975,10 +967,6 @@ ich numery nie są wykluczone.</translation>
     <message>
         <source>or</source>
         <translation>lub</translation>
-    </message>
-    <message>
-        <source>One &amp;number</source>
-        <translation>Jeden &amp;numer</translation>
     </message>
     <message>
         <source>Phone number</source>
@@ -1043,6 +1031,22 @@ ich numery nie są wykluczone.</translation>
     <message>
         <source>Close; a list that was not finished is forgotten</source>
         <translation>Zamknij; niedokończona lista przepadnie</translation>
+    </message>
+    <message>
+        <source>Exclusion &amp;list name:</source>
+        <translation>Nazwa &amp;listy wykluczeń:</translation>
+    </message>
+    <message>
+        <source>Example:</source>
+        <translation>Przykład:</translation>
+    </message>
+    <message>
+        <source>Numbers from a f&amp;ile:</source>
+        <translation>Numery z pl&amp;iku:</translation>
+    </message>
+    <message>
+        <source>One &amp;number:</source>
+        <translation>Jeden &amp;numer:</translation>
     </message>
 </context>
 <context>
@@ -2013,7 +2017,7 @@ ich numery nie są wykluczone.</translation>
     </message>
     <message>
         <source>Parts sent</source>
-        <translation>Wysłane części</translation>
+        <translation>Wysłane</translation>
     </message>
     <message>
         <source>Parts</source>
@@ -2441,7 +2445,7 @@ Przerwanie sprawi, że pozostałe kontakty nie otrzymają wiadomości. Czy na pe
     </message>
     <message>
         <source> Message</source>
-        <translation> wiadomości</translation>
+        <translation> w toku</translation>
     </message>
     <message>
         <source>Pausing the process for %1 Hour %2 Minute %3 Seconds.</source>
@@ -4729,10 +4733,6 @@ na tym komputerze nie ma odpowiedniego programu.</translation>
         <translation>Edycja numeru</translation>
     </message>
     <message>
-        <source>Phone &amp;number</source>
-        <translation>&amp;Numer telefonu</translation>
-    </message>
-    <message>
         <source>Phone number</source>
         <translation>Numer telefonu</translation>
     </message>
@@ -4755,6 +4755,10 @@ na tym komputerze nie ma odpowiedniego programu.</translation>
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>Phone &amp;number:</source>
+        <translation>&amp;Numer telefonu:</translation>
     </message>
 </context>
 <context>

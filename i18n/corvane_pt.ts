@@ -585,9 +585,12 @@ selecionadas</translation>
         <source>How many messages are sent before each pause</source>
         <translation>Quantas mensagens são enviadas antes de cada pausa</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>messages wait</source>
-        <translation>mensagens, esperar</translation>
+        <translation>
+            <numerusform>mensagem, esperar</numerusform>
+            <numerusform>mensagens, esperar</numerusform>
+        </translation>
     </message>
     <message>
         <source>Length of each pause</source>
@@ -916,10 +919,6 @@ não podem ser usadas: os seus números não são excluídos.</translation>
         <translation>Guardar aplicada&amp;s</translation>
     </message>
     <message>
-        <source>Exclusion &amp;list name</source>
-        <translation>Nome da lista de e&amp;xclusão</translation>
-    </message>
-    <message>
         <source>Exclusion list name</source>
         <translation>Nome da lista de exclusão</translation>
     </message>
@@ -928,16 +927,8 @@ não podem ser usadas: os seus números não são excluídos.</translation>
         <translation>Um nome para a lista, com 50 caracteres no máximo</translation>
     </message>
     <message>
-        <source>Example</source>
-        <translation>Exemplo</translation>
-    </message>
-    <message>
         <source>Administration team</source>
         <translation>Equipa da administração</translation>
-    </message>
-    <message>
-        <source>Numbers from a f&amp;ile</source>
-        <translation>Números de um &amp;ficheiro</translation>
     </message>
     <message>
         <source>File of numbers</source>
@@ -966,10 +957,6 @@ não podem ser usadas: os seus números não são excluídos.</translation>
     <message>
         <source>or</source>
         <translation>ou</translation>
-    </message>
-    <message>
-        <source>One &amp;number</source>
-        <translation>&amp;Um número</translation>
     </message>
     <message>
         <source>Phone number</source>
@@ -1034,6 +1021,22 @@ não podem ser usadas: os seus números não são excluídos.</translation>
     <message>
         <source>Close; a list that was not finished is forgotten</source>
         <translation>Fechar; uma lista não concluída é descartada</translation>
+    </message>
+    <message>
+        <source>Exclusion &amp;list name:</source>
+        <translation>Nome da lista de e&amp;xclusão:</translation>
+    </message>
+    <message>
+        <source>Example:</source>
+        <translation>Exemplo:</translation>
+    </message>
+    <message>
+        <source>Numbers from a f&amp;ile:</source>
+        <translation>Números de um &amp;ficheiro:</translation>
+    </message>
+    <message>
+        <source>One &amp;number:</source>
+        <translation>&amp;Um número:</translation>
     </message>
 </context>
 <context>
@@ -2004,7 +2007,7 @@ não podem ser usadas: os seus números não são excluídos.</translation>
     </message>
     <message>
         <source>Parts sent</source>
-        <translation>Partes enviadas</translation>
+        <translation>Enviadas</translation>
     </message>
     <message>
         <source>Parts</source>
@@ -2432,7 +2435,7 @@ Se parar o processo, não serão enviadas mensagens aos restantes contactos. Tem
     </message>
     <message>
         <source> Message</source>
-        <translation> mensagens</translation>
+        <translation> em curso</translation>
     </message>
     <message>
         <source>Pausing the process for %1 Hour %2 Minute %3 Seconds.</source>
@@ -4704,10 +4707,6 @@ este computador não tem nenhum programa para ele.</translation>
         <translation>Editar número</translation>
     </message>
     <message>
-        <source>Phone &amp;number</source>
-        <translation>&amp;Número de telefone</translation>
-    </message>
-    <message>
         <source>Phone number</source>
         <translation>Número de telefone</translation>
     </message>
@@ -4730,6 +4729,10 @@ este computador não tem nenhum programa para ele.</translation>
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>Phone &amp;number:</source>
+        <translation>&amp;Número de telefone:</translation>
     </message>
 </context>
 <context>

@@ -4,6 +4,9 @@
 
 namespace {
 
+constexpr int Steps_Of_A_Round = 50;
+constexpr int Step_Milliseconds = 40;
+
 // Without the value interface that every progress bar has.
 class Busy_Interface : public QAccessibleWidget
 {
@@ -29,4 +32,31 @@ QAccessibleInterface* Interface_Of(const QString& /*class_name*/, QObject* objec
 Activity_Bar::Activity_Bar(QWidget* parent) : QProgressBar(parent)
 {
     QAccessible::installFactory(Interface_Of); // once: a second time changes nothing
+}
+
+double Activity_Bar::Round_Done() const
+{
+    return static_cast<double>(m_step) / Steps_Of_A_Round;
+}
+
+// It runs only where it is seen.
+void Activity_Bar::paintEvent(QPaintEvent* event)
+{
+    if (maximum() == minimum() && !m_pace.isActive())
+        m_pace.start(Step_Milliseconds, this);
+    QProgressBar::paintEvent(event);
+}
+
+void Activity_Bar::timerEvent(QTimerEvent* event)
+{
+    if (event->timerId() != m_pace.timerId()) {
+        QProgressBar::timerEvent(event);
+        return;
+    }
+    if (maximum() != minimum() || !isVisible()) {
+        m_pace.stop();
+        return;
+    }
+    m_step = (m_step + 1) % Steps_Of_A_Round;
+    update();
 }

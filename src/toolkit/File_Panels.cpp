@@ -6,6 +6,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHeaderView>
+#include <QSplitter>
 #include <QTreeView>
 
 namespace {
@@ -28,6 +29,11 @@ public:
         if (auto* files = findChild<QTreeView*>(QStringLiteral("treeView"))) { // names and dates in full
             files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
             files->header()->setResizeContentsPrecision(0); // of the visible ones: a folder may be large
+        }
+        if (auto* parts = findChild<QSplitter*>(QStringLiteral("splitter"))) { // the names of places in full, too
+            constexpr int letters_of_a_place = 22;
+            const int places = fontMetrics().averageCharWidth() * letters_of_a_place;
+            parts->setSizes({places, 4 * places});
         }
     }
 

@@ -30,7 +30,7 @@ Find_Strip::Find_Strip(QWidget* parent)
     m_count->setTextFormat(Qt::PlainText);
     m_close->setFlat(true);
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(12, 4, 4, 4);
+    row->setContentsMargins(14, 4, 4, 4);
     row->setSpacing(8);
     row->addWidget(caption);
     row->addWidget(m_words, 1);

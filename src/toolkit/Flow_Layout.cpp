@@ -7,7 +7,7 @@
 Flow_Layout::Flow_Layout(QWidget* widget) : QLayout(widget)
 {
     setContentsMargins(0, 0, 0, 0);
-    setSpacing(10);
+    setSpacing(8);
 }
 
 Flow_Layout::~Flow_Layout() = default;

@@ -33,7 +33,7 @@ Import_Strip::Import_Strip(QWidget* parent)
     m_words->setTextFormat(Qt::PlainText);
     // The words do not wrap: beside a height that depends on the width, layouts cut what is below and beside the strip.
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(12, 4, 4, 4);
+    row->setContentsMargins(14, 4, 4, 4);
     row->setSpacing(4);
     row->addWidget(m_words, 1);
     for (QPushButton* button : {m_show, m_dismiss}) {

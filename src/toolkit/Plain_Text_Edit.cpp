@@ -8,7 +8,7 @@ namespace {
 // A carriage return and a line feed together become one character.
 constexpr int Longest_Piece = 2 * Longest_Message;
 
-constexpr int Lines_Always_In_Sight = 5;
+constexpr int Lines_Always_In_Sight = 4;
 constexpr int Letters_Always_In_Sight = 30;
 } // namespace
 

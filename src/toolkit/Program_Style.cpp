@@ -1,5 +1,7 @@
 #include "toolkit/Program_Style.h"
 
+#include "toolkit/Activity_Bar.h"
+#include "toolkit/Key_Marks.h"
 #include "toolkit/Look_Tokens.h"
 #include "toolkit/Style_Bars.h"
 #include "toolkit/Style_Buttons.h"
@@ -9,12 +11,15 @@
 #include "toolkit/Style_Paint.h"
 #include "toolkit/Style_Tables.h"
 
+#include <QDialogButtonBox>
 #include <QFrame>
 #include <QLabel>
+#include <QListView>
 #include <QPlainTextEdit>
 #include <QStyleOption>
 #include <QTableView>
 #include <QTextEdit>
+#include <QTreeView>
 
 using Style_Paint::Scaled;
 
@@ -27,7 +32,10 @@ bool Is_Table(const QWidget* widget)
 
 bool Is_Area(const QWidget* widget)
 {
-    return qobject_cast<const QPlainTextEdit*>(widget) || qobject_cast<const QTextEdit*>(widget) || Is_Table(widget);
+    // The lists are those of the panel for files: the choices of a box have the box's frame.
+    return qobject_cast<const QPlainTextEdit*>(widget) || qobject_cast<const QTextEdit*>(widget) || Is_Table(widget) ||
+           qobject_cast<const QTreeView*>(widget) ||
+           (qobject_cast<const QListView*>(widget) && !widget->inherits("QComboBoxListView"));
 }
 
 // Neither an area nor a label, both of which are frames, too.
@@ -35,6 +43,17 @@ bool Is_Panel(const QWidget* widget)
 {
     return qobject_cast<const QFrame*>(widget) && !qobject_cast<const QAbstractScrollArea*>(widget) &&
            !qobject_cast<const QLabel*>(widget);
+}
+
+// Which is told by its ground and its bar, and the table's frame has a ring. A ring around the cell is for a table
+// without a frame, and tells which of several rows the keys are at.
+bool Is_The_Selected_Row(const QStyleOption& option, const QWidget* widget)
+{
+    const auto* table = qobject_cast<const QTableView*>(widget);
+    if (!table || table->frameShape() == QFrame::NoFrame || !(option.state & QStyle::State_Selected))
+        return false;
+    const QItemSelection selected = table->selectionModel()->selection();
+    return selected.size() == 1 && selected.constFirst().height() == 1;
 }
 
 template <class Option>
@@ -94,6 +113,9 @@ int Program_Style::pixelMetric(PixelMetric metric, const QStyleOption* option, c
     case PM_LayoutHorizontalSpacing:
     case PM_LayoutVerticalSpacing:
         return 8;
+    case PM_MenuHMargin:
+    case PM_MenuVMargin:
+        return Scaled(4, option);
     case PM_HeaderMargin:
         return 9; // its words are in line with those of the cells
     case PM_FocusFrameHMargin:
@@ -110,7 +132,12 @@ int Program_Style::styleHint(StyleHint hint, const QStyleOption* option, const Q
     case SH_ScrollBar_Transient:
     case SH_EtchDisabledText:
     case SH_ComboBox_Popup:
+    case SH_DialogButtonBox_ButtonsHaveIcons:
         return 0;
+    case SH_DialogButtonLayout: // as in the program's own forms: what is first stands last
+        return QDialogButtonBox::GnomeLayout;
+    case SH_UnderlineShortcut:
+        return Key_Marks::Are_Shown_In(widget);
     default:
         return QProxyStyle::styleHint(hint, option, widget, data);
     }
@@ -133,6 +160,11 @@ QSize Program_Style::sizeFromContents(ContentsType type, const QStyleOption* opt
     case CT_CheckBox:
     case CT_RadioButton:
         return fitting + QSize(0, Scaled(2, option));
+    case CT_MenuItem:
+        if (const auto* item = As<QStyleOptionMenuItem>(option);
+            item && item->menuItemType != QStyleOptionMenuItem::Separator)
+            return fitting + QSize(Scaled(14, option), Scaled(8, option));
+        return fitting;
     case CT_HeaderSection:
         return fitting.expandedTo(QSize(0, option->fontMetrics.height() + Scaled(14, option)));
     default:
@@ -206,9 +238,14 @@ void Program_Style::drawPrimitive(PrimitiveElement element, const QStyleOption* 
             return Style_Fields::Draw_Line(*line, *painter, widget);
         break;
     case PE_FrameFocusRect:
-        if (option->state & State_KeyboardFocusChange)
+        if (option->state & State_KeyboardFocusChange && !Is_The_Selected_Row(*option, widget))
             Style_Paint::Draw_Focus(*painter, option->rect, Style_Paint::Mark_Radius);
         return;
+    case PE_PanelMenu:
+        return Style_Paint::Draw_Box(*painter, option->rect,
+                                     {.fill = Tokens_Now().card, .line = Tokens_Now().outline, .radius = 0});
+    case PE_FrameMenu:
+        return Style_Paint::Draw_Box(*painter, option->rect, {.fill = {}, .line = Tokens_Now().outline, .radius = 0});
     case PE_PanelItemViewRow:
         if (const auto* row = As<QStyleOptionViewItem>(option); row && Is_Table(widget))
             return Style_Tables::Draw_Row(*row, *painter);
@@ -237,6 +274,13 @@ bool Program_Style::Draws_Label_Or_Row(ControlElement element, const QStyleOptio
     const auto* cell = As<QStyleOptionViewItem>(option);
     if (cell && element == CE_ItemViewItem && Is_Table(widget)) {
         const QStyleOptionViewItem own = Style_Tables::On_Its_Row(*cell);
+        QProxyStyle::drawControl(element, &own, painter, widget);
+        return true;
+    }
+    if (const auto* item = As<QStyleOptionMenuItem>(option); item && element == CE_MenuItem) {
+        QStyleOptionMenuItem own = *item; // chosen like a row
+        own.palette.setColor(QPalette::Highlight, Tokens_Now().chosen);
+        own.palette.setColor(QPalette::HighlightedText, Tokens_Now().ink);
         QProxyStyle::drawControl(element, &own, painter, widget);
         return true;
     }
@@ -273,6 +317,8 @@ void Program_Style::drawControl(ControlElement element, const QStyleOption* opti
     case CE_ProgressBarContents:
         if (const auto* bar = As<QStyleOptionProgressBar>(option); bar && bar->maximum > bar->minimum)
             return Style_Bars::Draw_Done(*bar, *painter);
+        else if (const auto* busy = qobject_cast<const Activity_Bar*>(widget); bar && busy)
+            return Style_Bars::Draw_Busy(*bar, *painter, busy->Round_Done());
         break;
     default:
         break;

@@ -4,6 +4,7 @@
 #include "toolkit/Style_Paint.h"
 
 #include <QPainter>
+#include <QPainterPath>
 #include <QStyle>
 #include <QStyleOption>
 #include <algorithm>
@@ -38,6 +39,20 @@ void Draw_Done(const QStyleOptionProgressBar& option, QPainter& painter)
     painter.save();
     painter.setClipRect(QStyle::visualRect(option.direction, option.rect, bar));
     Draw_Box(painter, option.rect, {.fill = Tokens_Now().accent, .line = {}, .radius = Radius_Of(option.rect)});
+    painter.restore();
+}
+
+void Draw_Busy(const QStyleOptionProgressBar& option, QPainter& painter, double share)
+{
+    const QRect& room = option.rect;
+    const int length = room.width() / 3;
+    const int start = room.left() - length + qRound((room.width() + length) * share);
+    const QRect part = QStyle::visualRect(option.direction, room, QRect(start, room.top(), length, room.height()));
+    painter.save();
+    QPainterPath groove;
+    groove.addRoundedRect(room, Radius_Of(room), Radius_Of(room));
+    painter.setClipPath(groove);
+    Draw_Box(painter, part, {.fill = Tokens_Now().accent, .line = {}, .radius = Radius_Of(room)});
     painter.restore();
 }
 

@@ -13,9 +13,10 @@ class Line_Icon_Engine : public QIconEngine
 public:
     Line_Icon_Engine(const char* name, QColor Look_Tokens::*colour) : m_name(name), m_colour(colour) {}
 
-    void paint(QPainter* painter, const QRect& rect, QIcon::Mode /*mode*/, QIcon::State /*state*/) override
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State /*state*/) override
     {
-        Paint_Line_Icon(*painter, rect, QString::fromLatin1(m_name), Tokens_Now().*m_colour);
+        const QColor& colour = mode == QIcon::Disabled ? Tokens_Now().edge : Tokens_Now().*m_colour;
+        Paint_Line_Icon(*painter, rect, QString::fromLatin1(m_name), colour);
     }
 
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
@@ -38,16 +39,37 @@ private:
 
 QIcon Style_Icons::Icon_Of(QStyle::StandardPixmap standard)
 {
-    switch (standard) {
-    case QStyle::SP_MessageBoxInformation:
-        return QIcon(new Line_Icon_Engine("notice", &Look_Tokens::accent));
-    case QStyle::SP_MessageBoxQuestion:
-        return QIcon(new Line_Icon_Engine("help", &Look_Tokens::accent));
-    case QStyle::SP_MessageBoxWarning:
-        return QIcon(new Line_Icon_Engine("warning", &Look_Tokens::warn));
-    case QStyle::SP_MessageBoxCritical:
-        return QIcon(new Line_Icon_Engine("warning", &Look_Tokens::error));
-    default:
-        return {};
+    using T = Look_Tokens;
+    static const struct
+    {
+        QStyle::StandardPixmap standard;
+        const char* name;
+        QColor T::*colour;
+    } Icons[] = {
+        {QStyle::SP_MessageBoxInformation, "notice", &T::accent},
+        {QStyle::SP_MessageBoxQuestion, "help", &T::accent},
+        {QStyle::SP_MessageBoxWarning, "warning", &T::warn},
+        {QStyle::SP_MessageBoxCritical, "warning", &T::error},
+        // Of the panel that asks for a file.
+        {QStyle::SP_ArrowBack, "back", &T::ink},
+        {QStyle::SP_ArrowForward, "forward", &T::ink},
+        {QStyle::SP_FileDialogToParent, "up", &T::ink},
+        {QStyle::SP_FileDialogNewFolder, "new_folder", &T::ink},
+        {QStyle::SP_FileDialogListView, "tiles", &T::ink},
+        {QStyle::SP_FileDialogDetailedView, "lines", &T::ink},
+        {QStyle::SP_DirIcon, "folder", &T::accent},
+        {QStyle::SP_DirClosedIcon, "folder", &T::accent},
+        {QStyle::SP_DirOpenIcon, "folder", &T::accent},
+        {QStyle::SP_DirLinkIcon, "folder", &T::accent},
+        {QStyle::SP_DirHomeIcon, "home", &T::accent},
+        {QStyle::SP_FileIcon, "file", &T::soft},
+        {QStyle::SP_FileLinkIcon, "file", &T::soft},
+        {QStyle::SP_ComputerIcon, "computer", &T::soft},
+        {QStyle::SP_DriveHDIcon, "computer", &T::soft},
+    };
+    for (const auto& icon : Icons) {
+        if (icon.standard == standard)
+            return QIcon(new Line_Icon_Engine(icon.name, icon.colour));
     }
+    return {};
 }

@@ -1,6 +1,7 @@
 #include "toolkit/Window_Look.h"
 
 #include "toolkit/Box_Clicks.h"
+#include "toolkit/Key_Marks.h"
 #include "toolkit/Look.h"
 #include "toolkit/Program_Style.h"
 
@@ -18,6 +19,7 @@ void Apply_Application_Look(QApplication& application)
     application.setStyle(new Program_Style); // the application owns it
     Choose_Look(Look::Light);
     Tick_Boxes_By_Clicks();
+    Key_Marks::Follow(application);
 }
 
 // The application's palette alone has a say, so that a window follows when another look is chosen.

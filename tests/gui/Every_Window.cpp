@@ -7,6 +7,7 @@
 #include "support/In_Windows.h"
 #include "texts/Cause_Texts.h"
 #include "texts/Confirmed_Texts.h"
+#include "toolkit/Find_Strip.h"
 #include "toolkit/Import_Strip.h"
 #include "toolkit/PleaseWait_Modeless.h"
 #include "toolkit/Unused_Lines_Wnd.h"
@@ -263,6 +264,12 @@ const std::vector<Sight>& Every_Window()
 {
     static const std::vector<Sight> sights = {
         {"main window", [](auto& main) -> QWidget& { return main; }},
+        {"main window with a search",
+         [](auto& main) -> QWidget& {
+             In<Find_Strip>(main, "_Find_Strip").Open();
+             return main;
+         },
+         {{"_Find_Count", "1000000 of 1000000"}}},
         {"main window with everything",
          Main_Window_With_Everything,
          {{"_Msg_char_count", Longest_Count},

@@ -1,5 +1,6 @@
 #include "gui/Every_Window.h"
 #include "gui/Open_Program.h"
+#include "gui/Read_As.h"
 #include "support/In_Language.h"
 
 #include <map>
@@ -74,6 +75,70 @@ void Expect_Nothing_Cut_Off(QWidget& window)
     }
 }
 
+/// But for columns that share what room there is, and for the wizard's devices, of which one has a name of any length.
+void Expect_Whole_Headings(const QWidget& window)
+{
+    if (window.objectName() == "Phone_List_Wnd")
+        return;
+    for (const auto* table : window.findChildren<QTableView*>()) {
+        const QHeaderView& header = *table->horizontalHeader();
+        if (!table->isVisible() || table->window() != &window || table->objectName() == "_Sample") // headed by a file
+            continue;
+        const int margin = header.style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, &header);
+        for (int column = 0; column < header.count(); ++column) {
+            const bool is_last = header.stretchLastSection() && header.visualIndex(column) == header.count() - 1;
+            if (is_last || header.sectionResizeMode(column) == QHeaderView::Stretch || header.isSectionHidden(column))
+                continue;
+            const QString heading = table->model()->headerData(column, Qt::Horizontal).toString();
+            EXPECT_GE(header.sectionSize(column), header.fontMetrics().horizontalAdvance(heading) + margin)
+                << qPrintable(heading) << " in " << qPrintable(table->objectName());
+        }
+    }
+}
+
+/// Distances are 0, 4, 8, 14 or 20 and nothing else.
+void Expect_Spacing_Of_The_Look(const QWidget& window)
+{
+    const auto is_allowed = [](int distance) { return QList<int>{0, 4, 8, 14, 20}.contains(distance); };
+    for (const auto* layout : window.findChildren<QLayout*>()) {
+        if (layout->parentWidget() && layout->parentWidget()->window() != &window)
+            continue;
+        const std::string where = (layout->objectName() + QLatin1String(" in ") +
+                                   (layout->parentWidget() ? layout->parentWidget()->objectName() : QString()))
+                                      .toStdString();
+        const QMargins margins = layout->contentsMargins();
+        for (const int margin : {margins.left(), margins.top(), margins.right(), margins.bottom()})
+            EXPECT_TRUE(is_allowed(margin)) << margin << " around " << where;
+        if (const auto* grid = qobject_cast<const QGridLayout*>(layout)) {
+            EXPECT_TRUE(is_allowed(grid->horizontalSpacing()) && is_allowed(grid->verticalSpacing())) << where;
+        } else if (!qobject_cast<const QStackedLayout*>(layout)) {
+            EXPECT_TRUE(is_allowed(layout->spacing())) << layout->spacing() << " in " << where;
+        }
+    }
+}
+
+/// The one filled button of a window stands behind the others of its row.
+void Expect_The_First_Button_Last(const QWidget& window)
+{
+    const auto buttons = window.findChildren<QPushButton*>();
+    int filled = 0;
+    for (const auto* first : buttons) {
+        if (!first->isVisible() || first->window() != &window || !first->property("is_first").toBool())
+            continue;
+        ++filled;
+        const QPoint place = first->mapTo(&window, first->rect().center());
+        for (const auto* other : buttons) {
+            if (!other->isVisible() || other->window() != &window || other->parent() != first->parent())
+                continue;
+            const QPoint beside = other->mapTo(&window, other->rect().center());
+            const bool is_behind = window.isLeftToRight() ? beside.x() > place.x() : beside.x() < place.x();
+            EXPECT_FALSE(is_behind && std::abs(beside.y() - place.y()) < other->height() / 2)
+                << qPrintable(other->objectName()) << " stands behind " << qPrintable(first->objectName());
+        }
+    }
+    EXPECT_LE(filled, 1);
+}
+
 void Expect_Distinct_Mnemonics(QWidget& window)
 {
     std::map<QString, QString> taken;
@@ -146,27 +211,6 @@ void Expect_Focus_Comes_Into_Sight(QWidget& window)
     }
 }
 
-/// A language of the program, or one that is made up.
-class Read_As
-{
-public:
-    explicit Read_As(const QString& language)
-    {
-        if (language == u"pseudo" || language == u"leftward")
-            m_reading.emplace(QStringLiteral("de"), QStringLiteral(CORVANE_BUILD_DIR "/i18n/corvane_pseudo.qm"));
-        else
-            m_reading.emplace(language);
-        if (language == u"leftward")
-            QApplication::setLayoutDirection(Qt::RightToLeft);
-    }
-    ~Read_As() { QApplication::setLayoutDirection(Qt::LeftToRight); }
-    Read_As(const Read_As&) = delete;
-    Read_As& operator=(const Read_As&) = delete;
-
-private:
-    std::optional<In_Language> m_reading;
-};
-
 } // namespace
 
 // Every window under the fonts that desktops come with: no text is cut, nothing lies outside its window or over
@@ -199,6 +243,9 @@ protected:
         Expect_Distinct_Mnemonics(window);
         Expect_Names_For_Assistive_Tools(window);
         Expect_Plain_Texts(window);
+        Expect_Whole_Headings(window);
+        Expect_Spacing_Of_The_Look(window);
+        Expect_The_First_Button_Last(window);
         EXPECT_EQ(window.palette().color(QPalette::Window), QColor(241, 244, 250));
         // The toolkit puts the program's name behind every title that does not end with it.
         EXPECT_TRUE(window.windowTitle() == "Corvane" || !window.windowTitle().contains("Corvane"));

@@ -1,5 +1,7 @@
 #include "gui/Every_Window.h"
 #include "gui/Open_Program.h"
+#include "gui/Read_As.h"
+#include "pictures/What_Opens.h"
 #include "platform/Interface_Thread.h"
 #include "platform/Waiting.h"
 #include "toolkit/Guarded_Application.h"
@@ -28,12 +30,14 @@ struct Wish
     QString look = QStringLiteral("light");
     QString font = QStringLiteral("Noto Sans");
     QString screen = QStringLiteral("1366x768");
+    QString language = QStringLiteral("en"); ///< or "pseudo", or "leftward"
     int percent = 100;
     QString only; ///< windows whose names begin so
 
     QString Name() const
     {
-        return QStringLiteral("%1-%2-%3-%4").arg(look, screen).arg(percent).arg(QString(font).remove(u' '));
+        return QStringLiteral("%1-%2-%3-%4").arg(look, screen).arg(percent).arg(QString(font).remove(u' ')) +
+               (language == u"en" ? QString() : u'-' + language);
     }
 };
 
@@ -43,11 +47,9 @@ Wish Read_Wish(int count, char** arguments)
     for (int i = 1; i + 1 < count; i += 2) {
         const QString name = QString::fromLocal8Bit(arguments[i]);
         const QString value = QString::fromLocal8Bit(arguments[i + 1]);
-        const std::pair<const char*, QString*> texts[] = {{"--out", &wish.out},
-                                                          {"--look", &wish.look},
-                                                          {"--font", &wish.font},
-                                                          {"--screen", &wish.screen},
-                                                          {"--only", &wish.only}};
+        const std::pair<const char*, QString*> texts[] = {{"--out", &wish.out},           {"--look", &wish.look},
+                                                          {"--font", &wish.font},         {"--screen", &wish.screen},
+                                                          {"--language", &wish.language}, {"--only", &wish.only}};
         for (const auto& [key, text] : texts) {
             if (name == QLatin1String(key))
                 *text = value;
@@ -80,12 +82,6 @@ struct Program : Open_Program
     void TestBody() override {}
 };
 
-struct Picture
-{
-    QString name;
-    QImage image;
-};
-
 /// A list that a person might have, so that the window is not shown empty twice.
 void Fill_List(CorvaneAppDelegate& main)
 {
@@ -100,7 +96,7 @@ void Fill_List(CorvaneAppDelegate& main)
 Picture Taken_Of(QWidget& window, const QString& name)
 {
     window.show();
-    for (int round = 0; round < 4; ++round)
+    for (int round = 0; round < 10; ++round)
         QCoreApplication::processEvents();
     Picture picture{name, window.grab().toImage()};
     window.hide();
@@ -110,6 +106,7 @@ Picture Taken_Of(QWidget& window, const QString& name)
 std::vector<Picture> Pictures(const Wish& wish)
 {
     std::vector<Picture> taken;
+    const Read_As reading(wish.language);
     const Program program(QFont(wish.font, 10));
     for (const auto& [name, look] : Looks) {
         if (wish.look == QLatin1String(name))
@@ -122,6 +119,10 @@ std::vector<Picture> Pictures(const Wish& wish)
     for (const auto& sight : Every_Window()) {
         if (is_wanted(QString::fromUtf8(sight.what)))
             taken.push_back(Taken_Of(sight.Prepared(*program.m_delegate), QString::fromUtf8(sight.what)));
+    }
+    for (const Picture& picture : What_Opens(*program.m_delegate)) {
+        if (is_wanted(picture.name))
+            taken.push_back(picture);
     }
     return taken;
 }

@@ -23,16 +23,17 @@ void Confirmed_Walk::Send_Until_One_Hangs(const QString& phone_path)
     Click(Main, "_Keep_Receipt_Chk");
     Take_Picture(Main, "confirm-each");
     Click(Main, "_sent_btn");
-    Await_Text(Progress, "_current_send_msg", "There is no network");
+    Await_Text(Progress, "_current_send_msg", Told("There is no network", "Es ist kein Netz da"));
     Take_Picture(Progress, "held");
     Await_Text(Progress, "_curr_msg_cnt", "5 / 6");
-    Await_Text(Progress, "_current_send_msg", "Still waiting for the network.");
+    Await_Text(Progress, "_current_send_msg",
+               Told("Still waiting for the network.", "Noch wird auf das Netz gewartet."));
     Take_Picture_With_What_Is_Over(Main, "waiting-for-network");
 }
 
 void Confirmed_Walk::Go_On_With_The_Job()
 {
-    Await_Text(Main, "_Strip_Words", "A job that began on ");
+    Await_Text(Main, "_Strip_Words", Told("A job that began on ", "Ein Auftrag vom "));
     Take_Picture(Main, "unfinished-job");
     Click(Main, "Go_On_Btn");
     Click_Row_With(Unknown_Rows, "_Rows", Story::Silent_Member);
@@ -41,11 +42,12 @@ void Confirmed_Walk::Go_On_With_The_Job()
     Click(Unknown_Rows, "Send_Again_Btn");
     Take_Picture(Unknown_Rows, "may-have-been-sent");
     Leave(Unknown_Rows, "OKPressed");
-    Press_In_Box("OK", "Not every message was sent. The list says what became of each.");
+    Press_In_Box("OK", Told("Not every message was sent. The list says what became of each.",
+                            "Nicht jede Nachricht wurde gesendet. Die Liste sagt, was aus jeder wurde."));
     Await_Input(Main, "Show_Receipt");
     Take_Picture(Main, "outcomes");
     Click(Main, "Show_Receipt");
-    Await_Text(Receipt, "_Sums", "Recipients: 6.");
+    Await_Text(Receipt, "_Sums", Told("Recipients: 6.", "Empfänger: 6."));
     Take_Picture(Receipt, "receipt");
     Leave(Receipt, "Close_Btn");
 }

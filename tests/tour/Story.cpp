@@ -81,7 +81,8 @@ std::vector<Story::Message> Story::Messages_To_People()
     for (int place = 0; place < People; ++place) {
         if (place != Without_A_Number && place != Without_A_Name)
             messages.push_back({"+4477009" + QString::number(First_Of_People + place),
-                                QString("Dear %1, the choir sings on Saturday. Your seat is %2.")
+                                Told("Dear %1, the choir sings on Saturday. Your seat is %2.",
+                                     "Hallo %1, der Chor singt am Samstag. Dein Platz ist %2.")
                                     .arg(Names.at(place % Names.size()))
                                     .arg(place + 1)});
     }

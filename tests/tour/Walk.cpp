@@ -11,12 +11,19 @@ using namespace Windows;
 namespace {
 
 const QString Fill_Blank_Question =
-    "This action will copy the message of composer box to the blank list items. The messages of rest of "
-    "the numbers remain unchanged.\n\nDo you want to continue?";
+    Told("This action will copy the message of composer box to the blank list items. The messages of rest of "
+         "the numbers remain unchanged.\n\nDo you want to continue?",
+         "Die verfasste Nachricht wird in die Einträge ohne Nachricht kopiert. Die Nachrichten der übrigen Nummern "
+         "bleiben unverändert.\n\nMöchten Sie fortfahren?");
 const QString Fill_Selected_Question =
-    "This action will copy the above message to the selected numbers in the list. The messages of rest "
-    "of the numbers remain unchanged.\n\nDo you want to continue?";
-const QString Continue_Question = "Are you sure you want to continue";
+    Told("This action will copy the above message to the selected numbers in the list. The messages of rest "
+         "of the numbers remain unchanged.\n\nDo you want to continue?",
+         "Die Nachricht oben wird in die ausgewählten Nummern der Liste kopiert. Die Nachrichten der übrigen Nummern "
+         "bleiben unverändert.\n\nMöchten Sie fortfahren?");
+const QString Continue_Question = Told("Are you sure you want to continue", "Möchten Sie wirklich fortfahren?");
+const QString Yes = Told("Yes", "Ja");
+const QString No = Told("No", "Nein");
+const QString Total_Items = Told("Total Items : ", "Einträge gesamt: ");
 
 QByteArray Content_Of(const QString& path)
 {
@@ -72,7 +79,7 @@ void Walk::Fill_The_List()
                                "_Delayed_Delivry_Chk"})
         Click(Main, option);
     Retype(Main, "_delayed_msg_count_combo", "2");
-    Retype(Main, "_delayed_time_combo", "10 Seconds");
+    Retype(Main, "_delayed_time_combo", Told("10 Seconds", "10 Sekunden"));
     Click(Main, "View_Templates_Btn");
     Click_Row_With(Templates, "idTemplateList", Story::Rehearsal);
     Leave(Templates, "Use_template_Btn");
@@ -81,13 +88,13 @@ void Walk::Fill_The_List()
     Take_Picture(Import_Question, "import-question");
     Click(Import_Question, "NOPressed");
     Choose_File(Story::Members_File, "file-to-open");
-    Await_Text(Main, "_gsm_list_count", "Total Numbers : 6");
+    Await_Text(Main, "_gsm_list_count", Told("Total Numbers : 6", "Nummern gesamt: 6"));
     Click(Main, "Fill_Msg_Btn");
     Click(Fill, "_fill_msg_blank");
     Take_Picture(Fill, "fill-list");
     Click(Fill, "OKPressed");
     Take_Picture(Message_Box, "question");
-    Press_In_Box("Yes", Fill_Blank_Question);
+    Press_In_Box(Yes, Fill_Blank_Question);
     Await_Gone(Fill);
 }
 
@@ -108,7 +115,7 @@ void Walk::Edit_The_List()
     Await_Text(Edit_Selected_Window, "m_msg_str", Story::To_The_Soloists);
     Take_Picture(Edit_Selected_Window, "edit-selected");
     Click(Edit_Selected_Window, "OKPressed");
-    Press_In_Box("Yes", Fill_Selected_Question);
+    Press_In_Box(Yes, Fill_Selected_Question);
     Await_Gone(Edit_Selected_Window);
     Take_Picture(Main, "list-filled");
 }
@@ -130,7 +137,7 @@ void Walk::Keep_Exclusion_Lists()
     Click(Exclusions, "m_browse_btn");
     Choose_File(Story::Moved_Away_File, "file-of-numbers");
     Click(Exclusions, "m_load_btn");
-    Await_Text(Exclusions, "m_st_num_count", "Total Numbers : 2");
+    Await_Text(Exclusions, "m_st_num_count", Told("Total Numbers : 2", "Nummern gesamt: 2"));
     Type(Exclusions, "m_loadnum_edit", "07700900339");
     Click(Exclusions, "m_add_num_btn");
     Click_Row_With(Exclusions, "m_ex_num_list", "07700900339");
@@ -148,12 +155,13 @@ void Walk::Keep_Exclusion_Lists()
     Click_Row_With(Exclusions, "m_exclusion_list", Story::Moved_Away);
     Click(Exclusions, "m_addlist_btn");
     Click(Exclusions, "m_saveapplied_btn");
-    Press_In_Box("Yes", Continue_Question);
+    Press_In_Box(Yes, Continue_Question);
     Take_Picture(Exclusions, "exclusion-lists");
     Leave(Exclusions, "m_cancel_btn");
-    Expect_In_File(Exclusion_Index_Path, "Moved away\nCommittee\n");
-    Expect_In_File(Applied_Exclusion_Path, "Moved away\n");
-    Expect_In_File(Exclusion_Folder_Path + "/Moved away.ZOVA", "07700900111\n07700900222\n07700900333\n");
+    Expect_In_File(Exclusion_Index_Path, (Story::Moved_Away + '\n' + Story::Committee + '\n').toUtf8());
+    Expect_In_File(Applied_Exclusion_Path, (Story::Moved_Away + '\n').toUtf8());
+    Expect_In_File(Exclusion_Folder_Path + '/' + Story::Moved_Away + ".ZOVA",
+                   "07700900111\n07700900222\n07700900333\n");
 }
 
 void Walk::Name_New_List(const QString& name)
@@ -169,7 +177,7 @@ void Walk::Name_New_List(const QString& name)
 void Walk::Finish_List()
 {
     Click(Exclusions, "m_finish_btn");
-    Press_In_Box("Yes", Continue_Question);
+    Press_In_Box(Yes, Continue_Question);
 }
 
 void Walk::Keep_Templates()
@@ -182,7 +190,7 @@ void Walk::Keep_Templates()
         Take_Picture(Template, "template");
         Leave(Template, "OKPressed");
     }
-    Await_Text(Templates, "_templ_list_count", "Total Items : 2");
+    Await_Text(Templates, "_templ_list_count", Total_Items + "2");
     Leave(Templates, "Cancel_Btn");
 }
 
@@ -198,22 +206,22 @@ void Walk::Send_The_List()
     Take_Picture(Progress, "preparing");
     Await_Text(Progress, "_curr_msg_cnt", "3 / 6");
     Take_Picture(Progress, "progress");
-    Await_Text(Progress, "_pause_timer", "Pausing the process for ");
+    Await_Text(Progress, "_pause_timer", Told("Pausing the process for ", "Pause: noch "));
     Take_Picture(Progress, "pausing");
     Await_Text(Progress, "_curr_msg_cnt", "4 / 6");
     Take_Picture_With_What_Is_Over(Main, "sending");
     const QString result = Text_Of_Box();
     Take_Picture(Message_Box, "completed");
     printf("box      %s\n", qPrintable(result.trimmed()));
-    Press_In_Box("OK", "Message Sending Process Completed.");
+    Press_In_Box("OK", Told("Message Sending Process Completed.", "Der Versand ist abgeschlossen."));
 }
 
 void Walk::Look_At_Sent_Items()
 {
     Click(Main, "Sent_Item_Btn");
-    Await_Text(Sent_Items, "_sent_list_count", "Total Items : 5");
+    Await_Text(Sent_Items, "_sent_list_count", Total_Items + "5");
     Click_Row_With(Sent_Items, "idSendList", Story::Concert_Helper);
-    Await_Text(Sent_Items, "_Mess_det_edit", "Number\t: 07700900789");
+    Await_Text(Sent_Items, "_Mess_det_edit", Told("Number\t: ", "Nummer:\t") + Story::Concert_Helper);
     Take_Picture(Sent_Items, "sent-items");
     Export(Sent_Items, "Export_In_Html_RD", "sent.html", "export-format");
     Expect_In_File(m_folder + "/sent.html", Story::Sent_Items_Page);
@@ -224,7 +232,7 @@ void Walk::Look_At_Sent_Items()
 void Walk::Look_At_Templates()
 {
     Click(Main, "View_Templates_Btn");
-    Await_Text(Templates, "_templ_list_count", "Total Items : 4");
+    Await_Text(Templates, "_templ_list_count", Total_Items + "4");
     Click_Row_With(Templates, "idTemplateList", Story::Thanks);
     Take_Picture(Templates, "templates");
     Export(Templates, "Export_In_Text_RD", "templates.txt", {});
@@ -240,7 +248,7 @@ void Walk::Look_At_The_Rest()
     Leave(Help, "OKPressed");
     Click(Main, "Exit_Btn");
     Take_Picture(Message_Box, "exit-question");
-    Press_In_Box("No", "Do you really want to exit from 'Corvane'?");
+    Press_In_Box(No, Told("Do you really want to exit from 'Corvane'?", "Möchten Sie Corvane wirklich beenden?"));
 }
 
 void Walk::Export(const QString& window, const QString& format, const QString& file_name, const QString& picture)

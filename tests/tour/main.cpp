@@ -1,9 +1,11 @@
 #include "app/Program.h"
 #include "platform/Pace.h"
 #include "toolkit/Demo_Phone.h"
+#include "toolkit/Languages.h"
 #include "tour/Contacts_Walk.h"
 #include "tour/Inbox.h"
 #include "tour/Killed_Program.h"
+#include "tour/Told.h"
 #include "tour/Visited_Program.h"
 #include "tour/Walk.h"
 
@@ -16,7 +18,8 @@
 // each is photographed, a list is sent, and what the phone received, what the program keeps and what it exported are
 // held against what they must be. A second list goes out message by message, in a program that is killed meanwhile and
 // started again. Exit status 0 only when all is the same. Usage: corvane-tour <picture folder> [<home>]
-// Given a home, the tour leaves it as the first program has made it.
+// Given a home, the tour leaves it as the first program has made it. With CORVANE_TOUR_LANGUAGE=de all of it is in
+// German.
 
 namespace {
 
@@ -81,6 +84,7 @@ int main(int argc, char** argv)
         return 2;
     }
     const QApplication application(argc, argv);
+    Read_In(Told("en", "de"));
     if (words.constFirst() == Until_Killed)
         return Run_Until_Killed(pictures, words.constLast());
     if (words.constFirst() == After_The_Kill)

@@ -41,7 +41,7 @@ Fields_Strip::Fields_Strip(QWidget* parent)
     // As those of other strips: beside a height that depends on the width, layouts cut what is below and beside it.
     m_fields->setWordWrap(false);
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(12, 4, 4, 4);
+    row->setContentsMargins(14, 4, 4, 4);
     row->setSpacing(4);
     row->addWidget(m_fields, 1);
     m_save->setFlat(true);

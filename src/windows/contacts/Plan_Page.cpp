@@ -47,6 +47,16 @@ std::shared_ptr<const Plan_View> View_Of(std::shared_ptr<const Job_Plan> plan, P
     return view;
 }
 
+// How wide the widest of them is in the language that is read, with what is around it.
+int Letters_Of_A_Verdict(const QFontMetrics& letters)
+{
+    constexpr int around = 3;
+    int widest = 0;
+    for (const QString& verdict : Plan_Words::Signed_Verdicts())
+        widest = std::max(widest, letters.horizontalAdvance(verdict));
+    return widest / letters.averageCharWidth() + around;
+}
+
 } // namespace
 
 Plan_Page::Plan_Page(Window_Work& work, QWidget* parent)
@@ -89,7 +99,7 @@ void Plan_Page::Set_Up_Table()
                                                         {Plan_Rows::Written, 21},
                                                         {Plan_Rows::Number, 18},
                                                         {Plan_Rows::Parts, 8},
-                                                        {Plan_Rows::Verdict, 23}};
+                                                        {Plan_Rows::Verdict, Letters_Of_A_Verdict(letters)}};
     for (const auto& [column, columns] : Widths)
         table.setColumnWidth(column, letters.averageCharWidth() * columns);
     Give_Table_Keys(table, {[&table] {

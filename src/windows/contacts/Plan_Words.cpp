@@ -44,6 +44,14 @@ QString Plan_Words::Signed_Verdict(Row_Verdict verdict)
     return QString(QChar(Verdicts[static_cast<std::size_t>(verdict)].sign)) + u' ' + Of_Verdict(verdict);
 }
 
+QStringList Plan_Words::Signed_Verdicts()
+{
+    QStringList words;
+    for (std::size_t verdict = 0; verdict < Verdicts.size(); ++verdict)
+        words.append(Signed_Verdict(static_cast<Row_Verdict>(verdict)));
+    return words;
+}
+
 QString Plan_Words::Sums(const Plan_Sums& sums, double seconds, const QDateTime& now)
 {
     QString words = sums.send == 1 ? tr("1 message to be sent") : tr("%n messages to be sent", nullptr, sums.send);

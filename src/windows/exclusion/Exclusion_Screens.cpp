@@ -37,7 +37,7 @@ Exclusion_Screens::Exclusion_Screens(Ui::Exclusion_Wizard& form, Lists_Page& lis
 
 void Exclusion_Screens::Show_Hide_First_Screen(bool hide)
 {
-    Show_Or_Hide({m_form.lists_panel, m_form.m_st_msg_gp_box, m_form.m_cancel_btn}, hide);
+    Show_Or_Hide({m_form.lists_panel, m_form.m_st_msg_gp_box, m_form.m_cancel_btn, m_form.m_saveapplied_btn}, hide);
 }
 
 void Exclusion_Screens::Show_Hide_Add_Screen_1(bool hide)

@@ -49,7 +49,7 @@ Kept_Receipts::Kept_Receipts(QWidget* parent)
     caption->setObjectName(QStringLiteral("jobs_caption"));
     caption->setBuddy(m_jobs);
     auto* row = new QHBoxLayout;
-    row->setSpacing(10);
+    row->setSpacing(8);
     row->addWidget(caption);
     row->addWidget(m_jobs, 1);
     row->addWidget(m_remove);

@@ -83,8 +83,8 @@ void Unfinished_Strip::Lay_Out()
     for (QPushButton* button : {m_go_on, m_decide, m_receipt, m_remove, m_later})
         buttons->addWidget(button);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(12, 10, 12, 10);
-    column->setSpacing(6);
+    column->setContentsMargins(14, 8, 14, 8);
+    column->setSpacing(8);
     auto* heading = new QHBoxLayout;
     heading->addWidget(m_words, 1);
     heading->addWidget(m_more, 0, Qt::AlignTop);

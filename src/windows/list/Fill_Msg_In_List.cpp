@@ -23,7 +23,7 @@ bool Has_Blank_Message(const Main_Window& window)
 
 } // namespace
 
-Fill_Msg_In_List::Fill_Msg_In_List(QWidget* parent) : Working_Dialog(parent)
+Fill_Msg_In_List::Fill_Msg_In_List(QWidget* parent) : Working_Dialog(parent, Letters{.columns = 60})
 {
     setTabOrder(m_ui->_fill_msg_blank, m_ui->_Bubble->findChild<QWidget*>(QStringLiteral("_Shown_Text")));
     connect(m_ui->_fill_msg_all, &QRadioButton::clicked, this, &Fill_Msg_In_List::Fill_To_ALL_Pressed);

@@ -165,7 +165,9 @@ QString Handset_Bubble::Losses_Of(const Message_Preview& sent, const Plan_Manner
 // Layouts around it work out a height that depends on the width for widths that it does not get, and cut something.
 void Handset_Bubble::Fit_Height()
 {
-    setFixedHeight(layout()->totalHeightForWidth(width()));
+    // Until it is shown it has a width that it will not keep, and for which it may be far too high.
+    const int room = isVisible() ? width() : std::max(width(), layout()->totalSizeHint().width());
+    setFixedHeight(layout()->totalHeightForWidth(room));
 }
 
 bool Handset_Bubble::event(QEvent* event)

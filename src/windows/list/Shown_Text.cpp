@@ -15,6 +15,7 @@ Shown_Text::Shown_Text(QWidget* parent) : QPlainTextEdit(parent)
     setUndoRedoEnabled(false);
     setTabChangesFocus(true);
     setFrameShape(QFrame::NoFrame);
+    document()->setDocumentMargin(0); // in line with the caption above it
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }

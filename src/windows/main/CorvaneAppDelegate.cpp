@@ -116,6 +116,12 @@ bool CorvaneAppDelegate::awakeFromNib()
         box->setCurrentIndex(-1);
         box->lineEdit()->setAccessibleName(box->accessibleName()); // the keyboard focus is here when it is in the box
     }
+    const auto say_wait = [this](const QString& count) {
+        constexpr int several = 2; // which is read where there is no number
+        m_ui->delay_caption->setText(tr("messages wait", nullptr, count.toInt() > 0 ? count.toInt() : several));
+    };
+    connect(m_ui->_delayed_msg_count_combo, &QComboBox::currentTextChanged, m_ui->delay_caption, say_wait);
+    say_wait({});
     m_confirm_boxes = std::make_unique<Confirm_Boxes>(
         Confirm_Boxes::Boxes{m_ui->_Confirm_Chk, m_ui->_Reports_Chk, m_ui->_Keep_Receipt_Chk,
                              m_ui->_Remember_Confirm_Chk, m_ui->confirm_more},

@@ -26,7 +26,7 @@ Undo_Strip::Undo_Strip(QWidget* parent)
     m_words->setTextFormat(Qt::PlainText);
     m_button->setFlat(true);
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(12, 4, 4, 4);
+    row->setContentsMargins(14, 4, 4, 4);
     row->setSpacing(4);
     row->addWidget(m_words, 1);
     row->addWidget(m_button, 0, Qt::AlignVCenter);
