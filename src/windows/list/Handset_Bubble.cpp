@@ -198,8 +198,7 @@ void Handset_Bubble::Show_Help(const QString& text, const Plan_Manner& manner)
     const auto offer = [&](QPushButton& button, bool is_offered, Replaced what) {
         button.setVisible(is_offered);
         if (is_offered)
-            button.setEnabled(With_Changes(text, Replacements_In(text, m_preview, what, first)).size() <=
-                              Longest_Message);
+            button.setEnabled(Length_With_Replacements(text, m_preview, what, first) <= Longest_Message);
     };
     const auto replaceable = [&](bool is_of_script) {
         return std::count_if(m_preview.characters.begin(), m_preview.characters.end(),
