@@ -73,7 +73,7 @@ Handset_Bubble::Handset_Bubble(QWidget* parent) : QFrame(parent), m_ui(std::make
 
 Handset_Bubble::~Handset_Bubble() = default;
 
-void Handset_Bubble::Follow(QPlainTextEdit& editor, QLabel& parts, std::function<Terms()> terms)
+void Handset_Bubble::Follow(Plain_Text_Edit& editor, QLabel& parts, std::function<Terms()> terms)
 {
     m_editor = &editor;
     m_parts = &parts;
