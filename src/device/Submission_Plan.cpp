@@ -40,6 +40,11 @@ std::optional<Pdu_Frame> Single_Frame(const Outgoing_Message& message, const PDU
     return frame;
 }
 
+int Parts_In_Pdu_Mode(const Outgoing_Message& message)
+{
+    return Single_Frame(message, {}) ? 1 : Pdu_Part_Count(message.m_text.size(), message.m_is_unicode);
+}
+
 Submission_Plan Plan_Pdu(const Outgoing_Message& message, const PDU::Report& report)
 {
     if (const auto single = Single_Frame(message, report))

@@ -37,4 +37,7 @@ struct Submission_Plan
 /// diagnostics.
 std::optional<Pdu_Frame> Single_Frame(const Outgoing_Message& message, const PDU::Report& report);
 
+/// How many parts it takes: those of its plan, which is made only as far as that needs.
+int Parts_In_Pdu_Mode(const Outgoing_Message& message);
+
 Submission_Plan Plan_Pdu(const Outgoing_Message& message, const PDU::Report& report);

@@ -96,10 +96,11 @@ private:
         if (m_whole.empty() || begin >= m_end) {
             if (!m_whole.empty())
                 Close();
-            m_whole.push_back({begin, {}, {}});
+            m_whole.push_back({begin, change.from, {}});
             m_shown_to = begin;
         }
-        m_whole.back().to += m_text.mid(m_shown_to, change.at - m_shown_to) + change.to;
+        m_whole.back().to += QStringView(m_text).mid(m_shown_to, change.at - m_shown_to);
+        m_whole.back().to += change.to;
         m_shown_to = end;
         m_end = Boundary_Behind(end);
     }
@@ -107,8 +108,9 @@ private:
     void Close()
     {
         Changed_Text& last = m_whole.back();
-        last.from = m_text.mid(last.at, m_end - last.at);
-        last.to += m_text.mid(m_shown_to, m_end - m_shown_to);
+        if (m_end - last.at > last.from.size()) // else it is the change itself, as most are
+            last.from = m_text.mid(last.at, m_end - last.at);
+        last.to += QStringView(m_text).mid(m_shown_to, m_end - m_shown_to);
     }
 
     int Boundary_Before(int at)
@@ -198,13 +200,25 @@ std::vector<Changed_Text> Replacements_In(const QString& text, const Message_Pre
     return changes;
 }
 
+qsizetype Length_With_Replacements(const QString& text, const Message_Preview& preview, Replaced what, int which)
+{
+    qsizetype length = text.size();
+    for (const Marked_Place& place : preview.places) {
+        if (Is_Wanted(preview, place, what, which))
+            length +=
+                preview.characters[static_cast<std::size_t>(place.character)].replacement->text.size() - place.length;
+    }
+    return length;
+}
+
 QString With_Changes(const QString& text, const std::vector<Changed_Text>& changes)
 {
     QString changed;
     qsizetype next = 0;
     for (const Changed_Text& change : changes) {
-        changed += text.mid(next, change.at - next) + change.to;
+        changed += QStringView(text).mid(next, change.at - next);
+        changed += change.to;
         next = change.at + change.from.size();
     }
-    return changed + text.mid(next);
+    return changed += QStringView(text).mid(next);
 }

@@ -48,5 +48,8 @@ enum class Replaced
 std::vector<Changed_Text> Replacements_In(const QString& text, const Message_Preview& preview, Replaced what,
                                           int which = 0);
 
+/// How long the text would be then, in UTF-16 units.
+qsizetype Length_With_Replacements(const QString& text, const Message_Preview& preview, Replaced what, int which = 0);
+
 /// The text with such changes.
 QString With_Changes(const QString& text, const std::vector<Changed_Text>& changes);

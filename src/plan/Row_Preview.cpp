@@ -14,17 +14,17 @@ Job_Row Confirmed_Row(const Planned_Row& row, const Plan_Manner& manner)
     return Frozen_Row(row.row, row.number, row.text, manner.alphabet, manner.is_flash, 0, false);
 }
 
-Submission_Plan Plan_With_Fixed_Waits(const Planned_Row& row, const Plan_Manner& manner)
+Outgoing_Message With_Fixed_Waits(const Planned_Row& row, const Plan_Manner& manner)
 {
     const bool is_unicode = manner.alphabet == Job_Alphabet_Choice::Unicode;
-    return Plan_Pdu({row.text, row.number, manner.service_centre, manner.is_flash, is_unicode}, {});
+    return {row.text, row.number, manner.service_centre, manner.is_flash, is_unicode};
 }
 
 QByteArrayList Frames_Of(const Planned_Row& row, const Plan_Manner& manner)
 {
     QByteArrayList frames;
     if (manner.fixed_waits) {
-        for (const Pdu_Frame& frame : Plan_With_Fixed_Waits(row, manner).m_frames)
+        for (const Pdu_Frame& frame : Plan_Pdu(With_Fixed_Waits(row, manner), {}).m_frames)
             frames.append(frame.m_digits);
     } else {
         for (const Part_To_Send& part :
@@ -98,7 +98,7 @@ Row_Preview Preview_Of(const Planned_Row& row, const Plan_Manner& manner)
 
 int Parts_Of_Row(const Planned_Row& row, const Plan_Manner& manner)
 {
-    return manner.fixed_waits ? Plan_With_Fixed_Waits(row, manner).m_parts : Confirmed_Row(row, manner).parts;
+    return manner.fixed_waits ? Parts_In_Pdu_Mode(With_Fixed_Waits(row, manner)) : Confirmed_Row(row, manner).parts;
 }
 
 QString Shown_By_A_Handset(const QByteArrayList& frames)

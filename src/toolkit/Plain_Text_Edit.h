@@ -1,5 +1,7 @@
 #pragma once
 
+#include "toolkit/Text_Waves.h"
+
 #include <QPlainTextEdit>
 
 // How messages are read from and limited in text areas. Interface thread only.
@@ -23,7 +25,12 @@ class Plain_Text_Edit : public QPlainTextEdit
     Q_OBJECT
 
 public:
-    using QPlainTextEdit::QPlainTextEdit;
+    explicit Plain_Text_Edit(QWidget* parent = nullptr);
+
+    /// Underlines these stretches with waves, and no others. The text itself, its layout, its history and its listeners
+    /// notice nothing. An edit takes the marks behind it along, and those that it touches away.
+    void Mark(Text_Stretches stretches);
+    const Text_Stretches& Marks() const { return m_marks; }
 
     /// Asks for a few lines of its font, and takes all the room there is.
     QSize sizeHint() const override { return minimumSizeHint(); }
@@ -31,4 +38,12 @@ public:
 
 protected:
     void insertFromMimeData(const QMimeData* source) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void Paint_Waves(const QRect& in_sight);
+    void Repaint_Lines(int from, int to);
+
+    Text_Stretches m_marks;
+    Text_Waves m_waves;
 };

@@ -55,6 +55,7 @@ void Expect_Plan(const Row& row, const Outgoing_Message& message)
     const Submission_Plan plan = Plan_Pdu(message, {});
     EXPECT_EQ(plan.m_is_single, row.m_is_single);
     EXPECT_EQ(plan.m_parts, row.m_parts);
+    EXPECT_EQ(Parts_In_Pdu_Mode(message), row.m_parts);
     ASSERT_EQ(plan.m_frames.size(), static_cast<size_t>(row.m_parts));
     EXPECT_EQ(plan.m_frames.front().m_length, row.m_first_length);
     EXPECT_EQ(plan.m_frames.back().m_length, row.m_last_length);
@@ -89,9 +90,12 @@ TEST(Submission_Plan, A_Longer_Number_Makes_A_Full_Message_Go_In_Parts)
         const Submission_Plan plan = Plan_Pdu({full, Number + u'0', QString(), false, is_unicode}, {});
         EXPECT_FALSE(plan.m_is_single);
         EXPECT_EQ(plan.m_frames.size(), 2u);
+        EXPECT_EQ(Parts_In_Pdu_Mode({full, Number + u'0', QString(), false, is_unicode}), 2);
     }
     // Nothing to cut up is no part at all.
-    EXPECT_TRUE(Plan_Pdu({QString(), QString(300, u'1'), QString(), false, false}, {}).m_frames.empty());
+    const Outgoing_Message empty{QString(), QString(300, u'1'), QString(), false, false};
+    EXPECT_TRUE(Plan_Pdu(empty, {}).m_frames.empty());
+    EXPECT_EQ(Parts_In_Pdu_Mode(empty), Plan_Pdu(empty, {}).m_parts);
 }
 
 TEST(Submission_Plan, It_Ends_With_The_Frame_That_Cannot_Be_Made)

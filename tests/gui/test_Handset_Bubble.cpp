@@ -80,6 +80,36 @@ TEST_F(Handset_Bubble_Test, Says_What_Arrives_As_Another_And_Marks_It)
     EXPECT_EQ(Label("_Msg_char_count"), "10 Characters");
 }
 
+TEST_F(Handset_Bubble_Test, Marks_Follow_What_Is_Written_And_Taken_Back)
+{
+    const auto seen = [&] { return Composer().viewport()->grab().toImage(); };
+    const auto shows_marks = [&] {
+        const Text_Stretches marks = Composer().Marks();
+        const QImage with = seen();
+        Composer().Mark({});
+        const QImage without = seen();
+        Composer().Mark(marks);
+        return with != without;
+    };
+    Composer().setCursorWidth(0); // it blinks
+    Paste("10 € or ě");
+    EXPECT_TRUE(shows_marks());
+    Composer().moveCursor(QTextCursor::Start);
+    Paste("ą, ");
+    EXPECT_EQ(Marked(), (QStringList{"ą", "€", "ě"}));
+    QTest::keySequence(&Composer(), QKeySequence::Undo);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Marked(), (QStringList{"€", "ě"}));
+    EXPECT_TRUE(shows_marks());
+    QTest::keySequence(&Composer(), QKeySequence::SelectAll);
+    QTest::keyClick(&Composer(), Qt::Key_Delete);
+    QCoreApplication::processEvents();
+    EXPECT_THAT(Marked(), IsEmpty());
+    QTest::keyClicks(&Composer(), "abc");
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(shows_marks());
+}
+
 TEST_F(Handset_Bubble_Test, Names_A_Few_And_Counts_The_Others)
 {
     Write("€ á ê ő ű");

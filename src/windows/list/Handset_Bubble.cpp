@@ -73,7 +73,7 @@ Handset_Bubble::Handset_Bubble(QWidget* parent) : QFrame(parent), m_ui(std::make
 
 Handset_Bubble::~Handset_Bubble() = default;
 
-void Handset_Bubble::Follow(QPlainTextEdit& editor, QLabel& parts, std::function<Terms()> terms)
+void Handset_Bubble::Follow(Plain_Text_Edit& editor, QLabel& parts, std::function<Terms()> terms)
 {
     m_editor = &editor;
     m_parts = &parts;
@@ -200,8 +200,7 @@ void Handset_Bubble::Show_Help(const QString& text, const Plan_Manner& manner)
     const auto offer = [&](QPushButton& button, bool is_offered, Replaced what) {
         button.setVisible(is_offered);
         if (is_offered)
-            button.setEnabled(With_Changes(text, Replacements_In(text, m_preview, what, first)).size() <=
-                              Longest_Message);
+            button.setEnabled(Length_With_Replacements(text, m_preview, what, first) <= Longest_Message);
     };
     const auto replaceable = [&](bool is_of_script) {
         return std::count_if(m_preview.characters.begin(), m_preview.characters.end(),

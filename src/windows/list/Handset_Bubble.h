@@ -8,8 +8,8 @@
 #include <memory>
 
 class Main_Window;
+class Plain_Text_Edit;
 class QLabel;
-class QPlainTextEdit;
 
 namespace Ui {
 class Handset_Bubble;
@@ -40,7 +40,7 @@ public:
 
     /// Shows from now on what becomes of the text in an editor, marks there what gets lost, and counts its parts in a
     /// label. Both outlive the bubble; the terms are asked for each time.
-    void Follow(QPlainTextEdit& editor, QLabel& parts, std::function<Terms()> terms);
+    void Follow(Plain_Text_Edit& editor, QLabel& parts, std::function<Terms()> terms);
     /// Offers sending as Unicode, where that helps, by Unicode_Wanted.
     void Offer_Unicode() { m_offers_unicode = true; }
     /// Shows a message that is not to be changed here.
@@ -73,7 +73,7 @@ private:
     int First_Replaceable() const;
 
     std::unique_ptr<Ui::Handset_Bubble> m_ui;
-    QPlainTextEdit* m_editor = nullptr; // null where nothing is written
+    Plain_Text_Edit* m_editor = nullptr; // null where nothing is written
     QLabel* m_parts = nullptr;
     std::function<Terms()> m_terms;
     Message_Preview m_preview; // of the text as it is written

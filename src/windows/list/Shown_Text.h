@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QPlainTextEdit>
+#include "toolkit/Plain_Text_Edit.h"
 
 // A message as a handset shows it, to be read: a few lines high, and scrolling when it is longer. Part of its window.
-class Shown_Text : public QPlainTextEdit
+class Shown_Text : public Plain_Text_Edit
 {
     Q_OBJECT
 
@@ -13,9 +13,10 @@ public:
     /// Shows the text, with this place of it in sight.
     void Show_Text(const QString& text, int place);
 
-    QSize sizeHint() const override { return minimumSizeHint(); }
     QSize minimumSizeHint() const override;
 
 private:
+    void Replace_What_Differs(const QString& text);
+
     QString m_text;
 };
