@@ -322,10 +322,6 @@
         <translation>Empfänger</translation>
     </message>
     <message>
-        <source>Phone &amp;number:</source>
-        <translation>&amp;Rufnummer:</translation>
-    </message>
-    <message>
         <source>Phone number</source>
         <translation>Rufnummer</translation>
     </message>
@@ -686,6 +682,10 @@ bearbeiten</translation>
     <message>
         <source>End the program, after a question</source>
         <translation>Das Programm beenden, nach einer Rückfrage</translation>
+    </message>
+    <message>
+        <source>&amp;Number:</source>
+        <translation>&amp;Rufnummer:</translation>
     </message>
 </context>
 <context>
@@ -1095,6 +1095,19 @@ sind nicht nutzbar: Ihre Nummern sind nicht ausgeschlossen.</translation>
     <message>
         <source>Fields: %1</source>
         <translation>Felder: %1</translation>
+    </message>
+</context>
+<context>
+    <name>File_Panels</name>
+    <message>
+        <source>
+%1 is there already.
+
+Do you want to replace it?</source>
+        <translation>
+%1 ist schon da.
+
+Möchten Sie die Datei ersetzen?</translation>
     </message>
 </context>
 <context>

@@ -322,10 +322,6 @@
         <translation>Destinatarios</translation>
     </message>
     <message>
-        <source>Phone &amp;number:</source>
-        <translation>&amp;Número de teléfono:</translation>
-    </message>
-    <message>
         <source>Phone number</source>
         <translation>Número de teléfono</translation>
     </message>
@@ -686,6 +682,10 @@ seleccionados</translation>
     <message>
         <source>End the program, after a question</source>
         <translation>Salir del programa, tras una pregunta</translation>
+    </message>
+    <message>
+        <source>&amp;Number:</source>
+        <translation>&amp;Número:</translation>
     </message>
 </context>
 <context>
@@ -1095,6 +1095,19 @@ no se pueden usar: sus números no se excluyen.</translation>
     <message>
         <source>Fields: %1</source>
         <translation>Campos: %1</translation>
+    </message>
+</context>
+<context>
+    <name>File_Panels</name>
+    <message>
+        <source>
+%1 is there already.
+
+Do you want to replace it?</source>
+        <translation>
+%1 ya existe.
+
+¿Quiere reemplazar el archivo?</translation>
     </message>
 </context>
 <context>

@@ -322,10 +322,6 @@
         <translation>Destinataires</translation>
     </message>
     <message>
-        <source>Phone &amp;number:</source>
-        <translation>&amp;Numéro de téléphone&#x202f;:</translation>
-    </message>
-    <message>
         <source>Phone number</source>
         <translation>Numéro de téléphone</translation>
     </message>
@@ -686,6 +682,10 @@ la sélection</translation>
     <message>
         <source>End the program, after a question</source>
         <translation>Quitter le programme, après confirmation</translation>
+    </message>
+    <message>
+        <source>&amp;Number:</source>
+        <translation>&amp;Numéro&#x202f;:</translation>
     </message>
 </context>
 <context>
@@ -1095,6 +1095,19 @@ sont inutilisables&#x202f;: leurs numéros ne sont pas exclus.</translation>
     <message>
         <source>Fields: %1</source>
         <translation>Champs&#x202f;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>File_Panels</name>
+    <message>
+        <source>
+%1 is there already.
+
+Do you want to replace it?</source>
+        <translation>
+%1 existe déjà.
+
+Voulez-vous remplacer ce fichier&#x202f;?</translation>
     </message>
 </context>
 <context>

@@ -322,10 +322,6 @@
         <translation>Destinatari</translation>
     </message>
     <message>
-        <source>Phone &amp;number:</source>
-        <translation>&amp;Numero di telefono:</translation>
-    </message>
-    <message>
         <source>Phone number</source>
         <translation>Numero di telefono</translation>
     </message>
@@ -686,6 +682,10 @@ selezionati</translation>
     <message>
         <source>End the program, after a question</source>
         <translation>Chiude il programma, dopo una domanda</translation>
+    </message>
+    <message>
+        <source>&amp;Number:</source>
+        <translation>&amp;Numero:</translation>
     </message>
 </context>
 <context>
@@ -1095,6 +1095,19 @@ non sono utilizzabili: i loro numeri non vengono esclusi.</translation>
     <message>
         <source>Fields: %1</source>
         <translation>Campi: %1</translation>
+    </message>
+</context>
+<context>
+    <name>File_Panels</name>
+    <message>
+        <source>
+%1 is there already.
+
+Do you want to replace it?</source>
+        <translation>
+%1 esiste già.
+
+Sostituire il file?</translation>
     </message>
 </context>
 <context>

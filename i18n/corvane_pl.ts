@@ -327,10 +327,6 @@
         <translation>Odbiorcy</translation>
     </message>
     <message>
-        <source>Phone &amp;number:</source>
-        <translation>&amp;Numer telefonu:</translation>
-    </message>
-    <message>
         <source>Phone number</source>
         <translation>Numer telefonu</translation>
     </message>
@@ -693,6 +689,10 @@ zaznaczonych</translation>
     <message>
         <source>End the program, after a question</source>
         <translation>Zakończ program, po potwierdzeniu</translation>
+    </message>
+    <message>
+        <source>&amp;Number:</source>
+        <translation>&amp;Numer:</translation>
     </message>
 </context>
 <context>
@@ -1105,6 +1105,19 @@ ich numery nie są wykluczone.</translation>
     <message>
         <source>Fields: %1</source>
         <translation>Pola: %1</translation>
+    </message>
+</context>
+<context>
+    <name>File_Panels</name>
+    <message>
+        <source>
+%1 is there already.
+
+Do you want to replace it?</source>
+        <translation>
+Plik %1 już istnieje.
+
+Czy go zastąpić?</translation>
     </message>
 </context>
 <context>

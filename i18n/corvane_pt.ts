@@ -322,10 +322,6 @@
         <translation>Destinatários</translation>
     </message>
     <message>
-        <source>Phone &amp;number:</source>
-        <translation>&amp;Número de telefone:</translation>
-    </message>
-    <message>
         <source>Phone number</source>
         <translation>Número de telefone</translation>
     </message>
@@ -686,6 +682,10 @@ selecionadas</translation>
     <message>
         <source>End the program, after a question</source>
         <translation>Sair do programa, depois de uma pergunta</translation>
+    </message>
+    <message>
+        <source>&amp;Number:</source>
+        <translation>&amp;Número:</translation>
     </message>
 </context>
 <context>
@@ -1095,6 +1095,19 @@ não podem ser usadas: os seus números não são excluídos.</translation>
     <message>
         <source>Fields: %1</source>
         <translation>Campos: %1</translation>
+    </message>
+</context>
+<context>
+    <name>File_Panels</name>
+    <message>
+        <source>
+%1 is there already.
+
+Do you want to replace it?</source>
+        <translation>
+%1 já existe.
+
+Quer substituir o ficheiro?</translation>
     </message>
 </context>
 <context>

@@ -13,7 +13,7 @@ build_packages=(
     libxcb1-dev libzip-dev pkg-config
     libgtest-dev libgmock-dev python3-markdown
     xvfb xauth openbox fonts-dejavu-core fonts-noto-core fonts-liberation fonts-cantarell
-    dbus at-spi2-core gir1.2-atspi-2.0 python3-pyatspi xdotool
+    dbus qt6-xdgdesktopportal-platformtheme at-spi2-core gir1.2-atspi-2.0 python3-pyatspi xdotool
 )
 # shellcheck disable=SC2034
 fuzz_packages=(clang libclang-rt-14-dev)

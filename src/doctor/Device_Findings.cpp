@@ -131,6 +131,7 @@ Finding About_Centre(Device_State::Centre centre)
     case Device_State::Centre::Odd:
         return {Check::Centre, Mark::Bad, {}, T::Centre_Odd, T::Give_Centre};
     case Device_State::Centre::Unknown:
+    case Device_State::Centre::Not_Asked:
         break;
     }
     return {Check::Centre, Mark::Note, {}, T::Centre_Unknown, T::Send_To_Yourself};
@@ -157,9 +158,12 @@ QList<Finding> Findings_About_Device(const Port_Facts& port, const Device_State&
 QList<Finding> Findings_About_Card_And_Network(const QString& path, const Device_State& state)
 {
     QList<Finding> findings{About_Card(state)};
-    if (state.is_whole)
-        findings += {About_Network(state.network), About_Signal(state), About_Centre(state.centre),
-                     About_Messages(state.takes_messages)};
+    if (state.is_whole) {
+        findings += {About_Network(state.network), About_Signal(state)};
+        if (state.centre != Device_State::Centre::Not_Asked)
+            findings += About_Centre(state.centre);
+        findings += About_Messages(state.takes_messages);
+    }
     for (Finding& finding : findings)
         finding.port = path;
     return findings;

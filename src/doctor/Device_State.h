@@ -27,7 +27,8 @@ struct Device_State
     };
     enum class Centre
     {
-        Unknown, ///< the device does not say
+        Unknown,   ///< the device does not say
+        Not_Asked, ///< nobody was there to be asked
         Set,
         Empty,
         Odd ///< something stands there that is no number

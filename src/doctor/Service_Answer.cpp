@@ -146,6 +146,9 @@ Service_Modem Modem_In(const Interfaces& interfaces)
                                state.card == Sim_State::Pin_Needed ? Lock_Pin : Lock_Puk);
     state.network = Network_In(interfaces.value(QLatin1String(Network_Interface)));
     state.signal_percent = Signal_In(modem.value(QStringLiteral("SignalQuality")));
+    // Neither a modem nor its card nor its messaging has a property for the service centre that is stored. A message
+    // has one: that of its sender's network, or the one that was asked for.
+    state.centre = Device_State::Centre::Not_Asked;
     state.takes_messages = interfaces.contains(QLatin1String(Messaging_Interface));
     state.is_whole = state.card == Sim_State::Ready || state.card == Sim_State::Unknown;
     return found;

@@ -5,8 +5,8 @@
 
 class QWidget;
 
-// The one door for asking the user for a file or a folder. Interface thread only; each function runs until the panel is
-// closed.
+// The one door for asking the user for a file or a folder, by the panel of the desktop where that offers one. Interface
+// thread only; each function runs until the panel is closed, or the program is left.
 
 /// The path of an existing file that the user picked; nothing when the panel was cancelled.
 std::optional<QString> Ask_For_File_To_Open(QWidget* over);

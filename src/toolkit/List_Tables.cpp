@@ -2,6 +2,7 @@
 
 #include "toolkit/Double_Clicks.h"
 #include "toolkit/Row_Table_Model.h"
+#include "toolkit/Whole_Headings.h"
 #include "toolkit/Whole_Text_Delegate.h"
 
 #include <QHeaderView>
@@ -45,6 +46,7 @@ void Prepare_List_Table(QTableView& table, Row_Table_Model& rows)
     table.setColumnWidth(0, letters.averageCharWidth() * 24);
     table.setMinimumSize(letters.averageCharWidth() * Letters_Always_In_Sight, row_height * (Rows_Always_In_Sight + 1));
     table.setItemDelegate(new Whole_Text_Delegate(&table));
+    new Whole_Headings(table); // the table owns both
     new Double_Clicks(table);
 }
 

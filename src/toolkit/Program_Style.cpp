@@ -286,7 +286,7 @@ bool Program_Style::Draws_Label_Or_Row(ControlElement element, const QStyleOptio
     }
     const auto* heading = As<QStyleOptionHeader>(option);
     if (heading && element == CE_HeaderLabel) {
-        const QStyleOptionHeader own = Style_Tables::In_Soft_Words(*heading);
+        const QStyleOptionHeaderV2 own = Style_Tables::In_Soft_Words(*heading);
         QProxyStyle::drawControl(element, &own, painter, widget);
         return true;
     }

@@ -48,9 +48,14 @@ QStyleOptionViewItem On_Its_Row(const QStyleOptionViewItem& cell)
     return own;
 }
 
-QStyleOptionHeader In_Soft_Words(const QStyleOptionHeader& heading)
+// With what the newer kind of option says of words that are cut.
+QStyleOptionHeaderV2 In_Soft_Words(const QStyleOptionHeader& heading)
 {
-    QStyleOptionHeader own = heading;
+    QStyleOptionHeaderV2 own;
+    if (const auto* newer = qstyleoption_cast<const QStyleOptionHeaderV2*>(&heading))
+        own = *newer;
+    else
+        static_cast<QStyleOptionHeader&>(own) = heading;
     for (const auto role : {QPalette::ButtonText, QPalette::WindowText, QPalette::Text})
         own.palette.setColor(role, Tokens_Now().soft);
     return own;

@@ -3,6 +3,7 @@
 class QPainter;
 class QStyleOption;
 class QStyleOptionHeader;
+class QStyleOptionHeaderV2;
 class QStyleOptionViewItem;
 
 // Tables: rows with hairlines, and headings that are words. Interface thread.
@@ -15,6 +16,6 @@ void Draw_Heading_Ground(const QStyleOption& option, QPainter& painter);
 
 /// The cell as the row's ground wants it: its words keep their colour in a selected row.
 QStyleOptionViewItem On_Its_Row(const QStyleOptionViewItem& cell);
-QStyleOptionHeader In_Soft_Words(const QStyleOptionHeader& heading);
+QStyleOptionHeaderV2 In_Soft_Words(const QStyleOptionHeader& heading);
 
 } // namespace Style_Tables

@@ -239,7 +239,7 @@ TEST_F(Modem_Service_Test, A_Modem_With_Several_Ports_Is_Told_About_Once)
     Has("/org/freedesktop/ModemManager1/Modem/0", {{"ttyUSB0", 3}, {"ttyUSB1", 3}}, {{"UnlockRequired", 1U}},
         {{"RegistrationState", 1U}});
     EXPECT_EQ(Marks(Look({m_system.Add({}), m_system.Add({.name = "ttyUSB1"})})),
-              "holder:bad card:good network:good signal:note centre:note messages:good holder:bad");
+              "holder:bad card:good network:good signal:note messages:good holder:bad");
 }
 
 // ------------------------------------------------------------------------------------------------ mobile data ports
@@ -317,18 +317,18 @@ INSTANTIATE_TEST_SUITE_P(
         Told_State{"Ready",
                    {{"State", 8}, {"UnlockRequired", 1U}, {"SignalQuality", Strong}},
                    {{"RegistrationState", 1U}},
-                   "card:good network:good signal:good centre:note messages:good",
+                   "card:good network:good signal:good messages:good",
                    "strong enough (71 %)"},
         Told_State{
             "Weak_Abroad",
             {{"State", 8}, {"UnlockRequired", 3U}, {"SignalQuality", QVariant::fromValue(Told_Signal{15, true})}},
             {{"RegistrationState", 5U}},
-            "card:good network:note signal:note centre:note messages:good",
+            "card:good network:note signal:note messages:good",
             "weak (15 %)"},
         Told_State{"Denied",
                    {{"State", 7}, {"UnlockRequired", 1U}, {"SignalQuality", QVariant::fromValue(Told_Signal{})}},
                    {{"RegistrationState", 3U}},
-                   "card:good network:bad signal:note centre:note messages:good",
+                   "card:good network:bad signal:note messages:good",
                    "does not accept"},
         Told_State{"Pin",
                    {{"State", 2}, {"UnlockRequired", 2U}, {"UnlockRetries", Tries}},
@@ -352,7 +352,7 @@ INSTANTIATE_TEST_SUITE_P(
                     {"SignalQuality", Tries},
                     {"Manufacturer", 5}},
                    {{"RegistrationState", "1"}},
-                   "card:note network:note signal:note centre:note messages:good",
+                   "card:note network:note signal:note messages:good",
                    "does not say whether its SIM card"},
         Told_State{"Numbers_Out_Of_Bounds",
                    {{"State", 2},

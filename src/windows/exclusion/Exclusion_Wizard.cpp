@@ -12,6 +12,7 @@
 #include "toolkit/Look.h"
 #include "toolkit/PleaseWait_Modeless.h"
 #include "toolkit/Shared_Instance.h"
+#include "toolkit/Table_Menu.h"
 #include "toolkit/Window_Look.h"
 #include "ui_Exclusion_Wizard.h"
 
@@ -63,6 +64,7 @@ void Exclusion_Wizard::awakeFromNib()
     m_ui->m_st_msg->setAutoFillBackground(true);
     Connect_Buttons();
     Connect_Fields_And_Tables();
+    Give_Menus();
     m_screens.Hide_All_But_First();
     Exclusion_wnd = this;
 }
@@ -108,6 +110,19 @@ void Exclusion_Wizard::Connect_Fields_And_Tables()
     Give_Table_Keys(*m_ui->m_applied_axclusion_list,
                     {[this] { doubleClickInTable(*m_ui->m_applied_axclusion_list); }, [this] { Remove_List_Btn(); }});
     Give_Table_Keys(*m_ui->m_ex_num_list, {[this] { Update_Number_Btn(); }, [this] { Remove_Number_Btn(); }});
+}
+
+void Exclusion_Wizard::Give_Menus()
+{
+    const auto give = [this](QTableView& table, const QList<QPushButton*>& buttons) {
+        Give_Table_Menu(
+            table, [names = &m_lists.Names_In(&table)] { return names->Source(); }, buttons);
+    };
+    give(*m_ui->m_exclusion_list,
+         {m_ui->m_addlist_btn, m_ui->m_addAll_list_btn, m_ui->m_addnew_btn, m_ui->m_update_btn, m_ui->m_delete_btn});
+    give(*m_ui->m_applied_axclusion_list, {m_ui->m_dellist_btn, m_ui->m_delall_list_btn, m_ui->m_saveapplied_btn});
+    Give_Table_Menu(*m_ui->m_ex_num_list, [this] { return m_numbers.Source(); },
+                    {m_ui->m_update_num_btn, m_ui->m_del_num_btn});
 }
 
 // ------------------------------------------------------------------------------------- opening, loading and closing

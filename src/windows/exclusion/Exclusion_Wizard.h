@@ -95,6 +95,7 @@ private:
     void awakeFromNib();
     void Connect_Buttons();
     void Connect_Fields_And_Tables();
+    void Give_Menus();
     void Load_Thread();
     void End_Run();
 

@@ -18,6 +18,11 @@ Names_Table::Names_Table(QTableView& table, const Row_Table_Model::Column& colum
     m_hint = new Empty_List_Hint(m_table, m_table.objectName() + QStringLiteral("_Here"));
 }
 
+Row_Source Names_Table::Source() const
+{
+    return {static_cast<int>(m_names.size()), 1, [names = m_names](int, int row) { return names.at(row); }};
+}
+
 void Names_Table::Take(const QStringList& names)
 {
     m_names = names;

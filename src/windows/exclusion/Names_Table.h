@@ -1,5 +1,6 @@
 #pragma once
 
+#include "list/Row_Search.h"
 #include "texts/Fixed_Text.h"
 #include "toolkit/Empty_List_Hint.h"
 #include "toolkit/Row_Table_Model.h"
@@ -25,6 +26,8 @@ public:
 
     QTableView& Table() const { return m_table; }
     const QStringList& Names() const { return m_names; }
+    /// The names as they are now, for whoever copies some.
+    Row_Source Source() const;
     /// What the table says while it has no names; for the page to give words to.
     Empty_List_Hint& Hint() const { return *m_hint; }
     /// The name in a row, when that is there and the identifier is the column's; otherwise empty.

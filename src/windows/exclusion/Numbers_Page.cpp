@@ -46,6 +46,11 @@ Numbers_Page::Numbers_Page(const Ui::Exclusion_Wizard& form, Page_Work& work, Ex
 
 Numbers_Page::~Numbers_Page() = default;
 
+Row_Source Numbers_Page::Source() const
+{
+    return {Count(), 1, [numbers = m_ex_num_list_Data](int, int row) { return numbers.At(row); }};
+}
+
 QString Numbers_Page::Value(const QString& identifier, int row) const
 {
     const bool is_there = identifier == Key_Number && row >= 0 && row < Count();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "list/Number_List.h"
+#include "list/Row_Search.h"
 #include "toolkit/Row_Table_Model.h"
 #include "windows/exclusion/Edited_Numbers.h"
 
@@ -31,6 +32,8 @@ public:
     ~Numbers_Page() override;
 
     int Count() const { return m_ex_num_list_Data.Count(); }
+    /// The numbers as they are now, for whoever copies some.
+    Row_Source Source() const;
     /// The number in a row, when that is there and the identifier is the column's; otherwise empty.
     QString Value(const QString& identifier, int row) const;
     bool Skip_Duplicate_Number(const QString& number) const override { return m_ex_num_list_Data.Contains(number); }

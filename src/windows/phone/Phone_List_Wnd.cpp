@@ -12,6 +12,7 @@
 #include "toolkit/PleaseWait_Modeless.h"
 #include "toolkit/Row_Table_Model.h"
 #include "toolkit/Shared_Instance.h"
+#include "toolkit/Whole_Headings.h"
 #include "toolkit/Whole_Text_Delegate.h"
 #include "toolkit/Window_Look.h"
 #include "ui_Phone_List_Wnd.h"
@@ -86,6 +87,7 @@ void Phone_List_Wnd::Set_Up_Table()
         [this](const QString& identifier, int row) { return Cell(identifier, row); });
     m_ui->idPortList->setModel(m_table_model.get());
     m_ui->idPortList->setItemDelegate(new Whole_Text_Delegate(m_ui->idPortList));
+    new Whole_Headings(*m_ui->idPortList); // the table owns it
     m_ui->idPortList->verticalScrollBar()->setObjectName(QStringLiteral("idPortListsclview"));
     m_ui->idPortList->horizontalHeader()->setHighlightSections(false);
     m_ui->idPortList->horizontalHeader()->moveSection(1, 3); // the path, which the details show as well, is last

@@ -13,6 +13,7 @@
 #include "toolkit/Message_Boxes.h"
 #include "toolkit/Row_Table_Model.h"
 #include "toolkit/Shared_Instance.h"
+#include "toolkit/Table_Menu.h"
 #include "toolkit/Window_Look.h"
 #include "ui_Templates.h"
 #include "windows/stores/Store_Globals.h"
@@ -83,6 +84,12 @@ void Templates::Set_Up_Table()
     Hint().Say(tr("No text is kept here yet."), tr("Add the first template ..."));
     connect(&Hint(), &Empty_List_Hint::Step_Wanted, this, &Templates::AddNew_Btn);
     m_ui->idTemplateList->verticalScrollBar()->setObjectName(QStringLiteral("idTemplateListsclview"));
+    const auto take_source = [this] {
+        return Row_Source{Count(), 1, [list = nsTemplateListData](int, int row) { return list.at(row).Message; }};
+    };
+    Give_Table_Menu(*m_ui->idTemplateList, take_source,
+                    {m_ui->Use_template_Btn, m_ui->AddNew_Btn, m_ui->Update_Btn, m_ui->Clear_Sel_Btn,
+                     m_ui->Clear_All_Btn, m_ui->Export_Btn});
 }
 
 int Templates::Open_Template_Wnd()

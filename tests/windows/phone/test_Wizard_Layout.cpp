@@ -40,6 +40,32 @@ TEST_F(Wizard_Test, The_Tab_Key_Goes_From_The_Table_Through_The_Fields_To_The_Bu
     EXPECT_EQ(chain, expected);
 }
 
+TEST_F(Wizard_Test, A_Heading_That_Long_Names_Leave_No_Room_For_Is_Marked_And_Told_Whole)
+{
+    Run([&] {
+        QHeaderView& headings = *Table().horizontalHeader();
+        constexpr int path = 1;
+        EXPECT_EQ(headings.textElideMode(), Qt::ElideRight);
+        const auto tool_tip = [&] {
+            QToolTip::hideText();
+            const QPoint place(headings.sectionViewportPosition(path) + 5, headings.height() / 2);
+            QHelpEvent event(QEvent::ToolTip, place, headings.viewport()->mapToGlobal(place));
+            QApplication::sendEvent(headings.viewport(), &event);
+            return QToolTip::text();
+        };
+        ASSERT_GE(headings.sectionSize(path), headings.sectionSizeHint(path));
+        EXPECT_EQ(tool_tip(), QString());
+        QFont large = headings.font();
+        large.setPointSize(4 *
+                           large.pointSize()); // so that the others, which are as wide as what is in them, leave less
+        headings.setFont(large);
+        QCoreApplication::processEvents();
+        ASSERT_LT(headings.sectionSize(path), headings.sectionSizeHint(path));
+        EXPECT_EQ(tool_tip(), "Device path");
+        QToolTip::hideText();
+    });
+}
+
 TEST(Phone_List_Wnd, The_Shared_Instance_Is_One_Until_It_Is_Ended)
 {
     const auto* first = Phone_List_Wnd::defaultInstance();
