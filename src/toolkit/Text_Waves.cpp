@@ -10,9 +10,9 @@
 
 namespace {
 
-bool Turns_Text(QChar unit)
+bool Turns_Text(char32_t character)
 {
-    switch (unit.direction()) {
+    switch (QChar::direction(character)) {
     case QChar::DirR:
     case QChar::DirAL:
     case QChar::DirAN:
@@ -22,14 +22,14 @@ bool Turns_Text(QChar unit)
     case QChar::DirFSI:
         return true;
     default:
-        return unit.isSurrogate(); // a half tells nothing
+        return false;
     }
 }
 
 bool Runs_Both_Ways(const QTextBlock& block)
 {
-    const QString text = block.text();
-    return block.textDirection() == Qt::RightToLeft || std::any_of(text.begin(), text.end(), Turns_Text);
+    const auto characters = block.text().toUcs4();
+    return block.textDirection() == Qt::RightToLeft || std::any_of(characters.begin(), characters.end(), Turns_Text);
 }
 
 // Finds the waves of one block.

@@ -203,7 +203,7 @@ TEST_F(Text_Marks_Test, A_Mark_In_Text_That_Runs_To_The_Left_Is_Under_Its_Letter
     // Each letter by itself; then all of them at once.
     for (const QString& text :
          {QStringLiteral("\u05D0\u05D1\u05D2\u05D3"), QStringLiteral("ab \u05D0\u05D1\u05D2\u05D3 cd"),
-          QStringLiteral("\u05D0\u05D1\u05D2\u05D3 ab")}) {
+          QStringLiteral("\u05D0\u05D1\u05D2\u05D3 ab"), QStringLiteral("\U0001F642 \u05D0\u05D1\u05D2\u05D3")}) {
         const int first = static_cast<int>(text.indexOf(QChar(0x05D0)));
         std::vector<QRect> letters;
         for (int at = first; at < first + 4; ++at) {
