@@ -52,6 +52,7 @@ CorvaneAppDelegate* The_Delegate = nullptr;
 
 constexpr int Normal_Message_Index = 1;
 constexpr int Send_Button_Letters = 22;
+constexpr int Digits_In_Sight = 15; // most numbers have no more
 
 } // namespace
 
@@ -94,6 +95,7 @@ bool CorvaneAppDelegate::awakeFromNib()
     const QFontMetrics letters = fontMetrics();
     m_ui->_sent_btn->setMinimumSize(letters.averageCharWidth() * Send_Button_Letters,
                                     m_ui->_sent_btn->sizeHint().height() + letters.descent());
+    Keep_Room_For(*m_ui->_numberEdit, QString(Digits_In_Sight, u'0'));
     // A device's name may be long: it is cut off rather than widening the window.
     m_ui->_Device_Name_Ticker->ensurePolished();
     m_ui->_Device_Name_Ticker->setMinimumWidth(m_ui->_Device_Name_Ticker->sizeHint().width());
