@@ -8,6 +8,7 @@
 #include "records/Data_Paths.h"
 #include "records/Template_Store.h"
 #include "texts/Texts.h"
+#include "toolkit/Column_Widths.h"
 #include "toolkit/Heading_Font.h"
 #include "toolkit/Key_Actions.h"
 #include "toolkit/Line_Edit_Limit.h"
@@ -205,6 +206,7 @@ void CorvaneAppDelegate::Give_Tables_Their_Models()
         new Row_Table_Model(Columns{{QStringLiteral("Number"), tr("Excluded number")}},
                             rows_of(m_ui->idExclusionTableView), cells_of(m_ui->idExclusionTableView), this);
     Prepare_List_Table(*m_ui->idTableView, *m_recipient_rows);
+    m_recipient_widths = new Column_Widths(*m_ui->idTableView); // the table owns it
     connect(m_ui->idTableView->selectionModel(), &QItemSelectionModel::selectionChanged, m_ui->_Bubble,
             &Handset_Bubble::Look_Again);
     Prepare_List_Table(*m_ui->idExclusionTableView, *m_exclusion_rows);
