@@ -15,3 +15,13 @@ void Cut_Line(QLineEdit& field, int most_characters)
     field.setText(line);
     field.setCursorPosition(static_cast<int>(std::min(cursor, line.size())));
 }
+
+void Keep_Room_For(QLineEdit& field, const QString& text)
+{
+    constexpr int letters_in_hint = 17; // that the toolkit has room for
+    constexpr int cursor = 2;
+    field.ensurePolished();
+    const QFontMetrics letters = field.fontMetrics();
+    const int around = field.sizeHint().width() - letters_in_hint * letters.horizontalAdvance(u'x');
+    field.setMinimumWidth(around + letters.horizontalAdvance(text) + cursor);
+}

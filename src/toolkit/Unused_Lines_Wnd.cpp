@@ -2,6 +2,7 @@
 
 #include "engine/Receipt_Cells.h"
 #include "platform/One_Line.h"
+#include "toolkit/Column_Widths.h"
 #include "toolkit/Key_Actions.h"
 #include "toolkit/List_Tables.h"
 #include "ui_Unused_Lines_Wnd.h"
@@ -59,6 +60,7 @@ Unused_Lines_Wnd::Unused_Lines_Wnd(QWidget* parent)
     const int letter = table.fontMetrics().averageCharWidth();
     table.setColumnWidth(0, letter * 12);
     table.setColumnWidth(2, letter * 26);
+    new Column_Widths(table); // the table owns it
     Give_Table_Keys(table, {});
     connect(m_ui->Close_Btn, &QPushButton::clicked, this, &QDialog::close);
 }

@@ -2,6 +2,7 @@
 #include "gui/Open_Program.h"
 #include "gui/Read_As.h"
 #include "support/In_Language.h"
+#include "support/Screens.h"
 
 #include <map>
 #include <tuple>
@@ -10,16 +11,6 @@ namespace {
 
 constexpr int Smallest_Points = 9;
 constexpr int Largest_Points = 12;
-
-/// A screen of support/screens.json: "desk" (1920 x 1080), "small" (1024 x 600) or "enlarged" (1366 x 768 at 150 %).
-QScreen* Screen_Called(const char* name)
-{
-    for (auto* screen : QApplication::screens()) {
-        if (screen->name() == name)
-            return screen;
-    }
-    qFatal("there is no screen %s", name);
-}
 
 bool Shows_Text(const QWidget& control)
 {

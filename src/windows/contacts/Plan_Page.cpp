@@ -2,8 +2,10 @@
 
 #include "platform/Interface_Thread.h"
 #include "platform/Waiting.h"
+#include "toolkit/Column_Widths.h"
 #include "toolkit/Key_Actions.h"
 #include "toolkit/List_Tables.h"
+#include "toolkit/Table_Menu.h"
 #include "toolkit/Window_Work.h"
 #include "ui_Plan_Page.h"
 #include "windows/contacts/Plan_Words.h"
@@ -102,6 +104,8 @@ void Plan_Page::Set_Up_Table()
                                                         {Plan_Rows::Verdict, Letters_Of_A_Verdict(letters)}};
     for (const auto& [column, columns] : Widths)
         table.setColumnWidth(column, letters.averageCharWidth() * columns);
+    new Column_Widths(table); // the table owns it
+    Give_Table_Menu(table, [this] { return m_rows->Source(); }, {m_ui->Longest_Btn});
     Give_Table_Keys(table, {[&table] {
                                 const QModelIndex row = table.currentIndex();
                                 if (row.isValid() && table.hasFocus()) // and no editor in it has

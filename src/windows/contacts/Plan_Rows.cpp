@@ -87,7 +87,7 @@ QVariant Plan_Rows::data(const QModelIndex& index, int role) const
         return Plan_Words::Of_Verdict(verdict());
     if (role != Qt::DisplayRole && role != Qt::EditRole)
         return {};
-    return Cell(static_cast<Column>(index.column()), m_view->Row_At(index.row()));
+    return Cell(*m_view->plan, static_cast<Column>(index.column()), m_view->Row_At(index.row()));
 }
 
 bool Plan_Rows::setData(const QModelIndex& index, const QVariant& value, int role)
@@ -99,9 +99,15 @@ bool Plan_Rows::setData(const QModelIndex& index, const QVariant& value, int rol
     return true;
 }
 
-QString Plan_Rows::Cell(Column column, int row) const
+Row_Source Plan_Rows::Source() const
 {
-    const Job_Plan& plan = *m_view->plan;
+    return {rowCount(), columnCount(), [view = m_view](int column, int index) {
+                return Cell(*view->plan, static_cast<Column>(column), view->Row_At(index));
+            }};
+}
+
+QString Plan_Rows::Cell(const Job_Plan& plan, Column column, int row)
+{
     switch (column) {
     case Row:
         return QString::number(plan.Source_Row(row));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "list/Row_Search.h"
 #include "plan/Job_Plan.h"
 #include "toolkit/Row_Table_Model.h"
 
@@ -48,6 +49,8 @@ public:
     /// would take longer than a frame.
     void Show_More();
     void Let_Edit(bool can_edit) { m_can_edit = can_edit; }
+    /// What is shown now, for whoever copies some of it.
+    Row_Source Source() const;
 
     Qt::ItemFlags flags(const QModelIndex& index) const override;
     QVariant data(const QModelIndex& index, int role) const override;
@@ -58,7 +61,7 @@ Q_SIGNALS:
     void Number_Written(int row, const QString& number);
 
 private:
-    QString Cell(Column column, int row) const;
+    static QString Cell(const Job_Plan& plan, Column column, int row);
 
     std::shared_ptr<const Plan_View> m_view;
     int m_most_shown = 0; // of its rows

@@ -48,9 +48,26 @@ QVariant Receipt_Rows::data(const QModelIndex& index, int role) const
     return Row_Table_Model::data(index, role);
 }
 
+Row_Source Receipt_Rows::Source() const
+{
+    QStringList columns{QStringLiteral("Row"),     QStringLiteral("Number"), QStringLiteral("Message"),
+                        QStringLiteral("Outcome"), QStringLiteral("Reason"), QStringLiteral("Parts")};
+    if (m_receipt && m_receipt->Asks_For_Reports())
+        columns.append(QStringLiteral("Delivery"));
+    columns.append(QStringLiteral("Time"));
+    const auto cell = [receipt = m_receipt, rows = m_rows, columns](int column, int index) {
+        return Cell_Of(receipt->Row(rows[static_cast<std::size_t>(index)]), columns.at(column));
+    };
+    return {rowCount(), static_cast<int>(columns.size()), cell};
+}
+
 QString Receipt_Rows::Cell(const QString& column, int index) const
 {
-    const Receipt_Row& row = Row_At(index);
+    return Cell_Of(Row_At(index), column);
+}
+
+QString Receipt_Rows::Cell_Of(const Receipt_Row& row, const QString& column)
+{
     const std::pair<const char*, QString> Cells[] = {{"Number", row.number},          {"Message", row.message},
                                                      {"Outcome", row.signed_outcome}, {"Reason", row.reason},
                                                      {"Delivery", row.delivery},      {"Time", row.time}};

@@ -2,6 +2,7 @@
 
 #include "engine/Job_Receipt.h"
 #include "toolkit/Row_Table_Model.h"
+#include "toolkit/Table_Menu.h"
 
 #include <memory>
 #include <optional>
@@ -28,11 +29,15 @@ public:
     /// Without a receipt there are none.
     void Take(std::shared_ptr<const Job_Receipt> receipt, Receipt_Kind kind);
 
+    /// What is shown now, for whoever copies some of it; without deliveries where nobody asked for reports.
+    Row_Source Source() const;
+
     QVariant data(const QModelIndex& index, int role) const override;
 
 private:
     const Receipt_Row& Row_At(int index) const;
     QString Cell(const QString& column, int index) const;
+    static QString Cell_Of(const Receipt_Row& row, const QString& column);
 
     std::shared_ptr<const Job_Receipt> m_receipt;
     std::vector<int> m_rows;

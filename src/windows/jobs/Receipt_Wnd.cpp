@@ -7,10 +7,12 @@
 #include "platform/Interface_Thread.h"
 #include "records/Job_Reader.h"
 #include "records/Job_Shelf.h"
+#include "toolkit/Column_Widths.h"
 #include "toolkit/File_Panels.h"
 #include "toolkit/Key_Actions.h"
 #include "toolkit/List_Tables.h"
 #include "toolkit/PleaseWait_Modeless.h"
+#include "toolkit/Table_Menu.h"
 #include "toolkit/Window_Look.h"
 #include "ui_Receipt_Wnd.h"
 #include "windows/jobs/Kept_Receipts.h"
@@ -72,6 +74,8 @@ void Receipt_Wnd::Set_Up_Table()
     set_width(Receipt_Rows::Parts_Column, 12);
     set_width(Receipt_Rows::Delivery_Column, 20);
     set_width(Receipt_Rows::Time_Column, 24);
+    m_widths = new Column_Widths(table); // the table owns it
+    Give_Table_Menu(table, [this] { return m_rows.Source(); }, {});
     Give_Table_Keys(table, {});
 }
 
@@ -100,6 +104,8 @@ void Receipt_Wnd::Set_Up_Exports()
                 [this, format] { Export_As(format.extension, format.make, format.remark); });
     }
     m_ui->Export_Btn->setMenu(menu);
+    menu->setTitle(m_ui->Export_Btn->text());
+    m_ui->_Rows->addAction(menu->menuAction());
 }
 
 // ------------------------------------------------------------------------------------------------- what is shown
@@ -213,8 +219,8 @@ void Receipt_Wnd::Take(const Reading& reading)
     m_ui->_Facts->setText(facts.join(u' '));
     m_ui->_Sums->setText(Sums_In_Words(*m_receipt));
     m_ui->_Rows->setColumnHidden(Receipt_Rows::Delivery_Column, !m_receipt->Asks_For_Reports());
-    m_ui->_Filter->setEnabled(true);
-    m_ui->Export_Btn->setEnabled(true);
+    m_widths->Columns_Changed();
+    Let_Use(true);
     Say({});
     Show_Filter();
     Show_Rows();
@@ -227,14 +233,20 @@ void Receipt_Wnd::Show_Empty(const QString& notice)
     m_receipt.reset();
     m_ui->_Facts->clear();
     m_ui->_Sums->clear();
-    m_ui->_Filter->setEnabled(false);
-    m_ui->Export_Btn->setEnabled(false);
+    Let_Use(false);
     {
         const QSignalBlocker muted(m_ui->_Filter);
         m_ui->_Filter->clear();
     }
     Say(notice);
     Show_Rows();
+}
+
+void Receipt_Wnd::Let_Use(bool is_there)
+{
+    m_ui->_Filter->setEnabled(is_there);
+    m_ui->Export_Btn->setEnabled(is_there);
+    m_ui->Export_Btn->menu()->menuAction()->setEnabled(is_there);
 }
 
 // The kinds with their sums; the chosen one stays chosen.

@@ -10,6 +10,7 @@
 #include <functional>
 #include <memory>
 
+class Column_Widths;
 class Kept_Receipts;
 class PleaseWait_Modeless;
 
@@ -60,6 +61,7 @@ private:
 
     void Take(const Reading& reading);
     void Show_Empty(const QString& notice);
+    void Let_Use(bool is_there);
     void Show_Filter();
     void Show_Rows();
     Receipt_Kind Chosen_Kind() const;
@@ -71,6 +73,7 @@ private:
     QString m_folder;
     Made_Receipt m_receipt;
     Receipt_Rows m_rows;
+    Column_Widths* m_widths = nullptr; // the table's own
     std::unique_ptr<PleaseWait_Modeless> plz_wait_Window;
     int m_turn = 0;      // what an earlier reading brings is too late
     int m_list_turn = 0; // and so is an earlier list of jobs

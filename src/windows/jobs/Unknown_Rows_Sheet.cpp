@@ -3,6 +3,7 @@
 #include "platform/Interface_Thread.h"
 #include "records/Job_Journal.h"
 #include "texts/Receipt_Texts.h"
+#include "toolkit/Column_Widths.h"
 #include "toolkit/Key_Actions.h"
 #include "toolkit/List_Tables.h"
 #include "toolkit/PleaseWait_Modeless.h"
@@ -67,6 +68,7 @@ void Unknown_Rows_Sheet::Set_Up_Table()
         table.horizontalHeader()->setSectionResizeMode(column, QHeaderView::Stretch);
     table.setColumnWidth(3, letter * 23);
     table.setColumnWidth(4, letter * 19);
+    new Column_Widths(table); // the table owns it
     Give_Table_Keys(table, {});
     m_table_model->Reload();
     if (!m_rows.empty())

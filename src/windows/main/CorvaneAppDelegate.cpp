@@ -8,6 +8,7 @@
 #include "records/Data_Paths.h"
 #include "records/Template_Store.h"
 #include "texts/Texts.h"
+#include "toolkit/Column_Widths.h"
 #include "toolkit/Heading_Font.h"
 #include "toolkit/Key_Actions.h"
 #include "toolkit/Line_Edit_Limit.h"
@@ -53,6 +54,7 @@ CorvaneAppDelegate* The_Delegate = nullptr;
 
 constexpr int Normal_Message_Index = 1;
 constexpr int Send_Button_Letters = 22;
+constexpr int Digits_In_Sight = 15; // most numbers have no more
 
 } // namespace
 
@@ -95,6 +97,7 @@ bool CorvaneAppDelegate::awakeFromNib()
     const QFontMetrics letters = fontMetrics();
     m_ui->_sent_btn->setMinimumSize(letters.averageCharWidth() * Send_Button_Letters,
                                     m_ui->_sent_btn->sizeHint().height() + letters.descent());
+    Keep_Room_For(*m_ui->_numberEdit, QString(Digits_In_Sight, u'0'));
     // A device's name may be long: it is cut off rather than widening the window.
     m_ui->_Device_Name_Ticker->ensurePolished();
     m_ui->_Device_Name_Ticker->setMinimumWidth(m_ui->_Device_Name_Ticker->sizeHint().width());
@@ -210,6 +213,7 @@ void CorvaneAppDelegate::Give_Tables_Their_Models()
         new Row_Table_Model(Columns{{QStringLiteral("Number"), tr("Excluded number")}},
                             rows_of(m_ui->idExclusionTableView), cells_of(m_ui->idExclusionTableView), this);
     Prepare_List_Table(*m_ui->idTableView, *m_recipient_rows);
+    m_recipient_widths = new Column_Widths(*m_ui->idTableView); // the table owns it
     connect(m_ui->idTableView->selectionModel(), &QItemSelectionModel::selectionChanged, m_ui->_Bubble,
             &Handset_Bubble::Look_Again);
     Prepare_List_Table(*m_ui->idExclusionTableView, *m_exclusion_rows);

@@ -12,6 +12,7 @@
 
 class Appearance_Menu;
 class Awaited_Reports;
+class Column_Widths;
 class Composer;
 class Confirm_Boxes;
 class Contact_Desk;
@@ -209,6 +210,7 @@ private:
     bool m_is_alphabet_refused = false; // rather than that a message shows at once
     bool m_has_not_taken = false;       // whether there is a recipient with marks whose message was not taken
     Recipient_Rows* m_recipient_rows = nullptr;
+    Column_Widths* m_recipient_widths = nullptr; // the table's own
     Row_Table_Model* m_exclusion_rows = nullptr;
     std::unique_ptr<Row_Finder> m_finder;
     std::unique_ptr<Composer> m_composer;

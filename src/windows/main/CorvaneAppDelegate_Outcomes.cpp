@@ -1,4 +1,5 @@
 #include "engine/Outcome_Words.h"
+#include "toolkit/Column_Widths.h"
 #include "toolkit/Row_Finder.h"
 #include "ui_CorvaneAppDelegate.h"
 #include "windows/main/Contact_Desk.h"
@@ -128,10 +129,13 @@ void CorvaneAppDelegate::Show_Outcome_Column(bool shown)
     m_recipient_rows->Show_Outcomes(shown);
     headings.setSectionResizeMode(Message_Column, shown ? QHeaderView::Stretch : QHeaderView::Interactive);
     headings.setStretchLastSection(!shown);
-    if (!shown)
+    if (!shown) {
+        m_recipient_widths->Columns_Changed();
         return;
+    }
     const int column = m_recipient_rows->Outcome_Column();
     headings.resizeSection(column, Width_For_Outcomes(*m_ui->idTableView, column));
+    m_recipient_widths->Columns_Changed();
     selection.select(selected, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 

@@ -3,14 +3,14 @@
 #include "records/Export_Format.h"
 #include "records/Sent_Item_Format.h"
 #include "texts/Texts.h"
-#include "toolkit/Button_Action.h"
-#include "toolkit/Copy_Action.h"
+#include "toolkit/Column_Widths.h"
 #include "toolkit/Empty_List_Hint.h"
 #include "toolkit/Key_Actions.h"
 #include "toolkit/Main_Window.h"
 #include "toolkit/Row_Finder.h"
 #include "toolkit/Row_Table_Model.h"
 #include "toolkit/Shared_Instance.h"
+#include "toolkit/Table_Menu.h"
 #include "toolkit/Window_Look.h"
 #include "ui_Sent_Items.h"
 #include "windows/stores/Store_Globals.h"
@@ -117,6 +117,7 @@ void Sent_Items::Set_Up_Table()
     header->setSectionResizeMode(1, QHeaderView::Stretch); // the message takes the room that is left
     m_ui->idSendList->setColumnWidth(2, letter * 14);
     m_ui->idSendList->setColumnWidth(3, letter * 14);
+    new Column_Widths(*m_ui->idSendList); // the table owns it
     m_ui->idSendList->verticalScrollBar()->setObjectName(QStringLiteral("idSendListsclview"));
     connect(&Hint(), &Empty_List_Hint::Step_Wanted, this, [this] {
         Q_EMIT Saving_Wanted();
@@ -148,9 +149,8 @@ void Sent_Items::Make_Finder()
     };
     QTableView& table = *m_ui->idSendList;
     m_finder = std::make_unique<Row_Finder>(table, Rows(), *m_ui->_Find_Strip, take_source);
-    table.setContextMenuPolicy(Qt::ActionsContextMenu);
-    table.addActions({new Copy_Action(table, take_source), new Button_Action(*m_ui->Clear_Sel_Btn),
-                      &m_finder->Find_Action(), m_finder->Orders().menuAction()});
+    Give_Table_Menu(table, take_source, {m_ui->Clear_Sel_Btn, m_ui->Clear_All_Btn, m_ui->Export_Btn});
+    table.addActions({&m_finder->Find_Action(), m_finder->Orders().menuAction()});
 }
 
 void Sent_Items::List_Will_Load()

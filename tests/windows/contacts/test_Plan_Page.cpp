@@ -1,5 +1,6 @@
 #include "list/Country_Codes.h"
 #include "support/Seen_Colours.h"
+#include "support/Table_Menus.h"
 #include "toolkit/Look.h"
 #include "windows/contacts/Contacts_Test.h"
 
@@ -370,4 +371,27 @@ TEST_F(Plan_Page_Test, Rows_Of_A_Saved_List_That_Somebody_Spoilt_Are_Shown_And_L
     Press("Add_To_List");
     EXPECT_EQ(Listed(), QStringList("00447700900100 Hi Ann"));
     EXPECT_EQ(m_added, std::make_pair(1, 3));
+}
+
+TEST_F(Plan_Page_Test, Its_Rows_Can_Be_Copied_As_They_Are_Shown_And_The_Longest_Be_Gone_To_From_Their_Menu)
+{
+    Look_At(People, "Dear {{Name}}");
+    Rows().clearSelection();
+    EXPECT_EQ(Menu_Of(Rows(), Opened_By::Mouse, "Copy"), QStringList({"Copy", "Longest"}));
+    EXPECT_EQ(Copied(), Row(Rows(), 0).replace(u'|', u'\t') + u'\n');
+    Choose("_Filter", "Rows left out");
+    Rows().selectAll();
+    Menu_Of(Rows(), Opened_By::Key, "Copy");
+    QString expected;
+    for (const QString& row : All(Rows()))
+        expected += QString(row).replace(u'|', u'\t') + u'\n';
+    EXPECT_GT(All(Rows()).size(), 0);
+    EXPECT_EQ(Copied(), expected);
+    Menu_Of(Rows(), Opened_By::Key, "Longest");
+    Await();
+    const auto gone_to = Rows_Selected_In(Rows());
+    EXPECT_EQ(gone_to.size(), 1U);
+    Rows().clearSelection();
+    Press("Longest_Btn");
+    EXPECT_EQ(Rows_Selected_In(Rows()), gone_to);
 }

@@ -1,6 +1,7 @@
 #include "windows/jobs/Jobs_Test.h"
 
 #include "support/Seen_Colours.h"
+#include "support/Table_Menus.h"
 #include "toolkit/Look.h"
 #include "toolkit/Outcome_Colours.h"
 
@@ -309,4 +310,34 @@ TEST_F(Receipt_Wnd_Test, An_Export_That_Fails_Is_Told_In_The_Window)
     In<QAction>(m_window, "Export_Text").trigger();
     EXPECT_EQ(Notice(), "The file " + m_home.filePath("gone/receipt.txt") + " could not be written.");
     EXPECT_TRUE(m_user.Was_Shown().isEmpty());
+}
+
+TEST_F(Receipt_Wnd_Test, Its_Rows_Can_Be_Copied_And_Exported_From_Their_Menu)
+{
+    Make({{Row_To("0041", "Hello"), "S"}, {Row_To("0042"), "E"}});
+    Show_The_Job();
+    EXPECT_EQ(Menu_Of(Table(), Opened_By::Mouse, "Copy"), QStringList({"Copy", "Export"}));
+    const QStringList copied = Copied().split(u'\t');
+    QStringList shown = Cells(Table(), 0);
+    shown.last().append(u'\n');
+    EXPECT_EQ(copied, shown);
+    Table().clearSelection();
+    Filter().setCurrentIndex(Filter().findText("Refused", Qt::MatchStartsWith));
+    ASSERT_EQ(Row_Count(), 1);
+    Table().selectAll();
+    Menu_Of(Table(), Opened_By::Key, "Copy");
+    EXPECT_TRUE(Copied().contains("\t0042\t") && Copied().count(u'\n') == 1) << Copied().toStdString();
+}
+
+TEST_F(Receipt_Wnd_Test, Without_Reports_None_Are_Copied_And_Without_A_Receipt_Nothing_Is_Exported)
+{
+    Show_Kept();
+    EXPECT_EQ(Menu_Of(Table(), Opened_By::Key), QStringList({"Copy", "[Export]"}));
+    Make({{Row_To("0041", "Hello"), "S"}}, false);
+    Show_The_Job();
+    ASSERT_TRUE(Table().isColumnHidden(6));
+    Menu_Of(Table(), Opened_By::Mouse, "Copy");
+    QStringList shown = Cells(Table(), 0);
+    shown.removeAt(6);
+    EXPECT_EQ(Copied(), shown.join(u'\t') + u'\n');
 }
