@@ -131,12 +131,12 @@ TEST_F(German_Program, Gives_What_Follows_A_Number_The_Form_That_Goes_With_It)
         The<QComboBox>("_delayed_msg_count_combo").setEditText(count);
         return The<QLabel>("delay_caption").text();
     };
-    Click("_Delayed_Delivry_Chk");
+    The<QCheckBox>("_Delayed_Delivry_Chk").click();
     EXPECT_EQ(follows("1"), "Nachricht für");
     EXPECT_EQ(follows("2"), "Nachrichten für");
     EXPECT_EQ(follows("15"), "Nachrichten für");
     EXPECT_EQ(follows(""), "Nachrichten für");
-    Click("_Delayed_Delivry_Chk");
+    The<QCheckBox>("_Delayed_Delivry_Chk").click();
     EXPECT_EQ(The<QLabel>("delay_caption").text(), "Nachrichten für");
 }
 
