@@ -15,7 +15,10 @@ public:
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State /*state*/) override
     {
-        const QColor& colour = mode == QIcon::Disabled ? Tokens_Now().edge : Tokens_Now().*m_colour;
+        const Look_Tokens& tokens = Tokens_Now();
+        const QColor& colour = mode == QIcon::Disabled   ? tokens.edge
+                               : mode == QIcon::Selected ? tokens.on_accent
+                                                         : tokens.*m_colour;
         Paint_Line_Icon(*painter, rect, QString::fromLatin1(m_name), colour);
     }
 

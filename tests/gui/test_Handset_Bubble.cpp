@@ -249,3 +249,20 @@ TEST_F(Handset_Bubble_Test, Fills_In_The_Fields_Of_The_Recipient_Selected)
     EXPECT_EQ(Shown_Text(), QString());
     EXPECT_EQ(Text(), "Dear {{Name}},");
 }
+
+TEST(Hidden_Handset_Bubble, Asks_For_No_More_Height_Than_It_Takes_Once_It_Is_Shown)
+{
+    Apply_Application_Look(*qApp);
+    QWidget window;
+    auto* column = new QVBoxLayout(&window);
+    auto* bubble = new Handset_Bubble;
+    column->addWidget(bubble);
+    column->addStretch();
+    bubble->Show_Message(QStringLiteral("Grüße – “10 €” für ő, Привет"), {});
+    const int asked = bubble->sizeHint().expandedTo(bubble->minimumSize()).height();
+    window.resize(600, 500);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    QTest::qWait(20);
+    EXPECT_LE(asked, bubble->height() + window.fontMetrics().lineSpacing());
+}

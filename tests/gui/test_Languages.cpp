@@ -3,6 +3,7 @@
 #include "support/In_Language.h"
 #include "texts/Texts.h"
 #include "toolkit/Message_Boxes.h"
+#include "windows/contacts/Plan_Words.h"
 #include "windows/list/Bubble_Words.h"
 
 #include <QMenu>
@@ -79,6 +80,26 @@ TEST(Languages, A_Pause_Means_The_Same_In_Each)
     EXPECT_EQ(seconds_of({}), 0);
 }
 
+// The same words stand behind each number, and alone in the column of verdicts.
+TEST(Languages, What_Is_Left_Out_Is_Said_In_Words_For_Any_Number)
+{
+    const auto sums_of = [](int rows) {
+        Plan_Sums sums;
+        sums.recipients = rows;
+        sums.by_verdict.at(static_cast<std::size_t>(Row_Verdict::Invalid_Number)) = rows;
+        return Plan_Words::Sums(sums, 0, {});
+    };
+    EXPECT_EQ(sums_of(2), "0 messages to be sent. 2 left out: 2 no usable number.");
+    const std::pair<const char*, const char*> languages[] = {{"de", "ohne brauchbare Nummer"},
+                                                             {"pl", "bez poprawnego numeru"}};
+    for (const auto& [letters, words] : languages) {
+        const In_Language reading(QLatin1String{letters});
+        for (const int rows : {1, 2, 5})
+            EXPECT_THAT(sums_of(rows).toStdString(),
+                        testing::EndsWith(": " + std::to_string(rows) + ' ' + words + '.'));
+    }
+}
+
 class German_Program : private In_Language, public Open_Program
 {
 protected:
@@ -102,6 +123,21 @@ TEST_F(German_Program, Speaks_German)
         "Ja");
     Click("Clear_All_Btn");
     EXPECT_TRUE(Numbers().isEmpty());
+}
+
+TEST_F(German_Program, Gives_What_Follows_A_Number_The_Form_That_Goes_With_It)
+{
+    const auto follows = [this](const QString& count) {
+        The<QComboBox>("_delayed_msg_count_combo").setEditText(count);
+        return The<QLabel>("delay_caption").text();
+    };
+    The<QCheckBox>("_Delayed_Delivry_Chk").click();
+    EXPECT_EQ(follows("1"), "Nachricht für");
+    EXPECT_EQ(follows("2"), "Nachrichten für");
+    EXPECT_EQ(follows("15"), "Nachrichten für");
+    EXPECT_EQ(follows(""), "Nachrichten für");
+    The<QCheckBox>("_Delayed_Delivry_Chk").click();
+    EXPECT_EQ(The<QLabel>("delay_caption").text(), "Nachrichten für");
 }
 
 TEST_F(German_Program, Counts_Long_Messages_And_Tells_Of_Them_Once)

@@ -176,6 +176,12 @@ TEST_F(Program_Style_Test, The_Panel_For_Files_Is_Drawn_Like_The_Rest)
             icons += tool->icon().isNull() ? 0 : 1;
         }
         EXPECT_GE(icons, 5);
+        const QImage chosen =
+            panel->style()->standardIcon(QStyle::SP_FileIcon).pixmap(64, 64, QIcon::Selected).toImage();
+        bool stands_out = false;
+        for (int x = 0; x < chosen.width(); ++x)
+            stands_out = stands_out || chosen.pixelColor(x, chosen.height() / 2) == Tokens_Now().on_accent;
+        EXPECT_TRUE(stands_out) << "on the ground of a chosen file";
         panel->reject();
     });
     EXPECT_EQ(Ask_For_File_To_Open(nullptr), std::nullopt);

@@ -98,7 +98,7 @@ void Plan_Page::Set_Up_Table()
         header.setSectionResizeMode(column, QHeaderView::Stretch);
     const QFontMetrics letters = table.fontMetrics();
     const std::pair<Plan_Rows::Column, int> Widths[] = {{Plan_Rows::Row, 8},
-                                                        {Plan_Rows::Written, 21},
+                                                        {Plan_Rows::Written, 24},
                                                         {Plan_Rows::Number, 18},
                                                         {Plan_Rows::Parts, 8},
                                                         {Plan_Rows::Verdict, Letters_Of_A_Verdict(letters)}};

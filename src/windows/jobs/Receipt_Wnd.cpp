@@ -71,7 +71,7 @@ void Receipt_Wnd::Set_Up_Table()
     set_width(0, 8);
     set_width(Receipt_Rows::Number_Column, 20);
     table.setColumnWidth(Receipt_Rows::Outcome_Column, outcome_width + letters.averageCharWidth() * 3);
-    set_width(Receipt_Rows::Parts_Column, 12);
+    set_width(Receipt_Rows::Parts_Column, 13);
     set_width(Receipt_Rows::Delivery_Column, 20);
     set_width(Receipt_Rows::Time_Column, 24);
     m_widths = new Column_Widths(table); // the table owns it

@@ -11,7 +11,7 @@
 
 #include <QSignalBlocker>
 
-Update_Num_SMS::Update_Num_SMS(QWidget* parent) : Form_Dialog(parent, Letters{.columns = 66, .lines = 28})
+Update_Num_SMS::Update_Num_SMS(QWidget* parent) : Form_Dialog(parent, Letters{.columns = 66, .lines = 32})
 {
     m_message = std::make_unique<Counted_Message>(*m_ui->m_msg_str, *m_ui->m_st_msg_cnt);
     m_ui->_Bubble->Follow(*m_ui->m_msg_str, *m_ui->_Part_Count, [this] { return Terms_Of_Message(); });
