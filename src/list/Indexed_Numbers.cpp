@@ -28,7 +28,7 @@ void Indexed_Numbers::Replace(int index, const QString& number)
     const Packed_Number packed = m_texts.Pack(number);
     if (present == packed)
         return;
-    Make_Room(1);
+    Make_Room_In_Index(1);
     Remove_From_Index(index);
     present = packed;
     Add_To_Index(index);
@@ -80,6 +80,12 @@ std::size_t Indexed_Numbers::Slot_Of(const Packed_Number& number, std::uint32_t 
 }
 
 void Indexed_Numbers::Make_Room(std::size_t more)
+{
+    Make_Room_In(m_numbers, more);
+    Make_Room_In_Index(more);
+}
+
+void Indexed_Numbers::Make_Room_In_Index(std::size_t more)
 {
     constexpr std::size_t Fewest_Slots = 64;
     const std::size_t fewest = (m_used_slots + more) * 3 / 2 + 1;
@@ -191,7 +197,7 @@ void Indexed_Numbers::Rebuild_Index()
     for (int first = 0; first < Count(); first += Rows_At_A_Time) {
         const int end = std::min(Count(), first + Rows_At_A_Time);
         numbers.assign(m_numbers.begin() + first, m_numbers.begin() + end);
-        Make_Room(numbers.size());
+        Make_Room_In_Index(numbers.size());
         Add_To_Index(first, numbers);
     }
 }

@@ -3,7 +3,6 @@
 #include "list/Packed_Number.h"
 
 #include <QHashFunctions>
-#include <deque>
 #include <span>
 #include <vector>
 
@@ -23,7 +22,7 @@ public:
     /// The number at an index from 0 to Count() - 1.
     QString At(int index) const { return m_texts.Text_Of(m_numbers.at(static_cast<std::size_t>(index))); }
 
-    /// Makes room in the index for so many more, so that it need not grow step by step.
+    /// Makes room for so many more, so that it need not be made step by step.
     void Expect(std::size_t more) { Make_Room(more); }
     /// Appends a number, even one already present; all of it, or nothing when memory runs out.
     void Append(const QString& number) { Append(m_texts.Pack(number)); }
@@ -61,6 +60,7 @@ private:
     std::size_t Home_Of(std::uint32_t hash) const { return hash & (m_slots.size() - 1); }
     std::size_t Next(std::size_t slot) const { return (slot + 1) & (m_slots.size() - 1); }
     void Make_Room(std::size_t more);
+    void Make_Room_In_Index(std::size_t more);
     void Count_In(Slot& slot, int row, std::uint32_t hash);
     void Add_To_Index(int row);
     void Add_To_Index(int first, std::span<const Packed_Number> numbers);
@@ -69,7 +69,7 @@ private:
     void Grow_Index(std::size_t count);
     void Rebuild_Index();
 
-    std::deque<Packed_Number> m_numbers;
+    std::vector<Packed_Number> m_numbers;
     Number_Texts m_texts;
     std::vector<Slot> m_slots;
     std::size_t m_used_slots = 0;

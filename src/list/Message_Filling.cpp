@@ -6,6 +6,8 @@
 
 #include <algorithm>
 #include <bit>
+#include <cstdint>
+#include <cstring>
 #ifdef __SSE2__
 #include <emmintrin.h>
 #endif
@@ -15,6 +17,8 @@ namespace {
 constexpr QLatin1String Opening("{{");
 constexpr QLatin1String Closing("}}");
 constexpr qsizetype Mark = 2; // characters of either
+
+constexpr qsizetype Spare = 8; // characters that may be written after a text, and then written over
 
 constexpr qsizetype Longest_Named = 40; // of a placeholder in a sentence, in characters
 
@@ -49,26 +53,49 @@ bool Continues(char byte)
     return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
 }
 
-// Puts the characters of one byte that come next, eight at a time as long as there are as many bytes.
+#ifdef __SSE2__
+// One to seven bytes, with zeros after them, in two reads that may overlap.
+__m128i Few_Bytes(const char* bytes, qsizetype count)
+{
+    const auto ends_as = [&]<typename Part>(Part first) {
+        Part last{};
+        std::memcpy(&first, bytes, sizeof(Part));
+        std::memcpy(&last, bytes + count - sizeof(Part), sizeof(Part));
+        return first | std::uint64_t{last} << 8 * (count - static_cast<qsizetype>(sizeof(Part)));
+    };
+    std::uint64_t few = static_cast<unsigned char>(*bytes);
+    if (count >= 4)
+        few = ends_as(std::uint32_t{});
+    else if (count >= 2)
+        few = ends_as(std::uint16_t{});
+    return _mm_loadl_epi64(reinterpret_cast<const __m128i*>(&few));
+}
+#endif
+
+// Puts the characters of one byte that come next, eight at a time; what is put after the last is written over later.
 void Put_Plain(QByteArrayView utf8, qsizetype& at, QChar*& to)
 {
 #ifdef __SSE2__
-    while (utf8.size() - at >= 8) {
-        const __m128i bytes = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(utf8.data() + at));
+    while (at < utf8.size()) {
+        const qsizetype left = utf8.size() - at;
+        const __m128i bytes = left >= 8 ? _mm_loadl_epi64(reinterpret_cast<const __m128i*>(utf8.data() + at))
+                                        : Few_Bytes(utf8.data() + at, left);
         _mm_storeu_si128(reinterpret_cast<__m128i*>(to), _mm_unpacklo_epi8(bytes, _mm_setzero_si128()));
-        const int plain = std::countr_zero(static_cast<unsigned>(_mm_movemask_epi8(bytes)) | 0x100);
-        at += plain;
-        to += plain;
+        const qsizetype plain = std::countr_zero(static_cast<unsigned>(_mm_movemask_epi8(bytes)) | 0x100);
+        const qsizetype put = std::min(plain, left);
+        at += put;
+        to += put;
         if (plain < 8)
             return;
     }
-#endif
+#else
     for (; at < utf8.size() && static_cast<unsigned char>(utf8[at]) < 0x80; ++at)
         *to++ = QLatin1Char(utf8[at]);
+#endif
 }
 
 // Characters of one and two bytes, which most names consist of, are no matter for a decoder. There must be room for as
-// many characters as bytes.
+// many characters as bytes, and for Spare more.
 QChar* Put(QByteArrayView utf8, QChar* to)
 {
     QChar* end = to;
@@ -111,7 +138,7 @@ public:
     }
     void Add(QByteArrayView utf8)
     {
-        Make_Room(utf8.size()); // no text has more units in UTF-16 than bytes in UTF-8
+        Make_Room(utf8.size() + Spare); // no text has more units in UTF-16 than bytes in UTF-8
         m_at = Put(utf8, m_at);
     }
     void Add(QStringView text)
@@ -200,11 +227,20 @@ void Message_Filling::Add_Placeholder(QStringView written, const Contact_Table& 
                         has_fallback ? inside.mid(bar + 1).toString() : QString()});
 }
 
+namespace {
+
+QByteArrayView Value_For(const Piece& piece, const Contact_Table& table, int row)
+{
+    return piece.column < 0 || row < 0 ? QByteArrayView() : table.Bytes_At(row, piece.column);
+}
+
+} // namespace
+
 Message_Filling::Given Message_Filling::Given_By(const Piece& piece, const Contact_Table& table, int row)
 {
     if (!piece.is_placeholder)
         return {};
-    const QByteArrayView value = piece.column < 0 || row < 0 ? QByteArrayView() : table.Bytes_At(row, piece.column);
+    const QByteArrayView value = Value_For(piece, table, row);
     if (!Is_Blank(value))
         return {Becomes::Value, value};
     if (piece.has_fallback)
@@ -233,13 +269,13 @@ void Message_Filling::Fill(Filled_Message& filled, const Contact_Table& table, i
             text.Add(QStringView(piece.text));
             continue;
         }
-        const Given given = Given_By(piece, table, row);
-        if (given.what == Becomes::Value) {
-            text.Add(given.value);
-        } else {
-            text.Add(Text_Of(piece, given));
-            Note_Fault(filled, piece, given.what);
+        if (const QByteArrayView value = Value_For(piece, table, row); !Is_Blank(value)) {
+            text.Add(value);
+            continue;
         }
+        const Given given = Given_By(piece, table, row);
+        text.Add(Text_Of(piece, given));
+        Note_Fault(filled, piece, given.what);
     }
     text.Finish();
 }

@@ -1,6 +1,7 @@
 #include "list/Recipient_Fields.h"
 
 #include "list/Indexed_Numbers.h"
+#include "platform/Large_Pages.h"
 
 #include <QHash>
 #include <algorithm>
@@ -22,11 +23,18 @@ std::shared_ptr<const Contact_Table> Recipient_Fields::Table_At(int index) const
                : nullptr;
 }
 
+void Recipient_Fields::Expect(std::size_t count)
+{
+    Make_Room_In(m_entries, count);
+}
+
 void Recipient_Fields::Set(int index, const std::shared_ptr<const Contact_Table>& table, std::span<const int> rows)
 {
     const int source = Source_Of(table);
     const auto place = static_cast<std::size_t>(index);
-    m_entries.resize(std::max(m_entries.size(), place + rows.size()));
+    const std::size_t end = std::max(m_entries.size(), place + rows.size());
+    Make_Room_In(m_entries, end - m_entries.size());
+    m_entries.resize(end);
     std::transform(rows.begin(), rows.end(), m_entries.begin() + index, [&](int row) { return Entry{source, row}; });
 }
 

@@ -3,7 +3,6 @@
 #include "list/Contact_Table.h"
 
 #include <QSharedData>
-#include <deque>
 #include <memory>
 #include <span>
 #include <vector>
@@ -23,6 +22,8 @@ public:
     Place At(int index) const;
     /// The table itself, to be kept; null for none.
     std::shared_ptr<const Contact_Table> Table_At(int index) const;
+    /// Makes room for so many recipients, so that it need not be made step by step.
+    void Expect(std::size_t count);
     /// The recipients from an index on came from the rows of a table. All of it, or nothing when memory runs out.
     void Set(int index, const std::shared_ptr<const Contact_Table>& table, std::span<const int> rows);
     /// The recipients from an index on have no fields.
@@ -52,7 +53,7 @@ private:
     Source Named(const std::shared_ptr<const Contact_Table>& table);
     void Name_Anew();
 
-    std::deque<Entry> m_entries;
+    std::vector<Entry> m_entries;
     std::vector<Source> m_sources;
     QStringList m_names;
     std::vector<QString> m_keys; // of the names, as they are compared

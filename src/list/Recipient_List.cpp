@@ -11,6 +11,12 @@ QString Recipient::Value(QStringView identifier) const
 
 Recipient_List::Recipient_List() : m_messages(new Messages) {}
 
+void Recipient_List::Expect(int more)
+{
+    m_messages->list.Expect(static_cast<std::size_t>(more));
+    m_numbers.Expect(static_cast<std::size_t>(more));
+}
+
 void Recipient_List::Append(const QString& number, const QString& message)
 {
     Append_Numbers(number, 1, message);
@@ -24,12 +30,11 @@ void Recipient_List::Append(const Packed_Number& number, const QString& message)
 template <typename Given>
 void Recipient_List::Append_Numbers(const Given& numbers, std::size_t count, const QString& message)
 {
-    auto& texts = m_messages->texts;
-    texts.insert(texts.end(), count, message);
+    m_messages->list.Append(message, count);
     try {
         m_numbers.Append(numbers);
     } catch (...) { // out of memory: neither may stay without the other
-        texts.resize(texts.size() - count);
+        m_messages->list.Remove_Last(count);
         throw;
     }
 }
@@ -55,8 +60,10 @@ void Recipient_List::Append_Rows(const Given& numbers, const QString& message,
 {
     const bool has_fields = Has_Fields();
     try {
-        if (!has_fields)
+        if (!has_fields) {
             m_fields = new Recipient_Fields;
+            m_fields->Expect(std::as_const(*m_messages).list.Room()); // as many as of the rest
+        }
         m_fields->Set(Count(), table, table_rows);
         Append_Numbers(numbers, table_rows.size(), message);
     } catch (...) { // out of memory: nobody's fields may wait for the next recipient
@@ -78,19 +85,18 @@ void Recipient_List::Replace(int index, const QString& number, const QString& me
     if (m_marks && (Message_At(index) != message || m_numbers.At(index) != number))
         Forget_Mark(index);
     m_numbers.Replace(index, number);
-    m_messages->texts.at(static_cast<std::size_t>(index)) = message;
+    m_messages->list.Replace(index, message);
 }
 
 void Recipient_List::Set_Messages(const std::vector<int>& rows, const QString& message)
 {
     if (rows.empty())
         return;
-    auto& texts = m_messages->texts;
+    Message_List& messages = m_messages->list;
     for (const int row : rows) {
-        QString& text = texts.at(static_cast<std::size_t>(row));
-        if (m_marks && text != message)
+        if (m_marks && messages.At(row) != message)
             Forget_Mark(row);
-        text = message;
+        messages.Replace(row, message);
     }
 }
 
@@ -99,7 +105,7 @@ void Recipient_List::Remove_Rows(const std::vector<int>& rows)
     if (rows.empty())
         return;
     m_numbers.Remove_Rows(rows);
-    Remove_Rows_From(m_messages->texts, rows);
+    m_messages->list.Remove_Rows(rows);
     if (m_marks)
         Remove_Rows_From(*m_marks, rows);
     if (m_fields && !m_fields->Remove_Rows(rows))

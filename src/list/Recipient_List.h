@@ -1,12 +1,12 @@
 #pragma once
 
 #include "list/Message_Filling.h"
+#include "list/Message_List.h"
 #include "list/Number_List.h"
 #include "list/Recipient_Fields.h"
 
 #include <QByteArray>
 #include <QString>
-#include <deque>
 #include <optional>
 #include <span>
 #include <vector>
@@ -36,7 +36,7 @@ public:
     /// The recipient at an index from 0 to Count() - 1.
     Recipient At(int index) const { return {m_numbers.At(index), Message_At(index)}; }
     /// Only the message of the recipient at an index from 0 to Count() - 1.
-    const QString& Message_At(int index) const { return m_messages->texts.at(static_cast<std::size_t>(index)); }
+    const QString& Message_At(int index) const { return m_messages->list.At(index); }
     void Append(const QString& number, const QString& message);
     /// The same for a number that consists of digits alone.
     void Append(const Packed_Number& number, const QString& message);
@@ -50,7 +50,7 @@ public:
     void Append_From_Table(std::span<const Packed_Number> numbers, const QString& message,
                            const std::shared_ptr<const Contact_Table>& table, std::span<const int> table_rows);
     /// Makes room for so many more, where it is known how many will come; sooner for too many than step by step.
-    void Expect(int more) { m_numbers.Expect(static_cast<std::size_t>(more)); }
+    void Expect(int more);
     /// Replaces the recipient at an index from 0 to Count() - 1.
     void Replace(int index, const QString& number, const QString& message);
     /// Gives the recipients at the indexes, each from 0 to Count() - 1, the same message; each keeps its number.
@@ -98,7 +98,7 @@ public:
 private:
     struct Messages : QSharedData
     {
-        std::deque<QString> texts;
+        Message_List list;
     };
 
     template <typename Given>

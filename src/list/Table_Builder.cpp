@@ -79,7 +79,7 @@ bool Table_Builder::End_Row(int source_row, bool has_stray_quote)
         m_trouble = QString(Texts::Table::Too_Many_Columns).arg(source_row).arg(Most_Columns);
         return false;
     }
-    if (m_blank_rows == Blank_Rows::Left_Out && Is_Blank()) {
+    if (m_blank_rows == Blank_Rows::Left_Out && !Begins_With_Text() && Is_Blank()) {
         Forget_Row();
         return true;
     }
@@ -128,6 +128,15 @@ void Table_Builder::Make_Room_By_Sample()
     };
     make_room(m_table.m_places);
     make_room(m_table.m_rows);
+}
+
+// As nearly every row does, which is soon seen.
+bool Table_Builder::Begins_With_Text() const
+{
+    if (Fields_In_Row() == 0)
+        return false;
+    const QByteArrayView first = Field_In_Row(0);
+    return !first.isEmpty() && !Is_Blank_Byte(first.front());
 }
 
 bool Table_Builder::Is_Blank() const

@@ -77,6 +77,7 @@ public:
 
 private:
     QByteArrayView Field_In_Row(int column) const;
+    bool Begins_With_Text() const;
     bool Is_Blank() const;
     void Make_Room(qsizetype bytes);
     void Make_Room_By_Sample();
