@@ -104,9 +104,12 @@ void Doctor_Wnd::Copy_Report()
     m_ui->_Progress_Text->setText(tr("The report is copied. It holds no numbers and no texts of messages."));
 }
 
+// The start waits, and what assistive tools press is served meanwhile.
 void Doctor_Wnd::Try_Virtual_Phone()
 {
+    m_ui->Try_Virtual_Phone->setEnabled(false);
     const QString error = Virtual_Phone_Offer::Start();
+    m_ui->Try_Virtual_Phone->setEnabled(true);
     if (error.isEmpty())
         done(Virtual_Phone_Is_There);
     else

@@ -3,10 +3,8 @@
 #include "windows/jobs/Unfinished_Strip.h"
 #include "windows/main/Confirmed_Sending_Test.h"
 
+#include <QProcess>
 #include <csignal>
-#include <cstdlib>
-#include <sys/wait.h>
-#include <unistd.h>
 
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -30,32 +28,13 @@ protected:
     /// A job of these numbers, of which the first was sent when its program was killed, in its second message if so.
     static QString Make_Job(const QString& id, const QStringList& numbers, bool is_in_doubt = false)
     {
-        const pid_t child = fork();
-        if (child == 0) {
-            Begin_Job(id, numbers, is_in_doubt);
-            std::_Exit(1); // it has not come so far
-        }
-        int status = 0;
-        EXPECT_EQ(waitpid(child, &status, 0), child);
-        EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL);
+        QProcess program;
+        program.start(CORVANE_BEGUN_JOB,
+                      QStringList({Jobs_Folder_Path, id, sel_port_bsd_str, is_in_doubt ? "2" : "1"}) + numbers);
+        EXPECT_TRUE(program.waitForFinished(60'000));
+        EXPECT_EQ(program.exitStatus(), QProcess::CrashExit);
+        EXPECT_EQ(program.exitCode(), SIGKILL);
         return Job_Journal_Path(Jobs_Folder_Path, id);
-    }
-
-    static void Begin_Job(const QString& id, const QStringList& numbers, bool is_in_doubt)
-    {
-        const auto opened = Job_Journal::Create(Jobs_Folder_Path, {id, {}, sel_port_bsd_str, {}},
-                                                [&, index = 0]() mutable -> std::optional<Job_Row> {
-                                                    if (index == numbers.size())
-                                                        return std::nullopt;
-                                                    Job_Row row;
-                                                    row.source_row = index + 1;
-                                                    row.number = numbers.at(index++);
-                                                    row.text = QStringLiteral("Hello");
-                                                    return row;
-                                                });
-        if (opened.journal && opened.journal->Hand_Over(1, 1, 1) && opened.journal->Accepted(1, 1, 17) &&
-            opened.journal->Sync() && (!is_in_doubt || opened.journal->Hand_Over(2, 1, 1)))
-            raise(SIGKILL);
     }
 
     /// Once, in the first message that the phone hears from now on.

@@ -127,7 +127,12 @@ TEST_F(Doctor_Wnd_Test, The_Virtual_Phone_Is_Started_Once_And_Found_By_Searches_
 {
     ASSERT_TRUE(Virtual_Phone_Offer::Is_Installed());
     const auto take_it = [](Doctor_Wnd& window) { Click_In(window, "Try_Virtual_Phone"); };
-    EXPECT_EQ(Run(take_it), Doctor_Wnd::Virtual_Phone_Is_There);
+    const auto take_it_twice = [&](Doctor_Wnd& window) {
+        // While it starts, as assistive tools can.
+        QTimer::singleShot(0, &window, [&] { In<QPushButton>(window, "Try_Virtual_Phone").click(); });
+        take_it(window);
+    };
+    EXPECT_EQ(Run(take_it_twice), Doctor_Wnd::Virtual_Phone_Is_There);
     const QString path = Virtual_Phone_Offer::Path();
     EXPECT_TRUE(QFileInfo::exists(path));
     EXPECT_EQ(Extra_Device_Paths(), QStringList(path));
