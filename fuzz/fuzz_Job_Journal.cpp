@@ -5,19 +5,20 @@
 #include "records/Job_Reader.h"
 
 #include <QCryptographicHash>
+#include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
 
 namespace {
 
 const QString Id = QStringLiteral("1");
 
-// The journal of the one job in a folder that goes with the process.
+// The journal of the one job. Its folder goes with the run and has the same name each time: a path's letters are data,
+// too.
 QString Path()
 {
-    static const QTemporaryDir folder;
-    MUST(folder.isValid());
-    return Job_Journal_Path(folder.path(), Id);
+    static const QString folder = QDir::temp().filePath(QStringLiteral("jobs"));
+    MUST(QDir().mkpath(folder));
+    return Job_Journal_Path(folder, Id);
 }
 
 void Put(const QString& path, const QByteArray& bytes)

@@ -3,6 +3,7 @@
 #include "handset/Submit_Decoder.h"
 #include "handset/Submit_Encoder.h"
 #include "handset/Unicode_Text.h"
+#include "platform/Utf16_Units.h"
 
 #include <algorithm>
 
@@ -39,7 +40,7 @@ bool Is_Cut_Well(const std::u16string& text, std::size_t at)
 
 std::string Utf8(const std::u16string& text)
 {
-    return QString::fromStdU16String(text).toStdString();
+    return Text_Of_Units(text).toStdString();
 }
 
 // The parts are stretches of the text from its first unit to its last, none of them too long.

@@ -1,14 +1,11 @@
 #include "engine/Message_Frames.h"
 
+#include "platform/Utf16_Units.h"
+
 namespace {
 
 using Handset::Alphabet;
 using Handset::Alphabet_Choice;
-
-std::u16string_view Units_Of(const QString& text)
-{
-    return {reinterpret_cast<const char16_t*>(text.utf16()), static_cast<std::size_t>(text.size())};
-}
 
 Alphabet_Choice Choice_Of(Job_Alphabet_Choice choice)
 {

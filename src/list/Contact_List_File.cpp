@@ -3,6 +3,7 @@
 #include "list/Number_Rules.h"
 #include "list/Table_Builder.h"
 #include "list/Written_Number.h"
+#include "platform/Utf16_Units.h"
 
 namespace {
 
@@ -16,12 +17,9 @@ QByteArray Field(const QString& text)
     return '"' + text.toUtf8().replace('"', "\"\"").replace('\0', ' ') + '"';
 }
 
-// The decoder takes an invisible blank in front for a byte-order mark.
 QString Message_In(const Contact_Table& table, int row)
 {
-    constexpr QByteArrayView mark("\xEF\xBB\xBF");
-    const QByteArrayView bytes = table.Bytes_At(row, 1);
-    return (bytes.startsWith(mark) ? QString(QChar(QChar::ByteOrderMark)) : QString()) + QString::fromUtf8(bytes);
+    return Text_Of_Utf8(table.Bytes_At(row, 1));
 }
 
 Contact_Table Fields_In(const Contact_Table& table, QString& trouble)

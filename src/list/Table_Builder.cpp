@@ -170,7 +170,8 @@ void Table_Builder::Add_Column(const QString& name)
 void Table_Builder::Name_Columns()
 {
     for (int column = 0; column < Fields_In_Row(); ++column) {
-        const QString trimmed = QString::fromUtf8(Field_In_Row(column)).simplified();
+        const QString trimmed =
+            QString::fromUtf8(Field_In_Row(column)).remove(QChar(QChar::ByteOrderMark)).simplified();
         if (Is_A_Number(trimmed) && m_trouble.isEmpty())
             m_trouble = QString(Texts::Table::Header_Is_Number).arg(trimmed);
         Add_Column(trimmed.isEmpty() ? Name_By_Place(m_table.m_columns.size()) : trimmed);

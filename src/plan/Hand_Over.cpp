@@ -4,6 +4,7 @@
 #include "handset/Text_Parts.h"
 #include "platform/Folders_And_Files.h"
 #include "platform/Text_Files.h"
+#include "platform/Utf16_Units.h"
 #include "texts/Plan_Texts.h"
 
 #include <QDir>
@@ -32,10 +33,9 @@ QByteArray Csv_Field(const QString& text)
 // As a handset is to get it: what has no place in the alphabet is replaced already.
 QString Text_As_Written(const Planned_Row& row, const Row_Preview& preview)
 {
-    const std::u16string text = Handset::Written_Text(
-        {reinterpret_cast<const char16_t*>(row.text.utf16()), static_cast<std::size_t>(row.text.size())},
-        preview.alphabet == Job_Alphabet::Ucs2 ? Handset::Alphabet::Ucs2 : Handset::Alphabet::Gsm_7_Bit);
-    return QString::fromStdU16String(text);
+    return Text_Of_Units(Handset::Written_Text(Units_Of(row.text), preview.alphabet == Job_Alphabet::Ucs2
+                                                                       ? Handset::Alphabet::Ucs2
+                                                                       : Handset::Alphabet::Gsm_7_Bit));
 }
 
 // ISO 8859-1 and 8859-15 read it alike, so that it does not matter which of them is meant.

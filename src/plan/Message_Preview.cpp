@@ -3,16 +3,12 @@
 #include "handset/Gsm_Alphabet.h"
 #include "handset/Text_Parts.h"
 #include "handset/Unicode_Text.h"
+#include "platform/Utf16_Units.h"
 
 #include <QHash>
 #include <QTextBoundaryFinder>
 
 namespace {
-
-std::u16string_view Units_Of(const QString& text)
-{
-    return {reinterpret_cast<const char16_t*>(text.utf16()), static_cast<std::size_t>(text.size())};
-}
 
 Planned_Row Row_Of(const QString& text, const QString& number)
 {
@@ -66,7 +62,7 @@ std::vector<Changed_Text> Costly_Texts(const QString& text, const Message_Previe
         return preview.row.changed;
     std::vector<Changed_Text> costly;
     for (const auto& changed : Handset::Changed_Characters(Units_Of(text), Handset::Alphabet::Gsm_7_Bit)) {
-        const QString character = QString::fromStdU16String(changed.m_from);
+        const QString character = Text_Of_Units(changed.m_from);
         costly.push_back({static_cast<int>(changed.m_at), character, character});
     }
     return costly;

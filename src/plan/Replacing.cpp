@@ -3,6 +3,7 @@
 #include "handset/Gsm_Alphabet.h"
 #include "handset/Replacements.h"
 #include "plan/Row_Preview.h"
+#include "platform/Utf16_Units.h"
 
 #include <QSet>
 
@@ -10,15 +11,10 @@ namespace {
 
 using Handset::Replacement_Group;
 
-QString Text_Of(std::u16string_view units)
-{
-    return QString::fromUtf16(units.data(), static_cast<qsizetype>(units.size()));
-}
-
 std::optional<QString> Row_Of(char32_t character, Replacement_Group group)
 {
     const auto row = Handset::Replacement_Of(character, group);
-    return row ? std::optional(Text_Of(*row)) : std::nullopt;
+    return row ? std::optional(Text_Of_Units(*row)) : std::nullopt;
 }
 
 bool Add_Replaced(Replacement& replaced, char32_t character)

@@ -6,6 +6,7 @@
 #include "handset/Submit_Decoder.h"
 #include "handset/Text_Parts.h"
 #include "plan/Septet_Changes.h"
+#include "platform/Utf16_Units.h"
 
 namespace {
 
@@ -80,9 +81,9 @@ Row_Preview Preview_Of(const Planned_Row& row, const Plan_Manner& manner)
 {
     Row_Preview preview;
     preview.alphabet = Confirmed_Row(row, manner).alphabet;
-    preview.units = static_cast<int>(Handset::Written_Units(
-        {reinterpret_cast<const char16_t*>(row.text.utf16()), static_cast<std::size_t>(row.text.size())},
-        preview.alphabet == Job_Alphabet::Ucs2 ? Handset::Alphabet::Ucs2 : Handset::Alphabet::Gsm_7_Bit));
+    preview.units = static_cast<int>(Handset::Written_Units(Units_Of(row.text), preview.alphabet == Job_Alphabet::Ucs2
+                                                                                    ? Handset::Alphabet::Ucs2
+                                                                                    : Handset::Alphabet::Gsm_7_Bit));
     preview.parts = Parts_Of_Row(row, manner);
     const bool has_frames = row.skipped != QLatin1String(Skip_Words::Invalid_Number) && !row.text.isEmpty() &&
                             row.skipped != QLatin1String(Skip_Words::Too_Long);
@@ -112,7 +113,7 @@ QString Shown_By_A_Handset(const QByteArrayList& frames)
         if (const auto message = joiner.Take(Part_Of(*frame)))
             shown += message->m_text;
     }
-    return QString::fromStdString(shown);
+    return Text_Of_Utf8(shown);
 }
 
 // Where characters do not stand in step, everything between what is alike at both ends is one change.

@@ -4,6 +4,7 @@
 #include "handset/Gsm_Alphabet.h"
 #include "handset/Text_Parts.h"
 #include "handset/Unicode_Text.h"
+#include "platform/Utf16_Units.h"
 
 #include <algorithm>
 #include <array>
@@ -72,8 +73,7 @@ Text_Measure::Size Size_Of(QByteArrayView utf8)
 void Take_Outsiders(const QString& text, std::vector<char32_t>& outsiders)
 {
     const Costs& costs = Septets_Of_Units();
-    const std::u16string_view units(reinterpret_cast<const char16_t*>(text.utf16()),
-                                    static_cast<std::size_t>(text.size()));
+    const std::u16string_view units = Units_Of(text);
     for (std::size_t at = 0; at < units.size();) {
         const char32_t character = Handset::Code_Point_At(units, at);
         if (character >= Units || costs[character] == 0)

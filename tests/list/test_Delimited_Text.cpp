@@ -48,6 +48,10 @@ INSTANTIATE_TEST_SUITE_P(
                     Written_Table{"more fields", "A,B\n1,2,3\n", "A|B/1|2|3"},
                     Written_Table{"empty fields", "A,B\n,2\n1,\n", "A|B/|2/1|"},
                     Written_Table{"columns without names", "A,,\n1,2,3\n", "A|Column 2|Column 3/1|2|3"},
+                    Written_Table{"marks of the byte order in names",
+                                  "\xEF\xBB\xBF\f\xEF\xBB\xBF"
+                                  "A,\xEF\xBB\xBF\n1,2\n",
+                                  "A|Column 2/1|2"},
                     Written_Table{"blanks around names", " A ,\tFirst  name \n 1 , 2\n", "A|First name/ 1 | 2"}));
 
 INSTANTIATE_TEST_SUITE_P(

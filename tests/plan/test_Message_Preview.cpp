@@ -141,6 +141,11 @@ TEST(Message_Preview, Characters_That_Make_A_Message_Unicode_Are_Named_And_Count
     EXPECT_THAT(Named(Previewed(text, Confirmed(Job_Alphabet_Choice::Unicode))), IsEmpty());
 }
 
+TEST(Message_Preview, An_Invisible_Character_That_Makes_A_Message_Unicode_Is_Named)
+{
+    EXPECT_THAT(Named(Previewed(u"a\uFEFFb"_qs, Confirmed())), ElementsAre("\uFEFF > \uFEFF (1) = "));
+}
+
 TEST(Message_Preview, In_The_Described_Manner_What_Arrives_As_Another_Is_Named)
 {
     // It would lose "ö", too.

@@ -37,6 +37,15 @@ TEST(Row_Preview, A_Text_That_Does_Not_Fit_Takes_Unicode_By_Itself)
     EXPECT_THAT(preview.changed, IsEmpty());
 }
 
+TEST(Row_Preview, A_Mark_Of_The_Byte_Order_In_Front_Is_A_Character_Like_Others)
+{
+    for (const QString& text : {u"\uFEFFПривет"_qs, u"\uFFFEПривет"_qs}) {
+        const Row_Preview preview = Previewed(text, Job_Alphabet_Choice::Auto);
+        EXPECT_EQ(preview.shown, text);
+        EXPECT_THAT(preview.changed, IsEmpty());
+    }
+}
+
 TEST(Row_Preview, What_Has_No_Place_Is_Named)
 {
     const Row_Preview preview = Previewed(QStringLiteral("a😀bж"), Job_Alphabet_Choice::Gsm);

@@ -101,6 +101,10 @@ TEST_F(Planning, A_Hand_Over_Keeps_Every_Alphabet)
     Run({"--hand-over", Path("a"), "--to", "1", "--message", "\xD0\xB6\xF0\x9F\x98\x80"});
     EXPECT_EQ(Bytes("a/spool/corvane-0000001"),
               "To: 1\nTo_TOA: unknown\nAlphabet: UCS\n\n" + QByteArray::fromHex("0436D83DDE00"));
+    // Whose bytes stand as those of a byte order mark do, the wrong way round.
+    Run({"--hand-over", Path("c"), "--to", "1", "--message", "\xEF\xBF\xBE\xD0\xB6"});
+    EXPECT_EQ(Bytes("c/spool/corvane-0000001"),
+              "To: 1\nTo_TOA: unknown\nAlphabet: UCS\n\n" + QByteArray::fromHex("FFFE0436"));
     Run({"--hand-over", Path("b"), "--to", "1", "--reports", "--service-centre", "+4917", "--message",
          "\xCE\xA9 \xE2\x82\xAC"});
     EXPECT_EQ(Bytes("b/spool/corvane-0000001"),
