@@ -136,12 +136,9 @@ private:
             m_body->updateGeometry(); // its texts may have just been set
         const QFontMetrics letters = m_window.fontMetrics();
         QSize size = m_window.sizeHint();
-        const QSize hint = size;
         size.setWidth(std::max(size.width(), m_first_size.columns * letters.averageCharWidth()));
-        if (m_body) { // texts need fewer lines in a wider window
-            const QSize body = m_body->sizeHint();
-            size.rheight() += m_body->Preferred_Height(body.width() + size.width() - hint.width()) - body.height();
-        }
+        if (m_body) // its texts need fewer lines in a wider window, or above wider buttons
+            size.rheight() += m_body->Preferred_Height(size.width() - Margins()) - m_body->sizeHint().height();
         size.setHeight(std::max(size.height(), m_first_size.lines * letters.lineSpacing()));
         m_window.resize(Remembered_Size().value_or(size.boundedTo(Room())));
     }

@@ -115,3 +115,25 @@ TEST(Window_Fit, A_Line_That_Gets_Longer_While_It_Is_Shown_Is_Not_Squeezed)
         EXPECT_TRUE(Serve_Until(is_whole)) << line->height();
     }
 }
+
+TEST(Window_Fit, Nothing_Is_Left_Empty_Above_Buttons_That_Are_Wider_Than_The_Text)
+{
+    Apply_Application_Look(*qApp);
+    QDialog window;
+    auto* column = new QVBoxLayout(&window);
+    auto* line = new QLabel(QStringLiteral("some words ").repeated(20).trimmed());
+    line->setWordWrap(true);
+    auto* buttons = new QHBoxLayout;
+    auto* button = new QPushButton("Close");
+    button->setMinimumWidth(line->sizeHint().width() + 300);
+    buttons->addWidget(button);
+    column->addWidget(line);
+    column->addStretch();
+    column->addLayout(buttons);
+    Apply_Window_Look(window);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    EXPECT_EQ(line->height(), line->heightForWidth(line->width()));
+    const int above = button->mapTo(&window, QPoint()).y() - line->mapTo(&window, QPoint(0, line->height())).y();
+    EXPECT_LT(above, line->fontMetrics().lineSpacing());
+}
