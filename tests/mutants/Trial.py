@@ -12,7 +12,7 @@ import Faults
 import Tree
 
 SECONDS = 300  # for a program or a test: longer than any takes, and what takes longer has noticed
-LEFT_OUT = ["format", "fuzz/.*", "accessibility/.*", "layers/.*", ".*_NOT_BUILT"]
+LEFT_OUT = ["format", "mutants", "fuzz/.*", "accessibility/.*", "layers/.*", ".*_NOT_BUILT"]
 MOST_UNSTEADY = 5
 
 # Rooms without a test program of their own: who uses them.
