@@ -1,5 +1,6 @@
 #include "list/Row_Search.h"
 
+#include <QStringList>
 #include <QStringMatcher>
 #include <algorithm>
 #include <numeric>

@@ -3,6 +3,7 @@
 #include "list/Number_Rules.h"
 #include "texts/Table_Texts.h"
 
+#include <QStringList>
 #include <algorithm>
 #include <optional>
 
