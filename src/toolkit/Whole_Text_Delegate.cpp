@@ -2,6 +2,7 @@
 
 #include "platform/One_Line.h"
 
+#include <QAbstractItemView>
 #include <QGuiApplication>
 #include <QHelpEvent>
 #include <QTextLayout>

@@ -18,6 +18,7 @@
 #include "windows/main/Timed_Progress.h"
 
 #include <QScopeGuard>
+#include <QWidget>
 #include <exception>
 #include <utility>
 
