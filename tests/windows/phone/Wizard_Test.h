@@ -195,10 +195,11 @@ protected:
         ASSERT_TRUE(Serve_Until([] { return ph_find_thread == 0; }));
     }
     /// Begins a search that waits for a device to open until End_Search lets it.
-    void Begin_Search(const Virtual_Phone& device)
+    void Begin_Search(const Virtual_Phone& device, int presses = 1)
     {
         m_calls.m_gated_path = device.Path();
-        Click("_Search_Btn");
+        for (; presses > 0; --presses)
+            Click("_Search_Btn");
         ASSERT_TRUE(Serve_Until([&] { return m_calls.m_gate.Is_Somebody_Waiting(); }));
     }
     void End_Search()

@@ -46,9 +46,7 @@ TEST_F(Wizard_Test, A_Search_Empties_The_Window_And_Forgets_The_Row)
 TEST_F(Wizard_Test, Two_Presses_Of_Search_Make_One_Search)
 {
     Run([&] {
-        m_calls.m_gated_path = m_phone.Path();
-        Click("_Search_Btn");
-        Begin_Search(m_phone);
+        Begin_Search(m_phone, 2);
         Click("_Search_Btn");
         EXPECT_EQ(ph_find_thread, 1);
         End_Search();
