@@ -2,6 +2,7 @@
 #include "list/Shown_Table.h"
 
 #include <gtest/gtest.h>
+#include <sstream>
 
 using namespace std::string_literals;
 
@@ -147,13 +148,14 @@ TEST(Delimited_Text, Fields_Of_Every_Length_Are_Read)
 // They move up to where the quotes were, and those of the next row stay.
 TEST(Delimited_Text, Fields_Behind_One_In_Quotes_Are_Read)
 {
-    std::string text = "A,B,C,D,E\r\n";
+    std::ostringstream text;
+    text << "A,B,C,D,E\r\n";
     for (std::size_t length = 0; length < 140; ++length) {
         const std::string x(length, 'x');
-        text += "1,\"" + x + "\"\"" + x + "\"," + x + ",\"\"," + std::string(140 - length, 'z') + "\r\n";
-        text += "2," + x + ",,\"" + x + "\",\"\n\"\r\n";
+        text << "1,\"" << x << "\"\"" << x << "\"," << x << ",\"\"," << std::string(140 - length, 'z') << "\r\n";
+        text << "2," << x << ",,\"" << x << "\",\"\n\"\r\n";
     }
-    const auto table = Read(text).table;
+    const auto table = Read(text.str()).table;
     ASSERT_EQ(table.Row_Count(), 280);
     for (int length = 0; length < 140; ++length) {
         const QString x(length, u'x');
