@@ -70,7 +70,7 @@ bool Window_Work::Start_If_Possible(const char* name, std::function<void()> work
 
 void Window_Work::Await() const
 {
-    if (*m_running > 0)
+    if (Is_Running())
         Await_Worker([running = m_running] { return *running == 0; });
 }
 

@@ -34,6 +34,8 @@ public:
     void Start(const char* name, std::function<void()> work);
     /// The same for work that had better not be done than on the interface thread. Whether it was begun.
     bool Start_If_Possible(const char* name, std::function<void()> work);
+    /// Whether a worker of the window has not ended yet.
+    bool Is_Running() const { return *m_running > 0; }
     /// Waits, while serving them, until all workers of the window have ended.
     void Await() const;
     /// The same, and releases the window.

@@ -21,6 +21,7 @@
 
 #include <QApplication>
 #include <QHeaderView>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 
 namespace {
@@ -139,6 +140,8 @@ int Phone_List_Wnd::Open_Ph_List_Wnd()
 
 void Phone_List_Wnd::Search_dev_Pressed()
 {
+    if (m_is_asking_why)
+        return;
     // The flag is set here already, so that a second press finds it before the worker has begun.
     if (ph_find_thread.exchange(1) != 1)
         m_work.Start("find phones", [this] { Find_Ph_Thread(); });
@@ -254,22 +257,38 @@ void Phone_List_Wnd::Find_Notes()
 
 void Phone_List_Wnd::Why_No_Phone()
 {
-    if (ph_find_thread == 1)
+    if (ph_find_thread == 1 || m_is_selecting || m_is_asking_why || m_work.Is_Running())
         return;
-    // What an earlier check has left open would be in the way.
-    Run_On_Worker([this] { Phone_Probe::Let_Go_Of_Port(mfc_sms_obj); });
-    port.Close();
-    if (Doctor_Wnd(this).exec() != Doctor_Wnd::Virtual_Phone_Is_There || !isVisible())
+    if (Ask_Why_No_Phone() != Doctor_Wnd::Virtual_Phone_Is_There || !isVisible())
         return;
     m_to_be_picked = Virtual_Phone_Offer::Path();
     Search_dev_Pressed();
+}
+
+// The doctor asks the same devices: the wizard begins nothing beside it, however it is pressed.
+int Phone_List_Wnd::Ask_Why_No_Phone()
+{
+    int result = QDialog::Rejected;
+    {
+        const QScopedValueRollback asking(m_is_asking_why, true);
+        // What an earlier check has left open would be in the way.
+        Run_On_Worker([this] { Phone_Probe::Let_Go_Of_Port(mfc_sms_obj); });
+        port.Close();
+        result = Doctor_Wnd(this).exec();
+    }
+    // A row that was picked meanwhile had no effect, and is not left highlighted.
+    if (nsPortListData.Is_Row(Prev_Index))
+        m_ui->idPortList->selectRow(static_cast<int>(Prev_Index));
+    else
+        m_ui->idPortList->selectionModel()->clear();
+    return result;
 }
 
 // ------------------------------------------------------------------------------------------------------- the probe
 
 void Phone_List_Wnd::tableViewSelectionDidChange()
 {
-    if (ph_find_thread == 1)
+    if (ph_find_thread == 1 || m_is_asking_why)
         return;
     const auto selected = m_ui->idPortList->selectionModel()->selectedRows();
     if (selected.isEmpty()) {
@@ -303,15 +322,16 @@ void Phone_List_Wnd::Empty_Details()
 
 void Phone_List_Wnd::Find_Ph_Value_Thread()
 {
-    const auto turn = Device_Turn();
-    Run_On_Interface_Thread([] { Cus_SMS_Num_STR.clear(); });
     QString fault;
     {
+        const auto turn = Device_Turn();
+        Run_On_Interface_Thread([] { Cus_SMS_Num_STR.clear(); });
         const Shown_Sheet sheet(*this);
         fault = OnGetSelected();
         Run_On_Interface_Thread([this] { port.Close(); });
     }
-    // There is no please-wait sheet while the user has something to read.
+    // There is no please-wait sheet while the user has something to read, and who presses on meanwhile has the next
+    // turn.
     if (!fault.isEmpty())
         Tell_About_Device(fault);
 }

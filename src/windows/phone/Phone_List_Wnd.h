@@ -76,6 +76,7 @@ private:
     void End_Search();
     QString Cell(const QString& identifier, int row) const;
     void Find_Notes();
+    int Ask_Why_No_Phone();
     void Pick(const QString& path);
     void Show_Searching(bool is_searching);
 
@@ -104,6 +105,7 @@ private:
 
     Window_Work m_work; // takes no input from a click on a row until the sheet covers the window
     bool m_is_selecting = false;
+    bool m_is_asking_why = false;
     bool m_is_searching_shown = false;
     std::mutex m_device_turn; // the session serves one search, probe or check at a time
 };

@@ -32,7 +32,7 @@ void Phone_List_Wnd::Sel_Device_Pressed()
 
 void Phone_List_Wnd::Phone_Selected_Func()
 {
-    if (m_is_selecting || !May_Be_Selected())
+    if (m_is_selecting || m_is_asking_why || !May_Be_Selected())
         return;
     Show_Picked_Row();
     const QString name = nsPortListData.Name(Prev_Index);

@@ -160,6 +160,57 @@ TEST_F(Wizard_Test, The_Doctors_Virtual_Phone_Is_Searched_For_And_Its_Row_Is_Pic
     Set_Extra_Device_Paths({});
 }
 
+TEST_F(Wizard_Test, While_The_Doctor_Asks_The_Wizard_Begins_Nothing)
+{
+    // As assistive tools can, which do not mind what is in front.
+    const auto press_everything = [this] {
+        Table().selectRow(0);
+        for (const char* button : {"_Search_Btn", "_Select_Btn", "Why_No_Phone"})
+            Control<QPushButton>(button).click();
+    };
+    Run([&] {
+        const int searches = m_finder.m_searches;
+        const int sheets = Sheets_So_Far();
+        int doctors = 0;
+        m_user.When_Opens("Doctor_Wnd", [&](QWidget& doctor) {
+            ++doctors;
+            press_everything();
+            EXPECT_TRUE(Serve_Until([&] { return In<QWidget>(doctor, "Look_Again").isEnabled(); }, 60));
+            Click_In(doctor, "CancelPressed");
+        });
+        QTimer::singleShot(0, m_window.get(), press_everything); // while the port is let go of
+        Click("Why_No_Phone");
+        EXPECT_EQ(doctors, 1);
+        EXPECT_EQ(Selected_Row(), -1);
+        EXPECT_EQ(m_finder.m_searches, searches);
+        EXPECT_EQ(Sheets_So_Far(), sheets);
+        Expect_Told({});
+        Probe_Row(0);
+        EXPECT_FALSE(Text("_model_edit").isEmpty());
+    });
+}
+
+TEST_F(Wizard_Test, While_A_Device_Is_Probed_The_Doctor_Does_Not_Ask_It)
+{
+    Run([&] {
+        m_calls.m_gated_path = m_phone.Path();
+        const int sheets = Sheets_So_Far();
+        Click_Row(0);
+        ASSERT_TRUE(Serve_Until([&] { return m_calls.m_gate.Is_Somebody_Waiting(); }));
+        QTimer::singleShot(0, m_window.get(), [this] {
+            if (auto* doctor = m_window->findChild<Doctor_Wnd*>()) {
+                ADD_FAILURE() << "the doctor is there";
+                doctor->reject();
+            }
+        });
+        Control<QPushButton>("Why_No_Phone").click();
+        QTest::qWait(0);
+        m_calls.m_gate.Open();
+        ASSERT_TRUE(Wait_For_Sheets_End(sheets));
+        EXPECT_FALSE(Text("_model_edit").isEmpty());
+    });
+}
+
 TEST_F(Wizard_Test, Beside_Each_Port_Stands_Whether_It_Is_Free)
 {
     Run([&] {

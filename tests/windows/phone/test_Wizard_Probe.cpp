@@ -175,6 +175,28 @@ TEST_F(Wizard_Test, What_Is_Wrong_With_A_Device_Is_Told_Once_The_Sheet_Has_Gone_
     Expect_Told(faults);
 }
 
+TEST_F(Wizard_Test, What_Is_Pressed_Beside_The_Box_About_A_Device_Is_Done_And_Nothing_Waits_For_The_Box)
+{
+    const Virtual_Phone silent(Silent);
+    Plug_In(silent, m_phone);
+    bool is_over = false;
+    m_user.Will_Handle([&](QMessageBox& shown) {
+        // As assistive tools can, which do not mind what is in front.
+        Table().selectRow(1);
+        Control<QPushButton>("_Select_Btn").click();
+        shown.buttons().front()->click();
+        is_over = true;
+    });
+    m_user.Will_Press("OK");
+    Run([&] {
+        Click_Row(0);
+        ASSERT_TRUE(Serve_Until([&] { return is_over && Text("_def_smsc_edit") == "+15550009999"; }));
+        EXPECT_EQ(Text("_port_det_edit").toStdString(), m_phone.Path());
+    });
+    Expect_Told({Not_Working, "Default SMSC No. details should not be blanked."});
+    EXPECT_TRUE(sel_port_bsd_str.isEmpty());
+}
+
 TEST_F(Wizard_Test, A_Hang_Up_During_A_Probe_Ends_It_With_What_Was_Told)
 {
     const Kept_Number kept(m_phone);
