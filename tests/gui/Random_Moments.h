@@ -55,7 +55,7 @@ protected:
             m_pressed.append(window->objectName() + ":close");
             window->close();
         } else if (auto* devices = window->findChild<QTableView*>("idPortList");
-                   devices && devices->model()->rowCount() > 0 && m_random() % 3 == 0) {
+                   devices && devices->isVisible() && devices->model()->rowCount() > 0 && m_random() % 3 == 0) {
             m_pressed.append("device");
             devices->selectRow(static_cast<int>(m_random()) & 1 ? devices->model()->rowCount() - 1 : 0);
         } else {
@@ -156,12 +156,16 @@ TEST_P(Random_Moments, End_In_An_Orderly_Way)
     for (int item = 0; item < 30; ++item)
         m_program->Delegate().Create_Num_Msg_List(QString::number(1000 + item), "Hello");
     m_impatience.start(0);
-    QTimer::singleShot(static_cast<int>(200 + m_random() % 1500), m_program.get(), [this] {
+    QTimer patience_ends;
+    patience_ends.setSingleShot(true);
+    QObject::connect(&patience_ends, &QTimer::timeout, [this] {
         m_impatience.stop();
         m_last_pressed = Now_Seconds();
         m_program->Leave();
     });
+    patience_ends.start(static_cast<int>(200 + m_random() % 1500));
     EXPECT_EQ(m_program->Run(), 0);
+    patience_ends.stop(); // who has closed the main window has left already
     m_impatience.stop();
     m_program.reset();
     EXPECT_LT(Now_Seconds() - m_last_pressed, Longest_Way_Out) << "after " << m_pressed.join(u' ').toStdString();

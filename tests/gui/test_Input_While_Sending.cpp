@@ -8,6 +8,13 @@ using testing::ElementsAre;
 class Input_While_Sending : public Sending_Program
 {
 protected:
+    // As assistive tools can, which do not mind what is in front.
+    void Press_What_Takes_The_Device()
+    {
+        for (const char* button : {"_sent_btn", "Search_All_Modem", "_NO_Device_Ticker"})
+            The<QPushButton>(button).click();
+    }
+
     void Try_Everything()
     {
         for (const char* button :
@@ -36,5 +43,37 @@ TEST_F(Input_While_Sending, Reaches_Nothing_In_The_Main_Window)
     ASSERT_TRUE(Serve_Until([] { return sms_thread_var == 0 && Workers_Running() == 0; }));
     EXPECT_THAT(Boxes_Shown(), ElementsAre(std::string(Box::Completed)));
     EXPECT_THAT(Inbox(), ElementsAre(Everything({}).front()));
+    Expect_That_All_Is_Quiet();
+}
+
+TEST_F(Input_While_Sending, Opens_No_Wizard_Beside_A_Job)
+{
+    Fill_The_List({}, 1);
+    Select_The_Phone();
+    user.Will_Press("OK");
+    Click("_sent_btn");
+    Press_What_Takes_The_Device();
+    ASSERT_TRUE(Serve_Until([] { return Send_Modeless::defaultInstance()->isVisible(); }));
+    Press_What_Takes_The_Device();
+    ASSERT_TRUE(Serve_Until([] { return sms_thread_var == 0 && Workers_Running() == 0; }));
+    EXPECT_THAT(Boxes_Shown(), ElementsAre(std::string(Box::Completed)));
+    EXPECT_THAT(Inbox(), ElementsAre(Everything({}).front()));
+    Expect_That_All_Is_Quiet();
+}
+
+TEST_F(Input_While_Sending, Begins_No_Job_Beside_The_Wizard)
+{
+    Fill_The_List({}, 1);
+    int presses = 0;
+    const auto press = [&] {
+        ++presses;
+        Select_The_Phone(); // what a job could be sent with
+        Press_What_Takes_The_Device();
+    };
+    QTimer::singleShot(0, m_delegate.get(), press); // before the first of its windows is there
+    Visit_Wizard(press);
+    EXPECT_EQ(presses, 2);
+    EXPECT_THAT(Boxes_Shown(), ElementsAre());
+    EXPECT_THAT(Inbox(), ElementsAre());
     Expect_That_All_Is_Quiet();
 }

@@ -28,6 +28,8 @@ public:
     /// The same, and returns when the device is free; nothing looks for reports for as long as what it returns lives.
     /// The interface thread is served meanwhile. Any thread.
     [[nodiscard]] std::shared_ptr<void> Device_Turn();
+    /// Whether anything that Device_Turn has returned lives: a job, the wizard or the doctor has the device.
+    bool Is_Device_Wanted() const { return m_wanted > 0; }
 
 Q_SIGNALS:
     /// Some have been noted in the journals of their jobs.

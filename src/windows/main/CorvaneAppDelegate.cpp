@@ -138,8 +138,9 @@ bool CorvaneAppDelegate::awakeFromNib()
                               [this] { Leave_Import_Unread(); }, [this] { Finish_Import(); }, [this] { End_Import(); },
                               [this](const Import_Report& report) { m_arrivals->Note(report); }});
     m_awaited_reports = std::make_unique<Awaited_Reports>(*m_work);
-    m_send_runner = std::make_unique<Send_Runner>(*this, *mfc_sms_obj, *Send_Modeless::defaultInstance(),
-                                                  [this] { return m_awaited_reports->Device_Turn(); });
+    m_send_runner = std::make_unique<Send_Runner>(
+        *this, *mfc_sms_obj, *Send_Modeless::defaultInstance(), [this] { return m_awaited_reports->Device_Turn(); },
+        [this] { return m_awaited_reports->Is_Device_Wanted(); });
     m_follow_up =
         std::make_unique<Job_Follow_Up>(*this, *m_work, *m_send_runner, *m_ui->_Job_Strip, *m_ui->Show_Receipt);
     connect(m_awaited_reports.get(), &Awaited_Reports::Came, m_follow_up.get(), &Job_Follow_Up::Take_Reports);
@@ -293,8 +294,11 @@ void CorvaneAppDelegate::No_Device_Ticker_Click()
     Search_All_Modem();
 }
 
+// Whoever has the device has it alone, however this is pressed.
 void CorvaneAppDelegate::Search_All_Modem()
 {
+    if (Is_Device_Taken())
+        return;
     std::shared_ptr<void> device = m_awaited_reports->Device_Turn();
     sel_port_name_str.clear();
     sel_port_bsd_str.clear();
@@ -352,6 +356,8 @@ void CorvaneAppDelegate::Help_Btn()
     Help_Wnd help(this, Guide_Page());
     bool wants_virtual_phone = false;
     connect(&help, &Help_Wnd::Doctor_Wanted, this, [&] {
+        if (Is_Device_Taken())
+            return;
         const std::shared_ptr<void> device = m_awaited_reports->Device_Turn();
         wants_virtual_phone = Doctor_Wnd(&help).exec() == Doctor_Wnd::Virtual_Phone_Is_There;
         if (wants_virtual_phone)

@@ -169,6 +169,7 @@ private:
     void Make_Finder();
     void List_Will_Change();
     void Give_Tables_Their_Models();
+    bool Is_Device_Taken() const;
     void Show_Device_In_Ticker();
     void Remember_Composer_Text();
     Number_Terms Terms_For_New_Numbers() const;

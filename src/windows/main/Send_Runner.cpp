@@ -63,16 +63,26 @@ private:
     bool m_is_mine = false;
 };
 
-Send_Runner::Send_Runner(Main_Window& window, MFCSMS& session, Send_Progress& progress, Take_Device take_device)
+Send_Runner::Send_Runner(Main_Window& window, MFCSMS& session, Send_Progress& progress, Take_Device take_device,
+                         Is_Device_Taken is_device_taken)
     : m_window(window), m_session(session), m_progress(progress), m_take_device(std::move(take_device)),
-      m_outcomes(window)
+      m_is_device_taken(std::move(is_device_taken)), m_outcomes(window)
 {
+}
+
+// Nothing when there is a job already, or when somebody else has the device.
+std::shared_ptr<Send_Runner::Claim> Send_Runner::Claimed()
+{
+    if (m_is_device_taken && m_is_device_taken())
+        return {};
+    auto claim = std::make_shared<Claim>(m_window);
+    return claim->Is_Mine() ? claim : nullptr;
 }
 
 void Send_Runner::Send_SMS_Btn()
 {
-    auto claim = std::make_shared<Claim>(m_window);
-    if (!claim->Is_Mine())
+    auto claim = Claimed();
+    if (!claim)
         return;
     m_window.Hold_Input();
     auto order = Take_Send_Order(m_window);
@@ -84,8 +94,8 @@ void Send_Runner::Send_SMS_Btn()
 
 void Send_Runner::Send_Confirmed(Send_Order order, const Confirmed_Options& options, bool is_the_list)
 {
-    auto claim = std::make_shared<Claim>(m_window);
-    if (!claim->Is_Mine())
+    auto claim = Claimed();
+    if (!claim)
         return;
     m_window.Hold_Input();
     Start(std::move(claim), std::move(order), options, is_the_list);

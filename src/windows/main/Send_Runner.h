@@ -25,8 +25,11 @@ public:
     /// What take_device returns is kept from before a job uses the device until it has ended; it may wait until nobody
     /// else does. On the job's thread.
     using Take_Device = std::function<std::shared_ptr<void>()>;
+    /// Whether anybody but a job has it; no job is started then. Interface thread.
+    using Is_Device_Taken = std::function<bool()>;
 
-    Send_Runner(Main_Window& window, MFCSMS& session, Send_Progress& progress, Take_Device take_device = {});
+    Send_Runner(Main_Window& window, MFCSMS& session, Send_Progress& progress, Take_Device take_device = {},
+                Is_Device_Taken is_device_taken = {});
 
     /// Send was pressed: checks what is to be sent, with the user's help, and starts a job, unless one is running. The
     /// main window takes no input until the progress window covers it or it is clear that nothing will be sent.
@@ -43,6 +46,7 @@ private:
     class Claim;
     using Confirmed = std::optional<Confirmed_Options>; // nothing for a job of fixed waits
 
+    std::shared_ptr<Claim> Claimed();
     void Start(std::shared_ptr<Claim> claim, Send_Order order, Confirmed confirmed, bool is_the_list);
     void Send_SMS_Thread(Send_Order& order, const Confirmed& confirmed);
     void Walk_Confirmed(Send_Order& order, const Confirmed_Options& options, Timed_Progress& progress,
@@ -56,6 +60,7 @@ private:
     MFCSMS& m_session;
     Send_Progress& m_progress;
     const Take_Device m_take_device;
+    const Is_Device_Taken m_is_device_taken;
     Outcome_Post m_outcomes;
     Plan_Pace m_pace;
     Timed_Progress* m_timed = nullptr;          // of the job that runs; on its thread
