@@ -77,8 +77,9 @@ protected:
 
     void Press_A_Button(QWidget& window)
     {
-        // Records are to be kept, and to stay where they are.
-        static const std::set<QString> left_alone{"_Save_Sent_Item_Chk", "Reset_Btn", "Sent_Item_Btn"};
+        // Records are to be kept, to stay where they are, and to be about this phone.
+        static const std::set<QString> left_alone{"_Save_Sent_Item_Chk", "Reset_Btn", "Sent_Item_Btn",
+                                                  "Try_Virtual_Phone"};
         QList<QAbstractButton*> buttons;
         for (auto* button : window.findChildren<QAbstractButton*>()) {
             const bool can_be_pressed = button->isVisible() && button->isEnabled() && button->window() == &window;
