@@ -22,7 +22,7 @@ def _with_a_screen(command, folder):
         os.environ, DISPLAY=":" + number, HOME=folder, XDG_DATA_HOME=folder + "/data", XDG_RUNTIME_DIR=folder,
         XDG_CONFIG_HOME=folder, XDG_CACHE_HOME=folder, QT_QPA_PLATFORM="xcb", QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
         CORVANE_PACE="1", LC_ALL="C.UTF-8")
-    for name in ("WAYLAND_DISPLAY", "XAUTHORITY", "AT_SPI_BUS_ADDRESS", "DBUS_SESSION_BUS_ADDRESS"):
+    for name in ("LANGUAGE", "WAYLAND_DISPLAY", "XAUTHORITY", "AT_SPI_BUS_ADDRESS", "DBUS_SESSION_BUS_ADDRESS"):
         environment.pop(name, None)
     try:
         return subprocess.run(command, env=environment, check=False).returncode

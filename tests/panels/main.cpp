@@ -19,6 +19,7 @@ int main(int argument_count, char** arguments)
     qputenv("QT_QPA_PLATFORMTHEME", "xdgdesktopportal");
     qputenv("DBUS_SESSION_BUS_ADDRESS", bus.Address().toUtf8());
     qputenv("LC_ALL", "C.UTF-8");
+    qunsetenv("LANGUAGE");
     const Panels panels(bus.Address());
     QApplication application(argument_count, arguments);
     QApplication::setQuitOnLastWindowClosed(false);

@@ -1,9 +1,13 @@
 #include "support/Refused_Threads.h"
 
+#include "platform/Waiting.h"
+
 #include <atomic>
 #include <cerrno>
 #include <dlfcn.h>
+#include <memory>
 #include <pthread.h>
+#include <thread>
 
 namespace {
 
@@ -22,6 +26,25 @@ bool Is_Refused()
     return number == first || (number > first && Refuses_Later);
 }
 
+constexpr double Latest_Begin_Seconds = 20;
+
+std::atomic<bool> Are_Late{false};
+
+struct Late_Work
+{
+    void* (*run)(void*);
+    void* argument;
+};
+
+void* Run_Late(void* what)
+{
+    const std::unique_ptr<Late_Work> work(static_cast<Late_Work*>(what));
+    const double end = Now_Seconds() + Latest_Begin_Seconds;
+    while (Are_Late && Now_Seconds() < end)
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    return work->run(work->argument);
+}
+
 } // namespace
 
 // Stands before the system's own: the standard library and the toolkit find this one first.
@@ -30,7 +53,15 @@ extern "C" int pthread_create(pthread_t* thread, const pthread_attr_t* attribute
 {
     using Create = int (*)(pthread_t*, const pthread_attr_t*, void* (*)(void*), void*);
     static const auto create = reinterpret_cast<Create>(dlsym(RTLD_NEXT, "pthread_create"));
-    return Is_Refused() ? EAGAIN : create(thread, attributes, run, argument);
+    if (Is_Refused())
+        return EAGAIN;
+    if (!Are_Late)
+        return create(thread, attributes, run, argument);
+    auto late = std::make_unique<Late_Work>(Late_Work{run, argument});
+    const int error = create(thread, attributes, Run_Late, late.get());
+    if (error == 0)
+        (void)late.release(); // the thread has it
+    return error;
 }
 
 Refused_Threads::Refused_Threads(int first, And_Later later)
@@ -48,4 +79,14 @@ Refused_Threads::~Refused_Threads()
 int Refused_Threads::Asked_For() const
 {
     return Asked;
+}
+
+Late_Threads::Late_Threads()
+{
+    Are_Late = true;
+}
+
+Late_Threads::~Late_Threads()
+{
+    Are_Late = false;
 }

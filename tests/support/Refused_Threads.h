@@ -19,3 +19,14 @@ public:
     /// How many threads were asked for so far.
     int Asked_For() const;
 };
+
+/// The threads that this program is given while it lives do nothing until it ends, or for 20 seconds: what they are to
+/// do is not over before anybody has looked. One at a time; any thread may ask.
+class Late_Threads
+{
+public:
+    Late_Threads();
+    ~Late_Threads();
+    Late_Threads(const Late_Threads&) = delete;
+    Late_Threads& operator=(const Late_Threads&) = delete;
+};

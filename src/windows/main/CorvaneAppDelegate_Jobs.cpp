@@ -1,11 +1,9 @@
 #include "engine/Confirmed_End.h"
-#include "engine/Job_State.h"
 #include "engine/Send_Cause.h"
 #include "platform/Waiting.h"
 #include "records/Data_Paths.h"
 #include "texts/Confirmed_Texts.h"
 #include "ui_CorvaneAppDelegate.h"
-#include "windows/main/Awaited_Reports.h"
 #include "windows/main/Composer.h"
 #include "windows/main/CorvaneAppDelegate.h"
 #include "windows/main/Job_Follow_Up.h"
@@ -75,9 +73,4 @@ void CorvaneAppDelegate::Show_Receipt()
 void CorvaneAppDelegate::View_Receipts_Btn()
 {
     m_follow_up->Show_Kept();
-}
-
-bool CorvaneAppDelegate::Is_Device_Taken() const
-{
-    return sms_thread_var == 1 || m_awaited_reports->Is_Device_Wanted();
 }

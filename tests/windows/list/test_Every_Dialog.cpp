@@ -1,11 +1,14 @@
 // What the dialogs over the list have in common.
+#include "support/Refused_Threads.h"
 #include "windows/list/Dialogs_Test.h"
 #include "windows/list/Fill_Msg_In_List.h"
 #include "windows/list/Send_Msg_Info.h"
 #include "windows/list/Update_Num_SMS.h"
 #include "windows/list/Update_Sel_Num_SMS.h"
 
+#include <QBasicTimer>
 #include <numeric>
+#include <optional>
 
 namespace {
 
@@ -138,22 +141,36 @@ INSTANTIATE_TEST_SUITE_P(List, Every_Dialog, testing::Values(Fill, Send, Edit, U
 
 // ------------------------------------------------------------------------------------------ those that fill the list
 
-// Counts how often the interface thread serves events while the please-wait sheet stands over a dialog.
-class Pulse
+// Counts how often the interface thread serves events while the please-wait sheet stands over a dialog. The workers
+// that are started then begin only when that was often enough.
+class Pulse : public QObject
 {
 public:
-    Pulse()
+    explicit Pulse(int enough) : m_enough(enough)
     {
-        QObject::connect(&m_timer, &QTimer::timeout, [this] {
-            const QWidget* on_top = QApplication::activeModalWidget();
-            m_beats += on_top && on_top->objectName() == QStringLiteral("PleaseWait_Modeless") ? 1 : 0;
-        });
-        m_timer.start(0); // at every turn of the event loop
+        qApp->installEventFilter(this);
+        m_timer.start(0, this); // at every turn of the event loop
     }
     int Beats() const { return m_beats; }
 
 private:
-    QTimer m_timer;
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Show && watched->objectName() == QStringLiteral("PleaseWait_Modeless"))
+            m_threads.emplace();
+        return false;
+    }
+    void timerEvent(QTimerEvent* /*event*/) override
+    {
+        const QWidget* on_top = QApplication::activeModalWidget();
+        m_beats += on_top && on_top->objectName() == QStringLiteral("PleaseWait_Modeless") ? 1 : 0;
+        if (m_beats == m_enough)
+            m_threads.reset();
+    }
+
+    const int m_enough;
+    QBasicTimer m_timer;
+    std::optional<Late_Threads> m_threads;
     int m_beats = 0;
 };
 
@@ -168,7 +185,7 @@ TEST_P(Filling_Dialog, Two_Hundred_Thousand_Recipients_Are_Filled_While_The_Wind
     m_window.m_selected_rows.resize(Many);
     std::iota(m_window.m_selected_rows.begin(), m_window.m_selected_rows.end(), 0);
     Answer_Its_Boxes();
-    const Pulse pulse;
+    const Pulse pulse(Beats_Of_A_Worker);
     Run([&] {
         Make_A_Change();
         Click("OKPressed");
