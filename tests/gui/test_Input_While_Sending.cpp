@@ -15,6 +15,22 @@ protected:
             The<QPushButton>(button).click();
     }
 
+    /// Does something before the progress window is there and once it is, and the message is sent all the same.
+    void Send_One_Message_While(const std::function<void()>& something)
+    {
+        Fill_The_List({}, 1);
+        Select_The_Phone();
+        user.Will_Press("OK");
+        Click("_sent_btn");
+        something();
+        ASSERT_TRUE(Serve_Until([] { return Send_Modeless::defaultInstance()->isVisible(); }));
+        something();
+        ASSERT_TRUE(Serve_Until([] { return sms_thread_var == 0 && Workers_Running() == 0; }));
+        EXPECT_THAT(Boxes_Shown(), ElementsAre(std::string(Box::Completed)));
+        EXPECT_THAT(Inbox(), ElementsAre(Everything({}).front()));
+        Expect_That_All_Is_Quiet();
+    }
+
     void Try_Everything()
     {
         for (const char* button :
@@ -33,32 +49,12 @@ protected:
 
 TEST_F(Input_While_Sending, Reaches_Nothing_In_The_Main_Window)
 {
-    Fill_The_List({}, 1);
-    Select_The_Phone();
-    user.Will_Press("OK");
-    Click("_sent_btn");
-    Try_Everything();
-    ASSERT_TRUE(Serve_Until([] { return Send_Modeless::defaultInstance()->isVisible(); }));
-    Try_Everything();
-    ASSERT_TRUE(Serve_Until([] { return sms_thread_var == 0 && Workers_Running() == 0; }));
-    EXPECT_THAT(Boxes_Shown(), ElementsAre(std::string(Box::Completed)));
-    EXPECT_THAT(Inbox(), ElementsAre(Everything({}).front()));
-    Expect_That_All_Is_Quiet();
+    Send_One_Message_While([this] { Try_Everything(); });
 }
 
 TEST_F(Input_While_Sending, Opens_No_Wizard_Beside_A_Job)
 {
-    Fill_The_List({}, 1);
-    Select_The_Phone();
-    user.Will_Press("OK");
-    Click("_sent_btn");
-    Press_What_Takes_The_Device();
-    ASSERT_TRUE(Serve_Until([] { return Send_Modeless::defaultInstance()->isVisible(); }));
-    Press_What_Takes_The_Device();
-    ASSERT_TRUE(Serve_Until([] { return sms_thread_var == 0 && Workers_Running() == 0; }));
-    EXPECT_THAT(Boxes_Shown(), ElementsAre(std::string(Box::Completed)));
-    EXPECT_THAT(Inbox(), ElementsAre(Everything({}).front()));
-    Expect_That_All_Is_Quiet();
+    Send_One_Message_While([this] { Press_What_Takes_The_Device(); });
 }
 
 TEST_F(Input_While_Sending, Begins_No_Job_Beside_The_Wizard)
