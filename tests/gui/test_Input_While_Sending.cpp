@@ -73,3 +73,23 @@ TEST_F(Input_While_Sending, Begins_No_Job_Beside_The_Wizard)
     EXPECT_THAT(Inbox(), ElementsAre());
     Expect_That_All_Is_Quiet();
 }
+
+TEST_F(Input_While_Sending, The_Help_Calls_No_Doctor_Beside_The_Wizard)
+{
+    bool is_pressed = false;
+    user.When_Opens("Help_Wnd", [&](QWidget& help) {
+        QTimer::singleShot(0, &help, [&] {
+            if (auto* doctor = help.findChild<QDialog*>("Doctor_Wnd")) {
+                ADD_FAILURE() << "the doctor is there";
+                doctor->reject();
+            }
+        });
+        In<QPushButton>(help, "Why_No_Phone").click();
+        QTest::qWait(0);
+        is_pressed = true;
+        Click_In(help, "OKPressed");
+    });
+    Visit_Wizard([this] { The<QPushButton>("Help_Btn").click(); });
+    EXPECT_TRUE(is_pressed);
+    Expect_That_All_Is_Quiet();
+}
