@@ -10,13 +10,13 @@
 #include "platform/Waiting.h"
 #include "records/Data_Paths.h"
 #include "texts/Texts.h"
-#include "toolkit/Asked_For_Focus.h"
 #include "toolkit/Demo_Phone.h"
 #include "toolkit/Guarded_Application.h"
 #include "toolkit/Message_Boxes.h"
 #include "toolkit/Remembered.h"
 #include "toolkit/Shared_Instance.h"
 #include "toolkit/Window_Look.h"
+#include "toolkit/X_Server_Focus.h"
 #include "windows/main/CorvaneAppDelegate.h"
 
 #include <QApplication>
@@ -49,7 +49,7 @@ Program::Program(Command_Line command_line, Single_Start* single_start)
     : m_command_line(std::move(command_line)), m_single_start(single_start)
 {
     Apply_Application_Look(*qApp);
-    Pass_Over_Asked_For_Focus();
+    Mend_X_Server_Focus();
     Guarded_Application::When_Something_Breaks([] { Show_MessageBox(Texts::Main::Something_Broke); });
     // The toolkit's file panels would keep a record of the folders the user visited, and wait for its lock if a killed
     // start has left it. No file can be made below this path.

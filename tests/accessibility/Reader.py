@@ -39,7 +39,7 @@ def until(what, condition):
             return answer
         if time.monotonic() > end:
             raise Trouble(f"waited {SECONDS} seconds in vain for {what}")
-        heartbeat = GLib.timeout_add(20, lambda: True)  # so that the wait for events ends now and then
+        heartbeat = GLib.timeout_add(100, lambda: True)  # so that the wait for events ends now and then
         context.iteration(True)
         GLib.source_remove(heartbeat)
 

@@ -1,7 +1,8 @@
+#include "desktop/Held_Window_Manager.h"
 #include "platform/Interface_Thread.h"
 #include "platform/Waiting.h"
 #include "support/User.h"
-#include "toolkit/Asked_For_Focus.h"
+#include "toolkit/X_Server_Focus.h"
 
 #include <QApplication>
 #include <QProcess>
@@ -54,8 +55,10 @@ QString Desktop::Start()
     m_manager.start("openbox", {"--sm-disable", "--startup", "echo ready"});
     for (;;) { // it may have something to say about its menus before
         const QString line = Next_Line(m_manager);
-        if (line == "ready")
+        if (line == "ready") {
+            Held_Window_Manager::process = static_cast<pid_t>(m_manager.processId());
             return {};
+        }
         if (line.isEmpty())
             return QStringLiteral("openbox did not start: ") + m_manager.errorString();
     }
@@ -89,7 +92,7 @@ int main(int argument_count, char** arguments)
     }
     QApplication application(argument_count, arguments);
     QApplication::setQuitOnLastWindowClosed(false);
-    Pass_Over_Asked_For_Focus(); // as the program does at its start
+    Mend_X_Server_Focus(); // as the program does at its start
     Fail_On_Boxes_Without_A_User();
     const int result = RUN_ALL_TESTS();
     Begin_Program_Exit();

@@ -1,3 +1,5 @@
+#include "desktop/Held_Window_Manager.h"
+#include "desktop/Other_Program.h"
 #include "support/Serve_Until.h"
 #include "support/User.h"
 #include "support/Window_For_Tests.h"
@@ -14,7 +16,9 @@
 #include <QTest>
 #include <QThread>
 #include <QVBoxLayout>
+#include <functional>
 #include <gtest/gtest.h>
+#include <thread>
 
 namespace {
 
@@ -37,6 +41,7 @@ protected:
         (new QVBoxLayout(&m_dialog))->addWidget(m_field);
         m_dialog.resize(500, 300);
         m_dialog.show();
+        m_below->show();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&m_dialog));
     }
     ~Active_Window() override { End_Shared_Instances(); }
@@ -56,7 +61,22 @@ protected:
                << "the active window is " << (active ? active->objectName().toStdString() : "none");
     }
 
+    /// Both have gone, and what happens meanwhile has happened, before the window manager comes to anything.
+    void End_Sheet_And_Dialog(const std::function<void()>& meanwhile)
+    {
+        PleaseWait_Modeless sheet;
+        ASSERT_TRUE(Is_Active_Again(m_dialog));
+        sheet.Begin_Sheet(&m_dialog);
+        ASSERT_TRUE(Serve_Until([&] { return sheet.isActiveWindow(); }));
+        const Held_Window_Manager held;
+        sheet.End_Sheet();
+        m_dialog.hide();
+        sheet.setParent(nullptr);
+        meanwhile();
+    }
+
     Window_For_Tests m_window;
+    QLineEdit* m_below = new QLineEdit(&m_window);
     QDialog m_dialog;
     QLineEdit* m_field = new QLineEdit;
 };
@@ -73,6 +93,26 @@ TEST_F(Active_Window, Comes_Back_After_A_Sheet_Of_Any_Length)
         }
     }
     sheet.setParent(nullptr);
+}
+
+// The window manager would give the keyboard to the dialog, which has gone as well before it comes to that.
+TEST_F(Active_Window, Is_The_One_Below_When_A_Sheet_And_Its_Dialog_End_At_Once)
+{
+    for (int opening = 0; opening < Openings(); ++opening) {
+        End_Sheet_And_Dialog([&] { QTest::qWait(opening); }); // milliseconds
+        ASSERT_TRUE(Is_Active_Again(m_window)) << "opening " << opening;
+        m_dialog.show();
+    }
+}
+
+TEST_F(Active_Window, Is_Left_To_Another_Program)
+{
+    Other_Program other;
+    End_Sheet_And_Dialog([&] { other.Show_Window(); });
+    while (!other.Has_The_Keyboard()) // before this program has time for anything
+        std::this_thread::yield();
+    QTest::qWait(500); // milliseconds, more than twice what a window manager is given
+    EXPECT_TRUE(other.Has_The_Keyboard());
 }
 
 TEST_F(Active_Window, Comes_Back_After_A_Box)
@@ -109,9 +149,7 @@ TEST_F(Active_Window, Comes_Back_After_The_Progress_Window)
     m_dialog.hide();
     ASSERT_TRUE(Serve_Until([&] { return m_window.isActiveWindow(); }));
     auto& progress = *Send_Modeless::defaultInstance();
-    QLineEdit field(&m_window);
-    field.show();
-    field.setFocus();
+    m_below->setFocus();
     for (int opening = 0; opening < Openings(); ++opening) {
         progress.Begin_Preparing(1);
         progress.Begin_Sending();
