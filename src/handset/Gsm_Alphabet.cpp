@@ -43,9 +43,9 @@ using Places = std::array<std::optional<Gsm_Place>, 0x400>;
 Places Make_Places()
 {
     Places places;
-    for (std::uint8_t code = 0; code < Gsm_Default_Table.size(); ++code) {
+    for (std::size_t code = 0; code < Gsm_Default_Table.size(); ++code) {
         if (code != Gsm_Escape) // whose row stands empty, as a zero
-            places.at(Gsm_Default_Table[code]) = Gsm_Place{code, false};
+            places.at(Gsm_Default_Table[code]) = Gsm_Place{static_cast<std::uint8_t>(code), false};
     }
     for (const auto& row : Gsm_Extension_Table) {
         if (row.m_character < places.size())

@@ -36,9 +36,8 @@ QString Compared_Column_Name(QStringView name)
 {
     QString compared;
     for (const QChar character : name)
-        if (!character.isSpace() && character.category() != QChar::Other_Format && character.isPrint())
-            compared += character;
-        else if (character.isSurrogate())
+        if (character.isSurrogate() ||
+            (!character.isSpace() && character.category() != QChar::Other_Format && character.isPrint()))
             compared += character;
     return compared.normalized(QString::NormalizationForm_C).toCaseFolded();
 }

@@ -183,7 +183,6 @@ Message_Filling::Message_Filling(const QString& message, const Contact_Table& ta
         const qsizetype open = message.indexOf(Opening, at);
         const qsizetype end = open < 0 ? message.size() : open;
         Add_Literal(QStringView(message).mid(at, end - at));
-        at = end;
         if (open < 0)
             break;
         const QStringView rest = QStringView(message).mid(open + Mark);

@@ -78,7 +78,7 @@ bool Xlsx_Workbook::Read_Sheets()
         const Relation relation = relations.value(Bytes(xml.Attribute("id")));
         if (relation.type != "worksheet")
             return;
-        const bool is_hidden = xml.Attribute("state").size() > 0 && xml.Attribute("state") != "visible";
+        const bool is_hidden = !xml.Attribute("state").empty() && xml.Attribute("state") != "visible";
         m_sheets.push_back({QString::fromUtf8(Bytes(xml.Attribute("name"))), is_hidden});
         m_paths.push_back(relation.path);
     });

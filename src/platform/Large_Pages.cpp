@@ -12,9 +12,9 @@ constexpr std::uintptr_t Large_Page = std::uintptr_t{2} << 20;
 // Only whole ones: no neighbour of the stretch gets more memory for it.
 void Prefer_Large_Pages(const void* begin, std::size_t bytes)
 {
-    const auto address = reinterpret_cast<std::uintptr_t>(begin);
-    const std::uintptr_t first = (address + Large_Page - 1) / Large_Page * Large_Page;
-    const std::uintptr_t end = (address + bytes) / Large_Page * Large_Page;
-    if (first < end)
-        madvise(reinterpret_cast<void*>(first), end - first, MADV_HUGEPAGE);
+    const std::size_t before = (Large_Page - reinterpret_cast<std::uintptr_t>(begin) % Large_Page) % Large_Page;
+    if (bytes < before + Large_Page)
+        return;
+    auto* first = static_cast<char*>(const_cast<void*>(begin)) + before;
+    madvise(first, (bytes - before) / Large_Page * Large_Page, MADV_HUGEPAGE);
 }

@@ -99,10 +99,12 @@ std::optional<qint64> Job_Line::Seconds_Of(QByteArrayView field)
         if (Pattern[at] != '0' && field[at] != Pattern[at])
             return std::nullopt;
     }
-    const int parts[] = {Two_Digits(field, 0),  Two_Digits(field, 2),  Two_Digits(field, 5), Two_Digits(field, 8),
-                         Two_Digits(field, 11), Two_Digits(field, 14), Two_Digits(field, 17)};
-    const auto [century, year, month, day, hour, minute, second] = parts;
-    const QDate date(100 * century + year, month, day);
+    const int century = Two_Digits(field, 0);
+    const int year = Two_Digits(field, 2);
+    const QDate date(100 * century + year, Two_Digits(field, 5), Two_Digits(field, 8));
+    const int hour = Two_Digits(field, 11);
+    const int minute = Two_Digits(field, 14);
+    const int second = Two_Digits(field, 17);
     if (century < 0 || year < 0 || !date.isValid() || !QTime::isValid(hour, minute, second))
         return std::nullopt;
     const qint64 seconds = (date.toJulianDay() - First_Day) * Seconds_In_A_Day + (hour * 60 + minute) * 60 + second;

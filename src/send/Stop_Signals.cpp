@@ -44,7 +44,7 @@ Stop_Signals::~Stop_Signals()
     if (!m_thread.joinable())
         return;
     m_is_ending = true;
-    pthread_kill(m_thread.native_handle(), SIGTERM);
+    pthread_kill(m_thread.native_handle(), SIGTERM); // NOLINT: the thread reads it, and ends by itself
     m_thread.join();
 }
 

@@ -165,7 +165,7 @@ void Draw_Label(const QStyleOptionButton& option, QPainter& painter, const QWidg
     const bool shows_keys = !widget || widget->style()->styleHint(QStyle::SH_UnderlineShortcut, &option, widget);
     const int place = icon.isEmpty() ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter;
     painter.drawText(places.words,
-                     static_cast<int>(QStyle::visualAlignment(option.direction, Qt::Alignment(place))) |
+                     static_cast<int>(QStyle::visualAlignment(option.direction, Qt::Alignment(place)).toInt()) |
                          (shows_keys ? Qt::TextShowMnemonic : Qt::TextHideMnemonic),
                      option.text);
     painter.restore();

@@ -3,6 +3,7 @@
 #include "plan/Time_Words.h"
 
 #include <array>
+#include <limits>
 
 namespace {
 
@@ -56,7 +57,8 @@ QString Plan_Words::Sums(const Plan_Sums& sums, double seconds, const QDateTime&
 {
     QString words = sums.send == 1 ? tr("1 message to be sent") : tr("%n messages to be sent", nullptr, sums.send);
     if (sums.send > 0) {
-        const QString parts = sums.parts == 1 ? tr("1 part") : tr("%n parts", nullptr, sums.parts);
+        const int count = static_cast<int>(qMin<qint64>(sums.parts, std::numeric_limits<int>::max()));
+        const QString parts = count == 1 ? tr("1 part") : tr("%n parts", nullptr, count);
         words = tr("%1, %2, %3, %4").arg(words, parts, Time_Words::About(seconds), Time_Words::Until(seconds, now));
     }
     QStringList reasons;

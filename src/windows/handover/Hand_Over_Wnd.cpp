@@ -103,7 +103,7 @@ Hand_Over_Wnd::~Hand_Over_Wnd()
     m_work->has_ended.acquire();
 }
 
-void Hand_Over_Wnd::Open()
+void Hand_Over_Wnd::Bring_Up()
 {
     Show_Notice_Choice();
     show();

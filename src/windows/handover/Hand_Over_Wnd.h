@@ -41,7 +41,7 @@ public:
     ~Hand_Over_Wnd() override;
 
     /// Shows the window, or brings it to the front.
-    void Open();
+    void Bring_Up();
 
     /// Asks for a folder and writes the messages there, or stops that while it is going on.
     void Hand_Over_Btn();

@@ -114,7 +114,7 @@ void Receipt_Wnd::Show_Record(const Job_Record& record)
 {
     ++m_list_turn;
     m_kept->hide();
-    Open();
+    Bring_Up();
     Read_Record(record);
 }
 
@@ -133,11 +133,11 @@ void Receipt_Wnd::Read_Record(const Job_Record& record)
 void Receipt_Wnd::Show_Kept(const QString& folder, const QString& chosen_path)
 {
     m_folder = folder;
-    Open();
+    Bring_Up();
     Load_Kept(chosen_path);
 }
 
-void Receipt_Wnd::Open()
+void Receipt_Wnd::Bring_Up()
 {
     show();
     raise();

@@ -52,7 +52,7 @@ private:
 
     void Set_Up_Table();
     void Set_Up_Exports();
-    void Open();
+    void Bring_Up();
     void Read_Record(const Job_Record& record);
     void Read(std::function<Reading()> read);
     void Read_Journal(const QString& path);

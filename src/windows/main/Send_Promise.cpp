@@ -202,7 +202,7 @@ void Send_Promise::Other_Ways()
             Show();
         });
     }
-    m_other_ways->Open();
+    m_other_ways->Bring_Up();
     if (m_is_notice_shown) {
         m_wants_notice = false;
         Show();

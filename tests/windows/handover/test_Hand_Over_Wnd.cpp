@@ -20,7 +20,7 @@ protected:
         m_order.recipients.Append(QStringLiteral("0170"), QString::fromUtf8("\xD0\xB6"));
         m_order.recipients.Append(QStringLiteral("0171"), "");
         m_order.choices.confirm.confirms = true;
-        m_window.Open();
+        m_window.Bring_Up();
     }
     ~Hand_Over_Wnd_Test() override { Finish_Workers(); }
 
@@ -113,7 +113,7 @@ TEST_F(Hand_Over_Wnd_Test, Ends_While_It_Writes)
                 return Hand_Over_Wnd::Plan{m_order, Manner_Of(m_order.choices)};
             },
             Program_Settings(Settings_Path));
-        window.Open();
+        window.Bring_Up();
         Will_Enter_Path(m_user, folder.path());
         Click_In(window, "Hand_Over_Btn");
     }
@@ -129,7 +129,7 @@ TEST_F(Hand_Over_Wnd_Test, Remembers_That_The_Notice_Is_Not_Wanted_Until_It_Is)
     EXPECT_FALSE(box.isChecked());
     box.click();
     EXPECT_FALSE(Program_Settings(Settings_Path).Wants_Notice(Hand_Over_Wnd::Notice));
-    m_window.Open();
+    m_window.Bring_Up();
     EXPECT_TRUE(box.isChecked());
     box.click();
     EXPECT_TRUE(Program_Settings(Settings_Path).Wants_Notice(Hand_Over_Wnd::Notice));
