@@ -12,6 +12,7 @@
 #include <QDBusMetaType>
 #include <QDBusObjectPath>
 #include <QDBusVirtualObject>
+#include <QRegularExpression>
 #include <gmock/gmock.h>
 
 // What ModemManager says about a port: its name and kind.

@@ -449,7 +449,7 @@ Conversation Conversation::Numbered(unsigned number)
     talk.is_text_mode = roll(3) == 0;
     talk.has_no_prompt = roll(25) == 0;
     talk.manner = roll(std::size(Ways));
-    talk.rows.resize(static_cast<std::size_t>(3 + roll(3)));
+    talk.rows.resize(3 + static_cast<std::size_t>(roll(3)));
     talk.stop_after = roll(6) == 0 ? 1 + roll(3) : 0;
     const bool are_alike = roll(5) == 0;
     bool may_be_pulled = roll(4) == 0;

@@ -83,7 +83,7 @@ TEST_F(Menu, Keys_Press_The_Button_Whatever_Has_The_Focus)
     for (const char* focus : {"_numberEdit", "_messageEdit", "idTableView", "Reset_Btn"}) {
         for (const auto& [keys, opens] : windows) {
             bool has_opened = false;
-            user.Will_Do([&](QDialog* window) {
+            user.Will_Do([&, opens = opens](QDialog* window) {
                 has_opened = window->inherits(opens == QByteArray("File_Panel") ? "QFileDialog" : opens);
                 window->reject();
             });

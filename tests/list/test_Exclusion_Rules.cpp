@@ -42,7 +42,7 @@ TEST(Exclusion_Rules, Half_Of_A_Character_Is_Named_As_It_Comes_Back_From_Its_Fil
 
 TEST(Exclusion_Rules, A_Mark_At_The_Front_Of_A_Name_Goes_As_It_Does_When_Its_File_Is_Read)
 {
-    const QString mark(QChar(QChar::ByteOrderMark));
+    const QString mark{QChar(QChar::ByteOrderMark)};
     EXPECT_EQ(List_Name(mark + "Staff"), "Staff");
     EXPECT_EQ(List_Name(" " + mark + " " + mark + "Sta" + mark + "ff "), "Sta" + mark + "ff");
     EXPECT_EQ(List_Name(mark), "");

@@ -1,3 +1,4 @@
+#include <QStringList>
 #include <thread>
 
 #include "Pdu_Test.h"

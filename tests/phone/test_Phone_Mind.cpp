@@ -103,10 +103,10 @@ TEST(Phone_Mind, What_A_Command_Sets_The_Query_Shows)
     const std::vector<std::pair<std::string, std::string>> settings = {
         {"+CMGF", "1"}, {"+CMMS", "2"}, {"+CSCA", "\"0155\",129"}, {"+CSMP", "17,255,0,24"}, {"+CSCS", "\"8859-1\""}};
     for (const auto& [name, value] : settings)
-        EXPECT_EQ(talk.Asks("AT" + name + "=" + value), Ok) << name;
+        EXPECT_EQ(talk.Asks("AT" + std::string(name).append("=").append(value)), Ok) << name;
     EXPECT_EQ(talk.Asks("AT+CSMS=1"), With_Ok("+CSMS: 1,1,1"));
     for (const auto& [name, value] : settings)
-        EXPECT_EQ(talk.Asks("AT" + name + "?"), With_Ok(name + ": " + value));
+        EXPECT_EQ(talk.Asks("AT" + name + "?"), With_Ok(std::string(name).append(": ").append(value)));
     EXPECT_EQ(talk.Asks("AT+CSMS?"), With_Ok("+CSMS: 1,1,1,1"));
     EXPECT_EQ(talk.Asks("ATZ"), Ok);
     EXPECT_EQ(talk.Asks("AT+CMGF?"), With_Ok("+CMGF: 0"));

@@ -96,7 +96,7 @@ TEST(Virtual_Phone, Silence_Ends_With_The_First_Byte)
     EXPECT_FALSE(phone.Is_Silent(1)) << "nobody has asked yet what it was";
     EXPECT_EQ(phone.Heard_Bytes(), "A");
     EXPECT_TRUE(phone.Is_Silent(1));
-    std::thread writer([&] { peer.Says("T"); });
+    std::thread writer([&peer = peer] { peer.Says("T"); });
     EXPECT_FALSE(phone.Is_Silent(10'000));
     writer.join();
 }
@@ -108,7 +108,7 @@ TEST(Virtual_Phone, Listeners_Are_Told_Every_Part_And_Message_Even_At_The_End)
         Virtual_Phone phone;
         phone.Set_Listeners({[&](const Handset_Part& part) { told.push_back("part " + part.m_text); },
                              [&](const Handset_Message& message) { told.push_back("message " + message.m_text); },
-                             [&] { told.push_back("hang-up"); }});
+                             [&] { told.emplace_back("hang-up"); }});
         Line_Peer peer(phone.Path());
         EXPECT_TRUE(peer.Says("AT+CMGS=19\r" + Hello + "\x1A" + "AT+CMGS=19\r" + Hello + "\x1A"));
     }
@@ -182,7 +182,9 @@ TEST(Virtual_Phone, Knows_Whether_Anybody_Has_Its_Line_Open_And_Costs_Nothing_Wh
         phone.Hang_Up();
         EXPECT_FALSE(phone.Somebody_Is_There());
     }
-    Line_Peer(phone.Plug_In_Again());
+    {
+        const Line_Peer returned(phone.Plug_In_Again());
+    }
     EXPECT_FALSE(phone.Somebody_Is_There());
     const auto before = Processor_Time();
     std::this_thread::sleep_for(300ms);
@@ -195,7 +197,7 @@ TEST(Virtual_Phone, Many_Threads_May_Ask_At_Once)
     std::atomic<bool> is_over = false;
     std::vector<std::thread> askers;
     for (int i = 0; i < 3; ++i)
-        askers.emplace_back([&] {
+        askers.emplace_back([&is_over, &phone = phone] {
             while (!is_over) {
                 phone.Heard();
                 phone.Inbox();

@@ -122,7 +122,7 @@ int __wrap_open(const char* name, int flags, ...)
 {
     va_list more;
     va_start(more, flags);
-    const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(more, mode_t) : 0;
+    const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(more, mode_t) : 0; // NOLINT: va_start has just been called
     va_end(more);
     const auto make = [&] { return __real_open(name, flags, mode); };
     return static_cast<int>(File_Calls::Make("open", make, true));

@@ -19,6 +19,7 @@ inline const QByteArray Sample_List = "L1\t20261121-101500-3f9a\n"
                                       "Z\t4\t4\n";
 
 inline const QByteArrayList Sample_Lines = {
+    // NOLINTNEXTLINE(bugprone-suspicious-missing-comma): the first line of the journal is a long one
     "J1 20261121-101500-3f9a 2026-11-21T09:15:00Z 234150000000001 /dev/ttyUSB0 4 4 "
     "80f696860828ac4b90e12133d0809d931194a2cef7660a9e23722420a29bc152 f7e94d76\n",
     "H 1 1 1 2026-11-21T09:15:01Z 803fabd9\n",

@@ -84,7 +84,7 @@ TEST_F(Job_Crashes, A_Job_Is_On_The_Disk_Before_It_Begins)
                                      "open",   "fchmod",    "write", "fsync", "close", // the list
                                      "write",  "fallocate", "fsync",                   // the journal's header
                                      "rename", "open",      "fsync", "close"};         // both names
-    QByteArrayList made = calls.Made();
+    const QByteArrayList& made = calls.Made();
     EXPECT_EQ(made.mid(made.size() - expected.size()).join(' '), expected.join(' '));
 }
 

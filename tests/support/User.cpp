@@ -211,7 +211,7 @@ void User::When_Opens(const QString& object_name, std::function<void(QWidget&)> 
 
 void User::Will_Do(const std::function<void(QDialog*)>& handle)
 {
-    m_eyes->m_dialogs.push_back([handle](QWidget& dialog) { handle(static_cast<QDialog*>(&dialog)); });
+    m_eyes->m_dialogs.emplace_back([handle](QWidget& dialog) { handle(static_cast<QDialog*>(&dialog)); });
 }
 
 QStringList User::Was_Shown() const

@@ -151,7 +151,7 @@ TEST_F(Program_Style_Test, What_Is_First_Stands_Last_In_A_Box)
         [](QMessageBox& box) {
             const auto buttons = box.buttons();
             ASSERT_EQ(buttons.size(), 2);
-            const int yes = buttons.indexOf(box.defaultButton());
+            const qsizetype yes = buttons.indexOf(box.defaultButton());
             EXPECT_GT(buttons.at(yes)->x(), buttons.at(1 - yes)->x());
             box.defaultButton()->click();
         },
