@@ -163,9 +163,9 @@ void Draw_Label(const QStyleOptionButton& option, QPainter& painter, const QWidg
         Draw_Angle(painter, QStyle::visualRect(option.direction, option.rect, angle), colour);
     }
     const bool shows_keys = !widget || widget->style()->styleHint(QStyle::SH_UnderlineShortcut, &option, widget);
-    const int place = icon.isEmpty() ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter;
+    const Qt::Alignment place = icon.isEmpty() ? Qt::Alignment(Qt::AlignCenter) : Qt::AlignLeft | Qt::AlignVCenter;
     painter.drawText(places.words,
-                     static_cast<int>(QStyle::visualAlignment(option.direction, Qt::Alignment(place)).toInt()) |
+                     static_cast<int>(QStyle::visualAlignment(option.direction, place).toInt()) |
                          (shows_keys ? Qt::TextShowMnemonic : Qt::TextHideMnemonic),
                      option.text);
     painter.restore();
